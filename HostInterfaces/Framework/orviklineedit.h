@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Framework/frameworkglobal.h"
+
+#include <QDir>
+#include <QFont>
+#include <QPoint>
+#include <QScopedPointer>
+#include <QString>
+#include <QWidget>
+
+class OrvikLineEditPrivate;
+
+/// A numeric entry field. A touch opens the on-screen keypad; a hardware keyboard works too. Text is in the C locale.
+class FRAMEWORK_EXPORT OrvikLineEdit : public QWidget {
+    Q_OBJECT
+
+public:
+    OrvikLineEdit(int id, const QDir &imageDir, const QPoint &position, QWidget *parent);
+    ~OrvikLineEdit() override;
+
+    int id() const;
+    /// At most so many digits before and after the decimal point; negative numbers are refused.
+    void setNumericSizeLimits(unsigned int integerDigits, unsigned int decimals);
+    /// Values from `minimum` to `maximum` with at most so many decimals.
+    void setNumericRange(double minimum, double maximum, unsigned int decimals);
+    void setTextFont(const QFont &font);
+    /// Shows `text`, whatever the limits are; reports nothing.
+    void setText(const QString &text);
+    QString getText() const;
+
+Q_SIGNALS:
+    /// The operator changed the text; comes at every keystroke.
+    void textChanged(int id);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    QScopedPointer<OrvikLineEditPrivate> d;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Framework/rxpolygon.h"
+
+#include <QList>
+#include <QMetaType>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+/// What to load, and for whom.
+struct LoadRequest {
+    /// A Shapefile, GeoPackage or GeoJSON file.
+    QString path;
+    /// Rate columns; entry i feeds rateCalNames[i]. An empty entry leaves that product out. An empty list lets the
+    /// back-end choose the most likely columns, at most one per rateCalNames entry.
+    QStringList columns;
+    /// Product-group names in product order.
+    QStringList rateCalNames;
+    /// Names for the entries of "settings", one per product of the machine, in product order.
+    QStringList productNames;
+    /// Default rates of rateCalNames' products, base units; missing ones are 0.
+    QList<double> defaultRates;
+};
+
+/// What came of a load.
+struct LoadReport {
+    /// One line that names the file and the reason; empty on success.
+    QString error;
+    QString path;
+    /// Name of the published group, "rxMap.<file name>".
+    QString group;
+    int polygons = 0; ///< Records of the chain.
+    int outers = 0;
+    int holes = 0;
+    /// The columns in mapping order.
+    QStringList columns;
+    /// One legend per column.
+    QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
+    /// Rings that had to be repaired.
+    int repaired = 0;
+    /// Records left out: empty geometry, or no rate in any column.
+    int skipped = 0;
+    /// One line each, file named.
+    QStringList warnings;
+    /// Extent in the local plane, metres: left = least x, top = least y.
+    QRectF bounds;
+
+    bool isOk() const { return error.isEmpty(); }
+};
+
+Q_DECLARE_METATYPE(LoadReport)

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Backend/loadreport.h"
+
+#include "bePluginRxMap/bepluginrxmapglobal.h"
+
+#include <QObject>
+#include <QScopedPointer>
+
+class DataBroker;
+class PrescriptionBackendPrivate;
+class RxMapLoader;
+
+/// Loads prescription files and keeps them published. Loading runs off the user-interface thread; everything is
+/// published on it. A file that is loaded again replaces its own group's content; one that cannot be loaded changes
+/// nothing. A product follows one map at a time: the map loaded last takes over the product, and gives it back to the
+/// map that had it when it is unloaded.
+class BEPLUGINRXMAP_EXPORT PrescriptionBackend : public QObject {
+    Q_OBJECT
+
+public:
+    /// `broker` is not owned and outlives the back-end.
+    explicit PrescriptionBackend(DataBroker *broker, QObject *parent = nullptr);
+    /// Cancels what is loading and unloads every map.
+    ~PrescriptionBackend() override;
+
+    /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
+    void load(const LoadRequest &request);
+    /// Loads and waits, with the event loop running.
+    LoadReport loadAndWait(const LoadRequest &request);
+    /// Cancels the load in progress and those waiting; each finishes with an error that says so.
+    void cancel();
+    bool isLoading() const;
+
+    /// False when there is no such group.
+    bool unload(const QString &group);
+    /// Reports of the published maps, oldest first.
+    QList<LoadReport> maps() const;
+    /// The loader of a product (index from 0), made on first use; owned by the back-end.
+    RxMapLoader *loader(int product);
+
+Q_SIGNALS:
+    /// `fraction` runs from 0 to 1 within one load.
+    void progress(const QString &path, double fraction);
+    void finished(const LoadReport &report);
+    /// The set of published maps, or what feeds which product, changed.
+    void mapsChanged();
+
+private:
+    QScopedPointer<PrescriptionBackendPrivate> d;
+};

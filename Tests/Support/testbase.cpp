@@ -1,0 +1,30 @@
+#include "testbase.h"
+
+#include <QDir>
+
+void TestBase::init()
+{
+    watch.reset();
+    watch.reset(new MessageWatch);
+}
+
+void TestBase::cleanup()
+{
+    if (!watch)
+        return;
+    const QStringList complaints = watch->complaints();
+    watch.reset();
+    if (!complaints.isEmpty())
+        QFAIL(qPrintable(complaints.join(QLatin1Char('\n'))));
+}
+
+MessageWatch &TestBase::messages()
+{
+    return *watch;
+}
+
+QString TestBase::realData(const QString &relativePath)
+{
+    const QDir folder(QStringLiteral(RXMAP_TEST_DATA));
+    return folder.exists() ? QDir::cleanPath(folder.filePath(relativePath)) : QString();
+}
