@@ -2,7 +2,7 @@
 
 add_library(rxmap_compile_options INTERFACE)
 target_compile_options(rxmap_compile_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor $<$<BOOL:${RXMAP_WERROR}>:-Werror>)
+    -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor $<$<BOOL:${RXMAP_WERROR}>:-Werror>)
 target_compile_definitions(rxmap_compile_options INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS
     QT_DISABLE_DEPRECATED_BEFORE=0x050900)

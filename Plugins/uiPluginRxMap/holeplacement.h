@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Framework/rxpolygon.h"
+
+#include <QVector>
+
+/// Decides which outer ring each hole is cut from: the first one, in the order given, that is more than 10 m² larger
+/// and has every vertex of the hole inside (the hole's coordinates narrowed to float). A hole without vertices, or
+/// inside no outer ring, is placed nowhere. The rings are not owned and may not change meanwhile.
+///
+/// Comparing each hole with each outer ring would cost minutes on maps with tens of thousands of rings; boxes and
+/// bands leave out only comparisons that must fail.
+class HolePlacement {
+public:
+    HolePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers, const QVector<OrvikTypes::RX_POLYGON *> &holes);
+
+    /// The holes of an outer ring, in the order given: the first one, the one that follows; -1 ends the list.
+    int firstHole(int outer) const { return first.at(outer); }
+    int nextHole(int hole) const { return next.at(hole); }
+    bool isPlaced(int hole) const { return placed.at(hole); }
+
+private:
+    QVector<int> first;
+    QVector<int> next;
+    QVector<bool> placed;
+};

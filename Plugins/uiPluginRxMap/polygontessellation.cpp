@@ -1,0 +1,67 @@
+#include "polygontessellation.h"
+
+#include "ringtest.h"
+#include "tesscallbacks.h"
+
+#include <GL/glu.h>
+#include <cmath>
+
+namespace {
+
+template <typename Callback> void registerCallback(GLUtesselator *tessellator, GLenum which, Callback callback)
+{
+    gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
+}
+
+} // namespace
+
+PolygonTessellation::PolygonTessellation(GLUtesselator *tessellator, QVector<Vertex> &triangles)
+    : tessellator(tessellator)
+    , triangles(triangles)
+{
+}
+
+void PolygonTessellation::registerCallbacks(GLUtesselator *tessellator)
+{
+    registerCallback(tessellator, GLU_TESS_BEGIN, tessBeginCB);
+    registerCallback(tessellator, GLU_TESS_VERTEX, tessVertexCB);
+    registerCallback(tessellator, GLU_TESS_EDGE_FLAG, tessEdgeCB);
+    registerCallback(tessellator, GLU_TESS_COMBINE, tessCombineCB);
+    registerCallback(tessellator, GLU_TESS_END, tessEndCB);
+}
+
+void PolygonTessellation::beginPolygon(const QColor &color)
+{
+    gluTessBeginPolygon(tessellator, nullptr);
+    color.getRgbF(&red, &green, &blue, &alpha);
+}
+
+void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
+{
+    gluTessBeginContour(tessellator);
+    for (int i = 0; i < vertexCount(ring); ++i) {
+        const OrvikTypes::RX_POLYGONVERTEX &from = ring.vertices[i];
+        // The tessellator crashes on NaN.
+        if (std::isnan(from.x) || std::isnan(from.y))
+            continue;
+        // Half the alpha is meant: the ground shows through every polygon.
+        auto *vertex = new RXVERT{from.x, static_cast<double>(mapHeight), -from.y, red, green, blue, 0.5 * alpha};
+        const auto position = static_cast<quintptr>(coordList.size());
+        coordList.append(vertex);
+        gluTessVertex(tessellator, &vertex->x, reinterpret_cast<void *>(position));
+    }
+    gluTessEndContour(tessellator);
+}
+
+void PolygonTessellation::endPolygon()
+{
+    gluTessEndPolygon(tessellator);
+    // Taking each triangle backwards reverses its winding; that is meant.
+    static constexpr int reversed[] = {2, 0, -2};
+    const int whole = vList.size() - vList.size() % 3;
+    for (int i = 0; i < whole; ++i)
+        triangles.append(vList.at(i + reversed[i % 3]));
+    vList.resize(0);
+    qDeleteAll(coordList);
+    coordList.resize(0);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Framework/rxpolygon.h"
+
+#include <QColor>
+#include <QVector>
+
+struct Vertex;
+class GLUtesselator;
+
+/// Height at which the map lies in the view, metres; also its place among the host's drawables. The two are meant to be
+/// the same number.
+constexpr float mapHeight = -4.99F;
+
+/// Tessellates one polygon after the other with one GLU tessellator and appends their triangles to a bank.
+/// Of a tessellator no property and no normal is set: winding rule odd, normal computed.
+class PolygonTessellation {
+public:
+    /// Registers the callbacks with `tessellator`.
+    static void registerCallbacks(GLUtesselator *tessellator);
+
+    /// Neither argument is owned; both outlive this object.
+    PolygonTessellation(GLUtesselator *tessellator, QVector<Vertex> &triangles);
+
+    /// Starts a polygon; all its contours get `color` at half its alpha.
+    void beginPolygon(const QColor &color);
+    void addContour(const OrvikTypes::RX_POLYGON &ring);
+    /// Tessellates and appends the triangles, each with its winding reversed.
+    void endPolygon();
+
+private:
+    Q_DISABLE_COPY(PolygonTessellation)
+
+    GLUtesselator *tessellator;
+    QVector<Vertex> &triangles;
+    qreal red = 0.0;
+    qreal green = 0.0;
+    qreal blue = 0.0;
+    qreal alpha = 0.0;
+};

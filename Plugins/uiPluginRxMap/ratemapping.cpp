@@ -1,0 +1,10 @@
+#include "ratemapping.h"
+
+int findMapping(const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> &mappings, const QString &rateCalName)
+{
+    for (int i = 0; i < mappings.size(); ++i) {
+        if (mappings.at(i).rateCalName == rateCalName)
+            return i;
+    }
+    return -1;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Framework/rxpolygon.h"
+
+/// Vertices of a ring; a ring without a vertex array has none.
+inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
+{
+    return ring.vertices == nullptr ? 0 : static_cast<int>(ring.vertexCount);
+}
+
+/// Whether the edge between the ring vertices `j` and `i` toggles the even-odd test of the point (x, y): it spans y
+/// (lower end included, upper end not, so horizontal edges never count) and crosses that height right of x.
+/// The one place that decides it, since every way of testing must agree to the last bit.
+inline bool edgeToggles(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double x,
+                        double y)
+{
+    const bool spans = (i.y <= y && y < j.y) || (j.y <= y && y < i.y);
+    return spans && (j.x - i.x) * (y - i.y) / (j.y - i.y) + i.x > x;
+}
+
+/// Even-odd test against all edges of a ring; false for an empty ring.
+inline bool isInsideRing(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count, double x, double y)
+{
+    bool inside = false;
+    for (int i = 0, j = count - 1; i < count; j = i++) {
+        if (edgeToggles(vertices[j], vertices[i], x, y))
+            inside = !inside;
+    }
+    return inside;
+}

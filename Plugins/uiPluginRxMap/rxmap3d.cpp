@@ -1,0 +1,214 @@
+#include "rxmap3d.h"
+
+#include "groupvalue.h"
+#include "holeplacement.h"
+#include "polygontessellation.h"
+#include "ratemapping.h"
+#include "ringtest.h"
+
+#include "Framework/databroker.h"
+#include "Framework/dbgroupaam.h"
+#include "Framework/orvikdebugclass.h"
+
+#include <QOpenGLShader>
+#include <QOpenGLShaderProgram>
+
+#include <GL/glu.h>
+#include <cstddef>
+#include <iostream>
+#include <string>
+#include <syslog.h>
+
+using OrvikTypes::RX_POLYGON;
+using OrvikTypes::RX_RATECOLOR;
+using Mappings = QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>;
+using Legends = QList<QList<RX_RATECOLOR>>;
+
+RxMap3D::RxMap3D(DataBroker *broker, QObject *parent)
+    : QObject(parent)
+    , broker(broker)
+{
+    updateRxMapGroup();
+}
+
+RxMap3D::~RxMap3D() = default;
+
+float RxMap3D::drawingOrder() const
+{
+    return mapHeight;
+}
+
+void RxMap3D::setAamGroup(DbGroupAAM *group)
+{
+    aamGroup = group;
+    if (isInitialized())
+        updateRxMapGroup();
+}
+
+void RxMap3D::updateRxMapGroup()
+{
+    setDbGroup(aamGroup == nullptr ? nullptr : findRxMapGroup());
+}
+
+DataBrokerGroup *RxMap3D::findRxMapGroup() const
+{
+    const QStringList names = broker->findGroup(QStringLiteral("rxMap.*"), true, false);
+    for (const QString &name : names) {
+        DataBrokerGroup *group = broker->getGroup(name, false);
+        if (group == nullptr)
+            continue;
+        if (findMapping(groupValue<Mappings>(*group, "rateCalMappings"), aamGroup->productGroupName()) >= 0)
+            return group;
+    }
+    return nullptr;
+}
+
+void RxMap3D::setDbGroup(DataBrokerGroup *group)
+{
+    if (rxMapGroup != nullptr)
+        QObject::disconnect(rxMapGroup, nullptr, this, nullptr);
+    rxMapGroup = group;
+    if (rxMapGroup != nullptr)
+        rxMapGroup->connectPropertySetSlot("polygonCount", this, SLOT(updatePolygons()), Qt::UniqueConnection, true);
+    updatePolygons();
+}
+
+bool RxMap3D::isInsidePoly(OrvikTypes::RX_POLYGONVERTEX *vertices, int count, float x, float y)
+{
+    return isInsideRing(vertices, count, static_cast<double>(x), static_cast<double>(y));
+}
+
+VertexBank *RxMap3D::addVertexBank(QString name)
+{
+    VertexBank bank;
+    bank.name = name;
+    vertexBanks.append(bank);
+    return &vertexBanks.last();
+}
+
+void RxMap3D::updatePolygons()
+{
+    vertexBanks = QList<VertexBank>();
+    GLUtesselator *tessellator = gluNewTess();
+    if (tessellator == nullptr)
+        return;
+    // Meant to leave the tessellator behind: without a group or a product nothing is taken back.
+    if (rxMapGroup == nullptr || aamGroup == nullptr)
+        return;
+    PolygonTessellation::registerCallbacks(tessellator);
+
+    auto *chain = static_cast<RX_POLYGON *>(groupValue<void *>(*rxMapGroup, "polygonBuffer"));
+    const auto count = groupValue<unsigned int>(*rxMapGroup, "polygonCount");
+    const auto mappings = groupValue<Mappings>(*rxMapGroup, "rateCalMappings");
+    const int mappingIndex = findMapping(mappings, aamGroup->productGroupName());
+    const auto legends = groupValue<Legends>(*rxMapGroup, "rateColors");
+    if (mappingIndex >= 0 && mappingIndex < legends.size()) {
+        PolygonTessellation tessellation(tessellator, addVertexBank(QStringLiteral("RxMap3D_Verts"))->vertices);
+        tessellateChain(tessellation, chain, count, legends.at(mappingIndex), mappingIndex);
+    }
+    gluDeleteTess(tessellator);
+}
+
+void RxMap3D::tessellateChain(PolygonTessellation &tessellation, RX_POLYGON *chain, unsigned int count,
+                              const QList<RX_RATECOLOR> &legend, int mappingIndex)
+{
+    QVector<RX_POLYGON *> outers;
+    QVector<RX_POLYGON *> holes;
+    // A chain that ends early is taken as far as it goes.
+    for (RX_POLYGON *polygon = chain; polygon != nullptr && count > 0; polygon = polygon->next, --count)
+        (polygon->isHole ? holes : outers).append(polygon);
+
+    const HolePlacement placement(outers, holes);
+    for (int i = 0; i < outers.size(); ++i) {
+        RX_POLYGON &outer = *outers.at(i);
+        chooseColor(legend, outer, mappingIndex);
+        tessellation.beginPolygon(currentColor);
+        tessellation.addContour(outer);
+        for (int hole = placement.firstHole(i); hole >= 0; hole = placement.nextHole(hole))
+            tessellation.addContour(*holes.at(hole));
+        tessellation.endPolygon();
+        outer.drawIndex = i + 1;
+    }
+    for (int hole = 0; hole < holes.size(); ++hole) {
+        if (!placement.isPlaced(hole))
+            holes.at(hole)->drawIndex = -1;
+    }
+}
+
+void RxMap3D::chooseColor(const QList<RX_RATECOLOR> &legend, const RX_POLYGON &polygon, int mappingIndex)
+{
+    // Without a legend the colour of the polygon before, or of the build before, is meant to carry over.
+    if (legend.isEmpty() || polygon.rates == nullptr)
+        return;
+    const auto rate = static_cast<double>(polygon.rates[mappingIndex]);
+    for (const RX_RATECOLOR &entry : legend) {
+        if (entry.rate >= rate) {
+            currentColor = entry.color;
+            return;
+        }
+    }
+    currentColor = legend.constLast().color;
+}
+
+// The drawable counts as initialised once its OpenGL functions are.
+bool RxMap3D::isInitialized() const
+{
+    return QOpenGLFunctions::isInitialized(QOpenGLFunctions::d_ptr);
+}
+
+void RxMap3D::init()
+{
+    if (isInitialized() || QOpenGLContext::currentContext() == nullptr)
+        return;
+    initializeOpenGLFunctions();
+    auto *vertexShader = new QOpenGLShader(QOpenGLShader::Vertex, this);
+    auto *fragmentShader = new QOpenGLShader(QOpenGLShader::Fragment, this);
+    vertexShader->compileSourceFile(QStringLiteral(":/colorpoly_vert.glsl"));
+    fragmentShader->compileSourceFile(QStringLiteral(":/colorpoly_frag.glsl"));
+    shaderProgram().addShader(vertexShader);
+    shaderProgram().addShader(fragmentShader);
+    shaderProgram().link();
+}
+
+void RxMap3D::draw(QMatrix4x4 mvp)
+{
+    if (!isInitialized())
+        return;
+    QOpenGLShaderProgram &program = shaderProgram();
+    program.bind();
+    program.enableAttributeArray("a_position");
+    program.enableAttributeArray("color");
+    program.setUniformValueArray("u_mvp", &mvp, 1);
+    // A copy of each bank, so that one stays whole whatever becomes of the list while it is drawn.
+    for (int i = 0; i < vertexBanks.size(); ++i) {
+        const VertexBank bank = vertexBanks.at(i);
+        drawBank(bank);
+    }
+    program.disableAttributeArray("a_position");
+    program.disableAttributeArray("color");
+}
+
+void RxMap3D::drawBank(const VertexBank &bank)
+{
+    if (bank.vertices.isEmpty())
+        return;
+    const Vertex *first = bank.vertices.constData();
+    shaderProgram().setAttributeArray("a_position", GL_FLOAT, &first->x, 3, sizeof(Vertex));
+    shaderProgram().setAttributeArray("color", GL_UNSIGNED_BYTE, &first->color, 4, sizeof(Vertex));
+    glDrawArrays(GL_TRIANGLES, 0, bank.vertices.size());
+    reportErrors(__LINE__);
+}
+
+void RxMap3D::reportErrors(int line)
+{
+    while (glGetError() != GL_NO_ERROR) {
+        ORVIK_DEBUG_CLASS::init()->lock();
+        // Reading a second time is meant: the error that the loop saw is consumed, the next pending one is reported.
+        const GLenum code = glGetError();
+        const std::string text = "ERROR: An error occurred in: OpenGL: Plugins/uiPluginRxMap/rxmap3d("
+            + std::to_string(line) + ") " + std::to_string(code) + "\n";
+        syslog(LOG_ERR, "%s", text.c_str());
+        std::cout << text << std::endl;
+        ORVIK_DEBUG_CLASS::init()->unlock();
+    }
+}

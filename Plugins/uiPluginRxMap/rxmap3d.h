@@ -1,0 +1,72 @@
+#pragma once
+
+#include "vertexbank.h"
+
+#include "Framework/object3d.h"
+#include "Framework/rxpolygon.h"
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class DataBroker;
+class DataBrokerGroup;
+class DbGroupAAM;
+class PolygonTessellation;
+
+/// The prescription map in the host's 3D field view: binds to the prescription group that maps the active product,
+/// turns its polygons into one bank of coloured triangles and draws that.
+///
+/// Everything runs on the user-interface thread. Of OpenGL it expects blending as the host set it and a context that
+/// is current in init() and draw(); it leaves its shader program bound and all other state as it found it, the two
+/// attribute arrays disabled. Vertices are handed over from client memory: no buffer objects are made.
+class RxMap3D : public QObject, public Object3D {
+    Q_OBJECT
+
+public:
+    /// `broker` is not owned and outlives the drawable, as do the groups that it hands out.
+    RxMap3D(DataBroker *broker, QObject *parent);
+    ~RxMap3D() override;
+
+    /// The application map whose product is shown; null shows nothing. Not owned. Takes effect at once when the
+    /// drawable is initialised, else with the next updateRxMapGroup().
+    void setAamGroup(DbGroupAAM *group);
+    /// Binds the first prescription group, in the broker's order, that maps the active product.
+    void updateRxMapGroup();
+    /// Binds `group` (null: none) and builds the map anew.
+    void setDbGroup(DataBrokerGroup *group);
+    /// Even-odd test of the point (x, y) against a ring of `count` vertices; half-open, so that a point on an edge
+    /// shared by two rings is inside one of them.
+    bool isInsidePoly(OrvikTypes::RX_POLYGONVERTEX *vertices, int count, float x, float y);
+    /// Appends an empty bank; valid until the list changes.
+    VertexBank *addVertexBank(QString name);
+
+    void init() override;
+    void draw(QMatrix4x4 mvp) override;
+    float drawingOrder() const override;
+
+public Q_SLOTS:
+    /// Builds the bank from what the bound group publishes, and writes each polygon's draw index back.
+    void updatePolygons();
+
+private:
+    friend class RxMap3DProbe;
+
+    DataBrokerGroup *findRxMapGroup() const;
+    void tessellateChain(PolygonTessellation &tessellation, OrvikTypes::RX_POLYGON *chain, unsigned int count,
+                         const QList<OrvikTypes::RX_RATECOLOR> &legend, int mappingIndex);
+    /// Sets currentColor to the first legend entry not below the polygon's rate, else to the last entry.
+    void chooseColor(const QList<OrvikTypes::RX_RATECOLOR> &legend, const OrvikTypes::RX_POLYGON &polygon,
+                     int mappingIndex);
+    bool isInitialized() const;
+    void drawBank(const VertexBank &bank);
+    /// Writes pending OpenGL errors, found at `line` of the source, to the system log and to standard output.
+    void reportErrors(int line);
+
+    QColor currentColor; ///< Colour of the polygon being tessellated; survives polygons and rebuilds.
+    DataBroker *broker;
+    DataBrokerGroup *rxMapGroup = nullptr;
+    DbGroupAAM *aamGroup = nullptr;
+    QList<VertexBank> vertexBanks;
+};

@@ -1,0 +1,102 @@
+#include "rxmapgraphicslist.h"
+
+#include "ratemapping.h"
+#include "rxmap3d.h"
+
+#include "Framework/databroker.h"
+#include "Framework/dbgroupaam.h"
+#include "Framework/dbgroupjob.h"
+#include "Framework/dbgroupproductgroupinfo.h"
+#include "Framework/dbgroupqmlunitsconverter.h"
+#include "Framework/xyz.h"
+#include "bePluginRxMap/dbgrouprxmap.h"
+
+namespace {
+
+template <typename Group> Group *findGroupOf(const DataBroker *broker, const QString &name)
+{
+    return broker == nullptr ? nullptr : qobject_cast<Group *>(broker->getGroup(name, false));
+}
+
+template <typename T> T brokerValue(const DataBroker &broker, const QByteArray &group, const char *property)
+{
+    QVariant value;
+    broker.getProperty(group.constData(), property, value);
+    return value.value<T>();
+}
+
+} // namespace
+
+RxMapGraphicsList::RxMapGraphicsList(DataBroker *broker, QObject *parent)
+    : UiGraphicsList(broker, parent)
+    , rxMap3D(new RxMap3D(broker, this))
+{
+    objects.append(rxMap3D);
+    unitsConverter = findGroupOf<DbGroupQmlUnitsConverter>(broker, QStringLiteral("QmlUnitsConverter"));
+    // The placeholder is meant to stay unfilled: the list reads prescriptions by name, never through this pointer.
+    rxMapGroup = findGroupOf<DbGroupRxMap>(broker, QStringLiteral("rxMap.%1"));
+
+    DbGroupJob *job = findGroupOf<DbGroupJob>(broker, QStringLiteral("system.current.job"));
+    if (job == nullptr)
+        return;
+    activeAamChanged(job->getActiveAAMGroupName());
+    job->connectPropertySetSlot("activeAAMGroupName", this, SLOT(activeAamChanged(QString)), Qt::UniqueConnection,
+                                true);
+}
+
+RxMapGraphicsList::~RxMapGraphicsList()
+{
+    while (!objects.isEmpty())
+        delete objects.takeLast();
+}
+
+void RxMapGraphicsList::init()
+{
+    for (Object3D *object : qAsConst(objects))
+        object->init();
+    rxMap3D->updateRxMapGroup();
+}
+
+void RxMapGraphicsList::activeAamChanged(QString name)
+{
+    aamGroup = findGroupOf<DbGroupAAM>(broker, name);
+    rxMap3D->setAamGroup(aamGroup);
+    productGroupInfo =
+        aamGroup == nullptr ? nullptr : findGroupOf<DbGroupProductGroupInfo>(broker, aamGroup->productGroupName());
+}
+
+QString RxMapGraphicsList::getPointDescription(QVector3D point)
+{
+    const QVariant query = QVariant::fromValue(OrvikTypes::XYZ(
+        static_cast<double>(point.x()), static_cast<double>(point.y()), static_cast<double>(point.z())));
+    const QStringList names = broker->findGroup(QStringLiteral("rxMap.*"), true, false);
+    const double factor = productGroupInfo == nullptr ? 1.0 : getRateConversion(productGroupInfo);
+    for (const QString &name : names) {
+        const QByteArray group = name.toLatin1();
+        const int position = mappingIndex(group);
+        // The first map of the active product decides, also when its answer is not valid: later ones are not asked.
+        if (position >= 0)
+            return describe(group, position, query, factor);
+    }
+    return {};
+}
+
+int RxMapGraphicsList::mappingIndex(const QByteArray &group) const
+{
+    if (aamGroup == nullptr)
+        return -1;
+    return findMapping(
+        brokerValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(*broker, group, "rateCalMappings"),
+        aamGroup->productGroupName());
+}
+
+QString RxMapGraphicsList::describe(const QByteArray &group, int position, const QVariant &point, double factor) const
+{
+    broker->setProperty(group.constData(), "queryRatesAtXYZ", point);
+    const QList<float> rates = brokerValue<QList<float>>(*broker, group, "ratesAtXYZ");
+    const bool valid = brokerValue<bool>(*broker, group, "ratesAtXYZValid");
+    if (!valid || position >= rates.size())
+        return {};
+    const double rate = static_cast<double>(rates.at(position)) * factor;
+    return tr("Rx Rate: ") + QString::number(rate, 'f', 2) + QStringLiteral("\n\n");
+}

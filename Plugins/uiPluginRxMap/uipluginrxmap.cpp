@@ -1,0 +1,94 @@
+#include "uipluginrxmap.h"
+
+#include "rxmapgraphicslist.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+const QString pluginName = QStringLiteral("UiPluginRxMap");
+const QString widgetName = QStringLiteral("RxMapWidget");
+const QString graphicsListName = QStringLiteral("RxMapGraphicsList");
+const QString majorVersion = QStringLiteral("1");
+const QString minorVersion = QStringLiteral("0");
+
+} // namespace
+
+UiPluginRxMap::UiPluginRxMap() = default;
+
+UiPluginRxMap::~UiPluginRxMap()
+{
+    delete graphicsList.data();
+}
+
+QStringList UiPluginRxMap::getGuidancePageWidgetNames()
+{
+    return {widgetName};
+}
+
+QMap<QString, QString> UiPluginRxMap::getGuidancePageWidgetLibraryCategories()
+{
+    return {{widgetName, QCoreApplication::translate("RxMapWidget", "Product Control")}};
+}
+
+QMap<QString, QString> UiPluginRxMap::getGuidancePageWidgetLibraryImageNames()
+{
+    return {{widgetName, QStringLiteral("RxOptionsLibrary_11_01.png")}};
+}
+
+QMap<QString, QString> UiPluginRxMap::getGuidancePageWidgetLibraryDisplayNames()
+{
+    return {{widgetName, QCoreApplication::translate("RxMapWidget", "Rx Map Settings")}};
+}
+
+QMap<QString, QString> UiPluginRxMap::getFeatureNames()
+{
+    QMap<QString, QString> names;
+    names.insert(QStringLiteral("singleVra"), QCoreApplication::translate("UiPluginRxMap", "Single VRA"));
+    names.insert(QStringLiteral("multiVra"), QCoreApplication::translate("UiPluginRxMap", "Multi VRA"));
+    return names;
+}
+
+QStringList UiPluginRxMap::getConfigPanelWidgetNames()
+{
+    return {};
+}
+
+QStringList UiPluginRxMap::getGraphicsListNames()
+{
+    return {graphicsListName};
+}
+
+QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataBroker *broker)
+{
+    // Meant to come before the name is looked at: any request ends the list that exists.
+    delete graphicsList.data();
+    if (name == graphicsListName) {
+        graphicsList = new RxMapGraphicsList(broker, nullptr);
+        graphicsLists().insert(name, graphicsList);
+    }
+    return graphicsList;
+}
+
+QPointer<UiGWidget> UiPluginRxMap::createUiGWidget(QString /*name*/, int /*x*/, int /*y*/, QPointF /*position*/,
+                                                   DataBroker * /*broker*/)
+{
+    return {};
+}
+
+QPointer<UiQmlWidget> UiPluginRxMap::createUiQmlWidget(QString /*name*/, QPointF /*position*/,
+                                                       QDeclarativeView * /*view*/, DataBroker * /*broker*/)
+{
+    return {};
+}
+
+QString UiPluginRxMap::getPluginName()
+{
+    return pluginName;
+}
+
+void UiPluginRxMap::getPluginVersion(unsigned long &major, unsigned long &minor)
+{
+    major = majorVersion.toULong(nullptr, 10);
+    minor = minorVersion.toULong(nullptr, 10);
+}
