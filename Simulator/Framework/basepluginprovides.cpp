@@ -1,0 +1,3 @@
+#include "Framework/basepluginprovides.h"
+
+BasePlugInProvides::~BasePlugInProvides() = default;

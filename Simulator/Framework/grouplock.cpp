@@ -1,0 +1,3 @@
+#include "Framework/grouplock.h"
+
+GroupLock::~GroupLock() = default;

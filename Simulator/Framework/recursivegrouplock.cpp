@@ -1,0 +1,11 @@
+#include "recursivegrouplock.h"
+
+void RecursiveGroupLock::lock(int)
+{
+    mutex.lock();
+}
+
+void RecursiveGroupLock::unlock()
+{
+    mutex.unlock();
+}

@@ -1,0 +1,8 @@
+#include "Framework/uiqmlwidget.h"
+
+UiQmlWidget::UiQmlWidget(QObject *parent)
+    : QObject(parent)
+{
+}
+
+UiQmlWidget::~UiQmlWidget() = default;
