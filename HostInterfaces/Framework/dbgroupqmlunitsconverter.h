@@ -3,6 +3,7 @@
 #include "Framework/groupproperty.h"
 
 class DbGroupQmlUnitsConverterPrivate;
+struct UnitFactors;
 
 /// The operator's units, published as "QmlUnitsConverter". Each factor pair converts between a base unit and the
 /// operator's unit: toDisplay multiplies a stored value, fromDisplay a typed one.
@@ -33,6 +34,7 @@ public:
 
 private:
     void renewFactors();
+    void storeFactors(const UnitFactors &factors);
 
     QScopedPointer<DbGroupQmlUnitsConverterPrivate> d;
 };

@@ -3,6 +3,7 @@
 #include "Framework/databroker.h"
 
 #include <QPointer>
+#include <QSet>
 
 class BinManagerPrivate {
 public:
@@ -40,17 +41,17 @@ QList<QObject *> BinManager::loadedFilteredProducts() const
 
 void BinManager::setLoadedProducts(const QList<QObject *> &products)
 {
+    if (parent() == nullptr) {
+        // The manager without a broker lists no product; it deletes what it is given, as its owner.
+        qDeleteAll(QSet<QObject *>(products.begin(), products.end()));
+        return;
+    }
     const QList<QPointer<QObject>> former = d->products;
     d->products.clear();
-    // The manager without a broker lists no product; it deletes what it is given, as its owner.
-    const bool isEmptyOne = parent() == nullptr;
     for (QObject *product : products) {
         if (product != nullptr)
             product->setParent(this);
-        if (isEmptyOne)
-            delete product;
-        else
-            d->products.append(product);
+        d->products.append(product);
     }
     for (const QPointer<QObject> &product : former) {
         if (!d->products.contains(product))

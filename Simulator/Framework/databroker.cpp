@@ -1,18 +1,18 @@
 #include "Framework/databroker.h"
 
 #include "databrokergroupprivate.h"
+#include "debugline.h"
 
 #include "Framework/databrokergroup.h"
 
-#include <QDebug>
-#include <QList>
+#include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPointer>
 #include <QReadLocker>
 #include <QReadWriteLock>
-#include <QSet>
 #include <QSettings>
+#include <QVector>
 #include <QWriteLocker>
 
 namespace {
@@ -49,20 +49,30 @@ public:
     DataBrokerGroup *find(const QString &name, bool orRemoved) const
     {
         const QReadLocker locker(&lock);
-        DataBrokerGroup *removed = nullptr;
-        for (const Entry &entry : entries) {
-            if (entry.name != name || entry.group.isNull())
-                continue;
-            if (!entry.isRemoved)
-                return entry.group;
-            removed = entry.group;
-        }
-        return orRemoved ? removed : nullptr;
+        const Entry *const entry = latest(name);
+        return entry != nullptr && (orRemoved || !entry->isRemoved) ? entry->group.data() : nullptr;
+    }
+
+    /// The latest entry of that name, or null. Under the lock.
+    const Entry *latest(const QString &name) const
+    {
+        const auto place = latestPlace.constFind(name);
+        return place != latestPlace.constEnd() ? &entries.at(*place) : nullptr;
+    }
+
+    bool isListed(int place, bool includeRemoved) const
+    {
+        const Entry &entry = entries.at(place);
+        // A name that was published again stands at the place of the group that has it now.
+        return !entry.group.isNull() && (includeRemoved || !entry.isRemoved)
+            && latestPlace.value(entry.name, -1) == place;
     }
 
     mutable QReadWriteLock lock;
     /// Every group that was ever published, oldest first.
-    QList<Entry> entries;
+    QVector<Entry> entries;
+    /// Place of the latest entry of each name; the earlier ones have been removed.
+    QHash<QString, int> latestPlace;
     mutable QMutex settingsMutex;
     QScopedPointer<QSettings> settings;
     QSize displaySize;
@@ -87,7 +97,10 @@ DataBroker::~DataBroker()
             const QWriteLocker locker(&d->lock);
             if (d->entries.isEmpty())
                 return;
-            group = d->entries.takeLast().group;
+            const Entry entry = d->entries.takeLast();
+            if (d->latestPlace.value(entry.name) == d->entries.size())
+                d->latestPlace.remove(entry.name);
+            group = entry.group;
         }
         delete group;
     }
@@ -98,19 +111,10 @@ QStringList DataBroker::findGroup(const QString &pattern, bool inPublicationOrde
     QStringList names;
     {
         const QReadLocker locker(&d->lock);
-        QSet<QString> published;
-        for (const Entry &entry : d->entries) {
-            if (!entry.isRemoved && !entry.group.isNull())
-                published.insert(entry.name);
-        }
-        QSet<QString> listed;
-        for (const Entry &entry : d->entries) {
-            // A name that was published again stands at the place of the group that has it now.
-            const bool isWanted = entry.isRemoved ? includeRemoved && !published.contains(entry.name) : true;
-            if (!isWanted || entry.group.isNull() || listed.contains(entry.name) || !matches(entry.name, pattern))
-                continue;
-            listed.insert(entry.name);
-            names.append(entry.name);
+        for (int place = 0; place < d->entries.size(); ++place) {
+            const QString &name = d->entries.at(place).name;
+            if (matches(name, pattern) && d->isListed(place, includeRemoved))
+                names.append(name);
         }
     }
     if (!inPublicationOrder)
@@ -122,7 +126,7 @@ DataBrokerGroup *DataBroker::getGroup(const QString &name, bool reportMissing) c
 {
     DataBrokerGroup *const group = d->find(name, false);
     if (group == nullptr && reportMissing)
-        QMessageLogger().debug() << "no group of this name:" << name;
+        debugLine() << "no group of this name:" << name;
     return group;
 }
 
@@ -166,17 +170,19 @@ int DataBroker::publishGroup(DataBrokerGroup *group)
     const QString name = group->name();
     {
         const QWriteLocker locker(&d->lock);
-        for (const Entry &entry : d->entries) {
-            if (entry.name == name && !entry.isRemoved && !entry.group.isNull())
-                return DataBrokerGroup::ErrNameTaken;
-        }
         // A group is published once; one that has been taken out stays out.
-        if (group->isRemoved() || group->broker() != nullptr)
+        if (group->isRemoved())
             return DataBrokerGroup::ErrGroupRemoved;
+        const Entry *const holder = d->latest(name);
+        const bool isTaken = holder != nullptr && !holder->isRemoved && !holder->group.isNull();
+        if (isTaken || group->broker() != nullptr)
+            return DataBrokerGroup::ErrNameTaken;
         group->d->broker = this;
-        group->setParent(nullptr);
+        d->latestPlace.insert(name, d->entries.size());
         d->entries.append({name, group, false});
     }
+    // The broker owns it from here on.
+    group->setParent(nullptr);
     Q_EMIT groupPublished(name);
     return DataBrokerGroup::Success;
 }
@@ -186,17 +192,13 @@ int DataBroker::removeGroup(const QString &name)
     QPointer<DataBrokerGroup> group;
     {
         const QWriteLocker locker(&d->lock);
-        for (Entry &entry : d->entries) {
-            if (entry.name != name || entry.isRemoved || entry.group.isNull())
-                continue;
-            entry.isRemoved = true;
-            group = entry.group;
-            group->d->isRemoved = true;
-            break;
-        }
+        const Entry *const entry = d->latest(name);
+        if (entry == nullptr || entry->isRemoved || entry->group.isNull())
+            return DataBrokerGroup::ErrUnknownGroup;
+        group = entry->group;
+        group->d->isRemoved = true;
+        d->entries[d->latestPlace.value(name)].isRemoved = true;
     }
-    if (group.isNull())
-        return DataBrokerGroup::ErrUnknownGroup;
     Q_EMIT group->removed(group);
     Q_EMIT groupRemoved(name);
     return DataBrokerGroup::Success;

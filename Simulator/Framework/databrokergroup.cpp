@@ -1,12 +1,12 @@
 #include "Framework/databrokergroup.h"
 
 #include "databrokergroupprivate.h"
+#include "debugline.h"
 #include "valueconversion.h"
 #include "writeoutcome.h"
 
 #include "Framework/groupproperty.h"
 
-#include <QDebug>
 #include <QLoggingCategory>
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -92,8 +92,8 @@ bool DataBrokerGroup::connectPropertySetSlot(const char *property, QObject *rece
     const QByteArray signal = metaObject()->method(signalIndex).methodSignature();
     if (signalIndex < 0 || receiver == nullptr || !canConnect(signal, receiver, slot)) {
         if (reportFailure) {
-            QMessageLogger().debug() << "connectPropertySetSlot() failure:" << name() << QString::fromLatin1(property)
-                                     << QString::fromLatin1(slot);
+            debugLine() << "connectPropertySetSlot() failure:" << name() << QString::fromLatin1(property)
+                        << QString::fromLatin1(slot);
         }
         return false;
     }

@@ -36,7 +36,19 @@ DbGroupQmlUnitsConverter::~DbGroupQmlUnitsConverter() = default;
 
 void DbGroupQmlUnitsConverter::renewFactors()
 {
-    const UnitFactors factors = UnitFactors::of(getAreaUnitSystem(), getPressureUnit());
+    int area = getAreaUnitSystem();
+    int pressure = getPressureUnit();
+    storeFactors(UnitFactors::of(area, pressure));
+    // A listener or another thread may have set a unit meanwhile: the last factors stored are those of the last units.
+    while (area != getAreaUnitSystem() || pressure != getPressureUnit()) {
+        area = getAreaUnitSystem();
+        pressure = getPressureUnit();
+        storeFactors(UnitFactors::of(area, pressure));
+    }
+}
+
+void DbGroupQmlUnitsConverter::storeFactors(const UnitFactors &factors)
+{
     internalSetCountRateToDisplay(factors.countRate);
     internalSetCountRateFromDisplay(1.0 / factors.countRate);
     internalSetRatioRateToDisplay(factors.ratioRate);

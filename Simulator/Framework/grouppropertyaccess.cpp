@@ -1,22 +1,12 @@
 #include "databrokergroupprivate.h"
+#include "debugline.h"
 #include "writeoutcome.h"
 
 #include "Framework/grouplock.h"
 #include "Framework/groupproperty.h"
 
-#include <QDebug>
 #include <QMetaMethod>
 #include <QMetaProperty>
-
-namespace {
-
-/// A line of the standard debug stream, without file, line and function, whatever the build type.
-QDebug debugLine()
-{
-    return QMessageLogger().debug();
-}
-
-} // namespace
 
 GroupPropertyAccess::Locker::Locker(const DataBrokerGroup &group)
     : lock(group.d->isThreadSafe ? group.d->lock.load() : nullptr)
