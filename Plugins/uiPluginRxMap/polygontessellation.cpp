@@ -33,6 +33,9 @@ void PolygonTessellation::registerCallbacks(GLUtesselator *tessellator)
 void PolygonTessellation::beginPolygon(const QColor &color)
 {
     gluTessBeginPolygon(tessellator, nullptr);
+    // What an invalid colour reads as; Qt may leave the arguments untouched for one.
+    red = green = blue = 0.0;
+    alpha = 1.0;
     color.getRgbF(&red, &green, &blue, &alpha);
 }
 

@@ -8,3 +8,13 @@ int findMapping(const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> &mappin
     }
     return -1;
 }
+
+int findProductMapping(const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> &mappings, int product)
+{
+    const QString number = QString::number(product + 1);
+    for (int i = 0; i < mappings.size(); ++i) {
+        if (mappings.at(i).rateCalName.contains(number))
+            return i;
+    }
+    return -1;
+}

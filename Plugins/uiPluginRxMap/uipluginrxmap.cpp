@@ -1,6 +1,7 @@
 #include "uipluginrxmap.h"
 
 #include "rxmapgraphicslist.h"
+#include "rxmapwidget.h"
 
 #include <QCoreApplication>
 
@@ -70,10 +71,14 @@ QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataB
     return graphicsList;
 }
 
-QPointer<UiGWidget> UiPluginRxMap::createUiGWidget(QString /*name*/, int /*x*/, int /*y*/, QPointF /*position*/,
-                                                   DataBroker * /*broker*/)
+// Unlike graphics lists, earlier widgets are meant to stay; only the newest is in the map.
+QPointer<UiGWidget> UiPluginRxMap::createUiGWidget(QString name, int x, int y, QPointF position, DataBroker *broker)
 {
-    return {};
+    if (name != widgetName)
+        return {};
+    const QPointer<UiGWidget> widget = new RxMapWidget(pluginName, name, x, y, imageDir(), position, broker);
+    graphicsWidgets().insert(name, widget);
+    return widget;
 }
 
 QPointer<UiQmlWidget> UiPluginRxMap::createUiQmlWidget(QString /*name*/, QPointF /*position*/,

@@ -1,0 +1,66 @@
+#include "rxmapwidget.h"
+
+#include "rxmapwidgetdialog01.h"
+
+#include "Framework/databroker.h"
+#include "Framework/orvikbuttonqgw.h"
+
+#include <QPointer>
+#include <QVariant>
+
+namespace {
+
+constexpr int enabledImage = 0;
+constexpr int disabledImage = 1;
+
+} // namespace
+
+RxMapWidget::RxMapWidget(QString pluginName, QString widgetName, int x, int y, QDir imageDir, QPointF position,
+                         DataBroker *broker)
+    : UiGWidget(pluginName, widgetName, x, y, imageDir, position, broker, false)
+{
+    QVariant family;
+    broker->getIniSetting("main.general.font", family, QStringLiteral("Liberation Sans"), true);
+    font.setFamily(family.toString());
+    font.setWeight(50);
+    font.setPointSize(15);
+
+    const QStringList images{QStringLiteral("RxOptions_11_01.png"), QStringLiteral("RxOptionsDisable_11_01.png")};
+    button = new OrvikButtonQgw(0, imageDir, images, QPointF(0, 0), this);
+    button->setObjectName(QStringLiteral("rxOptions"));
+    connect(button, SIGNAL(longTouch(int)), this, SLOT(onLongTouch(int)));
+    connect(button, SIGNAL(buttonReleased(int)), this, SLOT(onButtonReleased(int)));
+    const bool mapLoaded = !broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty();
+    button->setCurrentImage(mapLoaded ? enabledImage : disabledImage);
+    resize(button->size());
+    setPos(position);
+}
+
+RxMapWidget::~RxMapWidget() = default;
+
+void RxMapWidget::pageShown()
+{
+    // Meant to be empty: the button keeps the image that it was made with.
+}
+
+void RxMapWidget::onLongTouch(int /*id*/)
+{
+    if (button->currentImage() == disabledImage)
+        return;
+    popupIsActive(true);
+    // The host may close the page, and this widget with it, while the dialog runs.
+    const QPointer<RxMapWidget> self(this);
+    QDir images = imageDir();
+    auto *dialog = new RxMapWidgetDialog01(dataBroker(), images, nullptr);
+    dialog->exec();
+    delete dialog;
+    if (!self)
+        return;
+    popupIsActive(false);
+    update(QRectF());
+}
+
+void RxMapWidget::onButtonReleased(int /*id*/)
+{
+    // Meant to do nothing: only a long touch opens the dialog.
+}

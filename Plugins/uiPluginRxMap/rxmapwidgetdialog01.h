@@ -1,0 +1,112 @@
+#pragma once
+
+#include "Framework/rxdbfcolumntoratecalmapping.h"
+#include "Framework/rxsettings.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFont>
+#include <QList>
+#include <QSize>
+
+class DataBroker;
+class DbGroupQmlUnitsConverter;
+class DbGroupRxMap;
+class OrvikButton;
+class OrvikLineEdit;
+class QLabel;
+
+/// The modal "Rx Map Settings" dialog: how the prescription drives the rate controller, product by product.
+///
+/// It edits working copies of the first prescription group's settings and of every group's mappings, and writes them
+/// back on Done; only the default rate goes to the product's loader as it is typed. While the vehicle moves, or is not
+/// known to stand, the controls are locked. Layout is in fixed pixels, sized to the background image. A product is
+/// named by its index from 0 throughout, the same in buttons, settings, bin groups and loaded products.
+class RxMapWidgetDialog01 : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Images are loaded from `imageDir`. The broker is not owned and outlives the dialog.
+    RxMapWidgetDialog01(DataBroker *broker, QDir &imageDir, QWidget *parent);
+    ~RxMapWidgetDialog01() override;
+
+    /// Makes one caption label, owned by `parent`. The dialog's own font takes its point size and keeps it.
+    QLabel *addCaption(QString text, QPoint position, int pointSize, QWidget *parent);
+    /// Makes the product buttons and the vertical caption at the left edge.
+    void setupSidebar();
+    /// Takes the display factors of the selected product and shows its default-rate field; hides the field when the
+    /// product has no usable node. Returns the field's caption, empty when hidden.
+    QString getDefaultRateSettings();
+    /// Makes `index` the only master and selects it; a negative index clears the master.
+    void setMasterProduct(int index);
+    /// Shows and locks the controls for the selected product; `enabled`: the vehicle stands.
+    void setControlsEnabledState(bool enabled);
+
+public Q_SLOTS:
+    /// Writes the working copies back and closes; only closes while the moving message shows.
+    void doneButtonReleased(int);
+    void onValueChanged(int id);
+    void productSelectionChanged(int buttonIndex);
+    /// Locks or unlocks the controls, now and every 500 ms from now on.
+    void testForZeroSpeed();
+
+private:
+    friend class DialogProbe;
+
+    void setupWindow();
+    void setupControls();
+    OrvikButton *addCheckBox(int id, const QPoint &position, const char *name);
+    OrvikLineEdit *addLineEdit(int id, const QPoint &position, const char *name);
+    void setRed(QLabel *label);
+    OrvikButton *addProductButton(int index, const QString &binGroup);
+    void spreadProductButtons();
+    void addProductsCaption();
+    void readGroups();
+    void selectInitialProduct();
+
+    bool isVehicleStopped() const;
+    /// Name of the prescription group that drives the selected product; empty when none does.
+    QString rxMapGroupName() const;
+    void showDefaultRate();
+    void setProductButtonLook(int index, bool selected);
+    void lookAheadEdited();
+    void zeroRateShutoffReleased();
+    void defaultRateEdited();
+    /// Stores the rate (base units) with the selected product's loader and takes it into use, if it is another one.
+    void pushDefaultRate(double rate);
+    bool hasSelectedSettings() const;
+
+    void writeMappings();
+    void writeSettings();
+
+    DataBroker *broker;
+    DbGroupQmlUnitsConverter *unitsConverter = nullptr;
+    QDir imageDir;
+    QFont dialogFont; ///< Every caption leaves its point size here; later fonts are copied in that state.
+    QSize screenSize = QSize(-1, -1);
+    OrvikLineEdit *lookAheadEdit = nullptr;
+    OrvikLineEdit *defaultRateEdit = nullptr;
+    OrvikButton *applyToAllBox = nullptr;
+    OrvikButton *zeroRateShutoffBox = nullptr;
+    OrvikButton *doneButton = nullptr;
+    QList<OrvikButton *> productButtons;
+    QLabel *vehicleMovingLabel = nullptr;
+    QLabel *notUnderVraLabel = nullptr;
+    QLabel *lookAheadLabel = nullptr;
+    QLabel *zeroRateShutoffLabel = nullptr;
+    QLabel *applyToAllLabel = nullptr;
+    QLabel *defaultRateLabel = nullptr;
+    int selectedProduct = 0;
+    DbGroupRxMap *settingsGroup = nullptr;
+    QList<DbGroupRxMap *> rxMapGroups;
+    QList<OrvikTypes::RX_SETTINGS> settings;
+    QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings; ///< Every group's list, in group order.
+    int titlePointSize = 0;
+    int subtitlePointSize = 0;
+    int captionPointSize = 0;
+    int largePointSize = 0;
+    int smallPointSize = 0;
+    QFont largeFont;
+    double toDisplayFactor = 0.0;   ///< Stored default rate (base units) × this = the value shown.
+    double fromDisplayFactor = 0.0; ///< Typed value × this = default rate in base units.
+};

@@ -1,0 +1,87 @@
+#include "testbase.h"
+
+#include "Framework/basepluginprovides.h"
+#include "Framework/uiplugininterface.h"
+
+#include <QJsonObject>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QRegularExpression>
+
+/// The built plug-in file, as a host finds it.
+class TestPluginModule : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metadataIsReadWithoutLoading();
+    void qtplugininfoPrintsTheMetadata();
+    void onlyTheTwoEntryPointsAreExported();
+    void theInterfaceIsAnsweredAndTheInstanceIsShared();
+    void afterTheInstanceIsGoneAFreshOneComes();
+};
+
+static const QString pluginFile = QStringLiteral(RXMAP_PLUGIN_FILE);
+
+static QString outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+void TestPluginModule::metadataIsReadWithoutLoading()
+{
+    QPluginLoader loader(pluginFile);
+    const QJsonObject metadata = loader.metaData();
+    QVERIFY(!loader.isLoaded());
+    QCOMPARE(metadata.value(QStringLiteral("IID")).toString(), QStringLiteral("com.orvik.uiPluginRxMap/1.0"));
+    QCOMPARE(metadata.value(QStringLiteral("className")).toString(), QStringLiteral("UiPluginRxMap"));
+    // Qt's newer tools leave an empty object out; either way a host reads an empty one.
+    QVERIFY(metadata.value(QStringLiteral("MetaData")).toObject().isEmpty());
+    QCOMPARE(metadata.value(QStringLiteral("version")).toInt(), QT_VERSION & 0xFFFF00);
+}
+
+void TestPluginModule::qtplugininfoPrintsTheMetadata()
+{
+    const QString tool = QStringLiteral("/usr/lib/qt5/bin/qtplugininfo");
+    if (!QFile::exists(tool))
+        QSKIP("qtplugininfo is not installed");
+    const QString printed = outputOf(tool, {"--full-json", pluginFile});
+    QVERIFY2(printed.contains(QLatin1String("\"IID\": \"com.orvik.uiPluginRxMap/1.0\"")), qPrintable(printed));
+    QVERIFY2(printed.contains(QLatin1String("\"className\": \"UiPluginRxMap\"")), qPrintable(printed));
+}
+
+void TestPluginModule::onlyTheTwoEntryPointsAreExported()
+{
+    QStringList names;
+    const QString table = outputOf(QStringLiteral("nm"), {"-D", "--defined-only", "-P", pluginFile});
+    for (const QString &line : table.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        names.append(line.section(QLatin1Char(' '), 0, 0));
+    names.sort();
+    QCOMPARE(names, (QStringList{"qt_plugin_instance", "qt_plugin_query_metadata"}));
+}
+
+void TestPluginModule::theInterfaceIsAnsweredAndTheInstanceIsShared()
+{
+    QPluginLoader loader(pluginFile);
+    auto *plugin = qobject_cast<UiPluginInterface *>(loader.instance());
+    QVERIFY2(plugin, qPrintable(loader.errorString()));
+    QCOMPARE(plugin->getPluginName(), QStringLiteral("UiPluginRxMap"));
+    QVERIFY(dynamic_cast<BasePlugInProvides *>(plugin));
+    QPluginLoader other(pluginFile);
+    QCOMPARE(other.instance(), loader.instance());
+}
+
+void TestPluginModule::afterTheInstanceIsGoneAFreshOneComes()
+{
+    QPluginLoader loader(pluginFile);
+    const QPointer<QObject> first = loader.instance();
+    delete first.data();
+    QVERIFY(first.isNull());
+    QObject *second = loader.instance();
+    QVERIFY(qobject_cast<UiPluginInterface *>(second));
+}
+
+QTEST_MAIN(TestPluginModule)
+#include "tst_pluginmodule.moc"
