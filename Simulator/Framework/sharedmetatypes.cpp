@@ -27,3 +27,24 @@ ORVIK_DEFINE_SHARED_METATYPE(OrvikTypes::SPN_OperationalSetStruct)
 ORVIK_DEFINE_SHARED_METATYPE(OrvikTypes::SPN_SwitchByteCalSettingsStruct)
 
 QT_END_NAMESPACE
+
+namespace {
+
+/// Properties and signals find their types by name, so the names stand as soon as the library is loaded.
+void registerSharedTypes()
+{
+    qMetaTypeId<OrvikTypes::RX_SETTINGS>();
+    qMetaTypeId<QList<OrvikTypes::RX_SETTINGS>>();
+    qMetaTypeId<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>();
+    qMetaTypeId<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>();
+    qMetaTypeId<OrvikTypes::RX_RATECOLOR>();
+    qMetaTypeId<QList<OrvikTypes::RX_RATECOLOR>>();
+    qMetaTypeId<QList<QList<OrvikTypes::RX_RATECOLOR>>>();
+    qMetaTypeId<OrvikTypes::XYZ>();
+    qMetaTypeId<OrvikTypes::SPN_OperationalSetStruct>();
+    qMetaTypeId<OrvikTypes::SPN_SwitchByteCalSettingsStruct>();
+}
+
+} // namespace
+
+Q_CONSTRUCTOR_FUNCTION(registerSharedTypes)

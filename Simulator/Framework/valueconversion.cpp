@@ -43,6 +43,15 @@ bool isText(int type)
     return type == QMetaType::QString || type == QMetaType::QByteArray;
 }
 
+/// The whole text; Qt's own conversion of bytes ends at a zero byte.
+QString textOf(const QVariant &value)
+{
+    if (value.userType() != QMetaType::QByteArray)
+        return value.toString();
+    const QByteArray bytes = value.toByteArray();
+    return QString::fromUtf8(bytes.constData(), bytes.size());
+}
+
 /// A number in the widest form that holds it exactly.
 struct Number {
     enum Form { None, Signed, Unsigned, Real };
@@ -79,6 +88,9 @@ Number positiveNumber(quint64 value)
 
 Number textNumber(const QString &text)
 {
+    // Parsers end at a zero character as if the text ended there.
+    if (text.contains(QChar(QChar::Null)))
+        return {};
     bool ok = false;
     const qint64 whole = text.toLongLong(&ok);
     if (ok)
@@ -101,7 +113,7 @@ Number numberOf(const QVariant &value)
     if (type == QMetaType::Double || type == QMetaType::Float)
         return realNumber(value.toDouble());
     if (isText(type))
-        return textNumber(value.toString());
+        return textNumber(textOf(value));
     return {};
 }
 
@@ -191,7 +203,7 @@ template <typename T> bool realVariant(const QVariant &value, QVariant &converte
 bool boolVariant(const QVariant &value, QVariant &converted)
 {
     if (isText(value.userType())) {
-        const QString text = value.toString();
+        const QString text = textOf(value);
         if (text == QLatin1String("true") || text == QLatin1String("false")) {
             converted = text == QLatin1String("true");
             return true;
@@ -208,7 +220,7 @@ bool textVariant(const QVariant &value, QVariant &converted)
 {
     const int type = value.userType();
     if (type == QMetaType::QByteArray) {
-        const QString text = QString::fromUtf8(value.toByteArray());
+        const QString text = textOf(value);
         if (text.toUtf8() != value.toByteArray())
             return false;
         converted = text;

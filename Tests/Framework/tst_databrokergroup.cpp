@@ -1,0 +1,422 @@
+#include "accessjournal.h"
+#include "samplegroup.h"
+#include "setreceiver.h"
+#include "testbase.h"
+
+#include "Framework/databroker.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+int refuseWithFive(QVariant, void *)
+{
+    return 5;
+}
+
+} // namespace
+
+class TestDataBrokerGroup : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyKindOfValueIsReadAndWrittenByName();
+    void theTypeReadByNameIsTheRegisteredOne_data();
+    void theTypeReadByNameIsTheRegisteredOne();
+    void aWrongTypeChangesNothing_data();
+    void aWrongTypeChangesNothing();
+    void anUnknownPropertyIsAnErrorAndReadsNothing();
+    void propertiesOfQObjectAreNoGroupProperties();
+    void aWriteByNameHoldsNoToken();
+    void aWriteByNameGivesTheValidatorsCode();
+    void aListenersOwnFailureIsNotTheWritersOutcome();
+    void aRemovedGroupIsAnErrorByName();
+    void aWriteByNameIsAnnouncedLikeATypedOne();
+    void readsByNameRunTheHooks();
+    void subscribersGetTheNewValue();
+    void aSubscriberWithoutParametersIsCalled();
+    void aUniqueSubscriptionIsMadeOnce();
+    void aSubscriptionEndsWhenGroupAndReceiverAreDisconnected();
+    void aSubscriptionEndsWithItsReceiver();
+    void aQueuedSubscriptionGetsTheValueLater();
+    void failedSubscriptionsAreReportedOnRequest_data();
+    void failedSubscriptionsAreReportedOnRequest();
+    void anotherPropertysWriteTellsNobody();
+    void theValueIsReadForSubscribersOnly();
+    void propertySetOfAnUnknownPropertyTellsNobody();
+    void warningsGoToTheLogAsTheyAre();
+};
+
+void TestDataBrokerGroup::everyKindOfValueIsReadAndWrittenByName()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    int target = 0;
+    OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mapping;
+    mapping.rateCalName = QStringLiteral("Product 1");
+    mapping.auxIndices = {3, 4};
+    const QList<QList<OrvikTypes::RX_RATECOLOR>> legends{{{12.5, Qt::red}}, {}};
+
+    QCOMPARE(group.setProperty("settings", QVariant::fromValue(taggedSettings(2, 1))), 0);
+    QCOMPARE(group.setProperty("rateCalMappings",
+                               QVariant::fromValue(QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping})),
+             0);
+    QCOMPARE(group.setProperty("rateColors", QVariant::fromValue(legends)), 0);
+    QCOMPARE(group.setProperty("rates", QVariant::fromValue(QList<float>{1.5f, 2.5f})), 0);
+    QCOMPARE(group.setProperty("point", QVariant::fromValue(OrvikTypes::XYZ(1, 2, 3))), 0);
+    QCOMPARE(group.setProperty("buffer", QVariant::fromValue<void *>(&target)), 0);
+    QCOMPARE(group.setProperty("count", 4294967295u), 0);
+    QCOMPARE(group.setProperty("level", -3), 0);
+    QCOMPARE(group.setProperty("factor", 0.1), 0);
+    QCOMPARE(group.setProperty("valid", true), 0);
+    QCOMPARE(group.setProperty("text", QStringLiteral("text")), 0);
+
+    QCOMPARE(group.getSettings(), taggedSettings(2, 1));
+    QCOMPARE(group.getRateCalMappings(), QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping});
+    QCOMPARE(group.getRateColors(), legends);
+    QCOMPARE(group.getRates(), (QList<float>{1.5f, 2.5f}));
+    QVERIFY(group.getPoint() == OrvikTypes::XYZ(1, 2, 3));
+    QCOMPARE(group.getBuffer(), static_cast<void *>(&target));
+    QCOMPARE(group.getCount(), 4294967295u);
+    QCOMPARE(group.getLevel(), -3);
+    QCOMPARE(group.getFactor(), 0.1);
+    QCOMPARE(group.getValid(), true);
+    QCOMPARE(group.getText(), QStringLiteral("text"));
+
+    QVariant value;
+    QCOMPARE(group.getProperty("buffer", value), 0);
+    QCOMPARE(value.value<void *>(), static_cast<void *>(&target));
+    QCOMPARE(group.getProperty("rateColors", value), 0);
+    QCOMPARE(value.value<QList<QList<OrvikTypes::RX_RATECOLOR>>>(), legends);
+}
+
+void TestDataBrokerGroup::theTypeReadByNameIsTheRegisteredOne_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<int>("type");
+    QTest::newRow("settings") << QByteArray("settings") << qMetaTypeId<QList<OrvikTypes::RX_SETTINGS>>();
+    QTest::newRow("rateCalMappings") << QByteArray("rateCalMappings")
+                                     << qMetaTypeId<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>();
+    QTest::newRow("rateColors") << QByteArray("rateColors") << qMetaTypeId<QList<QList<OrvikTypes::RX_RATECOLOR>>>();
+    QTest::newRow("rates") << QByteArray("rates") << qMetaTypeId<QList<float>>();
+    QTest::newRow("point") << QByteArray("point") << qMetaTypeId<OrvikTypes::XYZ>();
+    QTest::newRow("buffer") << QByteArray("buffer") << int(QMetaType::VoidStar);
+    QTest::newRow("count") << QByteArray("count") << int(QMetaType::UInt);
+    QTest::newRow("valid") << QByteArray("valid") << int(QMetaType::Bool);
+}
+
+void TestDataBrokerGroup::theTypeReadByNameIsTheRegisteredOne()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(int, type);
+    const SampleGroup group(QStringLiteral("sample"));
+    QVariant value;
+    QCOMPARE(group.getProperty(property.constData(), value), 0);
+    QCOMPARE(value.userType(), type);
+}
+
+void TestDataBrokerGroup::aWrongTypeChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("no value") << QByteArray("level") << QVariant();
+    QTest::newRow("negative count") << QByteArray("count") << QVariant(-1);
+    QTest::newRow("broken count") << QByteArray("count") << QVariant(3.5);
+    QTest::newRow("count out of range") << QByteArray("count") << QVariant(1e12);
+    QTest::newRow("not a number in a number") << QByteArray("level") << QVariant(qQNaN());
+    QTest::newRow("text that is no number") << QByteArray("factor") << QVariant(QStringLiteral("12,5"));
+    QTest::newRow("number in a list") << QByteArray("settings") << QVariant(1);
+    QTest::newRow("list of another record")
+        << QByteArray("settings") << QVariant::fromValue(QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>());
+    QTest::newRow("record in a text") << QByteArray("text") << QVariant::fromValue(OrvikTypes::XYZ(1, 2, 3));
+    QTest::newRow("number in a pointer") << QByteArray("buffer") << QVariant(1);
+    QTest::newRow("number in a record") << QByteArray("point") << QVariant(1.0);
+}
+
+void TestDataBrokerGroup::aWrongTypeChangesNothing()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, value);
+    SampleGroup group(QStringLiteral("sample"));
+    group.setCount(9);
+    group.setLevel(9);
+    group.setFactor(9.0);
+    group.setText(QStringLiteral("9"));
+    group.setSettings(taggedSettings(1, 9));
+    group.setWriteValidator("valid", refuseWithFive, nullptr);
+    messages().expectWarning(QStringLiteral("set sample::valid failed: 5"));
+    group.setValid(true);
+    SetReceiver subscriber;
+    group.connectPropertySetSlot(property.constData(), &subscriber, SLOT(onSet()), Qt::AutoConnection, true);
+
+    QCOMPARE(group.setProperty(property.constData(), value), int(DataBrokerGroup::ErrWrongType));
+
+    QCOMPARE(group.getCount(), 9u);
+    QCOMPARE(group.getLevel(), 9);
+    QCOMPARE(group.getFactor(), 9.0);
+    QCOMPARE(group.getText(), QStringLiteral("9"));
+    QCOMPARE(group.getSettings(), taggedSettings(1, 9));
+    QCOMPARE(group.getBuffer(), nullptr);
+    QCOMPARE(group.mostRecentErr(), 5);
+    QCOMPARE(subscriber.calls, 0);
+}
+
+void TestDataBrokerGroup::anUnknownPropertyIsAnErrorAndReadsNothing()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    QVariant value = 1;
+    QCOMPARE(group.getProperty("height", value), int(DataBrokerGroup::ErrUnknownProperty));
+    QCOMPARE(value, QVariant(1));
+    QCOMPARE(group.setProperty("height", 1), int(DataBrokerGroup::ErrUnknownProperty));
+    QCOMPARE(group.setProperty("", 1), int(DataBrokerGroup::ErrUnknownProperty));
+    QVERIFY(group.dynamicPropertyNames().isEmpty());
+}
+
+void TestDataBrokerGroup::propertiesOfQObjectAreNoGroupProperties()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    QVariant value;
+    QCOMPARE(group.getProperty("objectName", value), int(DataBrokerGroup::ErrUnknownProperty));
+    QCOMPARE(group.setProperty("objectName", QStringLiteral("x")), int(DataBrokerGroup::ErrUnknownProperty));
+    QCOMPARE(group.objectName(), QString());
+}
+
+void TestDataBrokerGroup::aWriteByNameHoldsNoToken()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    group.setWriteAccessToken(QUuid::createUuid());
+    group.setWriteProtected("level", true);
+    messages().expectWarning(QStringLiteral("set sample::level failed: invalid write access token"));
+    QCOMPARE(group.setProperty("level", 1), int(DataBrokerGroup::ErrInvalidToken));
+    QCOMPARE(group.getLevel(), 0);
+}
+
+void TestDataBrokerGroup::aWriteByNameGivesTheValidatorsCode()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    group.setWriteValidator("level", refuseWithFive, nullptr);
+    messages().expectWarning(QStringLiteral("set sample::level failed: 5"));
+    QCOMPARE(group.setProperty("level", 1), 5);
+    QCOMPARE(group.getLevel(), 0);
+    QCOMPARE(group.mostRecentErr(), 5);
+}
+
+void TestDataBrokerGroup::aListenersOwnFailureIsNotTheWritersOutcome()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    group.setWriteValidator("count", refuseWithFive, nullptr);
+    connect(&group, &SampleGroup::levelChanged, this, [&]() { QCOMPARE(group.setProperty("count", 1u), 5); });
+    connect(&group, &SampleGroup::levelChanged, this, [&]() { group.setCount(2); });
+    messages().expectWarning(QStringLiteral("set sample::count failed: 5"));
+    messages().expectWarning(QStringLiteral("set sample::count failed: 5"));
+    QCOMPARE(group.setProperty("level", 1), int(DataBrokerGroup::Success));
+    QCOMPARE(group.mostRecentErr(), 5);
+}
+
+void TestDataBrokerGroup::aRemovedGroupIsAnErrorByName()
+{
+    DataBroker broker;
+    auto *const group = new SampleGroup(QStringLiteral("sample"));
+    broker.publishGroup(group);
+    group->setLevel(1);
+    broker.removeGroup(QStringLiteral("sample"));
+    QVariant value;
+    QCOMPARE(group->getProperty("level", value), int(DataBrokerGroup::ErrGroupRemoved));
+    QVERIFY(!value.isValid());
+    QCOMPARE(group->setProperty("level", 2), int(DataBrokerGroup::ErrGroupRemoved));
+    QCOMPARE(group->mostRecentErr(), int(DataBrokerGroup::ErrGroupRemoved));
+    QCOMPARE(group->getLevel(), 1);
+    QCOMPARE(messages().debugLines(),
+             QStringList{QStringLiteral("mostRecentErr = DataBrokerGroup::ErrGroupRemoved, while setting \"level\"")});
+}
+
+void TestDataBrokerGroup::aWriteByNameIsAnnouncedLikeATypedOne()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    group.connectPropertySetSlot("count", &subscriber, SLOT(onCount(unsigned int)), Qt::AutoConnection, true);
+    QSignalSpy changed(&group, &SampleGroup::countChanged);
+    QCOMPARE(group.setProperty("count", 5), 0);
+    QCOMPARE(group.setProperty("count", 5), 0);
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(subscriber.counts, (QList<unsigned int>{5, 5}));
+    QVERIFY(group.holdsRuntimeValue("count"));
+}
+
+void TestDataBrokerGroup::readsByNameRunTheHooks()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    AccessJournal journal;
+    group.setBeforeReadHook("level", AccessJournal::noteBefore, &journal);
+    group.setAfterReadHook("level", AccessJournal::noteAfter, &journal);
+    QVariant value;
+    group.getProperty("level", value);
+    QCOMPARE(journal.taken(), (QStringList{"before", "after"}));
+    group.setBeforeReadHook("level", nullptr, nullptr);
+    group.setAfterReadHook("level", nullptr, nullptr);
+    group.getProperty("level", value);
+    QCOMPARE(journal.taken(), QStringList());
+}
+
+void TestDataBrokerGroup::subscribersGetTheNewValue()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    int target = 0;
+    QVERIFY(group.connectPropertySetSlot("text", &subscriber, SLOT(onText(QString)), Qt::UniqueConnection, true));
+    QVERIFY(group.connectPropertySetSlot("count", &subscriber, SLOT(onCount(unsigned int)), Qt::AutoConnection, true));
+    QVERIFY(group.connectPropertySetSlot("buffer", &subscriber, SLOT(onBuffer(void *)), Qt::AutoConnection, true));
+    QVERIFY(group.connectPropertySetSlot("settings", &subscriber, SLOT(onSettings(QList<OrvikTypes::RX_SETTINGS>)),
+                                         Qt::AutoConnection, true));
+    group.setText(QStringLiteral("new"));
+    group.setCount(3000000000u);
+    group.setBuffer(&target);
+    group.setSettings(taggedSettings(2, 2));
+    QCOMPARE(subscriber.texts, QStringList{QStringLiteral("new")});
+    QCOMPARE(subscriber.counts, QList<unsigned int>{3000000000u});
+    QCOMPARE(subscriber.buffers, QList<void *>{&target});
+    QCOMPARE(subscriber.settings, QList<QList<OrvikTypes::RX_SETTINGS>>{taggedSettings(2, 2)});
+}
+
+void TestDataBrokerGroup::aSubscriberWithoutParametersIsCalled()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    QVERIFY(group.connectPropertySetSlot("count", &subscriber, "1onSet()", Qt::UniqueConnection, true));
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 1);
+}
+
+void TestDataBrokerGroup::aUniqueSubscriptionIsMadeOnce()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    QVERIFY(group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::UniqueConnection, true));
+    QVERIFY(!group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::UniqueConnection, true));
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 1);
+    QVERIFY(group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::AutoConnection, true));
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 3);
+    QVERIFY(messages().debugLines().isEmpty());
+}
+
+void TestDataBrokerGroup::aSubscriptionEndsWhenGroupAndReceiverAreDisconnected()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    SetReceiver other;
+    group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::UniqueConnection, true);
+    group.connectPropertySetSlot("count", &other, SLOT(onSet()), Qt::UniqueConnection, true);
+    QVERIFY(QObject::disconnect(&group, nullptr, &subscriber, nullptr));
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 0);
+    QCOMPARE(other.calls, 1);
+    QVERIFY(group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::UniqueConnection, true));
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 1);
+}
+
+void TestDataBrokerGroup::aSubscriptionEndsWithItsReceiver()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    AccessJournal journal;
+    group.setBeforeReadHook("count", AccessJournal::noteBefore, &journal);
+    {
+        SetReceiver subscriber;
+        group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::UniqueConnection, true);
+        group.setCount(1);
+    }
+    QCOMPARE(journal.taken(), QStringList{"before"});
+    group.setCount(2);
+    QCOMPARE(journal.taken(), QStringList());
+}
+
+void TestDataBrokerGroup::aQueuedSubscriptionGetsTheValueLater()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    QVERIFY(group.connectPropertySetSlot("settings", &subscriber, SLOT(onSettings(QList<OrvikTypes::RX_SETTINGS>)),
+                                         Qt::QueuedConnection, true));
+    group.setSettings(taggedSettings(1, 1));
+    group.setSettings(taggedSettings(1, 2));
+    QVERIFY(subscriber.settings.isEmpty());
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(subscriber.settings, (QList<QList<OrvikTypes::RX_SETTINGS>>{taggedSettings(1, 1), taggedSettings(1, 2)}));
+}
+
+void TestDataBrokerGroup::failedSubscriptionsAreReportedOnRequest_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<bool>("hasReceiver");
+    QTest::addColumn<QByteArray>("slot");
+    QTest::newRow("unknown property") << QByteArray("height") << true << QByteArray("1onSet()");
+    QTest::newRow("unknown slot") << QByteArray("count") << true << QByteArray("1onNothing()");
+    QTest::newRow("slot of another type") << QByteArray("count") << true << QByteArray("1onObject(QObject*)");
+    QTest::newRow("no slot code") << QByteArray("count") << true << QByteArray("onSet()");
+    QTest::newRow("empty slot") << QByteArray("count") << true << QByteArray("");
+    QTest::newRow("no receiver") << QByteArray("count") << false << QByteArray("1onSet()");
+}
+
+void TestDataBrokerGroup::failedSubscriptionsAreReportedOnRequest()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(bool, hasReceiver);
+    QFETCH(QByteArray, slot);
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    QObject *const receiver = hasReceiver ? &subscriber : nullptr;
+    QVERIFY(!group.connectPropertySetSlot(property.constData(), receiver, slot.constData(), Qt::AutoConnection, false));
+    QVERIFY(messages().debugLines().isEmpty());
+    QVERIFY(!group.connectPropertySetSlot(property.constData(), receiver, slot.constData(), Qt::AutoConnection, true));
+    QCOMPARE(messages().debugLines(),
+             QStringList{QStringLiteral("connectPropertySetSlot() failure: \"sample\" \"%1\" "
+                                        "\"%2\"")
+                             .arg(QLatin1String(property), QLatin1String(slot))});
+    group.setCount(1);
+    QCOMPARE(subscriber.calls, 0);
+}
+
+void TestDataBrokerGroup::anotherPropertysWriteTellsNobody()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::AutoConnection, true);
+    group.setLevel(1);
+    QCOMPARE(subscriber.calls, 0);
+}
+
+void TestDataBrokerGroup::theValueIsReadForSubscribersOnly()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    AccessJournal journal;
+    group.setBeforeReadHook("count", AccessJournal::noteBefore, &journal);
+    group.setCount(1);
+    QCOMPARE(journal.taken(), QStringList());
+    SetReceiver subscriber;
+    group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::AutoConnection, true);
+    group.setCount(2);
+    QCOMPARE(journal.taken(), QStringList{"before"});
+}
+
+void TestDataBrokerGroup::propertySetOfAnUnknownPropertyTellsNobody()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    SetReceiver subscriber;
+    group.connectPropertySetSlot("count", &subscriber, SLOT(onSet()), Qt::AutoConnection, true);
+    group.propertySet(&group, "height");
+    group.propertySet(&group, nullptr);
+    group.propertySet(nullptr, "count");
+    QCOMPARE(subscriber.calls, 0);
+    group.propertySet(&group, "count");
+    QCOMPARE(subscriber.calls, 1);
+}
+
+void TestDataBrokerGroup::warningsGoToTheLogAsTheyAre()
+{
+    SampleGroup group(QStringLiteral("sample"));
+    messages().expectWarning(QStringLiteral("100 %s of \"it\""));
+    group.log_group_warning(QStringLiteral("100 %s of \"it\""));
+}
+
+QTEST_GUILESS_MAIN(TestDataBrokerGroup)
+#include "tst_databrokergroup.moc"
