@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+/// While it lives, what GDAL reports in this thread is kept here instead of being printed. The first one in the process
+/// registers the file formats that the back-end reads. Sessions of one thread nest.
+class GdalSession {
+public:
+    GdalSession();
+    ~GdalSession();
+
+    /// The first failure reported so far, one line; empty when there was none.
+    QString firstFailure() const { return failure; }
+    /// Takes what GDAL reports; for GDAL's callback.
+    void takeReport(int severity, const char *text);
+
+private:
+    Q_DISABLE_COPY(GdalSession)
+
+    QString failure;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ringindex.h"
+#include "ringtree.h"
+
+#include <vector>
+
+/// An outer ring as the renderer gets it.
+struct OuterRing {
+    const PlaneVertex *vertices;
+    size_t count;
+    double area; ///< Square metres.
+};
+
+/// Says which outer ring the renderer cuts a hole from. The renderer is not told which hole belongs to which polygon:
+/// it cuts a hole from the first outer ring, in the order of drawing, that is larger by more than ten square metres and
+/// holds all of its vertices (taken as single-precision numbers).
+class HolePlacement {
+public:
+    static constexpr int nowhere = -1;
+
+    /// `outers` in the order of drawing; their vertices are not copied and must outlive this.
+    explicit HolePlacement(std::vector<OuterRing> outers);
+
+    /// Places of all outer rings that fulfil the conditions, ascending.
+    std::vector<int> takers(const PlaneVertex *hole, size_t count, double area) const;
+    /// Place of the outer ring that the hole is cut from, or `nowhere`.
+    int taker(const PlaneVertex *hole, size_t count, double area) const;
+
+private:
+    std::vector<unsigned> candidates(const PlaneVertex *hole, size_t count) const;
+    bool takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const;
+
+    std::vector<OuterRing> outers;
+    std::vector<RingIndex> indexes;
+    RingTree tree;
+};

@@ -1,0 +1,226 @@
+#include "prescriptionbackendprivate.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "prescriptionloader.h"
+
+#include "Framework/databroker.h"
+
+#include <QFileInfo>
+#include <QMetaObject>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace {
+
+/// Progress is reported in steps of this share.
+constexpr double progressStep = 0.01;
+
+/// One name for one file, however it is reached.
+QString fileKey(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? QFileInfo(path).absoluteFilePath() : canonical;
+}
+
+/// Group names are Latin-1, and "*" is a wildcard in them.
+QString nameForGroup(const QString &fileName)
+{
+    QString name = fileName;
+    for (QChar &letter : name) {
+        if (letter.unicode() > 0xff || letter == QLatin1Char('*'))
+            letter = QLatin1Char('_');
+    }
+    return QStringLiteral("rxMap.%1").arg(name);
+}
+
+} // namespace
+
+PrescriptionBackendPrivate::PrescriptionBackendPrivate(PrescriptionBackend *backend, DataBroker *dataBroker)
+    : q(backend)
+    , broker(dataBroker)
+{
+}
+
+PrescriptionBackendPrivate::~PrescriptionBackendPrivate()
+{
+    cancel();
+    if (worker.joinable())
+        worker.join();
+    const std::deque<std::shared_ptr<LoadJob>> unfinished = std::move(jobs);
+    jobs.clear();
+    for (const std::shared_ptr<LoadJob> &job : unfinished) {
+        LoadReport report;
+        report.path = job->request.path;
+        if (job->done)
+            job->done(refuse(report, QStringLiteral("loading was cancelled")));
+    }
+    while (!entries.empty())
+        entries.pop_back();
+}
+
+void PrescriptionBackendPrivate::enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done)
+{
+    auto job = std::make_shared<LoadJob>();
+    job->request = request;
+    job->done = std::move(done);
+    jobs.push_back(job);
+    if (jobs.size() == 1)
+        startNext();
+}
+
+void PrescriptionBackendPrivate::cancel()
+{
+    for (const std::shared_ptr<LoadJob> &job : jobs)
+        job->cancelled = true;
+}
+
+void PrescriptionBackendPrivate::startNext()
+{
+    if (worker.joinable())
+        worker.join();
+    if (jobs.empty())
+        return;
+    const std::shared_ptr<LoadJob> job = jobs.front();
+    const std::vector<LocalPlane> known = planes();
+    // The thread is joined before the back-end goes, so it may post to it as long as it runs.
+    worker = std::thread([this, job, known] {
+        double reported = -progressStep;
+        LoadControl control;
+        control.cancelled = &job->cancelled;
+        control.progress = [this, job, &reported](double fraction) {
+            if (fraction - reported < progressStep && fraction < 1.0)
+                return;
+            reported = fraction;
+            const QString path = job->request.path;
+            QMetaObject::invokeMethod(
+                q, [this, path, fraction] { Q_EMIT q->progress(path, fraction); }, Qt::QueuedConnection);
+        };
+        const std::shared_ptr<LoadedMap> map = PrescriptionLoader(job->request, known, control).load();
+        QMetaObject::invokeMethod(
+            q, [this, map] { finishCurrent(std::make_unique<LoadedMap>(std::move(*map))); }, Qt::QueuedConnection);
+    });
+}
+
+void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
+{
+    const std::shared_ptr<LoadJob> job = jobs.front();
+    if (map->report.isOk() && job->cancelled)
+        map->report = refuse(map->report, QStringLiteral("loading was cancelled"));
+    const bool isChange = map->report.isOk();
+    const LoadReport report = isChange ? publish(std::move(map)) : map->report;
+    jobs.pop_front();
+    startNext();
+    // Listeners may do anything, even delete the back-end.
+    const QPointer<PrescriptionBackend> backend = q;
+    if (isChange)
+        Q_EMIT backend->mapsChanged();
+    if (backend)
+        Q_EMIT backend->finished(report);
+    if (job->done)
+        job->done(report);
+}
+
+LoadReport PrescriptionBackendPrivate::refuse(LoadReport report, const QString &reason) const
+{
+    LoadReport refused;
+    refused.path = report.path;
+    refused.error = QStringLiteral("%1: %2").arg(report.path, reason);
+    return refused;
+}
+
+std::vector<LocalPlane> PrescriptionBackendPrivate::planes() const
+{
+    std::vector<LocalPlane> result;
+    for (const Entry &entry : entries)
+        result.push_back(entry.map->plane());
+    return result;
+}
+
+QString PrescriptionBackendPrivate::freeGroupName(const QString &file) const
+{
+    const QString name = nameForGroup(QFileInfo(file).fileName());
+    QString candidate = name;
+    for (int i = 2; broker->getGroup(candidate, false) != nullptr; ++i)
+        candidate = QStringLiteral("%1 (%2)").arg(name).arg(i);
+    return candidate;
+}
+
+LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
+{
+    const QString file = fileKey(map->report.path);
+    const QStringList channels = map->rateCalNames;
+    auto known =
+        std::find_if(entries.begin(), entries.end(), [&file](const Entry &entry) { return entry.file == file; });
+    const QList<OrvikTypes::RX_SETTINGS> settings =
+        entries.empty() ? QList<OrvikTypes::RX_SETTINGS>() : entries.front().map->settings();
+    Entry entry;
+    if (known != entries.end()) {
+        entry = std::move(*known);
+        entries.erase(known);
+    } else {
+        entry.file = file;
+        entry.map = std::make_unique<PublishedMap>(broker, freeGroupName(file));
+    }
+    shareOut(channels);
+    map->report.group = entry.map->groupName();
+    LoadReport report = map->report;
+    if (!entry.map->publish(std::move(map), channels, settings)) {
+        shareOut({});
+        return refuse(report, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
+    }
+    entries.push_back(std::move(entry));
+    return report;
+}
+
+QStringList PrescriptionBackendPrivate::channelsLeft(size_t place, const QStringList &newest) const
+{
+    QStringList channels = entries[place].map->wantedRateCalNames();
+    for (QString &channel : channels) {
+        const bool isTaken = newest.contains(channel)
+            || std::any_of(entries.begin() + static_cast<std::ptrdiff_t>(place) + 1, entries.end(),
+                           [&channel](const Entry &later) {
+                               return later.map->wantedRateCalNames().contains(channel);
+                           });
+        if (isTaken)
+            channel.clear();
+    }
+    return channels;
+}
+
+void PrescriptionBackendPrivate::shareOut(const QStringList &newest)
+{
+    for (size_t i = 0; i < entries.size(); ++i)
+        entries[i].map->feed(channelsLeft(i, newest));
+}
+
+bool PrescriptionBackendPrivate::unload(const QString &group)
+{
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&group](const Entry &entry) { return entry.map->groupName() == group; });
+    if (found == entries.end())
+        return false;
+    std::unique_ptr<PublishedMap> gone = std::move(found->map);
+    entries.erase(found);
+    // The group goes first, so that no product is ever fed by two maps.
+    gone.reset();
+    shareOut({});
+    Q_EMIT q->mapsChanged();
+    return true;
+}
+
+QList<LoadReport> PrescriptionBackendPrivate::reports() const
+{
+    QList<LoadReport> result;
+    for (const Entry &entry : entries)
+        result.append(entry.map->report());
+    return result;
+}
+
+RxMapLoader *PrescriptionBackendPrivate::loader(int product)
+{
+    RxMapLoader *&loader = loaders[product];
+    if (loader == nullptr)
+        loader = new RxMapLoader(0.0, q);
+    return loader;
+}

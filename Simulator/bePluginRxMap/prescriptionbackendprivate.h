@@ -1,0 +1,56 @@
+#pragma once
+
+#include "loadedmap.h"
+#include "loadjob.h"
+#include "publishedmap.h"
+
+#include "bePluginRxMap/rxmaploader.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <deque>
+#include <memory>
+#include <thread>
+#include <vector>
+
+class DataBroker;
+class PrescriptionBackend;
+
+/// The queue of loads, with the thread that works on its head, and the list of published maps.
+class PrescriptionBackendPrivate {
+public:
+    PrescriptionBackendPrivate(PrescriptionBackend *backend, DataBroker *dataBroker);
+    ~PrescriptionBackendPrivate();
+
+    void enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done);
+    void cancel();
+    bool isLoading() const { return !jobs.empty(); }
+    bool unload(const QString &group);
+    QList<LoadReport> reports() const;
+    RxMapLoader *loader(int product);
+
+private:
+    /// A published map and the file that it came from.
+    struct Entry {
+        QString file;
+        std::unique_ptr<PublishedMap> map;
+    };
+
+    void startNext();
+    void finishCurrent(std::unique_ptr<LoadedMap> map);
+    LoadReport publish(std::unique_ptr<LoadedMap> map);
+    LoadReport refuse(LoadReport report, const QString &reason) const;
+    std::vector<LocalPlane> planes() const;
+    QString freeGroupName(const QString &file) const;
+    /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.
+    QStringList channelsLeft(size_t entry, const QStringList &newest) const;
+    void shareOut(const QStringList &newest);
+
+    PrescriptionBackend *q;
+    DataBroker *broker;
+    std::deque<std::shared_ptr<LoadJob>> jobs; ///< The first one is being worked on.
+    std::thread worker;
+    std::vector<Entry> entries; ///< In the order of loading; a later one takes over the channels of an earlier one.
+    QHash<int, RxMapLoader *> loaders;
+};

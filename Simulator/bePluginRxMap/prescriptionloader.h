@@ -1,0 +1,51 @@
+#pragma once
+
+#include "loadcontrol.h"
+#include "loadedmap.h"
+#include "sourcemap.h"
+
+#include <memory>
+#include <vector>
+
+/// Turns a prescription file into a map that is ready to be published. Blocks and touches nothing that is shared, so it
+/// runs in any thread.
+class PrescriptionLoader {
+public:
+    /// `planes`: those of the published maps, oldest first; the map takes the first one that is near enough.
+    PrescriptionLoader(const LoadRequest &request, const std::vector<LocalPlane> &planes, const LoadControl &control);
+
+    /// Never null; says in its report what went wrong.
+    std::unique_ptr<LoadedMap> load();
+
+private:
+    bool loadInto(LoadedMap &map);
+    bool fail(const QString &text);
+    void warn(const QString &text);
+    void warnCount(int count, const QString &one, const QString &many);
+
+    bool checkRequest();
+    bool place(LoadedMap &map);
+    bool repairRings();
+    bool chooseColumns(LoadedMap &map);
+    std::vector<int> columnsByRequest(LoadedMap &map) const;
+    std::vector<int> columnsByLikelihood(LoadedMap &map) const;
+    void takeRates(const std::vector<int> &columns);
+    void dropRecordsWithoutRate();
+    bool arrange();
+    void buildLegends(LoadedMap &map) const;
+    void reportCounts(LoadedMap &map);
+
+    LoadRequest request;
+    std::vector<LocalPlane> planes;
+    const LoadControl &control;
+    LoadReport *report = nullptr;
+
+    SourceMap source;
+    std::vector<double> xs;
+    std::vector<double> ys;
+    std::vector<PlanePolygon> polygons;
+    /// One per mapping for each record.
+    std::vector<float> rates;
+    size_t mappings = 0;
+    int recordsWithoutRate = 0;
+};

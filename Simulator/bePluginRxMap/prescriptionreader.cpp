@@ -1,0 +1,271 @@
+#include "prescriptionreader.h"
+
+#include "gdalsession.h"
+#include "ratecolumns.h"
+#include "shapefilecheck.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+#include <limits>
+#include <ogrsf_frmts.h>
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+bool isRate(double value)
+{
+    return std::isfinite(value) && value >= 0.0;
+}
+
+/// Numbers that stand as text are written with a point, whatever the terminal's language.
+double numberFromText(const char *text, bool &isNumber)
+{
+    const QString trimmed = QString::fromUtf8(text).trimmed();
+    const double value = trimmed.toDouble(&isNumber);
+    isNumber = isNumber || trimmed.isEmpty();
+    return trimmed.isEmpty() ? notANumber : value;
+}
+
+bool isFinite(const SourceMap &map, size_t first)
+{
+    for (size_t i = first; i < map.xs.size(); ++i) {
+        if (!std::isfinite(map.xs[i]) || !std::isfinite(map.ys[i]))
+            return false;
+    }
+    return true;
+}
+
+/// Whether the vertices from `first` on hold at least three different places.
+bool enclosesSomething(const SourceMap &map, size_t first)
+{
+    size_t second = 0;
+    for (size_t i = first + 1; i < map.xs.size(); ++i) {
+        if (map.xs[i] == map.xs[first] && map.ys[i] == map.ys[first])
+            continue;
+        if (second == 0)
+            second = i;
+        else if (map.xs[i] != map.xs[second] || map.ys[i] != map.ys[second])
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+PrescriptionReader::PrescriptionReader(const QString &filePath, const QStringList &columns,
+                                       const LoadControl &loadControl)
+    : path(filePath)
+    , wanted(columns)
+    , control(loadControl)
+{
+    wanted.removeAll(QString());
+}
+
+bool PrescriptionReader::fail(const QString &text)
+{
+    reason = text;
+    return false;
+}
+
+bool PrescriptionReader::checkFile()
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return fail(QStringLiteral("there is no such file"));
+    if (info.isDir())
+        return fail(QStringLiteral("is a folder, not a file"));
+    if (info.suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) != 0)
+        return true;
+    const QString problem = ShapefileCheck::problem(path);
+    return problem.isEmpty() || fail(problem);
+}
+
+bool PrescriptionReader::read(SourceMap &map)
+{
+    if (!checkFile())
+        return false;
+    const GdalSession session;
+    const bool isShapefile = QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
+    const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
+    const char *const otherFormats[] = {"GPKG", "GeoJSON", nullptr};
+    const GDALDatasetUniquePtr dataset(GDALDataset::Open(QFileInfo(path).absoluteFilePath().toUtf8().constData(),
+                                                         GDAL_OF_VECTOR | GDAL_OF_READONLY,
+                                                         isShapefile ? shapefileOnly : otherFormats));
+    if (!dataset) {
+        const QString failure = session.firstFailure();
+        return fail(failure.isEmpty() ? QStringLiteral("is no Shapefile, GeoPackage or GeoJSON file") : failure);
+    }
+    OGRLayer *layer = chooseLayer(*dataset, map);
+    if (layer == nullptr || !chooseColumns(*layer, map))
+        return false;
+    if (const OGRSpatialReference *reference = layer->GetSpatialRef())
+        map.reference.reset(reference->Clone());
+    const bool isRead = readRecords(*layer, map);
+    if (isRead && !session.firstFailure().isEmpty())
+        return fail(session.firstFailure());
+    return isRead;
+}
+
+OGRLayer *PrescriptionReader::chooseLayer(GDALDataset &dataset, SourceMap &map)
+{
+    OGRLayer *chosen = nullptr;
+    for (OGRLayer *layer : dataset.GetLayers()) {
+        const OGRwkbGeometryType kind = wkbFlatten(layer->GetGeomType());
+        const bool mayHoldPolygons = OGR_GT_IsSubClassOf(kind, wkbSurface) || OGR_GT_IsSubClassOf(kind, wkbMultiSurface)
+            || kind == wkbUnknown || kind == wkbGeometryCollection;
+        if (!mayHoldPolygons)
+            continue;
+        if (chosen == nullptr)
+            chosen = layer;
+        else
+            map.warnings.append(QStringLiteral("layer \"%1\" is not loaded: only the first layer with polygons is")
+                                    .arg(QString::fromUtf8(layer->GetName())));
+    }
+    if (chosen == nullptr)
+        fail(dataset.GetLayerCount() == 0 ? QStringLiteral("holds no layer") : QStringLiteral("holds no polygons"));
+    return chosen;
+}
+
+bool PrescriptionReader::chooseColumns(OGRLayer &layer, SourceMap &map)
+{
+    OGRFeatureDefn *definition = layer.GetLayerDefn();
+    std::vector<SourceColumn> table;
+    for (int i = 0; i < definition->GetFieldCount(); ++i) {
+        const OGRFieldDefn *field = definition->GetFieldDefn(i);
+        SourceColumn column;
+        column.name = QString::fromUtf8(field->GetNameRef());
+        column.field = i;
+        column.isText = field->GetType() == OFTString;
+        column.isInteger = field->GetType() == OFTInteger || field->GetType() == OFTInteger64;
+        map.columnNames.append(column.name);
+        if (column.isText || column.isInteger || field->GetType() == OFTReal)
+            table.push_back(column);
+    }
+    if (wanted.isEmpty()) {
+        for (const SourceColumn &column : table) {
+            if (RateColumns::isWorthReading(column))
+                map.columns.push_back(column);
+        }
+        return true;
+    }
+    QStringList read;
+    for (const QString &name : wanted) {
+        const int place = RateColumns::find(map.columnNames, name);
+        if (place < 0)
+            return fail(QStringLiteral("has no column \"%1\"; it has %2")
+                            .arg(name, map.columnNames.join(QStringLiteral(", "))));
+        const auto column =
+            std::find_if(table.begin(), table.end(), [place](const auto &c) { return c.field == place; });
+        if (column == table.end())
+            return fail(QStringLiteral("column \"%1\" holds no numbers").arg(map.columnNames.at(place)));
+        if (!read.contains(column->name))
+            map.columns.push_back(*column);
+        read.append(column->name);
+    }
+    return true;
+}
+
+bool PrescriptionReader::readRecords(OGRLayer &layer, SourceMap &map)
+{
+    const double expected = static_cast<double>(std::max<GIntBig>(1, layer.GetFeatureCount()));
+    while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+        if (control.isCancelled())
+            return fail(QStringLiteral("loading was cancelled"));
+        readValues(*feature, map);
+        readShape(feature->GetGeometryRef(), map);
+        ++map.records;
+        if (map.records % 256 == 0)
+            control.report(std::min(1.0, map.records / expected));
+    }
+    return map.records > 0 || fail(QStringLiteral("holds no records"));
+}
+
+void PrescriptionReader::readValues(const OGRFeature &feature, SourceMap &map)
+{
+    for (SourceColumn &column : map.columns) {
+        double value = notANumber;
+        bool isNumber = true;
+        if (feature.IsFieldSetAndNotNull(column.field)) {
+            if (column.isText)
+                value = numberFromText(feature.GetFieldAsString(column.field), isNumber);
+            else
+                value = feature.GetFieldAsDouble(column.field);
+            if (!isNumber || (!isRate(value) && !(column.isText && std::isnan(value))))
+                ++column.unreadable;
+        }
+        // The sum turns a negative zero into the plain one.
+        column.values.push_back(isNumber && isRate(value) ? value + 0.0 : notANumber);
+    }
+}
+
+void PrescriptionReader::readShape(const OGRGeometry *geometry, SourceMap &map)
+{
+    if (geometry == nullptr || geometry->IsEmpty()) {
+        ++map.emptyRecords;
+        return;
+    }
+    const size_t firstRing = map.rings.size();
+    const size_t firstVertex = map.xs.size();
+    const bool hasAreas = appendGeometry(*geometry, map);
+    const bool finite = isFinite(map, firstVertex);
+    if (hasAreas && finite && map.rings.size() > firstRing)
+        return;
+    if (!hasAreas)
+        ++map.otherRecords;
+    else if (!finite)
+        ++map.notFiniteRecords;
+    else
+        ++map.emptyRecords;
+    map.rings.resize(firstRing);
+    map.xs.resize(firstVertex);
+    map.ys.resize(firstVertex);
+}
+
+bool PrescriptionReader::appendGeometry(const OGRGeometry &geometry, SourceMap &map)
+{
+    const OGRwkbGeometryType kind = wkbFlatten(geometry.getGeometryType());
+    if (kind == wkbPolygon || kind == wkbTriangle) {
+        appendPolygon(*geometry.toPolygon(), map);
+        return true;
+    }
+    if (OGR_GT_IsNonLinear(kind)) {
+        const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry());
+        return linear && !OGR_GT_IsNonLinear(linear->getGeometryType()) && appendGeometry(*linear, map);
+    }
+    bool hasAreas = false;
+    if (OGR_GT_IsSubClassOf(kind, wkbGeometryCollection)) {
+        for (const OGRGeometry *member : *geometry.toGeometryCollection())
+            hasAreas = appendGeometry(*member, map) || hasAreas;
+    } else if (OGR_GT_IsSubClassOf(kind, wkbPolyhedralSurface)) {
+        for (const OGRPolygon *face : *geometry.toPolyhedralSurface()) {
+            appendPolygon(*face, map);
+            hasAreas = true;
+        }
+    }
+    return hasAreas;
+}
+
+void PrescriptionReader::appendPolygon(const OGRPolygon &polygon, SourceMap &map)
+{
+    const int holes = polygon.getNumInteriorRings();
+    for (int i = -1; i < holes; ++i) {
+        const OGRLinearRing *ring = i < 0 ? polygon.getExteriorRing() : polygon.getInteriorRing(i);
+        const int count = ring == nullptr ? 0 : ring->getNumPoints();
+        const size_t first = map.xs.size();
+        map.xs.resize(first + count);
+        map.ys.resize(first + count);
+        if (count > 0)
+            ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
+        if (isFinite(map, first) && !enclosesSomething(map, first)) {
+            map.xs.resize(first);
+            map.ys.resize(first);
+            ++map.droppedRings;
+            if (i < 0)
+                return;
+            continue;
+        }
+        map.rings.push_back({first, static_cast<size_t>(count), map.records, i >= 0});
+    }
+}

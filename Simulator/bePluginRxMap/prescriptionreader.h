@@ -1,0 +1,40 @@
+#pragma once
+
+#include "loadcontrol.h"
+#include "sourcemap.h"
+
+#include <QStringList>
+
+class GDALDataset;
+class OGRFeature;
+class OGRGeometry;
+class OGRLayer;
+class OGRPolygon;
+
+/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Curves are made
+/// straight, heights and measures dropped. Blocks; use in the loading thread, inside a GdalSession.
+class PrescriptionReader {
+public:
+    /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that may be a rate.
+    PrescriptionReader(const QString &path, const QStringList &columns, const LoadControl &control);
+
+    /// False when the file cannot be used; the reason, without the file's name, is then in error().
+    bool read(SourceMap &map);
+    QString error() const { return reason; }
+
+private:
+    bool fail(const QString &text);
+    bool checkFile();
+    OGRLayer *chooseLayer(GDALDataset &dataset, SourceMap &map);
+    bool chooseColumns(OGRLayer &layer, SourceMap &map);
+    bool readRecords(OGRLayer &layer, SourceMap &map);
+    void readValues(const OGRFeature &feature, SourceMap &map);
+    void readShape(const OGRGeometry *geometry, SourceMap &map);
+    bool appendGeometry(const OGRGeometry &geometry, SourceMap &map);
+    void appendPolygon(const OGRPolygon &polygon, SourceMap &map);
+
+    QString path;
+    QStringList wanted;
+    const LoadControl &control;
+    QString reason;
+};

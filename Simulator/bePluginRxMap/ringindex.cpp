@@ -1,0 +1,55 @@
+#include "ringindex.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr size_t shortestSlabbedRing = 48;
+constexpr size_t edgesPerSlab = 4;
+
+} // namespace
+
+RingIndex::RingIndex(const PlaneVertex *ringVertices, size_t vertexCount)
+    : vertices(ringVertices)
+    , count(vertexCount)
+    , lowest(std::numeric_limits<double>::infinity())
+    , highest(-std::numeric_limits<double>::infinity())
+{
+    for (size_t i = 0; i < count; ++i) {
+        lowest = std::min(lowest, vertices[i].y);
+        highest = std::max(highest, vertices[i].y);
+    }
+    if (count >= shortestSlabbedRing && highest > lowest)
+        buildSlabs();
+}
+
+size_t RingIndex::slabOf(double y) const
+{
+    const size_t last = slabStarts.size() - 2;
+    return std::min(last, static_cast<size_t>((y - lowest) * slabsPerMetre));
+}
+
+void RingIndex::buildSlabs()
+{
+    const size_t slabs = count / edgesPerSlab;
+    slabsPerMetre = static_cast<double>(slabs) / (highest - lowest);
+    slabStarts.assign(slabs + 1, 0);
+    const auto forEachSlab = [this](size_t i, auto visit) {
+        const PlaneVertex &from = vertices[i == 0 ? count - 1 : i - 1];
+        const PlaneVertex &to = vertices[i];
+        if (from.y == to.y)
+            return;
+        const size_t last = slabOf(std::max(from.y, to.y));
+        for (size_t slab = slabOf(std::min(from.y, to.y)); slab <= last; ++slab)
+            visit(slab);
+    };
+    for (size_t i = 0; i < count; ++i)
+        forEachSlab(i, [this](size_t slab) { ++slabStarts[slab + 1]; });
+    for (size_t slab = 0; slab < slabs; ++slab)
+        slabStarts[slab + 1] += slabStarts[slab];
+    slabEdges.resize(slabStarts.back());
+    std::vector<size_t> next(slabStarts.begin(), slabStarts.end() - 1);
+    for (size_t i = 0; i < count; ++i)
+        forEachSlab(i, [this, &next, i](size_t slab) { slabEdges[next[slab]++] = static_cast<unsigned>(i); });
+}
