@@ -18,29 +18,44 @@ std::vector<float> sortedFinite(const std::vector<float> &rates)
     return sorted;
 }
 
-/// The greatest of 1, 2 or 5 times a power of ten that is not above `value`.
-double roundStep(double value)
+/// The number from `low` to `high` (both positive) with the fewest digits, even ones and fives preferred.
+double roundest(double low, double high)
 {
-    const double decade = std::pow(10.0, std::floor(std::log10(value)));
-    const double leading = value / decade;
-    return decade * (leading >= 5.0 ? 5.0 : leading >= 2.0 ? 2.0 : 1.0);
+    const int decade = static_cast<int>(std::ceil(std::log10(high)));
+    constexpr int mostDigits = 9;
+    for (int exponent = decade; exponent > decade - mostDigits; --exponent) {
+        for (const double digit : {5.0, 2.0, 1.0}) {
+            const double step = digit * std::pow(10.0, exponent);
+            const double candidate = std::ceil(low / step) * step;
+            if (candidate <= high)
+                return candidate;
+        }
+    }
+    return high;
 }
 
-/// Limits at round numbers that split `sorted` (more different rates than classes) into classes of about equally many.
-void appendQuantiles(const std::vector<float> &sorted, int classes, std::vector<double> &limits)
+double widened(double limit)
 {
+    return static_cast<double>(static_cast<float>(limit));
+}
+
+/// Limits at round numbers that split `sorted` (positive, more different rates than classes) into classes of about
+/// equally many.
+void appendQuantiles(const std::vector<float> &sorted, size_t classes, std::vector<double> &limits)
+{
+    const size_t size = sorted.size();
+    // A limit may move by a quarter of a class to become rounder.
+    const size_t slack = size / (4 * classes);
     const double greatest = sorted.back();
-    const double step = roundStep((greatest - sorted.front()) / (4.0 * classes));
-    const auto widened = [](double limit) { return static_cast<double>(static_cast<float>(limit)); };
-    for (int k = 1; k < classes; ++k) {
-        const double quantile = sorted[sorted.size() * k / classes];
-        const double limit = widened(std::round(quantile / step) * step);
-        const double previous = limits.empty() ? static_cast<double>(sorted.front()) : limits.back();
-        const bool isNew = limits.empty() ? limit >= previous : limit > previous;
-        if (isNew && limit < greatest)
+    for (size_t k = 1; k < classes; ++k) {
+        const size_t quantile = size * k / classes;
+        const double limit = widened(
+            roundest(sorted[quantile - std::min(slack, quantile)], sorted[std::min(size - 1, quantile + slack)]));
+        if ((limits.empty() || limit > limits.back()) && limit < greatest)
             limits.push_back(limit);
     }
-    const double last = widened(std::ceil(greatest / step) * step);
+    constexpr double headroom = 1.05;
+    const double last = widened(roundest(greatest, greatest * headroom));
     limits.push_back(std::isfinite(last) && last >= greatest ? last : greatest);
 }
 
@@ -73,7 +88,7 @@ std::vector<double> LegendBuilder::limits(const std::vector<float> &sortedRates)
         others.erase(others.begin(), std::upper_bound(others.begin(), others.end(), 0.0F));
         result.push_back(0.0);
     }
-    appendQuantiles(others, mostClasses - static_cast<int>(result.size()), result);
+    appendQuantiles(others, mostClasses - result.size(), result);
     dropEmptyClasses(sortedRates, result);
     return result;
 }
