@@ -19,6 +19,12 @@ Collected &collected()
     return instance;
 }
 
+/// What the display server complains of is not the program's doing: without a window manager it refuses focus.
+bool isFromDisplay(const QMessageLogContext &context)
+{
+    return qstrcmp(context.category, "qt.qpa.xcb") == 0;
+}
+
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     QtMessageHandler previous = nullptr;
@@ -26,7 +32,7 @@ void collect(QtMsgType type, const QMessageLogContext &context, const QString &t
         QMutexLocker locker(&collected().mutex);
         if (type == QtDebugMsg || type == QtInfoMsg)
             collected().debugLines.append(text);
-        else
+        else if (!isFromDisplay(context))
             collected().warnings.append(text);
         previous = collected().previous;
     }

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Framework/groupproperty.h"
+
+/// A bin of the machine, as the dialog reads it by name.
+class BinGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, compositionShortName, CompositionShortName)
+    ORVIK_GROUP_PROPERTY(QString, rxMapGroupName, RxMapGroupName)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QString compositionShortName;
+        QString rxMapGroupName;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A bin of which only the prescription's name is known.
+class NamelessBinGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, rxMapGroupName, RxMapGroupName)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QString rxMapGroupName;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A position solution whose standstill may be of any type.
+class GpsGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(bool, vehicleIsStopped, VehicleIsStopped)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        bool vehicleIsStopped = false;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A position solution that tells standstill as text.
+class TextGpsGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, vehicleIsStopped, VehicleIsStopped)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QString vehicleIsStopped;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+class QuillSpanGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(bool, reInit, ReInit)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        bool reInit = false;
+    };
+    QScopedPointer<Values> d{new Values};
+};

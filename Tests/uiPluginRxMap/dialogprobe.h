@@ -1,0 +1,63 @@
+#pragma once
+
+#include "rxmapwidgetdialog01.h"
+
+#include "Framework/orvikbutton.h"
+#include "Framework/orviklineedit.h"
+
+#include <QLabel>
+
+/// Lets tests see what the dialog keeps to itself.
+class DialogProbe {
+public:
+    explicit DialogProbe(RxMapWidgetDialog01 &dialog)
+        : d(dialog)
+    {
+    }
+
+    /// Types into an edit as an operator does: shows the text and reports it.
+    static void type(OrvikLineEdit *edit, const QString &text)
+    {
+        edit->setText(text);
+        Q_EMIT edit->textChanged(edit->id());
+    }
+    static void release(OrvikButton *button) { Q_EMIT button->buttonReleased(button->id()); }
+
+    OrvikLineEdit *lookAheadEdit() const { return d.lookAheadEdit; }
+    OrvikLineEdit *defaultRateEdit() const { return d.defaultRateEdit; }
+    OrvikButton *applyToAllBox() const { return d.applyToAllBox; }
+    OrvikButton *zeroRateShutoffBox() const { return d.zeroRateShutoffBox; }
+    OrvikButton *doneButton() const { return d.doneButton; }
+    OrvikButton *productButton(int index) const { return d.productButtons.at(index); }
+    int productButtonCount() const { return d.productButtons.size(); }
+    QLabel *vehicleMovingLabel() const { return d.vehicleMovingLabel; }
+    QLabel *notUnderVraLabel() const { return d.notUnderVraLabel; }
+    QLabel *defaultRateLabel() const { return d.defaultRateLabel; }
+    QList<QWidget *> valueControls() const
+    {
+        return {d.lookAheadEdit,  d.applyToAllBox,        d.zeroRateShutoffBox, d.defaultRateEdit,
+                d.lookAheadLabel, d.zeroRateShutoffLabel, d.applyToAllLabel,    d.defaultRateLabel};
+    }
+    int selectedProduct() const { return d.selectedProduct; }
+    void selectProduct(int index) const { d.selectedProduct = index; }
+    QList<OrvikTypes::RX_SETTINGS> &settings() const { return d.settings; }
+    QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> &mappings() const { return d.rateCalMappings; }
+    QFont dialogFont() const { return d.dialogFont; }
+    QFont largeFont() const { return d.largeFont; }
+    QSize screenSize() const { return d.screenSize; }
+    QList<int> pointSizes() const
+    {
+        return {d.titlePointSize, d.subtitlePointSize, d.captionPointSize, d.largePointSize, d.smallPointSize};
+    }
+    int groupCount() const { return d.rxMapGroups.size(); }
+    double toDisplayFactor() const { return d.toDisplayFactor; }
+    double fromDisplayFactor() const { return d.fromDisplayFactor; }
+    void setFactors(double toDisplay, double fromDisplay) const
+    {
+        d.toDisplayFactor = toDisplay;
+        d.fromDisplayFactor = fromDisplay;
+    }
+
+private:
+    RxMapWidgetDialog01 &d;
+};

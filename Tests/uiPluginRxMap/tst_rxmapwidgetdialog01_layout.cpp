@@ -1,0 +1,460 @@
+#include "dialoghost.h"
+#include "dialogprobe.h"
+#include "testbase.h"
+
+#include "Framework/orvikimage.h"
+
+#include <QPixmap>
+#include <QTemporaryDir>
+
+/// How the dialog is built.
+class TestDialogLayout : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theDialogHasTheSizeOfItsBackgroundAndIsCentred_data();
+    void theDialogHasTheSizeOfItsBackgroundAndIsCentred();
+    void theWindowHasExactlyTwoFlags();
+    void controlsStandAtTheirPlaces_data();
+    void controlsStandAtTheirPlaces();
+    void controlsAreStackedInTheirOrder();
+    void slotsComeInTheirOrder();
+    void everySignalIsConnectedToItsSlot_data();
+    void everySignalIsConnectedToItsSlot();
+    void captionsHaveTheirSizes();
+    void messagesAreRed();
+    void theFontFamilyIsTheTerminals();
+    void addCaptionChangesTheDialogsFont();
+    void lineEditsTakeTheirLimits();
+    void productButtonsAreSpreadOverTheHeight_data();
+    void productButtonsAreSpreadOverTheHeight();
+    void productLabels_data();
+    void productLabels();
+    void theVerticalCaptionLiesOverTheButtons();
+    void theFirstMasterIsSelected();
+    void withoutAMasterTheFirstProductIsSelected();
+    void mappingsOfAllGroupsAreJoinedInOrder();
+    void settingsComeFromTheFirstGroup();
+    void missingPiecesLeaveAUsableDialog_data();
+    void missingPiecesLeaveAUsableDialog();
+    void membersKeepTheirSizes();
+};
+
+namespace {
+
+struct Opened {
+    explicit Opened(DialogHost &host)
+        : dialog(&host.broker, host.images, nullptr)
+        , probe(dialog)
+    {
+    }
+
+    RxMapWidgetDialog01 dialog;
+    DialogProbe probe;
+};
+
+} // namespace
+
+void TestDialogLayout::theDialogHasTheSizeOfItsBackgroundAndIsCentred_data()
+{
+    QTest::addColumn<QSize>("background");
+    QTest::addColumn<QRect>("geometry");
+    QTest::newRow("800 x 800") << QSize(800, 800) << QRect(240, 0, 800, 800);
+    QTest::newRow("odd difference") << QSize(801, 795) << QRect(239, 2, 801, 795);
+    QTest::newRow("larger than the display") << QSize(1283, 805) << QRect(-1, -2, 1283, 805);
+}
+
+void TestDialogLayout::theDialogHasTheSizeOfItsBackgroundAndIsCentred()
+{
+    QFETCH(QSize, background);
+    QFETCH(QRect, geometry);
+    QTemporaryDir images;
+    QPixmap(background).save(images.filePath(QStringLiteral("RxOptionsPopup.png")));
+    DialogHost host;
+    host.images = QDir(images.path());
+    Opened opened(host);
+    QCOMPARE(opened.dialog.geometry(), geometry);
+    QCOMPARE(opened.probe.doneButton()->pos(), QPoint(background.width() - 85, 5));
+    QCOMPARE(opened.probe.screenSize(), QSize(1280, 800));
+}
+
+void TestDialogLayout::theWindowHasExactlyTwoFlags()
+{
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.dialog.windowFlags() & ~Qt::WindowType_Mask, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    QVERIFY(!(opened.dialog.windowFlags() & Qt::Dialog & ~Qt::Window));
+}
+
+void TestDialogLayout::controlsStandAtTheirPlaces_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("title") << "" << QPoint(143, 50) << "Rx Map Settings";
+    QTest::newRow("zero-rate label") << "zeroRateShutoffLabel" << QPoint(201, 107) << "Enable Zero Rate Shutoff";
+    QTest::newRow("zero-rate box") << "zeroRateShutoffBox" << QPoint(133, 97) << "";
+    QTest::newRow("apply label") << "applyToAllLabel" << QPoint(269, 171) << "Apply to all products";
+    QTest::newRow("apply box") << "applyToAllBox" << QPoint(201, 161) << "";
+    QTest::newRow("look-ahead label") << "lookAheadLabel" << QPoint(133, 345) << "On look-ahead (seconds)";
+    QTest::newRow("look-ahead edit") << "lookAheadEdit" << QPoint(381, 330) << "";
+    QTest::newRow("rate edit") << "defaultRateEdit" << QPoint(381, 399) << "";
+    QTest::newRow("rate label") << "defaultRateLabel" << QPoint(133, 414) << "Default Rate (kg/ha)";
+    QTest::newRow("not under VRA") << "notUnderVraLabel" << QPoint(133, 110)
+                                   << "This product node is not under VRA control.";
+    QTest::newRow("moving") << "vehicleMovingLabel" << QPoint(133, 725)
+                            << "Changes not permitted while vehicle is moving.";
+    QTest::newRow("done") << "doneButton" << QPoint(715, 5) << "";
+}
+
+void TestDialogLayout::controlsStandAtTheirPlaces()
+{
+    QFETCH(QString, name);
+    QFETCH(QPoint, position);
+    QFETCH(QString, text);
+    DialogHost host;
+    Opened opened(host);
+    QWidget *found = nullptr;
+    for (QWidget *widget : opened.dialog.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        auto *label = qobject_cast<QLabel *>(widget);
+        if (name.isEmpty() ? label != nullptr && label->text() == text : widget->objectName() == name)
+            found = widget;
+    }
+    QVERIFY(found);
+    QCOMPARE(found->pos(), position);
+    if (auto *label = qobject_cast<QLabel *>(found)) {
+        QCOMPARE(label->text(), text);
+        QVERIFY(label->testAttribute(Qt::WA_TranslucentBackground));
+    }
+    if (name == QLatin1String("defaultRateLabel"))
+        QCOMPARE(QSize(found->minimumWidth(), found->maximumWidth()), QSize(247, 247));
+}
+
+void TestDialogLayout::controlsAreStackedInTheirOrder()
+{
+    DialogHost host(2);
+    Opened opened(host);
+    QStringList order;
+    for (QObject *child : opened.dialog.children()) {
+        if (qobject_cast<OrvikImage *>(child) != nullptr)
+            order.append(QStringLiteral("background"));
+        else if (auto *label = qobject_cast<QLabel *>(child); label != nullptr && label->objectName().isEmpty())
+            order.append(label->text().left(2));
+        else if (child->isWidgetType())
+            order.append(child->objectName());
+    }
+    const QStringList expected{"background",
+                               "doneButton",
+                               "Rx",
+                               "zeroRateShutoffLabel",
+                               "zeroRateShutoffBox",
+                               "applyToAllLabel",
+                               "applyToAllBox",
+                               "lookAheadLabel",
+                               "lookAheadEdit",
+                               "defaultRateEdit",
+                               "defaultRateLabel",
+                               "notUnderVraLabel",
+                               "vehicleMovingLabel",
+                               "productButton0",
+                               "productButton1",
+                               "P\n"};
+    QCOMPARE(order, expected);
+}
+
+void TestDialogLayout::slotsComeInTheirOrder()
+{
+    const QMetaObject &meta = RxMapWidgetDialog01::staticMetaObject;
+    QCOMPARE(QString::fromLatin1(meta.className()), QStringLiteral("RxMapWidgetDialog01"));
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QStringList signatures;
+    QList<QByteArray> names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
+        QCOMPARE(meta.method(i).access(), QMetaMethod::Public);
+        signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        names.append(meta.method(i).parameterNames());
+    }
+    QCOMPARE(signatures,
+             (QStringList{"doneButtonReleased(int)", "onValueChanged(int)", "productSelectionChanged(int)",
+                          "testForZeroSpeed()"}));
+    QCOMPARE(names, (QList<QByteArray>{"", "id", "buttonIndex"}));
+}
+
+void TestDialogLayout::everySignalIsConnectedToItsSlot_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<int>("id");
+    QTest::newRow("done") << "doneButton" << 0;
+    QTest::newRow("apply to all") << "applyToAllBox" << 0;
+    QTest::newRow("look-ahead") << "lookAheadEdit" << 1;
+    QTest::newRow("zero rate") << "zeroRateShutoffBox" << 2;
+    QTest::newRow("default rate") << "defaultRateEdit" << 3;
+    QTest::newRow("product 1") << "productButton0" << 0;
+    QTest::newRow("product 3") << "productButton2" << 2;
+}
+
+void TestDialogLayout::everySignalIsConnectedToItsSlot()
+{
+    QFETCH(QString, control);
+    QFETCH(int, id);
+    DialogHost host;
+    Opened opened(host);
+    opened.dialog.show();
+    const DialogProbe &probe = opened.probe;
+    auto *widget = opened.dialog.findChild<QWidget *>(control);
+    QVERIFY(widget);
+    if (auto *edit = qobject_cast<OrvikLineEdit *>(widget)) {
+        QCOMPARE(edit->id(), id);
+        DialogProbe::type(edit, QStringLiteral("7.0"));
+        QVERIFY(probe.settings().at(0).onLookAheadMs == 7000 || probe.mappings().at(0).defaultRate == 7.0);
+        return;
+    }
+    auto *button = qobject_cast<OrvikButton *>(widget);
+    QCOMPARE(button->id(), id);
+    DialogProbe::release(button);
+    if (control == QLatin1String("doneButton"))
+        QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
+    else if (control.startsWith(QLatin1String("productButton")))
+        QCOMPARE(probe.selectedProduct(), id);
+    else
+        QCOMPARE(button->currentImage(), 1);
+}
+
+void TestDialogLayout::captionsHaveTheirSizes()
+{
+    DialogHost host;
+    Opened opened(host);
+    for (QLabel *label : opened.dialog.findChildren<QLabel *>()) {
+        const int expected = label->text() == QLatin1String("Rx Map Settings") ? 26
+            : label->text().startsWith(QLatin1String("P\n"))                   ? 18
+                                                                               : 16;
+        QCOMPARE(label->font().pointSize(), expected);
+        QCOMPARE(label->font().weight(), 50);
+    }
+}
+
+void TestDialogLayout::messagesAreRed()
+{
+    DialogHost host;
+    Opened opened(host);
+    for (QLabel *label : {opened.probe.vehicleMovingLabel(), opened.probe.notUnderVraLabel()}) {
+        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            QCOMPARE(label->palette().brush(group, label->foregroundRole()), QBrush(Qt::red));
+    }
+}
+
+void TestDialogLayout::theFontFamilyIsTheTerminals()
+{
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.probe.dialogFont().family(), QStringLiteral("Liberation Sans"));
+}
+
+void TestDialogLayout::addCaptionChangesTheDialogsFont()
+{
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.probe.dialogFont().pointSize(), 18);
+    const QLabel *label = opened.dialog.addCaption(QStringLiteral("text"), QPoint(3, 4), 31, &opened.dialog);
+    QCOMPARE(opened.probe.dialogFont().pointSize(), 31);
+    QCOMPARE(label->font().pointSize(), 31);
+    QCOMPARE(label->pos(), QPoint(3, 4));
+    QCOMPARE(label->parent(), &opened.dialog);
+}
+
+void TestDialogLayout::lineEditsTakeTheirLimits()
+{
+    DialogHost host;
+    Opened opened(host);
+    opened.dialog.show();
+    // Keys as an operator's keyboard sends them; a fourth digit and a second decimal are refused.
+    for (OrvikLineEdit *edit : {opened.probe.lookAheadEdit(), opened.probe.defaultRateEdit()}) {
+        edit->setFocus();
+        edit->setText(QString());
+        QTest::keyClicks(edit, QStringLiteral("123456.78"));
+    }
+    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("123.7"));
+    QVERIFY(opened.probe.defaultRateEdit()->getText().toDouble() <= 5000.0);
+    QCOMPARE(opened.probe.defaultRateEdit()->getText().section(QLatin1Char('.'), 1).size(), 1);
+}
+
+void TestDialogLayout::productButtonsAreSpreadOverTheHeight_data()
+{
+    QTest::addColumn<int>("products");
+    QTest::addColumn<int>("buttonHeight");
+    QTest::addColumn<QList<int>>("tops");
+    QTest::newRow("three of 100") << 3 << 100 << QList<int>{125, 350, 575};
+    QTest::newRow("one") << 1 << 100 << QList<int>{350};
+    QTest::newRow("twelve overlap") << 12 << 100
+                                    << QList<int>{-30, 40, 110, 180, 250, 320, 390, 460, 530, 600, 670, 740};
+    QTest::newRow("none") << 0 << 100 << QList<int>{};
+}
+
+void TestDialogLayout::productButtonsAreSpreadOverTheHeight()
+{
+    QFETCH(int, products);
+    QFETCH(int, buttonHeight);
+    QFETCH(QList<int>, tops);
+    QTemporaryDir images;
+    QPixmap(800, 800).save(images.filePath(QStringLiteral("RxOptionsPopup.png")));
+    for (const char *name : {"productButtonOff.png", "productButtonOn.png"})
+        QPixmap(100, buttonHeight).save(images.filePath(QString::fromLatin1(name)));
+    DialogHost host(products);
+    host.images = QDir(images.path());
+    Opened opened(host);
+    QCOMPARE(opened.probe.productButtonCount(), products);
+    for (int i = 0; i < products; ++i)
+        QCOMPARE(opened.probe.productButton(i)->pos(), QPoint(23, tops.at(i)));
+}
+
+void TestDialogLayout::productLabels_data()
+{
+    QTest::addColumn<int>("product");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("named") << 0 << "Bin1";
+    QTest::newRow("unnamed, ninth") << 8 << "P09";
+    QTest::newRow("unnamed, tenth") << 9 << "P10";
+    QTest::newRow("unnamed, eleventh") << 10 << "P11";
+    QTest::newRow("named empty") << 1 << "";
+}
+
+void TestDialogLayout::productLabels()
+{
+    QFETCH(int, product);
+    DialogHost host(8);
+    host.bins.at(1)->setCompositionShortName(QString());
+    for (int number = 9; number <= 11; ++number)
+        host.broker.publishGroup(new NamelessBinGroup(QStringLiteral("system.binGroup.%1").arg(number)));
+    Opened opened(host);
+    QTEST(opened.probe.productButton(product)->text(0), "label");
+    const OrvikButton *button = opened.probe.productButton(product);
+    QCOMPARE(button->textColor(0), product == 0 ? QColor(Qt::white) : QColor(129, 129, 129, 255));
+    QCOMPARE(button->currentImage(), product == 0 ? 1 : 0);
+}
+
+void TestDialogLayout::theVerticalCaptionLiesOverTheButtons()
+{
+    DialogHost host;
+    Opened opened(host);
+    auto *caption = qobject_cast<QLabel *>(opened.dialog.children().constLast());
+    QVERIFY(caption);
+    QCOMPARE(caption->text(), QStringLiteral("P\nR\nO\nD\nU\nC\nT\nS"));
+    QCOMPARE(caption->geometry(), QRect(5, 0, 50, opened.dialog.height()));
+    QCOMPARE(caption->palette().brush(QPalette::Disabled, caption->foregroundRole()), QBrush(QColor(142, 142, 142)));
+}
+
+void TestDialogLayout::theFirstMasterIsSelected()
+{
+    DialogHost host(4);
+    for (int index : {2, 3}) {
+        OrvikTypes::RX_SETTINGS entry = host.entry(index);
+        entry.isMaster = true;
+        entry.zeroRateShutoff = index == 2;
+        host.editSettings(index, entry);
+    }
+    Opened opened(host);
+    QCOMPARE(opened.probe.selectedProduct(), 2);
+    QCOMPARE(opened.probe.productButton(0)->currentImage(), 0);
+    QCOMPARE(opened.probe.productButton(0)->textColor(0), QColor(129, 129, 129));
+    QCOMPARE(opened.probe.productButton(2)->currentImage(), 1);
+    QCOMPARE(opened.probe.productButton(2)->textColor(0), QColor(Qt::white));
+    QCOMPARE(opened.probe.applyToAllBox()->currentImage(), 1);
+    QVERIFY(!opened.probe.settings().at(3).isMaster);
+    QVERIFY(opened.probe.settings().at(0).zeroRateShutoff);
+}
+
+void TestDialogLayout::withoutAMasterTheFirstProductIsSelected()
+{
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.probe.selectedProduct(), 0);
+    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("1.0"));
+    QCOMPARE(opened.probe.applyToAllBox()->currentImage(), 0);
+}
+
+void TestDialogLayout::mappingsOfAllGroupsAreJoinedInOrder()
+{
+    DialogHost host(3);
+    host.host.addMap(QStringLiteral("another"), {5, 4});
+    Opened opened(host);
+    QCOMPARE(opened.probe.groupCount(), 2);
+    QStringList channels;
+    for (const auto &mapping : opened.probe.mappings())
+        channels.append(mapping.rateCalName.right(1));
+    QCOMPARE(channels.join(QString()), QStringLiteral("12354"));
+}
+
+void TestDialogLayout::settingsComeFromTheFirstGroup()
+{
+    DialogHost host(2);
+    DbGroupRxMap *second = host.host.addMap(QStringLiteral("another"), {1});
+    second->setSettings({OrvikTypes::RX_SETTINGS()});
+    Opened opened(host);
+    QCOMPARE(opened.probe.settings(), host.map->getSettings());
+}
+
+void TestDialogLayout::missingPiecesLeaveAUsableDialog_data()
+{
+    QTest::addColumn<QString>("missing");
+    for (const char *missing : {"map", "map of another class", "settings", "units", "gps", "products", "node", "loader",
+                                "bins", "images", "group removed while open", "everything"})
+        QTest::newRow(missing) << QString::fromLatin1(missing);
+}
+
+void TestDialogLayout::missingPiecesLeaveAUsableDialog()
+{
+    QFETCH(QString, missing);
+    DialogHost host;
+    const bool all = missing == QLatin1String("everything");
+    if (all || missing == QLatin1String("map") || missing == QLatin1String("map of another class"))
+        host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    if (missing == QLatin1String("map of another class"))
+        host.broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
+    if (missing == QLatin1String("settings"))
+        host.map->setSettings({OrvikTypes::RX_SETTINGS()});
+    if (all || missing == QLatin1String("units"))
+        host.broker.removeGroup(QStringLiteral("QmlUnitsConverter"));
+    if (all || missing == QLatin1String("gps"))
+        host.broker.removeGroup(QStringLiteral("mainGpsSolution"));
+    if (all || missing == QLatin1String("products")) {
+        host.products.clear();
+        host.setLoaded();
+    }
+    if (missing == QLatin1String("node"))
+        host.products.at(0)->setPrimaryProductNodeGroup(nullptr);
+    if (missing == QLatin1String("loader"))
+        host.products.at(0)->setRxMapLoader(nullptr);
+    if (all || missing == QLatin1String("bins")) {
+        for (BinGroup *bin : qAsConst(host.bins))
+            host.broker.removeGroup(bin->name());
+    }
+    if (all || missing == QLatin1String("images"))
+        host.images = QDir(QStringLiteral("/nowhere"));
+
+    Opened opened(host);
+    opened.dialog.show();
+    if (missing == QLatin1String("group removed while open"))
+        host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    for (int product = 0; product < 3; ++product)
+        opened.dialog.productSelectionChanged(product);
+    DialogProbe::type(opened.probe.lookAheadEdit(), QStringLiteral("1.5"));
+    DialogProbe::type(opened.probe.defaultRateEdit(), QStringLiteral("12.5"));
+    DialogProbe::release(opened.probe.zeroRateShutoffBox());
+    DialogProbe::release(opened.probe.applyToAllBox());
+    DialogProbe::release(opened.probe.applyToAllBox());
+    opened.dialog.setControlsEnabledState(true);
+    DialogProbe::release(opened.probe.doneButton());
+    QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
+}
+
+void TestDialogLayout::membersKeepTheirSizes()
+{
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.probe.pointSizes(), (QList<int>{26, 22, 16, 22, 14}));
+    QCOMPARE(opened.probe.largeFont().pointSize(), 22);
+}
+
+QTEST_MAIN(TestDialogLayout)
+#include "tst_rxmapwidgetdialog01_layout.moc"
