@@ -33,7 +33,7 @@ public:
     void setDisableMode(bool dimmed);
     /// Whether a pressed button is highlighted; on at first.
     void setHighLight(bool highlighted);
-    /// Adds or replaces text item `item`, centred on the button and shortened to its width.
+    /// Adds or replaces text item `item`, centred on the button; made smaller, then shortened, to fit its width.
     void addText(int item, const QString &text, const QColor &color, const QFont &font);
     /// Colour of an existing text item; others are ignored.
     void setTextColor(int item, const QColor &color);
@@ -44,7 +44,8 @@ public:
 Q_SIGNALS:
     void buttonPressed(int id);
     void buttonReleased(int id);
-    /// The button was held for the long-touch time; buttonReleased does not follow.
+    /// The button was held for the long-touch time; buttonReleased does not follow. A button on which nobody waits for
+    /// this, or one that repeats, takes a long hold as a touch like any other.
     void longTouch(int id);
 
 protected:
@@ -52,6 +53,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

@@ -31,13 +31,15 @@ public:
 Q_SIGNALS:
     void buttonPressed(int id);
     void buttonReleased(int id);
-    /// The button was held for the long-touch time; buttonReleased does not follow.
+    /// The button was held for the long-touch time; buttonReleased does not follow. A button on which nobody waits for
+    /// this takes a long hold as a touch like any other.
     void longTouch(int id);
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void ungrabMouseEvent(QEvent *event) override;
 
 private:
     QScopedPointer<OrvikButtonQgwPrivate> d;

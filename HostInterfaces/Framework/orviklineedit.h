@@ -12,6 +12,8 @@
 class OrvikLineEditPrivate;
 
 /// A numeric entry field. A touch opens the on-screen keypad; a hardware keyboard works too. Text is in the C locale.
+/// The first keystroke of an entry replaces the text; one is refused when the text after it could not stand for, or grow
+/// into, a number within the limits. Of the two kinds of limits, those set last hold.
 class FRAMEWORK_EXPORT OrvikLineEdit : public QWidget {
     Q_OBJECT
 
@@ -30,16 +32,18 @@ public:
     QString getText() const;
 
 Q_SIGNALS:
-    /// The operator changed the text; comes at every keystroke.
+    /// The operator changed the text; comes at every keystroke that does.
     void textChanged(int id);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

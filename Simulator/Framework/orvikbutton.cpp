@@ -1,17 +1,16 @@
 #include "Framework/orvikbutton.h"
 
+#include "buttonimages.h"
+#include "touchpress.h"
+
 #include <QEvent>
+#include <QFontMetrics>
 #include <QMap>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPixmap>
-#include <QTimer>
 
 namespace {
-
-constexpr int longTouchMs = 800;
-constexpr int repeatMs = 150;
-constexpr double dimmedOpacity = 0.4;
 
 struct TextItem {
     QString text;
@@ -19,41 +18,61 @@ struct TextItem {
     QFont font;
 };
 
+constexpr int textMargin = 12;           // pixels on either side
+constexpr qreal smallestTextShare = 0.6; // of the font size asked for
+constexpr qreal textShareStep = 0.05;
+constexpr qreal dimmedTextOpacity = 0.5;
+
+QFont scaled(QFont font, qreal share)
+{
+    if (font.pixelSize() > 0)
+        font.setPixelSize(qMax(1, qRound(font.pixelSize() * share)));
+    else
+        font.setPointSizeF(qMax(1.0, font.pointSizeF() * share));
+    return font;
+}
+
+/// The font, made smaller step by step, as far as it stays readable, until the text fits the width.
+QFont fittedFont(const QFont &font, const QString &text, int width)
+{
+    QFont fitted = font;
+    for (qreal share = 1.0; share > smallestTextShare && QFontMetrics(fitted).horizontalAdvance(text) > width;) {
+        share -= textShareStep;
+        fitted = scaled(font, share);
+    }
+    return fitted;
+}
+
 } // namespace
 
 class OrvikButtonPrivate {
 public:
-    int id = 0;
-    QList<QPixmap> images;
-    int currentImage = 0;
-    bool isDimmedWhenDisabled = false;
-    bool isHighlighted = true;
-    bool repeats = false;
-    bool isPressed = false;
+    OrvikButtonPrivate(int buttonId, const QDir &imageDir, const QStringList &files)
+        : id(buttonId)
+        , images(imageDir, files)
+    {
+    }
+
+    int id;
+    ButtonImages images;
+    TouchPress touch;
     QMap<int, TextItem> texts;
-    QTimer timer;
+    bool repeats = false;
+    bool dimsWhenDisabled = false;
+    bool highlightsWhenPressed = true;
 };
 
 OrvikButton::OrvikButton(int id, const QDir &imageDir, const QStringList &images, const QPoint &position,
                          QWidget *parent, bool repeats)
     : QWidget(parent)
-    , d(new OrvikButtonPrivate)
+    , d(new OrvikButtonPrivate(id, imageDir, images))
 {
-    d->id = id;
     d->repeats = repeats;
-    for (const QString &image : images)
-        d->images.append(QPixmap(imageDir.filePath(image)));
-    setGeometry(QRect(position, d->images.isEmpty() ? QSize(0, 0) : d->images.first().size()));
-    d->timer.setSingleShot(!repeats);
-    connect(&d->timer, &QTimer::timeout, this, [this]() {
-        if (d->repeats) {
-            Q_EMIT buttonReleased(d->id);
-            return;
-        }
-        d->isPressed = false;
-        update();
-        Q_EMIT longTouch(d->id);
-    });
+    setGeometry(QRect(position, d->images.size()));
+    connect(&d->touch, &TouchPress::lookChanged, this, [this] { update(); });
+    connect(&d->touch, &TouchPress::pressed, this, [this] { Q_EMIT buttonPressed(d->id); });
+    connect(&d->touch, &TouchPress::released, this, [this] { Q_EMIT buttonReleased(d->id); });
+    connect(&d->touch, &TouchPress::longTouched, this, [this] { Q_EMIT longTouch(d->id); });
 }
 
 OrvikButton::~OrvikButton() = default;
@@ -65,32 +84,30 @@ int OrvikButton::id() const
 
 void OrvikButton::setCurrentImage(int index)
 {
-    if (index < 0 || index >= d->images.size())
-        return;
-    d->currentImage = index;
-    update();
+    if (d->images.setCurrent(index))
+        update();
 }
 
 int OrvikButton::currentImage() const
 {
-    return d->currentImage;
+    return d->images.current();
 }
 
 void OrvikButton::setDisableMode(bool dimmed)
 {
-    d->isDimmedWhenDisabled = dimmed;
+    d->dimsWhenDisabled = dimmed;
     update();
 }
 
 void OrvikButton::setHighLight(bool highlighted)
 {
-    d->isHighlighted = highlighted;
+    d->highlightsWhenPressed = highlighted;
     update();
 }
 
 void OrvikButton::addText(int item, const QString &text, const QColor &color, const QFont &font)
 {
-    d->texts.insert(item, {text, color, font});
+    d->texts.insert(item, TextItem{text, color, font});
     update();
 }
 
@@ -115,55 +132,61 @@ QColor OrvikButton::textColor(int item) const
 
 void OrvikButton::paintEvent(QPaintEvent *)
 {
+    const bool dimmed = d->dimsWhenDisabled && !isEnabled();
+    const bool highlighted = d->highlightsWhenPressed && d->touch.looksPressed();
     QPainter painter(this);
-    if (!isEnabled() && d->isDimmedWhenDisabled)
-        painter.setOpacity(dimmedOpacity);
-    painter.drawPixmap(0, 0, d->images.value(d->currentImage));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    d->images.paint(painter,
+                    dimmed            ? ButtonImages::Look::Dimmed
+                        : highlighted ? ButtonImages::Look::Pressed
+                                      : ButtonImages::Look::Normal);
+
+    if (dimmed)
+        painter.setOpacity(dimmedTextOpacity);
+    const QRect area = rect().adjusted(textMargin, 0, -textMargin, 0);
     for (const TextItem &item : qAsConst(d->texts)) {
+        const QFont font = fittedFont(item.font, item.text, area.width());
+        painter.setFont(font);
         painter.setPen(item.color);
-        painter.setFont(item.font);
-        const QString shown = QFontMetrics(item.font).elidedText(item.text, Qt::ElideRight, width());
-        painter.drawText(rect(), Qt::AlignCenter, shown);
+        painter.drawText(area, Qt::AlignCenter, QFontMetrics(font).elidedText(item.text, Qt::ElideRight, area.width()));
     }
-    if (d->isPressed && d->isHighlighted)
-        painter.fillRect(rect(), QColor(255, 255, 255, 60));
 }
 
 void OrvikButton::mousePressEvent(QMouseEvent *event)
 {
+    event->accept();
     if (event->button() != Qt::LeftButton)
         return;
-    d->isPressed = true;
-    d->timer.start(d->repeats ? repeatMs : longTouchMs);
-    update();
-    Q_EMIT buttonPressed(d->id);
+    const bool wantsLongTouch = isSignalConnected(QMetaMethod::fromSignal(&OrvikButton::longTouch));
+    d->touch.press(d->repeats           ? TouchPress::Hold::Repeat
+                       : wantsLongTouch ? TouchPress::Hold::LongTouch
+                                        : TouchPress::Hold::Nothing);
 }
 
 void OrvikButton::mouseMoveEvent(QMouseEvent *event)
 {
-    if (rect().contains(event->pos()))
-        return;
-    d->isPressed = false;
-    d->timer.stop();
-    update();
+    event->accept();
+    d->touch.move(rect().contains(event->pos()));
 }
 
 void OrvikButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    d->timer.stop();
-    if (!d->isPressed || event->button() != Qt::LeftButton)
-        return;
-    d->isPressed = false;
-    update();
-    if (rect().contains(event->pos()))
-        Q_EMIT buttonReleased(d->id);
+    event->accept();
+    if (event->button() == Qt::LeftButton)
+        d->touch.release(rect().contains(event->pos()));
+}
+
+void OrvikButton::hideEvent(QHideEvent *event)
+{
+    d->touch.cancel();
+    QWidget::hideEvent(event);
 }
 
 void OrvikButton::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange) {
-        d->isPressed = false;
-        d->timer.stop();
+        if (!isEnabled())
+            d->touch.cancel();
         update();
     }
     QWidget::changeEvent(event);

@@ -1,38 +1,41 @@
 #include "Framework/orvikbuttonqgw.h"
 
+#include "buttonimages.h"
+#include "touchpress.h"
+
+#include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
+#include <QMetaMethod>
 #include <QPainter>
-#include <QPixmap>
-#include <QTimer>
-
-namespace {
-
-constexpr int longTouchMs = 800;
-
-} // namespace
 
 class OrvikButtonQgwPrivate {
 public:
-    int id = 0;
-    QList<QPixmap> images;
-    int currentImage = 0;
-    bool isPressed = false;
-    QTimer timer;
+    OrvikButtonQgwPrivate(int buttonId, const QDir &imageDir, const QStringList &files)
+        : id(buttonId)
+        , images(imageDir, files)
+    {
+    }
+
+    int id;
+    ButtonImages images;
+    TouchPress touch;
 };
 
 OrvikButtonQgw::OrvikButtonQgw(int id, const QDir &imageDir, const QStringList &images, const QPointF &position,
                                QGraphicsWidget *parent)
     : QGraphicsWidget(parent)
-    , d(new OrvikButtonQgwPrivate)
+    , d(new OrvikButtonQgwPrivate(id, imageDir, images))
 {
-    d->id = id;
-    for (const QString &image : images)
-        d->images.append(QPixmap(imageDir.filePath(image)));
-    setGeometry(QRectF(position, d->images.isEmpty() ? QSizeF(0, 0) : QSizeF(d->images.first().size())));
-    d->timer.setSingleShot(true);
-    connect(&d->timer, &QTimer::timeout, this, [this]() {
-        d->isPressed = false;
-        update();
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setGeometry(QRectF(position, d->images.size()));
+    connect(&d->touch, &TouchPress::lookChanged, this, [this] { update(); });
+    connect(&d->touch, &TouchPress::pressed, this, [this] { Q_EMIT buttonPressed(d->id); });
+    connect(&d->touch, &TouchPress::released, this, [this] { Q_EMIT buttonReleased(d->id); });
+    connect(&d->touch, &TouchPress::longTouched, this, [this] {
+        // A slot may open a dialog, which swallows the lift of the finger: the page's next touch is not for this
+        // button.
+        if (scene() != nullptr && scene()->mouseGrabberItem() == this)
+            ungrabMouse();
         Q_EMIT longTouch(d->id);
     });
 }
@@ -46,49 +49,38 @@ int OrvikButtonQgw::id() const
 
 void OrvikButtonQgw::setCurrentImage(int index)
 {
-    if (index < 0 || index >= d->images.size())
-        return;
-    d->currentImage = index;
-    update();
+    if (d->images.setCurrent(index))
+        update();
 }
 
 int OrvikButtonQgw::currentImage() const
 {
-    return d->currentImage;
+    return d->images.current();
 }
 
 void OrvikButtonQgw::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    painter->drawPixmap(0, 0, d->images.value(d->currentImage));
-    if (d->isPressed)
-        painter->fillRect(rect(), QColor(255, 255, 255, 60));
+    d->images.paint(*painter, d->touch.looksPressed() ? ButtonImages::Look::Pressed : ButtonImages::Look::Normal);
 }
 
 void OrvikButtonQgw::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     event->accept();
-    d->isPressed = true;
-    d->timer.start(longTouchMs);
-    update();
-    Q_EMIT buttonPressed(d->id);
+    const bool wantsLongTouch = isSignalConnected(QMetaMethod::fromSignal(&OrvikButtonQgw::longTouch));
+    d->touch.press(wantsLongTouch ? TouchPress::Hold::LongTouch : TouchPress::Hold::Nothing);
 }
 
 void OrvikButtonQgw::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (rect().contains(event->pos()))
-        return;
-    d->isPressed = false;
-    d->timer.stop();
-    update();
+    d->touch.move(contains(event->pos()));
 }
 
 void OrvikButtonQgw::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
-    d->timer.stop();
-    if (!d->isPressed)
-        return;
-    d->isPressed = false;
-    update();
-    if (rect().contains(event->pos()))
-        Q_EMIT buttonReleased(d->id);
+    d->touch.release(contains(event->pos()));
+}
+
+void OrvikButtonQgw::ungrabMouseEvent(QEvent *)
+{
+    d->touch.cancel();
 }

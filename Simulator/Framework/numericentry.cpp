@@ -1,0 +1,144 @@
+#include "numericentry.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace {
+
+/// More digits than a double holds mean nothing, and their powers of ten would overflow.
+constexpr unsigned int mostDigits = 15;
+
+/// Rounding of decimal fractions must not refuse a limit itself.
+constexpr double relativeTolerance = 1e-12;
+
+} // namespace
+
+void NumericEntry::setSizeLimits(unsigned int integerDigits, unsigned int decimals)
+{
+    const unsigned int digits = qMin(integerDigits, mostDigits);
+    const unsigned int places = qMin(decimals, mostDigits);
+    setRange(0.0, std::pow(10.0, int(digits)) - std::pow(10.0, -int(places)), places);
+}
+
+void NumericEntry::setRange(double minimum, double maximum, unsigned int decimals)
+{
+    isLimited = true;
+    rangeMinimum = minimum;
+    rangeMaximum = maximum;
+    decimalLimit = qMin(decimals, mostDigits);
+}
+
+QString NumericEntry::limitsText() const
+{
+    if (!isLimited)
+        return QString();
+    return QString::number(rangeMinimum, 'g', int(mostDigits)) + QStringLiteral(" \u2013 ")
+        + QString::number(rangeMaximum, 'g', int(mostDigits));
+}
+
+bool NumericEntry::takesPoint() const
+{
+    return decimalLimit > 0;
+}
+
+bool NumericEntry::takesMinus() const
+{
+    return rangeMinimum < 0.0;
+}
+
+void NumericEntry::setText(const QString &text)
+{
+    current = text;
+    replaces = true;
+}
+
+QString NumericEntry::text() const
+{
+    return current;
+}
+
+void NumericEntry::startOver()
+{
+    replaces = true;
+}
+
+bool NumericEntry::startsOver() const
+{
+    return replaces;
+}
+
+bool NumericEntry::type(QChar character)
+{
+    const QString candidate = withCharacter(character);
+    return fits(candidate) && change(candidate);
+}
+
+bool NumericEntry::eraseLast()
+{
+    return change(replaces ? QString() : current.chopped(qMin(1, current.size())));
+}
+
+bool NumericEntry::clear()
+{
+    return change(QString());
+}
+
+QString NumericEntry::withCharacter(QChar character) const
+{
+    QString candidate = replaces ? QString() : current;
+    const bool isNumberStart = candidate.isEmpty() || candidate == QLatin1String("-");
+    if (character == QLatin1Char('.') && isNumberStart)
+        candidate += QLatin1Char('0');
+    else if (character.isDigit() && (candidate == QLatin1String("0") || candidate == QLatin1String("-0")))
+        candidate.chop(1);
+    return candidate + character;
+}
+
+bool NumericEntry::fits(const QString &candidate) const
+{
+    static const QRegularExpression form(QStringLiteral("^(-?)([0-9]*)(?:\\.([0-9]*))?$"));
+    const QRegularExpressionMatch match = form.match(candidate);
+    if (!match.hasMatch())
+        return false;
+    const bool isNegative = !match.captured(1).isEmpty();
+    if (isNegative && !takesMinus())
+        return false;
+    if (match.captured(2).isEmpty())
+        return true;
+
+    const double smallest = isNegative ? -rangeMaximum : rangeMinimum;
+    const double largest = isNegative ? -rangeMinimum : rangeMaximum;
+    const double magnitude = (match.captured(2) + QLatin1Char('.') + match.captured(3)).toDouble();
+    if (!candidate.contains(QLatin1Char('.')))
+        return canReachRange(magnitude, smallest, largest);
+
+    const int places = match.captured(3).size();
+    if (!takesPoint() || places > int(decimalLimit))
+        return false;
+    const double tolerance = relativeTolerance * qMax(1.0, std::abs(largest));
+    const double furthest = magnitude + std::pow(10.0, -places) - std::pow(10.0, -int(decimalLimit));
+    return magnitude <= largest + tolerance && furthest >= smallest - tolerance;
+}
+
+/// Whether a whole number, as it stands or with further digits and decimals typed after it, comes to lie in the range.
+bool NumericEntry::canReachRange(double magnitude, double smallest, double largest) const
+{
+    const double mostDecimals = 1.0 - std::pow(10.0, -int(decimalLimit));
+    double lowest = magnitude;
+    for (double span = 1.0; lowest <= largest; span *= 10.0, lowest = magnitude * span) {
+        if (lowest + (span - 1.0) + mostDecimals >= smallest)
+            return true;
+        if (magnitude == 0.0)
+            return false; // a digit after a lone zero takes the zero's place
+    }
+    return false;
+}
+
+bool NumericEntry::change(const QString &newText)
+{
+    const bool isOther = newText != current;
+    current = newText;
+    replaces = false;
+    return isOther;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+
+/// The text of a numeric field and the keystrokes that may change it. Knows no widget.
+/// A keystroke is refused when the text after it could not stand for, or grow into, a number within the limits.
+class NumericEntry {
+public:
+    /// At most so many digits before and after the point, no negative numbers. Replaces earlier limits.
+    void setSizeLimits(unsigned int integerDigits, unsigned int decimals);
+    /// Numbers from `minimum` to `maximum` with at most so many decimals. Replaces earlier limits.
+    void setRange(double minimum, double maximum, unsigned int decimals);
+    /// The smallest and the largest number, as "0 – 5000"; empty where there are no limits.
+    QString limitsText() const;
+    bool takesPoint() const;
+    bool takesMinus() const;
+
+    /// Any text, within the limits or not. The next keystroke replaces it.
+    void setText(const QString &text);
+    QString text() const;
+    /// Lets the next keystroke replace the text.
+    void startOver();
+    /// Whether the next keystroke replaces the text.
+    bool startsOver() const;
+
+    /// A digit, the point or the minus. Whether the text is another one now; it is not when the key is refused.
+    bool type(QChar character);
+    /// Takes the last character away, or the whole text when it is to be replaced. Whether the text is another one now.
+    bool eraseLast();
+    /// Takes the whole text away. Whether the text is another one now.
+    bool clear();
+
+private:
+    QString withCharacter(QChar character) const;
+    bool fits(const QString &candidate) const;
+    bool canReachRange(double magnitude, double smallest, double largest) const;
+    bool change(const QString &newText);
+
+    bool isLimited = false;
+    double rangeMinimum = -1e15;
+    double rangeMaximum = 1e15;
+    unsigned int decimalLimit = 6;
+    QString current;
+    bool replaces = true;
+};
