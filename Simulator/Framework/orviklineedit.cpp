@@ -149,11 +149,7 @@ OrvikLineEdit::OrvikLineEdit(int id, const QDir &imageDir, const QPoint &positio
     connect(&d->touch, &TouchPress::released, this, [this] { d->openKeypad(); });
 }
 
-OrvikLineEdit::~OrvikLineEdit()
-{
-    // Before the state that the keypad's closing reports to.
-    delete d->keypad.data();
-}
+OrvikLineEdit::~OrvikLineEdit() = default;
 
 int OrvikLineEdit::id() const
 {
