@@ -153,12 +153,12 @@ private:
 } // namespace
 
 HolePlacement::HolePlacement(const QVector<RX_POLYGON *> &outers, const QVector<RX_POLYGON *> &holes)
-    : first(outers.size(), -1)
-    , next(holes.size(), -1)
+    : next(holes.size(), -1)
     , placed(holes.size(), false)
 {
     if (holes.isEmpty() || outers.isEmpty())
         return;
+    first.fill(-1, outers.size());
     Outers places(outers);
     // From the last hole to the first, so that putting each in front leaves the lists in the order given.
     for (int hole = holes.size() - 1; hole >= 0; --hole) {

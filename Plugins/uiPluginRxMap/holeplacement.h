@@ -15,7 +15,7 @@ public:
     HolePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers, const QVector<OrvikTypes::RX_POLYGON *> &holes);
 
     /// The holes of an outer ring, in the order given: the first one, the one that follows; -1 ends the list.
-    int firstHole(int outer) const { return first.at(outer); }
+    int firstHole(int outer) const { return first.isEmpty() ? -1 : first.at(outer); }
     int nextHole(int hole) const { return next.at(hole); }
     bool isPlaced(int hole) const { return placed.at(hole); }
 

@@ -30,8 +30,10 @@ void PolygonTessellation::registerCallbacks(GLUtesselator *tessellator)
     registerCallback(tessellator, GLU_TESS_END, tessEndCB);
 }
 
-void PolygonTessellation::beginPolygon(const QColor &color)
+void PolygonTessellation::beginPolygon(const QColor &color, int vertices, int triangleCount)
 {
+    coordList.reserve(vertices);
+    vList.reserve(3 * triangleCount);
     gluTessBeginPolygon(tessellator, nullptr);
     // What an invalid colour reads as; Qt may leave the arguments untouched for one.
     red = green = blue = 0.0;
@@ -59,11 +61,17 @@ void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
 void PolygonTessellation::endPolygon()
 {
     gluTessEndPolygon(tessellator);
+    const int start = triangles.size();
+    const int emitted = vList.size() - vList.size() % 3;
+    triangles.resize(start + emitted);
+    const Vertex *from = vList.constData();
+    Vertex *to = triangles.data() + start;
     // Taking each triangle backwards reverses its winding; that is meant.
-    static constexpr int reversed[] = {2, 0, -2};
-    const int whole = vList.size() - vList.size() % 3;
-    for (int i = 0; i < whole; ++i)
-        triangles.append(vList.at(i + reversed[i % 3]));
+    for (int i = 0; i < emitted; i += 3) {
+        to[i] = from[i + 2];
+        to[i + 1] = from[i + 1];
+        to[i + 2] = from[i];
+    }
     vList.resize(0);
     qDeleteAll(coordList);
     coordList.resize(0);

@@ -2,8 +2,10 @@
 
 #include "groupvalue.h"
 #include "holeplacement.h"
+#include "polygonsize.h"
 #include "polygontessellation.h"
 #include "ratemapping.h"
+#include "ringlists.h"
 #include "ringtest.h"
 
 #include "Framework/databroker.h"
@@ -103,35 +105,32 @@ void RxMap3D::updatePolygons()
     const int mappingIndex = findMapping(mappings, aamGroup->productGroupName());
     const auto legends = groupValue<Legends>(*rxMapGroup, "rateColors");
     if (mappingIndex >= 0 && mappingIndex < legends.size()) {
-        PolygonTessellation tessellation(tessellator, addVertexBank(QStringLiteral("RxMap3D_Verts"))->vertices);
-        tessellateChain(tessellation, chain, count, legends.at(mappingIndex), mappingIndex);
+        VertexBank &bank = *addVertexBank(QStringLiteral("RxMap3D_Verts"));
+        tessellateChain(bank, tessellator, RingLists(chain, count), legends.at(mappingIndex), mappingIndex);
     }
     gluDeleteTess(tessellator);
 }
 
-void RxMap3D::tessellateChain(PolygonTessellation &tessellation, RX_POLYGON *chain, unsigned int count,
+void RxMap3D::tessellateChain(VertexBank &bank, GLUtesselator *tessellator, const RingLists &rings,
                               const QList<RX_RATECOLOR> &legend, int mappingIndex)
 {
-    QVector<RX_POLYGON *> outers;
-    QVector<RX_POLYGON *> holes;
-    // A chain that ends early is taken as far as it goes.
-    for (RX_POLYGON *polygon = chain; polygon != nullptr && count > 0; polygon = polygon->next, --count)
-        (polygon->isHole ? holes : outers).append(polygon);
-
-    const HolePlacement placement(outers, holes);
-    for (int i = 0; i < outers.size(); ++i) {
-        RX_POLYGON &outer = *outers.at(i);
+    const HolePlacement placement(rings.outers, rings.holes);
+    bank.vertices.reserve(3 * triangleCount(rings, placement));
+    PolygonTessellation tessellation(tessellator, bank.vertices);
+    for (int i = 0; i < rings.outers.size(); ++i) {
+        RX_POLYGON &outer = *rings.outers.at(i);
         chooseColor(legend, outer, mappingIndex);
-        tessellation.beginPolygon(currentColor);
+        const PolygonSize size = polygonSize(rings, placement, i);
+        tessellation.beginPolygon(currentColor, size.vertices, size.triangles);
         tessellation.addContour(outer);
         for (int hole = placement.firstHole(i); hole >= 0; hole = placement.nextHole(hole))
-            tessellation.addContour(*holes.at(hole));
+            tessellation.addContour(*rings.holes.at(hole));
         tessellation.endPolygon();
         outer.drawIndex = i + 1;
     }
-    for (int hole = 0; hole < holes.size(); ++hole) {
+    for (int hole = 0; hole < rings.holes.size(); ++hole) {
         if (!placement.isPlaced(hole))
-            holes.at(hole)->drawIndex = -1;
+            rings.holes.at(hole)->drawIndex = -1;
     }
 }
 

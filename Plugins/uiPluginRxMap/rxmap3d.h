@@ -13,7 +13,8 @@
 class DataBroker;
 class DataBrokerGroup;
 class DbGroupAAM;
-class PolygonTessellation;
+class GLUtesselator;
+struct RingLists;
 
 /// The prescription map in the host's 3D field view: binds to the prescription group that maps the active product,
 /// turns its polygons into one bank of coloured triangles and draws that.
@@ -54,7 +55,8 @@ private:
     friend class RxMap3DProbe;
 
     DataBrokerGroup *findRxMapGroup() const;
-    void tessellateChain(PolygonTessellation &tessellation, OrvikTypes::RX_POLYGON *chain, unsigned int count,
+    /// Fills the bank and writes the draw indexes.
+    void tessellateChain(VertexBank &bank, GLUtesselator *tessellator, const RingLists &rings,
                          const QList<OrvikTypes::RX_RATECOLOR> &legend, int mappingIndex);
     /// Sets currentColor to the first legend entry not below the polygon's rate, else to the last entry.
     void chooseColor(const QList<OrvikTypes::RX_RATECOLOR> &legend, const OrvikTypes::RX_POLYGON &polygon,

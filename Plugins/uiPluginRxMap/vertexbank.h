@@ -11,6 +11,8 @@ struct Vertex {
     quint32 color; ///< The bytes R, G, B, A from the lowest up.
 };
 
+Q_DECLARE_TYPEINFO(Vertex, Q_PRIMITIVE_TYPE);
+
 static_assert(sizeof(Vertex) == 16, "OpenGL is given a stride of 16 bytes");
 
 /// A named batch of triangles. Only `vertices` is drawn, always as triangles; the other fields describe the batch.
