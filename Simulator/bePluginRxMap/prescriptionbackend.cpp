@@ -1,6 +1,8 @@
 #include "Backend/prescriptionbackend.h"
 
 #include "prescriptionbackendprivate.h"
+#include "prescriptionreader.h"
+#include "ratecolumns.h"
 
 #include "bePluginRxMap/rxmaploader.h"
 
@@ -14,6 +16,23 @@ PrescriptionBackend::PrescriptionBackend(DataBroker *broker, QObject *parent)
 }
 
 PrescriptionBackend::~PrescriptionBackend() = default;
+
+ColumnSearch PrescriptionBackend::findColumns(const QString &path, const QStringList &wanted)
+{
+    ColumnSearch search;
+    QStringList names;
+    const LoadControl control;
+    PrescriptionReader reader(path, {}, control);
+    if (!reader.readColumnNames(names)) {
+        search.error = QStringLiteral("%1: %2").arg(path, reader.error());
+        return search;
+    }
+    for (const QString &name : wanted) {
+        if (RateColumns::find(names, name) >= 0)
+            search.found.append(name);
+    }
+    return search;
+}
 
 void PrescriptionBackend::load(const LoadRequest &request)
 {

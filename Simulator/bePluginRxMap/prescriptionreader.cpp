@@ -87,16 +87,9 @@ bool PrescriptionReader::read(SourceMap &map)
     if (!checkFile())
         return false;
     const GdalSession session;
-    const bool isShapefile = QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
-    const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
-    const char *const otherFormats[] = {"GPKG", "GeoJSON", nullptr};
-    const GDALDatasetUniquePtr dataset(GDALDataset::Open(QFileInfo(path).absoluteFilePath().toUtf8().constData(),
-                                                         GDAL_OF_VECTOR | GDAL_OF_READONLY,
-                                                         isShapefile ? shapefileOnly : otherFormats));
-    if (!dataset) {
-        const QString failure = session.firstFailure();
-        return fail(failure.isEmpty() ? QStringLiteral("is no Shapefile, GeoPackage or GeoJSON file") : failure);
-    }
+    const GDALDatasetUniquePtr dataset = openDataset(session);
+    if (!dataset)
+        return false;
     OGRLayer *layer = chooseLayer(*dataset, map);
     if (layer == nullptr || !chooseColumns(*layer, map))
         return false;
@@ -106,6 +99,37 @@ bool PrescriptionReader::read(SourceMap &map)
     if (isRead && !session.firstFailure().isEmpty())
         return fail(session.firstFailure());
     return isRead;
+}
+
+bool PrescriptionReader::readColumnNames(QStringList &names)
+{
+    if (!checkFile())
+        return false;
+    const GdalSession session;
+    const GDALDatasetUniquePtr dataset = openDataset(session);
+    SourceMap map;
+    OGRLayer *layer = dataset ? chooseLayer(*dataset, map) : nullptr;
+    if (layer == nullptr)
+        return false;
+    OGRFeatureDefn *definition = layer->GetLayerDefn();
+    for (int i = 0; i < definition->GetFieldCount(); ++i)
+        names.append(QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef()));
+    return true;
+}
+
+GDALDatasetUniquePtr PrescriptionReader::openDataset(const GdalSession &session)
+{
+    const bool isShapefile = QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
+    const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
+    const char *const otherFormats[] = {"GPKG", "GeoJSON", nullptr};
+    GDALDatasetUniquePtr dataset(GDALDataset::Open(QFileInfo(path).absoluteFilePath().toUtf8().constData(),
+                                                   GDAL_OF_VECTOR | GDAL_OF_READONLY,
+                                                   isShapefile ? shapefileOnly : otherFormats));
+    if (!dataset) {
+        const QString failure = session.firstFailure();
+        fail(failure.isEmpty() ? QStringLiteral("is no Shapefile, GeoPackage or GeoJSON file") : failure);
+    }
+    return dataset;
 }
 
 OGRLayer *PrescriptionReader::chooseLayer(GDALDataset &dataset, SourceMap &map)

@@ -5,11 +5,15 @@
 
 #include <QStringList>
 
+#include <memory>
+
 class GDALDataset;
+class GdalSession;
 class OGRFeature;
 class OGRGeometry;
 class OGRLayer;
 class OGRPolygon;
+struct GDALDatasetUniquePtrDeleter;
 
 /// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Curves are made
 /// straight, heights and measures dropped. Blocks; use in the loading thread, inside a GdalSession.
@@ -20,11 +24,14 @@ public:
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
     bool read(SourceMap &map);
+    /// Names of all columns of the table, without its records. False like read().
+    bool readColumnNames(QStringList &names);
     QString error() const { return reason; }
 
 private:
     bool fail(const QString &text);
     bool checkFile();
+    std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
     OGRLayer *chooseLayer(GDALDataset &dataset, SourceMap &map);
     bool chooseColumns(OGRLayer &layer, SourceMap &map);
     bool readRecords(OGRLayer &layer, SourceMap &map);

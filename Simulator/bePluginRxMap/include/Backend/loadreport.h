@@ -23,6 +23,16 @@ struct LoadRequest {
     QList<double> defaultRates;
 };
 
+/// Which columns a file's table has.
+struct ColumnSearch {
+    /// Those of the wanted columns that are there, as they were asked for.
+    QStringList found;
+    /// One line that names the file and the reason; empty on success.
+    QString error;
+
+    bool isOk() const { return error.isEmpty(); }
+};
+
 /// What came of a load.
 struct LoadReport {
     /// One line that names the file and the reason; empty on success.

@@ -24,6 +24,9 @@ public:
     /// Cancels what is loading and unloads every map.
     ~PrescriptionBackend() override;
 
+    /// Looks columns up in a file, by the names under which load() would take them. Reads the table's head only.
+    static ColumnSearch findColumns(const QString &path, const QStringList &wanted);
+
     /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
     void load(const LoadRequest &request);
     /// Loads and waits, with the event loop running.

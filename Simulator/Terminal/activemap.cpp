@@ -1,0 +1,48 @@
+#include "activemap.h"
+
+#include "Framework/databroker.h"
+#include "Framework/rxdbfcolumntoratecalmapping.h"
+
+namespace {
+
+template <typename T> T read(const DataBroker &broker, const QString &group, const char *property)
+{
+    QVariant value;
+    broker.getProperty(group.toLatin1().constData(), property, value);
+    return value.value<T>();
+}
+
+} // namespace
+
+QColor ActiveMap::classColor(double rate) const
+{
+    for (const OrvikTypes::RX_RATECOLOR &entry : legend) {
+        if (entry.rate >= rate)
+            return entry.color;
+    }
+    return legend.isEmpty() ? QColor() : legend.last().color;
+}
+
+QColor ActiveMap::queriedColor(const DataBroker &broker) const
+{
+    if (!isValid() || !read<bool>(broker, groupName, "ratesAtXYZValid"))
+        return {};
+    const auto rates = read<QList<float>>(broker, groupName, "ratesAtXYZ");
+    return mapping < rates.size() ? classColor(double(rates.at(mapping))) : QColor();
+}
+
+ActiveMap ActiveMap::find(const DataBroker &broker, const QString &rateCalName)
+{
+    const QStringList groups = broker.findGroup(QStringLiteral("rxMap.*"), true, false);
+    for (const QString &group : groups) {
+        const auto mappings =
+            read<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(broker, group, "rateCalMappings");
+        for (int i = 0; i < mappings.size(); ++i) {
+            if (mappings.at(i).rateCalName != rateCalName)
+                continue;
+            const auto legends = read<QList<QList<OrvikTypes::RX_RATECOLOR>>>(broker, group, "rateColors");
+            return {group, mappings.at(i).dbfColumnName, i, legends.value(i)};
+        }
+    }
+    return {};
+}

@@ -1,0 +1,157 @@
+#include "commandline.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+#include <cmath>
+
+namespace {
+
+const QString Columns = QStringLiteral("columns");
+const QString ProductsFile = QStringLiteral("products");
+const QString Units = QStringLiteral("units");
+const QString Language = QStringLiteral("language");
+const QString PluginDir = QStringLiteral("plugin-dir");
+const QString Describe = QStringLiteral("describe");
+const QString Screenshot = QStringLiteral("screenshot");
+const QString Script = QStringLiteral("script");
+const QString Help = QStringLiteral("help");
+
+void declareOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("Shows prescription maps as the terminal of a field computer does, with the plug-in loaded."));
+    parser.addPositionalArgument(QStringLiteral("PRESCRIPTION"),
+                                 QStringLiteral("Shapefile, GeoPackage or GeoJSON to open"),
+                                 QStringLiteral("[PRESCRIPTION...]"));
+    parser.addOptions({
+        {Columns, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
+         QStringLiteral("A,B,...")},
+        {ProductsFile, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
+        {Units, QStringLiteral("the operator's unit system: us, metric (default) or turf"), QStringLiteral("SYSTEM")},
+        {Language, QStringLiteral("user-interface language"), QStringLiteral("CODE")},
+        {PluginDir, QStringLiteral("where plug-ins are searched (default: beside the build)"), QStringLiteral("DIR")},
+        {Describe, QStringLiteral("print what the terminal shows for that field point (metres) and exit"),
+         QStringLiteral("X,Y")},
+        {Screenshot, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
+        {Script, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
+        {{QStringLiteral("h"), Help}, QStringLiteral("show this help")},
+    });
+}
+
+QString readUnits(const QString &text, CommandLine &line)
+{
+    if (text == QLatin1String("us"))
+        line.units = UnitSystem::Us;
+    else if (text == QLatin1String("metric"))
+        line.units = UnitSystem::Metric;
+    else if (text == QLatin1String("turf"))
+        line.units = UnitSystem::Turf;
+    else
+        return QStringLiteral("--units %1: no such unit system (us, metric, turf)").arg(text);
+    return {};
+}
+
+QString readDescribe(const QString &text, CommandLine &line)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    bool xOk = false;
+    bool yOk = false;
+    const double x = parts.value(0).toDouble(&xOk);
+    const double y = parts.value(1).toDouble(&yOk);
+    if (parts.size() != 2 || !xOk || !yOk || !std::isfinite(x) || !std::isfinite(y))
+        return QStringLiteral("--describe %1: not two numbers X,Y").arg(text);
+    line.describe = QPointF(x, y);
+    return {};
+}
+
+QString readColumns(const QString &text, CommandLine &line)
+{
+    for (const QString &column : text.split(QLatin1Char(',')))
+        line.columns.append(column.trimmed());
+    if (line.columns.join(QString()).isEmpty())
+        return QStringLiteral("--columns %1: names no column").arg(text);
+    return {};
+}
+
+QString requireFile(const QString &option, const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return QStringLiteral("--%1 %2: no such file").arg(option, path);
+    if (!file.isFile() || !file.isReadable())
+        return QStringLiteral("--%1 %2: not a readable file").arg(option, path);
+    return {};
+}
+
+QString requireFolder(const QString &option, const QString &path)
+{
+    return QFileInfo(path).isDir() ? QString() : QStringLiteral("--%1 %2: no such folder").arg(option, path);
+}
+
+/// An option that is given more than once, or without a value, is a mistake that must not pass silently.
+QString checkValues(const QCommandLineParser &parser)
+{
+    for (const QString &option : {Columns, ProductsFile, Units, Language, PluginDir, Describe, Screenshot, Script}) {
+        if (!parser.isSet(option))
+            continue;
+        if (parser.values(option).size() > 1)
+            return QStringLiteral("--%1 is given more than once").arg(option);
+        if (parser.value(option).isEmpty())
+            return QStringLiteral("--%1 has an empty value").arg(option);
+    }
+    return {};
+}
+
+QString readOptions(const QCommandLineParser &parser, CommandLine &line)
+{
+    QString error = checkValues(parser);
+    if (error.isEmpty() && parser.isSet(Units))
+        error = readUnits(parser.value(Units), line);
+    if (error.isEmpty() && parser.isSet(Columns))
+        error = readColumns(parser.value(Columns), line);
+    if (error.isEmpty() && parser.isSet(Describe))
+        error = readDescribe(parser.value(Describe), line);
+    if (error.isEmpty() && parser.isSet(ProductsFile))
+        error = requireFile(ProductsFile, parser.value(ProductsFile));
+    if (error.isEmpty() && parser.isSet(Script))
+        error = requireFile(Script, parser.value(Script));
+    if (error.isEmpty() && parser.isSet(PluginDir))
+        error = requireFolder(PluginDir, parser.value(PluginDir));
+    if (error.isEmpty() && parser.isSet(Columns) && parser.positionalArguments().isEmpty())
+        error = QStringLiteral("--columns needs a prescription to take them from");
+    return error;
+}
+
+} // namespace
+
+Result<CommandLine> CommandLine::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    declareOptions(parser);
+    if (!parser.parse(arguments)) {
+        QString reason = parser.errorText().simplified();
+        if (reason.endsWith(QLatin1Char('.')))
+            reason.chop(1);
+        return Result<CommandLine>::failure(reason);
+    }
+    CommandLine line;
+    const QString error = readOptions(parser, line);
+    if (!error.isEmpty())
+        return Result<CommandLine>::failure(error);
+    line.prescriptions = parser.positionalArguments();
+    line.productFile = parser.value(ProductsFile);
+    line.language = parser.value(Language);
+    line.pluginDir = parser.value(PluginDir);
+    line.screenshot = parser.value(Screenshot);
+    line.script = parser.value(Script);
+    line.wantsHelp = parser.isSet(Help);
+    return {line, {}};
+}
+
+QString CommandLine::helpText()
+{
+    QCommandLineParser parser;
+    declareOptions(parser);
+    return parser.helpText();
+}

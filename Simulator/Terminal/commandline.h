@@ -1,0 +1,30 @@
+#pragma once
+
+#include "result.h"
+#include "unitsystem.h"
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// What the program was asked to do.
+struct CommandLine {
+    QStringList prescriptions;
+    /// Rate columns of products 1, 2, ...; empty: the most likely ones.
+    QStringList columns;
+    QString productFile;
+    UnitSystem units = UnitSystem::Metric;
+    QString language;
+    QString pluginDir;
+    /// A point of the local plane, metres.
+    std::optional<QPointF> describe;
+    QString screenshot;
+    QString script;
+    bool wantsHelp = false;
+
+    /// `arguments` begin with the program's name.
+    static Result<CommandLine> parse(const QStringList &arguments);
+    static QString helpText();
+};

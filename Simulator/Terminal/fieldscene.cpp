@@ -1,0 +1,122 @@
+#include "fieldscene.h"
+
+#include "camera.h"
+
+#include "Framework/uigraphicslist.h"
+
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double LeastGridPixels = 22.0;
+
+/// The least of 1, 2, 5, 10, 20, ... that is not below `least`.
+double roundSpacing(double least)
+{
+    const double decade = std::pow(10.0, std::floor(std::log10(least)));
+    for (const double step : {1.0, 2.0, 5.0}) {
+        if (step * decade >= least)
+            return step * decade;
+    }
+    return 10.0 * decade;
+}
+
+} // namespace
+
+QColor FieldScene::groundColor()
+{
+    return QColor(222, 216, 202);
+}
+
+QColor FieldScene::onGround(const QColor &color)
+{
+    const QColor ground = groundColor();
+    return QColor((color.red() + ground.red()) / 2, (color.green() + ground.green()) / 2,
+                  (color.blue() + ground.blue()) / 2);
+}
+
+void FieldScene::initialize()
+{
+    initializeOpenGLFunctions();
+    grid.init();
+    isInitialised = true;
+    for (const QPointer<UiGraphicsList> &list : lists) {
+        if (list)
+            list->init();
+    }
+}
+
+void FieldScene::addGraphicsList(UiGraphicsList *list)
+{
+    lists.append(list);
+    if (isInitialised)
+        list->init();
+}
+
+void FieldScene::draw(const Camera &camera, Aids aids)
+{
+    const QColor ground = groundColor();
+    glDisable(GL_SCISSOR_TEST);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    glClearColor(float(ground.redF()), float(ground.greenF()), float(ground.blueF()), 1.0F);
+    glClear(GL_COLOR_BUFFER_BIT);
+
+    QList<Object3D *> drawables = guests();
+    if (aids == Aids::Shown) {
+        fitGrid(camera);
+        drawables.prepend(&grid);
+    }
+    std::stable_sort(drawables.begin(), drawables.end(),
+                     [](const Object3D *a, const Object3D *b) { return a->drawingOrder() < b->drawingOrder(); });
+    const QMatrix4x4 matrix = camera.matrix();
+    for (Object3D *drawable : drawables) {
+        setGuestState();
+        drawable->draw(matrix);
+    }
+    // Guests may leave anything behind; what Qt composes afterwards starts from known ground.
+    setGuestState();
+    glUseProgram(0);
+}
+
+void FieldScene::setGuestState()
+{
+    glEnable(GL_BLEND);
+    glBlendEquation(GL_FUNC_ADD);
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_STENCIL_TEST);
+    glDisable(GL_SCISSOR_TEST);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    glActiveTexture(GL_TEXTURE0);
+    QOpenGLContext *context = QOpenGLContext::currentContext();
+    if (context->format().majorVersion() >= 3 || context->hasExtension("GL_ARB_vertex_array_object"))
+        context->extraFunctions()->glBindVertexArray(0);
+    glBindBuffer(GL_ARRAY_BUFFER, 0);
+    glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
+}
+
+QList<Object3D *> FieldScene::guests() const
+{
+    QList<Object3D *> drawables;
+    for (const QPointer<UiGraphicsList> &list : lists) {
+        if (list)
+            drawables.append(*list->drawables());
+    }
+    return drawables;
+}
+
+void FieldScene::fitGrid(const Camera &camera)
+{
+    const double width = camera.viewport().width();
+    const double height = camera.viewport().height();
+    const QPointF farLeft = camera.fieldPoint({0.0, 0.0}).value_or(camera.target());
+    const QPointF farRight = camera.fieldPoint({width, 0.0}).value_or(camera.target());
+    const QPointF near = camera.fieldPoint({width / 2.0, height}).value_or(camera.target());
+    const double spacing = roundSpacing(LeastGridPixels * camera.metresPerPixel(camera.target()));
+    grid.setRegion(QRectF(farLeft.x(), near.y(), farRight.x() - farLeft.x(), farLeft.y() - near.y()), spacing);
+}

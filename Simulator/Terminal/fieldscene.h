@@ -1,0 +1,39 @@
+#pragma once
+
+#include "groundgrid.h"
+
+#include <QColor>
+#include <QList>
+#include <QMatrix4x4>
+#include <QPointer>
+
+class Camera;
+class UiGraphicsList;
+
+/// What is drawn in the 3D field view: the host's grid and the drawables of every graphics list. All calls need the
+/// view's OpenGL context current, except groundColor().
+class FieldScene : protected QOpenGLFunctions {
+public:
+    enum class Aids { Shown, Hidden };
+
+    /// What the field looks like where nothing is drawn.
+    static QColor groundColor();
+    /// A map's colour as it looks on the ground: maps are drawn half transparent.
+    static QColor onGround(const QColor &color);
+
+    /// Prepares drawing and every list added so far.
+    void initialize();
+    /// Adds a list (not owned) and initialises it, once the scene itself is.
+    void addGraphicsList(UiGraphicsList *list);
+    /// Draws one frame; without the aids only the ground and the guests' drawables.
+    void draw(const Camera &camera, Aids aids);
+
+private:
+    void setGuestState();
+    QList<Object3D *> guests() const;
+    void fitGrid(const Camera &camera);
+
+    GroundGrid grid;
+    QList<QPointer<UiGraphicsList>> lists;
+    bool isInitialised = false;
+};

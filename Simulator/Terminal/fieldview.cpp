@@ -1,0 +1,252 @@
+#include "fieldview.h"
+
+#include <QMouseEvent>
+#include <QOpenGLFramebufferObject>
+#include <QTouchEvent>
+#include <QWheelEvent>
+#include <QtMath>
+
+#include <cmath>
+
+namespace {
+
+// A gloved finger rolls by this much without meaning to drag, pixels.
+constexpr double TouchSlack = 12.0;
+constexpr double WheelNotch = 120.0;
+constexpr double NotchZoom = 1.2;
+constexpr double FrameMargin = 0.06;
+
+bool liesIn(const QImage &image, const QPoint &pixel)
+{
+    return image.rect().contains(pixel);
+}
+
+QPoint pixelAt(const QPointF &screen)
+{
+    return QPoint(int(std::floor(screen.x())), int(std::floor(screen.y())));
+}
+
+} // namespace
+
+FieldView::FieldView(QWidget *parent)
+    : QOpenGLWidget(parent)
+{
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setObjectName(QStringLiteral("fieldView"));
+}
+
+FieldView::~FieldView()
+{
+    makeCurrent();
+}
+
+void FieldView::addGraphicsList(UiGraphicsList *list)
+{
+    if (isValid())
+        makeCurrent();
+    scene.addGraphicsList(list);
+    if (isValid())
+        doneCurrent();
+    forgetColors();
+    update();
+}
+
+void FieldView::setFreeArea(const QRectF &area)
+{
+    freeArea = area;
+    reframe();
+}
+
+void FieldView::frame(const QRectF &field)
+{
+    framed = field;
+    reframe();
+}
+
+void FieldView::zoom(double factor)
+{
+    framed = QRectF();
+    eye.zoom(factor, freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center());
+    moveCamera();
+}
+
+void FieldView::reframe()
+{
+    if (framed.isEmpty() || width() < 1 || height() < 1)
+        return;
+    const QRectF area = freeArea.isEmpty() ? QRectF(rect()) : freeArea;
+    const double margin = FrameMargin * std::min(area.width(), area.height());
+    eye.frame(framed, area.adjusted(margin, margin, -margin, -margin));
+    moveCamera();
+}
+
+void FieldView::moveCamera()
+{
+    forgetColors();
+    update();
+    Q_EMIT cameraChanged();
+}
+
+void FieldView::forgetColors()
+{
+    colors = QImage();
+}
+
+QColor FieldView::colorAt(const QPointF &field)
+{
+    const std::optional<QPointF> screen = eye.project(field);
+    if (screen && rect().contains(pixelAt(*screen))) {
+        if (colors.isNull())
+            colors = picture(eye);
+        const QPoint pixel = pixelAt(*screen);
+        return liesIn(colors, pixel) ? colors.pixelColor(pixel) : QColor(Qt::black);
+    }
+    Camera moved = eye;
+    moved.setTarget(field);
+    const QImage image = picture(moved);
+    const QPoint pixel = pixelAt(moved.project(field).value_or(QPointF()));
+    return liesIn(image, pixel) ? image.pixelColor(pixel) : QColor(Qt::black);
+}
+
+QImage FieldView::picture(const Camera &camera)
+{
+    if (!isValid())
+        return {};
+    makeCurrent();
+    QOpenGLFramebufferObject buffer(size());
+    buffer.bind();
+    QOpenGLContext::currentContext()->functions()->glViewport(0, 0, width(), height());
+    scene.draw(camera, FieldScene::Aids::Hidden);
+    const QImage image = buffer.toImage();
+    buffer.release();
+    doneCurrent();
+    return image;
+}
+
+void FieldView::initializeGL()
+{
+    scene.initialize();
+}
+
+void FieldView::resizeGL(int width, int height)
+{
+    eye.setViewport(QSizeF(width, height));
+    reframe();
+    moveCamera();
+}
+
+void FieldView::paintGL()
+{
+    scene.draw(eye, FieldScene::Aids::Shown);
+}
+
+bool FieldView::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        if (followTouch(*static_cast<QTouchEvent *>(event))) {
+            event->accept();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QOpenGLWidget::event(event);
+}
+
+bool FieldView::followTouch(const QTouchEvent &event)
+{
+    const QList<QTouchEvent::TouchPoint> points = event.touchPoints();
+    if (points.isEmpty() || event.type() == QEvent::TouchCancel) {
+        isPressed = false;
+        isPinching = false;
+        return true;
+    }
+    const QPointF first = points.first().pos();
+    if (points.size() > 1) {
+        const QPointF second = points.at(1).pos();
+        const QPointF formerFirst = points.first().lastPos();
+        const QPointF formerSecond = points.at(1).lastPos();
+        const double now = QLineF(first, second).length();
+        const double before = QLineF(formerFirst, formerSecond).length();
+        // The second finger ends the touch that the first one began.
+        if (isPinching && now > 1.0 && before > 1.0) {
+            framed = QRectF();
+            eye.pan((formerFirst + formerSecond) / 2.0, (first + second) / 2.0);
+            eye.zoom(now / before, (first + second) / 2.0);
+            moveCamera();
+        }
+        isPinching = event.type() != QEvent::TouchEnd;
+        isPressed = false;
+        return true;
+    }
+    isPinching = false;
+    if (event.type() == QEvent::TouchBegin)
+        press(first);
+    else if (event.type() == QEvent::TouchUpdate)
+        drag(first);
+    else
+        release(first);
+    return true;
+}
+
+void FieldView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        press(event->localPos());
+}
+
+void FieldView::mouseMoveEvent(QMouseEvent *event)
+{
+    drag(event->localPos());
+}
+
+void FieldView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        release(event->localPos());
+}
+
+void FieldView::press(const QPointF &screen)
+{
+    isPressed = true;
+    isDragging = false;
+    pressedAt = screen;
+    draggedTo = screen;
+}
+
+void FieldView::drag(const QPointF &screen)
+{
+    if (!isPressed)
+        return;
+    isDragging = isDragging || QLineF(pressedAt, screen).length() > TouchSlack;
+    if (!isDragging)
+        return;
+    framed = QRectF();
+    eye.pan(draggedTo, screen);
+    draggedTo = screen;
+    moveCamera();
+}
+
+void FieldView::release(const QPointF &screen)
+{
+    const bool wasTouch = isPressed && !isDragging;
+    isPressed = false;
+    if (!wasTouch)
+        return;
+    const std::optional<QPointF> field = eye.fieldPoint(screen);
+    if (field)
+        Q_EMIT touched(*field);
+}
+
+void FieldView::wheelEvent(QWheelEvent *event)
+{
+    framed = QRectF();
+    eye.zoom(std::pow(NotchZoom, event->angleDelta().y() / WheelNotch), event->position());
+    moveCamera();
+    event->accept();
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "camera.h"
+#include "fieldscene.h"
+
+#include <QImage>
+#include <QOpenGLWidget>
+#include <QScopedPointer>
+
+class QTouchEvent;
+class UiGraphicsList;
+
+/// The 3D field view. One finger (or the mouse) touches or drags the ground, two fingers or the wheel zoom.
+class FieldView : public QOpenGLWidget {
+    Q_OBJECT
+
+public:
+    explicit FieldView(QWidget *parent = nullptr);
+    ~FieldView() override;
+
+    /// Shows the drawables of `list` (not owned; it must go while the context is current, see makeCurrent()).
+    void addGraphicsList(UiGraphicsList *list);
+    const Camera &camera() const { return eye; }
+    /// The part of the view that no panel covers, pixels; what frame() fits a field into.
+    void setFreeArea(const QRectF &area);
+    /// Looks at `field` (metres) as a whole; it stays framed when the view's size changes, until it is moved by hand.
+    void frame(const QRectF &field);
+    /// Comes nearer by `factor` towards the middle of the free area.
+    void zoom(double factor);
+    /// What is drawn at a field point: ground and maps, without the host's drawing aids. The pixel is the one of the
+    /// view as it looks now; a point outside of it is looked at by a camera moved there. Black without OpenGL.
+    QColor colorAt(const QPointF &field);
+    /// Colours are read anew by the next colorAt(): something that is drawn has changed.
+    void forgetColors();
+
+Q_SIGNALS:
+    /// The ground was touched at a field point, metres.
+    void touched(const QPointF &field);
+    void cameraChanged();
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void moveCamera();
+    void reframe();
+    void press(const QPointF &screen);
+    void drag(const QPointF &screen);
+    void release(const QPointF &screen);
+    bool followTouch(const QTouchEvent &event);
+    QImage picture(const Camera &camera);
+
+    Camera eye;
+    FieldScene scene;
+    QRectF freeArea;
+    QRectF framed;
+    QPointF pressedAt;
+    QPointF draggedTo;
+    bool isPressed = false;
+    bool isDragging = false;
+    bool isPinching = false;
+    QImage colors;
+};

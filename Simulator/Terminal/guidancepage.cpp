@@ -1,0 +1,101 @@
+#include "guidancepage.h"
+
+#include "Framework/uigwidget.h"
+#include "Framework/uiplugininterface.h"
+
+#include <QGraphicsScene>
+
+namespace {
+
+constexpr double Gap = 8.0;
+constexpr double GreyedOut = 0.35;
+
+} // namespace
+
+GuidancePage::GuidancePage(QWidget *parent)
+    : QGraphicsView(parent)
+{
+    setScene(new QGraphicsScene(this));
+    setObjectName(QStringLiteral("guidancePage"));
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setStyleSheet(QStringLiteral("QGraphicsView { background: transparent; }"));
+    setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+GuidancePage::~GuidancePage()
+{
+    clear();
+}
+
+void GuidancePage::setPlugins(const QList<UiPluginInterface *> &newPlugins, DataBroker *newBroker)
+{
+    clear();
+    plugins = newPlugins;
+    broker = newBroker;
+    rebuild();
+}
+
+void GuidancePage::rebuild()
+{
+    isRebuildDue = isPopupActive;
+    if (isPopupActive)
+        return;
+    clear();
+    for (UiPluginInterface *plugin : qAsConst(plugins))
+        addWidgets(plugin);
+    setSceneRect(QRectF(QPointF(), extent));
+    Q_EMIT rebuilt();
+}
+
+void GuidancePage::addWidgets(UiPluginInterface *plugin)
+{
+    const QStringList names = plugin->getGuidancePageWidgetNames();
+    for (const QString &name : names) {
+        const double left = places.isEmpty() ? 0.0 : extent.width() + Gap;
+        const QPointer<UiGWidget> widget = plugin->createUiGWidget(name, places.size(), 0, QPointF(left, 0.0), broker);
+        if (!widget)
+            continue;
+        scene()->addItem(widget);
+        connect(widget.data(), &UiGWidget::popupActiveChanged, this, &GuidancePage::setPopupActive);
+        widget->pageShown();
+        places.append({plugin, widget});
+        extent = QSizeF(left + widget->size().width(), qMax(extent.height(), widget->size().height()));
+    }
+}
+
+void GuidancePage::clear()
+{
+    for (const Place &place : qAsConst(places)) {
+        if (!place.widget)
+            continue;
+        scene()->removeItem(place.widget);
+        place.plugin->deleteGWidget(place.widget);
+    }
+    places.clear();
+    extent = QSizeF(0.0, 0.0);
+}
+
+QSize GuidancePage::sizeHint() const
+{
+    return extent.toSize();
+}
+
+void GuidancePage::setPopupActive(bool active)
+{
+    isPopupActive = active;
+    for (const Place &place : qAsConst(places)) {
+        if (place.widget)
+            place.widget->setOpacity(active ? GreyedOut : 1.0);
+    }
+    if (active)
+        return;
+    // The finger that opened the popup left the display over it: nothing holds the page's touches afterwards.
+    if (scene()->mouseGrabberItem() != nullptr)
+        scene()->mouseGrabberItem()->ungrabMouse();
+    // Later: the widget whose popup has closed is still on the stack.
+    if (isRebuildDue)
+        QMetaObject::invokeMethod(this, &GuidancePage::rebuild, Qt::QueuedConnection);
+}

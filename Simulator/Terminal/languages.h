@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+/// The user-interface languages: English is built in, the others are catalogues (*_<code>.qm) in the plug-ins' folder
+/// or its folder "translations".
+class Languages {
+public:
+    /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application. Empty, or the
+    /// reason when there is none.
+    static QString install(const QString &code, const QDir &pluginFolder);
+};

@@ -1,0 +1,60 @@
+#include "look.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double Radius = 10.0;
+
+}
+
+QColor Look::panel()
+{
+    return QColor(22, 30, 38, 244);
+}
+
+QColor Look::button()
+{
+    return QColor(54, 66, 78);
+}
+
+QColor Look::pressedButton()
+{
+    return QColor(104, 120, 136);
+}
+
+QColor Look::accent()
+{
+    return QColor(255, 198, 0);
+}
+
+QColor Look::textOnAccent()
+{
+    return QColor(14, 18, 22);
+}
+
+QColor Look::text()
+{
+    return QColor(255, 255, 255);
+}
+
+QColor Look::faintText()
+{
+    return QColor(196, 206, 216);
+}
+
+QFont Look::font(int pixels, bool bold)
+{
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+void Look::drawPanel(QPainter &painter, const QRectF &area, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(area, Radius, Radius);
+}

@@ -1,0 +1,159 @@
+#include "productfile.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+#include <cmath>
+
+namespace {
+
+constexpr int ShortNameLength = 5;
+constexpr int MostBins = 99;
+
+const QMap<QString, Product::Kind> &kinds()
+{
+    static const QMap<QString, Product::Kind> table = {
+        {QStringLiteral("count"), Product::Kind::Count},       {QStringLiteral("injection"), Product::Kind::Injection},
+        {QStringLiteral("pressure"), Product::Kind::Pressure}, {QStringLiteral("ratio"), Product::Kind::Ratio},
+        {QStringLiteral("unknown"), Product::Kind::Unknown},   {QStringLiteral("volume"), Product::Kind::Volume},
+        {QStringLiteral("weight"), Product::Kind::Weight},
+    };
+    return table;
+}
+
+QString plainKey(const QString &key)
+{
+    QString plain;
+    for (const QChar c : key) {
+        if (c.isLetterOrNumber())
+            plain.append(c.toLower());
+    }
+    return plain;
+}
+
+/// Reads one value into `product`; the reason when it cannot.
+QString readValue(const QString &key, const QJsonValue &value, Product &product)
+{
+    const QString plain = plainKey(key);
+    const auto complaint = [&key](const char *wanted) {
+        return QStringLiteral("\"%1\" is no %2").arg(key, QLatin1String(wanted));
+    };
+    if (plain == QLatin1String("name") || plain == QLatin1String("shortname")) {
+        const QString text = value.toString().trimmed();
+        if (text.isEmpty())
+            return complaint("text");
+        (plain == QLatin1String("name") ? product.name : product.shortName) = text;
+    } else if (plain == QLatin1String("kind")) {
+        const auto kind = kinds().constFind(value.toString().toLower());
+        if (kind == kinds().constEnd())
+            return QStringLiteral("unknown kind \"%1\" (known: %2)")
+                .arg(value.toVariant().toString(), QStringList(kinds().keys()).join(QStringLiteral(", ")));
+        product.kind = *kind;
+    } else if (plain == QLatin1String("bin")) {
+        const double bin = value.toDouble(-1.0);
+        if (bin < 1.0 || bin > MostBins || bin != std::floor(bin))
+            return complaint("whole number from 1 to 99");
+        product.bin = int(bin);
+    } else if (plain == QLatin1String("defaultrate")) {
+        const double rate = value.toDouble(-1.0);
+        if (!(rate >= 0.0))
+            return complaint("number from 0");
+        product.defaultRate = rate;
+    } else if (plain == QLatin1String("undervra") || plain == QLatin1String("iscarrier")) {
+        if (!value.isBool())
+            return complaint("true or false");
+        (plain == QLatin1String("undervra") ? product.underVra : product.isCarrier) = value.toBool();
+    } else {
+        return QStringLiteral("unknown key \"%1\"").arg(key);
+    }
+    return {};
+}
+
+Result<Product> readProduct(const QJsonValue &value, int number)
+{
+    if (!value.isObject())
+        return Result<Product>::failure(QStringLiteral("is no object"));
+    Product product;
+    product.bin = number;
+    bool hasKind = false;
+    const QJsonObject object = value.toObject();
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const QString error = readValue(entry.key(), entry.value(), product);
+        if (!error.isEmpty())
+            return Result<Product>::failure(error);
+        hasKind = hasKind || plainKey(entry.key()) == QLatin1String("kind");
+    }
+    if (product.name.isEmpty())
+        return Result<Product>::failure(QStringLiteral("has no \"name\""));
+    if (!hasKind)
+        return Result<Product>::failure(QStringLiteral("has no \"kind\""));
+    if (product.shortName.isEmpty())
+        product.shortName = product.name.left(ShortNameLength).trimmed();
+    return {product, {}};
+}
+
+} // namespace
+
+Result<Products> ProductFile::read(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Result<Products>::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    return parse(file.readAll(), path);
+}
+
+Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
+{
+    const auto failure = [&name](const QString &reason) {
+        return Result<Products>::failure(QStringLiteral("%1: %2").arg(name, reason));
+    };
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError)
+        return failure(QStringLiteral("no JSON at byte %1: %2").arg(error.offset).arg(error.errorString()));
+    const QJsonValue list =
+        document.isArray() ? QJsonValue(document.array()) : document.object().value(QStringLiteral("products"));
+    if (!list.isArray())
+        return failure(QStringLiteral("holds no list of products"));
+    const QJsonArray entries = list.toArray();
+    if (entries.isEmpty() || entries.size() > MostProducts)
+        return failure(
+            QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(MostProducts));
+
+    Products products;
+    for (int i = 0; i < entries.size(); ++i) {
+        const Result<Product> product = readProduct(entries.at(i), i + 1);
+        if (!product.isOk())
+            return failure(QStringLiteral("product %1: %2").arg(i + 1).arg(product.error));
+        products.append(product.value);
+    }
+    return {products, {}};
+}
+
+Products ProductFile::standard()
+{
+    Product seed;
+    seed.name = QStringLiteral("Seed");
+    seed.shortName = QStringLiteral("Seed");
+    seed.kind = Product::Kind::Weight;
+    seed.bin = 1;
+    seed.defaultRate = 120.0;
+
+    Product fertiliser;
+    fertiliser.name = QStringLiteral("Fertiliser");
+    fertiliser.shortName = QStringLiteral("Fert");
+    fertiliser.kind = Product::Kind::Weight;
+    fertiliser.bin = 2;
+    fertiliser.defaultRate = 100.0;
+
+    Product spray;
+    spray.name = QStringLiteral("Herbicide");
+    spray.shortName = QStringLiteral("Herb");
+    spray.kind = Product::Kind::Volume;
+    spray.bin = 3;
+    spray.defaultRate = 150.0;
+    return {seed, fertiliser, spray};
+}

@@ -1,0 +1,82 @@
+#include "productselector.h"
+
+#include "look.h"
+#include "touchbutton.h"
+
+#include <QButtonGroup>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Heading = 40;
+constexpr int Gap = 8;
+constexpr int MostInColumn = 8;
+constexpr int TallestButton = 88;
+
+} // namespace
+
+ProductSelector::ProductSelector(const Products &products, QWidget *parent)
+    : QWidget(parent)
+    , buttons(new QButtonGroup(this))
+{
+    const bool isNarrow = products.size() > MostInColumn;
+    for (int number = 1; number <= products.size(); ++number) {
+        const Product &product = products.at(number - 1);
+        auto *button = new TouchButton(isNarrow ? product.shortName : product.name, this);
+        button->setNote(isNarrow ? tr("Bin %1").arg(product.bin)
+                                 : tr("Product %1, bin %2").arg(number).arg(product.bin));
+        button->setCheckable(true);
+        button->setObjectName(QStringLiteral("selectProduct%1").arg(number));
+        buttons->addButton(button, number);
+    }
+    connect(buttons, QOverload<int>::of(&QButtonGroup::buttonClicked), this, &ProductSelector::chosen);
+}
+
+void ProductSelector::setActiveProduct(int number)
+{
+    if (QAbstractButton *button = buttons->button(number))
+        button->setChecked(true);
+}
+
+int ProductSelector::columns() const
+{
+    return buttons->buttons().size() > MostInColumn ? 2 : 1;
+}
+
+int ProductSelector::rows() const
+{
+    return (buttons->buttons().size() + columns() - 1) / columns();
+}
+
+int ProductSelector::buttonHeight(int available) const
+{
+    return std::min(TallestButton, (available - Heading - Gap * rows()) / rows());
+}
+
+int ProductSelector::heightWithin(int available) const
+{
+    return Heading + (buttonHeight(available) + Gap) * rows();
+}
+
+void ProductSelector::resizeEvent(QResizeEvent *)
+{
+    const QList<QAbstractButton *> all = buttons->buttons();
+    const int buttonWidth = (width() - Gap * (columns() + 1)) / columns();
+    const int tall = buttonHeight(height());
+    for (int i = 0; i < all.size(); ++i) {
+        const int column = i / rows();
+        const int row = i % rows();
+        all.at(i)->setGeometry(Gap + column * (buttonWidth + Gap), Heading + row * (tall + Gap), buttonWidth, tall);
+    }
+}
+
+void ProductSelector::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Look::drawPanel(painter, rect(), Look::panel());
+    painter.setPen(Look::faintText());
+    painter.setFont(Look::font(17, true));
+    painter.drawText(QRect(0, 0, width(), Heading), Qt::AlignCenter, tr("PRODUCTS"));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "product.h"
+
+#include <QWidget>
+
+class QButtonGroup;
+
+/// The column of product buttons at the left edge: one column while the buttons stay big, else two.
+class ProductSelector : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ProductSelector(const Products &products, QWidget *parent = nullptr);
+
+    /// Numbers from 1.
+    void setActiveProduct(int number);
+    /// The height that the buttons take where there is room for `available` pixels.
+    int heightWithin(int available) const;
+
+Q_SIGNALS:
+    void chosen(int number);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int columns() const;
+    int rows() const;
+    int buttonHeight(int available) const;
+
+    QButtonGroup *buttons;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QJSValue>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+
+class Terminal;
+
+/// The script's object `terminal`. It lives on the script's thread; every call runs on the user-interface thread, from
+/// whichever event loop turns there, and throws a script error with the reason when it fails.
+class ScriptTerminal : public QObject {
+    Q_OBJECT
+    /// The active product's number, from 1.
+    Q_PROPERTY(int activeProduct READ activeProduct WRITE setActiveProduct)
+
+public:
+    /// `terminal` lives on the user-interface thread and outlives the script; a set `isInterrupted` ends wait().
+    ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent = nullptr);
+
+    int activeProduct() const;
+    void setActiveProduct(int number);
+
+    /// Loads a prescription; `options.columns` names the rate columns of products 1, 2, ...
+    Q_INVOKABLE QJSValue open(const QString &path, const QJSValue &options = QJSValue());
+    Q_INVOKABLE void close(const QString &group);
+    /// The text shown at a field point (metres) after touching it; empty for none.
+    Q_INVOKABLE QString touchMap(double x, double y);
+    /// Extent of what is loaded, metres; null when nothing is.
+    Q_INVOKABLE QJSValue bounds();
+    Q_INVOKABLE QJSValue mapColor(double x, double y);
+    Q_INVOKABLE QJSValue find(const QString &name);
+    Q_INVOKABLE QJSValue get(const QString &group, const QString &property);
+    Q_INVOKABLE void set(const QString &group, const QString &property, const QJSValue &value);
+    Q_INVOKABLE QStringList groups(const QString &pattern);
+    Q_INVOKABLE void drive(double metresPerSecond);
+    Q_INVOKABLE void stop();
+    Q_INVOKABLE void wait(double milliseconds);
+    Q_INVOKABLE void screenshot(const QString &path);
+
+private:
+    template <typename Function> auto onGui(Function function) const;
+    void fail(const QString &reason) const;
+
+    Terminal *terminal;
+    const std::atomic<bool> *isInterrupted;
+};

@@ -1,0 +1,74 @@
+#include "statusbar.h"
+
+#include "look.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double KilometresPerHour = 3.6;
+constexpr double MilesPerHour = 3.6 / 1.609344;
+constexpr int SpeedWidth = 190;
+constexpr int ProgressWidth = 360;
+
+} // namespace
+
+StatusBar::StatusBar(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("statusBar"));
+    setSpeed(0.0, true);
+}
+
+void StatusBar::setMaps(const QString &names)
+{
+    maps = names;
+    update();
+}
+
+void StatusBar::setSpeed(double metresPerSecond, bool metric)
+{
+    isMoving = metresPerSecond > 0.0;
+    const double factor = metric ? KilometresPerHour : MilesPerHour;
+    speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(metresPerSecond * factor, 0, 'f', 1) : tr("Stopped");
+    update();
+}
+
+void StatusBar::setProgress(const QString &file, double fraction)
+{
+    loading = file;
+    loaded = qBound(0.0, fraction, 1.0);
+    update();
+}
+
+void StatusBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(Look::panel().rgb()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect inner = rect().adjusted(20, 0, -20, 0);
+
+    const QRect speedArea(inner.right() - SpeedWidth, 0, SpeedWidth, height());
+    painter.setFont(Look::font(22, true));
+    painter.setPen(isMoving ? Look::accent() : Look::text());
+    painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, speed);
+
+    QRect mapArea(inner.left(), 0, inner.width() - SpeedWidth - Look::Margin, height());
+    if (!loading.isEmpty()) {
+        mapArea.setWidth(mapArea.width() - ProgressWidth - Look::Margin);
+        const QRect area(mapArea.right() + Look::Margin, 0, ProgressWidth, height());
+        painter.setFont(Look::font(15));
+        painter.setPen(Look::faintText());
+        painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft, tr("Loading %1").arg(loading));
+        const QRectF track(area.left(), height() - 22.0, area.width(), 12.0);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Look::button());
+        painter.drawRoundedRect(track, 6.0, 6.0);
+        painter.setBrush(Look::accent());
+        painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(qMax(12.0, track.width() * loaded), 12.0)), 6.0, 6.0);
+    }
+    painter.setFont(Look::font(22, true));
+    painter.setPen(Look::text());
+    painter.drawText(mapArea, Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(maps, Qt::ElideMiddle, mapArea.width()));
+}

@@ -1,0 +1,280 @@
+#include "terminal.h"
+
+#include "activemap.h"
+#include "fieldview.h"
+#include "guidancepage.h"
+#include "legendpanel.h"
+#include "machine.h"
+#include "mapoverlay.h"
+#include "pluginscanner.h"
+#include "productselector.h"
+#include "statusbar.h"
+#include "terminalwindow.h"
+#include "vehicle.h"
+
+#include "Framework/dbgroupproductgroupinfo.h"
+#include "Framework/uigraphicslist.h"
+#include "Framework/uiplugininterface.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QVector3D>
+
+/// A static library's resources have to be asked for, from outside of any namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(terminal);
+}
+
+Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
+    : QObject(parent)
+    , dataBroker(QString(), TerminalWindow::DisplaySize)
+    , prescriptions(new PrescriptionBackend(&dataBroker))
+    , machineModel(new Machine(&dataBroker, prescriptions.data(), products, units))
+    , vehicleModel(new Vehicle(machineModel->gpsSolution(), &clock))
+    , display(new TerminalWindow(products))
+{
+    initialiseResources();
+    connectDisplay();
+    showLegend();
+    showVehicle();
+}
+
+Terminal::~Terminal()
+{
+    display->guidancePage()->setPlugins({}, nullptr);
+    display->fieldView()->makeCurrent();
+    for (UiPluginInterface *plugin : qAsConst(plugins)) {
+        plugin->deleteAllWidgets();
+        plugin->close();
+    }
+    qDeleteAll(plugins);
+    display->fieldView()->doneCurrent();
+    disconnect(machineModel.data(), nullptr, this, nullptr);
+    prescriptions.reset();
+}
+
+void Terminal::connectDisplay()
+{
+    const bool isMetric = machineModel->unitSystem() == UnitSystem::Metric;
+    display->overlay()->setMetric(isMetric);
+    connect(&dataBroker, &DataBroker::groupPublished, this, &Terminal::watchGroup);
+    connect(machineModel.data(), &Machine::mapsChanged, this, &Terminal::followMaps);
+    connect(machineModel.data(), &Machine::activeProductChanged, this, &Terminal::showLegend);
+    connect(display->productSelector(), &ProductSelector::chosen, machineModel.data(), &Machine::setActiveProduct);
+    connect(display->fieldView(), &FieldView::touched, this, &Terminal::touch);
+    connect(display.data(), &TerminalWindow::frameRequested, this, [this] {
+        framedBounds = QRectF();
+        frameField();
+    });
+    connect(vehicleModel.data(), &Vehicle::moved, this, &Terminal::showVehicle);
+    connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
+        display->statusBar()->setProgress(QFileInfo(path).fileName(), fraction);
+    });
+    connect(prescriptions.data(), &PrescriptionBackend::finished, this,
+            [this] { display->statusBar()->setProgress(QString(), 0.0); });
+}
+
+QStringList Terminal::loadPlugins(const QDir &folder, const QDir &images)
+{
+    const PluginScanner::Findings findings = PluginScanner::scan(folder);
+    for (const PluginScanner::Plugin &plugin : findings.plugins) {
+        plugin.instance->init(&dataBroker, folder, images);
+        plugins.append(plugin.instance);
+    }
+    installGraphicsLists();
+    display->guidancePage()->setPlugins(plugins, &dataBroker);
+    return findings.complaints;
+}
+
+void Terminal::installGraphicsLists()
+{
+    for (UiPluginInterface *plugin : qAsConst(plugins)) {
+        const QStringList names = plugin->getGraphicsListNames();
+        for (const QString &name : names) {
+            const QPointer<UiGraphicsList> list = plugin->createUiGraphicsList(name, &dataBroker);
+            if (!list)
+                continue;
+            graphicsLists.append(list);
+            display->fieldView()->addGraphicsList(list);
+        }
+    }
+}
+
+bool Terminal::show()
+{
+    display->move(0, 0);
+    display->show();
+    QApplication::processEvents();
+    display->fieldView()->repaint();
+    return display->fieldView()->isValid();
+}
+
+LoadReport Terminal::open(const QString &path, const QStringList &columns)
+{
+    if (columns.isEmpty())
+        return openFor(path, productsUnderVra());
+    LoadReport refused;
+    refused.path = path;
+    if (columns.size() > machineModel->products().size()) {
+        refused.error = QStringLiteral("%1: %2 columns are named, but the machine has %3 products")
+                            .arg(path)
+                            .arg(columns.size())
+                            .arg(machineModel->products().size());
+        return refused;
+    }
+    LoadRequest request;
+    request.path = path;
+    request.columns = columns;
+    QList<int> numbers;
+    for (int number = 1; number <= columns.size(); ++number)
+        numbers.append(number);
+    return load(request, numbers);
+}
+
+LoadReport Terminal::openFor(const QString &path, const QList<int> &productNumbers)
+{
+    LoadRequest request;
+    request.path = path;
+    return load(request, productNumbers);
+}
+
+LoadReport Terminal::load(LoadRequest request, const QList<int> &productNumbers)
+{
+    const Products &products = machineModel->products();
+    for (const int number : productNumbers) {
+        request.rateCalNames.append(Machine::productGroupName(number));
+        request.defaultRates.append(products.at(number - 1).defaultRate);
+    }
+    for (const Product &product : products)
+        request.productNames.append(product.name);
+    return prescriptions->loadAndWait(request);
+}
+
+bool Terminal::close(const QString &group)
+{
+    return prescriptions->unload(group);
+}
+
+QList<int> Terminal::productsUnderVra() const
+{
+    QList<int> numbers;
+    const Products &products = machineModel->products();
+    for (int i = 0; i < products.size(); ++i) {
+        if (products.at(i).underVra)
+            numbers.append(i + 1);
+    }
+    return numbers;
+}
+
+QString Terminal::activeColumn() const
+{
+    return ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct())).columnName;
+}
+
+QMap<int, QString> Terminal::columnsOf(const QString &group) const
+{
+    QMap<int, QString> columns;
+    for (int number = 1; number <= machineModel->products().size(); ++number) {
+        const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
+        if (map.isValid() && map.groupName == group)
+            columns.insert(number, map.columnName);
+    }
+    return columns;
+}
+
+QString Terminal::touch(const QPointF &field)
+{
+    QString text;
+    for (const QPointer<UiGraphicsList> &list : qAsConst(graphicsLists)) {
+        if (list)
+            text += list->getPointDescription(QVector3D(float(field.x()), float(field.y()), 0.0F));
+    }
+    text = text.trimmed();
+    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct()));
+    const QColor color = text.isEmpty() ? QColor() : map.queriedColor(dataBroker);
+    display->overlay()->showBubble(field, text, color.isValid() ? FieldScene::onGround(color) : QColor());
+    return text;
+}
+
+std::optional<QRectF> Terminal::bounds() const
+{
+    std::optional<QRectF> all;
+    const QList<LoadReport> maps = prescriptions->maps();
+    for (const LoadReport &map : maps)
+        all = all ? all->united(map.bounds) : map.bounds;
+    return all;
+}
+
+QColor Terminal::mapColor(const QPointF &field)
+{
+    return display->fieldView()->colorAt(field);
+}
+
+QString Terminal::saveScreenshot(const QString &path)
+{
+    QImageWriter writer(path, "png");
+    return writer.write(display->screenshot()) ? QString() : QStringLiteral("%1: %2").arg(path, writer.errorString());
+}
+
+void Terminal::followMaps()
+{
+    QStringList names;
+    const QList<LoadReport> maps = prescriptions->maps();
+    for (const LoadReport &map : maps)
+        names.append(QFileInfo(map.path).fileName());
+    display->statusBar()->setMaps(names.join(QStringLiteral("  \u00b7  ")));
+    display->overlay()->showBubble(QPointF(), QString(), QColor());
+    display->guidancePage()->rebuild();
+    showLegend();
+    frameField();
+}
+
+void Terminal::showLegend()
+{
+    const int number = machineModel->activeProduct();
+    const Product &product = machineModel->products().at(number - 1);
+    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
+    auto *info = qobject_cast<DbGroupProductGroupInfo *>(dataBroker.getGroup(Machine::productGroupName(number), false));
+    display->legend()->show(product.name, map.columnName, map.legend, getRateConversion(info),
+                            rateUnit(product.rateKind(), machineModel->unitSystem()));
+    display->productSelector()->setActiveProduct(number);
+    display->overlay()->showBubble(QPointF(), QString(), QColor());
+    refresh();
+}
+
+void Terminal::refresh()
+{
+    display->fieldView()->forgetColors();
+    display->fieldView()->update();
+}
+
+void Terminal::redrawMap()
+{
+    refresh();
+}
+
+void Terminal::watchGroup(const QString &name)
+{
+    // The plug-in rebuilds its drawing on every set of the count; that the display must be drawn anew is the host's
+    // part.
+    if (DataBrokerGroup *group = dataBroker.getGroup(name, false))
+        group->connectPropertySetSlot("polygonCount", this, SLOT(redrawMap()), Qt::UniqueConnection, false);
+}
+
+void Terminal::showVehicle()
+{
+    display->overlay()->setVehicle(vehicleModel->position(), vehicleModel->heading());
+    display->statusBar()->setSpeed(vehicleModel->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
+}
+
+void Terminal::frameField()
+{
+    const std::optional<QRectF> all = bounds();
+    if (!all || *all == framedBounds)
+        return;
+    framedBounds = *all;
+    vehicleModel->setArea(*all);
+    display->fieldView()->frame(*all);
+}

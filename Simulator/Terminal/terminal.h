@@ -1,0 +1,101 @@
+#pragma once
+
+#include "Backend/prescriptionbackend.h"
+#include "product.h"
+#include "result.h"
+#include "simulationclock.h"
+#include "unitsystem.h"
+
+#include "Framework/databroker.h"
+
+#include <QDir>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QRectF>
+#include <QScopedPointer>
+#include <QStringList>
+
+#include <optional>
+
+class Machine;
+class TerminalWindow;
+class UiGraphicsList;
+class UiPluginInterface;
+class Vehicle;
+
+/// The terminal as a whole: broker, machine, prescriptions, plug-ins and display. Everything that the operator, the
+/// command line or a script does with it goes through here.
+class Terminal : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Terminal(const Products &products, UnitSystem units, QObject *parent = nullptr);
+    /// Plug-ins, maps and groups go, in this order.
+    ~Terminal() override;
+
+    /// Loads the plug-ins of `folder`; they take their images from `images`. Returns a line for each file that was
+    /// skipped. Call before show().
+    QStringList loadPlugins(const QDir &folder, const QDir &images);
+    bool hasPlugins() const { return !plugins.isEmpty(); }
+    /// Shows the display and waits until it is drawn; false when it has no OpenGL.
+    bool show();
+
+    DataBroker *broker() { return &dataBroker; }
+    PrescriptionBackend *backend() const { return prescriptions.data(); }
+    Machine *machine() const { return machineModel.data(); }
+    Vehicle *vehicle() const { return vehicleModel.data(); }
+    TerminalWindow *window() const { return display.data(); }
+
+    /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
+    /// leaves its product out. Without columns the most likely ones feed the products that a prescription may drive.
+    LoadReport open(const QString &path, const QStringList &columns);
+    /// The same, with the most likely columns for the products of these numbers (from 1).
+    LoadReport openFor(const QString &path, const QList<int> &productNumbers);
+    /// False when there is no such map.
+    bool close(const QString &group);
+    /// Numbers from 1 of all products that a prescription may drive.
+    QList<int> productsUnderVra() const;
+
+    /// The prescription column that feeds the active product; empty when none does.
+    QString activeColumn() const;
+
+    /// The columns of a map that feed products now, by product number (from 1).
+    QMap<int, QString> columnsOf(const QString &group) const;
+
+    /// Touches the ground at a field point (metres): the bubble there says what the graphics lists say. The text
+    /// shown, empty when they say nothing.
+    QString touch(const QPointF &field);
+    /// Extent of everything that is loaded, metres (top = least y); nothing when no map is.
+    std::optional<QRectF> bounds() const;
+    /// What is drawn at a field point, see FieldView::colorAt().
+    QColor mapColor(const QPointF &field);
+    /// Saves the display as it is seen; the reason when it cannot.
+    QString saveScreenshot(const QString &path);
+    /// Draws anew: something may look different.
+    void refresh();
+
+private Q_SLOTS:
+    void redrawMap();
+
+private:
+    void watchGroup(const QString &name);
+    LoadReport load(LoadRequest request, const QList<int> &productNumbers);
+    void connectDisplay();
+    void installGraphicsLists();
+    void followMaps();
+    void showLegend();
+    void showVehicle();
+    void frameField();
+
+    DataBroker dataBroker;
+    RealClock clock;
+    QScopedPointer<PrescriptionBackend> prescriptions;
+    QScopedPointer<Machine> machineModel;
+    QScopedPointer<Vehicle> vehicleModel;
+    QScopedPointer<TerminalWindow> display;
+    QList<UiPluginInterface *> plugins;
+    QList<QPointer<UiGraphicsList>> graphicsLists;
+    QRectF framedBounds;
+};

@@ -1,0 +1,108 @@
+#include "terminalwindow.h"
+
+#include "fieldview.h"
+#include "guidancepage.h"
+#include "legendpanel.h"
+#include "look.h"
+#include "mapoverlay.h"
+#include "productselector.h"
+#include "statusbar.h"
+#include "touchbutton.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int StatusHeight = 56;
+constexpr int SelectorWidth = 212;
+constexpr double ZoomStep = 1.5;
+
+} // namespace
+
+TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
+    : QWidget(parent)
+    , view(new FieldView(this))
+    , mapOverlay(new MapOverlay(this))
+    , status(new StatusBar(this))
+    , selector(new ProductSelector(products, this))
+    , legendPanel(new LegendPanel(this))
+    , page(new GuidancePage(this))
+{
+    setWindowTitle(tr("Field terminal"));
+    setObjectName(QStringLiteral("terminalWindow"));
+    setFixedSize(DisplaySize);
+    addZoomButtons();
+    connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
+    connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
+}
+
+TerminalWindow::~TerminalWindow() = default;
+
+void TerminalWindow::addZoomButtons()
+{
+    const auto add = [this](const QString &text, const char *name) {
+        auto *button = new TouchButton(text, this);
+        button->setObjectName(QLatin1String(name));
+        zoomButtons.append(button);
+        return button;
+    };
+    connect(add(QStringLiteral("+"), "zoomIn"), &TouchButton::clicked, view, [this] { view->zoom(ZoomStep); });
+    connect(add(QStringLiteral("\u2212"), "zoomOut"), &TouchButton::clicked, view,
+            [this] { view->zoom(1.0 / ZoomStep); });
+    connect(add(tr("Field"), "showField"), &TouchButton::clicked, this, &TerminalWindow::frameRequested);
+}
+
+void TerminalWindow::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void TerminalWindow::arrange()
+{
+    const QRect below(0, StatusHeight, width(), height() - StatusHeight);
+    status->setGeometry(0, 0, width(), StatusHeight);
+    view->setGeometry(below);
+    mapOverlay->setGeometry(below);
+    const QRect inner = below.adjusted(Look::Margin, Look::Margin, -Look::Margin, -Look::Margin);
+    selector->setGeometry(inner.left(), inner.top(), SelectorWidth, selector->heightWithin(inner.height()));
+    legendPanel->resize(legendPanel->sizeHint());
+    legendPanel->move(inner.right() + 1 - legendPanel->width(), inner.top());
+
+    int bottom = inner.bottom() + 1;
+    int right = inner.right() + 1;
+    for (int i = zoomButtons.size() - 1; i >= 0; --i) {
+        right -= Look::TouchTarget;
+        zoomButtons.at(i)->setGeometry(right, bottom - Look::TouchTarget, Look::TouchTarget, Look::TouchTarget);
+        right -= Look::Margin / 2;
+    }
+    bottom -= Look::TouchTarget + Look::Margin;
+    page->resize(page->sizeHint());
+    page->move(inner.right() + 1 - page->width(), bottom - page->height());
+    page->setVisible(!page->sizeHint().isEmpty());
+
+    QRectF free(inner.left() + SelectorWidth + Look::Margin, inner.top(), 0.0, inner.height());
+    free.setRight(legendPanel->x() - Look::Margin);
+    free.translate(0.0, -StatusHeight);
+    view->setFreeArea(free);
+    mapOverlay->setFreeArea(free);
+}
+
+void TerminalWindow::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closed();
+}
+
+QImage TerminalWindow::screenshot()
+{
+    QImage image = grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window != this && window->isVisible() && window->isWindow())
+            painter.drawPixmap(window->pos() - pos(), window->grab());
+    }
+    return image;
+}

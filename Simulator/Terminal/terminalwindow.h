@@ -1,0 +1,56 @@
+#pragma once
+
+#include "product.h"
+
+#include <QImage>
+#include <QWidget>
+
+class FieldView;
+class GuidancePage;
+class LegendPanel;
+class MapOverlay;
+class ProductSelector;
+class StatusBar;
+
+/// The terminal's display: the field view with the panels around and over it.
+class TerminalWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Pixels.
+    static constexpr QSize DisplaySize{1280, 800};
+
+    explicit TerminalWindow(const Products &products, QWidget *parent = nullptr);
+    ~TerminalWindow() override;
+
+    FieldView *fieldView() const { return view; }
+    MapOverlay *overlay() const { return mapOverlay; }
+    LegendPanel *legend() const { return legendPanel; }
+    ProductSelector *productSelector() const { return selector; }
+    StatusBar *statusBar() const { return status; }
+    GuidancePage *guidancePage() const { return page; }
+
+    /// The display as it is seen, with every dialog and popup that is open over it.
+    QImage screenshot();
+
+Q_SIGNALS:
+    /// The field is to be seen as a whole again.
+    void frameRequested();
+    void closed();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void addZoomButtons();
+    void arrange();
+
+    FieldView *view;
+    MapOverlay *mapOverlay;
+    StatusBar *status;
+    ProductSelector *selector;
+    LegendPanel *legendPanel;
+    GuidancePage *page;
+    QList<QWidget *> zoomButtons;
+};

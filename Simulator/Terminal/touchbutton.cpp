@@ -1,0 +1,61 @@
+#include "touchbutton.h"
+
+#include "look.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int TextPixels = 24;
+constexpr int NotePixels = 15;
+constexpr int Inset = 10;
+
+} // namespace
+
+TouchButton::TouchButton(const QString &text, QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setText(text);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void TouchButton::setNote(const QString &newNote)
+{
+    note = newNote;
+    update();
+}
+
+QSize TouchButton::sizeHint() const
+{
+    return QSize(Look::TouchTarget, Look::TouchTarget);
+}
+
+void TouchButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QColor fill = isDown() ? Look::pressedButton() : isChecked() ? Look::accent() : Look::button();
+    Look::drawPanel(painter, rect(), fill);
+    const bool onAccent = isChecked() && !isDown();
+    const QRect inner = rect().adjusted(Inset, 0, -Inset, 0);
+
+    QFont font = Look::font(TextPixels, true);
+    const double needed = QFontMetricsF(font).horizontalAdvance(text());
+    if (needed > inner.width())
+        font.setPixelSize(std::max(NotePixels, int(TextPixels * inner.width() / needed)));
+    painter.setFont(font);
+    painter.setPen(onAccent ? Look::textOnAccent() : Look::text());
+    const QString shown = QFontMetrics(font).elidedText(text(), Qt::ElideRight, inner.width());
+    if (note.isEmpty()) {
+        painter.drawText(inner, Qt::AlignCenter, shown);
+        return;
+    }
+    const int middle = height() / 2 + 2;
+    painter.drawText(QRect(inner.left(), 0, inner.width(), middle), Qt::AlignHCenter | Qt::AlignBottom, shown);
+    painter.setFont(Look::font(NotePixels));
+    painter.setPen(onAccent ? Look::textOnAccent() : Look::faintText());
+    painter.drawText(QRect(inner.left(), middle + 2, inner.width(), height() - middle - 2),
+                     Qt::AlignHCenter | Qt::AlignTop,
+                     QFontMetrics(painter.font()).elidedText(note, Qt::ElideRight, inner.width()));
+}

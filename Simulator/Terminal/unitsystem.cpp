@@ -1,0 +1,54 @@
+#include "unitsystem.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct UnitTexts {
+    Product::Kind kind;
+    const char *text[3]; ///< By UnitSystem.
+    const char *comment[3];
+};
+
+// The comments tell translators apart what the abbreviations stand for.
+constexpr UnitTexts Texts[] = {
+    {Product::Kind::Count,
+     {"k/ac", "k/ha", "k/tu"},
+     {"count per area: 1000/acre", "count per area: 1000/hectare", "count per area: 1000/turf"}},
+    {Product::Kind::Ratio,
+     {"fl oz/gal", "L/L", "fl oz/gal"},
+     {"fluid ounces/galon", "liter/liter", "fluid ounces/galon"}},
+    {Product::Kind::Injection,
+     {"fl oz/ac", "mL/ha", "fl oz/tu"},
+     {"fluid ounce/acre", "milliliter/hectare", "fluid ounce/turf"}},
+    {Product::Kind::Volume, {"gal/ac", "L/ha", "gal/tu"}, {"gallons/acre", "liter/hectare", "gallons/turf"}},
+    {Product::Kind::Weight, {"lb/ac", "kg/ha", "lb/tu"}, {"pound/acre", "kilogram/hectare", "pound/turf"}},
+    {Product::Kind::Pressure,
+     {"psi", "kPa", "psi"},
+     {"unit of pressure: pound-force per square inch", "unit of pressure: kilopascals",
+      "unit of pressure: pound-force per square inch"}},
+};
+
+} // namespace
+
+QString rateUnit(Product::Kind kind, UnitSystem units)
+{
+    for (const UnitTexts &entry : Texts) {
+        if (entry.kind == kind)
+            return QCoreApplication::translate("DbGroupQmlUnitsConverter", entry.text[int(units)],
+                                               entry.comment[int(units)]);
+    }
+    return {};
+}
+
+int areaUnitSystem(UnitSystem units)
+{
+    return int(units);
+}
+
+int pressureUnit(UnitSystem units)
+{
+    constexpr int Psi = 0;
+    constexpr int Kilopascal = 1;
+    return units == UnitSystem::Metric ? Kilopascal : Psi;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "product.h"
+
+#include <QString>
+
+/// The operator's unit system.
+enum class UnitSystem { Us, Metric, Turf };
+
+/// What the terminal writes behind a rate of that kind, translated; empty for a product of unknown kind.
+QString rateUnit(Product::Kind kind, UnitSystem units);
+/// What the host's units converter holds as "areaUnitSystem" and "pressureUnit".
+int areaUnitSystem(UnitSystem units);
+int pressureUnit(UnitSystem units);
