@@ -51,6 +51,7 @@ NumericKeypad::NumericKeypad(const QDir &imageDir, QWidget *field)
 {
     setObjectName(QStringLiteral("numericKeypad"));
     setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_NoMouseReplay);
     setFont(field->font());
     const QRect lastKey = keyPlace(columns - 1, rows - 1);
     setFixedSize(lastKey.right() + 1 + margin, lastKey.bottom() + 1 + margin);
@@ -183,7 +184,8 @@ void NumericKeypad::hideEvent(QHideEvent *event)
     Q_EMIT closed();
 }
 
-/// The window system closes a popup on a touch beside it; a touch that a tool hands to another widget does so too.
+/// The window system takes a touch beside a popup and closes it. A touch that a tool hands to another widget directly
+/// closes it too, but reaches that widget.
 bool NumericKeypad::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType() && watched != this

@@ -12,8 +12,8 @@
 class OrvikButton;
 
 /// The on-screen keypad of a numeric field: a popup that a modal dialog does not block. It reports keys, touched or
-/// typed on a hardware keyboard, and shows the text that it is told; a touch outside closes it. Its keys are named
-/// "keypad0" to "keypad9", "keypadPoint", "keypadMinus", "keypadBackspace" and "keypadEnter".
+/// typed on a hardware keyboard, and shows the text that it is told; a touch outside closes it and does nothing else.
+/// Its keys are named "keypad0" to "keypad9", "keypadPoint", "keypadMinus", "keypadBackspace" and "keypadEnter".
 class NumericKeypad : public QWidget {
     Q_OBJECT
 

@@ -61,8 +61,6 @@ public:
 void OrvikLineEditPrivate::openKeypad()
 {
     beginEditing();
-    if (keypad)
-        return;
     keypad = new NumericKeypad(imageDir, q);
     keypad->setLimits(entry.limitsText(), entry.takesPoint(), entry.takesMinus());
     QObject::connect(keypad.data(), &NumericKeypad::keyed, q, [this](const NumericKey &key) { handle(key); });

@@ -314,7 +314,7 @@ void tst_OrvikButton::aLongTextStaysOnTheButton()
             if (image.pixelColor(x, y) == QColor(Qt::lightGray))
                 continue;
             ++redPixels;
-            QVERIFY2(x >= 6 && x < image.width() - 6, "the text touches the button's edge");
+            QVERIFY2(x >= 11 && x < image.width() - 11, "the text touches the button's edge");
         }
     }
     QVERIFY(redPixels > 0);

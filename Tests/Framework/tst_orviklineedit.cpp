@@ -29,11 +29,14 @@ private Q_SLOTS:
     void refusesKeystrokesBeyondItsLimits();
     void takesAHardwareKeyboard();
     void keysThatItDoesNotUseGoToTheDialog();
+    void anEntryEndsWhenTheKeyboardGoesElsewhere();
     void enterClosesTheKeypad();
-    void aTouchOnAnotherFieldMovesTheKeypadThere();
+    void aFingerBesideTheKeypadOnlyClosesIt();
+    void aTouchHandedToAnotherFieldMovesTheKeypadThere();
     void textSetWhileEditingIsReplacedByTheNextKey();
     void hidingOrDisablingTheFieldClosesTheKeypad_data();
     void hidingOrDisablingTheFieldClosesTheKeypad();
+    void aFieldDisabledUnderTheFingerOpensNothing();
     void aKeypadDoesNotOutliveItsField();
     void aDisabledFieldTakesNothing();
     void worksWhileAModalDialogIsOpen();
@@ -237,6 +240,20 @@ void tst_OrvikLineEdit::keysThatItDoesNotUseGoToTheDialog()
     QCOMPARE(dialog->result(), int(QDialog::Rejected));
 }
 
+void tst_OrvikLineEdit::anEntryEndsWhenTheKeyboardGoesElsewhere()
+{
+    OrvikLineEdit *other = addField(8, QPoint(100, 300));
+    other->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.data()));
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_1);
+    other->setFocus();
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_2);
+    QCOMPARE(field->getText(), QStringLiteral("2"));
+}
+
 void tst_OrvikLineEdit::enterClosesTheKeypad()
 {
     QTest::mouseClick(field, Qt::LeftButton);
@@ -246,7 +263,22 @@ void tst_OrvikLineEdit::enterClosesTheKeypad()
     QCOMPARE(changed->count(), 1);
 }
 
-void tst_OrvikLineEdit::aTouchOnAnotherFieldMovesTheKeypadThere()
+void tst_OrvikLineEdit::aFingerBesideTheKeypadOnlyClosesIt()
+{
+    OrvikLineEdit *other = addField(8, QPoint(100, 300));
+    other->show();
+    QTest::mouseClick(field, Qt::LeftButton);
+    QVERIFY(QTest::qWaitForWindowExposed(keypad()));
+    QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, other->geometry().center());
+    QVERIFY(keypad() == nullptr);
+    QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, other->geometry().center());
+    QVERIFY(keypad() != nullptr);
+    touchKeys(QStringLiteral("9"));
+    QCOMPARE(field->getText(), QStringLiteral("2.5"));
+    QCOMPARE(other->getText(), QStringLiteral("9"));
+}
+
+void tst_OrvikLineEdit::aTouchHandedToAnotherFieldMovesTheKeypadThere()
 {
     OrvikLineEdit *other = addField(8, QPoint(100, 300));
     other->show();
@@ -254,7 +286,6 @@ void tst_OrvikLineEdit::aTouchOnAnotherFieldMovesTheKeypadThere()
     QPointer<QWidget> first = keypad();
     QTest::mouseClick(other, Qt::LeftButton);
     QTRY_VERIFY(first.isNull());
-    QVERIFY(keypad() != nullptr);
     touchKeys(QStringLiteral("9"));
     QCOMPARE(field->getText(), QStringLiteral("2.5"));
     QCOMPARE(other->getText(), QStringLiteral("9"));
@@ -264,7 +295,9 @@ void tst_OrvikLineEdit::textSetWhileEditingIsReplacedByTheNextKey()
 {
     QTest::mouseClick(field, Qt::LeftButton);
     touchKeys(QStringLiteral("1"));
+    const QImage before = keypad()->grab().toImage();
     field->setText(QStringLiteral("30.0"));
+    QVERIFY2(keypad()->grab().toImage() != before, "the keypad shows the old text");
     touchKeys(QStringLiteral("4"));
     QCOMPARE(field->getText(), QStringLiteral("4"));
 }
@@ -291,6 +324,15 @@ void tst_OrvikLineEdit::hidingOrDisablingTheFieldClosesTheKeypad()
     QTRY_VERIFY(open.isNull());
     QCOMPARE(field->getText(), QStringLiteral("2.5"));
     QCOMPARE(changed->count(), 0);
+}
+
+void tst_OrvikLineEdit::aFieldDisabledUnderTheFingerOpensNothing()
+{
+    QTest::mousePress(field, Qt::LeftButton);
+    field->setEnabled(false);
+    field->setEnabled(true);
+    QTest::mouseRelease(field, Qt::LeftButton);
+    QVERIFY(keypad() == nullptr);
 }
 
 void tst_OrvikLineEdit::aKeypadDoesNotOutliveItsField()
