@@ -14,7 +14,7 @@ constexpr int mostRounds = 8;
 /// Whether every vertex of `inner` lies in `outer` or on it.
 bool liesIn(const PlaneRing &inner, const PlaneRing &outer)
 {
-    const RingIndex index(outer.data(), outer.size());
+    const RingSlabs index(outer.data(), outer.size());
     const auto isBefore = [](const PlaneVertex &a, const PlaneVertex &b) { return a.x != b.x ? a.x < b.x : a.y < b.y; };
     PlaneRing places = outer;
     std::sort(places.begin(), places.end(), isBefore);
@@ -59,7 +59,7 @@ std::vector<OuterRing> HoleArrangement::outers() const
 
 int HoleArrangement::misplaced() const
 {
-    const HolePlacement placement(outers());
+    const HoleTakers placement(outers());
     int count = 0;
     for (size_t i = 0; i < polygons.size(); ++i) {
         for (const PlaneRing &hole : polygons[i].holes)
@@ -72,7 +72,7 @@ bool HoleArrangement::round()
 {
     order.clear();
     toJoin.clear();
-    const HolePlacement placement(outers());
+    const HoleTakers placement(outers());
     for (size_t i = 0; i < polygons.size(); ++i) {
         for (size_t k = 0; k < polygons[i].holes.size(); ++k) {
             const PlaneRing &hole = polygons[i].holes[k];

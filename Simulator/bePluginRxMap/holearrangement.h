@@ -1,6 +1,6 @@
 #pragma once
 
-#include "holeplacement.h"
+#include "holetakers.h"
 #include "planering.h"
 
 #include <utility>

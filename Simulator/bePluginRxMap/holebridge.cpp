@@ -14,38 +14,80 @@ struct Way {
 /// Ways that are tried before a hole is given up.
 constexpr size_t mostWays = 2000;
 
+struct Box {
+    double west = std::numeric_limits<double>::infinity();
+    double south = std::numeric_limits<double>::infinity();
+    double east = -std::numeric_limits<double>::infinity();
+    double north = -std::numeric_limits<double>::infinity();
+
+    /// From the place to the box, 0 within it.
+    double squaredDistance(const PlaneVertex &place) const
+    {
+        const double dx = std::max({west - place.x, place.x - east, 0.0});
+        const double dy = std::max({south - place.y, place.y - north, 0.0});
+        return dx * dx + dy * dy;
+    }
+    bool meetsExtentOf(const PlaneVertex &a, const PlaneVertex &b) const
+    {
+        return std::max(a.x, b.x) >= west && std::min(a.x, b.x) <= east && std::max(a.y, b.y) >= south
+            && std::min(a.y, b.y) <= north;
+    }
+};
+
+Box boxOf(const PlaneRing &ring)
+{
+    Box box;
+    for (const PlaneVertex &vertex : ring) {
+        box.west = std::min(box.west, vertex.x);
+        box.south = std::min(box.south, vertex.y);
+        box.east = std::max(box.east, vertex.x);
+        box.north = std::max(box.north, vertex.y);
+    }
+    return box;
+}
+
 /// Puts each vertex of `others` that lies within an edge of `ring` into that edge.
 void takeTouchingVertices(PlaneRing &ring, const PlaneRing &others)
 {
-    for (const PlaneVertex &vertex : others) {
-        for (size_t i = 0; i < ring.size(); ++i) {
-            const PlaneVertex &from = ring[i];
-            const PlaneVertex &to = ring[(i + 1) % ring.size()];
-            if (samePlace(vertex, from) || samePlace(vertex, to) || !liesOnSegment(vertex, from, to))
-                continue;
-            ring.insert(ring.begin() + static_cast<std::ptrdiff_t>(i) + 1, vertex);
-            break;
+    const Box box = boxOf(others);
+    for (size_t i = 0; i < ring.size(); ++i) {
+        if (!box.meetsExtentOf(ring[i], ring[(i + 1) % ring.size()]))
+            continue;
+        for (const PlaneVertex &vertex : others) {
+            const PlaneVertex to = ring[(i + 1) % ring.size()];
+            if (!samePlace(vertex, ring[i]) && !samePlace(vertex, to) && liesOnSegment(vertex, ring[i], to))
+                ring.insert(ring.begin() + static_cast<std::ptrdiff_t>(i) + 1, vertex);
         }
     }
 }
 
-/// For each vertex of the outer ring, the way to the nearest vertex of the hole; shortest first.
+Way nearestWay(const PlaneRing &outer, size_t place, const PlaneRing &hole)
+{
+    Way nearest = {std::numeric_limits<double>::infinity(), place, 0};
+    for (size_t k = 0; k < hole.size(); ++k) {
+        const double dx = hole[k].x - outer[place].x;
+        const double dy = hole[k].y - outer[place].y;
+        if (dx * dx + dy * dy < nearest.squaredLength)
+            nearest = {dx * dx + dy * dy, place, k};
+    }
+    return nearest;
+}
+
+/// Ways from the outer ring's vertices near the hole to the hole's nearest vertex each; shortest first.
 std::vector<Way> ways(const PlaneRing &outer, const PlaneRing &hole)
 {
+    const auto isShorter = [](const Way &a, const Way &b) { return a.squaredLength < b.squaredLength; };
+    const Box box = boxOf(hole);
     std::vector<Way> result;
     result.reserve(outer.size());
-    for (size_t i = 0; i < outer.size(); ++i) {
-        Way nearest = {std::numeric_limits<double>::infinity(), i, 0};
-        for (size_t k = 0; k < hole.size(); ++k) {
-            const double dx = hole[k].x - outer[i].x;
-            const double dy = hole[k].y - outer[i].y;
-            if (dx * dx + dy * dy < nearest.squaredLength)
-                nearest = {dx * dx + dy * dy, i, k};
-        }
-        result.push_back(nearest);
-    }
-    std::sort(result.begin(), result.end(),
-              [](const Way &a, const Way &b) { return a.squaredLength < b.squaredLength; });
+    for (size_t i = 0; i < outer.size(); ++i)
+        result.push_back({box.squaredDistance(outer[i]), i, 0});
+    const auto end = result.begin() + static_cast<std::ptrdiff_t>(std::min(mostWays, result.size()));
+    std::partial_sort(result.begin(), end, result.end(), isShorter);
+    result.erase(end, result.end());
+    for (Way &way : result)
+        way = nearestWay(outer, way.outer, hole);
+    std::sort(result.begin(), result.end(), isShorter);
     return result;
 }
 
@@ -102,10 +144,7 @@ bool HoleBridge::join(PlanePolygon &polygon, size_t number)
         std::reverse(hole.begin(), hole.end());
     takeTouchingVertices(outer, hole);
     takeTouchingVertices(hole, outer);
-    const std::vector<Way> candidates = ways(outer, hole);
-    const size_t tried = std::min(mostWays, candidates.size());
-    for (size_t i = 0; i < tried; ++i) {
-        const Way &way = candidates[i];
+    for (const Way &way : ways(outer, hole)) {
         if (way.squaredLength > 0.0 && !isFree(polygon, outer[way.outer], hole[way.hole]))
             continue;
         polygon.outer = joined(outer, hole, way);

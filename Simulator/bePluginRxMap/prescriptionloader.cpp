@@ -5,6 +5,7 @@
 #include "legendbuilder.h"
 #include "prescriptionreader.h"
 #include "ratecolumns.h"
+#include "repeatedpolygons.h"
 #include "ringrepair.h"
 
 #include <algorithm>
@@ -86,6 +87,8 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     if (!place(map) || !repairRings() || !chooseColumns(map))
         return false;
     dropRecordsWithoutRate();
+    countRings(map);
+    dropHidden();
     if (!arrange())
         return false;
     map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
@@ -248,6 +251,32 @@ void PrescriptionLoader::dropRecordsWithoutRate()
                    polygons.end());
 }
 
+void PrescriptionLoader::countRings(LoadedMap &map) const
+{
+    std::vector<bool> isUsed(static_cast<size_t>(source.records), false);
+    for (const PlanePolygon &polygon : polygons) {
+        isUsed[static_cast<size_t>(polygon.record)] = true;
+        map.report.holes += static_cast<int>(polygon.holes.size());
+    }
+    map.report.outers = static_cast<int>(polygons.size());
+    map.report.skipped = static_cast<int>(std::count(isUsed.begin(), isUsed.end(), false));
+}
+
+void PrescriptionLoader::dropHidden()
+{
+    const auto hides = [this](int later, int earlier) {
+        for (size_t i = 0; i < mappings; ++i) {
+            if (std::isnan(rates[static_cast<size_t>(later) * mappings + i])
+                && !std::isnan(rates[static_cast<size_t>(earlier) * mappings + i]))
+                return false;
+        }
+        return true;
+    };
+    warnCount(RepeatedPolygons::drop(polygons, hides),
+              QStringLiteral("polygon is hidden under a later one of the same shape"),
+              QStringLiteral("polygons are hidden under later ones of the same shape"));
+}
+
 bool PrescriptionLoader::arrange()
 {
     if (polygons.empty())
@@ -274,14 +303,7 @@ void PrescriptionLoader::buildLegends(LoadedMap &map) const
 void PrescriptionLoader::reportCounts(LoadedMap &map)
 {
     map.report.polygons = static_cast<int>(map.chain->size());
-    map.report.outers = static_cast<int>(map.chain->outers());
-    map.report.holes = map.report.polygons - map.report.outers;
     map.report.bounds = map.chain->bounds();
-    std::vector<bool> isPublished(static_cast<size_t>(source.records), false);
-    for (const PlanePolygon &polygon : polygons)
-        isPublished[static_cast<size_t>(polygon.record)] = true;
-    map.report.skipped = static_cast<int>(std::count(isPublished.begin(), isPublished.end(), false));
-
     warnCount(source.emptyRecords, QStringLiteral("record without geometry was skipped"),
               QStringLiteral("records without geometry were skipped"));
     warnCount(source.otherRecords, QStringLiteral("record that is no polygon was skipped"),

@@ -31,6 +31,8 @@ private:
     std::vector<int> columnsByLikelihood(LoadedMap &map) const;
     void takeRates(const std::vector<int> &columns);
     void dropRecordsWithoutRate();
+    void dropHidden();
+    void countRings(LoadedMap &map) const;
     bool arrange();
     void buildLegends(LoadedMap &map) const;
     void reportCounts(LoadedMap &map);

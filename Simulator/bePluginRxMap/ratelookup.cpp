@@ -1,6 +1,6 @@
 #include "ratelookup.h"
 
-#include "holeplacement.h"
+#include "holetakers.h"
 
 #include <algorithm>
 #include <boost/iterator/function_output_iterator.hpp>
@@ -32,10 +32,10 @@ std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &outers,
     std::vector<PlacedHole> result;
     if (holes.empty())
         return result;
-    const HolePlacement placement(outerRings(outers));
+    const HoleTakers placement(outerRings(outers));
     for (const RX_POLYGON *hole : holes) {
         const int outer = placement.taker(hole->vertices, hole->vertexCount, hole->area);
-        if (outer != HolePlacement::nowhere)
+        if (outer != HoleTakers::nowhere)
             result.push_back({outer, hole});
     }
     std::stable_sort(result.begin(), result.end(),
@@ -69,7 +69,7 @@ RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCo
 
     outers.reserve(outerRecords.size());
     for (const RX_POLYGON *record : outerRecords)
-        outers.push_back({RingIndex(record->vertices, record->vertexCount), record->rates});
+        outers.push_back({RingSlabs(record->vertices, record->vertexCount), record->rates});
     for (const PlacedHole &hole : placed(outerRecords, holeRecords)) {
         Outer &outer = outers[static_cast<size_t>(hole.outer)];
         if (outer.holeCount++ == 0)

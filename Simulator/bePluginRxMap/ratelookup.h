@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ringindex.h"
+#include "ringslabs.h"
 #include "ringtree.h"
 
 #include "Framework/rxpolygon.h"
@@ -33,7 +33,7 @@ private:
     bool covers(unsigned outer, double x, double y) const;
 
     struct Outer {
-        RingIndex ring;
+        RingSlabs ring;
         const float *rates;
         /// The holes cut from it: holes[firstHole ... firstHole + holeCount).
         unsigned firstHole = 0;
@@ -42,6 +42,6 @@ private:
 
     size_t mappings;
     std::vector<Outer> outers; ///< In the order of drawing.
-    std::vector<RingIndex> holes;
+    std::vector<RingSlabs> holes;
     RingTree tree;
 };

@@ -41,6 +41,8 @@ struct LoadReport {
     /// Name of the published group, "rxMap.<file name>".
     QString group;
     int polygons = 0; ///< Records of the chain.
+    /// Outer rings and holes of the prescription. The chain has fewer where a polygon is hidden under a later one of
+    /// the same shape, and where a hole had to become part of its outer ring.
     int outers = 0;
     int holes = 0;
     /// The columns in mapping order.

@@ -1,4 +1,4 @@
-#include "ringindex.h"
+#include "ringslabs.h"
 
 #include <algorithm>
 #include <limits>
@@ -10,7 +10,7 @@ constexpr size_t edgesPerSlab = 4;
 
 } // namespace
 
-RingIndex::RingIndex(const PlaneVertex *ringVertices, size_t vertexCount)
+RingSlabs::RingSlabs(const PlaneVertex *ringVertices, size_t vertexCount)
     : vertices(ringVertices)
     , count(vertexCount)
     , lowest(std::numeric_limits<double>::infinity())
@@ -24,13 +24,13 @@ RingIndex::RingIndex(const PlaneVertex *ringVertices, size_t vertexCount)
         buildSlabs();
 }
 
-size_t RingIndex::slabOf(double y) const
+size_t RingSlabs::slabOf(double y) const
 {
     const size_t last = slabStarts.size() - 2;
     return std::min(last, static_cast<size_t>((y - lowest) * slabsPerMetre));
 }
 
-void RingIndex::buildSlabs()
+void RingSlabs::buildSlabs()
 {
     const size_t slabs = count / edgesPerSlab;
     slabsPerMetre = static_cast<double>(slabs) / (highest - lowest);

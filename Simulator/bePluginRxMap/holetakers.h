@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ringindex.h"
+#include "ringslabs.h"
 #include "ringtree.h"
 
 #include <vector>
@@ -15,12 +15,12 @@ struct OuterRing {
 /// Says which outer ring the renderer cuts a hole from. The renderer is not told which hole belongs to which polygon:
 /// it cuts a hole from the first outer ring, in the order of drawing, that is larger by more than ten square metres and
 /// holds all of its vertices (taken as single-precision numbers).
-class HolePlacement {
+class HoleTakers {
 public:
     static constexpr int nowhere = -1;
 
     /// `outers` in the order of drawing; their vertices are not copied and must outlive this.
-    explicit HolePlacement(std::vector<OuterRing> outers);
+    explicit HoleTakers(std::vector<OuterRing> outers);
 
     /// Places of all outer rings that fulfil the conditions, ascending.
     std::vector<int> takers(const PlaneVertex *hole, size_t count, double area) const;
@@ -32,6 +32,6 @@ private:
     bool takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const;
 
     std::vector<OuterRing> outers;
-    std::vector<RingIndex> indexes;
+    std::vector<RingSlabs> indexes;
     RingTree tree;
 };

@@ -1,4 +1,4 @@
-#include "holeplacement.h"
+#include "holetakers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -24,7 +24,7 @@ std::vector<TreeEntry> entries(const std::vector<OuterRing> &outers)
 
 } // namespace
 
-HolePlacement::HolePlacement(std::vector<OuterRing> outerRings)
+HoleTakers::HoleTakers(std::vector<OuterRing> outerRings)
     : outers(std::move(outerRings))
     , tree(entries(outers))
 {
@@ -33,7 +33,7 @@ HolePlacement::HolePlacement(std::vector<OuterRing> outerRings)
         indexes.emplace_back(outer.vertices, outer.count);
 }
 
-std::vector<unsigned> HolePlacement::candidates(const PlaneVertex *hole, size_t count) const
+std::vector<unsigned> HoleTakers::candidates(const PlaneVertex *hole, size_t count) const
 {
     std::vector<unsigned> result;
     if (count == 0)
@@ -48,7 +48,7 @@ std::vector<unsigned> HolePlacement::candidates(const PlaneVertex *hole, size_t 
     return result;
 }
 
-bool HolePlacement::takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const
+bool HoleTakers::takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const
 {
     if (!(outers[outer].area - leastDifference > area))
         return false;
@@ -57,7 +57,7 @@ bool HolePlacement::takes(unsigned outer, const PlaneVertex *hole, size_t count,
     });
 }
 
-std::vector<int> HolePlacement::takers(const PlaneVertex *hole, size_t count, double area) const
+std::vector<int> HoleTakers::takers(const PlaneVertex *hole, size_t count, double area) const
 {
     std::vector<int> result;
     for (const unsigned outer : candidates(hole, count)) {
@@ -67,7 +67,7 @@ std::vector<int> HolePlacement::takers(const PlaneVertex *hole, size_t count, do
     return result;
 }
 
-int HolePlacement::taker(const PlaneVertex *hole, size_t count, double area) const
+int HoleTakers::taker(const PlaneVertex *hole, size_t count, double area) const
 {
     for (const unsigned outer : candidates(hole, count)) {
         if (takes(outer, hole, count, area))

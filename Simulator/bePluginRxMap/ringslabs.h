@@ -27,9 +27,9 @@ struct SharedEdgeCrossing {
 
 /// Even-odd test of points in one ring. Long rings are cut into level slabs, so that a test looks at the edges of one
 /// slab only. The vertices are not copied and must outlive the index.
-class RingIndex {
+class RingSlabs {
 public:
-    RingIndex(const PlaneVertex *vertices, size_t count);
+    RingSlabs(const PlaneVertex *vertices, size_t count);
 
     /// False for a ring without vertices, and for a point that is not a number.
     template <typename Crossing> bool contains(double x, double y, Crossing crosses) const

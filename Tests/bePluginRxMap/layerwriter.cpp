@@ -1,0 +1,79 @@
+#include "layerwriter.h"
+
+#include "gdalsession.h"
+
+#include <memory>
+#include <ogrsf_frmts.h>
+
+namespace {
+
+OGRFieldType typeOf(const QVariant &sample)
+{
+    switch (sample.userType()) {
+    case QMetaType::Int:
+        return OFTInteger;
+    case QMetaType::Double:
+        return OFTReal;
+    default:
+        return OFTString;
+    }
+}
+
+void setValues(OGRFeature &feature, const QList<QVariant> &values)
+{
+    for (int i = 0; i < values.size(); ++i) {
+        const QVariant &value = values.at(i);
+        if (!value.isValid())
+            feature.SetFieldNull(i);
+        else if (value.userType() == QMetaType::QString)
+            feature.SetField(i, value.toString().toUtf8().constData());
+        else
+            feature.SetField(i, value.toDouble());
+    }
+}
+
+} // namespace
+
+bool LayerSketch::write(const QString &path) const
+{
+    const GdalSession session;
+    GDALDriver *format = GetGDALDriverManager()->GetDriverByName(driver);
+    const GDALDatasetUniquePtr file(format->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
+    OGRSpatialReference reference;
+    if (epsg != 0)
+        reference.importFromEPSG(epsg);
+    reference.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRLayer *layer =
+        file ? file->CreateLayer("layer", epsg == 0 ? nullptr : &reference, OGRFromOGCGeomType(kind)) : nullptr;
+    if (layer == nullptr)
+        return false;
+    for (const LayerField &field : fields) {
+        OGRFieldDefn definition(field.name, typeOf(field.sample));
+        if (definition.GetType() == OFTReal && format->GetDescription() == QByteArray("ESRI Shapefile")) {
+            definition.SetWidth(18);
+            definition.SetPrecision(6);
+        }
+        layer->CreateField(&definition);
+    }
+    for (const LayerRow &row : rows) {
+        OGRFeature feature(layer->GetLayerDefn());
+        setValues(feature, row.values);
+        OGRGeometry *geometry = nullptr;
+        if (!row.geometry.isEmpty()) {
+            OGRGeometryFactory::createFromWkt(row.geometry.toUtf8().constData(), nullptr, &geometry);
+            feature.SetGeometryDirectly(geometry);
+        }
+        if (layer->CreateFeature(&feature) != OGRERR_NONE)
+            return false;
+    }
+    return true;
+}
+
+QString squareText(double x, double y, double side)
+{
+    return QStringLiteral("POLYGON ((%1 %2, %3 %2, %3 %4, %1 %4, %1 %2))")
+        .arg(x, 0, 'f', 9)
+        .arg(y, 0, 'f', 9)
+        .arg(x + side, 0, 'f', 9)
+        .arg(y + side, 0, 'f', 9);
+}

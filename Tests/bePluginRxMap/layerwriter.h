@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+/// A column of a test layer; the kind of `sample` (int, double or text) is the column's type.
+struct LayerField {
+    const char *name;
+    QVariant sample;
+};
+
+/// A record of a test layer: geometry as well-known text (empty: none) and one value per field (invalid: null).
+struct LayerRow {
+    QString geometry;
+    QList<QVariant> values;
+};
+
+/// A layer for the tests to write. `driver` as GDAL names it; `epsg` 0: no coordinate system.
+struct LayerSketch {
+    const char *driver = "ESRI Shapefile";
+    int epsg = 4326;
+    QList<LayerField> fields;
+    QList<LayerRow> rows;
+    /// Kind of geometry as well-known text, "POLYGON" by default.
+    const char *kind = "POLYGON";
+
+    /// False when GDAL cannot.
+    bool write(const QString &path) const;
+};
+
+/// Well-known text of a square with its lower left corner at (x, y).
+QString squareText(double x, double y, double side);
