@@ -15,7 +15,7 @@ double gridFor(double farthest)
 {
     int bits = 0;
     std::frexp(farthest, &bits);
-    return std::ldexp(1.0, std::max(finestGrid, bits + 1 - singleBits));
+    return std::ldexp(1.0, std::max(finestGrid, bits - singleBits));
 }
 
 PlaneRing fileRing(const SourceMap &map, const SourceRing &ring)
