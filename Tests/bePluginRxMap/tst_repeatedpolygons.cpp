@@ -1,0 +1,102 @@
+#include "repeatedpolygons.h"
+#include "testbase.h"
+
+#include <algorithm>
+
+namespace {
+
+PlaneRing square(double x, double y, double side)
+{
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+PlaneRing turned(PlaneRing ring)
+{
+    std::reverse(ring.begin(), ring.end());
+    std::rotate(ring.begin(), ring.begin() + 1, ring.end());
+    return ring;
+}
+
+PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<PlaneRing> &holes = {})
+{
+    PlanePolygon polygon;
+    polygon.record = record;
+    polygon.outer = outer;
+    polygon.holes = holes;
+    return polygon;
+}
+
+bool always(int, int)
+{
+    return true;
+}
+
+QList<int> recordsOf(const std::vector<PlanePolygon> &polygons)
+{
+    QList<int> records;
+    for (const PlanePolygon &polygon : polygons)
+        records.append(polygon.record);
+    return records;
+}
+
+} // namespace
+
+class RepeatedPolygonsTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheLastOfEqualPolygons();
+    void sees_data();
+    void sees();
+    void asksWhetherTheLaterOneMayStand();
+};
+
+void RepeatedPolygonsTest::keepsTheLastOfEqualPolygons()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(5, 0, 9)),
+                                          polygonOf(2, square(0, 0, 9)), polygonOf(3, square(9, 9, 9)),
+                                          polygonOf(4, square(0, 0, 9))};
+    QCOMPARE(RepeatedPolygons::drop(polygons, always), 2);
+    QCOMPARE(recordsOf(polygons), QList<int>({1, 3, 4}));
+}
+
+void RepeatedPolygonsTest::sees_data()
+{
+    QTest::addColumn<int>("which");
+    QTest::addColumn<int>("dropped");
+    QTest::newRow("other start and direction") << 0 << 1;
+    QTest::newRow("holes in another order") << 1 << 1;
+    QTest::newRow("another hole") << 2 << 0;
+    QTest::newRow("the same outline through other vertices") << 3 << 0;
+}
+
+void RepeatedPolygonsTest::sees()
+{
+    QFETCH(int, which);
+    QFETCH(int, dropped);
+    const PlaneRing big = square(0, 0, 90);
+    const PlaneRing a = square(10, 10, 10);
+    const PlaneRing b = square(30, 30, 10);
+    const PlaneRing c = square(50, 50, 10);
+    const PlaneRing otherTriangle = {{0, 0}, {90, 0}, {90, 90}, {60, 120}, {0, 60}};
+    const PlaneRing triangle = {{0, 0}, {90, 0}, {90, 90}, {60, 90}, {0, 90}};
+    std::vector<PlanePolygon> pairs[] = {{polygonOf(0, big, {a}), polygonOf(1, turned(big), {turned(a)})},
+                                         {polygonOf(0, big, {a, b}), polygonOf(1, big, {b, turned(a)})},
+                                         {polygonOf(0, big, {a, b}), polygonOf(1, big, {a, c})},
+                                         {polygonOf(0, triangle), polygonOf(1, otherTriangle)}};
+    QCOMPARE(RepeatedPolygons::drop(pairs[which], always), dropped);
+    QCOMPARE(pairs[which].back().record, 1);
+}
+
+void RepeatedPolygonsTest::asksWhetherTheLaterOneMayStand()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(0, 0, 9)),
+                                          polygonOf(2, square(0, 0, 9))};
+    const int dropped =
+        RepeatedPolygons::drop(polygons, [](int later, int earlier) { return later == 2 && earlier == 0; });
+    QCOMPARE(dropped, 1);
+    QCOMPARE(recordsOf(polygons), QList<int>({1, 2}));
+}
+
+QTEST_GUILESS_MAIN(RepeatedPolygonsTest)
+#include "tst_repeatedpolygons.moc"
