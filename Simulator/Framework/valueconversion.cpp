@@ -88,9 +88,6 @@ Number positiveNumber(quint64 value)
 
 Number textNumber(const QString &text)
 {
-    // Parsers end at a zero character as if the text ended there.
-    if (text.contains(QChar(QChar::Null)))
-        return {};
     bool ok = false;
     const qint64 whole = text.toLongLong(&ok);
     if (ok)

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void aRejectedValueLeavesTheOldOne();
     void theValidatorGetsTheNewListInAVariant();
     void anAcceptingValidatorClearsTheFormerResult();
+    void aWriteWithoutValidatorClearsTheFormerResult();
     void suspendedValidationAsksNobody();
     void readHooksEncloseTheCopyUnderTheLock();
     void theLockIsReleasedBeforeAnyoneIsTold();
@@ -310,6 +311,17 @@ void TestGroupProperty::anAcceptingValidatorClearsTheFormerResult()
 
     QCOMPARE(group.mostRecentErr(), 0);
     QCOMPARE(group.getLevel(), 2);
+}
+
+void TestGroupProperty::aWriteWithoutValidatorClearsTheFormerResult()
+{
+    SampleGroup group(QStringLiteral("rxMap.a"));
+    ValidatorCall validator(5);
+    group.setWriteValidator("level", ValidatorCall::answer, &validator);
+    messages().expectWarning(QStringLiteral("set rxMap.a::level failed: 5"));
+    group.setLevel(1);
+    group.setSettings(taggedSettings(1, 1));
+    QCOMPARE(group.mostRecentErr(), 0);
 }
 
 void TestGroupProperty::suspendedValidationAsksNobody()
