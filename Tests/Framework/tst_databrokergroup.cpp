@@ -16,6 +16,22 @@ int refuseWithFive(QVariant, void *)
 
 } // namespace
 
+/// A group whose class declares its properties by hand.
+class PlainGroup : public DataBrokerGroup {
+    Q_OBJECT
+    Q_PROPERTY(int plain READ plain WRITE setPlain)
+    Q_PROPERTY(int fixed READ fixed CONSTANT)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+    int plain() const { return value; }
+    void setPlain(int newValue) { value = newValue; }
+    int fixed() const { return 3; }
+
+private:
+    int value = 0;
+};
+
 class TestDataBrokerGroup : public TestBase {
     Q_OBJECT
 
@@ -33,6 +49,8 @@ private Q_SLOTS:
     void aRemovedGroupIsAnErrorByName();
     void aWriteByNameIsAnnouncedLikeATypedOne();
     void readsByNameRunTheHooks();
+    void handMadePropertiesAreReadAndWrittenToo();
+    void aReadOnlyPropertyIsNotWritten();
     void subscribersGetTheNewValue();
     void aSubscriberWithoutParametersIsCalled();
     void aUniqueSubscriptionIsMadeOnce();
@@ -255,6 +273,33 @@ void TestDataBrokerGroup::readsByNameRunTheHooks()
     group.setAfterReadHook("level", nullptr, nullptr);
     group.getProperty("level", value);
     QCOMPARE(journal.taken(), QStringList());
+}
+
+void TestDataBrokerGroup::handMadePropertiesAreReadAndWrittenToo()
+{
+    PlainGroup group(QStringLiteral("plain"));
+    QVariant value;
+    QCOMPARE(group.setProperty("plain", QStringLiteral("7")), int(DataBrokerGroup::Success));
+    QCOMPARE(group.getProperty("plain", value), int(DataBrokerGroup::Success));
+    QCOMPARE(value, QVariant(7));
+
+    // Such a property reports no outcome; nothing of that write waits for the next one's.
+    SampleGroup next(QStringLiteral("sample"));
+    next.setWriteValidator("level", refuseWithFive, nullptr);
+    messages().expectWarning(QStringLiteral("set sample::level failed: 5"));
+    next.setLevel(1);
+    QCOMPARE(next.mostRecentErr(), 5);
+}
+
+void TestDataBrokerGroup::aReadOnlyPropertyIsNotWritten()
+{
+    PlainGroup group(QStringLiteral("plain"));
+    QVariant value;
+    QCOMPARE(group.setProperty("fixed", 4), int(DataBrokerGroup::ErrInvalidToken));
+    QCOMPARE(group.getProperty("fixed", value), int(DataBrokerGroup::Success));
+    QCOMPARE(value, QVariant(3));
+    SetReceiver subscriber;
+    QVERIFY(!group.connectPropertySetSlot("fixed", &subscriber, SLOT(onSet()), Qt::AutoConnection, false));
 }
 
 void TestDataBrokerGroup::subscribersGetTheNewValue()
