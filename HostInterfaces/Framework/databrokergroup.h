@@ -33,7 +33,8 @@ public:
         ErrGroupRemoved = 7
     };
 
-    /// Called around a read, under the group's lock, with the argument registered beside it.
+    /// Called around a read (also the one that tells subscribers of a write), under the group's lock, with the argument
+    /// registered beside it.
     using ReadHook = void (*)(void *argument);
     /// Called with a new value before it is stored, under the group's lock; 0 accepts it, any other code refuses it.
     using WriteValidator = int (*)(QVariant value, void *argument);
@@ -55,9 +56,9 @@ public:
     /// nothing changes on failure.
     int setProperty(const char *property, const QVariant &value);
 
-    /// Calls `slot` (SLOT() text) of `receiver` after every accepted write of `property`, with the new value if the
-    /// slot takes one. The connection's sender is this group, so QObject::disconnect(group, receiver) ends it.
-    /// With `reportFailure` an unknown property or slot writes one debug line. False when no connection was made,
+    /// Calls `slot` (SLOT() text) of `receiver` after every accepted write of `property`, with the value it has
+    /// then if the slot takes one. The connection's sender is this group, so QObject::disconnect(group, receiver) ends
+    /// it. With `reportFailure` an unknown property or slot writes one debug line. False when no connection was made,
     /// also when `type` has Qt::UniqueConnection and the connection exists.
     bool connectPropertySetSlot(const char *property, QObject *receiver, const char *slot, Qt::ConnectionType type,
                                 bool reportFailure);

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Unit abbreviations shared by host and plug-ins, as they stand in stored texts (not translated).
+/// Unit abbreviations shared by host and plug-ins, not translated.
 namespace OrvikUnits {
 
 // Volume.

@@ -15,8 +15,8 @@ using OrvikTypes::RX_POLYGONVERTEX;
 
 namespace {
 
-/// Between these the edge arithmetic neither overflows nor loses digits to underflow. Rings with coordinates beyond
-/// them, or NaN, are tested plainly.
+/// Coordinates up to the one cannot overflow in the edge arithmetic; heights from the other on lose less to underflow
+/// than the boxes' margin allows for. Rings beyond them, or with NaN, are tested plainly.
 constexpr double largestOrdinary = 1e100;
 constexpr double smallestOrdinary = 1e-180;
 /// Rings with fewer vertices are tested faster edge by edge.

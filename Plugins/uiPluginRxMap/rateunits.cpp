@@ -108,6 +108,12 @@ const AreaRate &volumeRateOf(const DbGroupSingleProductNode &node)
 
 } // namespace
 
+bool isOfKnownKind(const ProductLineItem &product)
+{
+    return product.isCountBasedProduct() || product.isVolumeBasedProduct() || product.isWeightBasedProduct()
+        || product.isPressureBasedProduct();
+}
+
 RateUnit rateUnitOf(const ProductLineItem &product, const DbGroupSingleProductNode &node, const Units &units)
 {
     if (product.isCountBasedProduct())

@@ -13,6 +13,7 @@ struct RateUnit {
     double fromDisplay = 0.0; ///< Multiplies a typed rate.
 };
 
+bool isOfKnownKind(const ProductLineItem &product);
 /// The unit of `product`, metered by `node`, in the operator's unit system. Both factors are 0.0 for a product of no
 /// known kind.
 RateUnit rateUnitOf(const ProductLineItem &product, const DbGroupSingleProductNode &node,

@@ -9,7 +9,8 @@
 /// Takes at most 4 entries per edge. The ring is not owned and may not change.
 class RingIndex {
 public:
-    /// The ring has at least one vertex and finite coordinates.
+    /// The ring has at least one vertex; its heights are 0 or between 1e-180 and 1e100, so that bands neither overflow
+    /// nor vanish.
     RingIndex(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count);
 
     bool isInside(double x, double y) const;

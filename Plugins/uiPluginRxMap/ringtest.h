@@ -2,10 +2,11 @@
 
 #include "Framework/rxpolygon.h"
 
-/// Vertices of a ring; a ring without a vertex array has none.
+/// Vertices of a ring; none for a ring without a vertex array or with a count that no ring in memory can have.
 inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
 {
-    return ring.vertices == nullptr ? 0 : static_cast<int>(ring.vertexCount);
+    const bool isPossible = ring.vertices != nullptr && ring.vertexCount <= 0x7FFFFFFFU;
+    return isPossible ? static_cast<int>(ring.vertexCount) : 0;
 }
 
 /// Whether the edge between the ring vertices `j` and `i` toggles the even-odd test of the point (x, y): it spans y

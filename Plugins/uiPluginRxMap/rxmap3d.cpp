@@ -54,7 +54,8 @@ void RxMap3D::updateRxMapGroup()
 
 DataBrokerGroup *RxMap3D::findRxMapGroup() const
 {
-    const QStringList names = broker->findGroup(QStringLiteral("rxMap.*"), true, false);
+    const QStringList names =
+        broker == nullptr ? QStringList() : broker->findGroup(QStringLiteral("rxMap.*"), true, false);
     for (const QString &name : names) {
         DataBrokerGroup *group = broker->getGroup(name, false);
         if (group == nullptr)
@@ -77,7 +78,7 @@ void RxMap3D::setDbGroup(DataBrokerGroup *group)
 
 bool RxMap3D::isInsidePoly(OrvikTypes::RX_POLYGONVERTEX *vertices, int count, float x, float y)
 {
-    return isInsideRing(vertices, count, static_cast<double>(x), static_cast<double>(y));
+    return vertices != nullptr && isInsideRing(vertices, count, static_cast<double>(x), static_cast<double>(y));
 }
 
 VertexBank *RxMap3D::addVertexBank(QString name)
@@ -97,13 +98,16 @@ void RxMap3D::updatePolygons()
     // Meant to leave the tessellator behind: without a group or a product nothing is taken back.
     if (rxMapGroup == nullptr || aamGroup == nullptr)
         return;
+    // Reading runs the host's hooks, which may bind another group meanwhile.
+    const DataBrokerGroup &group = *rxMapGroup;
+    const DbGroupAAM &aam = *aamGroup;
     PolygonTessellation::registerCallbacks(tessellator);
 
-    auto *chain = static_cast<RX_POLYGON *>(groupValue<void *>(*rxMapGroup, "polygonBuffer"));
-    const auto count = groupValue<unsigned int>(*rxMapGroup, "polygonCount");
-    const auto mappings = groupValue<Mappings>(*rxMapGroup, "rateCalMappings");
-    const int mappingIndex = findMapping(mappings, aamGroup->productGroupName());
-    const auto legends = groupValue<Legends>(*rxMapGroup, "rateColors");
+    auto *chain = static_cast<RX_POLYGON *>(groupValue<void *>(group, "polygonBuffer"));
+    const auto count = groupValue<unsigned int>(group, "polygonCount");
+    const auto mappings = groupValue<Mappings>(group, "rateCalMappings");
+    const int mappingIndex = findMapping(mappings, aam.productGroupName());
+    const auto legends = groupValue<Legends>(group, "rateColors");
     if (mappingIndex >= 0 && mappingIndex < legends.size()) {
         VertexBank &bank = *addVertexBank(QStringLiteral("RxMap3D_Verts"));
         tessellateChain(bank, tessellator, RingLists(chain, count), legends.at(mappingIndex), mappingIndex);

@@ -69,6 +69,8 @@ QString RxMapGraphicsList::getPointDescription(QVector3D point)
 {
     const QVariant query = QVariant::fromValue(OrvikTypes::XYZ(
         static_cast<double>(point.x()), static_cast<double>(point.y()), static_cast<double>(point.z())));
+    if (broker == nullptr)
+        return {};
     const QStringList names = broker->findGroup(QStringLiteral("rxMap.*"), true, false);
     const double factor = productGroupInfo == nullptr ? 1.0 : getRateConversion(productGroupInfo);
     for (const QString &name : names) {
@@ -76,7 +78,7 @@ QString RxMapGraphicsList::getPointDescription(QVector3D point)
         const int position = mappingIndex(group);
         // The first map of the active product decides, also when its answer is not valid: later ones are not asked.
         if (position >= 0)
-            return describe(group, position, query, factor);
+            return describe(*broker, group, position, query, factor);
     }
     return {};
 }
@@ -90,11 +92,13 @@ int RxMapGraphicsList::mappingIndex(const QByteArray &group) const
         aamGroup->productGroupName());
 }
 
-QString RxMapGraphicsList::describe(const QByteArray &group, int position, const QVariant &point, double factor) const
+// Touches no member: the write runs the host's slots, which may replace this list.
+QString RxMapGraphicsList::describe(DataBroker &broker, const QByteArray &group, int position, const QVariant &point,
+                                    double factor)
 {
-    broker->setProperty(group.constData(), "queryRatesAtXYZ", point);
-    const QList<float> rates = brokerValue<QList<float>>(*broker, group, "ratesAtXYZ");
-    const bool valid = brokerValue<bool>(*broker, group, "ratesAtXYZValid");
+    broker.setProperty(group.constData(), "queryRatesAtXYZ", point);
+    const QList<float> rates = brokerValue<QList<float>>(broker, group, "ratesAtXYZ");
+    const bool valid = brokerValue<bool>(broker, group, "ratesAtXYZValid");
     if (!valid || position >= rates.size())
         return {};
     const double rate = static_cast<double>(rates.at(position)) * factor;

@@ -33,7 +33,8 @@ private:
     /// Position of the active product's mapping in the group of that name; -1 when it has none.
     int mappingIndex(const QByteArray &group) const;
     /// Asks the back-end for the rate at `position` of its answer; empty when the answer is not valid.
-    QString describe(const QByteArray &group, int position, const QVariant &point, double factor) const;
+    static QString describe(DataBroker &broker, const QByteArray &group, int position, const QVariant &point,
+                            double factor);
 
     DbGroupRxMap *rxMapGroup = nullptr;
     DbGroupAAM *aamGroup = nullptr;

@@ -51,7 +51,7 @@ void RxMapWidget::onLongTouch(int /*id*/)
     // The host may close the page, and this widget with it, while the dialog runs.
     const QPointer<RxMapWidget> self(this);
     QDir images = imageDir();
-    auto *dialog = new RxMapWidgetDialog01(dataBroker(), images, nullptr);
+    const QPointer<RxMapWidgetDialog01> dialog = new RxMapWidgetDialog01(dataBroker(), images, nullptr);
     dialog->exec();
     delete dialog;
     if (!self)

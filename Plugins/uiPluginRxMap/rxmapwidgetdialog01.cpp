@@ -124,7 +124,7 @@ OrvikLineEdit *RxMapWidgetDialog01::addLineEdit(int id, const QPoint &position, 
 void RxMapWidgetDialog01::setRed(QLabel *label)
 {
     QPalette palette = label->palette();
-    palette.setBrush(QPalette::All, label->foregroundRole(), QBrush(Qt::red));
+    palette.setBrush(QPalette::All, foregroundRole(), QBrush(Qt::red));
     label->setPalette(palette);
 }
 

@@ -14,6 +14,7 @@ class DbGroupQmlUnitsConverter;
 class DbGroupRxMap;
 class OrvikButton;
 class OrvikLineEdit;
+class ProductLineItem;
 class QLabel;
 
 /// The modal "Rx Map Settings" dialog: how the prescription drives the rate controller, product by product.
@@ -68,6 +69,8 @@ private:
     /// Name of the prescription group that drives the selected product; empty when none does.
     QString rxMapGroupName() const;
     void showDefaultRate();
+    /// The product has a unit, but there is no converter that tells it.
+    bool lacksUnits(const ProductLineItem &product) const;
     void setProductButtonLook(int index, bool selected);
     void lookAheadEdited();
     void zeroRateShutoffReleased();
@@ -101,6 +104,7 @@ private:
     QList<DbGroupRxMap *> rxMapGroups;
     QList<OrvikTypes::RX_SETTINGS> settings;
     QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings; ///< Every group's list, in group order.
+    // Two of the sizes, and the large font, are read by nothing; they are meant to stay part of the class.
     int titlePointSize = 0;
     int subtitlePointSize = 0;
     int captionPointSize = 0;

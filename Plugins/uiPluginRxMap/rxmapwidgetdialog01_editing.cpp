@@ -48,7 +48,8 @@ int milliseconds(const QString &seconds)
 
 ProductLineItem *loadedProduct(int index)
 {
-    const QList<QObject *> products = BinManager::instance(nullptr)->loadedFilteredProducts();
+    const BinManager *manager = BinManager::instance(nullptr);
+    const QList<QObject *> products = manager == nullptr ? QList<QObject *>() : manager->loadedFilteredProducts();
     return index >= 0 && index < products.size() ? qobject_cast<ProductLineItem *>(products.at(index)) : nullptr;
 }
 
@@ -93,8 +94,14 @@ void RxMapWidgetDialog01::showDefaultRate()
         defaultRateEdit->setText(QStringLiteral("????"));
         return;
     }
+    // Asked for a second time, as it is meant: the factors are those of the mapping's product when the rate is shown.
     defaultRateLabel->setText(getDefaultRateSettings());
     defaultRateEdit->setText(QString::number(rateCalMappings.at(mapping).defaultRate * toDisplayFactor, 'g', 6));
+}
+
+bool RxMapWidgetDialog01::lacksUnits(const ProductLineItem &product) const
+{
+    return unitsConverter == nullptr && isOfKnownKind(product);
 }
 
 QString RxMapWidgetDialog01::getDefaultRateSettings()
@@ -102,11 +109,12 @@ QString RxMapWidgetDialog01::getDefaultRateSettings()
     const ProductLineItem *product = loadedProduct(selectedProduct);
     const auto *node =
         product == nullptr ? nullptr : qobject_cast<DbGroupSingleProductNode *>(product->primaryProductNodeGroup());
-    if (node == nullptr || unitsConverter == nullptr) {
+    if (node == nullptr || lacksUnits(*product)) {
+        // The factors are meant to stay those of the product before.
         defaultRateEdit->setVisible(false);
         return QString();
     }
-    const RateUnit unit = rateUnitOf(*product, *node, *unitsConverter);
+    const RateUnit unit = isOfKnownKind(*product) ? rateUnitOf(*product, *node, *unitsConverter) : RateUnit();
     toDisplayFactor = unit.toDisplay;
     fromDisplayFactor = unit.fromDisplay;
     defaultRateEdit->setVisible(true);
@@ -177,10 +185,12 @@ void RxMapWidgetDialog01::zeroRateShutoffReleased()
 
 void RxMapWidgetDialog01::defaultRateEdited()
 {
-    // Without units a typed number means nothing.
-    if (unitsConverter == nullptr)
+    const ProductLineItem *product = loadedProduct(selectedProduct);
+    // Without its units a typed number means nothing.
+    if (product != nullptr && lacksUnits(*product))
         return;
-    const double rate = defaultRateEdit->getText().toDouble() * fromDisplayFactor;
+    const double typed = defaultRateEdit->getText().toDouble();
+    const double rate = (std::isfinite(typed) ? typed : 0.0) * fromDisplayFactor;
     pushDefaultRate(rate);
     const int mapping = findProductMapping(rateCalMappings, selectedProduct);
     if (mapping >= 0)
@@ -217,6 +227,7 @@ QString RxMapWidgetDialog01::rxMapGroupName() const
 void RxMapWidgetDialog01::setControlsEnabledState(bool enabled)
 {
     const bool underVra = !rxMapGroupName().isEmpty();
+    // Under control all eight are shown, also a rate field that was hidden for want of a node; that is meant.
     for (QWidget *widget : {static_cast<QWidget *>(lookAheadLabel), static_cast<QWidget *>(zeroRateShutoffLabel),
                             static_cast<QWidget *>(applyToAllLabel), static_cast<QWidget *>(defaultRateLabel),
                             static_cast<QWidget *>(lookAheadEdit), static_cast<QWidget *>(applyToAllBox),

@@ -1,5 +1,7 @@
 #include "tesscallbacks.h"
 
+#include <algorithm>
+
 QVector<RXVERT *> coordList;
 QVector<Vertex> vList;
 
@@ -7,7 +9,9 @@ namespace {
 
 quint32 colorByte(double component)
 {
-    return static_cast<quint32>(255.0 * component + 0.5);
+    // Colours beyond the usual range, or not a number, must not reach the conversion.
+    const double inRange = component > 0.0 ? std::min(component, 1.0) : 0.0;
+    return static_cast<quint32>(255.0 * inRange + 0.5);
 }
 
 } // namespace

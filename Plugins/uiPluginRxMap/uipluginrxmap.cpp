@@ -64,11 +64,13 @@ QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataB
 {
     // Meant to come before the name is looked at: any request ends the list that exists.
     delete graphicsList.data();
+    QPointer<UiGraphicsList> made;
     if (name == graphicsListName) {
-        graphicsList = new RxMapGraphicsList(broker, nullptr);
-        graphicsLists().insert(name, graphicsList);
+        made = new RxMapGraphicsList(broker, nullptr);
+        graphicsLists().insert(name, made);
     }
-    return graphicsList;
+    graphicsList = made;
+    return made;
 }
 
 // Unlike graphics lists, earlier widgets are meant to stay; only the newest is in the map.

@@ -68,8 +68,6 @@ int DataBrokerGroup::getProperty(const char *property, QVariant &value) const
 
 int DataBrokerGroup::setProperty(const char *property, const QVariant &value)
 {
-    if (GroupPropertyAccess::refuseRemoved(*this, property))
-        return ErrGroupRemoved;
     const int index = DataBrokerGroupPrivate::indexOfProperty(*this, property);
     if (index < 0)
         return ErrUnknownProperty;

@@ -7,6 +7,7 @@
 
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QPointer>
 
 GroupPropertyAccess::Locker::Locker(const DataBrokerGroup &group)
     : lock(group.d->isThreadSafe ? group.d->lock.load() : nullptr)
@@ -121,7 +122,10 @@ void GroupPropertyAccess::markWritten(DataBrokerGroup &group, int index)
 
 void GroupPropertyAccess::announce(DataBrokerGroup &group, const char *property, int index, QGenericArgument value)
 {
+    // A listener may delete a group that nobody has published.
+    const QPointer<DataBrokerGroup> living(&group);
     const QMetaMethod notify = group.metaObject()->property(index).notifySignal();
     notify.invoke(&group, Qt::DirectConnection, value);
-    group.propertySet(&group, property);
+    if (living)
+        group.propertySet(&group, property);
 }

@@ -5,6 +5,7 @@
 
 #include "Framework/databroker.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 
 namespace {
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void aWriteByNameGivesTheValidatorsCode();
     void aListenersOwnFailureIsNotTheWritersOutcome();
     void aRemovedGroupIsAnErrorByName();
+    void aRemovedProtectedGroupAnswersAlikeByNameAndType();
+    void aListenerMayDeleteTheGroup();
     void aWriteByNameIsAnnouncedLikeATypedOne();
     void readsByNameRunTheHooks();
     void handMadePropertiesAreReadAndWrittenToo();
@@ -228,6 +231,28 @@ void TestDataBrokerGroup::aListenersOwnFailureIsNotTheWritersOutcome()
     messages().expectWarning(QStringLiteral("set sample::count failed: 5"));
     QCOMPARE(group.setProperty("level", 1), int(DataBrokerGroup::Success));
     QCOMPARE(group.mostRecentErr(), 5);
+}
+
+void TestDataBrokerGroup::aRemovedProtectedGroupAnswersAlikeByNameAndType()
+{
+    DataBroker broker;
+    auto *group = new SampleGroup(QStringLiteral("sample"));
+    broker.publishGroup(group);
+    group->setWriteProtected("level", true);
+    broker.removeGroup(QStringLiteral("sample"));
+    for (int way = 0; way < 2; ++way)
+        messages().expectWarning(QStringLiteral("set sample::level failed: invalid write access token"));
+    QCOMPARE(group->setLevel(2), int(DataBrokerGroup::ErrInvalidToken));
+    QCOMPARE(group->setProperty("level", 2), int(DataBrokerGroup::ErrInvalidToken));
+    QCOMPARE(group->mostRecentErr(), int(DataBrokerGroup::Success));
+}
+
+void TestDataBrokerGroup::aListenerMayDeleteTheGroup()
+{
+    QPointer<SampleGroup> group = new SampleGroup(QStringLiteral("sample"));
+    connect(group, &SampleGroup::levelChanged, this, [&group] { delete group; });
+    group->setLevel(1);
+    QVERIFY(group.isNull());
 }
 
 void TestDataBrokerGroup::aRemovedGroupIsAnErrorByName()

@@ -1,4 +1,5 @@
 #include "currentcontext.h"
+#include "foreignmapgroup.h"
 #include "maphost.h"
 #include "recordingglu.h"
 #include "rxmap3dprobe.h"
@@ -7,7 +8,10 @@
 #include "Framework/dbgroupaam.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
+#include <QCoreApplication>
+
 #include <limits>
+#include <thread>
 
 /// Which prescription group the drawable binds to, when, and which colour a polygon gets.
 class TestRxMap3DBinding : public TestBase {
@@ -33,6 +37,16 @@ private Q_SLOTS:
     void theColourSurvivesRebuilds();
     void theColourStartsInvalidAndDrawsBlackAtHalfAlpha();
     void theColumnIsThePositionOfTheMapping();
+    void everyPolygonTakesItsOwnColour();
+    void theRateIsWidenedBeforeItIsCompared();
+    void propertiesOfOtherTypesAreConverted();
+    void propertiesThatDoNotConvertLeaveAnEmptyMap();
+    void aGroupWithoutPolygonCountIsReportedOnceAndDrawsNothing();
+    void propertiesAreReadInOrder();
+    void theConnectionIsUnique();
+    void aSetFromAnotherThreadRebuildsLater();
+    void aReadHookMayTakeTheProductAway();
+    void withoutABrokerNothingIsBound();
     void castingByNameAnswersBothBases();
 };
 
@@ -315,6 +329,154 @@ void TestRxMap3DBinding::theColumnIsThePositionOfTheMapping()
     map.setAamGroup(host.aam(2));
     map.updateRxMapGroup();
     QCOMPARE(firstColor(map), 0x800000FFU);
+}
+
+void TestRxMap3DBinding::everyPolygonTakesItsOwnColour()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    PolygonChain chain;
+    for (float rate : {5.0F, 25.0F, 15.0F})
+        chain.addOuter(square(20.0 * chain.count(), 0, 10), {rate});
+    MapHost::publish(*group, chain, threeClasses());
+    const QVector<Vertex> &vertices = RxMap3DProbe::banks(map).at(0).vertices;
+    QCOMPARE(vertices.size(), 18);
+    QCOMPARE(vertices.at(0).color, 0x800000FFU);
+    QCOMPARE(vertices.at(6).color, 0x80FF0000U);
+    QCOMPARE(vertices.at(12).color, 0x8000FF00U);
+}
+
+void TestRxMap3DBinding::theRateIsWidenedBeforeItIsCompared()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10), {0.1F});
+    // 0.1 as a float is a little more than 0.1.
+    MapHost::publish(*group, chain, {{0.1, QColor(255, 0, 0)}, {1.0, QColor(0, 255, 0)}});
+    QCOMPARE(firstColor(map), 0x8000FF00U);
+}
+
+void TestRxMap3DBinding::propertiesOfOtherTypesAreConverted()
+{
+    MapHost host;
+    auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));
+    host.broker.publishGroup(group);
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    group->setPolygonBuffer(chain.first());
+    group->setRateCalMappings({mappingFor(MapHost::productGroup(1))});
+    group->setRateColors({threeClasses()});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.updateRxMapGroup();
+    group->setPolygonCount(QStringLiteral("1"));
+    QCOMPARE(RxMap3DProbe::banks(map).at(0).vertices.size(), 6);
+}
+
+void TestRxMap3DBinding::propertiesThatDoNotConvertLeaveAnEmptyMap()
+{
+    MapHost host;
+    auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));
+    host.broker.publishGroup(group);
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    group->setPolygonBuffer(chain.first());
+    group->setRateCalMappings({mappingFor(MapHost::productGroup(1))});
+    group->setRateColors({threeClasses()});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.updateRxMapGroup();
+    group->setPolygonCount(QStringLiteral("many"));
+    QCOMPARE(RxMap3DProbe::banks(map).size(), 1);
+    QVERIFY(RxMap3DProbe::banks(map).at(0).vertices.isEmpty());
+}
+
+void TestRxMap3DBinding::aGroupWithoutPolygonCountIsReportedOnceAndDrawsNothing()
+{
+    MapHost host;
+    host.broker.publishGroup(new DbGroupAAM(QStringLiteral("rxMap.other")));
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.updateRxMapGroup();
+    QCOMPARE(RxMap3DProbe::boundGroup(map), nullptr);
+    messages().clear();
+    map.setDbGroup(host.broker.getGroup(QStringLiteral("rxMap.other"), false));
+    QVERIFY(RxMap3DProbe::banks(map).isEmpty());
+    QCOMPARE(messages().debugLines().filter(QStringLiteral("connectPropertySetSlot")).size(), 1);
+    map.setDbGroup(nullptr);
+}
+
+void TestRxMap3DBinding::propertiesAreReadInOrder()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    static QStringList order;
+    order.clear();
+    static const char *const names[] = {"polygonBuffer", "polygonCount", "rateCalMappings", "rateColors"};
+    for (const char *const &name : names) {
+        const auto note = [](void *argument) {
+            order.append(QString::fromLatin1(*static_cast<const char *const *>(argument)));
+        };
+        group->setBeforeReadHook(name, note, const_cast<char **>(const_cast<char *const *>(&name)));
+    }
+    map.updatePolygons();
+    QCOMPARE(order, (QStringList{"polygonBuffer", "polygonCount", "rateCalMappings", "rateColors"}));
+}
+
+void TestRxMap3DBinding::theConnectionIsUnique()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    QVERIFY(!group->connectPropertySetSlot("polygonCount", &map, SLOT(updatePolygons()), Qt::UniqueConnection, true));
+}
+
+void TestRxMap3DBinding::aSetFromAnotherThreadRebuildsLater()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    RecordingGlu::clear();
+    std::thread([group] { group->setPolygonCount(0); }).join();
+    QVERIFY(RecordingGlu::calls().isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(RecordingGlu::count(QStringLiteral("gluNewTess")), 1);
+}
+
+void TestRxMap3DBinding::aReadHookMayTakeTheProductAway()
+{
+    MapHost host;
+    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.setDbGroup(group);
+    group->setBeforeReadHook(
+        "polygonCount", [](void *argument) { static_cast<RxMap3D *>(argument)->setAamGroup(nullptr); }, &map);
+    map.updatePolygons();
+    QCOMPARE(RxMap3DProbe::aamGroup(map), nullptr);
+}
+
+void TestRxMap3DBinding::withoutABrokerNothingIsBound()
+{
+    MapHost host;
+    RxMap3D map(nullptr, nullptr);
+    map.setAamGroup(host.aam(1));
+    map.updateRxMapGroup();
+    QCOMPARE(RxMap3DProbe::boundGroup(map), nullptr);
 }
 
 void TestRxMap3DBinding::castingByNameAnswersBothBases()

@@ -1,4 +1,5 @@
 #include "currentcontext.h"
+#include "foreignmapgroup.h"
 #include "maphost.h"
 #include "rxmap3dprobe.h"
 #include "rxmapgraphicslist.h"
@@ -11,7 +12,9 @@
 #include "Framework/xyz.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
+#include <QCoreApplication>
 #include <QPointer>
+#include <QTranslator>
 
 /// Lets the test see what the list keeps to itself.
 class RxMapGraphicsListProbe {
@@ -53,6 +56,19 @@ private Q_SLOTS:
     void withoutAnActiveAamTheTextIsEmpty();
     void withoutMapsTheTextIsEmpty();
     void thePointIsWidenedAndWrittenBeforeTheAnswerIsRead();
+    void theFactorIsTakenBeforeTheMapIsAsked();
+    void answersOfOtherTypesAreConverted_data();
+    void answersOfOtherTypesAreConverted();
+    void groupNamesArePassedAsLatin1();
+    void theTextIsTranslatedInTheListsContext();
+    void aMapMayReplaceTheListWhileItAnswers();
+    void withoutABrokerThereIsAListThatSaysNothing();
+
+    void theMetaObjectHasOneSlot();
+    void groupsOfOtherClassesCountAsAbsent();
+    void settingAnEqualNameLooksTheAamUpAgain();
+    void everySetCallsTheSlotOnce();
+    void theDrawableIsToldBeforeTheProductIsRead();
 
 private:
     /// A map of product 1 that answers every query with `rates`.
@@ -307,9 +323,12 @@ void TestRxMapGraphicsList::mapsWithoutTheProductArePassedOver()
 void TestRxMapGraphicsList::withoutAnActiveAamTheTextIsEmpty()
 {
     MapHost host;
-    addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
+    DbGroupRxMap *group = addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
     RxMapGraphicsList list(&host.broker, nullptr);
+    int asked = 0;
+    connect(group, &DbGroupRxMap::queryRatesAtXYZChanged, this, [&asked] { ++asked; });
     QVERIFY(list.getPointDescription({}).isEmpty());
+    QCOMPARE(asked, 0);
 }
 
 void TestRxMapGraphicsList::withoutMapsTheTextIsEmpty()
@@ -337,6 +356,160 @@ void TestRxMapGraphicsList::thePointIsWidenedAndWrittenBeforeTheAnswerIsRead()
     RxMapGraphicsList list(&host.broker, nullptr);
     list.getPointDescription({0.1F, -2.5F, 1e9F});
     QCOMPARE(order, (QStringList{"query", "rates", "valid"}));
+}
+
+void TestRxMapGraphicsList::theFactorIsTakenBeforeTheMapIsAsked()
+{
+    MapHost host;
+    host.activateProduct(1);
+    DbGroupRxMap *group = addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
+    connect(group, &DbGroupRxMap::queryRatesAtXYZChanged, this, [&host] { host.units->setWeightRateToDisplay(100.0); });
+    RxMapGraphicsList list(&host.broker, nullptr);
+    QCOMPARE(list.getPointDescription({}), QStringLiteral("Rx Rate: 3.00\n\n"));
+}
+
+void TestRxMapGraphicsList::answersOfOtherTypesAreConverted_data()
+{
+    QTest::addColumn<QString>("valid");
+    QTest::newRow("text true, rates of another type") << "true";
+    QTest::newRow("text false") << "false";
+}
+
+void TestRxMapGraphicsList::answersOfOtherTypesAreConverted()
+{
+    QFETCH(QString, valid);
+    MapHost host;
+    host.activateProduct(1);
+    auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));
+    group->setRateCalMappings({mappingFor(MapHost::productGroup(1))});
+    group->setRatesAtXYZ(QStringLiteral("7"));
+    group->setRatesAtXYZValid(valid);
+    host.broker.publishGroup(group);
+    RxMapGraphicsList list(&host.broker, nullptr);
+    // A text is no list of rates, so there is no entry at the mapping's position.
+    QVERIFY(list.getPointDescription({}).isEmpty());
+}
+
+void TestRxMapGraphicsList::groupNamesArePassedAsLatin1()
+{
+    MapHost host;
+    host.activateProduct(1);
+    addAnsweringMap(host, QString::fromUtf8("Köln"), {3.0F}, true);
+    RxMapGraphicsList list(&host.broker, nullptr);
+    QCOMPARE(list.getPointDescription({}), QStringLiteral("Rx Rate: 3.00\n\n"));
+}
+
+void TestRxMapGraphicsList::theTextIsTranslatedInTheListsContext()
+{
+    class Translator : public QTranslator {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char *context, const char *source, const char *, int) const override
+        {
+            const bool isOurs = qstrcmp(context, "RxMapGraphicsList") == 0 && qstrcmp(source, "Rx Rate: ") == 0;
+            return isOurs ? QStringLiteral("Dose: ") : QString();
+        }
+    };
+    Translator translator;
+    QCoreApplication::installTranslator(&translator);
+    MapHost host;
+    host.activateProduct(1);
+    addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
+    RxMapGraphicsList list(&host.broker, nullptr);
+    const QString text = list.getPointDescription({});
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(text, QStringLiteral("Dose: 3.00\n\n"));
+}
+
+void TestRxMapGraphicsList::aMapMayReplaceTheListWhileItAnswers()
+{
+    MapHost host;
+    host.activateProduct(1);
+    DbGroupRxMap *group = addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
+    QPointer<RxMapGraphicsList> list = new RxMapGraphicsList(&host.broker, nullptr);
+    connect(group, &DbGroupRxMap::queryRatesAtXYZChanged, this, [&list] { delete list; });
+    QCOMPARE(list->getPointDescription({}), QStringLiteral("Rx Rate: 3.00\n\n"));
+    QVERIFY(list.isNull());
+}
+
+void TestRxMapGraphicsList::withoutABrokerThereIsAListThatSaysNothing()
+{
+    RxMapGraphicsList list(nullptr, nullptr);
+    QVERIFY(list.getPointDescription({}).isEmpty());
+    QCOMPARE(list.drawables()->size(), 1);
+}
+
+void TestRxMapGraphicsList::theMetaObjectHasOneSlot()
+{
+    const QMetaObject &meta = RxMapGraphicsList::staticMetaObject;
+    QCOMPARE(QString::fromLatin1(meta.className()), QStringLiteral("RxMapGraphicsList"));
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + 1);
+    QCOMPARE(QString::fromLatin1(meta.method(meta.methodOffset()).methodSignature()),
+             QStringLiteral("activeAamChanged(QString)"));
+    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+}
+
+void TestRxMapGraphicsList::groupsOfOtherClassesCountAsAbsent()
+{
+    DataBroker broker;
+    for (const char *name : {"QmlUnitsConverter", "rxMap.%1", "system.current.job"})
+        broker.publishGroup(new DbGroupAAM(QString::fromLatin1(name)));
+    RxMapGraphicsList list(&broker, nullptr);
+    QCOMPARE(Probe::unitsConverter(list), nullptr);
+    QCOMPARE(Probe::rxMapGroup(list), nullptr);
+    QCOMPARE(Probe::aamGroup(list), nullptr);
+
+    MapHost host;
+    host.broker.removeGroup(MapHost::productGroup(1));
+    host.broker.publishGroup(new DbGroupAAM(MapHost::productGroup(1)));
+    host.activateProduct(1);
+    RxMapGraphicsList other(&host.broker, nullptr);
+    QCOMPARE(Probe::aamGroup(other), host.aam(1));
+    QCOMPARE(Probe::productGroupInfo(other), nullptr);
+}
+
+void TestRxMapGraphicsList::settingAnEqualNameLooksTheAamUpAgain()
+{
+    MapHost host;
+    host.job->setActiveAAMGroupName(QStringLiteral("system.aam.late"));
+    RxMapGraphicsList list(&host.broker, nullptr);
+    QCOMPARE(Probe::aamGroup(list), nullptr);
+    auto *late = new DbGroupAAM(QStringLiteral("system.aam.late"));
+    host.broker.publishGroup(late);
+    host.job->setActiveAAMGroupName(QStringLiteral("system.aam.late"));
+    QCOMPARE(Probe::aamGroup(list), late);
+}
+
+void TestRxMapGraphicsList::everySetCallsTheSlotOnce()
+{
+    MapHost host;
+    RxMapGraphicsList list(&host.broker, nullptr);
+    int reads = 0;
+    const auto count = [](void *argument) { ++*static_cast<int *>(argument); };
+    host.aam(1)->setBeforeReadHook("productGroupName", count, &reads);
+    host.activateProduct(1);
+    QCOMPARE(reads, 1);
+    QVERIFY(!host.job->connectPropertySetSlot("activeAAMGroupName", &list, SLOT(activeAamChanged(QString)),
+                                              Qt::UniqueConnection, true));
+}
+
+void TestRxMapGraphicsList::theDrawableIsToldBeforeTheProductIsRead()
+{
+    MapHost host;
+    RxMapGraphicsList list(&host.broker, nullptr);
+    struct Seen {
+        RxMap3D *map;
+        DbGroupAAM *aam;
+    } seen{Probe::map(list), nullptr};
+    host.aam(1)->setBeforeReadHook(
+        "productGroupName",
+        [](void *argument) {
+            auto *what = static_cast<Seen *>(argument);
+            what->aam = RxMap3DProbe::aamGroup(*what->map);
+        },
+        &seen);
+    host.activateProduct(1);
+    QCOMPARE(seen.aam, host.aam(1));
 }
 
 QTEST_MAIN(TestRxMapGraphicsList)
