@@ -1,5 +1,7 @@
 #include "localplane.h"
 
+#include "smoothprojection.h"
+
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -10,6 +12,8 @@ namespace {
 constexpr double earthRadius = 6371008.8;
 /// Beyond this a plane is no picture of the earth any more, and no machine drives that far.
 constexpr double widestMap = 1.0e6;
+/// Up to this many vertices are projected one by one; for more, it pays to fit a smooth stand-in.
+constexpr size_t fewVertices = 500;
 
 struct TransformationDelete {
     void operator()(OGRCoordinateTransformation *transformation) const
@@ -143,13 +147,22 @@ bool LocalPlane::project(const SourceMap &map, std::vector<double> &xs, std::vec
                     .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
         return false;
     }
-    // Transforms in parts: a count of coordinates may exceed what one call takes.
-    constexpr size_t part = 1U << 16U;
+    const auto exact = [&toPlane](size_t count, double *x, double *y) {
+        toPlane->Transform(static_cast<int>(count), x, y);
+    };
     xs = map.xs;
     ys = map.ys;
-    for (size_t first = 0; first < xs.size(); first += part) {
-        const int count = static_cast<int>(std::min(part, xs.size() - first));
-        toPlane->Transform(count, &xs[first], &ys[first]);
+    const Range x = rangeOf(xs);
+    const Range y = rangeOf(ys);
+    SmoothProjection smooth;
+    if (xs.size() > fewVertices && smooth.fit(exact, x.least, x.greatest, y.least, y.greatest)) {
+        for (size_t i = 0; i < xs.size(); ++i)
+            smooth.apply(xs[i], ys[i]);
+        return true;
     }
+    // In parts: there may be more coordinates than one call takes.
+    constexpr size_t part = 1U << 16U;
+    for (size_t first = 0; first < xs.size(); first += part)
+        exact(std::min(part, xs.size() - first), &xs[first], &ys[first]);
     return true;
 }
