@@ -6,14 +6,12 @@
 #include "Framework/databrokergroup.h"
 
 #include <QHash>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QPointer>
-#include <QReadLocker>
-#include <QReadWriteLock>
 #include <QSettings>
 #include <QVector>
-#include <QWriteLocker>
+
+#include <mutex>
+#include <shared_mutex>
 
 namespace {
 
@@ -48,7 +46,7 @@ public:
     /// The published group of that name; if there is none and `orRemoved`, the latest that was taken out.
     DataBrokerGroup *find(const QString &name, bool orRemoved) const
     {
-        const QReadLocker locker(&lock);
+        const std::shared_lock<std::shared_mutex> locker(lock);
         const Entry *const entry = latest(name);
         return entry != nullptr && (orRemoved || !entry->isRemoved) ? entry->group.data() : nullptr;
     }
@@ -68,12 +66,12 @@ public:
             && latestPlace.value(entry.name, -1) == place;
     }
 
-    mutable QReadWriteLock lock;
+    mutable std::shared_mutex lock;
     /// Every group that was ever published, oldest first.
     QVector<Entry> entries;
     /// Place of the latest entry of each name; the earlier ones have been removed.
     QHash<QString, int> latestPlace;
-    mutable QMutex settingsMutex;
+    mutable std::mutex settingsMutex;
     QScopedPointer<QSettings> settings;
     QSize displaySize;
 };
@@ -94,7 +92,7 @@ DataBroker::~DataBroker()
     while (true) {
         QPointer<DataBrokerGroup> group;
         {
-            const QWriteLocker locker(&d->lock);
+            const std::lock_guard<std::shared_mutex> locker(d->lock);
             if (d->entries.isEmpty())
                 return;
             const Entry entry = d->entries.takeLast();
@@ -110,7 +108,7 @@ QStringList DataBroker::findGroup(const QString &pattern, bool inPublicationOrde
 {
     QStringList names;
     {
-        const QReadLocker locker(&d->lock);
+        const std::shared_lock<std::shared_mutex> locker(d->lock);
         for (int place = 0; place < d->entries.size(); ++place) {
             const QString &name = d->entries.at(place).name;
             if (matches(name, pattern) && d->isListed(place, includeRemoved))
@@ -146,7 +144,7 @@ int DataBroker::getIniSetting(const char *setting, QVariant &value, const QVaria
 {
     const QString key = settingsKey(setting);
     {
-        const QMutexLocker locker(&d->settingsMutex);
+        const std::lock_guard<std::mutex> locker(d->settingsMutex);
         if (d->settings && !key.isEmpty() && d->settings->contains(key)) {
             value = d->settings->value(key);
             return DataBrokerGroup::Success;
@@ -169,7 +167,7 @@ int DataBroker::publishGroup(DataBrokerGroup *group)
         return DataBrokerGroup::ErrUnknownGroup;
     const QString name = group->name();
     {
-        const QWriteLocker locker(&d->lock);
+        const std::lock_guard<std::shared_mutex> locker(d->lock);
         // A group is published once; one that has been taken out stays out.
         if (group->isRemoved())
             return DataBrokerGroup::ErrGroupRemoved;
@@ -191,7 +189,7 @@ int DataBroker::removeGroup(const QString &name)
 {
     QPointer<DataBrokerGroup> group;
     {
-        const QWriteLocker locker(&d->lock);
+        const std::lock_guard<std::shared_mutex> locker(d->lock);
         const Entry *const entry = d->latest(name);
         if (entry == nullptr || entry->isRemoved || entry->group.isNull())
             return DataBrokerGroup::ErrUnknownGroup;
