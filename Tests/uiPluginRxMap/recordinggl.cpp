@@ -125,6 +125,58 @@ void QOPENGLF_APIENTRY bindBuffer(GLenum target, GLuint buffer)
     record.real.BindBuffer(target, buffer);
 }
 
+void QOPENGLF_APIENTRY blendFunc(GLenum source, GLenum destination)
+{
+    note(QStringLiteral("glBlendFunc 0x%1 0x%2").arg(source, 0, 16).arg(destination, 0, 16));
+    record.real.BlendFunc(source, destination);
+}
+
+void QOPENGLF_APIENTRY blendFuncSeparate(GLenum source, GLenum destination, GLenum sourceAlpha, GLenum destinationAlpha)
+{
+    note(QStringLiteral("glBlendFuncSeparate 0x%1 0x%2 0x%3 0x%4")
+             .arg(source, 0, 16)
+             .arg(destination, 0, 16)
+             .arg(sourceAlpha, 0, 16)
+             .arg(destinationAlpha, 0, 16));
+    record.real.BlendFuncSeparate(source, destination, sourceAlpha, destinationAlpha);
+}
+
+void QOPENGLF_APIENTRY depthMask(GLboolean flag)
+{
+    note(QStringLiteral("glDepthMask %1").arg(flag));
+    record.real.DepthMask(flag);
+}
+
+void QOPENGLF_APIENTRY depthFunc(GLenum function)
+{
+    note(QStringLiteral("glDepthFunc 0x%1").arg(function, 0, 16));
+    record.real.DepthFunc(function);
+}
+
+void QOPENGLF_APIENTRY cullFace(GLenum mode)
+{
+    note(QStringLiteral("glCullFace 0x%1").arg(mode, 0, 16));
+    record.real.CullFace(mode);
+}
+
+void QOPENGLF_APIENTRY viewport(GLint x, GLint y, GLsizei width, GLsizei height)
+{
+    note(QStringLiteral("glViewport %1 %2 %3 %4").arg(x).arg(y).arg(width).arg(height));
+    record.real.Viewport(x, y, width, height);
+}
+
+void QOPENGLF_APIENTRY colorMask(GLboolean red, GLboolean green, GLboolean blue, GLboolean alpha)
+{
+    note(QStringLiteral("glColorMask %1 %2 %3 %4").arg(red).arg(green).arg(blue).arg(alpha));
+    record.real.ColorMask(red, green, blue, alpha);
+}
+
+void QOPENGLF_APIENTRY activeTexture(GLenum texture)
+{
+    note(QStringLiteral("glActiveTexture 0x%1").arg(texture, 0, 16));
+    record.real.ActiveTexture(texture);
+}
+
 } // namespace
 
 RecordingGl::RecordingGl()
@@ -146,6 +198,14 @@ RecordingGl::RecordingGl()
     table.Enable = enableState;
     table.Disable = disableState;
     table.BindBuffer = bindBuffer;
+    table.BlendFunc = blendFunc;
+    table.BlendFuncSeparate = blendFuncSeparate;
+    table.DepthMask = depthMask;
+    table.DepthFunc = depthFunc;
+    table.CullFace = cullFace;
+    table.Viewport = viewport;
+    table.ColorMask = colorMask;
+    table.ActiveTexture = activeTexture;
 }
 
 RecordingGl::~RecordingGl()

@@ -28,6 +28,12 @@ void note(const QString &call)
     record().calls.append(call);
 }
 
+/// Every double has a text of its own.
+QString exact(double value)
+{
+    return QString::number(value, 'g', 17);
+}
+
 } // namespace
 
 void RecordingGlu::clear()
@@ -107,9 +113,9 @@ void gluTessBeginContour(GLUtesselator *tess)
 void gluTessVertex(GLUtesselator *tess, GLdouble *location, GLvoid *data)
 {
     note(QStringLiteral("gluTessVertex %1 %2 %3 #%4")
-             .arg(location[0])
-             .arg(location[1])
-             .arg(location[2])
+             .arg(exact(location[0]))
+             .arg(exact(location[1]))
+             .arg(exact(location[2]))
              .arg(reinterpret_cast<quintptr>(data)));
     real<decltype(&gluTessVertex)>("gluTessVertex")(tess, location, data);
 }

@@ -9,7 +9,8 @@
 class RecordingGlu {
 public:
     static void clear();
-    /// Calls in order, such as "gluTessVertex 0 -4.99 -10 #2", with locations as %g and vertex data after "#".
+    /// Calls in order, such as "gluTessVertex 0 -4.5 -10 #2", with locations as %.17g, which tells any two doubles
+    /// apart, and vertex data after "#".
     static QStringList calls();
     /// Calls of one function.
     static int count(const QString &function);

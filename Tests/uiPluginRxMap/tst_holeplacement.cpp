@@ -19,6 +19,12 @@ private Q_SLOTS:
     void aHoleWithOneVertexOutsideIsNotCut();
     void aHoleWithoutVerticesIsPlacedNowhere();
     void aRingWithoutAVertexArrayIsEmpty();
+    void aHoleWithAnImpossibleVertexCountIsPlacedNowhere_data();
+    void aHoleWithAnImpossibleVertexCountIsPlacedNowhere();
+    void outersWithImpossibleVertexCountsDisturbNoOther_data();
+    void outersWithImpossibleVertexCountsDisturbNoOther();
+    void aCrossingBeyondTheRingStillCounts();
+    void minuteHeightsArePlacedAsPlainly();
     void holeCoordinatesAreNarrowedToFloat();
     void theFastWayEqualsThePlainOne_data();
     void theFastWayEqualsThePlainOne();
@@ -147,20 +153,24 @@ void TestHolePlacement::aHoleInsideTwoRingsIsCutFromTheFirstOnly()
 void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller_data()
 {
     QTest::addColumn<double>("outerArea");
+    QTest::addColumn<double>("holeArea");
     QTest::addColumn<bool>("cut");
-    QTest::newRow("equal") << 4.0 << false;
-    QTest::newRow("ten more") << 14.0 << false;
-    QTest::newRow("a little over ten more") << std::nextafter(14.0, 15.0) << true;
-    QTest::newRow("not a number") << std::nan("") << false;
+    QTest::newRow("equal") << 4.0 << 4.0 << false;
+    QTest::newRow("ten more") << 14.0 << 4.0 << false;
+    QTest::newRow("a little over ten more") << std::nextafter(14.0, 15.0) << 4.0 << true;
+    // Ten more than the hole rounds up to the outer ring's area: only the difference from that tells them apart.
+    QTest::newRow("less than rounding over ten more") << 10.000000000000002 << 1e-15 << true;
+    QTest::newRow("not a number") << std::nan("") << 4.0 << false;
 }
 
 void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
 {
     QFETCH(double, outerArea);
+    QFETCH(double, holeArea);
     QFETCH(bool, cut);
     PolygonChain chain;
     chain.addOuter(square(0, 0, 10)).area = outerArea;
-    chain.addHole(square(4, 4, 2));
+    chain.addHole(square(4, 4, 2)).area = holeArea;
     QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
 }
 
@@ -188,6 +198,74 @@ void TestHolePlacement::aRingWithoutAVertexArrayIsEmpty()
     chain.addHole(square(4, 4, 2)).vertices = nullptr;
     chain.addHole(square(4, 4, 2));
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}, {1}}));
+}
+
+void TestHolePlacement::aHoleWithAnImpossibleVertexCountIsPlacedNowhere_data()
+{
+    QTest::addColumn<quint32>("count");
+    QTest::newRow("one more than an int holds") << 0x80000000U;
+    QTest::newRow("the most there is") << 0xFFFFFFFFU;
+}
+
+void TestHolePlacement::aHoleWithAnImpossibleVertexCountIsPlacedNowhere()
+{
+    QFETCH(quint32, count);
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    chain.addHole(square(4, 4, 2)).vertexCount = count;
+    chain.addHole(square(4, 4, 2));
+    QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{1}}));
+}
+
+void TestHolePlacement::outersWithImpossibleVertexCountsDisturbNoOther_data()
+{
+    aHoleWithAnImpossibleVertexCountIsPlacedNowhere_data();
+}
+
+void TestHolePlacement::outersWithImpossibleVertexCountsDisturbNoOther()
+{
+    QFETCH(quint32, count);
+    for (int rings = 1; rings <= 40; ++rings) {
+        for (int good = 0; good <= rings; ++good) {
+            PolygonChain chain;
+            for (int ring = 0; ring <= rings; ++ring) {
+                RX_POLYGON &outer = chain.addOuter(square(0, 0, 10));
+                if (ring != good)
+                    outer.vertexCount = count;
+            }
+            chain.addHole(square(4, 4, 2));
+            QVector<QVector<int>> expected(rings + 1);
+            expected[good] = {0};
+            QCOMPARE(placed(split(chain)), expected);
+        }
+    }
+}
+
+void TestHolePlacement::aCrossingBeyondTheRingStillCounts()
+{
+    // The left edge's crossing, as computed, lies left of both of its ends: so does the hole, and yet it is inside.
+    PolygonChain chain;
+    chain
+        .addOuter({{1.000000000000419, 1.9991116523742674},
+                   {391864.6605272225, 4.4188206188761381},
+                   {574593.80568556348, 1.1792931398958262}})
+        .area = 1e6;
+    chain.addHole({{1.0, static_cast<double>(1.99911165F)}}).area = 1.0;
+    QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{0}}));
+}
+
+void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
+{
+    // Heights below the smallest normal number: the edge arithmetic underflows.
+    PolygonChain chain;
+    chain
+        .addOuter({{0.00042726980716363024, 8.0088041190866065e-321},
+                   {3.3876405413944645e-292, 6.4475566782282674e-321},
+                   {2.9267939010010183e-292, 0.0}})
+        .area = 1e6;
+    chain.addHole({{static_cast<double>(-7.8006251e-06F), 0.0}}).area = 1.0;
+    const Rings rings = split(chain);
+    QCOMPARE(placed(rings), plainPlacement(rings.outers, rings.holes));
 }
 
 void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()

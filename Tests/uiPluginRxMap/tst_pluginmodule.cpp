@@ -4,6 +4,7 @@
 #include "Framework/uiplugininterface.h"
 
 #include <QJsonObject>
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QProcess>
 #include <QRegularExpression>
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void onlyTheTwoEntryPointsAreExported();
     void theInterfaceIsAnsweredAndTheInstanceIsShared();
     void afterTheInstanceIsGoneAFreshOneComes();
+    void theEntryPointItselfKeepsTheInstance();
 };
 
 static const QString pluginFile = QStringLiteral(RXMAP_PLUGIN_FILE);
@@ -40,6 +42,15 @@ void TestPluginModule::metadataIsReadWithoutLoading()
     // Qt's newer tools leave an empty object out; either way a host reads an empty one.
     QVERIFY(metadata.value(QStringLiteral("MetaData")).toObject().isEmpty());
     QCOMPARE(metadata.value(QStringLiteral("version")).toInt(), QT_VERSION & 0xFFFF00);
+    // A host refuses a plug-in of the other kind where the two do not mix.
+#ifdef QT_NO_DEBUG
+    const bool isDebugBuild = false;
+#else
+    const bool isDebugBuild = true;
+#endif
+    const QJsonValue debug = metadata.value(QStringLiteral("debug"));
+    QVERIFY(debug.isBool());
+    QCOMPARE(debug.toBool(), isDebugBuild);
 }
 
 void TestPluginModule::qtplugininfoPrintsTheMetadata()
@@ -81,6 +92,23 @@ void TestPluginModule::afterTheInstanceIsGoneAFreshOneComes()
     QVERIFY(first.isNull());
     QObject *second = loader.instance();
     QVERIFY(qobject_cast<UiPluginInterface *>(second));
+}
+
+void TestPluginModule::theEntryPointItselfKeepsTheInstance()
+{
+    // Past the loader, which keeps what it was once given.
+    using Instance = QObject *(*)();
+    const auto instance = reinterpret_cast<Instance>(QLibrary::resolve(pluginFile, "qt_plugin_instance"));
+    QVERIFY(instance);
+    const QPointer<QObject> first = instance();
+    QVERIFY(qobject_cast<UiPluginInterface *>(first));
+    QCOMPARE(instance(), first.data());
+    delete first.data();
+    QVERIFY(first.isNull());
+    const QPointer<QObject> second = instance();
+    QVERIFY(qobject_cast<UiPluginInterface *>(second));
+    QCOMPARE(instance(), second.data());
+    delete second.data();
 }
 
 QTEST_MAIN(TestPluginModule)

@@ -14,12 +14,70 @@
 #include <cstdio>
 #include <future>
 #include <iostream>
-#include <sstream>
+#include <streambuf>
+#include <thread>
 
 namespace {
 
-QStringList systemLog;
-bool lockedWhileLogging = false;
+/// What reached the system log and standard output, in order: "log: ...", "output: ..." (several writes in a row are
+/// one entry) and "flush".
+QStringList journal;
+/// Whether nobody else could take the debug output's lock at any entry of the journal.
+bool wasAlwaysLocked = true;
+
+const QString outputMark = QStringLiteral("output: ");
+
+bool isLockedForOthers()
+{
+    std::promise<void> taken;
+    std::future<void> waiting = taken.get_future();
+    std::thread([promise = std::move(taken)]() mutable {
+        ORVIK_DEBUG_CLASS::init()->lock();
+        ORVIK_DEBUG_CLASS::init()->unlock();
+        promise.set_value();
+    }).detach();
+    return waiting.wait_for(std::chrono::milliseconds(30)) == std::future_status::timeout;
+}
+
+void enter(const QString &entry)
+{
+    wasAlwaysLocked = wasAlwaysLocked && isLockedForOthers();
+    if (entry.startsWith(outputMark) && !journal.isEmpty() && journal.last().startsWith(outputMark))
+        journal.last() += entry.mid(outputMark.size());
+    else
+        journal.append(entry);
+}
+
+/// Stands behind std::cout while it lives and enters everything in the journal.
+class OutputJournal : private std::streambuf {
+public:
+    OutputJournal()
+        : former(std::cout.rdbuf(this))
+    {
+    }
+    ~OutputJournal() override { std::cout.rdbuf(former); }
+
+private:
+    int_type overflow(int_type character) override
+    {
+        enter(outputMark + QLatin1Char(traits_type::to_char_type(character)));
+        return character;
+    }
+
+    std::streamsize xsputn(const char *text, std::streamsize size) override
+    {
+        enter(outputMark + QString::fromLatin1(text, static_cast<int>(size)));
+        return size;
+    }
+
+    int sync() override
+    {
+        enter(QStringLiteral("flush"));
+        return 0;
+    }
+
+    std::streambuf *former;
+};
 
 } // namespace
 
@@ -31,18 +89,7 @@ extern "C" void syslog(int priority, const char *format, ...)
     va_start(arguments, format);
     std::vsnprintf(text, sizeof text, format, arguments);
     va_end(arguments);
-    systemLog.append(QStringLiteral("%1 %2 %3").arg(priority).arg(QLatin1String(format), QLatin1String(text)));
-    auto other = std::async(std::launch::async, [] {
-        std::promise<void> taken;
-        std::future<void> waiting = taken.get_future();
-        std::thread([promise = std::move(taken)]() mutable {
-            ORVIK_DEBUG_CLASS::init()->lock();
-            ORVIK_DEBUG_CLASS::init()->unlock();
-            promise.set_value();
-        }).detach();
-        return waiting.wait_for(std::chrono::milliseconds(30)) == std::future_status::timeout;
-    });
-    lockedWhileLogging = other.get();
+    enter(QStringLiteral("log: %1 %2 %3").arg(priority).arg(QLatin1String(format), QLatin1String(text)));
 }
 
 /// The OpenGL calls of the drawable, through a recording function table.
@@ -58,6 +105,7 @@ private Q_SLOTS:
     void drawBeforeInitMakesNoCall();
     void drawWithoutBanksMakesNoDrawCall();
     void aBankIsDrawnInOneCallFromClientMemory();
+    void drawLeavesAllOtherState();
     void anEmptyBankIsSkippedWithoutAnErrorCheck();
     void banksAreDrawnInListOrder();
     void aBanksOwnPrimitiveIsNotConsulted();
@@ -68,7 +116,8 @@ private Q_SLOTS:
 
 private:
     void addBank(int vertices, qint32 primitive = 4);
-    QString standardOutputOfDraw();
+    /// The journal of one draw().
+    QStringList journalOfDraw();
 
     QScopedPointer<CurrentContext> context;
     QScopedPointer<RecordingGl> gl;
@@ -79,8 +128,8 @@ private:
 void TestRxMap3DDrawing::init()
 {
     TestBase::init();
-    systemLog.clear();
-    lockedWhileLogging = false;
+    journal.clear();
+    wasAlwaysLocked = true;
     context.reset(new CurrentContext);
     QVERIFY(context->isValid());
     gl.reset(new RecordingGl);
@@ -105,13 +154,11 @@ void TestRxMap3DDrawing::addBank(int vertices, qint32 primitive)
         bank->vertices.append({static_cast<float>(i), -4.99F, 0.0F, 0x80FFFFFFU});
 }
 
-QString TestRxMap3DDrawing::standardOutputOfDraw()
+QStringList TestRxMap3DDrawing::journalOfDraw()
 {
-    std::ostringstream captured;
-    std::streambuf *former = std::cout.rdbuf(captured.rdbuf());
+    const OutputJournal redirected;
     map->draw(QMatrix4x4());
-    std::cout.rdbuf(former);
-    return QString::fromStdString(captured.str());
+    return journal;
 }
 
 void TestRxMap3DDrawing::initWithoutAContextDoesNothing()
@@ -188,9 +235,18 @@ void TestRxMap3DDrawing::aBankIsDrawnInOneCallFromClientMemory()
     QCOMPARE(RecordingGl::pointerOf(position.toUInt()), static_cast<const void *>(first));
     QCOMPARE(RecordingGl::pointerOf(color.toUInt()),
              static_cast<const void *>(reinterpret_cast<const char *>(first) + 12));
-    QCOMPARE(gl->count(QStringLiteral("glBindBuffer")), 0);
-    QCOMPARE(gl->count(QStringLiteral("glEnable")), 0);
-    QCOMPARE(gl->count(QStringLiteral("glDisable")), 0);
+}
+
+void TestRxMap3DDrawing::drawLeavesAllOtherState()
+{
+    map->init();
+    addBank(6);
+    gl->clear();
+    map->draw(QMatrix4x4());
+    for (const char *function :
+         {"glEnable", "glDisable", "glBindBuffer", "glBlendFunc", "glBlendFuncSeparate", "glDepthMask", "glDepthFunc",
+          "glCullFace", "glViewport", "glColorMask", "glActiveTexture"})
+        QVERIFY2(gl->count(QLatin1String(function)) == 0, function);
 }
 
 void TestRxMap3DDrawing::anEmptyBankIsSkippedWithoutAnErrorCheck()
@@ -255,19 +311,19 @@ void TestRxMap3DDrawing::pendingErrorsAreReported()
     addBank(3);
     gl->clear();
     gl->pend(pending);
-    const QString output = standardOutputOfDraw();
+    const QStringList entries = journalOfDraw();
     QCOMPARE(gl->count(QStringLiteral("glGetError")), pending.size());
-    QCOMPARE(systemLog.size(), reported.size());
-    QCOMPARE(output.count(QLatin1Char('\n')), 2 * reported.size());
+    QCOMPARE(entries.size(), 3 * reported.size());
     for (int i = 0; i < reported.size(); ++i) {
         static const QRegularExpression form(QStringLiteral(
-            "^3 %s (ERROR: An error occurred in: OpenGL: Plugins/uiPluginRxMap/rxmap3d\\(\\d+\\) %1\n)$"));
+            "^log: 3 %s (ERROR: An error occurred in: OpenGL: Plugins/uiPluginRxMap/rxmap3d\\(\\d+\\) %1\n)$"));
         const QRegularExpression expected(form.pattern().arg(reported.at(i)));
-        const QRegularExpressionMatch match = expected.match(systemLog.at(i));
-        QVERIFY2(match.hasMatch(), qPrintable(systemLog.at(i)));
-        QVERIFY(output.contains(match.captured(1) + QLatin1Char('\n')));
-        QVERIFY(lockedWhileLogging);
+        const QRegularExpressionMatch match = expected.match(entries.at(3 * i));
+        QVERIFY2(match.hasMatch(), qPrintable(entries.at(3 * i)));
+        QCOMPARE(entries.at(3 * i + 1), outputMark + match.captured(1) + QLatin1Char('\n'));
+        QCOMPARE(entries.at(3 * i + 2), QStringLiteral("flush"));
     }
+    QVERIFY(wasAlwaysLocked);
     ORVIK_DEBUG_CLASS::init()->lock();
     ORVIK_DEBUG_CLASS::init()->unlock();
 }
@@ -279,9 +335,9 @@ void TestRxMap3DDrawing::drawingGoesOnAfterAnError()
     addBank(6);
     gl->clear();
     gl->pend({1280, 0, 0});
-    standardOutputOfDraw();
+    const QStringList entries = journalOfDraw();
     QCOMPARE(gl->count(QStringLiteral("glDrawArrays")), 2);
-    QCOMPARE(systemLog.size(), 1);
+    QCOMPARE(entries.filter(QStringLiteral("log: ")).size(), 1);
 }
 
 QTEST_MAIN(TestRxMap3DDrawing)

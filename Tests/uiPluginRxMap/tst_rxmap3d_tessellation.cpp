@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aHoleInAnIslandOfALaterRingIsTakenByTheFirst();
     void aHoleThatIsHardlySmallerIsKeptForALaterRing();
     void nothingIsHeldBetweenRebuilds();
+    void theBankHasRoomForAllTrianglesFromTheStart();
     void halfAlphaOfAnOpaqueColourIs128();
     void aChainShorterThanItsCountEndsEarly();
     void aChainLongerThanItsCountIsCutOff();
@@ -249,7 +250,8 @@ void TestRxMap3DTessellation::callsForAnOuterRingWithAHole()
 {
     PolygonChain chain;
     chain.addOuter(square(0, 0, 10));
-    chain.addHole({{2, 3}, {5, 3}, {5, 7}});
+    // A tenth is no float: contours go to the tessellator as they are, although holes are placed by narrowed ones.
+    chain.addHole({{0.1, 3}, {5, 0.7}, {5, 7}});
     group->setPolygonBuffer(chain.first());
     group->setRateColors({oneClass});
     RecordingGlu::clear();
@@ -257,15 +259,15 @@ void TestRxMap3DTessellation::callsForAnOuterRingWithAHole()
     const QStringList calls = RecordingGlu::calls().mid(6);
     const QStringList expected{"gluTessBeginPolygon null",
                                "gluTessBeginContour",
-                               "gluTessVertex 0 -4.99 0 #0",
-                               "gluTessVertex 10 -4.99 0 #1",
-                               "gluTessVertex 10 -4.99 -10 #2",
-                               "gluTessVertex 0 -4.99 -10 #3",
+                               "gluTessVertex 0 -4.9899997711181641 0 #0",
+                               "gluTessVertex 10 -4.9899997711181641 0 #1",
+                               "gluTessVertex 10 -4.9899997711181641 -10 #2",
+                               "gluTessVertex 0 -4.9899997711181641 -10 #3",
                                "gluTessEndContour",
                                "gluTessBeginContour",
-                               "gluTessVertex 2 -4.99 -3 #4",
-                               "gluTessVertex 5 -4.99 -3 #5",
-                               "gluTessVertex 5 -4.99 -7 #6",
+                               "gluTessVertex 0.10000000000000001 -4.9899997711181641 -3 #4",
+                               "gluTessVertex 5 -4.9899997711181641 -0.69999999999999996 #5",
+                               "gluTessVertex 5 -4.9899997711181641 -7 #6",
                                "gluTessEndContour",
                                "gluTessEndPolygon",
                                "gluDeleteTess"};
@@ -335,6 +337,18 @@ void TestRxMap3DTessellation::nothingIsHeldBetweenRebuilds()
     QVERIFY(coordList.isEmpty());
     QVERIFY(vList.isEmpty());
     QVERIFY(vList.capacity() >= 6);
+}
+
+void TestRxMap3DTessellation::theBankHasRoomForAllTrianglesFromTheStart()
+{
+    // The hole lies in the outer ring, so the map takes 4 + 4 + 2 - 2 triangles; the ring of two takes none.
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    chain.addHole(square(4, 4, 2));
+    chain.addOuter({{20, 0}, {30, 0}});
+    const QVector<Vertex> &drawn = rebuild(chain);
+    QCOMPARE(drawn.size(), 3 * 8);
+    QCOMPARE(drawn.capacity(), 3 * 8);
 }
 
 void TestRxMap3DTessellation::halfAlphaOfAnOpaqueColourIs128()

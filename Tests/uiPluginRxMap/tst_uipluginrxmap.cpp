@@ -4,6 +4,8 @@
 #include "testbase.h"
 #include "uipluginrxmap.h"
 
+#include "Framework/dbgroupjob.h"
+
 #include <QTranslator>
 
 /// The entry object: its catalogue and its factories.
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void theSecondBaseReachesTheSameObject();
 
     void aSecondGraphicsListReplacesTheFirst();
+    void theFirstGraphicsListIsGoneBeforeTheSecondIsMade();
     void anyOtherNameDeletesTheGraphicsList_data();
     void anyOtherNameDeletesTheGraphicsList();
     void theHostCanDeleteTheGraphicsListFirst();
@@ -168,6 +171,29 @@ void TestUiPluginRxMap::aSecondGraphicsListReplacesTheFirst()
     QVERIFY(!second.isNull());
     QCOMPARE(plugin.graphicsLists().size(), 1);
     QCOMPARE(plugin.graphicsLists().value(listName), second);
+}
+
+void TestUiPluginRxMap::theFirstGraphicsListIsGoneBeforeTheSecondIsMade()
+{
+    struct Look {
+        QPointer<UiGraphicsList> first;
+        QList<bool> wasGone;
+    } look;
+    MapHost host;
+    UiPluginRxMap plugin;
+    look.first = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(!look.first.isNull());
+    // A new list reads the active map while it is made.
+    const auto note = [](void *argument) {
+        auto *noted = static_cast<Look *>(argument);
+        noted->wasGone.append(noted->first.isNull());
+    };
+    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", note, &look));
+    const QPointer<UiGraphicsList> second = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", nullptr, nullptr));
+    QVERIFY(!second.isNull());
+    QVERIFY(!look.wasGone.isEmpty());
+    QVERIFY(!look.wasGone.contains(false));
 }
 
 void TestUiPluginRxMap::anyOtherNameDeletesTheGraphicsList_data()

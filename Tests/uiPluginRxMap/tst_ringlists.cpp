@@ -1,0 +1,59 @@
+#include "maphost.h"
+#include "ringlists.h"
+#include "testbase.h"
+
+class TestRingLists : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void outersAndHolesAreTakenApartInChainOrder();
+    void onlyTheCountedRecordsAreTaken_data();
+    void onlyTheCountedRecordsAreTaken();
+    void withoutAChainThereAreNoRings();
+};
+
+void TestRingLists::outersAndHolesAreTakenApartInChainOrder()
+{
+    PolygonChain chain;
+    chain.addHole(square(0, 0, 1));
+    chain.addOuter(square(1, 0, 1));
+    chain.addOuter(square(2, 0, 1));
+    chain.addHole(square(3, 0, 1));
+    const RingLists rings(chain.first(), chain.count());
+    QCOMPARE(rings.outers, (QVector<OrvikTypes::RX_POLYGON *>{&chain.at(1), &chain.at(2)}));
+    QCOMPARE(rings.holes, (QVector<OrvikTypes::RX_POLYGON *>{&chain.at(0), &chain.at(3)}));
+}
+
+void TestRingLists::onlyTheCountedRecordsAreTaken_data()
+{
+    QTest::addColumn<unsigned int>("count");
+    QTest::addColumn<int>("outers");
+    QTest::addColumn<int>("holes");
+    QTest::newRow("none") << 0U << 0 << 0;
+    QTest::newRow("one") << 1U << 1 << 0;
+    QTest::newRow("two") << 2U << 1 << 1;
+    QTest::newRow("all") << 3U << 2 << 1;
+    QTest::newRow("more than there are") << 0xFFFFFFFFU << 2 << 1;
+}
+
+void TestRingLists::onlyTheCountedRecordsAreTaken()
+{
+    QFETCH(unsigned int, count);
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 1));
+    chain.addHole(square(1, 0, 1));
+    chain.addOuter(square(2, 0, 1));
+    const RingLists rings(chain.first(), count);
+    QTEST(rings.outers.size(), "outers");
+    QTEST(rings.holes.size(), "holes");
+}
+
+void TestRingLists::withoutAChainThereAreNoRings()
+{
+    const RingLists rings(nullptr, 5);
+    QVERIFY(rings.outers.isEmpty());
+    QVERIFY(rings.holes.isEmpty());
+}
+
+QTEST_APPLESS_MAIN(TestRingLists)
+#include "tst_ringlists.moc"
