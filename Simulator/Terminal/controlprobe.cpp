@@ -16,6 +16,8 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 /// Windows from the top of the stack down: dialogs and popups lie over the terminal's display.
@@ -35,6 +37,15 @@ QWidgetList windowsFromTop()
         over.prepend(popup);
     }
     return over + base;
+}
+
+const QWidget *displayWindow()
+{
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto display = std::find_if(all.begin(), all.end(), [](const QWidget *window) {
+        return qobject_cast<const TerminalWindow *>(window) != nullptr;
+    });
+    return display != all.end() ? *display : nullptr;
 }
 
 QList<QObject *> matchesIn(QWidget *window, const QString &name)
@@ -132,8 +143,11 @@ bool ControlProbe::isEnabled(const QObject *control)
 
 QRect ControlProbe::geometry(const QObject *control)
 {
-    if (auto *widget = qobject_cast<const QWidget *>(control))
-        return widget->geometry();
+    if (auto *widget = qobject_cast<const QWidget *>(control)) {
+        const QWidget *display = widget->isWindow() ? displayWindow() : nullptr;
+        return display != nullptr ? widget->geometry().translated(-display->mapToGlobal(QPoint(0, 0)))
+                                  : widget->geometry();
+    }
     auto *item = qobject_cast<const QGraphicsObject *>(control);
     const QGraphicsView *view = item != nullptr ? viewOf(item) : nullptr;
     if (view == nullptr)

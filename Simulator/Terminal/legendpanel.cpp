@@ -15,6 +15,9 @@ constexpr int Head = 70;
 constexpr int Row = 38;
 constexpr int Swatch = 28;
 constexpr int PanelWidth = 212;
+constexpr int TextLeft = Swatch + 22;
+constexpr int LargestText = 20;
+constexpr int SmallestText = 11;
 
 /// A limit as it is read at a glance: three significant digits, no exponent.
 QString limitText(double value)
@@ -62,6 +65,16 @@ void LegendPanel::show(const QString &newTitle, const QString &newSource, const 
     update();
 }
 
+QFont LegendPanel::fittingFont(int width) const
+{
+    int pixels = LargestText;
+    for (const QString &text : texts) {
+        const int needed = QFontMetrics(Look::font(LargestText, true)).horizontalAdvance(text);
+        pixels = std::min(pixels, needed > width ? LargestText * width / needed : LargestText);
+    }
+    return Look::font(std::max(pixels, SmallestText), true);
+}
+
 QSize LegendPanel::sizeHint() const
 {
     return QSize(PanelWidth, Head + std::max(1, texts.size()) * Row + Inset / 2);
@@ -87,14 +100,15 @@ void LegendPanel::paintEvent(QPaintEvent *)
         painter.setFont(Look::font(20));
         painter.drawText(QRect(inner.left(), Head, inner.width(), Row), Qt::AlignVCenter, tr("No map"));
     }
+    const QFont classFont = fittingFont(inner.width() - TextLeft);
     for (int i = 0; i < texts.size(); ++i) {
         const QRect row(inner.left(), Head + i * Row, inner.width(), Row);
         const QRectF swatch(row.left() + 0.5, row.center().y() - Swatch / 2 + 0.5, Swatch + 8, Swatch);
         painter.setPen(QPen(Look::text(), 1.0));
         painter.setBrush(colors.at(i));
         painter.drawRoundedRect(swatch, 4.0, 4.0);
-        painter.setFont(Look::font(20, true));
+        painter.setFont(classFont);
         painter.setPen(Look::text());
-        painter.drawText(row.adjusted(Swatch + 22, 0, 0, 0), Qt::AlignVCenter, texts.at(i));
+        painter.drawText(row.adjusted(TextLeft, 0, 0, 0), Qt::AlignVCenter, texts.at(i));
     }
 }

@@ -2,6 +2,7 @@
 
 #include "Framework/rxpolygon.h"
 
+#include <QFont>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -24,6 +25,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// The class texts' font, so small that the widest of them fits into `width` pixels.
+    QFont fittingFont(int width) const;
+
     QString title;
     QString source;
     QString unit;

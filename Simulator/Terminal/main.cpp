@@ -24,8 +24,8 @@ bool hasDisplay()
         || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-/// Without a login session there is no session folder, and Qt remarks on it; errors are to stand alone.
-void provideSessionFolder()
+/// Without a login there is no run-time folder, and Qt remarks on it; errors are to stand alone.
+void provideRuntimeFolder()
 {
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR",
@@ -50,7 +50,7 @@ int main(int argc, char *argv[])
     if (!hasDisplay())
         return complain(QStringLiteral("there is no display; start it under xvfb-run"));
 
-    provideSessionFolder();
+    provideRuntimeFolder();
     int kept = 1; // The options are the program's own, Qt is to take none of them.
     QApplication application(kept, argv);
     if (!QOpenGLContext().create())

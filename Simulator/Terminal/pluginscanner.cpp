@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QRegularExpression>
 
@@ -49,6 +50,8 @@ PluginScanner::Findings PluginScanner::scan(const QDir &folder)
             continue;
         }
         QPluginLoader loader(path);
+        // A function that is missing must show now, not end the program when it is called.
+        loader.setLoadHints(QLibrary::ResolveAllSymbolsHint);
         const QString complaint = metadataComplaint(loader);
         if (!complaint.isEmpty()) {
             findings.complaints.append(line(path, complaint));

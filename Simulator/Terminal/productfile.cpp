@@ -138,22 +138,22 @@ Products ProductFile::standard()
     Product seed;
     seed.name = QStringLiteral("Seed");
     seed.shortName = QStringLiteral("Seed");
-    seed.kind = Product::Kind::Weight;
+    seed.kind = Product::Kind::Count;
     seed.bin = 1;
-    seed.defaultRate = 120.0;
+    seed.defaultRate = 80.0;
 
     Product fertiliser;
     fertiliser.name = QStringLiteral("Fertiliser");
     fertiliser.shortName = QStringLiteral("Fert");
     fertiliser.kind = Product::Kind::Weight;
     fertiliser.bin = 2;
-    fertiliser.defaultRate = 100.0;
+    fertiliser.defaultRate = 150.0;
 
     Product spray;
     spray.name = QStringLiteral("Herbicide");
     spray.shortName = QStringLiteral("Herb");
     spray.kind = Product::Kind::Volume;
     spray.bin = 3;
-    spray.defaultRate = 150.0;
+    spray.defaultRate = 2.0;
     return {seed, fertiliser, spray};
 }

@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QJSEngine>
+#include <QMutexLocker>
 #include <QScopedPointer>
 #include <QThread>
 
@@ -71,8 +72,15 @@ QString ScriptRunner::evaluate(const QString &program, const QString &name)
 void ScriptRunner::interrupt()
 {
     isInterrupted = true;
-    if (QJSEngine *running = engine.load())
-        running->setInterrupted(true);
+    const QMutexLocker locker(&engineMutex);
+    if (engine != nullptr)
+        engine->setInterrupted(true);
+}
+
+void ScriptRunner::useEngine(QJSEngine *running)
+{
+    const QMutexLocker locker(&engineMutex);
+    engine = running;
 }
 
 QString ScriptRunner::evaluateOnThread(const QString &program, const QString &name)
@@ -87,14 +95,15 @@ QString ScriptRunner::evaluateOnThread(const QString &program, const QString &na
                        "console.writeLine(Array.prototype.map.call(arguments, String).join(' ')); }; })"));
     global.setProperty(QStringLiteral("print"), makePrint.call({scriptEngine.newQObject(&console)}));
 
-    engine = &scriptEngine;
-    // Whatever is thrown comes out as an Error, which is how the engine tells a failure from a result.
-    const QJSValue result = scriptEngine.evaluate(
-        QStringLiteral(
-            "try { %1\n} catch (thrown) { throw thrown instanceof Error ? thrown : new Error(String(thrown)); }")
-            .arg(program),
-        name);
-    engine = nullptr;
+    useEngine(&scriptEngine);
+    // Whatever is thrown comes out as an Error, which is how the engine tells a failure from a result; only an Error of
+    // the script's own knows its line.
+    const QString guarded =
+        QStringLiteral("try { %1\n} catch (thrown) { if (!(thrown instanceof Error)) {"
+                       " thrown = new Error(String(thrown)); thrown.lineNumber = null; } throw thrown; }")
+            .arg(program);
+    const QJSValue result = scriptEngine.evaluate(guarded, name);
+    useEngine(nullptr);
     if (isInterrupted)
         return QStringLiteral("%1: interrupted").arg(name);
     return result.isError() ? describe(result, name) : QString();

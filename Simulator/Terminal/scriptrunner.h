@@ -2,6 +2,7 @@
 
 #include "result.h"
 
+#include <QMutex>
 #include <QObject>
 #include <QString>
 
@@ -28,9 +29,11 @@ public:
     void interrupt();
 
 private:
+    void useEngine(QJSEngine *running);
     QString evaluateOnThread(const QString &program, const QString &name);
 
     Terminal *terminal;
     std::atomic<bool> isInterrupted{false};
-    std::atomic<QJSEngine *> engine{nullptr};
+    QMutex engineMutex;
+    QJSEngine *engine = nullptr; ///< While a script runs; guarded by the mutex.
 };

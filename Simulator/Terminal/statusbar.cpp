@@ -17,12 +17,13 @@ StatusBar::StatusBar(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("statusBar"));
+    setMaps({});
     setSpeed(0.0, true);
 }
 
-void StatusBar::setMaps(const QString &names)
+void StatusBar::setMaps(const QStringList &names)
 {
-    maps = names;
+    maps = names.isEmpty() ? tr("No prescription loaded") : names.join(QStringLiteral("  \u00b7  "));
     update();
 }
 

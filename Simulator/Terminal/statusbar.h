@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 /// The line along the top: loaded maps, progress of what is loading, and how the vehicle moves.
@@ -10,7 +11,8 @@ class StatusBar : public QWidget {
 public:
     explicit StatusBar(QWidget *parent = nullptr);
 
-    void setMaps(const QString &names);
+    /// File names of the loaded maps, oldest first.
+    void setMaps(const QStringList &names);
     /// Metres per second; 0 reads as stopped.
     void setSpeed(double metresPerSecond, bool metric);
     /// `fraction` of `file`'s load; an empty file takes the bar away.

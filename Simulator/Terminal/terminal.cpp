@@ -224,7 +224,7 @@ void Terminal::followMaps()
     const QList<LoadReport> maps = prescriptions->maps();
     for (const LoadReport &map : maps)
         names.append(QFileInfo(map.path).fileName());
-    display->statusBar()->setMaps(names.join(QStringLiteral("  \u00b7  ")));
+    display->statusBar()->setMaps(names);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     display->guidancePage()->rebuild();
     showLegend();

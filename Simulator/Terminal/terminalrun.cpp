@@ -102,7 +102,9 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
         error = runScript(terminal, line.script);
     if (error.isEmpty() && !line.screenshot.isEmpty())
         error = terminal.saveScreenshot(line.screenshot);
-    if (error.isEmpty() && !line.describe && line.script.isEmpty() && line.screenshot.isEmpty())
+    const bool isInteractive = !line.describe && line.script.isEmpty() && line.screenshot.isEmpty();
+    // The operator may have closed the display while the prescriptions were loading.
+    if (error.isEmpty() && isInteractive && terminal.window()->isVisible())
         QApplication::exec();
     return error;
 }

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QPainter>
 
 namespace {
@@ -18,6 +19,7 @@ namespace {
 constexpr int StatusHeight = 56;
 constexpr int SelectorWidth = 212;
 constexpr double ZoomStep = 1.5;
+const char PlacedProperty[] = "rxmapPlacedOnDisplay";
 
 } // namespace
 
@@ -35,6 +37,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     setFixedSize(DisplaySize);
     addZoomButtons();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
+    qApp->installEventFilter(this);
     connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
 }
 
@@ -95,6 +98,17 @@ void TerminalWindow::closeEvent(QCloseEvent *event)
     Q_EMIT closed();
 }
 
+bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A dialog places itself on the display, which on a desk is this window, wherever it stands.
+    auto *dialog = event->type() == QEvent::Show && !event->spontaneous() ? qobject_cast<QDialog *>(watched) : nullptr;
+    if (dialog != nullptr && dialog->isWindow() && !dialog->property(PlacedProperty).toBool()) {
+        dialog->setProperty(PlacedProperty, true);
+        dialog->move(dialog->pos() + mapToGlobal(QPoint(0, 0)));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 QImage TerminalWindow::screenshot()
 {
     QImage image = grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -102,7 +116,7 @@ QImage TerminalWindow::screenshot()
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (window != this && window->isVisible() && window->isWindow())
-            painter.drawPixmap(window->pos() - pos(), window->grab());
+            painter.drawPixmap(window->pos() - mapToGlobal(QPoint(0, 0)), window->grab());
     }
     return image;
 }

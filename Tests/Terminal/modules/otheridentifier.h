@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QObject>
+
+/// A Qt plug-in of some other kind.
+class OtherIdentifier : public QObject {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.example.ImageFormat/1.0")
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+/// Compares pictures with stored ones. A pixel differs when one of its channels is off by more than the tolerance; a
+/// picture differs when more than a share of its pixels do, so that a line that falls a pixel aside does not count.
+class Picture {
+public:
+    static constexpr int ChannelTolerance = 24;
+    static constexpr double PixelShare = 0.005;
+
+    /// Compares with Tests/Terminal/pictures/<name>.png. Empty when they agree. Else what is wrong, and actual,
+    /// expected and difference lie in the build's folder of that name.
+    static QString compare(const QImage &actual, const QString &name);
+};

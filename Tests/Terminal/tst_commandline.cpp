@@ -1,0 +1,136 @@
+#include "commandline.h"
+#include "testbase.h"
+
+#include <QTemporaryDir>
+
+/// What the program makes of its arguments.
+class TestCommandLine : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void badArgumentsAreRefusedInOneLine_data();
+    void badArgumentsAreRefusedInOneLine();
+    void everyOptionIsRead();
+    void withoutArgumentsTheDefaultsHold();
+    void unitSystemsAreKnownByName_data();
+    void unitSystemsAreKnownByName();
+    void aPointSouthWestOfTheOriginIsAPoint_data();
+    void aPointSouthWestOfTheOriginIsAPoint();
+    void columnsMayLeaveAProductOut();
+
+private:
+    static Result<CommandLine> parse(const QStringList &arguments)
+    {
+        return CommandLine::parse(QStringList(QStringLiteral("terminal-simulator")) + arguments);
+    }
+};
+
+void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("mentioned");
+    QTest::newRow("unknown option") << QStringList{"--colour"} << "colour";
+    QTest::newRow("unknown short option") << QStringList{"-x"} << "x";
+    QTest::newRow("missing value") << QStringList{"--units"} << "units";
+    QTest::newRow("unknown units") << QStringList{"--units", "imperial"} << "imperial";
+    QTest::newRow("empty units") << QStringList{"--units", ""} << "--units";
+    QTest::newRow("point of one number") << QStringList{"--describe", "12"} << "--describe 12";
+    QTest::newRow("point of three numbers") << QStringList{"--describe", "1,2,3"} << "1,2,3";
+    QTest::newRow("point of words") << QStringList{"--describe", "a,b"} << "a,b";
+    QTest::newRow("point that is no number") << QStringList{"--describe", "nan,1"} << "nan,1";
+    QTest::newRow("point at infinity") << QStringList{"--describe", "1,inf"} << "1,inf";
+    QTest::newRow("missing products file") << QStringList{"--products", "/no/such.json"} << "/no/such.json";
+    QTest::newRow("products file is a folder") << QStringList{"--products", "/"} << "--products /";
+    QTest::newRow("missing script") << QStringList{"--script", "/no/such.js"} << "/no/such.js";
+    QTest::newRow("missing plug-in folder") << QStringList{"--plugin-dir", "/no/such"} << "/no/such";
+    QTest::newRow("option twice") << QStringList{"--units", "us", "--units", "turf"} << "more than once";
+    QTest::newRow("no column") << QStringList{"--columns", ",", "map.shp"} << "--columns";
+    QTest::newRow("columns of nothing") << QStringList{"--columns", "RATE"} << "--columns";
+    QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
+}
+
+void TestCommandLine::badArgumentsAreRefusedInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, mentioned);
+    const Result<CommandLine> line = parse(arguments);
+    QVERIFY(!line.isOk());
+    QVERIFY2(line.error.contains(mentioned), qPrintable(line.error));
+    QVERIFY2(!line.error.contains(QLatin1Char('\n')), qPrintable(line.error));
+}
+
+void TestCommandLine::everyOptionIsRead()
+{
+    QTemporaryDir folder;
+    const QString products = folder.filePath(QStringLiteral("products.json"));
+    const QString script = folder.filePath(QStringLiteral("script.js"));
+    for (const QString &path : {products, script}) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const Result<CommandLine> line = parse({"--columns", "A, B", "--products", products, "--units=us", "--language",
+                                            "de", "--plugin-dir", folder.path(), "--describe", "1.5,2", "--screenshot",
+                                            "map.png", "--script", script, "one.shp", "two.gpkg"});
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QCOMPARE(line.value.columns, QStringList({"A", "B"}));
+    QCOMPARE(line.value.productFile, products);
+    QCOMPARE(line.value.units, UnitSystem::Us);
+    QCOMPARE(line.value.language, QStringLiteral("de"));
+    QCOMPARE(line.value.pluginDir, folder.path());
+    QCOMPARE(line.value.describe.value(), QPointF(1.5, 2));
+    QCOMPARE(line.value.screenshot, QStringLiteral("map.png"));
+    QCOMPARE(line.value.script, script);
+    QCOMPARE(line.value.prescriptions, QStringList({"one.shp", "two.gpkg"}));
+    QVERIFY(!line.value.wantsHelp);
+}
+
+void TestCommandLine::withoutArgumentsTheDefaultsHold()
+{
+    const Result<CommandLine> line = parse({});
+    QVERIFY(line.isOk());
+    QCOMPARE(line.value.units, UnitSystem::Metric);
+    QVERIFY(line.value.prescriptions.isEmpty());
+    QVERIFY(line.value.columns.isEmpty());
+    QVERIFY(!line.value.describe);
+}
+
+void TestCommandLine::unitSystemsAreKnownByName_data()
+{
+    QTest::addColumn<int>("units");
+    QTest::newRow("us") << int(UnitSystem::Us);
+    QTest::newRow("metric") << int(UnitSystem::Metric);
+    QTest::newRow("turf") << int(UnitSystem::Turf);
+}
+
+void TestCommandLine::unitSystemsAreKnownByName()
+{
+    QFETCH(int, units);
+    const Result<CommandLine> line = parse({"--units", QString::fromLatin1(QTest::currentDataTag())});
+    QVERIFY(line.isOk());
+    QCOMPARE(int(line.value.units), units);
+}
+
+void TestCommandLine::aPointSouthWestOfTheOriginIsAPoint_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("value of its own") << QStringList{"--describe", "-10.5,-20"};
+    QTest::newRow("value after =") << QStringList{"--describe=-10.5,-20"};
+}
+
+void TestCommandLine::aPointSouthWestOfTheOriginIsAPoint()
+{
+    QFETCH(QStringList, arguments);
+    const Result<CommandLine> line = parse(arguments);
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QCOMPARE(line.value.describe.value(), QPointF(-10.5, -20));
+}
+
+void TestCommandLine::columnsMayLeaveAProductOut()
+{
+    const Result<CommandLine> line = parse({"--columns", ",B", "map.shp"});
+    QVERIFY(line.isOk());
+    QCOMPARE(line.value.columns, QStringList({QString(), "B"}));
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_commandline.moc"

@@ -1,0 +1,311 @@
+#include "fieldview.h"
+#include "testbase.h"
+
+#include "Framework/uigraphicslist.h"
+
+#include <QMouseEvent>
+#include <QSignalSpy>
+
+namespace {
+
+/// What a guest found when it was called.
+struct Found {
+    float order;
+    bool blends;
+    bool testsDepth;
+    bool culls;
+    GLint sourceFactor;
+    GLint targetFactor;
+    GLint arrayBuffer;
+    GLint elementBuffer;
+};
+
+/// Notes the state that it is called with, and leaves another one behind.
+class RudeGuest : public Object3D {
+public:
+    RudeGuest(float order, QList<Found> *journal)
+        : order(order)
+        , journal(journal)
+    {
+    }
+
+    void init() override
+    {
+        initializeOpenGLFunctions();
+        glGenBuffers(1, &buffer);
+        ++initialised;
+    }
+
+    void draw(QMatrix4x4) override
+    {
+        Found found{order, false, false, false, 0, 0, 0, 0};
+        found.blends = glIsEnabled(GL_BLEND);
+        found.testsDepth = glIsEnabled(GL_DEPTH_TEST);
+        found.culls = glIsEnabled(GL_CULL_FACE);
+        glGetIntegerv(GL_BLEND_SRC_RGB, &found.sourceFactor);
+        glGetIntegerv(GL_BLEND_DST_RGB, &found.targetFactor);
+        glGetIntegerv(GL_ARRAY_BUFFER_BINDING, &found.arrayBuffer);
+        glGetIntegerv(GL_ELEMENT_ARRAY_BUFFER_BINDING, &found.elementBuffer);
+        journal->append(found);
+
+        glDisable(GL_BLEND);
+        glBlendFunc(GL_ONE, GL_ONE);
+        glEnable(GL_DEPTH_TEST);
+        glEnable(GL_CULL_FACE);
+        glEnable(GL_SCISSOR_TEST);
+        glScissor(0, 0, 1, 1);
+        glColorMask(GL_FALSE, GL_TRUE, GL_FALSE, GL_TRUE);
+        glBindBuffer(GL_ARRAY_BUFFER, buffer);
+        glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, buffer);
+    }
+
+    float drawingOrder() const override { return order; }
+
+    int initialised = 0;
+
+private:
+    float order;
+    QList<Found> *journal;
+    GLuint buffer = 0;
+};
+
+class GuestList : public UiGraphicsList {
+public:
+    explicit GuestList(const QList<Object3D *> &guests)
+        : UiGraphicsList(nullptr)
+    {
+        objects = guests;
+    }
+    ~GuestList() override { qDeleteAll(objects); }
+    QString getPointDescription(QVector3D) override { return {}; }
+    void init() override
+    {
+        for (Object3D *object : qAsConst(objects))
+            object->init();
+    }
+};
+
+} // namespace
+
+/// The 3D field view: what a finger does, and how guests are called.
+class TestFieldView : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aTouchTellsTheFieldPointUnderIt();
+    void aFingerThatRollsALittleStillTouches();
+    void aDragMovesTheFieldAndTouchesNothing();
+    void theWheelZoomsAtThePointer();
+    void twoFingersZoomAndTouchNothing();
+    void framingShowsTheWholeField();
+    void aFieldStaysFramedUntilItIsMovedByHand();
+    void theGroundIsSeenWhereNothingIsDrawn();
+    void aPointOutsideOfTheViewHasAColourToo();
+    void guestsAreCalledInDrawingOrderWithAKnownState();
+    void aListAddedLaterIsInitialisedOnce();
+    void aListThatIsGoneIsNotDrawn();
+
+private:
+    /// One event of a finger that is on the view.
+    void finger(QEvent::Type kind, const QPointF &at);
+
+    QScopedPointer<FieldView> view;
+};
+
+void TestFieldView::finger(QEvent::Type kind, const QPointF &at)
+{
+    const bool isLifted = kind == QEvent::MouseButtonRelease;
+    const Qt::MouseButton button = kind == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(kind, at, button, isLifted ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view.data(), &event);
+}
+
+void TestFieldView::init()
+{
+    TestBase::init();
+    view.reset(new FieldView);
+    view->resize(800, 600);
+    view->frame(QRectF(-200, -100, 400, 200));
+    view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(view.data()));
+    QVERIFY(view->isValid());
+}
+
+void TestFieldView::cleanup()
+{
+    view.reset();
+    TestBase::cleanup();
+}
+
+void TestFieldView::aTouchTellsTheFieldPointUnderIt()
+{
+    QSignalSpy spy(view.data(), &FieldView::touched);
+    const QPointF target(37.0, -21.0);
+    const QPoint pixel = view->camera().project(target).value().toPoint();
+    QTest::mouseClick(view.data(), Qt::LeftButton, Qt::NoModifier, pixel);
+    QCOMPARE(spy.size(), 1);
+    const QPointF touched = spy.first().first().toPointF();
+    QVERIFY(QLineF(touched, target).length() < 2.0 * view->camera().metresPerPixel(target));
+}
+
+void TestFieldView::aFingerThatRollsALittleStillTouches()
+{
+    QSignalSpy spy(view.data(), &FieldView::touched);
+    finger(QEvent::MouseButtonPress, QPointF(400, 300));
+    finger(QEvent::MouseMove, QPointF(405, 304));
+    finger(QEvent::MouseButtonRelease, QPointF(405, 304));
+    QCOMPARE(spy.size(), 1);
+}
+
+void TestFieldView::aDragMovesTheFieldAndTouchesNothing()
+{
+    QSignalSpy spy(view.data(), &FieldView::touched);
+    const QPointF held = view->camera().fieldPoint(QPointF(400, 300)).value();
+    finger(QEvent::MouseButtonPress, QPointF(400, 300));
+    finger(QEvent::MouseMove, QPointF(450, 330));
+    finger(QEvent::MouseMove, QPointF(520, 390));
+    finger(QEvent::MouseButtonRelease, QPointF(520, 390));
+    QVERIFY(spy.isEmpty());
+    QVERIFY(QLineF(view->camera().project(held).value(), QPointF(520, 390)).length() < 1e-6);
+}
+
+void TestFieldView::theWheelZoomsAtThePointer()
+{
+    const QPointF held = view->camera().fieldPoint(QPointF(200, 150)).value();
+    const double before = view->camera().distance();
+    QWheelEvent event(QPointF(200, 150), view->mapToGlobal(QPoint(200, 150)), QPoint(), QPoint(0, 240), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view.data(), &event);
+    QVERIFY(std::abs(view->camera().distance() - before / 1.44) < 1e-9);
+    QVERIFY(QLineF(view->camera().project(held).value(), QPointF(200, 150)).length() < 1e-6);
+}
+
+void TestFieldView::twoFingersZoomAndTouchNothing()
+{
+    QSignalSpy spy(view.data(), &FieldView::touched);
+    const double before = view->camera().distance();
+    QTouchDevice *device = QTest::createTouchDevice();
+    QTest::touchEvent(view.data(), device).press(0, QPoint(350, 300), view.data());
+    QTest::touchEvent(view.data(), device).stationary(0).press(1, QPoint(450, 300), view.data());
+    QTest::touchEvent(view.data(), device)
+        .move(0, QPoint(300, 300), view.data())
+        .move(1, QPoint(500, 300), view.data());
+    QTest::touchEvent(view.data(), device)
+        .release(0, QPoint(300, 300), view.data())
+        .release(1, QPoint(500, 300), view.data());
+    QVERIFY2(std::abs(view->camera().distance() - before / 2.0) < 1e-6,
+             qPrintable(QString::number(view->camera().distance() / before)));
+    QVERIFY(spy.isEmpty());
+
+    QTest::touchEvent(view.data(), device).press(2, QPoint(400, 300), view.data());
+    QTest::touchEvent(view.data(), device).release(2, QPoint(400, 300), view.data());
+    QCOMPARE(spy.size(), 1);
+}
+
+void TestFieldView::framingShowsTheWholeField()
+{
+    view->setFreeArea(QRectF(200, 50, 500, 500));
+    for (const QPointF &corner : {QPointF(-200, -100), QPointF(200, -100), QPointF(-200, 100), QPointF(200, 100)})
+        QVERIFY(QRectF(200, 50, 500, 500).contains(view->camera().project(corner).value()));
+}
+
+void TestFieldView::aFieldStaysFramedUntilItIsMovedByHand()
+{
+    const double before = view->camera().distance();
+    view->resize(400, 300);
+    QTRY_COMPARE(view->camera().viewport(), QSizeF(400, 300));
+    QVERIFY(std::abs(view->camera().distance() - before) < 0.02 * before);
+    view->zoom(2.0);
+    const double zoomed = view->camera().distance();
+    view->resize(800, 600);
+    QTRY_COMPARE(view->camera().viewport(), QSizeF(800, 600));
+    QCOMPARE(view->camera().distance(), zoomed);
+}
+
+void TestFieldView::theGroundIsSeenWhereNothingIsDrawn()
+{
+    QCOMPARE(view->colorAt(QPointF(0, 0)), FieldScene::groundColor());
+}
+
+void TestFieldView::aPointOutsideOfTheViewHasAColourToo()
+{
+    QVERIFY(!view->rect().contains(view->camera().project(QPointF(5000, 0)).value().toPoint()));
+    QCOMPARE(view->colorAt(QPointF(5000, 0)), FieldScene::groundColor());
+    QCOMPARE(view->colorAt(QPointF(0, -90000)), FieldScene::groundColor());
+}
+
+void TestFieldView::guestsAreCalledInDrawingOrderWithAKnownState()
+{
+    QList<Found> journal;
+    GuestList list({new RudeGuest(3.0F, &journal), new RudeGuest(-4.99F, &journal), new RudeGuest(0.0F, &journal)});
+    view->addGraphicsList(&list);
+    journal.clear();
+    QCOMPARE(view->colorAt(QPointF(0, 0)), FieldScene::groundColor());
+    view->forgetColors();
+    // The second picture follows the state that the guests left behind in the first.
+    QCOMPARE(view->colorAt(QPointF(0, 0)), FieldScene::groundColor());
+    QCOMPARE(journal.size(), 6);
+    const QList<float> orders{-4.99F, 0.0F, 3.0F, -4.99F, 0.0F, 3.0F};
+    for (int i = 0; i < journal.size(); ++i) {
+        const Found &found = journal.at(i);
+        QCOMPARE(found.order, orders.at(i));
+        QVERIFY(found.blends);
+        QVERIFY(!found.testsDepth);
+        QVERIFY(!found.culls);
+        QCOMPARE(found.sourceFactor, GLint(GL_SRC_ALPHA));
+        QCOMPARE(found.targetFactor, GLint(GL_ONE_MINUS_SRC_ALPHA));
+        QCOMPARE(found.arrayBuffer, 0);
+        QCOMPARE(found.elementBuffer, 0);
+    }
+}
+
+void TestFieldView::aListAddedLaterIsInitialisedOnce()
+{
+    QList<Found> journal;
+    auto *guest = new RudeGuest(0.0F, &journal);
+    GuestList list({guest});
+    view->addGraphicsList(&list);
+    view->repaint();
+    view->repaint();
+    QCOMPARE(guest->initialised, 1);
+
+    FieldView late;
+    auto *early = new RudeGuest(0.0F, &journal);
+    GuestList earlyList({early});
+    late.addGraphicsList(&earlyList);
+    QCOMPARE(early->initialised, 0);
+    late.resize(100, 100);
+    late.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&late));
+    QCOMPARE(early->initialised, 1);
+}
+
+void TestFieldView::aListThatIsGoneIsNotDrawn()
+{
+    QList<Found> journal;
+    {
+        GuestList list({new RudeGuest(0.0F, &journal)});
+        view->addGraphicsList(&list);
+        view->makeCurrent();
+    }
+    view->doneCurrent();
+    journal.clear();
+    QCOMPARE(view->colorAt(QPointF(0, 0)), FieldScene::groundColor());
+    QVERIFY(journal.isEmpty());
+}
+
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(terminal);
+}
+
+int main(int argc, char *argv[])
+{
+    initialiseResources();
+    QApplication application(argc, argv);
+    TestFieldView test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_fieldview.moc"

@@ -1,0 +1,135 @@
+#include "plainvalue.h"
+#include "testbase.h"
+
+#include "Framework/rxdbfcolumntoratecalmapping.h"
+#include "Framework/rxpolygon.h"
+#include "Framework/rxsettings.h"
+#include "Framework/spnoperationalsetstruct.h"
+#include "Framework/spnswitchbytecalsettingsstruct.h"
+#include "Framework/xyz.h"
+
+using namespace OrvikTypes;
+
+/// Broker values as scripts see them.
+class TestPlainValue : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recordsComeBackAsTheyWent();
+    void fieldsThatAreLeftOutKeepTheirDefaults();
+    void whatIsNoSuchRecordIsRefused_data();
+    void whatIsNoSuchRecordIsRefused();
+    void plainValuesStayAsTheyAre_data();
+    void plainValuesStayAsTheyAre();
+    void coloursAreWrittenInSixDigits();
+    void pointersAreReadOnly();
+
+private:
+    template <typename T> static T roundTrip(const T &value)
+    {
+        const QVariant plain = PlainValue::fromBroker(QVariant::fromValue(value));
+        return PlainValue::toBroker(plain, qMetaTypeId<T>()).value.template value<T>();
+    }
+};
+
+void TestPlainValue::recordsComeBackAsTheyWent()
+{
+    QCOMPARE(roundTrip(XYZ(1.5, -2, 3)), XYZ(1.5, -2, 3));
+    QVERIFY(roundTrip(SPN_OperationalSetStruct(true)).isRatioRate());
+    QVERIFY(roundTrip(SPN_SwitchByteCalSettingsStruct(true)).isInjection());
+    QCOMPARE(roundTrip(QList<float>{1.5F, 0.0F}), (QList<float>{1.5F, 0.0F}));
+
+    RX_SETTINGS settings;
+    settings.name = QStringLiteral("Seed");
+    settings.onLookAheadMs = 1200;
+    settings.zeroRateShutoff = true;
+    settings.isMaster = true;
+    settings.followsMaster = true;
+    QCOMPARE(roundTrip(QList<RX_SETTINGS>{settings, {}}), (QList<RX_SETTINGS>{settings, {}}));
+
+    RX_DBFCOLUMN_TO_RATECAL_MAPPING mapping;
+    mapping.auxFlag = true;
+    mapping.rateCalName = QStringLiteral("system.productGroup.1");
+    mapping.dbfColumnName = QStringLiteral("RATE");
+    mapping.auxNumber = 4;
+    mapping.auxValue1 = 1.25;
+    mapping.auxValue2 = 2.25;
+    mapping.auxValue3 = 3.25;
+    mapping.defaultRate = 99.5;
+    mapping.auxIndices = {3, 1, 2};
+    mapping.auxNumber2 = -7;
+    QCOMPARE(roundTrip(QList<RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping}),
+             QList<RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping});
+
+    const QList<QList<RX_RATECOLOR>> legends{{{0.0, Qt::red}, {5.5, QColor(1, 2, 3)}}, {}};
+    QCOMPARE(roundTrip(legends), legends);
+}
+
+void TestPlainValue::fieldsThatAreLeftOutKeepTheirDefaults()
+{
+    const QVariant plain = QVariantList{QVariantMap{{"onLookAheadMs", 700}}};
+    const Result<QVariant> result = PlainValue::toBroker(plain, qMetaTypeId<QList<RX_SETTINGS>>());
+    QVERIFY2(result.isOk(), qPrintable(result.error));
+    RX_SETTINGS expected;
+    expected.onLookAheadMs = 700;
+    QCOMPARE(result.value.value<QList<RX_SETTINGS>>(), QList<RX_SETTINGS>{expected});
+}
+
+void TestPlainValue::whatIsNoSuchRecordIsRefused_data()
+{
+    QTest::addColumn<QVariant>("plain");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("reason");
+    const int settings = qMetaTypeId<QList<RX_SETTINGS>>();
+    QTest::newRow("no list") << QVariant(5) << settings << "a list is expected";
+    QTest::newRow("list of numbers") << QVariant(QVariantList{5}) << settings << "an object is expected";
+    QTest::newRow("unknown field") << QVariant(QVariantList{QVariantMap{{"speed", 5}}}) << settings
+                                   << "unknown field \"speed\"";
+    QTest::newRow("wrong type") << QVariant(QVariantMap{{"x", "east"}}) << qMetaTypeId<XYZ>()
+                                << "\"x\" has the wrong type";
+    QTest::newRow("texts for rates") << QVariant(QVariantList{"much"}) << qMetaTypeId<QList<float>>()
+                                     << "a number is expected";
+}
+
+void TestPlainValue::whatIsNoSuchRecordIsRefused()
+{
+    QFETCH(QVariant, plain);
+    QFETCH(int, type);
+    QTEST(PlainValue::toBroker(plain, type).error, "reason");
+}
+
+void TestPlainValue::plainValuesStayAsTheyAre_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("number") << QVariant(1.5);
+    QTest::newRow("count") << QVariant(7U);
+    QTest::newRow("truth") << QVariant(true);
+    QTest::newRow("text") << QVariant(QStringLiteral("text"));
+}
+
+void TestPlainValue::plainValuesStayAsTheyAre()
+{
+    QFETCH(QVariant, value);
+    QCOMPARE(PlainValue::fromBroker(value), value);
+    QCOMPARE(PlainValue::toBroker(value, value.userType()).value, value);
+}
+
+void TestPlainValue::coloursAreWrittenInSixDigits()
+{
+    const QList<QList<RX_RATECOLOR>> legends{{{1.0, QColor(255, 128, 0)}}};
+    const QVariantMap entry =
+        PlainValue::fromBroker(QVariant::fromValue(legends)).toList().value(0).toList().value(0).toMap();
+    QCOMPARE(entry.value("color").toString(), QStringLiteral("#ff8000"));
+    QCOMPARE(entry.value("rate").toDouble(), 1.0);
+}
+
+void TestPlainValue::pointersAreReadOnly()
+{
+    int something = 0;
+    const QVariant plain = PlainValue::fromBroker(QVariant::fromValue(static_cast<void *>(&something)));
+    QVERIFY(plain.toString().startsWith(QLatin1String("0x")));
+    QVERIFY(!PlainValue::toBroker(plain, QMetaType::VoidStar).isOk());
+}
+
+QTEST_APPLESS_MAIN(TestPlainValue)
+#include "tst_plainvalue.moc"

@@ -1,0 +1,59 @@
+#include "machine.h"
+#include "picture.h"
+#include "terminalhost.h"
+#include "terminalwindow.h"
+#include "testbase.h"
+
+/// The display compared with stored pictures.
+class TestTerminalPictures : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theMapLooksAsStored_data();
+    void theMapLooksAsStored();
+    void anEmptyTerminalLooksAsStored();
+    void aChangedPictureIsNoticed();
+};
+
+void TestTerminalPictures::theMapLooksAsStored_data()
+{
+    QTest::addColumn<int>("product");
+    QTest::newRow("sample-seed") << 1;
+    QTest::newRow("sample-herbicide") << 3;
+}
+
+void TestTerminalPictures::theMapLooksAsStored()
+{
+    QFETCH(int, product);
+    TerminalHost host;
+    QCOMPARE(host.problem(), QString());
+    Terminal &terminal = host.terminal();
+    const LoadReport report = terminal.open(TerminalHost::sampleField(), {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"});
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    terminal.machine()->setActiveProduct(product);
+    terminal.touch(QPointF(-100, 60));
+    QCOMPARE(Picture::compare(terminal.window()->screenshot(), QString::fromLatin1(QTest::currentDataTag())),
+             QString());
+}
+
+void TestTerminalPictures::anEmptyTerminalLooksAsStored()
+{
+    TerminalHost host(UnitSystem::Us);
+    QCOMPARE(host.problem(), QString());
+    QCOMPARE(Picture::compare(host.terminal().window()->screenshot(), QStringLiteral("no-map")), QString());
+}
+
+void TestTerminalPictures::aChangedPictureIsNoticed()
+{
+    QImage stored(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/Terminal/pictures/no-map.png"));
+    QVERIFY(!stored.isNull());
+    stored = stored.convertToFormat(QImage::Format_RGB32);
+    for (int y = 300; y < 400; ++y) {
+        for (int x = 500; x < 600; ++x)
+            stored.setPixel(x, y, qRgb(200, 40, 40));
+    }
+    QVERIFY(Picture::compare(stored, QStringLiteral("no-map")).contains(QLatin1String("10000 pixels differ")));
+}
+
+QTEST_MAIN(TestTerminalPictures)
+#include "tst_terminalpictures.moc"
