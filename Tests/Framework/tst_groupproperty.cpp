@@ -1,7 +1,7 @@
-#include "journallock.h"
 #include "samplegroup.h"
 #include "setreceiver.h"
 #include "testbase.h"
+#include "validatorcall.h"
 
 #include "Framework/databroker.h"
 
@@ -10,32 +10,6 @@
 namespace {
 
 using Settings = QList<OrvikTypes::RX_SETTINGS>;
-
-/// A property that the group's class does not have.
-struct MissingProperty {
-    using Type = Settings;
-    static const char *name() { return "noSuchProperty"; }
-    static const char *typeName() { return "QList<OrvikTypes::RX_SETTINGS>"; }
-};
-
-struct ValidatorCall {
-    explicit ValidatorCall(int answerCode)
-        : code(answerCode)
-    {
-    }
-
-    int code;
-    int calls = 0;
-    QVariant value;
-
-    static int answer(QVariant value, void *call)
-    {
-        auto *const self = static_cast<ValidatorCall *>(call);
-        ++self->calls;
-        self->value = value;
-        return self->code;
-    }
-};
 
 struct WritingValidator {
     SampleGroup *group = nullptr;
@@ -46,21 +20,6 @@ struct WritingValidator {
         return 5;
     }
 };
-
-struct Logged {
-    QtMsgType type;
-    QByteArray category;
-    QByteArray file;
-    int line;
-    QByteArray function;
-};
-
-QList<Logged> *loggedContexts = nullptr;
-
-void keepContext(QtMsgType type, const QMessageLogContext &context, const QString &)
-{
-    loggedContexts->append({type, context.category, context.file, context.line, context.function});
-}
 
 QUuid token(char last)
 {
@@ -89,19 +48,8 @@ private Q_SLOTS:
     void anAcceptingValidatorClearsTheFormerResult();
     void aWriteWithoutValidatorClearsTheFormerResult();
     void suspendedValidationAsksNobody();
-    void readHooksEncloseTheCopyUnderTheLock();
-    void theLockIsReleasedBeforeAnyoneIsTold();
-    void theLockIsReleasedBeforeARejectionIsLogged();
-    void aRefusedTokenTakesNoLock();
-    void outsideThreadSafeModeNothingIsLocked();
-    void theNotifySignalComesBeforeTheSubscribers();
-    void aListenerReadsTheNewValueFromInside();
     void runtimeAndStoredFlagsFollowAWrite();
     void aRefusedWriteLeavesTheFlags();
-    void anUnknownPropertyIsLookedUpAndReportedAgain();
-    void anUnknownPropertyHasNoHooksAndNoNotifySignal();
-    void aGroupNameThatLooksLikeAPlaceholderIsLoggedAsItIs();
-    void debugLinesHaveTheDefaultCategoryAndNoPlace();
     void aValidatorThatWritesDoesNotHideItsOwnRefusal();
 };
 
@@ -222,26 +170,20 @@ void TestGroupProperty::theInternalSetterKnowsNoToken()
 
 void TestGroupProperty::aRemovedGroupTakesNothing()
 {
-    AccessJournal journal;
-    JournalLock lock(journal);
     DataBroker broker;
     auto *const group = new SampleGroup(QStringLiteral("rxMap.a"));
     broker.publishGroup(group);
     group->setSettings(taggedSettings(1, 1));
-    group->setLock(&lock);
-    group->setThreadSafe(true);
     ValidatorCall validator(0);
     group->setWriteValidator("settings", ValidatorCall::answer, &validator);
     SetReceiver subscriber;
     group->connectPropertySetSlot("settings", &subscriber, SLOT(onSet()), Qt::AutoConnection, true);
     QSignalSpy changed(group, &SampleGroup::settingsChanged);
     broker.removeGroup(QStringLiteral("rxMap.a"));
-    journal.taken();
 
     QCOMPARE(group->setSettings(taggedSettings(1, 2), nullptr), 0);
 
     QCOMPARE(group->mostRecentErr(), int(DataBrokerGroup::ErrGroupRemoved));
-    QCOMPARE(journal.taken(), QStringList());
     QCOMPARE(
         messages().debugLines(),
         QStringList{QStringLiteral("mostRecentErr = DataBrokerGroup::ErrGroupRemoved, while setting \"settings\"")});
@@ -341,138 +283,6 @@ void TestGroupProperty::suspendedValidationAsksNobody()
     QCOMPARE(validator.calls, 1);
 }
 
-void TestGroupProperty::readHooksEncloseTheCopyUnderTheLock()
-{
-    struct Hooks {
-        AccessJournal journal;
-        JournalLock lock{journal};
-        SampleGroup group{QStringLiteral("rxMap.a")};
-    } hooks;
-    hooks.group.setLevel(1);
-    hooks.group.setLock(&hooks.lock);
-    // The value changes in both hooks: the copy taken is the one between them.
-    const auto before = [](void *argument) {
-        auto *const self = static_cast<Hooks *>(argument);
-        self->journal.note(QStringLiteral("before"));
-        self->group.internalSetLevel(2);
-    };
-    const auto after = [](void *argument) {
-        auto *const self = static_cast<Hooks *>(argument);
-        self->journal.note(QStringLiteral("after"));
-        self->group.internalSetLevel(3);
-    };
-    QVERIFY(hooks.group.setBeforeReadHook("level", before, &hooks));
-    QVERIFY(hooks.group.setAfterReadHook("level", after, &hooks));
-
-    QCOMPARE(hooks.group.getLevel(), 2);
-    QCOMPARE(hooks.journal.taken(), (QStringList{"before", "after"}));
-
-    hooks.group.setThreadSafe(true);
-    QCOMPARE(hooks.group.getLevel(), 2);
-    QCOMPARE(hooks.journal.taken(),
-             (QStringList{"lock 0", "before", "lock 0", "unlock", "after", "lock 0", "unlock", "unlock"}));
-}
-
-void TestGroupProperty::theLockIsReleasedBeforeAnyoneIsTold()
-{
-    AccessJournal journal;
-    JournalLock lock(journal);
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    group.setLock(&lock);
-    group.setThreadSafe(true);
-    bool wasHeld = true;
-    connect(&group, &SampleGroup::settingsChanged, this, [&]() {
-        wasHeld = lock.isHeld();
-        journal.note(QStringLiteral("notified"));
-    });
-
-    group.setSettings(taggedSettings(1, 1));
-
-    QVERIFY(!wasHeld);
-    QCOMPARE(journal.taken(), (QStringList{"lock 0", "unlock", "notified"}));
-}
-
-void TestGroupProperty::theLockIsReleasedBeforeARejectionIsLogged()
-{
-    static JournalLock *watched = nullptr;
-    static QList<bool> heldWhileLogging;
-    heldWhileLogging.clear();
-    AccessJournal journal;
-    JournalLock lock(journal);
-    watched = &lock;
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    ValidatorCall validator(5);
-    group.setWriteValidator("level", ValidatorCall::answer, &validator);
-    group.setLock(&lock);
-    group.setThreadSafe(true);
-
-    const QtMessageHandler former = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &) { heldWhileLogging.append(watched->isHeld()); });
-    group.setLevel(1);
-    qInstallMessageHandler(former);
-
-    QCOMPARE(heldWhileLogging, (QList<bool>{false, false}));
-    QCOMPARE(journal.taken(), (QStringList{"lock 0", "unlock"}));
-}
-
-void TestGroupProperty::aRefusedTokenTakesNoLock()
-{
-    AccessJournal journal;
-    JournalLock lock(journal);
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    group.setWriteProtected("level", true);
-    group.setLock(&lock);
-    group.setThreadSafe(true);
-    messages().expectWarning(QStringLiteral("set rxMap.a::level failed: invalid write access token"));
-    group.setLevel(1);
-    QCOMPARE(journal.taken(), QStringList());
-}
-
-void TestGroupProperty::outsideThreadSafeModeNothingIsLocked()
-{
-    AccessJournal journal;
-    JournalLock lock(journal);
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    group.setLock(&lock);
-    group.setSettings(taggedSettings(1, 1));
-    group.getSettings();
-    QCOMPARE(journal.taken(), QStringList());
-
-    group.setThreadSafe(true);
-    group.getSettings();
-    QCOMPARE(journal.taken(), (QStringList{"lock 0", "unlock"}));
-
-    group.setThreadSafe(false);
-    group.getSettings();
-    QCOMPARE(journal.taken(), QStringList());
-}
-
-void TestGroupProperty::theNotifySignalComesBeforeTheSubscribers()
-{
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    QStringList order;
-    SetReceiver subscriber;
-    connect(&subscriber, &SetReceiver::passedOn, this, [&]() { order.append(QStringLiteral("subscriber")); });
-    // The subscriber is there first; the order does not come from the order of connecting.
-    QVERIFY(
-        group.connectPropertySetSlot("count", &subscriber, SIGNAL(passedOn(unsigned int)), Qt::AutoConnection, true));
-    connect(&group, &SampleGroup::countChanged, this, [&]() { order.append(QStringLiteral("notified")); });
-
-    group.setCount(1);
-
-    QCOMPARE(order, (QStringList{"notified", "subscriber"}));
-}
-
-void TestGroupProperty::aListenerReadsTheNewValueFromInside()
-{
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    group.setThreadSafe(true);
-    Settings read;
-    connect(&group, &SampleGroup::settingsChanged, this, [&]() { read = group.getSettings(); });
-    group.setSettings(taggedSettings(2, 9));
-    QCOMPARE(read, taggedSettings(2, 9));
-}
-
 void TestGroupProperty::runtimeAndStoredFlagsFollowAWrite()
 {
     SampleGroup group(QStringLiteral("rxMap.a"));
@@ -495,75 +305,6 @@ void TestGroupProperty::aRefusedWriteLeavesTheFlags()
     group.setLevel(1);
     QVERIFY(group.holdsStoredValue("level"));
     QVERIFY(!group.holdsRuntimeValue("level"));
-}
-
-void TestGroupProperty::anUnknownPropertyIsLookedUpAndReportedAgain()
-{
-    using Missing = GroupProperty<MissingProperty>;
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    Settings stored;
-    const QString readLine = QStringLiteral("publicGetFn() propertyName failure: \"noSuchProperty\" -1");
-    const QString writeLine = QStringLiteral("privateSetFn() propertyName failure: \"noSuchProperty\" -1");
-
-    QVERIFY(Missing::get(group, stored).isEmpty());
-    QVERIFY(Missing::get(group, stored).isEmpty());
-    QCOMPARE(messages().debugLines(), (QStringList{readLine, readLine}));
-
-    // One line from the public setter, one from the internal one that it calls.
-    QCOMPARE(Missing::set(group, stored, taggedSettings(1, 1), nullptr), 0);
-    QCOMPARE(messages().debugLines().mid(2), (QStringList{writeLine, writeLine}));
-}
-
-void TestGroupProperty::anUnknownPropertyHasNoHooksAndNoNotifySignal()
-{
-    using Missing = GroupProperty<MissingProperty>;
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    QSignalSpy changed(&group, &SampleGroup::settingsChanged);
-    Settings stored;
-    Missing::internalSet(group, stored, taggedSettings(1, 1));
-    QCOMPARE(stored, taggedSettings(1, 1));
-    QCOMPARE(changed.count(), 0);
-
-    QVERIFY(!group.setWriteProtected("noSuchProperty", true));
-    QVERIFY(!group.setBeforeReadHook("noSuchProperty", AccessJournal::noteBefore, nullptr));
-    QVERIFY(!group.setAfterReadHook("noSuchProperty", AccessJournal::noteAfter, nullptr));
-    QVERIFY(!group.setWriteValidator("noSuchProperty", ValidatorCall::answer, nullptr));
-    QVERIFY(!group.setHoldsStoredValue("noSuchProperty", true));
-    QVERIFY(!group.holdsStoredValue("noSuchProperty"));
-    QVERIFY(!group.holdsRuntimeValue("noSuchProperty"));
-}
-
-void TestGroupProperty::aGroupNameThatLooksLikeAPlaceholderIsLoggedAsItIs()
-{
-    SampleGroup group(QStringLiteral("rxMap.%2"));
-    group.setWriteProtected("level", true);
-    messages().expectWarning(QStringLiteral("set rxMap.%2::level failed: invalid write access token"));
-    group.setLevel(1);
-    group.setWriteProtected("level", false);
-    ValidatorCall validator(5);
-    group.setWriteValidator("level", ValidatorCall::answer, &validator);
-    messages().expectWarning(QStringLiteral("set rxMap.%2::level failed: 5"));
-    group.setLevel(1);
-}
-
-void TestGroupProperty::debugLinesHaveTheDefaultCategoryAndNoPlace()
-{
-    SampleGroup group(QStringLiteral("rxMap.a"));
-    group.setWriteProtected("level", true);
-    QList<Logged> contexts;
-    loggedContexts = &contexts;
-    const QtMessageHandler former = qInstallMessageHandler(keepContext);
-    group.setLevel(1);
-    qInstallMessageHandler(former);
-
-    QCOMPARE(contexts.size(), 2);
-    QCOMPARE(contexts[0].type, QtWarningMsg);
-    QCOMPARE(contexts[0].category, QByteArray("host.group"));
-    QCOMPARE(contexts[1].type, QtDebugMsg);
-    QCOMPARE(contexts[1].category, QByteArray("default"));
-    QCOMPARE(contexts[1].file, QByteArray());
-    QCOMPARE(contexts[1].line, 0);
-    QCOMPARE(contexts[1].function, QByteArray());
 }
 
 void TestGroupProperty::aValidatorThatWritesDoesNotHideItsOwnRefusal()
