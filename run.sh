@@ -4,30 +4,26 @@
 set -euo pipefail
 project="$(cd "$(dirname "$0")" && pwd)"
 source "$project/scripts/install-packages.sh"
+source "$project/scripts/with-display.sh"
 
-install_packages
-(
-    cd "$project"
-    cmake --preset release >/dev/null
-    cmake --build --preset release --target terminal-simulator
-)
+# Standard output is the simulator's.
+{
+    install_packages
+    (
+        cd "$project"
+        cmake --preset release
+        cmake --build --preset release --target terminal-simulator
+    )
+} >&2
 simulator="$project/build/release/Simulator/Terminal/terminal-simulator"
 
-on_display() {
-    if [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
-        "$@"
-    else
-        xvfb-run -a -s "-screen 0 1280x800x24" "$@"
-    fi
-}
-
 if (($# > 0)); then
-    on_display "$simulator" "$@"
-elif [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
+    with_display "$simulator" "$@"
+elif has_display; then
     "$simulator" "$project/Simulator/Resources/sample/sample-field.shp"
 else
     echo "There is no display: running the demonstration."
     cd "$project"
     mkdir -p build/demo
-    on_display "$simulator" --script Simulator/Resources/demo.js
+    with_virtual_display "$simulator" --script Simulator/Resources/demo.js
 fi

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the dev preset (sanitizers on) and runs every test.
+# Installs what is missing, builds the dev preset (sanitizers on) and runs every test on a virtual display.
 set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/install-packages.sh
+source scripts/with-display.sh
 
 install_packages
 cmake --preset dev
 cmake --build --preset dev
-exec xvfb-run -a -s "-screen 0 1400x1000x24" ctest --preset dev
+with_virtual_display ctest --preset dev

@@ -1,0 +1,46 @@
+#include "simulatorrun.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryFile>
+
+namespace {
+
+constexpr int longestRunMs = 240000;
+
+} // namespace
+
+SimulatorRun runSimulator(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(RXMAP_SIMULATOR), arguments);
+    SimulatorRun run;
+    if (!process.waitForFinished(longestRunMs))
+        return run;
+    run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.output = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    run.errors = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+SimulatorRun runScript(const QString &script, const QStringList &arguments)
+{
+    QTemporaryFile file(QDir::tempPath() + QStringLiteral("/rxmap-XXXXXX.js"));
+    file.open();
+    file.write(script.toUtf8());
+    file.close();
+    return runSimulator(arguments + QStringList{QStringLiteral("--script"), file.fileName()});
+}
+
+QString scriptText(const QString &name)
+{
+    QFile file(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/EndToEnd/") + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString sampleField()
+{
+    const QDir folder(QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample"));
+    return folder.filePath(folder.entryList({QStringLiteral("*.shp")}).value(0));
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What a run of the built simulator gave.
+struct SimulatorRun {
+    int exitCode = -1;
+    QStringList output; ///< Standard output, lines.
+    QString errors;     ///< Standard error.
+};
+
+SimulatorRun runSimulator(const QStringList &arguments);
+/// Runs a script's text; `arguments` come before it.
+SimulatorRun runScript(const QString &script, const QStringList &arguments = {});
+/// A file of this folder.
+QString scriptText(const QString &name);
+QString sampleField();
