@@ -2,6 +2,8 @@
 
 add_library(rxmap_compile_options INTERFACE)
 target_compile_options(rxmap_compile_options INTERFACE
+    # Wherever a point is tested against an edge it must round alike.
+    -ffp-contract=off
     -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor $<$<BOOL:${RXMAP_WERROR}>:-Werror>)
 target_compile_definitions(rxmap_compile_options INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS

@@ -28,19 +28,19 @@ public:
 
     /// Names of the groups that match `pattern`: a name, or the start of a name followed by "*".
     /// `inPublicationOrder`: oldest first, else by name. `includeRemoved` also lists groups that are gone.
-    QStringList findGroup(const QString &pattern, bool inPublicationOrder, bool includeRemoved) const;
+    QStringList findGroup(QString pattern, bool inPublicationOrder, bool includeRemoved) const;
     /// The published group of that name, or null; `reportMissing` writes one debug line when it is null.
     /// The broker keeps the group alive until it is itself destroyed.
-    DataBrokerGroup *getGroup(const QString &name, bool reportMissing) const;
+    DataBrokerGroup *getGroup(QString name, bool reportMissing) const;
 
     /// Access by name: DataBrokerGroup's codes, or ErrUnknownGroup. A failed read leaves `value` as it was.
     int getProperty(const char *group, const char *property, QVariant &value) const;
-    int setProperty(const char *group, const char *property, const QVariant &value);
+    int setProperty(const char *group, const char *property, QVariant value);
 
     /// Reads a terminal setting, named by dotted path ("main.general.font" is key "font" of INI section
     /// "main.general"). When it is not set, `value` becomes `defaultValue` if `useDefault`, else stays as it was.
     /// Success or ErrUnknownProperty.
-    int getIniSetting(const char *setting, QVariant &value, const QVariant &defaultValue, bool useDefault) const;
+    int getIniSetting(const char *setting, QVariant &value, QVariant defaultValue, bool useDefault) const;
     /// Size of the terminal's display, pixels.
     QSize getSize() const;
 

@@ -21,8 +21,7 @@ class FRAMEWORK_EXPORT OrvikButton : public QWidget {
 public:
     /// `images` are file names in `imageDir`, shown by index; `repeats`: buttonReleased comes again and again while
     /// the button is held.
-    OrvikButton(int id, const QDir &imageDir, const QStringList &images, const QPoint &position, QWidget *parent,
-                bool repeats);
+    OrvikButton(int id, QDir imageDir, QStringList images, QPoint position, QWidget *parent, bool repeats);
     ~OrvikButton() override;
 
     int id() const;
@@ -34,9 +33,9 @@ public:
     /// Whether a pressed button is highlighted; on at first.
     void setHighLight(bool highlighted);
     /// Adds or replaces text item `item`, centred on the button; made smaller, then shortened, to fit its width.
-    void addText(int item, const QString &text, const QColor &color, const QFont &font);
+    void addText(int item, QString text, QColor color, QFont font);
     /// Colour of an existing text item; others are ignored.
-    void setTextColor(int item, const QColor &color);
+    void setTextColor(int item, QColor color);
     /// Text and colour of an item; empty and invalid when there is no such item.
     QString text(int item) const;
     QColor textColor(int item) const;

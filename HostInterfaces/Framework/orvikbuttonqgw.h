@@ -17,8 +17,7 @@ class FRAMEWORK_EXPORT OrvikButtonQgw : public QGraphicsWidget {
 
 public:
     /// `images` are file names in `imageDir`, shown by index.
-    OrvikButtonQgw(int id, const QDir &imageDir, const QStringList &images, const QPointF &position,
-                   QGraphicsWidget *parent);
+    OrvikButtonQgw(int id, QDir imageDir, QStringList images, QPointF position, QGraphicsWidget *parent);
     ~OrvikButtonQgw() override;
 
     int id() const;

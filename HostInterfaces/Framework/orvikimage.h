@@ -15,7 +15,7 @@ class FRAMEWORK_EXPORT OrvikImage : public QWidget {
     Q_OBJECT
 
 public:
-    OrvikImage(int id, const QDir &imageDir, const QString &image, const QPoint &position, QWidget *parent);
+    OrvikImage(int id, QDir imageDir, QString image, QPoint position, QWidget *parent);
     ~OrvikImage() override;
 
     int id() const;

@@ -12,13 +12,13 @@
 class OrvikLineEditPrivate;
 
 /// A numeric entry field. A touch opens the on-screen keypad; a hardware keyboard works too. Text is in the C locale.
-/// The first keystroke of an entry replaces the text; one is refused when the text after it could not stand for, or grow
-/// into, a number within the limits. Of the two kinds of limits, those set last hold.
+/// The first keystroke of an entry replaces the text; one is refused when the text after it could not stand for, or
+/// grow into, a number within the limits. Of the two kinds of limits, those set last hold.
 class FRAMEWORK_EXPORT OrvikLineEdit : public QWidget {
     Q_OBJECT
 
 public:
-    OrvikLineEdit(int id, const QDir &imageDir, const QPoint &position, QWidget *parent);
+    OrvikLineEdit(int id, QDir imageDir, QPoint position, QWidget *parent);
     ~OrvikLineEdit() override;
 
     int id() const;
@@ -26,9 +26,9 @@ public:
     void setNumericSizeLimits(unsigned int integerDigits, unsigned int decimals);
     /// Values from `minimum` to `maximum` with at most so many decimals.
     void setNumericRange(double minimum, double maximum, unsigned int decimals);
-    void setTextFont(const QFont &font);
+    void setTextFont(QFont font);
     /// Shows `text`, whatever the limits are; reports nothing.
-    void setText(const QString &text);
+    void setText(QString text);
     QString getText() const;
 
 Q_SIGNALS:

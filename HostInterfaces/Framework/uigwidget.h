@@ -19,8 +19,8 @@ public:
     /// `pluginName` and `widgetName` identify the widget; `x` and `y` are its place in the page's grid, `position` its
     /// top left corner on the page in pixels; images are loaded from `imageDir`. `broker` is not owned.
     /// `requiresDbGroups`: the page hides the widget while checkForRequiredDbGroups() finds groups missing.
-    UiGWidget(const QString &pluginName, const QString &widgetName, int x, int y, const QDir &imageDir,
-              const QPointF &position, DataBroker *broker, bool requiresDbGroups);
+    UiGWidget(QString pluginName, QString widgetName, int x, int y, QDir imageDir, QPointF position, DataBroker *broker,
+              bool requiresDbGroups);
     ~UiGWidget() override;
 
     QString pluginName() const;

@@ -104,7 +104,7 @@ DataBroker::~DataBroker()
     }
 }
 
-QStringList DataBroker::findGroup(const QString &pattern, bool inPublicationOrder, bool includeRemoved) const
+QStringList DataBroker::findGroup(QString pattern, bool inPublicationOrder, bool includeRemoved) const
 {
     QStringList names;
     {
@@ -120,7 +120,7 @@ QStringList DataBroker::findGroup(const QString &pattern, bool inPublicationOrde
     return names;
 }
 
-DataBrokerGroup *DataBroker::getGroup(const QString &name, bool reportMissing) const
+DataBrokerGroup *DataBroker::getGroup(QString name, bool reportMissing) const
 {
     DataBrokerGroup *const group = d->find(name, false);
     if (group == nullptr && reportMissing)
@@ -134,13 +134,13 @@ int DataBroker::getProperty(const char *group, const char *property, QVariant &v
     return found != nullptr ? found->getProperty(property, value) : DataBrokerGroup::ErrUnknownGroup;
 }
 
-int DataBroker::setProperty(const char *group, const char *property, const QVariant &value)
+int DataBroker::setProperty(const char *group, const char *property, QVariant value)
 {
     DataBrokerGroup *const found = d->find(QString::fromLatin1(group), true);
     return found != nullptr ? found->setProperty(property, value) : DataBrokerGroup::ErrUnknownGroup;
 }
 
-int DataBroker::getIniSetting(const char *setting, QVariant &value, const QVariant &defaultValue, bool useDefault) const
+int DataBroker::getIniSetting(const char *setting, QVariant &value, QVariant defaultValue, bool useDefault) const
 {
     const QString key = settingsKey(setting);
     {

@@ -62,8 +62,7 @@ public:
     bool highlightsWhenPressed = true;
 };
 
-OrvikButton::OrvikButton(int id, const QDir &imageDir, const QStringList &images, const QPoint &position,
-                         QWidget *parent, bool repeats)
+OrvikButton::OrvikButton(int id, QDir imageDir, QStringList images, QPoint position, QWidget *parent, bool repeats)
     : QWidget(parent)
     , d(new OrvikButtonPrivate(id, imageDir, images))
 {
@@ -105,13 +104,13 @@ void OrvikButton::setHighLight(bool highlighted)
     update();
 }
 
-void OrvikButton::addText(int item, const QString &text, const QColor &color, const QFont &font)
+void OrvikButton::addText(int item, QString text, QColor color, QFont font)
 {
     d->texts.insert(item, TextItem{text, color, font});
     update();
 }
 
-void OrvikButton::setTextColor(int item, const QColor &color)
+void OrvikButton::setTextColor(int item, QColor color)
 {
     const auto found = d->texts.find(item);
     if (found == d->texts.end())

@@ -21,8 +21,7 @@ public:
     TouchPress touch;
 };
 
-OrvikButtonQgw::OrvikButtonQgw(int id, const QDir &imageDir, const QStringList &images, const QPointF &position,
-                               QGraphicsWidget *parent)
+OrvikButtonQgw::OrvikButtonQgw(int id, QDir imageDir, QStringList images, QPointF position, QGraphicsWidget *parent)
     : QGraphicsWidget(parent)
     , d(new OrvikButtonQgwPrivate(id, imageDir, images))
 {

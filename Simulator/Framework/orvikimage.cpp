@@ -9,7 +9,7 @@ public:
     QPixmap image;
 };
 
-OrvikImage::OrvikImage(int id, const QDir &imageDir, const QString &image, const QPoint &position, QWidget *parent)
+OrvikImage::OrvikImage(int id, QDir imageDir, QString image, QPoint position, QWidget *parent)
     : QWidget(parent)
     , d(new OrvikImagePrivate)
 {

@@ -133,7 +133,7 @@ void OrvikLineEditPrivate::paintText(QPainter &painter) const
     }
 }
 
-OrvikLineEdit::OrvikLineEdit(int id, const QDir &imageDir, const QPoint &position, QWidget *parent)
+OrvikLineEdit::OrvikLineEdit(int id, QDir imageDir, QPoint position, QWidget *parent)
     : QWidget(parent)
     , d(new OrvikLineEditPrivate(this))
 {
@@ -164,12 +164,12 @@ void OrvikLineEdit::setNumericRange(double minimum, double maximum, unsigned int
     d->entry.setRange(minimum, maximum, decimals);
 }
 
-void OrvikLineEdit::setTextFont(const QFont &font)
+void OrvikLineEdit::setTextFont(QFont font)
 {
     setFont(font);
 }
 
-void OrvikLineEdit::setText(const QString &text)
+void OrvikLineEdit::setText(QString text)
 {
     d->entry.setText(text);
     d->showEntry();

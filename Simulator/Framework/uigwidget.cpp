@@ -14,8 +14,8 @@ public:
     bool isPopupActive = false;
 };
 
-UiGWidget::UiGWidget(const QString &pluginName, const QString &widgetName, int x, int y, const QDir &imageDir,
-                     const QPointF &position, DataBroker *broker, bool requiresDbGroups)
+UiGWidget::UiGWidget(QString pluginName, QString widgetName, int x, int y, QDir imageDir, QPointF position,
+                     DataBroker *broker, bool requiresDbGroups)
     : d(new UiGWidgetPrivate)
 {
     d->pluginName = pluginName;

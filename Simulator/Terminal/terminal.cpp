@@ -27,6 +27,13 @@ static void initialiseResources()
     Q_INIT_RESOURCE(terminal);
 }
 
+namespace {
+
+/// Changes that come faster than this share a frame.
+constexpr int frameIntervalMs = 30;
+
+} // namespace
+
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     : QObject(parent)
     , dataBroker(QString(), TerminalWindow::DisplaySize)
@@ -36,6 +43,9 @@ Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     , display(new TerminalWindow(products))
 {
     initialiseResources();
+    nextFrame.setSingleShot(true);
+    nextFrame.setInterval(frameIntervalMs);
+    connect(&nextFrame, &QTimer::timeout, this, [this] { display->fieldView()->update(); });
     connectDisplay();
     showLegend();
     showVehicle();
@@ -247,7 +257,8 @@ void Terminal::showLegend()
 void Terminal::refresh()
 {
     display->fieldView()->forgetColors();
-    display->fieldView()->update();
+    if (!nextFrame.isActive())
+        nextFrame.start();
 }
 
 void Terminal::redrawMap()

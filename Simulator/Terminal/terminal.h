@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QRectF>
 #include <QScopedPointer>
+#include <QTimer>
 #include <QStringList>
 
 #include <optional>
@@ -98,4 +99,5 @@ private:
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;
+    QTimer nextFrame;
 };

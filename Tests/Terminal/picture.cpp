@@ -13,7 +13,7 @@ int channelDistance(QRgb a, QRgb b)
 
 } // namespace
 
-QString Picture::compare(const QImage &actual, const QString &name)
+QString Picture::compare(const QImage &actual, const QString &name, double pixelShare)
 {
     const QImage expected(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/Terminal/pictures/%1.png").arg(name));
     const QDir folder(QStringLiteral(RXMAP_BINARY_DIR "/Tests/Terminal/pictures/%1").arg(name));
@@ -34,7 +34,7 @@ QString Picture::compare(const QImage &actual, const QString &name)
             differing += isOff ? 1 : 0;
         }
     }
-    if (differing <= PixelShare * actual.width() * actual.height())
+    if (differing <= pixelShare * actual.width() * actual.height())
         return {};
     difference.save(folder.filePath(QStringLiteral("difference.png")));
     return QStringLiteral("%1 pixels differ; see %2").arg(differing).arg(folder.path());

@@ -12,5 +12,5 @@ public:
 
     /// Compares with Tests/Terminal/pictures/<name>.png. Empty when they agree. Else what is wrong, and actual,
     /// expected and difference lie in the build's folder of that name.
-    static QString compare(const QImage &actual, const QString &name);
+    static QString compare(const QImage &actual, const QString &name, double pixelShare = PixelShare);
 };

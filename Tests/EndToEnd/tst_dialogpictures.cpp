@@ -1,0 +1,60 @@
+#include "picture.h"
+#include "simulatorrun.h"
+#include "testbase.h"
+
+#include <QTemporaryDir>
+
+/// The settings dialog in each of its states, as an operator sees it, beside stored pictures.
+class TestDialogPictures : public TestBase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void statesLookAsStored_data();
+    void statesLookAsStored();
+
+private:
+    QTemporaryDir folder;
+};
+
+void TestDialogPictures::initTestCase()
+{
+    const QString script = QStringLiteral(R"js(
+var folder = "%1";
+terminal.open("%2", {columns: ["SEED_KS_HA", "FERT_KG_HA"]});
+terminal.find("rxOptions").longTouch();
+terminal.wait(100);
+terminal.screenshot(folder + "/dialog-editable.png");
+terminal.find("productButton2").touch();
+terminal.wait(50);
+terminal.screenshot(folder + "/dialog-not-under-vra.png");
+terminal.find("productButton0").touch();
+terminal.drive(3);
+terminal.wait(700);
+terminal.screenshot(folder + "/dialog-locked.png");
+terminal.find("doneButton").touch();
+)js");
+    const SimulatorRun run = runScript(script.arg(folder.path(), sampleField()));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+}
+
+void TestDialogPictures::statesLookAsStored_data()
+{
+    QTest::addColumn<QString>("state");
+    for (const char *state : {"dialog-editable", "dialog-not-under-vra", "dialog-locked"})
+        QTest::newRow(state) << QString::fromLatin1(state);
+}
+
+void TestDialogPictures::statesLookAsStored()
+{
+    QFETCH(QString, state);
+    const QImage window(folder.filePath(state + QStringLiteral(".png")));
+    QCOMPARE(window.size(), QSize(1280, 800));
+    // The dialog alone, without the map around it; less than a check mark may differ.
+    const QString wrong = Picture::compare(window.copy(240, 0, 800, 800), state, 0.0003);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+QTEST_MAIN(TestDialogPictures)
+#include "tst_dialogpictures.moc"
