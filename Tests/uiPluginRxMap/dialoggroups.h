@@ -34,7 +34,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A position solution whose standstill may be of any type.
+/// A position solution that tells standstill as a truth value.
 class GpsGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(bool, vehicleIsStopped, VehicleIsStopped)
@@ -45,6 +45,36 @@ public:
 private:
     struct Values {
         bool vehicleIsStopped = false;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A bin that knows of no prescription.
+class UnmappedBinGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, compositionShortName, CompositionShortName)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QString compositionShortName;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A position solution that tells standstill as a number.
+class NumberGpsGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(int, vehicleIsStopped, VehicleIsStopped)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        int vehicleIsStopped = 0;
     };
     QScopedPointer<Values> d{new Values};
 };

@@ -2,8 +2,9 @@
 
 #include "Framework/binmanager.h"
 
-DialogHost::DialogHost(int productCount)
-    : gps(new GpsGroup(QStringLiteral("mainGpsSolution")))
+DialogHost::DialogHost(int productCount, const QString &iniFile)
+    : host(iniFile)
+    , gps(new GpsGroup(QStringLiteral("mainGpsSolution")))
     , quillSpan(new QuillSpanGroup(QStringLiteral("quillSpan")))
 {
     broker.publishGroup(gps);

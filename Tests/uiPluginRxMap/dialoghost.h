@@ -18,7 +18,8 @@
 class DialogHost {
 public:
     /// One bin, product, loader and settings entry each; one prescription group "rxMap.field" that maps all of them.
-    explicit DialogHost(int products = 3);
+    /// `iniFile`: the terminal's settings; empty: none.
+    explicit DialogHost(int products = 3, const QString &iniFile = QString());
 
     OrvikTypes::RX_SETTINGS entry(int index) const { return map->getSettings().at(index); }
     void editSettings(int index, const OrvikTypes::RX_SETTINGS &entry);

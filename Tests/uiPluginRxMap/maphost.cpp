@@ -57,8 +57,9 @@ OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mappingFor(const QString &rateCalNam
     return mapping;
 }
 
-MapHost::MapHost()
-    : job(new DbGroupJob(QStringLiteral("system.current.job")))
+MapHost::MapHost(const QString &iniFile)
+    : broker(iniFile)
+    , job(new DbGroupJob(QStringLiteral("system.current.job")))
     , units(new DbGroupQmlUnitsConverter(QStringLiteral("QmlUnitsConverter")))
 {
     broker.publishGroup(job);

@@ -47,7 +47,8 @@ OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mappingFor(const QString &rateCalNam
 /// "system.productGroup.2", units, and prescription groups as a test needs them.
 class MapHost {
 public:
-    MapHost();
+    /// `iniFile`: the terminal's settings; empty: none.
+    explicit MapHost(const QString &iniFile = QString());
 
     static QString productGroup(int number);
     static QString aamName(int number);

@@ -7,7 +7,14 @@
 #include "Framework/orvikbuttonqgw.h"
 
 #include <QApplication>
+#include <QGraphicsScene>
+#include <QPainter>
+#include <QPixmap>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTimer>
+
+#include <functional>
 
 /// The Rx options button.
 class TestRxMapWidget : public TestBase {
@@ -15,12 +22,18 @@ class TestRxMapWidget : public TestBase {
 
 private Q_SLOTS:
     void withAMapTheButtonIsEnabled();
+    void theButtonShowsItsImages_data();
+    void theButtonShowsItsImages();
+    void onlyAPrescriptionsNameEnablesIt();
+    void theFontIsTheTerminals_data();
+    void theFontIsTheTerminals();
+    void bothSignalsOfTheButtonAreConnected();
     void withoutAMapTheButtonIsDisabledAndOpensNothing();
     void aMapPublishedLaterDoesNotEnableIt();
     void theWidgetHasTheButtonsSizeAndItsPosition();
     void aShortTouchDoesNothing();
     void aLongTouchRunsTheDialogModally();
-    void theDialogIsGoneAfterwards();
+    void theFlagIsClearedAfterTheDialogAndBeforeTheRepaint();
     void closingThePageWhileTheDialogRunsIsSafe();
     void slotsComeInTheirOrder();
     void pageShownLeavesTheButtonAlone();
@@ -53,6 +66,53 @@ RxMapWidgetDialog01 *openDialog()
     return nullptr;
 }
 
+/// Acts inside the modal loop of the dialog that is to open while this lives, and closes that dialog in any case, so
+/// that a test that fails in there ends all the same.
+class DialogWatch {
+public:
+    explicit DialogWatch(std::function<void(RxMapWidgetDialog01 *)> action = nullptr)
+    {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this, action] {
+            QPointer<RxMapWidgetDialog01> dialog = openDialog();
+            if (dialog.isNull())
+                return;
+            const auto close = qScopeGuard([&dialog] {
+                if (dialog)
+                    dialog->accept();
+            });
+            timer.stop();
+            hasOpened = true;
+            if (action)
+                action(dialog);
+        });
+        timer.start(0);
+    }
+
+    bool hasOpened = false;
+
+private:
+    Q_DISABLE_COPY(DialogWatch)
+
+    QTimer timer;
+};
+
+/// The widget's font is set up and drawn with by nobody: the only way to see it is past its access. Explicit
+/// instantiation may name a private member.
+template <QFont RxMapWidget::*member> struct FontAccess {
+    friend const QFont &widgetFont(const RxMapWidget &widget) { return widget.*member; }
+};
+const QFont &widgetFont(const RxMapWidget &widget);
+template struct FontAccess<&RxMapWidget::font>;
+
+QColor shownColor(OrvikButtonQgw &button)
+{
+    QImage image(button.size().toSize(), QImage::Format_ARGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    button.paint(&painter, nullptr, nullptr);
+    return image.pixelColor(2, 2);
+}
+
 } // namespace
 
 void TestRxMapWidget::withAMapTheButtonIsEnabled()
@@ -65,6 +125,72 @@ void TestRxMapWidget::withAMapTheButtonIsEnabled()
     QCOMPARE(page.button->parentItem(), &page.widget);
 }
 
+void TestRxMapWidget::theButtonShowsItsImages_data()
+{
+    QTest::addColumn<bool>("hasMap");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("enabled") << true << QColor(0, 128, 0);
+    QTest::newRow("disabled") << false << QColor(128, 0, 0);
+}
+
+void TestRxMapWidget::theButtonShowsItsImages()
+{
+    QFETCH(bool, hasMap);
+    const QTemporaryDir images;
+    QPixmap image(60, 60);
+    image.fill(QColor(0, 128, 0));
+    image.save(images.filePath(QStringLiteral("RxOptions_11_01.png")));
+    image.fill(QColor(128, 0, 0));
+    image.save(images.filePath(QStringLiteral("RxOptionsDisable_11_01.png")));
+    DialogHost host;
+    host.images = QDir(images.path());
+    if (!hasMap)
+        host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    Page page(host);
+    QTEST(shownColor(*page.button), "color");
+}
+
+void TestRxMapWidget::onlyAPrescriptionsNameEnablesIt()
+{
+    DialogHost host;
+    host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    host.broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
+    Page page(host);
+    QCOMPARE(page.button->currentImage(), 1);
+}
+
+void TestRxMapWidget::theFontIsTheTerminals_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QString>("family");
+    QTest::newRow("not set") << QByteArray() << "Liberation Sans";
+    QTest::newRow("set") << QByteArray("[main.general]\nfont=Liberation Mono\n") << "Liberation Mono";
+}
+
+void TestRxMapWidget::theFontIsTheTerminals()
+{
+    QFETCH(QByteArray, settings);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("terminal.ini")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(settings);
+    file.close();
+    DialogHost host(3, file.fileName());
+    Page page(host);
+    QTEST(widgetFont(page.widget).family(), "family");
+    QCOMPARE(widgetFont(page.widget).weight(), 50);
+    QCOMPARE(widgetFont(page.widget).pointSize(), 15);
+}
+
+void TestRxMapWidget::bothSignalsOfTheButtonAreConnected()
+{
+    DialogHost host;
+    Page page(host);
+    // Breaking a connection succeeds only where there is one.
+    QVERIFY(disconnect(page.button, SIGNAL(longTouch(int)), &page.widget, SLOT(onLongTouch(int))));
+    QVERIFY(disconnect(page.button, SIGNAL(buttonReleased(int)), &page.widget, SLOT(onButtonReleased(int))));
+}
+
 void TestRxMapWidget::withoutAMapTheButtonIsDisabledAndOpensNothing()
 {
     DialogHost host;
@@ -73,9 +199,11 @@ void TestRxMapWidget::withoutAMapTheButtonIsDisabledAndOpensNothing()
     QCOMPARE(page.button->currentImage(), 1);
     bool active = false;
     connect(&page.widget, &UiGWidget::popupActiveChanged, this, [&active] { active = true; });
+    const DialogWatch watch;
     Q_EMIT page.button->longTouch(0);
     QVERIFY(!active);
-    QVERIFY(openDialog() == nullptr);
+    QCoreApplication::processEvents();
+    QVERIFY(!watch.hasOpened);
 }
 
 void TestRxMapWidget::aMapPublishedLaterDoesNotEnableIt()
@@ -102,8 +230,10 @@ void TestRxMapWidget::aShortTouchDoesNothing()
 {
     DialogHost host;
     Page page(host);
+    const DialogWatch watch;
     Q_EMIT page.button->buttonReleased(0);
-    QVERIFY(openDialog() == nullptr);
+    QCoreApplication::processEvents();
+    QVERIFY(!watch.hasOpened);
     QVERIFY(!page.widget.isPopupActive());
 }
 
@@ -114,42 +244,55 @@ void TestRxMapWidget::aLongTouchRunsTheDialogModally()
     QStringList order;
     connect(&page.widget, &UiGWidget::popupActiveChanged, this,
             [&order](bool active) { order.append(active ? QStringLiteral("active") : QStringLiteral("inactive")); });
-    QTimer::singleShot(0, this, [&order, &page] {
-        RxMapWidgetDialog01 *dialog = openDialog();
-        QVERIFY(dialog);
+    const DialogWatch watch([&order, &page](RxMapWidgetDialog01 *dialog) {
+        order.append(QStringLiteral("dialog"));
         QVERIFY(dialog->isModal());
         QVERIFY(dialog->parentWidget() == nullptr);
         QVERIFY(page.widget.isPopupActive());
-        order.append(QStringLiteral("dialog"));
-        dialog->accept();
     });
     Q_EMIT page.button->longTouch(0);
     QCOMPARE(order, (QStringList{"active", "dialog", "inactive"}));
     QVERIFY(!page.widget.isPopupActive());
 }
 
-void TestRxMapWidget::theDialogIsGoneAfterwards()
+void TestRxMapWidget::theFlagIsClearedAfterTheDialogAndBeforeTheRepaint()
 {
     DialogHost host;
-    Page page(host);
-    QPointer<RxMapWidgetDialog01> dialog;
-    QTimer::singleShot(0, this, [&dialog] {
-        dialog = openDialog();
-        dialog->accept();
+    auto *page = new Page(host);
+    const QScopedPointer<Page> owner(page);
+    QStringList order;
+    QGraphicsScene scene;
+    scene.addItem(&page->widget);
+    const auto takeOut = qScopeGuard([&] { scene.removeItem(&page->widget); });
+    connect(&scene, &QGraphicsScene::changed, this, [&order] { order.append(QStringLiteral("repaint")); });
+    connect(&page->widget, &UiGWidget::popupActiveChanged, this, [&order](bool active) {
+        // Repaints that were asked for so far take place now.
+        QCoreApplication::sendPostedEvents();
+        order.append(active ? QStringLiteral("active") : QStringLiteral("inactive"));
     });
-    page.widget.onLongTouch(0);
-    QVERIFY(dialog.isNull());
+    QCoreApplication::processEvents();
+    order.clear();
+    const DialogWatch watch([this, &order](RxMapWidgetDialog01 *dialog) {
+        connect(dialog, &QObject::destroyed, this, [&order] { order.append(QStringLiteral("destroyed")); });
+    });
+    page->widget.onLongTouch(0);
+    QVERIFY(watch.hasOpened);
+    QCOMPARE(order, (QStringList{"active", "destroyed", "inactive"}));
+    QTRY_VERIFY(order.size() > 3);
+    QCOMPARE(order.at(3), QStringLiteral("repaint"));
 }
 
 void TestRxMapWidget::closingThePageWhileTheDialogRunsIsSafe()
 {
     DialogHost host;
     auto *page = new Page(host);
-    QTimer::singleShot(0, this, [&page] {
+    const DialogWatch watch([&page](RxMapWidgetDialog01 *) {
         delete page;
-        openDialog()->accept();
+        page = nullptr;
     });
     page->widget.onLongTouch(0);
+    delete page;
+    QVERIFY(watch.hasOpened);
     QVERIFY(openDialog() == nullptr);
 }
 

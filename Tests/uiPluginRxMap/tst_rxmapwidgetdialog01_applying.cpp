@@ -2,6 +2,8 @@
 #include "dialogprobe.h"
 #include "testbase.h"
 
+#include <QAbstractEventDispatcher>
+
 /// What Done writes.
 class TestDialogApplying : public TestBase {
     Q_OBJECT
@@ -15,13 +17,16 @@ private Q_SLOTS:
     void aGroupThatGrewTakesTheNextGroupsEntries();
     void aGroupThatShrankLeavesEntriesToTheNext();
     void allFieldsOfAMappingAreKept();
+    void aRecordChangedMeanwhileIsReplacedWhole();
     void settingsGoToTheFirstGroupAlone();
     void lookAheadAloneSendsNoReInit();
     void aNewMasterSendsOneReInit();
+    void aMasterAloneSendsReInit();
     void aChangedShutoffSendsReInit();
     void aToggleThatEndsWhereItBeganSendsNoReInit();
     void aMissingQuillSpanIsIgnored();
-    void writeProtectedSettingsAreRefusedAndTheDialogCloses();
+    void refusedWritesAreLoggedAndTheDialogCloses_data();
+    void refusedWritesAreLoggedAndTheDialogCloses();
     void aRemovedGroupIsRefusedAndTheDialogCloses();
     void fewerSettingsThanTheGroupHoldsNow();
     void mappingsAreWrittenBeforeSettings();
@@ -36,6 +41,26 @@ private:
     QScopedPointer<RxMapWidgetDialog01> dialog;
     QScopedPointer<DialogProbe> probe;
 };
+
+namespace {
+
+/// A record in which no field has its initial value.
+OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING fullMapping()
+{
+    OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mapping = mappingFor(MapHost::productGroup(1));
+    mapping.auxFlag = true;
+    mapping.dbfColumnName = QStringLiteral("RATE");
+    mapping.auxNumber = -3;
+    mapping.auxValue1 = 1.5;
+    mapping.auxValue2 = 2.5;
+    mapping.auxValue3 = 3.5;
+    mapping.defaultRate = 4.5;
+    mapping.auxIndices = {7, 8};
+    mapping.auxNumber2 = 9;
+    return mapping;
+}
+
+} // namespace
 
 void TestDialogApplying::init()
 {
@@ -91,8 +116,16 @@ void TestDialogApplying::notUnderVraFromTheStartCancels()
         bin->setRxMapGroupName(QString());
     open();
     probe->settings()[0].onLookAheadMs = 9000;
+    probe->settings()[0].isMaster = true;
+    probe->mappings()[0].defaultRate = 7.0;
+    int writes = 0;
+    connect(host->map, &DbGroupRxMap::settingsChanged, this, [&writes] { ++writes; });
+    connect(host->map, &DbGroupRxMap::rateCalMappingsChanged, this, [&writes] { ++writes; });
     done();
+    QCOMPARE(writes, 0);
+    QCOMPARE(host->reInitialisations, 0);
     QCOMPARE(host->entry(0).onLookAheadMs, 1000);
+    QCOMPARE(host->map->getRateCalMappings().at(0).defaultRate, 0.0);
 }
 
 void TestDialogApplying::mappingsAreSplitByCount()
@@ -139,18 +172,20 @@ void TestDialogApplying::aGroupThatShrankLeavesEntriesToTheNext()
 
 void TestDialogApplying::allFieldsOfAMappingAreKept()
 {
-    OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mapping = mappingFor(MapHost::productGroup(1));
-    mapping.auxFlag = true;
-    mapping.dbfColumnName = QStringLiteral("RATE");
-    mapping.auxNumber = -3;
-    mapping.auxValue1 = 1.5;
-    mapping.auxValue2 = 2.5;
-    mapping.auxValue3 = 3.5;
-    mapping.defaultRate = 4.5;
-    mapping.auxIndices = {7, 8};
-    mapping.auxNumber2 = 9;
+    const auto mapping = fullMapping();
     host->map->setRateCalMappings({mapping});
     open();
+    done();
+    QCOMPARE(host->map->getRateCalMappings(), (QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping}));
+}
+
+void TestDialogApplying::aRecordChangedMeanwhileIsReplacedWhole()
+{
+    const auto mapping = fullMapping();
+    host->map->setRateCalMappings({mapping});
+    open();
+    // Differs in every field.
+    host->map->setRateCalMappings({OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING()});
     done();
     QCOMPARE(host->map->getRateCalMappings(), (QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping}));
 }
@@ -189,6 +224,23 @@ void TestDialogApplying::aNewMasterSendsOneReInit()
     QVERIFY(host->entry(0).isMaster);
 }
 
+void TestDialogApplying::aMasterAloneSendsReInit()
+{
+    open();
+    DialogProbe::release(probe->productButton(1));
+    DialogProbe::release(probe->applyToAllBox());
+    done();
+    QVERIFY(host->entry(1).isMaster);
+    for (const OrvikTypes::RX_SETTINGS &entry : host->map->getSettings())
+        QVERIFY(!entry.zeroRateShutoff);
+    QCOMPARE(host->reInitialisations, 1);
+    open();
+    DialogProbe::release(probe->applyToAllBox());
+    done();
+    QVERIFY(!host->entry(1).isMaster);
+    QCOMPARE(host->reInitialisations, 2);
+}
+
 void TestDialogApplying::aChangedShutoffSendsReInit()
 {
     open();
@@ -219,18 +271,44 @@ void TestDialogApplying::aMissingQuillSpanIsIgnored()
     QVERIFY(host->entry(0).zeroRateShutoff);
 }
 
-void TestDialogApplying::writeProtectedSettingsAreRefusedAndTheDialogCloses()
+void TestDialogApplying::refusedWritesAreLoggedAndTheDialogCloses_data()
 {
-    host->map->setWriteProtected("settings", true);
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<bool>("isProtected");
+    QTest::addColumn<QString>("warning");
+    QTest::addColumn<QString>("debugLine");
+    const QString token = QStringLiteral("set rxMap.field::%1 failed: invalid write access token");
+    const QString code = QStringLiteral("set rxMap.field::%1 failed: 5");
+    for (const char *property : {"settings", "rateCalMappings"}) {
+        const QString name = QString::fromLatin1(property);
+        QTest::newRow(qPrintable(name + QStringLiteral(", protected")))
+            << QByteArray(property) << true << token.arg(name) << QStringLiteral("ERROR: ") + token.arg(name);
+        QTest::newRow(qPrintable(name + QStringLiteral(", rejected")))
+            << QByteArray(property) << false << code.arg(name) << code.arg(name);
+    }
+}
+
+void TestDialogApplying::refusedWritesAreLoggedAndTheDialogCloses()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(bool, isProtected);
+    QFETCH(QString, warning);
+    QFETCH(QString, debugLine);
+    if (isProtected)
+        host->map->setWriteProtected(property, true);
+    else
+        host->map->setWriteValidator(
+            property, [](QVariant, void *) { return 5; }, nullptr);
     open();
     DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("4.2"));
-    messages().expectWarning(QStringLiteral("set rxMap.field::settings failed: invalid write access token"));
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("7"));
+    messages().expectWarning(warning);
     done();
-    QCOMPARE(host->entry(0).onLookAheadMs, 1000);
-    QVERIFY(messages()
-                .debugLines()
-                .join(QLatin1Char('\n'))
-                .contains(QLatin1String("ERROR: set rxMap.field::settings failed: invalid write access token")));
+    // The other property is written all the same.
+    const bool settingsRefused = property == "settings";
+    QCOMPARE(host->entry(0).onLookAheadMs, settingsRefused ? 1000 : 4200);
+    QCOMPARE(host->map->getRateCalMappings().at(0).defaultRate, settingsRefused ? 7.0 : 0.0);
+    QVERIFY(messages().debugLines().join(QLatin1Char('\n')).contains(debugLine));
 }
 
 void TestDialogApplying::aRemovedGroupIsRefusedAndTheDialogCloses()
@@ -289,8 +367,15 @@ void TestDialogApplying::openingAgainShowsWhatWasWritten()
 
 void TestDialogApplying::aThousandDialogsLeaveNothingBehind()
 {
-    const int before = QApplication::allWidgets().size();
-    const int children = host->map->children().size();
+    // The children of the dispatcher are the polls that are due; those of earlier dialogs run out first.
+    const QObject *dispatcher = QAbstractEventDispatcher::instance();
+    QTRY_COMPARE_WITH_TIMEOUT(dispatcher->children().size(), 0, 3000);
+    const int widgets = QApplication::allWidgets().size();
+    const int objects = qApp->children().size();
+    // Whatever listened to the groups before is taken off, so that a connection found later is a dialog's.
+    const QList<DataBrokerGroup *> groups{host->map, host->gps, host->host.units, host->bins.at(0)};
+    for (DataBrokerGroup *group : groups)
+        QObject::disconnect(group, nullptr, nullptr, nullptr);
     for (int i = 0; i < 1000; ++i) {
         RxMapWidgetDialog01 opened(&host->broker, host->images, nullptr);
         if (i % 100 == 0)
@@ -298,8 +383,11 @@ void TestDialogApplying::aThousandDialogsLeaveNothingBehind()
         opened.doneButtonReleased(0);
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(QApplication::allWidgets().size(), before);
-    QCOMPARE(host->map->children().size(), children);
+    QCOMPARE(QApplication::allWidgets().size(), widgets);
+    QCOMPARE(qApp->children().size(), objects);
+    QTRY_COMPARE_WITH_TIMEOUT(dispatcher->children().size(), 0, 3000);
+    for (DataBrokerGroup *group : groups)
+        QVERIFY2(!QObject::disconnect(group, nullptr, nullptr, nullptr), qPrintable(group->name()));
     QCOMPARE(host->map->getSettings().size(), 3);
 }
 

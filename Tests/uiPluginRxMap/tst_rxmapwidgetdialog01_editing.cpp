@@ -25,21 +25,14 @@ private Q_SLOTS:
     void aTypedDefaultRateTakesEffectAtOnce();
     void aTypedDefaultRateWithoutMappingReachesTheLoaderAlone();
     void aTypedDefaultRateThatIsNoNumberIsZero();
+    void theLoaderTakesTheRateBeforeTheMapping();
     void applyToAllMakesTheSelectedProductMaster();
     void applyToAllOffClearsTheMasterAndNothingElse();
+    void applyToAllRefreshesOnlyWhenSwitchedOn();
     void aMasterBeyondTheButtonsFallsToTheFirst();
     void zeroRateShutoffReachesFollowersOfTheMaster();
     void zeroRateShutoffWithoutMasterReachesTheSelectedProductAlone();
     void otherIdsDoNothing();
-    void controlStates_data();
-    void controlStates();
-    void notUnderVraLeavesMessageAndDoneImageAsTheyWere();
-    void beforeAnyEvaluationTheMovingMessageShows();
-    void onlyAStandstillThatIsKnownUnlocks_data();
-    void onlyAStandstillThatIsKnownUnlocks();
-    void theLockFollowsTheVehicleWhileOpen();
-    void thePollEndsWithTheDialog();
-    void productButtonsAndDoneAreNeverDisabled();
 
 private:
     void open();
@@ -180,14 +173,21 @@ void TestDialogEditing::theDefaultRateCaptionNamesTheUnit_data()
     QTest::addColumn<int>("basis");
     QTest::addColumn<int>("areaUnitSystem");
     QTest::addColumn<int>("pressureUnit");
+    QTest::addColumn<bool>("isCarrier");
     QTest::addColumn<QString>("caption");
-    QTest::newRow("weight, metric") << int(ProductLineItem::Weight) << 1 << 1 << "Default Rate (kg/ha)";
-    QTest::newRow("weight, us") << int(ProductLineItem::Weight) << 0 << 1 << "Default Rate (lb/ac)";
-    QTest::newRow("volume, turf") << int(ProductLineItem::Volume) << 2 << 1 << "Default Rate (gal/tu)";
-    QTest::newRow("pressure, kPa") << int(ProductLineItem::Pressure) << 0 << 1 << "Default Rate (kPa)";
-    QTest::newRow("pressure, unknown") << int(ProductLineItem::Pressure) << 0 << 7 << "Default Rate (kPa)";
-    QTest::newRow("pressure, negative") << int(ProductLineItem::Pressure) << 0 << -1 << "Default Rate (kPa)";
-    QTest::newRow("pressure, psi") << int(ProductLineItem::Pressure) << 0 << 0 << "Default Rate (psi)";
+    const int weight = ProductLineItem::Weight;
+    const int volume = ProductLineItem::Volume;
+    const int pressure = ProductLineItem::Pressure;
+    QTest::newRow("weight, metric") << weight << 1 << 1 << false << "Default Rate (kg/ha)";
+    QTest::newRow("weight, us") << weight << 0 << 1 << false << "Default Rate (lb/ac)";
+    QTest::newRow("ratio, turf") << volume << 2 << 1 << false << "Default Rate (fl oz/gal)";
+    QTest::newRow("ratio, metric") << volume << 1 << 1 << false << "Default Rate (L/L)";
+    QTest::newRow("ratio of a carrier, turf") << volume << 2 << 1 << true << "Default Rate (gal/tu)";
+    QTest::newRow("ratio of a carrier, metric") << volume << 1 << 1 << true << "Default Rate (L/ha)";
+    QTest::newRow("pressure, kPa") << pressure << 0 << 1 << false << "Default Rate (kPa)";
+    QTest::newRow("pressure, unknown") << pressure << 0 << 7 << false << "Default Rate (kPa)";
+    QTest::newRow("pressure, negative") << pressure << 0 << -1 << false << "Default Rate (kPa)";
+    QTest::newRow("pressure, psi") << pressure << 0 << 0 << false << "Default Rate (psi)";
 }
 
 void TestDialogEditing::theDefaultRateCaptionNamesTheUnit()
@@ -195,7 +195,11 @@ void TestDialogEditing::theDefaultRateCaptionNamesTheUnit()
     QFETCH(int, basis);
     QFETCH(int, areaUnitSystem);
     QFETCH(int, pressureUnit);
+    QFETCH(bool, isCarrier);
     host->replaceProduct(1, static_cast<ProductLineItem::Basis>(basis));
+    // Every node says ratio: only volume products heed it, and no carrier does.
+    host->nodes.at(1)->setOperationalSettings(OrvikTypes::SPN_OperationalSetStruct(true));
+    host->nodes.at(1)->setIsCarrier(isCarrier);
     host->setLoaded();
     host->host.units->setAreaUnitSystem(areaUnitSystem);
     host->host.units->setPressureUnit(pressureUnit);
@@ -203,28 +207,29 @@ void TestDialogEditing::theDefaultRateCaptionNamesTheUnit()
     DialogProbe::release(probe->productButton(1));
     QTEST(probe->defaultRateLabel()->text(), "caption");
     QVERIFY(probe->defaultRateEdit()->isVisible());
-    const RxMapWidgetDialog01 &constant = *dialog;
-    Q_UNUSED(constant)
     QVERIFY(probe->toDisplayFactor() > 0.0);
     QVERIFY(qFuzzyCompare(probe->toDisplayFactor() * probe->fromDisplayFactor(), 1.0));
 }
 
 void TestDialogEditing::aProductOfNoKnownKindShowsEmptyBrackets()
 {
-    host->replaceProduct(0, ProductLineItem::None);
+    host->replaceProduct(1, ProductLineItem::None);
     host->setLoaded();
     auto mappings = host->map->getRateCalMappings();
-    mappings[0].defaultRate = 99.0;
+    mappings[1].defaultRate = 99.0;
     host->map->setRateCalMappings(mappings);
     open();
+    // The weight product's factors must not stay behind.
+    QVERIFY(probe->toDisplayFactor() > 0.0 && probe->fromDisplayFactor() > 0.0);
+    DialogProbe::release(probe->productButton(1));
     QCOMPARE(probe->defaultRateLabel()->text(), QStringLiteral("Default Rate ()"));
     QVERIFY(probe->defaultRateEdit()->isVisible());
     QCOMPARE(probe->toDisplayFactor(), 0.0);
     QCOMPARE(probe->fromDisplayFactor(), 0.0);
     QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("0"));
-    host->loaders[0].defaultRate = 5.0;
+    host->loaders[1].defaultRate = 5.0;
     DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("12"));
-    QCOMPARE(host->loaders[0].defaultRate, 0.0);
+    QCOMPARE(host->loaders[1].defaultRate, 0.0);
 }
 
 void TestDialogEditing::withoutAProductTheDefaultRateIsHidden_data()
@@ -292,6 +297,20 @@ void TestDialogEditing::aTypedDefaultRateThatIsNoNumberIsZero()
     QCOMPARE(host->loaders[0].defaultRate, 0.0);
 }
 
+void TestDialogEditing::theLoaderTakesTheRateBeforeTheMapping()
+{
+    open();
+    DialogProbe::release(probe->productButton(1));
+    QList<double> seen;
+    connect(&host->loaders[1], &RxMapLoader::defaultRateTaken, this, [this, &seen] {
+        seen = {host->loaders[1].defaultRate, probe->mappings().at(1).defaultRate};
+    });
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("12.5"));
+    // The loader held the rate when it was told of it; the mapping did not yet.
+    QCOMPARE(seen, (QList<double>{12.5, 0.0}));
+    QCOMPARE(probe->mappings().at(1).defaultRate, 12.5);
+}
+
 void TestDialogEditing::applyToAllMakesTheSelectedProductMaster()
 {
     OrvikTypes::RX_SETTINGS entry = host->entry(2);
@@ -326,6 +345,19 @@ void TestDialogEditing::applyToAllOffClearsTheMasterAndNothingElse()
     QCOMPARE(probe->settings(), expected);
     QCOMPARE(probe->selectedProduct(), 2);
     QCOMPARE(probe->applyToAllBox()->currentImage(), 0);
+}
+
+void TestDialogEditing::applyToAllRefreshesOnlyWhenSwitchedOn()
+{
+    open();
+    DialogProbe::release(probe->productButton(2));
+    DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("2.57"));
+    DialogProbe::release(probe->applyToAllBox());
+    QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("2.6"));
+    QCOMPARE(probe->settings().at(2).onLookAheadMs, 2570);
+    DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("3.14"));
+    DialogProbe::release(probe->applyToAllBox());
+    QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("3.14"));
 }
 
 void TestDialogEditing::aMasterBeyondTheButtonsFallsToTheFirst()
@@ -378,128 +410,6 @@ void TestDialogEditing::otherIdsDoNothing()
     QCOMPARE(probe->settings(), settings);
     QCOMPARE(probe->applyToAllBox()->currentImage(), 0);
     QCOMPARE(probe->zeroRateShutoffBox()->currentImage(), 0);
-}
-
-void TestDialogEditing::controlStates_data()
-{
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<bool>("stopped");
-    QTest::addColumn<bool>("controlsShown");
-    QTest::addColumn<bool>("movingShown");
-    QTest::newRow("editable") << "rxMap.field" << true << true << false;
-    QTest::newRow("locked") << "rxMap.field" << false << true << true;
-    QTest::newRow("not under VRA, stopped") << "" << true << false << true;
-    QTest::newRow("not under VRA, moving") << "" << false << false << true;
-}
-
-void TestDialogEditing::controlStates()
-{
-    QFETCH(QString, group);
-    QFETCH(bool, stopped);
-    QFETCH(bool, controlsShown);
-    QFETCH(bool, movingShown);
-    host->bins.at(0)->setRxMapGroupName(group);
-    host->gps->setVehicleIsStopped(stopped);
-    open();
-    for (QWidget *control : probe->valueControls())
-        QCOMPARE(control->isVisible(), controlsShown);
-    QCOMPARE(probe->notUnderVraLabel()->isVisible(), !controlsShown);
-    QCOMPARE(probe->vehicleMovingLabel()->isVisible(), movingShown);
-    QCOMPARE(probe->doneButton()->currentImage(), controlsShown && !stopped ? 1 : 0);
-    for (QWidget *control :
-         {static_cast<QWidget *>(probe->lookAheadEdit()), static_cast<QWidget *>(probe->applyToAllBox()),
-          static_cast<QWidget *>(probe->zeroRateShutoffBox()), static_cast<QWidget *>(probe->defaultRateEdit())})
-        QCOMPARE(control->isEnabled(), stopped || !controlsShown);
-}
-
-void TestDialogEditing::notUnderVraLeavesMessageAndDoneImageAsTheyWere()
-{
-    host->bins.at(1)->setRxMapGroupName(QString());
-    host->gps->setVehicleIsStopped(false);
-    open();
-    DialogProbe::release(probe->productButton(1));
-    QVERIFY(probe->vehicleMovingLabel()->isVisible());
-    QCOMPARE(probe->doneButton()->currentImage(), 1);
-    QVERIFY(probe->notUnderVraLabel()->isVisible());
-
-    host->gps->setVehicleIsStopped(true);
-    DialogProbe::release(probe->productButton(0));
-    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
-    host->gps->setVehicleIsStopped(false);
-    DialogProbe::release(probe->productButton(1));
-    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
-    QCOMPARE(probe->doneButton()->currentImage(), 0);
-}
-
-void TestDialogEditing::beforeAnyEvaluationTheMovingMessageShows()
-{
-    for (BinGroup *bin : qAsConst(host->bins))
-        bin->setRxMapGroupName(QString());
-    open();
-    QVERIFY(probe->vehicleMovingLabel()->isVisible());
-    QCOMPARE(probe->doneButton()->currentImage(), 0);
-}
-
-void TestDialogEditing::onlyAStandstillThatIsKnownUnlocks_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("editable");
-    QTest::newRow("no such group") << QString() << false;
-    QTest::newRow("text true") << "true" << true;
-    QTest::newRow("text false") << "false" << false;
-    QTest::newRow("text empty") << "" << false;
-}
-
-void TestDialogEditing::onlyAStandstillThatIsKnownUnlocks()
-{
-    QFETCH(QString, text);
-    host->broker.removeGroup(QStringLiteral("mainGpsSolution"));
-    if (!text.isNull()) {
-        auto *gps = new TextGpsGroup(QStringLiteral("mainGpsSolution"));
-        gps->setVehicleIsStopped(text);
-        host->broker.publishGroup(gps);
-    }
-    open();
-    QTEST(probe->lookAheadEdit()->isEnabled(), "editable");
-}
-
-void TestDialogEditing::theLockFollowsTheVehicleWhileOpen()
-{
-    open();
-    QVERIFY(probe->lookAheadEdit()->isEnabled());
-    host->gps->setVehicleIsStopped(false);
-    QVERIFY(probe->lookAheadEdit()->isEnabled());
-    QTRY_VERIFY_WITH_TIMEOUT(!probe->lookAheadEdit()->isEnabled(), 900);
-    QVERIFY(probe->vehicleMovingLabel()->isVisible());
-    QCOMPARE(probe->doneButton()->currentImage(), 1);
-    host->gps->setVehicleIsStopped(true);
-    QTRY_VERIFY_WITH_TIMEOUT(probe->lookAheadEdit()->isEnabled(), 900);
-    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
-    QCOMPARE(probe->doneButton()->currentImage(), 0);
-}
-
-void TestDialogEditing::thePollEndsWithTheDialog()
-{
-    int polls = 0;
-    host->gps->setBeforeReadHook(
-        "vehicleIsStopped", [](void *argument) { ++*static_cast<int *>(argument); }, &polls);
-    open();
-    polls = 0;
-    QTRY_COMPARE_WITH_TIMEOUT(polls, 1, 900);
-    probe.reset();
-    dialog.reset();
-    QTest::qWait(600);
-    QCOMPARE(polls, 1);
-    host->gps->setBeforeReadHook("vehicleIsStopped", nullptr, nullptr);
-}
-
-void TestDialogEditing::productButtonsAndDoneAreNeverDisabled()
-{
-    host->gps->setVehicleIsStopped(false);
-    open();
-    for (int i = 0; i < probe->productButtonCount(); ++i)
-        QVERIFY(probe->productButton(i)->isEnabled());
-    QVERIFY(probe->doneButton()->isEnabled());
 }
 
 QTEST_MAIN(TestDialogEditing)

@@ -21,22 +21,16 @@ private Q_SLOTS:
     void slotsComeInTheirOrder();
     void everySignalIsConnectedToItsSlot_data();
     void everySignalIsConnectedToItsSlot();
-    void captionsHaveTheirSizes();
-    void messagesAreRed();
-    void theFontFamilyIsTheTerminals();
-    void addCaptionChangesTheDialogsFont();
+    void lineEditsTakeTheirLimits_data();
     void lineEditsTakeTheirLimits();
     void productButtonsAreSpreadOverTheHeight_data();
     void productButtonsAreSpreadOverTheHeight();
     void productLabels_data();
     void productLabels();
-    void theVerticalCaptionLiesOverTheButtons();
     void theFirstMasterIsSelected();
     void withoutAMasterTheFirstProductIsSelected();
     void mappingsOfAllGroupsAreJoinedInOrder();
     void settingsComeFromTheFirstGroup();
-    void missingPiecesLeaveAUsableDialog_data();
-    void missingPiecesLeaveAUsableDialog();
     void membersKeepTheirSizes();
 };
 
@@ -221,62 +215,55 @@ void TestDialogLayout::everySignalIsConnectedToItsSlot()
         QCOMPARE(button->currentImage(), 1);
 }
 
-void TestDialogLayout::captionsHaveTheirSizes()
+void TestDialogLayout::lineEditsTakeTheirLimits_data()
 {
-    DialogHost host;
-    Opened opened(host);
-    for (QLabel *label : opened.dialog.findChildren<QLabel *>()) {
-        const int expected = label->text() == QLatin1String("Rx Map Settings") ? 26
-            : label->text().startsWith(QLatin1String("P\n"))                   ? 18
-                                                                               : 16;
-        QCOMPARE(label->font().pointSize(), expected);
-        QCOMPARE(label->font().weight(), 50);
-    }
-}
-
-void TestDialogLayout::messagesAreRed()
-{
-    DialogHost host;
-    Opened opened(host);
-    for (QLabel *label : {opened.probe.vehicleMovingLabel(), opened.probe.notUnderVraLabel()}) {
-        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-            QCOMPARE(label->palette().brush(group, label->foregroundRole()), QBrush(Qt::red));
-    }
-}
-
-void TestDialogLayout::theFontFamilyIsTheTerminals()
-{
-    DialogHost host;
-    Opened opened(host);
-    QCOMPARE(opened.probe.dialogFont().family(), QStringLiteral("Liberation Sans"));
-}
-
-void TestDialogLayout::addCaptionChangesTheDialogsFont()
-{
-    DialogHost host;
-    Opened opened(host);
-    QCOMPARE(opened.probe.dialogFont().pointSize(), 18);
-    const QLabel *label = opened.dialog.addCaption(QStringLiteral("text"), QPoint(3, 4), 31, &opened.dialog);
-    QCOMPARE(opened.probe.dialogFont().pointSize(), 31);
-    QCOMPARE(label->font().pointSize(), 31);
-    QCOMPARE(label->pos(), QPoint(3, 4));
-    QCOMPARE(label->parent(), &opened.dialog);
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    // The key that would leave the limits is refused, what was typed before it stays.
+    QTest::newRow("look-ahead, three digits") << "lookAheadEdit"
+                                              << "1234"
+                                              << "123";
+    QTest::newRow("look-ahead, one decimal") << "lookAheadEdit"
+                                             << "123.78"
+                                             << "123.7";
+    QTest::newRow("look-ahead, largest") << "lookAheadEdit"
+                                         << "999.9"
+                                         << "999.9";
+    QTest::newRow("rate, largest") << "defaultRateEdit"
+                                   << "5000"
+                                   << "5000";
+    QTest::newRow("rate, largest with decimal") << "defaultRateEdit"
+                                                << "5000.0"
+                                                << "5000.0";
+    QTest::newRow("rate, just above") << "defaultRateEdit"
+                                      << "5000.1"
+                                      << "5000.";
+    QTest::newRow("rate, above") << "defaultRateEdit"
+                                 << "5001"
+                                 << "500";
+    QTest::newRow("rate, one decimal") << "defaultRateEdit"
+                                       << "4999.98"
+                                       << "4999.9";
+    QTest::newRow("rate, negative") << "defaultRateEdit"
+                                    << "-1"
+                                    << "1";
 }
 
 void TestDialogLayout::lineEditsTakeTheirLimits()
 {
+    QFETCH(QString, control);
+    QFETCH(QString, typed);
     DialogHost host;
     Opened opened(host);
     opened.dialog.show();
-    // Keys as an operator's keyboard sends them; a fourth digit and a second decimal are refused.
-    for (OrvikLineEdit *edit : {opened.probe.lookAheadEdit(), opened.probe.defaultRateEdit()}) {
-        edit->setFocus();
-        edit->setText(QString());
-        QTest::keyClicks(edit, QStringLiteral("123456.78"));
-    }
-    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("123.7"));
-    QVERIFY(opened.probe.defaultRateEdit()->getText().toDouble() <= 5000.0);
-    QCOMPARE(opened.probe.defaultRateEdit()->getText().section(QLatin1Char('.'), 1).size(), 1);
+    auto *edit = opened.dialog.findChild<OrvikLineEdit *>(control);
+    QVERIFY(edit);
+    edit->setFocus();
+    edit->setText(QString());
+    // Keys as an operator's keyboard sends them.
+    QTest::keyClicks(edit, typed);
+    QTEST(edit->getText(), "shown");
 }
 
 void TestDialogLayout::productButtonsAreSpreadOverTheHeight_data()
@@ -333,17 +320,6 @@ void TestDialogLayout::productLabels()
     QCOMPARE(button->currentImage(), product == 0 ? 1 : 0);
 }
 
-void TestDialogLayout::theVerticalCaptionLiesOverTheButtons()
-{
-    DialogHost host;
-    Opened opened(host);
-    auto *caption = qobject_cast<QLabel *>(opened.dialog.children().constLast());
-    QVERIFY(caption);
-    QCOMPARE(caption->text(), QStringLiteral("P\nR\nO\nD\nU\nC\nT\nS"));
-    QCOMPARE(caption->geometry(), QRect(5, 0, 50, opened.dialog.height()));
-    QCOMPARE(caption->palette().brush(QPalette::Disabled, caption->foregroundRole()), QBrush(QColor(142, 142, 142)));
-}
-
 void TestDialogLayout::theFirstMasterIsSelected()
 {
     DialogHost host(4);
@@ -377,6 +353,8 @@ void TestDialogLayout::mappingsOfAllGroupsAreJoinedInOrder()
 {
     DialogHost host(3);
     host.host.addMap(QStringLiteral("another"), {5, 4});
+    // Not a prescription by its name.
+    host.broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
     Opened opened(host);
     QCOMPARE(opened.probe.groupCount(), 2);
     QStringList channels;
@@ -392,60 +370,6 @@ void TestDialogLayout::settingsComeFromTheFirstGroup()
     second->setSettings({OrvikTypes::RX_SETTINGS()});
     Opened opened(host);
     QCOMPARE(opened.probe.settings(), host.map->getSettings());
-}
-
-void TestDialogLayout::missingPiecesLeaveAUsableDialog_data()
-{
-    QTest::addColumn<QString>("missing");
-    for (const char *missing : {"map", "map of another class", "settings", "units", "gps", "products", "node", "loader",
-                                "bins", "images", "group removed while open", "everything"})
-        QTest::newRow(missing) << QString::fromLatin1(missing);
-}
-
-void TestDialogLayout::missingPiecesLeaveAUsableDialog()
-{
-    QFETCH(QString, missing);
-    DialogHost host;
-    const bool all = missing == QLatin1String("everything");
-    if (all || missing == QLatin1String("map") || missing == QLatin1String("map of another class"))
-        host.broker.removeGroup(QStringLiteral("rxMap.field"));
-    if (missing == QLatin1String("map of another class"))
-        host.broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
-    if (missing == QLatin1String("settings"))
-        host.map->setSettings({OrvikTypes::RX_SETTINGS()});
-    if (all || missing == QLatin1String("units"))
-        host.broker.removeGroup(QStringLiteral("QmlUnitsConverter"));
-    if (all || missing == QLatin1String("gps"))
-        host.broker.removeGroup(QStringLiteral("mainGpsSolution"));
-    if (all || missing == QLatin1String("products")) {
-        host.products.clear();
-        host.setLoaded();
-    }
-    if (missing == QLatin1String("node"))
-        host.products.at(0)->setPrimaryProductNodeGroup(nullptr);
-    if (missing == QLatin1String("loader"))
-        host.products.at(0)->setRxMapLoader(nullptr);
-    if (all || missing == QLatin1String("bins")) {
-        for (BinGroup *bin : qAsConst(host.bins))
-            host.broker.removeGroup(bin->name());
-    }
-    if (all || missing == QLatin1String("images"))
-        host.images = QDir(QStringLiteral("/nowhere"));
-
-    Opened opened(host);
-    opened.dialog.show();
-    if (missing == QLatin1String("group removed while open"))
-        host.broker.removeGroup(QStringLiteral("rxMap.field"));
-    for (int product = 0; product < 3; ++product)
-        opened.dialog.productSelectionChanged(product);
-    DialogProbe::type(opened.probe.lookAheadEdit(), QStringLiteral("1.5"));
-    DialogProbe::type(opened.probe.defaultRateEdit(), QStringLiteral("12.5"));
-    DialogProbe::release(opened.probe.zeroRateShutoffBox());
-    DialogProbe::release(opened.probe.applyToAllBox());
-    DialogProbe::release(opened.probe.applyToAllBox());
-    opened.dialog.setControlsEnabledState(true);
-    DialogProbe::release(opened.probe.doneButton());
-    QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
 }
 
 void TestDialogLayout::membersKeepTheirSizes()

@@ -271,8 +271,12 @@ void TestUiPluginRxMap::unknownWidgetNamesGiveNull()
     QFETCH(QString, name);
     MapHost host;
     OpenPlugin plugin;
+    plugin.init(&host.broker, QDir(), QDir());
+    const QScopedPointer<UiGWidget> before(plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker).data());
     QVERIFY(plugin.createUiGWidget(name, 0, 0, {}, &host.broker).isNull());
-    QVERIFY(plugin.graphicsWidgets().isEmpty());
+    QCOMPARE(plugin.graphicsWidgets().keys(), QStringList{widgetName});
+    QCOMPARE(plugin.graphicsWidgets().value(widgetName).data(), before.data());
+    QVERIFY(before);
 }
 
 void TestUiPluginRxMap::qmlWidgetsAreNeverMade()

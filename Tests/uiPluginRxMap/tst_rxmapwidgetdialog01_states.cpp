@@ -1,0 +1,317 @@
+#include "dialoghost.h"
+#include "dialogprobe.h"
+#include "testbase.h"
+
+#include <QElapsedTimer>
+
+#include <functional>
+#include <limits>
+
+/// When the dialog's controls are shown, hidden, locked and repainted.
+class TestDialogStates : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void controlStates_data();
+    void controlStates();
+    void notUnderVraLeavesMessageAndDoneImageAsTheyWere();
+    void beforeAnyEvaluationTheMovingMessageShows();
+    void onlyAStandstillThatIsKnownUnlocks_data();
+    void onlyAStandstillThatIsKnownUnlocks();
+    void theLockFollowsTheVehicleWhileOpen();
+    void anUnmappedProductKeepsTheLock();
+    void controlsComeBackWithAMappedProduct_data();
+    void controlsComeBackWithAMappedProduct();
+    void aBinThatKnowsNoPrescriptionIsNotUnderVra();
+    void everyEvaluationRepaintsTheDialog();
+    void theVehicleIsPolledEveryHalfSecond();
+    void thePollEndsWithTheDialog();
+    void productButtonsAndDoneAreNeverDisabled();
+
+private:
+    void open();
+    /// How many of the four controls that take a value are enabled.
+    int enabledEdits() const;
+
+    QScopedPointer<DialogHost> host;
+    QScopedPointer<RxMapWidgetDialog01> dialog;
+    QScopedPointer<DialogProbe> probe;
+};
+
+namespace {
+
+/// Runs something at every read of the standstill while it lives.
+class PollHook {
+public:
+    PollHook(GpsGroup &gps, std::function<void()> atPoll)
+        : gps(gps)
+        , atPoll(std::move(atPoll))
+    {
+        gps.setBeforeReadHook(
+            "vehicleIsStopped", [](void *argument) { static_cast<PollHook *>(argument)->atPoll(); }, this);
+    }
+    ~PollHook() { gps.setBeforeReadHook("vehicleIsStopped", nullptr, nullptr); }
+
+private:
+    Q_DISABLE_COPY(PollHook)
+
+    GpsGroup &gps;
+    std::function<void()> atPoll;
+};
+
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int paints = 0;
+};
+
+} // namespace
+
+void TestDialogStates::init()
+{
+    TestBase::init();
+    host.reset(new DialogHost);
+}
+
+void TestDialogStates::cleanup()
+{
+    probe.reset();
+    dialog.reset();
+    host.reset();
+    TestBase::cleanup();
+}
+
+void TestDialogStates::open()
+{
+    dialog.reset(new RxMapWidgetDialog01(&host->broker, host->images, nullptr));
+    probe.reset(new DialogProbe(*dialog));
+    dialog->show();
+}
+
+int TestDialogStates::enabledEdits() const
+{
+    int enabled = 0;
+    for (const QWidget *control :
+         {static_cast<QWidget *>(probe->lookAheadEdit()), static_cast<QWidget *>(probe->applyToAllBox()),
+          static_cast<QWidget *>(probe->zeroRateShutoffBox()), static_cast<QWidget *>(probe->defaultRateEdit())})
+        enabled += control->isEnabled() ? 1 : 0;
+    return enabled;
+}
+
+void TestDialogStates::controlStates_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<bool>("stopped");
+    QTest::addColumn<bool>("controlsShown");
+    QTest::addColumn<bool>("movingShown");
+    QTest::newRow("editable") << "rxMap.field" << true << true << false;
+    QTest::newRow("locked") << "rxMap.field" << false << true << true;
+    QTest::newRow("not under VRA, stopped") << "" << true << false << true;
+    QTest::newRow("not under VRA, moving") << "" << false << false << true;
+}
+
+void TestDialogStates::controlStates()
+{
+    QFETCH(QString, group);
+    QFETCH(bool, stopped);
+    QFETCH(bool, controlsShown);
+    QFETCH(bool, movingShown);
+    host->bins.at(0)->setRxMapGroupName(group);
+    host->gps->setVehicleIsStopped(stopped);
+    open();
+    for (QWidget *control : probe->valueControls())
+        QCOMPARE(control->isVisible(), controlsShown);
+    QCOMPARE(probe->notUnderVraLabel()->isVisible(), !controlsShown);
+    QCOMPARE(probe->vehicleMovingLabel()->isVisible(), movingShown);
+    QCOMPARE(probe->doneButton()->currentImage(), controlsShown && !stopped ? 1 : 0);
+    QCOMPARE(enabledEdits(), stopped || !controlsShown ? 4 : 0);
+}
+
+void TestDialogStates::notUnderVraLeavesMessageAndDoneImageAsTheyWere()
+{
+    host->bins.at(1)->setRxMapGroupName(QString());
+    host->gps->setVehicleIsStopped(false);
+    open();
+    DialogProbe::release(probe->productButton(1));
+    QVERIFY(probe->vehicleMovingLabel()->isVisible());
+    QCOMPARE(probe->doneButton()->currentImage(), 1);
+    QVERIFY(probe->notUnderVraLabel()->isVisible());
+
+    host->gps->setVehicleIsStopped(true);
+    DialogProbe::release(probe->productButton(0));
+    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
+    host->gps->setVehicleIsStopped(false);
+    DialogProbe::release(probe->productButton(1));
+    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
+    QCOMPARE(probe->doneButton()->currentImage(), 0);
+}
+
+void TestDialogStates::beforeAnyEvaluationTheMovingMessageShows()
+{
+    for (BinGroup *bin : qAsConst(host->bins))
+        bin->setRxMapGroupName(QString());
+    open();
+    QVERIFY(probe->vehicleMovingLabel()->isVisible());
+    QCOMPARE(probe->doneButton()->currentImage(), 0);
+}
+
+void TestDialogStates::onlyAStandstillThatIsKnownUnlocks_data()
+{
+    QTest::addColumn<QVariant>("standstill");
+    QTest::addColumn<bool>("editable");
+    QTest::newRow("no such group") << QVariant() << false;
+    QTest::newRow("text true") << QVariant(QStringLiteral("true")) << true;
+    QTest::newRow("text false") << QVariant(QStringLiteral("false")) << false;
+    QTest::newRow("text empty") << QVariant(QStringLiteral("")) << false;
+    QTest::newRow("number 1") << QVariant(1) << true;
+    QTest::newRow("number 0") << QVariant(0) << false;
+}
+
+void TestDialogStates::onlyAStandstillThatIsKnownUnlocks()
+{
+    QFETCH(QVariant, standstill);
+    host->broker.removeGroup(QStringLiteral("mainGpsSolution"));
+    if (standstill.type() == QVariant::String) {
+        auto *gps = new TextGpsGroup(QStringLiteral("mainGpsSolution"));
+        gps->setVehicleIsStopped(standstill.toString());
+        host->broker.publishGroup(gps);
+    } else if (standstill.isValid()) {
+        auto *gps = new NumberGpsGroup(QStringLiteral("mainGpsSolution"));
+        gps->setVehicleIsStopped(standstill.toInt());
+        host->broker.publishGroup(gps);
+    }
+    open();
+    QTEST(probe->lookAheadEdit()->isEnabled(), "editable");
+}
+
+void TestDialogStates::theLockFollowsTheVehicleWhileOpen()
+{
+    open();
+    QCOMPARE(enabledEdits(), 4);
+    host->gps->setVehicleIsStopped(false);
+    QCOMPARE(enabledEdits(), 4);
+    QTRY_COMPARE_WITH_TIMEOUT(enabledEdits(), 0, 3000);
+    QVERIFY(probe->vehicleMovingLabel()->isVisible());
+    QCOMPARE(probe->doneButton()->currentImage(), 1);
+    host->gps->setVehicleIsStopped(true);
+    QTRY_COMPARE_WITH_TIMEOUT(enabledEdits(), 4, 3000);
+    QVERIFY(!probe->vehicleMovingLabel()->isVisible());
+    QCOMPARE(probe->doneButton()->currentImage(), 0);
+}
+
+void TestDialogStates::anUnmappedProductKeepsTheLock()
+{
+    host->bins.at(1)->setRxMapGroupName(QString());
+    host->gps->setVehicleIsStopped(false);
+    open();
+    host->gps->setVehicleIsStopped(true);
+    DialogProbe::release(probe->productButton(1));
+    QCOMPARE(enabledEdits(), 0);
+    DialogProbe::release(probe->productButton(0));
+    QCOMPARE(enabledEdits(), 4);
+    host->gps->setVehicleIsStopped(false);
+    DialogProbe::release(probe->productButton(1));
+    QCOMPARE(enabledEdits(), 4);
+}
+
+void TestDialogStates::controlsComeBackWithAMappedProduct_data()
+{
+    QTest::addColumn<bool>("stopped");
+    QTest::newRow("editable") << true;
+    QTest::newRow("locked") << false;
+}
+
+void TestDialogStates::controlsComeBackWithAMappedProduct()
+{
+    QFETCH(bool, stopped);
+    host->bins.at(1)->setRxMapGroupName(QString());
+    host->gps->setVehicleIsStopped(stopped);
+    open();
+    DialogProbe::release(probe->productButton(1));
+    for (QWidget *control : probe->valueControls())
+        QVERIFY2(!control->isVisible(), qPrintable(control->objectName()));
+    QVERIFY(probe->notUnderVraLabel()->isVisible());
+    DialogProbe::release(probe->productButton(0));
+    for (QWidget *control : probe->valueControls())
+        QVERIFY2(control->isVisible(), qPrintable(control->objectName()));
+    QVERIFY(!probe->notUnderVraLabel()->isVisible());
+    QCOMPARE(enabledEdits(), stopped ? 4 : 0);
+    QCOMPARE(probe->vehicleMovingLabel()->isVisible(), !stopped);
+}
+
+void TestDialogStates::aBinThatKnowsNoPrescriptionIsNotUnderVra()
+{
+    host->broker.removeGroup(QStringLiteral("system.binGroup.3"));
+    host->broker.publishGroup(new UnmappedBinGroup(QStringLiteral("system.binGroup.3")));
+    open();
+    QVERIFY(!probe->notUnderVraLabel()->isVisible());
+    DialogProbe::release(probe->productButton(2));
+    QVERIFY(probe->notUnderVraLabel()->isVisible());
+    for (QWidget *control : probe->valueControls())
+        QVERIFY2(!control->isVisible(), qPrintable(control->objectName()));
+}
+
+void TestDialogStates::everyEvaluationRepaintsTheDialog()
+{
+    open();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.data()));
+    QCoreApplication::processEvents();
+    PaintCounter counter(*dialog);
+    QCoreApplication::processEvents();
+    const int before = counter.paints;
+    // Nothing else changes, so nothing else asks for a repaint.
+    dialog->setControlsEnabledState(true);
+    QCoreApplication::processEvents();
+    QVERIFY(counter.paints > before);
+}
+
+void TestDialogStates::theVehicleIsPolledEveryHalfSecond()
+{
+    QElapsedTimer clock;
+    QList<qint64> polls;
+    const auto countPoll = [&] { polls.append(clock.elapsed()); };
+    PollHook hook(*host->gps, countPoll);
+    open();
+    clock.start();
+    polls.clear();
+    QTRY_VERIFY_WITH_TIMEOUT(polls.size() > 4, 8000);
+    qint64 shortest = std::numeric_limits<qint64>::max();
+    for (int i = 1; i < polls.size(); ++i)
+        shortest = qMin(shortest, polls.at(i) - polls.at(i - 1));
+    // A busy machine polls late, never early; the timer itself may be 5 % off.
+    QVERIFY2(shortest >= 400 && shortest < 700, qPrintable(QString::number(shortest)));
+}
+
+void TestDialogStates::thePollEndsWithTheDialog()
+{
+    int polls = 0;
+    PollHook hook(*host->gps, [&polls] { ++polls; });
+    open();
+    polls = 0;
+    QTRY_VERIFY_WITH_TIMEOUT(polls > 0, 3000);
+    probe.reset();
+    dialog.reset();
+    polls = 0;
+    QTest::qWait(1200);
+    QCOMPARE(polls, 0);
+}
+
+void TestDialogStates::productButtonsAndDoneAreNeverDisabled()
+{
+    host->gps->setVehicleIsStopped(false);
+    open();
+    for (int i = 0; i < probe->productButtonCount(); ++i)
+        QVERIFY(probe->productButton(i)->isEnabled());
+    QVERIFY(probe->doneButton()->isEnabled());
+}
+
+QTEST_MAIN(TestDialogStates)
+#include "tst_rxmapwidgetdialog01_states.moc"
