@@ -1,0 +1,108 @@
+#include "plainrebuild.h"
+
+#include "ringtest.h"
+#include "tesscallbacks.h"
+
+#include <GL/glu.h>
+
+using OrvikTypes::RX_POLYGON;
+
+namespace {
+
+bool contains(const RX_POLYGON &outer, const RX_POLYGON &hole)
+{
+    for (int i = 0; i < vertexCount(hole); ++i) {
+        const auto x = static_cast<float>(hole.vertices[i].x);
+        const auto y = static_cast<float>(hole.vertices[i].y);
+        if (!isInsideRing(outer.vertices, vertexCount(outer), static_cast<double>(x), static_cast<double>(y)))
+            return false;
+    }
+    return vertexCount(hole) > 0;
+}
+
+template <typename Callback> void registerCallback(GLUtesselator *tessellator, GLenum which, Callback callback)
+{
+    gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
+}
+
+QColor colorOf(double rate, const QList<OrvikTypes::RX_RATECOLOR> &legend)
+{
+    for (const OrvikTypes::RX_RATECOLOR &entry : legend) {
+        if (entry.rate >= rate)
+            return entry.color;
+    }
+    return legend.constLast().color;
+}
+
+void addContour(GLUtesselator *tessellator, const RX_POLYGON &ring, const RXVERT &color)
+{
+    gluTessBeginContour(tessellator);
+    for (int i = 0; i < vertexCount(ring); ++i) {
+        auto *vertex = new RXVERT(color);
+        vertex->x = ring.vertices[i].x;
+        vertex->z = -ring.vertices[i].y;
+        const auto position = static_cast<quintptr>(coordList.size());
+        coordList.append(vertex);
+        gluTessVertex(tessellator, &vertex->x, reinterpret_cast<void *>(position));
+    }
+    gluTessEndContour(tessellator);
+}
+
+} // namespace
+
+Placement plainPlacement(RX_POLYGON *chain, unsigned int count)
+{
+    std::vector<RX_POLYGON *> holes;
+    std::vector<RX_POLYGON *> outers;
+    for (RX_POLYGON *polygon = chain; count > 0; polygon = polygon->next, --count)
+        (polygon->isHole ? holes : outers).push_back(polygon);
+    Placement placement;
+    for (const RX_POLYGON *outer : outers) {
+        std::vector<RX_POLYGON *> here;
+        const std::vector<RX_POLYGON *> snapshot = holes;
+        std::size_t position = 0;
+        for (RX_POLYGON *hole : snapshot) {
+            if (!(outer->area - 10.0 > hole->area) || !contains(*outer, *hole)) {
+                ++position;
+                continue;
+            }
+            here.push_back(hole);
+            holes.erase(holes.begin() + static_cast<std::ptrdiff_t>(position));
+        }
+        placement.push_back(std::move(here));
+    }
+    return placement;
+}
+
+QVector<Vertex> bareTessellation(RX_POLYGON *chain, unsigned int count, const Placement &placement,
+                                 const QList<OrvikTypes::RX_RATECOLOR> &legend)
+{
+    QVector<Vertex> bank;
+    GLUtesselator *tessellator = gluNewTess();
+    registerCallback(tessellator, GLU_TESS_BEGIN, tessBeginCB);
+    registerCallback(tessellator, GLU_TESS_VERTEX, tessVertexCB);
+    registerCallback(tessellator, GLU_TESS_EDGE_FLAG, tessEdgeCB);
+    registerCallback(tessellator, GLU_TESS_COMBINE, tessCombineCB);
+    registerCallback(tessellator, GLU_TESS_END, tessEndCB);
+    std::size_t outer = 0;
+    for (RX_POLYGON *polygon = chain; count > 0; polygon = polygon->next, --count) {
+        if (polygon->isHole)
+            continue;
+        RXVERT color{0.0, static_cast<double>(-4.99F), 0.0, 0.0, 0.0, 0.0, 0.0};
+        colorOf(static_cast<double>(polygon->rates[0]), legend).getRgbF(&color.r, &color.g, &color.b, &color.a);
+        color.a *= 0.5;
+        gluTessBeginPolygon(tessellator, nullptr);
+        addContour(tessellator, *polygon, color);
+        for (const RX_POLYGON *hole : placement[outer])
+            addContour(tessellator, *hole, color);
+        gluTessEndPolygon(tessellator);
+        for (int i = 0; i < vList.size(); ++i)
+            bank.append(vList.at(i + (i % 3 == 0 ? 2 : i % 3 == 1 ? 0 : -2)));
+        vList.resize(0);
+        qDeleteAll(coordList);
+        coordList.resize(0);
+        polygon->drawIndex = static_cast<int>(++outer);
+    }
+    gluDeleteTess(tessellator);
+    return bank;
+}

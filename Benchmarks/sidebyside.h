@@ -1,0 +1,43 @@
+#pragma once
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <vector>
+
+/// Processor time, seconds, of one call.
+template <typename Work> double timed(Work &&work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// Runs both in turn in every iteration, the order swapped each time, and sets `counter` to the quotient of the
+/// medians.
+template <typename Work, typename Baseline>
+void compareSideBySide(benchmark::State &state, const char *counter, Work &&work, Baseline &&baseline)
+{
+    std::vector<double> workTimes;
+    std::vector<double> baselineTimes;
+    bool swapped = false;
+    for (auto _ : state) {
+        if (swapped)
+            baselineTimes.push_back(timed(baseline));
+        workTimes.push_back(timed(work));
+        if (!swapped)
+            baselineTimes.push_back(timed(baseline));
+        swapped = !swapped;
+        state.SetIterationTime(workTimes.back());
+    }
+    state.counters[counter] = median(workTimes) / median(baselineTimes);
+    state.counters["seconds"] = median(workTimes);
+    state.counters["baseline_seconds"] = median(baselineTimes);
+}
