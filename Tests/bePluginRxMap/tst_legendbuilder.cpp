@@ -170,11 +170,15 @@ void LegendBuilderTest::keepsItsPromisesForRandomColumns()
 {
     std::mt19937 random(42);
     for (int round = 0; round < 500; ++round) {
+        const float common = static_cast<float>(1 + random() % 30);
+        const bool isTied = random() % 2 == 0;
         std::lognormal_distribution<double> values(random() % 7, 0.1 + random() % 3);
         std::vector<float> rates;
         const size_t count = 1 + random() % 200;
         while (rates.size() < count)
-            rates.push_back(random() % 5 == 0 ? 0.0F : static_cast<float>(values(random)));
+            rates.push_back(random() % 5 == 0                 ? 0.0F
+                                : isTied && random() % 5 != 0 ? common
+                                                              : static_cast<float>(values(random)));
         const Legend legend = LegendBuilder::build(rates);
         QVERIFY(!legend.isEmpty() && legend.size() <= LegendBuilder::mostClasses);
         QVector<int> counts(legend.size(), 0);

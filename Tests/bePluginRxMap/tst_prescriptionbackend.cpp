@@ -90,6 +90,7 @@ private Q_SLOTS:
     void reportsProgressUpToTheWhole();
     void keepsTheEventLoopRunningWhileItLoads();
     void cancelsWhatRunsAndWhatWaits();
+    void cancelsALoadThatWaitsToBePublished();
     void isDestroyedWhileItLoads();
     void letsAListenerDestroyIt();
     void makesOneLoaderPerProduct();
@@ -455,6 +456,18 @@ void PrescriptionBackendTest::cancelsWhatRunsAndWhatWaits()
     QCOMPARE(backend->maps().size(), 1);
     QCOMPARE(backend->maps().first().group, before.group);
     QVERIFY(load("three-zones.geojson").isOk());
+}
+
+void PrescriptionBackendTest::cancelsALoadThatWaitsToBePublished()
+{
+    connect(backend.data(), &PrescriptionBackend::progress, this, [this](const QString &, double fraction) {
+        if (fraction == 1.0)
+            backend->cancel();
+    });
+    const LoadReport report = load("three-zones.geojson");
+    QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
+    QVERIFY(backend->maps().isEmpty());
+    QVERIFY(broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty());
 }
 
 void PrescriptionBackendTest::isDestroyedWhileItLoads()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void readsTextAsNumbersInTheCLocale();
     void readsColumnNamesInTheTablesOwnCodePage();
     void takesNegativeAndEndlessNumbersForNoRate();
+    void takesANegativeZeroForZero();
     void countsRecordsWithoutArea();
     void countsRecordsWithCoordinatesThatAreNotFinite();
     void countsRingsOfFewerThanThreePlaces();
@@ -169,16 +170,23 @@ void PrescriptionReaderTest::takesNegativeAndEndlessNumbersForNoRate()
     LayerSketch sketch;
     sketch.driver = "GPKG";
     sketch.fields = {{"rate", 1.0}};
-    sketch.rows = {{squareText(11.0, 48.0, 0.001), {-9999.0}},
-                   {squareText(11.1, 48.0, 0.001), {HUGE_VAL}},
-                   {squareText(11.2, 48.0, 0.001), {-0.0}}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {-9999.0}}, {squareText(11.1, 48.0, 0.001), {HUGE_VAL}}};
     QVERIFY(sketch.write(path("a.gpkg")));
     QVERIFY(read(path("a.gpkg")));
     QVERIFY(std::isnan(map.columns[0].values[0]));
     QVERIFY(std::isnan(map.columns[0].values[1]));
-    QCOMPARE(map.columns[0].values[2], 0.0);
-    QVERIFY(!std::signbit(map.columns[0].values[2]));
     QCOMPARE(map.columns[0].unreadable, 2);
+}
+
+void PrescriptionReaderTest::takesANegativeZeroForZero()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"rate", QStringLiteral("text")}};
+    sketch.rows = {{squareText(11.2, 48.0, 0.001), {QStringLiteral("-0.0")}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QVERIFY(read(path("a.shp")));
+    QCOMPARE(map.columns[0].values[0], 0.0);
+    QVERIFY(!std::signbit(map.columns[0].values[0]));
 }
 
 void PrescriptionReaderTest::countsRecordsWithoutArea()
