@@ -124,7 +124,8 @@ private:
             const std::unique_ptr<OGRFeature> feature(OGRFeature::CreateFeature(layer->GetLayerDefn()));
             feature->SetField(0, static_cast<double>(cell->rates[0]));
             feature->SetGeometry(&polygon);
-            layer->CreateFeature(feature.get());
+            if (layer->CreateFeature(feature.get()) != OGRERR_NONE)
+                break;
         }
         return *layer;
     }
