@@ -45,6 +45,9 @@ function touchedClass(x, y, legend) {
   return text === "" ? -1 : classOf(parseFloat(text.replace("Rx Rate: ", "")), legend, 0.006);
 }
 
+// The eight points a pixel away.
+var steps = [[-1, 0], [1, 0], [0, -1], [0, 1], [-1, -1], [1, 1], [-1, 1], [1, -1]];
+
 var map = terminal.open(path, options);
 var bounds = terminal.bounds();
 var width = bounds.maxX - bounds.minX;
@@ -62,7 +65,7 @@ for (var product = 0; product < map.columns.length; ++product) {
     var x = bounds.minX + random() * width;
     var y = bounds.minY + random() * height;
     var color = terminal.mapColor(x, y);
-    var isEdge = [[-1, 0], [1, 0], [0, -1], [0, 1], [-1, -1], [1, 1], [-1, 1], [1, -1]].some(function (step) {
+    var isEdge = steps.some(function (step) {
       return !isClose(color, terminal.mapColor(x + step[0] * pixel, y + step[1] * pixel));
     });
     var drawn = drawnClass(color, legend, ground);
@@ -71,9 +74,14 @@ for (var product = 0; product < map.columns.length; ++product) {
     else samples.push({ x: x, y: y, color: color, drawn: drawn });
   }
   samples.forEach(function (sample, number) {
+    var answered = answeredClass(sample.x, sample.y, product, legend);
+    // A strip narrower than a pixel need not be drawn where it is answered.
+    var isAnswerEdge = steps.some(function (step) {
+      return answeredClass(sample.x + step[0] * pixel, sample.y + step[1] * pixel, product, legend) !== answered;
+    });
+    if (isAnswerEdge) { ++edges; return; }
     ++compared;
     if (sample.drawn >= 0) ++covered;
-    var answered = answeredClass(sample.x, sample.y, product, legend);
     var touched = number < 20 ? touchedClass(sample.x, sample.y, legend) : answered;
     if (answered === sample.drawn && touched === sample.drawn) return;
     ++wrong;
