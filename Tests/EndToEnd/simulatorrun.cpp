@@ -1,5 +1,7 @@
 #include "simulatorrun.h"
 
+#include "paths.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -35,12 +37,12 @@ SimulatorRun runScript(const QString &script, const QStringList &arguments)
 
 QString scriptText(const QString &name)
 {
-    QFile file(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/EndToEnd/") + name);
+    QFile file(sourcePath("Tests/EndToEnd/") + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QString sampleField()
 {
-    const QDir folder(QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample"));
+    const QDir folder(sourcePath("Simulator/Resources/sample"));
     return folder.filePath(folder.entryList({QStringLiteral("*.shp")}).value(0));
 }

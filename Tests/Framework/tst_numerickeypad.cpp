@@ -1,4 +1,5 @@
 #include "numerickeypad.h"
+#include "paths.h"
 #include "testbase.h"
 
 #include "Framework/orvikbutton.h"
@@ -37,7 +38,7 @@ private Q_SLOTS:
 private:
     OrvikButton *key(const QString &name) const { return keypad->findChild<OrvikButton *>(name); }
 
-    QDir images = QDir(QStringLiteral(RXMAP_BINARY_DIR "/Simulator/Resources/images"));
+    QDir images = QDir(buildPath("Simulator/Resources/images"));
     QScopedPointer<QWidget> window;
     QWidget *field = nullptr;
     QWidget *other = nullptr;

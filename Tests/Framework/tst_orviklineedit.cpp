@@ -1,3 +1,4 @@
+#include "paths.h"
 #include "testbase.h"
 
 #include "Framework/orvikbutton.h"
@@ -48,7 +49,7 @@ private:
     static void touchKeys(const QString &keys);
     OrvikLineEdit *addField(int id, const QPoint &position);
 
-    QDir images = QDir(QStringLiteral(RXMAP_BINARY_DIR "/Simulator/Resources/images"));
+    QDir images = QDir(buildPath("Simulator/Resources/images"));
     QScopedPointer<QDialog> dialog;
     QPointer<OrvikLineEdit> field;
     QScopedPointer<QSignalSpy> changed;

@@ -1,5 +1,7 @@
 #include "testbase.h"
 
+#include "paths.h"
+
 #include <QDir>
 
 void TestBase::init()
@@ -25,6 +27,6 @@ MessageWatch &TestBase::messages()
 
 QString TestBase::realData(const QString &relativePath)
 {
-    const QDir folder(QStringLiteral(RXMAP_TEST_DATA));
+    const QDir folder(realDataFolder());
     return folder.exists() ? QDir::cleanPath(folder.filePath(relativePath)) : QString();
 }

@@ -1,5 +1,7 @@
 #include "picture.h"
 
+#include "paths.h"
+
 #include <QDir>
 
 #include <algorithm>
@@ -15,8 +17,8 @@ int channelDistance(QRgb a, QRgb b)
 
 QString Picture::compare(const QImage &actual, const QString &name, double pixelShare)
 {
-    const QImage expected(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/Terminal/pictures/%1.png").arg(name));
-    const QDir folder(QStringLiteral(RXMAP_BINARY_DIR "/Tests/Terminal/pictures/%1").arg(name));
+    const QImage expected(sourcePath("Tests/Terminal/pictures/%1.png").arg(name));
+    const QDir folder(buildPath("Tests/Terminal/pictures/%1").arg(name));
     folder.mkpath(QStringLiteral("."));
     actual.save(folder.filePath(QStringLiteral("actual.png")));
     if (expected.isNull())

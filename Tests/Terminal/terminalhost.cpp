@@ -1,20 +1,12 @@
 #include "terminalhost.h"
 
+#include "paths.h"
 #include "productfile.h"
-
-namespace {
-
-QDir buildFolder(const char *folder)
-{
-    return QDir(QStringLiteral(RXMAP_BINARY_DIR) + QLatin1Char('/') + QLatin1String(folder));
-}
-
-} // namespace
 
 TerminalHost::TerminalHost(UnitSystem units)
     : shown(ProductFile::standard(), units)
 {
-    error = shown.loadPlugins(buildFolder("Plugins/uiPluginRxMap"), buildFolder("Simulator/Resources/images"))
+    error = shown.loadPlugins(buildPath("Plugins/uiPluginRxMap"), buildPath("Simulator/Resources/images"))
                 .join(QLatin1Char('\n'));
     if (!shown.hasPlugins())
         error += QStringLiteral("the plug-in was not found");
@@ -24,10 +16,10 @@ TerminalHost::TerminalHost(UnitSystem units)
 
 QString TerminalHost::fixture(const QString &name)
 {
-    return QStringLiteral(RXMAP_SOURCE_DIR "/Tests/fixtures/") + name;
+    return sourcePath("Tests/fixtures/") + name;
 }
 
 QString TerminalHost::sampleField()
 {
-    return QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample/sample-field.shp");
+    return sourcePath("Simulator/Resources/sample/sample-field.shp");
 }

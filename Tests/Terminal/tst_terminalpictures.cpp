@@ -1,4 +1,5 @@
 #include "machine.h"
+#include "paths.h"
 #include "picture.h"
 #include "terminalhost.h"
 #include "terminalwindow.h"
@@ -45,7 +46,7 @@ void TestTerminalPictures::anEmptyTerminalLooksAsStored()
 
 void TestTerminalPictures::aChangedPictureIsNoticed()
 {
-    QImage stored(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/Terminal/pictures/no-map.png"));
+    QImage stored(sourcePath("Tests/Terminal/pictures/no-map.png"));
     QVERIFY(!stored.isNull());
     stored = stored.convertToFormat(QImage::Format_RGB32);
     for (int y = 300; y < 400; ++y) {

@@ -1,3 +1,4 @@
+#include "paths.h"
 #include "terminalhost.h"
 #include "testbase.h"
 
@@ -176,7 +177,7 @@ void TestTerminalSimulator::columnsAreTakenFromTheFilesThatHaveThem()
 void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
 {
     QTemporaryDir plugins;
-    QVERIFY(QFile::copy(QStringLiteral(RXMAP_BINARY_DIR "/Plugins/uiPluginRxMap/libuiPluginRxMap.so"),
+    QVERIFY(QFile::copy(buildPath("Plugins/uiPluginRxMap/libuiPluginRxMap.so"),
                         plugins.filePath(QStringLiteral("libuiPluginRxMap.so"))));
     QFile broken(plugins.filePath(QStringLiteral("libbroken.so")));
     QVERIFY(broken.open(QIODevice::WriteOnly));

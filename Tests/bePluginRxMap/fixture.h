@@ -1,13 +1,14 @@
 #pragma once
 
 #include "Backend/loadreport.h"
+#include "paths.h"
 
 #include <QString>
 
 /// The small prescriptions of Tests/fixtures.
 inline QString fixture(const char *name)
 {
-    return QStringLiteral(RXMAP_SOURCE_DIR "/Tests/fixtures/%1").arg(QLatin1String(name));
+    return sourcePath("Tests/fixtures/%1").arg(QLatin1String(name));
 }
 
 /// A request for a machine of three products.

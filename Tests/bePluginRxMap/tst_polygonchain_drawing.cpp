@@ -1,6 +1,7 @@
 // Every published chain can be drawn as it stands: a tessellator without a way to make new vertices, fed as the
 // renderer feeds it, fills exactly what the outer rings cover less their holes.
 #include "fixture.h"
+#include "paths.h"
 #include "prescriptionloader.h"
 #include "testbase.h"
 
@@ -92,8 +93,7 @@ void PolygonChainDrawing::fillsWhatItCovers_data()
     for (const char *name : {"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
                              "two-parts.geojson", "touching-holes.geojson"})
         QTest::newRow(name) << fixture(name) << QStringList();
-    QTest::newRow("sample") << QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample/sample-field.shp")
-                            << QStringList();
+    QTest::newRow("sample") << sourcePath("Simulator/Resources/sample/sample-field.shp") << QStringList();
     if (realData(QString()).isEmpty())
         return;
     for (const char *name :

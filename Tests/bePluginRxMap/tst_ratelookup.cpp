@@ -1,4 +1,5 @@
 #include "fixture.h"
+#include "paths.h"
 #include "prescriptionloader.h"
 #include "ratelookup.h"
 #include "testbase.h"
@@ -152,8 +153,7 @@ void RateLookupTest::agreesWithLookingAtEveryRing_data()
     for (const char *name : {"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
                              "two-parts.geojson", "touching-holes.geojson", "partly-without-rate.geojson"})
         QTest::newRow(name) << fixture(name) << QStringList();
-    QTest::newRow("sample") << QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample/sample-field.shp")
-                            << QStringList();
+    QTest::newRow("sample") << sourcePath("Simulator/Resources/sample/sample-field.shp") << QStringList();
     if (realData(QString()).isEmpty())
         return;
     for (const char *name :
@@ -193,7 +193,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("three-zones") << fixture("three-zones.geojson");
-    QTest::newRow("sample") << QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample/sample-field.shp");
+    QTest::newRow("sample") << sourcePath("Simulator/Resources/sample/sample-field.shp");
     if (realData(QString()).isEmpty())
         return;
     QTest::newRow("cells") << realData(QStringLiteral("cells-three-products/cells.shp"));

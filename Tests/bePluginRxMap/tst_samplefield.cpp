@@ -1,4 +1,5 @@
 #include "fixture.h"
+#include "paths.h"
 #include "prescriptionloader.h"
 #include "testbase.h"
 
@@ -22,7 +23,7 @@ private Q_SLOTS:
 
 private:
     static std::unique_ptr<LoadedMap> load();
-    static QString folder() { return QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample"); }
+    static QString folder() { return sourcePath("Simulator/Resources/sample"); }
 };
 
 std::unique_ptr<LoadedMap> SampleFieldTest::load()

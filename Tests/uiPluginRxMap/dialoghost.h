@@ -2,6 +2,7 @@
 
 #include "dialoggroups.h"
 #include "maphost.h"
+#include "paths.h"
 
 #include "Framework/dbgroupqmlunitsconverter.h"
 #include "Framework/dbgroupsingleproductnode.h"
@@ -29,7 +30,7 @@ public:
 
     MapHost host;
     DataBroker &broker = host.broker;
-    QDir images{QStringLiteral(RXMAP_BINARY_DIR "/Simulator/Resources/images")};
+    QDir images{buildPath("Simulator/Resources/images")};
     GpsGroup *gps;
     QuillSpanGroup *quillSpan;
     DbGroupRxMap *map;

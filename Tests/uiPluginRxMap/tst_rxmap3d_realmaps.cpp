@@ -1,5 +1,6 @@
 #include "Backend/prescriptionbackend.h"
 #include "maphost.h"
+#include "paths.h"
 #include "rxmap3dprobe.h"
 #include "testbase.h"
 
@@ -119,8 +120,8 @@ void TestRxMap3DRealMaps::checkCover(const QString &path)
 void TestRxMap3DRealMaps::smallMapsAreCovered_data()
 {
     QTest::addColumn<QString>("path");
-    addFiles(QDir(QStringLiteral(RXMAP_SOURCE_DIR "/Tests/fixtures")));
-    addFiles(QDir(QStringLiteral(RXMAP_SOURCE_DIR "/Simulator/Resources/sample")));
+    addFiles(QDir(sourcePath("Tests/fixtures")));
+    addFiles(QDir(sourcePath("Simulator/Resources/sample")));
 }
 
 void TestRxMap3DRealMaps::smallMapsAreCovered()

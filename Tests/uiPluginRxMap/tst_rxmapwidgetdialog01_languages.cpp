@@ -1,5 +1,6 @@
 #include "dialoghost.h"
 #include "dialogprobe.h"
+#include "paths.h"
 #include "testbase.h"
 
 #include <QTranslator>
@@ -29,7 +30,7 @@ void languageColumn()
 
 QString folder()
 {
-    return QStringLiteral(RXMAP_BINARY_DIR "/Plugins/uiPluginRxMap/translations");
+    return buildPath("Plugins/uiPluginRxMap/translations");
 }
 
 /// What of the dialog is seen, less the background and the vertical caption over the buttons.
@@ -54,8 +55,7 @@ void TestDialogLanguages::everyTextIsTranslated_data()
 void TestDialogLanguages::everyTextIsTranslated()
 {
     QFETCH(QString, language);
-    QFile file(
-        QStringLiteral(RXMAP_SOURCE_DIR "/Plugins/uiPluginRxMap/translations/uiPluginRxMap_%1.ts").arg(language));
+    QFile file(sourcePath("Plugins/uiPluginRxMap/translations/uiPluginRxMap_%1.ts").arg(language));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QXmlStreamReader reader(&file);
     int texts = 0;

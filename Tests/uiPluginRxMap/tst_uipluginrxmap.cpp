@@ -1,4 +1,5 @@
 #include "maphost.h"
+#include "paths.h"
 #include "rxmapgraphicslist.h"
 #include "rxmapwidget.h"
 #include "testbase.h"
@@ -291,8 +292,7 @@ void TestUiPluginRxMap::widgetsTakeImagesFromTheSecondDirectory()
 {
     MapHost host;
     UiPluginRxMap plugin;
-    plugin.init(&host.broker, QDir(QStringLiteral("/nowhere")),
-                QDir(QStringLiteral(RXMAP_BINARY_DIR "/Simulator/Resources/images")));
+    plugin.init(&host.broker, QDir(QStringLiteral("/nowhere")), QDir(buildPath("Simulator/Resources/images")));
     const QPointer<UiGWidget> widget = plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker);
     QVERIFY(widget->size().width() > 40.0);
     delete widget;

@@ -1,0 +1,18 @@
+// The only source that knows where the project stands, so that moving it recompiles no other test.
+
+#include "paths.h"
+
+QString sourcePath(const char *relative)
+{
+    return QStringLiteral(RXMAP_SOURCE_DIR "/") + QLatin1String(relative);
+}
+
+QString buildPath(const char *relative)
+{
+    return QStringLiteral(RXMAP_BINARY_DIR "/") + QLatin1String(relative);
+}
+
+QString realDataFolder()
+{
+    return QStringLiteral(RXMAP_TEST_DATA);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+/// Absolute path of a file of the project; `relative` starts at its root.
+QString sourcePath(const char *relative);
+/// Absolute path of a file that the build made; `relative` starts at the build folder.
+QString buildPath(const char *relative);
+/// The folder with real prescriptions, where it is present at all.
+QString realDataFolder();
