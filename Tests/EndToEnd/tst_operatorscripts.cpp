@@ -1,3 +1,4 @@
+#include "paths.h"
 #include "simulatorrun.h"
 #include "testbase.h"
 
@@ -12,7 +13,8 @@ private Q_SLOTS:
     void theWholeRoundTripOfTheSettings();
     void theDialogLocksWhileTheVehicleDrivesOff();
     void doneWhileMovingWritesNothing();
-    void twoMapsWithDifferentNumbersOfColumns();
+    void twoMapsShareProducts();
+    void doneGivesEachOfTwoMapsItsOwnMappings();
     void aTouchTellsTheRateInEveryUnitSystem();
     void aNewMapIsShownAtOnce();
     void aProductNotUnderControlShowsItsMessage();
@@ -47,6 +49,16 @@ function done() {
 }
 var sample = "%1";
 )js");
+
+/// Zones that feed products 1 to 3, and strips over the western two of the zones that feed products 1 and 3.
+const QString twoMaps =
+    QStringLiteral(R"js(
+function openZones() {
+  return terminal.open("%1", {columns: ["SEED_K_HA", "FERT_KG_HA", "HERB_L_HA"]});
+}
+function openStrips() { return terminal.open("%2", {columns: ["A", "", "B"]}); }
+)js")
+        .arg(sourcePath("Tests/fixtures/three-zones.geojson"), sourcePath("Tests/fixtures/two-strips.geojson"));
 
 } // namespace
 
@@ -121,30 +133,14 @@ print("finished");
 )js"));
 }
 
-void TestOperatorScripts::twoMapsWithDifferentNumbersOfColumns()
+void TestOperatorScripts::twoMapsShareProducts()
 {
-    QTemporaryDir folder;
-    const QString second = folder.filePath(QStringLiteral("second.geojson"));
-    QFile file(second);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"DOSE":5},"geometry":)"
-               R"({"type":"Polygon","coordinates":[[[10,50],[10.001,50],[10.001,50.001],[10,50]]]}}]})");
-    file.close();
-    runChecked(QStringLiteral("var second = \"%1\";").arg(second) + QStringLiteral(R"js(
-var first = terminal.open(sample);
-same(first.columns.length, 3, "columns of the first");
-var other = terminal.open(second, {columns: ["", "", "DOSE"]});
-var before = terminal.get(first.group, "rateCalMappings");
-openDialog();
-control("defaultRateEdit").enter("12.5");
-done();
-var after = terminal.get(first.group, "rateCalMappings");
-same(after.length, 3, "mappings of the first");
-same(after[0].defaultRate, 12.5, "default rate");
-same(after[1].dbfColumnName, before[1].dbfColumnName, "second column");
-same(terminal.get(other.group, "rateCalMappings")[0].dbfColumnName, "DOSE", "mapping of the second");
-print("finished");
-)js"));
+    runChecked(twoMaps + scriptText(QStringLiteral("shared-products.js")));
+}
+
+void TestOperatorScripts::doneGivesEachOfTwoMapsItsOwnMappings()
+{
+    runChecked(twoMaps + scriptText(QStringLiteral("shared-mappings.js")));
 }
 
 void TestOperatorScripts::aTouchTellsTheRateInEveryUnitSystem()
