@@ -20,15 +20,21 @@ inline double median(std::vector<double> values)
     return *middle;
 }
 
+struct NoPreparation {
+    void operator()() const { }
+};
+
 /// Runs both in turn in every iteration, the order swapped each time, and sets `counter` to the quotient of the
-/// medians.
-template <typename Work, typename Baseline>
-void compareSideBySide(benchmark::State &state, const char *counter, Work &&work, Baseline &&baseline)
+/// medians. `prepare` comes before each iteration and is not timed.
+template <typename Work, typename Baseline, typename Preparation = NoPreparation>
+void compareSideBySide(benchmark::State &state, const char *counter, Work &&work, Baseline &&baseline,
+                       Preparation &&prepare = {})
 {
     std::vector<double> workTimes;
     std::vector<double> baselineTimes;
     bool swapped = false;
     for (auto _ : state) {
+        prepare();
         if (swapped)
             baselineTimes.push_back(timed(baseline));
         workTimes.push_back(timed(work));

@@ -1,0 +1,195 @@
+// Loading a prescription until it is published, beside GDAL's own reading of the same file.
+
+#include "Backend/prescriptionbackend.h"
+#include "gdalsession.h"
+#include "sidebyside.h"
+
+#include "Framework/databroker.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <ogrsf_frmts.h>
+#include <random>
+#include <stdexcept>
+
+namespace {
+
+const char *const rateColumns[] = {"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA"};
+
+void addColumns(OGRLayer &layer)
+{
+    OGRFieldDefn id("ID", OFTInteger);
+    layer.CreateField(&id);
+    for (const char *name : rateColumns) {
+        OGRFieldDefn rate(name, OFTReal);
+        rate.SetWidth(12);
+        rate.SetPrecision(3);
+        layer.CreateField(&rate);
+    }
+}
+
+/// Corner of a field of 10 m cells whose rows run 20 degrees north of east, in degrees.
+OGRPoint cornerOf(int column, int row)
+{
+    constexpr double metresPerDegree = 111195.0;
+    constexpr double latitude = 48.0;
+    const double radian = std::acos(-1.0) / 180.0;
+    const double turn = 20.0 * radian;
+    const double east = 10.0 * (column * std::cos(turn) - row * std::sin(turn));
+    const double north = 10.0 * (column * std::sin(turn) + row * std::cos(turn));
+    return {11.0 + east / (metresPerDegree * std::cos(latitude * radian)), latitude + north / metresPerDegree};
+}
+
+void addCell(OGRLayer &layer, int column, int row, int id, std::mt19937 &random)
+{
+    OGRLinearRing ring;
+    for (const auto &[x, y] : {std::pair(0, 0), std::pair(0, 1), std::pair(1, 1), std::pair(1, 0), std::pair(0, 0)}) {
+        const OGRPoint corner = cornerOf(column + x, row + y);
+        ring.addPoint(corner.getX(), corner.getY());
+    }
+    OGRPolygon cell;
+    cell.addRing(&ring);
+    OGRFeature feature(layer.GetLayerDefn());
+    feature.SetField("ID", id);
+    for (const char *name : rateColumns)
+        feature.SetField(name, static_cast<double>(random() % 200000) / 1000.0);
+    feature.SetGeometry(&cell);
+    if (layer.CreateFeature(&feature) != OGRERR_NONE)
+        throw std::runtime_error("the cells cannot be written");
+}
+
+/// A Shapefile of side × side cells, three rates each.
+void writeCells(const QString &path, int side)
+{
+    const GdalSession session;
+    GDALDriver *format = GetGDALDriverManager()->GetDriverByName("ESRI Shapefile");
+    const GDALDatasetUniquePtr file(format->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
+    OGRSpatialReference reference;
+    reference.SetWellKnownGeogCS("WGS84");
+    OGRLayer *layer = file->CreateLayer("cells", &reference, wkbPolygon, nullptr);
+    addColumns(*layer);
+    std::mt19937 random(7);
+    for (int row = 0; row < side; ++row) {
+        for (int column = 0; column < side; ++column)
+            addCell(*layer, column, row, row * side + column, random);
+    }
+}
+
+/// What a reader of all features cannot do without: each geometry, and each field by its type.
+double readWithGdal(const QString &path)
+{
+    const GdalSession session;
+    const char *const formats[] = {"ESRI Shapefile", nullptr};
+    const GDALDatasetUniquePtr file(
+        GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, formats));
+    OGRLayer *layer = file->GetLayer(0);
+    double sum = 0.0;
+    while (const OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
+        benchmark::DoNotOptimize(feature->GetGeometryRef());
+        for (int i = 0; i < feature->GetFieldCount(); ++i) {
+            if (feature->GetFieldDefnRef(i)->GetType() == OFTString)
+                benchmark::DoNotOptimize(feature->GetFieldAsString(i));
+            else
+                sum += feature->GetFieldAsDouble(i);
+        }
+    }
+    return sum;
+}
+
+/// A host that loads the file into an empty broker, and watches how the user-interface thread fares meanwhile.
+class Loading {
+public:
+    explicit Loading(const QString &file)
+    {
+        request.path = file;
+        request.rateCalNames =
+            QStringList({QStringLiteral("product1"), QStringLiteral("product2"), QStringLiteral("product3")});
+        tick.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&tick, &QTimer::timeout, [this] { noteAnswer(); });
+    }
+
+    /// Leaves an empty broker.
+    void reset()
+    {
+        backend.reset();
+        broker = std::make_unique<DataBroker>();
+        backend = std::make_unique<PrescriptionBackend>(broker.get());
+        QObject::connect(backend.get(), &PrescriptionBackend::progress, [this] { ++progressReports; });
+        progressReports = 0;
+    }
+
+    void load()
+    {
+        sinceAnswer.start();
+        tick.start(1);
+        const LoadReport report = backend->loadAndWait(request);
+        tick.stop();
+        noteAnswer();
+        if (!report.isOk())
+            throw std::runtime_error(report.error.toStdString());
+        polygons = report.polygons;
+    }
+
+    int polygons = 0;
+    int progressReports = 0;
+    /// The longest time without an answer over all loads, seconds.
+    double longestPause = 0.0;
+
+private:
+    void noteAnswer()
+    {
+        longestPause = std::max(longestPause, 1e-9 * static_cast<double>(sinceAnswer.nsecsElapsed()));
+        sinceAnswer.start();
+    }
+
+    LoadRequest request;
+    std::unique_ptr<DataBroker> broker;
+    std::unique_ptr<PrescriptionBackend> backend;
+    QTimer tick;
+    QElapsedTimer sinceAnswer;
+};
+
+void load(benchmark::State &state, const QString &path)
+{
+    int argumentCount = 0;
+    const QCoreApplication application(argumentCount, nullptr);
+    Loading loading(path);
+    compareSideBySide(
+        state, "over_gdal", [&loading] { loading.load(); }, [&path] { benchmark::DoNotOptimize(readWithGdal(path)); },
+        [&loading] { loading.reset(); });
+    state.counters["polygons"] = loading.polygons;
+    state.counters["progress_reports"] = loading.progressReports;
+    state.counters["longest_pause_seconds"] = loading.longestPause;
+}
+
+void loadCells(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("cells.shp"));
+    writeCells(path, 317);
+    load(state, path);
+}
+
+/// Real prescriptions, where they are present.
+const bool areRealMapsAdded = [] {
+    for (const char *map : {"cells-17k/cells", "cells-three-products/cells"}) {
+        const QString path = QStringLiteral(RXMAP_BENCHMARK_DATA "/%1.shp").arg(QLatin1String(map));
+        if (QFileInfo::exists(path)) {
+            benchmark::RegisterBenchmark((std::string("Load/") + map).c_str(), load, path)
+                ->UseManualTime()
+                ->Iterations(15);
+        }
+    }
+    return true;
+}();
+
+} // namespace
+
+BENCHMARK(loadCells)->Name("Load/cells-100k")->UseManualTime()->Iterations(9);
