@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QScopeGuard>
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void aMapPublishedLaterDoesNotEnableIt();
     void theWidgetHasTheButtonsSizeAndItsPosition();
     void aShortTouchDoesNothing();
+    void onlyAFingerHeldOnTheButtonOpensTheDialog_data();
+    void onlyAFingerHeldOnTheButtonOpensTheDialog();
     void aLongTouchRunsTheDialogModally();
     void theFlagIsClearedAfterTheDialogAndBeforeTheRepaint();
     void closingThePageWhileTheDialogRunsIsSafe();
@@ -234,6 +238,47 @@ void TestRxMapWidget::aShortTouchDoesNothing()
     Q_EMIT page.button->buttonReleased(0);
     QCoreApplication::processEvents();
     QVERIFY(!watch.hasOpened);
+    QVERIFY(!page.widget.isPopupActive());
+}
+
+void TestRxMapWidget::onlyAFingerHeldOnTheButtonOpensTheDialog_data()
+{
+    QTest::addColumn<bool>("slidesOff");
+    QTest::addColumn<bool>("isHeld");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("lifted at once") << false << false << false;
+    QTest::newRow("lifted beside it") << true << false << false;
+    QTest::newRow("held beside it") << true << true << false;
+    QTest::newRow("held on it") << false << true << true;
+}
+
+void TestRxMapWidget::onlyAFingerHeldOnTheButtonOpensTheDialog()
+{
+    QFETCH(bool, slidesOff);
+    QFETCH(bool, isHeld);
+    constexpr int longerThanAnyHoldMs = 1000;
+    DialogHost host;
+    Page page(host);
+    QGraphicsScene scene(0, 0, 400, 300);
+    scene.addItem(&page.widget);
+    const auto takeOut = qScopeGuard([&] { scene.removeItem(&page.widget); });
+    QGraphicsView view(&scene);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const QPoint onIt = view.mapFromScene(page.widget.sceneBoundingRect().center());
+    const QPoint besideIt = view.mapFromScene(page.widget.sceneBoundingRect().bottomRight() + QPointF(20, 20));
+    const DialogWatch watch;
+
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, onIt);
+    if (slidesOff) {
+        QMouseEvent slide(QEvent::MouseMove, besideIt, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.viewport(), &slide);
+    }
+    if (isHeld)
+        QTest::qWait(longerThanAnyHoldMs);
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, slidesOff ? besideIt : onIt);
+    QCoreApplication::processEvents();
+    QTEST(watch.hasOpened, "opens");
     QVERIFY(!page.widget.isPopupActive());
 }
 
