@@ -113,7 +113,7 @@
     <name>RxMapGraphicsList</name>
     <message>
         <source>Rx Rate: </source>
-        <translation>Rx-Menge: </translation>
+        <translation>Sollmenge: </translation>
     </message>
 </context>
 <context>
@@ -124,26 +124,26 @@
     </message>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Applikationskarte einstellen</translation>
+        <translation>Einstellungen Applikationskarte</translation>
     </message>
 </context>
 <context>
     <name>RxMapWidgetDialog01</name>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Applikationskarte einstellen</translation>
+        <translation>Einstellungen Applikationskarte</translation>
     </message>
     <message>
         <source>Enable Zero Rate Shutoff</source>
-        <translation>Abschaltung bei Nullmenge</translation>
+        <translation>Nullmengenabschaltung</translation>
     </message>
     <message>
         <source>Apply to all products</source>
-        <translation>Für alle Produkte</translation>
+        <translation>Auf alle Produkte anwenden</translation>
     </message>
     <message>
         <source>On look-ahead (seconds)</source>
-        <translation>Vorlauf Ein (Sekunden)</translation>
+        <translation>Vorausschauzeit Ein (s)</translation>
     </message>
     <message>
         <source>This product node is not under VRA control.</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Changes not permitted while vehicle is moving.</source>
-        <translation>Während der Fahrt sind keine Änderungen erlaubt.</translation>
+        <translation>Änderungen sind während der Fahrt nicht zulässig.</translation>
     </message>
     <message>
         <source>P</source>

@@ -113,7 +113,7 @@
     <name>RxMapGraphicsList</name>
     <message>
         <source>Rx Rate: </source>
-        <translation>Dosis Rx: </translation>
+        <translation>Dosis prescrita: </translation>
     </message>
 </context>
 <context>
@@ -124,14 +124,14 @@
     </message>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Ajustes del mapa Rx</translation>
+        <translation>Ajustes del mapa de prescripción</translation>
     </message>
 </context>
 <context>
     <name>RxMapWidgetDialog01</name>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Ajustes del mapa Rx</translation>
+        <translation>Ajustes del mapa de prescripción</translation>
     </message>
     <message>
         <source>Enable Zero Rate Shutoff</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>On look-ahead (seconds)</source>
-        <translation>Anticipación (segundos)</translation>
+        <translation>Anticipación al activar (s)</translation>
     </message>
     <message>
         <source>This product node is not under VRA control.</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Changes not permitted while vehicle is moving.</source>
-        <translation>No se permiten cambios con el vehículo en marcha.</translation>
+        <translation>No se permiten cambios con el vehículo en movimiento.</translation>
     </message>
     <message>
         <source>P</source>
@@ -178,7 +178,7 @@ S</translation>
     </message>
     <message>
         <source>Default Rate</source>
-        <translation>Dosis prev.</translation>
+        <translation>Dosis estándar</translation>
     </message>
 </context>
 <context>

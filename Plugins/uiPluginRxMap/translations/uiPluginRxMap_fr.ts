@@ -113,29 +113,29 @@
     <name>RxMapGraphicsList</name>
     <message>
         <source>Rx Rate: </source>
-        <translation>Dose Rx : </translation>
+        <translation>Dose préconisée : </translation>
     </message>
 </context>
 <context>
     <name>RxMapWidget</name>
     <message>
         <source>Product Control</source>
-        <translation>Contrôle des produits</translation>
+        <translation>Gestion des produits</translation>
     </message>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Réglages de la carte Rx</translation>
+        <translation>Réglages carte de préconisation</translation>
     </message>
 </context>
 <context>
     <name>RxMapWidgetDialog01</name>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Réglages de la carte Rx</translation>
+        <translation>Réglages carte de préconisation</translation>
     </message>
     <message>
         <source>Enable Zero Rate Shutoff</source>
-        <translation>Arrêt à dose nulle</translation>
+        <translation>Coupure à dose nulle</translation>
     </message>
     <message>
         <source>Apply to all products</source>
@@ -143,15 +143,15 @@
     </message>
     <message>
         <source>On look-ahead (seconds)</source>
-        <translation>Anticipation (secondes)</translation>
+        <translation>Anticipation marche (s)</translation>
     </message>
     <message>
         <source>This product node is not under VRA control.</source>
-        <translation>Ce nœud produit n&apos;est pas sous contrôle VRA.</translation>
+        <translation>Ce nœud produit n&apos;est pas piloté en VRA.</translation>
     </message>
     <message>
         <source>Changes not permitted while vehicle is moving.</source>
-        <translation>Modifications interdites pendant le déplacement.</translation>
+        <translation>Modifications interdites lorsque le véhicule roule.</translation>
     </message>
     <message>
         <source>P</source>
@@ -177,7 +177,7 @@ S</translation>
     </message>
     <message>
         <source>Default Rate</source>
-        <translation>Dose déf.</translation>
+        <translation>Dose par défaut</translation>
     </message>
 </context>
 <context>

@@ -113,7 +113,7 @@
     <name>RxMapGraphicsList</name>
     <message>
         <source>Rx Rate: </source>
-        <translation>Dose Rx: </translation>
+        <translation>Dose prescrita: </translation>
     </message>
 </context>
 <context>
@@ -124,18 +124,18 @@
     </message>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Ajustes do mapa Rx</translation>
+        <translation>Ajustes do mapa de prescrição</translation>
     </message>
 </context>
 <context>
     <name>RxMapWidgetDialog01</name>
     <message>
         <source>Rx Map Settings</source>
-        <translation>Ajustes do mapa Rx</translation>
+        <translation>Ajustes do mapa de prescrição</translation>
     </message>
     <message>
         <source>Enable Zero Rate Shutoff</source>
-        <translation>Corte em dose zero</translation>
+        <translation>Corte com dose zero</translation>
     </message>
     <message>
         <source>Apply to all products</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>On look-ahead (seconds)</source>
-        <translation>Antecipação (segundos)</translation>
+        <translation>Antecipação ao ligar (s)</translation>
     </message>
     <message>
         <source>This product node is not under VRA control.</source>
