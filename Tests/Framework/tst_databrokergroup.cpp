@@ -196,6 +196,8 @@ void TestDataBrokerGroup::aWriteByNameHoldsNoToken()
     group.setWriteProtected("level", true);
     messages().expectWarning(QStringLiteral("set sample::level failed: invalid write access token"));
     QCOMPARE(group.setProperty("level", 1), int(DataBrokerGroup::ErrInvalidToken));
+    QCOMPARE(messages().debugLines(),
+             QStringList{QStringLiteral("\"ERROR: set sample::level failed: invalid write access token\"")});
     QCOMPARE(group.getLevel(), 0);
 }
 

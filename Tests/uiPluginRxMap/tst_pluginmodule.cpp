@@ -17,6 +17,8 @@ private Q_SLOTS:
     void metadataIsReadWithoutLoading();
     void qtplugininfoPrintsTheMetadata();
     void onlyTheTwoEntryPointsAreExported();
+    void idsOfTheSharedTypesAreTakenFromTheFramework_data();
+    void idsOfTheSharedTypesAreTakenFromTheFramework();
     void theInterfaceIsAnsweredAndTheInstanceIsShared();
     void afterTheInstanceIsGoneAFreshOneComes();
     void theEntryPointItselfKeepsTheInstance();
@@ -71,6 +73,23 @@ void TestPluginModule::onlyTheTwoEntryPointsAreExported()
         names.append(line.section(QLatin1Char(' '), 0, 0));
     names.sort();
     QCOMPARE(names, (QStringList{"qt_plugin_instance", "qt_plugin_query_metadata"}));
+}
+
+void TestPluginModule::idsOfTheSharedTypesAreTakenFromTheFramework_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::newRow("mappings") << QStringLiteral("QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>");
+    QTest::newRow("legends") << QStringLiteral("QList<QList<OrvikTypes::RX_RATECOLOR>>");
+    QTest::newRow("point") << QStringLiteral("OrvikTypes::XYZ");
+}
+
+void TestPluginModule::idsOfTheSharedTypesAreTakenFromTheFramework()
+{
+    QFETCH(QString, type);
+    // A module that registered a type itself would hold the function instead of importing it.
+    QString imports = outputOf(QStringLiteral("nm"), {"-D", "-C", "--undefined-only", pluginFile});
+    imports.replace(QRegularExpression(QStringLiteral("(?<=>) (?=>)")), QString());
+    QVERIFY2(imports.contains(QStringLiteral("QMetaTypeId<%1>::qt_metatype_id()").arg(type)), qPrintable(imports));
 }
 
 void TestPluginModule::theInterfaceIsAnsweredAndTheInstanceIsShared()
