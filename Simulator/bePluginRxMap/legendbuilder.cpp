@@ -1,6 +1,7 @@
 #include "legendbuilder.h"
 
 #include "rateramp.h"
+#include "ratesort.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +15,7 @@ std::vector<float> sortedFinite(const std::vector<float> &rates)
     sorted.reserve(rates.size());
     std::copy_if(rates.begin(), rates.end(), std::back_inserter(sorted),
                  [](float rate) { return std::isfinite(rate); });
-    std::sort(sorted.begin(), sorted.end());
+    RateSort::sort(sorted);
     return sorted;
 }
 

@@ -156,8 +156,7 @@ bool LocalPlane::project(const SourceMap &map, std::vector<double> &xs, std::vec
     const Range y = rangeOf(ys);
     SmoothProjection smooth;
     if (xs.size() > fewVertices && smooth.fit(exact, x.least, x.greatest, y.least, y.greatest)) {
-        for (size_t i = 0; i < xs.size(); ++i)
-            smooth.apply(xs[i], ys[i]);
+        smooth.apply(xs.size(), xs.data(), ys.data());
         return true;
     }
     // In parts: there may be more coordinates than one call takes.

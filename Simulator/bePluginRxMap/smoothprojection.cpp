@@ -71,24 +71,49 @@ template <std::size_t size> Square<size> coefficients(const Square<size> &powers
 
 } // namespace
 
-double SmoothProjection::value(const Coefficients &coefficients, double u, double v)
+SmoothProjection::Block SmoothProjection::values(const Coefficients &coefficients, const Block &us, const Block &vs)
 {
-    double result = 0.0;
+    Block result = {};
     for (std::size_t i = size; i-- > 0;) {
-        double row = 0.0;
-        for (std::size_t k = size; k-- > 0;)
-            row = row * v + coefficients[i][k];
-        result = result * u + row;
+        Block row;
+        row.fill(coefficients[i][size - 1]);
+        for (std::size_t k = size - 1; k-- > 0;)
+            for (std::size_t n = 0; n < blockSize; ++n)
+                row[n] = row[n] * vs[n] + coefficients[i][k];
+        for (std::size_t n = 0; n < blockSize; ++n)
+            result[n] = result[n] * us[n] + row[n];
     }
     return result;
 }
 
-void SmoothProjection::apply(double &x, double &y) const
+void SmoothProjection::applyToBlock(double *xs, double *ys) const
 {
-    const double u = (x - middleX) / halfWidth;
-    const double v = (y - middleY) / halfHeight;
-    x = value(forX, u, v);
-    y = value(forY, u, v);
+    Block us;
+    Block vs;
+    for (std::size_t n = 0; n < blockSize; ++n) {
+        us[n] = (xs[n] - middleX) / halfWidth;
+        vs[n] = (ys[n] - middleY) / halfHeight;
+    }
+    const Block x = values(forX, us, vs);
+    const Block y = values(forY, us, vs);
+    std::copy(x.begin(), x.end(), xs);
+    std::copy(y.begin(), y.end(), ys);
+}
+
+void SmoothProjection::apply(std::size_t count, double *xs, double *ys) const
+{
+    const std::size_t whole = count - count % blockSize;
+    for (std::size_t i = 0; i < whole; i += blockSize)
+        applyToBlock(xs + i, ys + i);
+    if (whole == count)
+        return;
+    Block lastXs = {};
+    Block lastYs = {};
+    std::copy(xs + whole, xs + count, lastXs.begin());
+    std::copy(ys + whole, ys + count, lastYs.begin());
+    applyToBlock(lastXs.data(), lastYs.data());
+    std::copy_n(lastXs.begin(), count - whole, xs + whole);
+    std::copy_n(lastYs.begin(), count - whole, ys + whole);
 }
 
 bool SmoothProjection::fit(const Exact &exact, double leastX, double greatestX, double leastY, double greatestY)
@@ -129,8 +154,8 @@ bool SmoothProjection::isGoodEnough(const Exact &exact) const
     std::vector<double> exactXs = xs;
     std::vector<double> exactYs = ys;
     exact(xs.size(), exactXs.data(), exactYs.data());
+    apply(xs.size(), xs.data(), ys.data());
     for (std::size_t i = 0; i < xs.size(); ++i) {
-        apply(xs[i], ys[i]);
         const bool isNear =
             std::fabs(xs[i] - exactXs[i]) <= greatestError && std::fabs(ys[i] - exactYs[i]) <= greatestError;
         if (!isNear)

@@ -15,13 +15,20 @@ public:
     /// somewhere, which is judged at places between those that they go through; then they are not to be used.
     bool fit(const Exact &exact, double leastX, double greatestX, double leastY, double greatestY);
     /// Projects a place of the extent.
-    void apply(double &x, double &y) const;
+    void apply(double &x, double &y) const { apply(1, &x, &y); }
+    /// Projects `count` places of the extent in their arrays.
+    void apply(std::size_t count, double *xs, double *ys) const;
 
 private:
     static constexpr std::size_t size = 6;
     using Coefficients = std::array<std::array<double, size>, size>;
 
-    static double value(const Coefficients &coefficients, double u, double v);
+    /// So many places are projected in step, which lets the processor work on two at a time.
+    static constexpr std::size_t blockSize = 8;
+    using Block = std::array<double, blockSize>;
+
+    static Block values(const Coefficients &coefficients, const Block &us, const Block &vs);
+    void applyToBlock(double *xs, double *ys) const;
     bool isGoodEnough(const Exact &exact) const;
 
     double middleX = 0.0;

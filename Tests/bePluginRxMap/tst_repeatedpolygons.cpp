@@ -2,6 +2,7 @@
 #include "testbase.h"
 
 #include <algorithm>
+#include <random>
 
 namespace {
 
@@ -24,6 +25,35 @@ PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<Pla
     polygon.outer = outer;
     polygon.holes = holes;
     return polygon;
+}
+
+/// Whether two rings of different vertices are the same but for their start and direction.
+bool isSameOutline(const PlaneRing &a, PlaneRing b)
+{
+    for (int direction = 0; direction < 2; ++direction) {
+        for (size_t start = 0; start < b.size(); ++start) {
+            if (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), samePlace))
+                return true;
+            std::rotate(b.begin(), b.begin() + 1, b.end());
+        }
+        std::reverse(b.begin(), b.end());
+    }
+    return false;
+}
+
+/// What is left when each polygon without holes is compared with every later one.
+QList<int> recordsLeftByPairs(const std::vector<PlanePolygon> &polygons, bool (*hides)(int, int))
+{
+    QList<int> left;
+    for (size_t i = 0; i < polygons.size(); ++i) {
+        const bool isHidden = std::any_of(
+            polygons.begin() + static_cast<std::ptrdiff_t>(i) + 1, polygons.end(), [&](const PlanePolygon &later) {
+                return hides(later.record, polygons[i].record) && isSameOutline(polygons[i].outer, later.outer);
+            });
+        if (!isHidden)
+            left.append(polygons[i].record);
+    }
+    return left;
 }
 
 bool always(int, int)
@@ -49,6 +79,8 @@ private Q_SLOTS:
     void sees_data();
     void sees();
     void asksWhetherTheLaterOneMayStand();
+    void takesNegativeZeroForZero();
+    void findsWhatComparingEachPairFinds();
 };
 
 void RepeatedPolygonsTest::keepsTheLastOfEqualPolygons()
@@ -96,6 +128,30 @@ void RepeatedPolygonsTest::asksWhetherTheLaterOneMayStand()
         RepeatedPolygons::drop(polygons, [](int later, int earlier) { return later == 2 && earlier == 0; });
     QCOMPARE(dropped, 1);
     QCOMPARE(recordsOf(polygons), QList<int>({1, 2}));
+}
+
+void RepeatedPolygonsTest::takesNegativeZeroForZero()
+{
+    PlaneRing other = square(0, 0, 9);
+    other.front() = {-0.0, -0.0};
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, other)};
+    QCOMPARE(RepeatedPolygons::drop(polygons, always), 1);
+}
+
+void RepeatedPolygonsTest::findsWhatComparingEachPairFinds()
+{
+    const auto hides = [](int later, int earlier) { return (later + earlier) % 3 != 0; };
+    std::mt19937 random(8);
+    for (int round = 0; round < 200; ++round) {
+        std::vector<PlanePolygon> polygons;
+        for (int record = 0; record < 40; ++record) {
+            const PlaneRing ring = square(random() % 3, random() % 3, 1 + random() % 3);
+            polygons.push_back(polygonOf(record, random() % 2 == 0 ? ring : turned(ring)));
+        }
+        const QList<int> expected = recordsLeftByPairs(polygons, hides);
+        QCOMPARE(RepeatedPolygons::drop(polygons, hides), 40 - expected.size());
+        QCOMPARE(recordsOf(polygons), expected);
+    }
 }
 
 QTEST_GUILESS_MAIN(RepeatedPolygonsTest)

@@ -11,6 +11,7 @@ class SmoothProjectionTest : public TestBase {
 
 private Q_SLOTS:
     void goesThroughAnyPolynomialOfLowDegree();
+    void projectsManyAsItProjectsEach();
     void givesUpOnWhatIsNotSmooth();
     void givesUpWhereTheProjectionFails();
     void fitsAnExtentWithoutWidth();
@@ -35,6 +36,34 @@ void SmoothProjectionTest::goesThroughAnyPolynomialOfLowDegree()
         smooth.apply(px, py);
         exact(1, &ex, &ey);
         QVERIFY(std::fabs(px - ex) < 1e-9 && std::fabs(py - ey) < 1e-9);
+    }
+}
+
+void SmoothProjectionTest::projectsManyAsItProjectsEach()
+{
+    SmoothProjection smooth;
+    QVERIFY(smooth.fit(
+        [](std::size_t count, double *xs, double *ys) {
+            for (std::size_t i = 0; i < count; ++i) {
+                xs[i] = std::sin(xs[i]) * ys[i];
+                ys[i] = std::cos(ys[i]);
+            }
+        },
+        0.1, 0.2, 0.3, 0.4));
+    std::mt19937 random(6);
+    std::uniform_real_distribution<double> share(0.0, 0.1);
+    for (std::size_t count = 0; count < 40; ++count) {
+        std::vector<double> xs, ys;
+        for (std::size_t i = 0; i < count; ++i) {
+            xs.push_back(0.1 + share(random));
+            ys.push_back(0.3 + share(random));
+        }
+        std::vector<double> eachXs = xs;
+        std::vector<double> eachYs = ys;
+        for (std::size_t i = 0; i < count; ++i)
+            smooth.apply(eachXs[i], eachYs[i]);
+        smooth.apply(count, xs.data(), ys.data());
+        QVERIFY(xs == eachXs && ys == eachYs);
     }
 }
 
