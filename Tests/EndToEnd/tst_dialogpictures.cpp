@@ -2,11 +2,11 @@
 #include "simulatorrun.h"
 #include "testbase.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 /// The settings dialog in each of its states, as an operator sees it, beside stored pictures.
-class TestDialogPictures : public TestBase
-{
+class TestDialogPictures : public TestBase {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -15,6 +15,9 @@ private Q_SLOTS:
     void statesLookAsStored();
 
 private:
+    /// As many as a machine may have: the product buttons overlap.
+    void photographSixteenProducts();
+
     QTemporaryDir folder;
 };
 
@@ -37,12 +40,35 @@ terminal.find("doneButton").touch();
 )js");
     const SimulatorRun run = runScript(script.arg(folder.path(), sampleField()));
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    photographSixteenProducts();
+}
+
+void TestDialogPictures::photographSixteenProducts()
+{
+    QStringList products;
+    for (int number = 1; number <= 16; ++number)
+        products.append(
+            QStringLiteral(R"({"name": "Product %1", "shortName": "Bin%1", "kind": "weight", "bin": %1})").arg(number));
+    QFile file(folder.filePath(QStringLiteral("products.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("[%1]").arg(products.join(QLatin1Char(','))).toUtf8());
+    file.close();
+    const QString script = QStringLiteral(R"js(
+terminal.open("%2", {columns: ["FERT_KG_HA"]});
+terminal.find("rxOptions").longTouch();
+terminal.wait(100);
+terminal.screenshot("%1/dialog-sixteen-products.png");
+terminal.find("doneButton").touch();
+)js");
+    const SimulatorRun run =
+        runScript(script.arg(folder.path(), sampleField()), {QStringLiteral("--products"), file.fileName()});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
 }
 
 void TestDialogPictures::statesLookAsStored_data()
 {
     QTest::addColumn<QString>("state");
-    for (const char *state : {"dialog-editable", "dialog-not-under-vra", "dialog-locked"})
+    for (const char *state : {"dialog-editable", "dialog-not-under-vra", "dialog-locked", "dialog-sixteen-products"})
         QTest::newRow(state) << QString::fromLatin1(state);
 }
 
