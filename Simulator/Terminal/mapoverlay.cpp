@@ -28,6 +28,7 @@ double roundLength(double most)
 
 MapOverlay::MapOverlay(QWidget *parent)
     : QWidget(parent)
+    , pace(this)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setObjectName(QStringLiteral("mapOverlay"));
@@ -55,7 +56,7 @@ void MapOverlay::setVehicle(const QPointF &place, double heading)
 {
     vehicle = place;
     vehicleHeading = heading;
-    update();
+    pace.request();
 }
 
 void MapOverlay::showBubble(const QPointF &field, const QString &newText, const QColor &color)
@@ -63,7 +64,7 @@ void MapOverlay::showBubble(const QPointF &field, const QString &newText, const 
     bubbleAt = field;
     text = newText;
     bubbleColor = color;
-    update();
+    pace.request();
 }
 
 void MapOverlay::paintEvent(QPaintEvent *)

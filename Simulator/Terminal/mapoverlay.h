@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera.h"
+#include "framepace.h"
 
 #include <QColor>
 #include <QPointF>
@@ -10,12 +11,14 @@
 class QPainter;
 
 /// What lies over the map without being touched: vehicle, north arrow, scale bar and the bubble at the touched point.
+/// Drawing it draws the map below it once more, so a vehicle and bubbles that change faster than frames share one.
 class MapOverlay : public QWidget {
     Q_OBJECT
 
 public:
     explicit MapOverlay(QWidget *parent = nullptr);
 
+    /// Drawn at once, in step with the view that `camera` is of.
     void setCamera(const Camera &camera);
     /// The part of the view between the panels, pixels.
     void setFreeArea(const QRectF &area);
@@ -44,4 +47,5 @@ private:
     QPointF bubbleAt;
     QString text;
     QColor bubbleColor;
+    FramePace pace;
 };

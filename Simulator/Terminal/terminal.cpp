@@ -27,13 +27,6 @@ static void initialiseResources()
     Q_INIT_RESOURCE(terminal);
 }
 
-namespace {
-
-/// Changes that come faster than this share a frame.
-constexpr int frameIntervalMs = 30;
-
-} // namespace
-
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     : QObject(parent)
     , dataBroker(QString(), TerminalWindow::DisplaySize)
@@ -41,11 +34,9 @@ Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     , machineModel(new Machine(&dataBroker, prescriptions.data(), products, units))
     , vehicleModel(new Vehicle(machineModel->gpsSolution(), &clock))
     , display(new TerminalWindow(products))
+    , viewPace(display->fieldView())
 {
     initialiseResources();
-    nextFrame.setSingleShot(true);
-    nextFrame.setInterval(frameIntervalMs);
-    connect(&nextFrame, &QTimer::timeout, this, [this] { display->fieldView()->update(); });
     connectDisplay();
     showLegend();
     showVehicle();
@@ -257,8 +248,7 @@ void Terminal::showLegend()
 void Terminal::refresh()
 {
     display->fieldView()->forgetColors();
-    if (!nextFrame.isActive())
-        nextFrame.start();
+    viewPace.request();
 }
 
 void Terminal::redrawMap()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
+#include "framepace.h"
 #include "product.h"
 #include "result.h"
 #include "simulationclock.h"
@@ -15,7 +16,6 @@
 #include <QPointer>
 #include <QRectF>
 #include <QScopedPointer>
-#include <QTimer>
 #include <QStringList>
 
 #include <optional>
@@ -99,5 +99,5 @@ private:
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;
-    QTimer nextFrame;
+    FramePace viewPace;
 };
