@@ -14,9 +14,9 @@
 
 #include <QOpenGLShader>
 #include <QOpenGLShaderProgram>
+#include <QPointer>
 
 #include <GL/glu.h>
-#include <cstddef>
 #include <iostream>
 #include <string>
 #include <syslog.h>
@@ -25,6 +25,23 @@ using OrvikTypes::RX_POLYGON;
 using OrvikTypes::RX_RATECOLOR;
 using Mappings = QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>;
 using Legends = QList<QList<RX_RATECOLOR>>;
+
+namespace {
+
+/// The first prescription group, in the broker's order, that maps `product`; null when there is none.
+DataBrokerGroup *findRxMapGroup(const DataBroker &broker, const QString &product)
+{
+    const QStringList names = broker.findGroup(QStringLiteral("rxMap.*"), true, false);
+    for (const QString &name : names) {
+        DataBrokerGroup *group = broker.getGroup(name, false);
+        // A hook may have taken the group out since the names were listed.
+        if (group != nullptr && findMapping(groupValue<Mappings>(*group, "rateCalMappings"), product) >= 0)
+            return group;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 RxMap3D::RxMap3D(DataBroker *broker, QObject *parent)
     : QObject(parent)
@@ -49,21 +66,17 @@ void RxMap3D::setAamGroup(DbGroupAAM *group)
 
 void RxMap3D::updateRxMapGroup()
 {
-    setDbGroup(aamGroup == nullptr ? nullptr : findRxMapGroup());
-}
-
-DataBrokerGroup *RxMap3D::findRxMapGroup() const
-{
-    const QStringList names =
-        broker == nullptr ? QStringList() : broker->findGroup(QStringLiteral("rxMap.*"), true, false);
-    for (const QString &name : names) {
-        DataBrokerGroup *group = broker->getGroup(name, false);
-        if (group == nullptr)
-            continue;
-        if (findMapping(groupValue<Mappings>(*group, "rateCalMappings"), aamGroup->productGroupName()) >= 0)
-            return group;
+    DataBrokerGroup *group = nullptr;
+    if (aamGroup != nullptr && broker != nullptr) {
+        // Reading runs the host's hooks, which may delete this or choose another product meanwhile: that choice is
+        // the newer one.
+        const QPointer<RxMap3D> self(this);
+        const DbGroupAAM *aam = aamGroup;
+        group = findRxMapGroup(*broker, aam->productGroupName());
+        if (self == nullptr || aamGroup != aam)
+            return;
     }
-    return nullptr;
+    setDbGroup(group);
 }
 
 void RxMap3D::setDbGroup(DataBrokerGroup *group)
@@ -95,10 +108,11 @@ void RxMap3D::updatePolygons()
     GLUtesselator *tessellator = gluNewTess();
     if (tessellator == nullptr)
         return;
-    // Meant to leave the tessellator behind: without a group or a product nothing is taken back.
+    // The tessellator is meant to be left behind here: without a group or a product nothing is taken back.
     if (rxMapGroup == nullptr || aamGroup == nullptr)
         return;
-    // Reading runs the host's hooks, which may bind another group meanwhile.
+    // Reading runs the host's hooks, which may delete this, bind another group or build the map meanwhile.
+    const QPointer<RxMap3D> self(this);
     const DataBrokerGroup &group = *rxMapGroup;
     const DbGroupAAM &aam = *aamGroup;
     PolygonTessellation::registerCallbacks(tessellator);
@@ -108,7 +122,9 @@ void RxMap3D::updatePolygons()
     const auto mappings = groupValue<Mappings>(group, "rateCalMappings");
     const int mappingIndex = findMapping(mappings, aam.productGroupName());
     const auto legends = groupValue<Legends>(group, "rateColors");
-    if (mappingIndex >= 0 && mappingIndex < legends.size()) {
+    const bool isStillBound = self != nullptr && rxMapGroup == &group && aamGroup == &aam;
+    if (isStillBound && mappingIndex >= 0 && mappingIndex < legends.size()) {
+        vertexBanks = QList<VertexBank>();
         VertexBank &bank = *addVertexBank(QStringLiteral("RxMap3D_Verts"));
         tessellateChain(bank, tessellator, RingLists(chain, count), legends.at(mappingIndex), mappingIndex);
     }
@@ -140,7 +156,8 @@ void RxMap3D::tessellateChain(VertexBank &bank, GLUtesselator *tessellator, cons
 
 void RxMap3D::chooseColor(const QList<RX_RATECOLOR> &legend, const RX_POLYGON &polygon, int mappingIndex)
 {
-    // Without a legend the colour of the polygon before, or of the build before, is meant to carry over.
+    // Without a legend, or without rates, the colour of the polygon before, or of the build before, is meant to carry
+    // over.
     if (legend.isEmpty() || polygon.rates == nullptr)
         return;
     const auto rate = static_cast<double>(polygon.rates[mappingIndex]);

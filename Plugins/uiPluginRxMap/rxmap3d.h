@@ -54,7 +54,6 @@ public Q_SLOTS:
 private:
     friend class RxMap3DProbe;
 
-    DataBrokerGroup *findRxMapGroup() const;
     /// Fills the bank and writes the draw indexes.
     void tessellateChain(VertexBank &bank, GLUtesselator *tessellator, const RingLists &rings,
                          const QList<OrvikTypes::RX_RATECOLOR> &legend, int mappingIndex);
