@@ -216,6 +216,11 @@ void RxMapWidgetDialog01::selectInitialProduct()
 
 void RxMapWidgetDialog01::doneButtonReleased(int)
 {
+    // A second touch may be on its way when the first one closes the dialog, and hides the message with it.
+    if (result() == QDialog::Accepted)
+        return;
+    // Meant to decide by the message, whatever the button shows: they differ before the first evaluation of a product
+    // under control.
     if (!vehicleMovingLabel->isVisible()) {
         writeMappings();
         writeSettings();

@@ -154,7 +154,8 @@ void OrvikButton::paintEvent(QPaintEvent *)
 void OrvikButton::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
-    if (event->button() != Qt::LeftButton)
+    // A touch may still be on its way when the button is hidden.
+    if (event->button() != Qt::LeftButton || !isVisible())
         return;
     const bool wantsLongTouch = isSignalConnected(QMetaMethod::fromSignal(&OrvikButton::longTouch));
     d->touch.press(d->repeats           ? TouchPress::Hold::Repeat

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aDisabledButtonReportsNothing();
     void aButtonDisabledUnderTheFingerReportsNothing();
     void aButtonHiddenUnderTheFingerReportsNothing();
+    void aTouchThatArrivesWhileItIsHiddenReportsNothing();
     void looksDisabledInDisableModeOnly();
     void showsItsTextInItsColor();
     void replacesATextItem();
@@ -249,6 +250,18 @@ void tst_OrvikButton::aButtonHiddenUnderTheFingerReportsNothing()
     QCOMPARE(colorAt(plainSpot), QColor(Qt::lightGray));
     QTest::mouseRelease(button, Qt::LeftButton, {}, inside);
     QCOMPARE(longTouch.count(), 0);
+    QCOMPARE(released->count(), 0);
+}
+
+void tst_OrvikButton::aTouchThatArrivesWhileItIsHiddenReportsNothing()
+{
+    QSignalSpy pressed(button, &OrvikButton::buttonPressed);
+    window->hide();
+    QMouseEvent press(QEvent::MouseButtonPress, inside, Qt::LeftButton, Qt::LeftButton, {});
+    QMouseEvent release(QEvent::MouseButtonRelease, inside, Qt::LeftButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(button, &press);
+    QCoreApplication::sendEvent(button, &release);
+    QCOMPARE(pressed.count(), 0);
     QCOMPARE(released->count(), 0);
 }
 

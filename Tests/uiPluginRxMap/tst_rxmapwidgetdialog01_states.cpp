@@ -1,6 +1,4 @@
-#include "dialoghost.h"
-#include "dialogprobe.h"
-#include "testbase.h"
+#include "dialogtest.h"
 
 #include <QElapsedTimer>
 
@@ -8,12 +6,10 @@
 #include <limits>
 
 /// When the dialog's controls are shown, hidden, locked and repainted.
-class TestDialogStates : public TestBase {
+class TestDialogStates : public DialogTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void controlStates_data();
     void controlStates();
     void notUnderVraLeavesMessageAndDoneImageAsTheyWere();
@@ -31,13 +27,8 @@ private Q_SLOTS:
     void productButtonsAndDoneAreNeverDisabled();
 
 private:
-    void open();
     /// How many of the four controls that take a value are enabled.
     int enabledEdits() const;
-
-    QScopedPointer<DialogHost> host;
-    QScopedPointer<RxMapWidgetDialog01> dialog;
-    QScopedPointer<DialogProbe> probe;
 };
 
 namespace {
@@ -74,27 +65,6 @@ public:
 };
 
 } // namespace
-
-void TestDialogStates::init()
-{
-    TestBase::init();
-    host.reset(new DialogHost);
-}
-
-void TestDialogStates::cleanup()
-{
-    probe.reset();
-    dialog.reset();
-    host.reset();
-    TestBase::cleanup();
-}
-
-void TestDialogStates::open()
-{
-    dialog.reset(new RxMapWidgetDialog01(&host->broker, host->images, nullptr));
-    probe.reset(new DialogProbe(*dialog));
-    dialog->show();
-}
 
 int TestDialogStates::enabledEdits() const
 {

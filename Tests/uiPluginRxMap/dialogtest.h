@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dialoghost.h"
+#include "dialogprobe.h"
+#include "testbase.h"
+
+/// Base of the tests of the settings dialog: a host for each test function, and a dialog when it opens one.
+class DialogTest : public TestBase {
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
+    /// Builds the dialog, in place of the one before, and shows it without waiting for its end.
+    void open();
+    /// Releases Done: the dialog must close.
+    void done();
+
+    QScopedPointer<DialogHost> host;
+    QScopedPointer<RxMapWidgetDialog01> dialog;
+    QScopedPointer<DialogProbe> probe;
+};
