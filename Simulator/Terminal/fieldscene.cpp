@@ -35,8 +35,10 @@ QColor FieldScene::groundColor()
 QColor FieldScene::onGround(const QColor &color)
 {
     const QColor ground = groundColor();
-    return QColor((color.red() + ground.red()) / 2, (color.green() + ground.green()) / 2,
-                  (color.blue() + ground.blue()) / 2);
+    const double share = 0.5 * color.alphaF();
+    const auto blend = [share](int own, int below) { return int(own * share + below * (1.0 - share)); };
+    return QColor(blend(color.red(), ground.red()), blend(color.green(), ground.green()),
+                  blend(color.blue(), ground.blue()));
 }
 
 void FieldScene::initialize()

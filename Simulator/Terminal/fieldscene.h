@@ -18,7 +18,7 @@ public:
 
     /// What the field looks like where nothing is drawn.
     static QColor groundColor();
-    /// A map's colour as it looks on the ground: maps are drawn half transparent.
+    /// A map's colour as it looks on the ground: maps are drawn with half of their opacity.
     static QColor onGround(const QColor &color);
 
     /// Prepares drawing and every list added so far.

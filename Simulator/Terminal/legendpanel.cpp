@@ -17,15 +17,20 @@ constexpr int Swatch = 28;
 constexpr int PanelWidth = 212;
 constexpr int TextLeft = Swatch + 22;
 constexpr int LargestText = 20;
-constexpr int SmallestText = 11;
+constexpr int SmallestText = 14;
+const QString RangeDash = QStringLiteral(" \u2013 ");
 
-/// A limit as it is read at a glance: three significant digits, no exponent.
-QString limitText(double value)
+/// A number with at least three significant digits and at least `decimals` decimals, without zeros at its end; no
+/// exponent while it is short enough to be read.
+QString numberText(double value, int decimals)
 {
+    constexpr double mostReadable = 1e12;
     if (value == 0.0)
         return QStringLiteral("0");
+    if (std::fabs(value) >= mostReadable)
+        return QString::number(value, 'g', 4);
     const int digits = int(std::floor(std::log10(std::fabs(value)))) + 1;
-    QString text = QString::number(value, 'f', std::clamp(3 - digits, 0, 4));
+    QString text = QString::number(value, 'f', std::clamp(3 - digits, decimals, 4));
     if (text.contains(QLatin1Char('.'))) {
         while (text.endsWith(QLatin1Char('0')))
             text.chop(1);
@@ -33,6 +38,18 @@ QString limitText(double value)
             text.chop(1);
     }
     return text;
+}
+
+/// The limit of a class, which is round, as it is read at a glance.
+QString limitText(double value)
+{
+    return numberText(value, 0);
+}
+
+/// A rate as exact as the answer at a touched point.
+QString rateText(double value)
+{
+    return numberText(value, 2);
 }
 
 } // namespace
@@ -44,25 +61,30 @@ LegendPanel::LegendPanel(QWidget *parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void LegendPanel::show(const QString &newTitle, const QString &newSource, const QList<OrvikTypes::RX_RATECOLOR> &legend,
-                       double factor, const QString &newUnit)
+void LegendPanel::show(const Content &newContent)
 {
-    title = newTitle;
-    source = newSource;
-    unit = newUnit;
+    content = newContent;
     texts.clear();
-    colors.clear();
-    for (int i = 0; i < legend.size(); ++i) {
-        const QString limit = limitText(legend.at(i).rate * factor);
-        const bool isLowest = i == 0 || legend.at(i - 1).rate < 0.0;
-        const bool isZero = legend.at(i).rate == 0.0;
-        texts.append(isZero         ? limit
-                         : isLowest ? QStringLiteral("\u2264 ") + limit
-                                    : limitText(legend.at(i - 1).rate * factor) + QStringLiteral(" \u2013 ") + limit);
-        colors.append(FieldScene::onGround(legend.at(i).color));
-    }
+    for (int i = 0; i < content.classes.size(); ++i)
+        texts.append(classText(i));
     resize(sizeHint());
     update();
+}
+
+QString LegendPanel::classText(int index) const
+{
+    const OrvikTypes::RX_RATECOLOR &entry = content.classes.at(index);
+    if (entry.color.alpha() == 0)
+        return tr("No rate");
+    if (content.hasSingleRates)
+        return rateText(entry.rate * content.factor);
+    const QString limit = limitText(entry.rate * content.factor);
+    // Zero is a class of its own, and no rate is below it.
+    if (entry.rate == 0.0)
+        return limit;
+    if (index == 0 || content.classes.at(index - 1).rate < 0.0)
+        return QStringLiteral("\u2264 ") + limit;
+    return limitText(content.classes.at(index - 1).rate * content.factor) + RangeDash + limit;
 }
 
 QFont LegendPanel::fittingFont(int width) const
@@ -85,30 +107,47 @@ void LegendPanel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     Look::drawPanel(painter, rect(), Look::panel());
     const QRect inner = rect().adjusted(Inset, 0, -Inset, 0);
+    drawHead(painter, inner);
+    drawClasses(painter, inner);
+}
+
+void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
+{
     painter.setFont(Look::font(22, true));
     painter.setPen(Look::text());
     painter.drawText(QRect(inner.left(), 10, inner.width(), 30), Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(title, Qt::ElideRight, inner.width()));
+                     painter.fontMetrics().elidedText(content.product, Qt::ElideRight, inner.width()));
     painter.setFont(Look::font(16));
     painter.setPen(Look::faintText());
     const QRect second(inner.left(), 40, inner.width(), 24);
-    const int unitWidth = painter.fontMetrics().horizontalAdvance(unit);
-    painter.drawText(second, Qt::AlignVCenter | Qt::AlignRight, unit);
+    const int unitWidth = painter.fontMetrics().horizontalAdvance(content.unit);
+    painter.drawText(second, Qt::AlignVCenter | Qt::AlignRight, content.unit);
+    const int columnWidth = inner.width() - unitWidth - Inset;
     painter.drawText(second, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(source, Qt::ElideMiddle, inner.width() - unitWidth - Inset));
+                     painter.fontMetrics().elidedText(content.column, Qt::ElideMiddle, columnWidth));
     if (texts.isEmpty()) {
         painter.setFont(Look::font(20));
         painter.drawText(QRect(inner.left(), Head, inner.width(), Row), Qt::AlignVCenter, tr("No map"));
     }
-    const QFont classFont = fittingFont(inner.width() - TextLeft);
+}
+
+void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
+{
+    const int textWidth = inner.width() - TextLeft;
+    const QFont classFont = fittingFont(textWidth);
+    const QFontMetrics metrics(classFont);
     for (int i = 0; i < texts.size(); ++i) {
         const QRect row(inner.left(), Head + i * Row, inner.width(), Row);
         const QRectF swatch(row.left() + 0.5, row.center().y() - Swatch / 2 + 0.5, Swatch + 8, Swatch);
         painter.setPen(QPen(Look::text(), 1.0));
-        painter.setBrush(colors.at(i));
+        painter.setBrush(FieldScene::onGround(content.classes.at(i).color));
         painter.drawRoundedRect(swatch, 4.0, 4.0);
+        // A range of long numbers takes two lines.
+        QString text = texts.at(i);
+        if (metrics.horizontalAdvance(text) > textWidth)
+            text.replace(RangeDash, QStringLiteral(" \u2013\n"));
         painter.setFont(classFont);
         painter.setPen(Look::text());
-        painter.drawText(row.adjusted(TextLeft, 0, 0, 0), Qt::AlignVCenter, texts.at(i));
+        painter.drawText(row.adjusted(TextLeft, 0, 0, 0), Qt::AlignVCenter, text);
     }
 }

@@ -7,16 +7,30 @@
 #include <QString>
 #include <QWidget>
 
+class QPainter;
+
 /// The colour legend of the active product's map.
 class LegendPanel : public QWidget {
     Q_OBJECT
 
 public:
+    /// What the panel shows.
+    struct Content {
+        QString product;
+        /// The prescription column that feeds it.
+        QString column;
+        /// Base units; none when there is no map. A fully transparent one stands for polygons without a rate.
+        QList<OrvikTypes::RX_RATECOLOR> classes;
+        /// Every class holds one single rate, its limit; else those above the class before, up to the limit.
+        bool hasSingleRates = false;
+        /// Takes base units to `unit`.
+        double factor = 1.0;
+        QString unit;
+    };
+
     explicit LegendPanel(QWidget *parent = nullptr);
 
-    /// `factor` takes the legend's base units to `unit`. An empty legend shows that there is no map.
-    void show(const QString &title, const QString &source, const QList<OrvikTypes::RX_RATECOLOR> &legend, double factor,
-              const QString &unit);
+    void show(const Content &content);
     /// The texts beside the colours, lowest class first.
     QStringList classTexts() const { return texts; }
     QSize sizeHint() const override;
@@ -25,12 +39,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// The class texts' font, so small that the widest of them fits into `width` pixels.
+    QString classText(int index) const;
+    /// The class texts' font, so small that the widest of them fits into `width` pixels, if it stays legible.
     QFont fittingFont(int width) const;
+    void drawHead(QPainter &painter, const QRect &inner) const;
+    void drawClasses(QPainter &painter, const QRect &inner) const;
 
-    QString title;
-    QString source;
-    QString unit;
+    Content content;
     QStringList texts;
     QList<QColor> colors;
 };

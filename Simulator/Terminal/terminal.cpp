@@ -238,11 +238,21 @@ void Terminal::showLegend()
     const Product &product = machineModel->products().at(number - 1);
     const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
     auto *info = qobject_cast<DbGroupProductGroupInfo *>(dataBroker.getGroup(Machine::productGroupName(number), false));
-    display->legend()->show(product.name, map.columnName, map.legend, getRateConversion(info),
-                            rateUnit(product.rateKind(), machineModel->unitSystem()));
+    display->legend()->show({product.name, map.columnName, map.legend, hasSingleRates(map), getRateConversion(info),
+                             rateUnit(product.rateKind(), machineModel->unitSystem())});
     display->productSelector()->setActiveProduct(number);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     refresh();
+}
+
+bool Terminal::hasSingleRates(const ActiveMap &map) const
+{
+    const QList<LoadReport> reports = prescriptions->maps();
+    for (const LoadReport &report : reports) {
+        if (report.group == map.groupName)
+            return report.hasSingleRates.value(map.mapping);
+    }
+    return false;
 }
 
 void Terminal::refresh()

@@ -20,6 +20,7 @@
 
 #include <optional>
 
+struct ActiveMap;
 class Machine;
 class TerminalWindow;
 class UiGraphicsList;
@@ -87,6 +88,8 @@ private:
     void installGraphicsLists();
     void followMaps();
     void showLegend();
+    /// Whether each class of the map's legend holds one rate alone.
+    bool hasSingleRates(const ActiveMap &map) const;
     void showVehicle();
     void frameField();
 

@@ -114,3 +114,14 @@ QList<OrvikTypes::RX_RATECOLOR> LegendBuilder::build(const std::vector<float> &r
         legend.append({classLimits.back(), RateRamp::noRateColor()});
     return legend;
 }
+
+bool LegendBuilder::hasSingleRates(const QList<OrvikTypes::RX_RATECOLOR> &legend, const std::vector<float> &rates)
+{
+    const auto isLimit = [&legend](float rate) {
+        return std::any_of(legend.begin(), legend.end(), [rate](const OrvikTypes::RX_RATECOLOR &entry) {
+            return entry.rate == static_cast<double>(rate);
+        });
+    };
+    return std::all_of(rates.begin(), rates.end(),
+                       [&isLimit](float rate) { return !std::isfinite(rate) || isLimit(rate); });
+}

@@ -21,6 +21,9 @@ public:
     /// last entry, and so draws nothing. Empty for no rates.
     static QList<OrvikTypes::RX_RATECOLOR> build(const std::vector<float> &rates);
 
+    /// Whether every class of a column's legend holds one single rate: its limit.
+    static bool hasSingleRates(const QList<OrvikTypes::RX_RATECOLOR> &legend, const std::vector<float> &rates);
+
 private:
     static std::vector<double> limits(const std::vector<float> &sortedRates);
 };

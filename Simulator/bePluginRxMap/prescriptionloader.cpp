@@ -297,6 +297,7 @@ void PrescriptionLoader::buildLegends(LoadedMap &map) const
         for (const PlanePolygon &polygon : polygons)
             column.push_back(rates[static_cast<size_t>(polygon.record) * mappings + i]);
         map.report.legends.append(LegendBuilder::build(column));
+        map.report.hasSingleRates.append(LegendBuilder::hasSingleRates(map.report.legends.last(), column));
     }
 }
 

@@ -12,6 +12,28 @@
 
 #include <cmath>
 
+namespace {
+
+/// Writes a map of cells in a row, with the rates 1, 2, ... in the column RATE; its path.
+QString writeRow(const QTemporaryDir &folder, int cells)
+{
+    QStringList features;
+    for (int i = 0; i < cells; ++i) {
+        const double west = 10.0 + i * 0.001;
+        features.append(QStringLiteral(R"({"type":"Feature","properties":{"RATE":%3},"geometry":{"type":"Polygon",)"
+                                       R"("coordinates":[[[%1,50],[%2,50],[%2,50.001],[%1,50.001],[%1,50]]]}})")
+                            .arg(west, 0, 'f', 3)
+                            .arg(west + 0.001, 0, 'f', 3)
+                            .arg(i + 1));
+    }
+    QFile file(folder.filePath(QStringLiteral("row.geojson")));
+    file.open(QIODevice::WriteOnly);
+    file.write(QStringLiteral(R"({"type":"FeatureCollection","features":[%1]})").arg(features.join(',')).toUtf8());
+    return file.fileName();
+}
+
+} // namespace
+
 /// The terminal with the plug-in: maps come, are drawn, answered and go.
 class TestTerminal : public TestBase {
     Q_OBJECT
@@ -24,6 +46,7 @@ private Q_SLOTS:
     void everyClassOfTheLegendIsSeenHalfTransparentOverTheGround();
     void whatIsDrawnIsWhatIsAnswered_data();
     void whatIsDrawnIsWhatIsAnswered();
+    void theLegendNamesRatesOrRangesAsTheMapHasThem();
     void anotherProductIsDrawnAtOnce();
     void twoMapsFeedTwoProducts();
     void theNewestMapTakesAProductOverAndGivesItBack();
@@ -178,6 +201,22 @@ void TestTerminal::whatIsDrawnIsWhatIsAnswered()
     }
     QVERIFY2(compared > 1000, qPrintable(QString::number(compared)));
     QVERIFY2(disagreeing == 0, qPrintable(QStringLiteral("%1 of %2: %3").arg(disagreeing).arg(compared).arg(first)));
+}
+
+void TestTerminal::theLegendNamesRatesOrRangesAsTheMapHasThem()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA", "FERT_KG_HA"}).isOk());
+    const LegendPanel *legend = terminal().window()->legend();
+    QCOMPARE(legend->classTexts(), (QStringList{"70", "80", "90"}));
+    QVERIFY(terminal().machine()->setActiveProduct(2));
+    QCOMPARE(legend->classTexts(), (QStringList{"0", "120.5", "150"}));
+    // Another file feeds the first product now, with more rates than the legend has classes.
+    QTemporaryDir folder;
+    QVERIFY2(terminal().open(writeRow(folder, 12), {"RATE"}).isOk(), "twelve rates");
+    QVERIFY(terminal().machine()->setActiveProduct(1));
+    QCOMPARE(legend->classTexts().size(), 7);
+    QVERIFY(legend->classTexts().first().startsWith(QStringLiteral("\u2264 ")));
+    QCOMPARE(legend->classTexts().filter(QStringLiteral(" \u2013 ")).size(), 6);
 }
 
 void TestTerminal::anotherProductIsDrawnAtOnce()

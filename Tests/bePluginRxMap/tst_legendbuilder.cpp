@@ -8,6 +8,8 @@
 
 using Legend = QList<OrvikTypes::RX_RATECOLOR>;
 
+Q_DECLARE_METATYPE(std::vector<float>)
+
 namespace {
 
 constexpr float noRate = std::numeric_limits<float>::quiet_NaN();
@@ -52,6 +54,8 @@ private Q_SLOTS:
     void followsTheRatesOfALopsidedColumn();
     void putsARateThatEqualsALimitIntoItsClass();
     void reservesTheLastEntryForPolygonsWithoutRate();
+    void tellsWhetherEachClassHoldsOneRate_data();
+    void tellsWhetherEachClassHoldsOneRate();
     void isEmptyWithoutRates();
     void holdsTheGreatestSingleNumber();
     void keepsItsPromisesForRandomColumns();
@@ -148,6 +152,24 @@ void LegendBuilderTest::reservesTheLastEntryForPolygonsWithoutRate()
     QVERIFY(std::isfinite(legend.last().rate));
     QCOMPARE(classOf(legend, noRate), 2);
     QCOMPARE(classOf(legend, 20.0F), 1);
+}
+
+void LegendBuilderTest::tellsWhetherEachClassHoldsOneRate_data()
+{
+    QTest::addColumn<std::vector<float>>("rates");
+    QTest::addColumn<bool>("single");
+    QTest::newRow("few rates") << std::vector<float>{0, 49, 300, 49} << true;
+    QTest::newRow("not exact in binary") << std::vector<float>{0.1F, 0.3F} << true;
+    QTest::newRow("seven rates") << std::vector<float>{1, 2, 3, 4, 5, 6, 7} << true;
+    QTest::newRow("some without rate") << std::vector<float>{10, noRate, 20} << true;
+    QTest::newRow("eight rates") << std::vector<float>{1, 2, 3, 4, 5, 6, 7, 8} << false;
+    QTest::newRow("many rates") << spread(500, 23.0, 230.0) << false;
+}
+
+void LegendBuilderTest::tellsWhetherEachClassHoldsOneRate()
+{
+    QFETCH(std::vector<float>, rates);
+    QTEST(LegendBuilder::hasSingleRates(LegendBuilder::build(rates), rates), "single");
 }
 
 void LegendBuilderTest::isEmptyWithoutRates()

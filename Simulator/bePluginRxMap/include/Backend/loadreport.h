@@ -49,6 +49,8 @@ struct LoadReport {
     QStringList columns;
     /// One legend per column.
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
+    /// Per legend: every class holds one single rate, which is its limit.
+    QList<bool> hasSingleRates;
     /// Rings that had to be repaired.
     int repaired = 0;
     /// Records left out: empty geometry, or no rate in any column.
