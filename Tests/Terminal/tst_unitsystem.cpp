@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Answers every text of the units converter with what it was asked for.
+/// Translates every text into what it was asked for.
 class EchoingTranslator : public QTranslator {
 public:
     QString translate(const char *context, const char *source, const char *comment, int) const override
