@@ -1,6 +1,8 @@
 #include "tesscallbacks.h"
 #include "testbase.h"
 
+#include <limits>
+
 class TestTessCallbacks : public TestBase {
     Q_OBJECT
 
@@ -42,6 +44,9 @@ void TestTessCallbacks::colourComponentsAreRoundedToBytes_data()
     QTest::newRow("0") << 0.0 << 0U;
     QTest::newRow("1") << 1.0 << 255U;
     QTest::newRow("half") << 0.5 << 128U;
+    QTest::newRow("below the range") << -0.5 << 0U;
+    QTest::newRow("above the range") << 1.5 << 255U;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0U;
     QTest::newRow("just below a half step") << 0.4999 / 255.0 << 0U;
     QTest::newRow("just above a half step") << 0.5001 / 255.0 << 1U;
 }

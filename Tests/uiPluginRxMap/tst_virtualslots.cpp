@@ -1,3 +1,4 @@
+#include "rxmap3d.h"
 #include "testbase.h"
 
 #include "Framework/object3d.h"
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void thePluginInterfaceKeepsItsOrder();
     void thePluginInterfaceHasFortyOperations();
     void drawablesKeepTheirOrder();
+    void theMapsOwnOperationsFollowThoseOfItsFirstBase();
     void graphicsListsKeepTheirOrder();
 };
 
@@ -116,6 +118,14 @@ void TestVirtualSlots::drawablesKeepTheirOrder()
     QCOMPARE(slotOf(&Object3D::draw), 2);
     QCOMPARE(slotOf(&Object3D::init), 3);
     QCOMPARE(slotOf(&Object3D::drawingOrder), 4);
+}
+
+void TestVirtualSlots::theMapsOwnOperationsFollowThoseOfItsFirstBase()
+{
+    // Not in the order in which Object3D has them.
+    QCOMPARE(slotOf(&RxMap3D::init), slotsOfQObject);
+    QCOMPARE(slotOf(&RxMap3D::draw), slotsOfQObject + 1);
+    QCOMPARE(slotOf(&RxMap3D::drawingOrder), slotsOfQObject + 2);
 }
 
 void TestVirtualSlots::graphicsListsKeepTheirOrder()

@@ -1,0 +1,63 @@
+#include "groupvalue.h"
+#include "testbase.h"
+
+#include "Framework/groupproperty.h"
+#include "Framework/rxdbfcolumntoratecalmapping.h"
+#include "Framework/rxpolygon.h"
+
+/// A group that tells everything as text.
+class TextGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, polygonBuffer, PolygonBuffer)
+    ORVIK_GROUP_PROPERTY(QString, polygonCount, PolygonCount)
+    ORVIK_GROUP_PROPERTY(QString, rateCalMappings, RateCalMappings)
+    ORVIK_GROUP_PROPERTY(QString, rateColors, RateColors)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    QString text = QStringLiteral("12");
+};
+
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextGroup, QString, polygonBuffer, PolygonBuffer, text)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextGroup, QString, polygonCount, PolygonCount, text)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextGroup, QString, rateCalMappings, RateCalMappings, text)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextGroup, QString, rateColors, RateColors, text)
+
+class TestGroupValue : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textIsConvertedWhereItCanBe();
+    void aFailedConversionLeavesNothing();
+    void anUnknownPropertyLeavesNothing();
+};
+
+void TestGroupValue::textIsConvertedWhereItCanBe()
+{
+    const TextGroup group(QStringLiteral("texts"));
+    QCOMPARE(groupValue<QString>(group, "polygonCount"), QStringLiteral("12"));
+    QCOMPARE(groupValue<unsigned int>(group, "polygonCount"), 12U);
+}
+
+void TestGroupValue::aFailedConversionLeavesNothing()
+{
+    TextGroup group(QStringLiteral("texts"));
+    QCOMPARE(groupValue<void *>(group, "polygonBuffer"), nullptr);
+    const auto mappings = groupValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(group, "rateCalMappings");
+    QVERIFY(mappings.isEmpty());
+    const auto legends = groupValue<QList<QList<OrvikTypes::RX_RATECOLOR>>>(group, "rateColors");
+    QVERIFY(legends.isEmpty());
+    group.setPolygonCount(QStringLiteral("12 rings"));
+    QCOMPARE(groupValue<unsigned int>(group, "polygonCount"), 0U);
+}
+
+void TestGroupValue::anUnknownPropertyLeavesNothing()
+{
+    const TextGroup group(QStringLiteral("texts"));
+    QCOMPARE(groupValue<unsigned int>(group, "polygons"), 0U);
+}
+
+QTEST_APPLESS_MAIN(TestGroupValue)
+#include "tst_groupvalue.moc"
