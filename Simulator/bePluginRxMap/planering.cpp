@@ -60,11 +60,39 @@ bool segmentsMeet(const PlaneVertex &a, const PlaneVertex &b, const PlaneVertex 
     return first <= 0 && second <= 0;
 }
 
+bool isConvexRing(const PlaneRing &ring)
+{
+    const size_t count = ring.size();
+    if (count < 3)
+        return false;
+    int direction = 0;
+    int reversals = 0;
+    // From the last edge on, so that every turn and every pair of neighbouring edges is seen.
+    const PlaneVertex *a = &ring[count - 2];
+    const PlaneVertex *b = &ring[count - 1];
+    bool wasEastward = b->x > a->x;
+    for (const PlaneVertex &c : ring) {
+        const int turned = sign(turn(*a, *b, c));
+        if (turned == 0 || turned == -direction)
+            return false;
+        direction = turned;
+        const bool isEastward = c.x > b->x;
+        reversals += isEastward == wasEastward ? 0 : 1;
+        wasEastward = isEastward;
+        a = b;
+        b = &c;
+    }
+    // One that runs around more than once goes east and back more than once.
+    return reversals == 2;
+}
+
 bool isSimpleRing(const PlaneRing &ring)
 {
     const size_t count = ring.size();
     if (count < 3)
         return false;
+    if (isConvexRing(ring))
+        return true;
     for (size_t i = 0; i < count; ++i) {
         const PlaneVertex &a = ring[i];
         const PlaneVertex &b = ring[(i + 1) % count];

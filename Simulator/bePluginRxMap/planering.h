@@ -41,6 +41,9 @@ void dropRepeatedVertices(PlaneRing &ring);
 bool segmentsMeet(const PlaneVertex &a, const PlaneVertex &b, const PlaneVertex &c, const PlaneVertex &d);
 /// Whether `point` lies on the segment a-b, ends included. Exact for vertices on the plane's grid.
 bool liesOnSegment(const PlaneVertex &point, const PlaneVertex &a, const PlaneVertex &b);
+/// Whether the ring turns the same way at each vertex, and around once; no edge meets another then. Exact for vertices
+/// on the plane's grid.
+bool isConvexRing(const PlaneRing &ring);
 /// Whether no edge of the ring meets another but at the vertex between them. Compares every pair of edges: for short
 /// rings.
 bool isSimpleRing(const PlaneRing &ring);

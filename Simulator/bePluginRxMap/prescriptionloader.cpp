@@ -21,6 +21,7 @@ constexpr double farthestOnOnePlane = 20000.0;
 constexpr double shareOfReading = 0.6;
 constexpr double shareOfPlacing = 0.1;
 constexpr double shareOfRepair = 0.2;
+constexpr size_t ringsPerReport = 256;
 
 float rateFrom(double value)
 {
@@ -153,11 +154,15 @@ bool PrescriptionLoader::repairRings()
     }
     const RingRepair repair(farthest);
     RingRepair::Outcome outcome;
+    outcome.polygons.reserve(source.rings.size());
     const double rings = static_cast<double>(source.rings.size());
-    for (size_t ring = 0; ring < source.rings.size();) {
+    for (size_t ring = 0, reported = 0; ring < source.rings.size();) {
         if (control.isCancelled())
             return fail(QStringLiteral("loading was cancelled"));
         ring = repair.append(source, xs, ys, ring, outcome);
+        if (ring - reported < ringsPerReport && ring < source.rings.size())
+            continue;
+        reported = ring;
         control.report(shareOfReading + shareOfPlacing + shareOfRepair * static_cast<double>(ring) / rings);
     }
     polygons = std::move(outcome.polygons);

@@ -6,7 +6,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
+#include <cpl_string.h>
 #include <limits>
 #include <ogrsf_frmts.h>
 
@@ -26,6 +28,19 @@ double numberFromText(const char *text, bool &isNumber)
     const double value = trimmed.toDouble(&isNumber);
     isNumber = isNumber || trimmed.isEmpty();
     return trimmed.isEmpty() ? notANumber : value;
+}
+
+/// Makes room for that many records of one cell each. Files may promise more than they hold, so there is a limit.
+void reserve(SourceMap &map, double records)
+{
+    constexpr double most = 1e6;
+    constexpr size_t cellVertices = 5;
+    const auto room = static_cast<size_t>(std::min(most, records));
+    map.rings.reserve(room);
+    map.xs.reserve(room * cellVertices);
+    map.ys.reserve(room * cellVertices);
+    for (SourceColumn &column : map.columns)
+        column.values.reserve(room);
 }
 
 bool isFinite(const SourceMap &map, size_t first)
@@ -191,9 +206,29 @@ bool PrescriptionReader::chooseColumns(OGRLayer &layer, SourceMap &map)
     return true;
 }
 
+void PrescriptionReader::skipOtherColumns(OGRLayer &layer, const SourceMap &map)
+{
+    if (layer.TestCapability(OLCIgnoreFields) == 0)
+        return;
+    const OGRFeatureDefn &definition = *layer.GetLayerDefn();
+    CPLStringList others;
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        const char *name = definition.GetFieldDefn(i)->GetNameRef();
+        // GDAL goes by names, which two columns may share, or which stand for something else than a column.
+        const bool isOwnName = definition.GetFieldIndex(name) == i && !STARTS_WITH_CI(name, "OGR_");
+        const bool isRead = std::any_of(map.columns.begin(), map.columns.end(),
+                                        [i](const SourceColumn &column) { return column.field == i; });
+        if (isOwnName && !isRead)
+            others.AddString(name);
+    }
+    layer.SetIgnoredFields(const_cast<const char **>(others.List()));
+}
+
 bool PrescriptionReader::readRecords(OGRLayer &layer, SourceMap &map)
 {
     const double expected = static_cast<double>(std::max<GIntBig>(1, layer.GetFeatureCount()));
+    reserve(map, expected);
+    skipOtherColumns(layer, map);
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (control.isCancelled())
             return fail(QStringLiteral("loading was cancelled"));

@@ -34,6 +34,8 @@ private:
     std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
     OGRLayer *chooseLayer(GDALDataset &dataset, SourceMap &map);
     bool chooseColumns(OGRLayer &layer, SourceMap &map);
+    /// Lets GDAL leave the columns alone that are not read.
+    static void skipOtherColumns(OGRLayer &layer, const SourceMap &map);
     bool readRecords(OGRLayer &layer, SourceMap &map);
     void readValues(const OGRFeature &feature, SourceMap &map);
     void readShape(const OGRGeometry *geometry, SourceMap &map);

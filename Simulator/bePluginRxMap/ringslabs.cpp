@@ -26,15 +26,17 @@ RingSlabs::RingSlabs(const PlaneVertex *ringVertices, size_t vertexCount)
 
 size_t RingSlabs::slabOf(double y) const
 {
-    const size_t last = slabStarts.size() - 2;
-    return std::min(last, static_cast<size_t>((y - lowest) * slabsPerMetre));
+    const size_t last = slabs->starts.size() - 2;
+    return std::min(last, static_cast<size_t>((y - lowest) * slabs->perMetre));
 }
 
 void RingSlabs::buildSlabs()
 {
-    const size_t slabs = count / edgesPerSlab;
-    slabsPerMetre = static_cast<double>(slabs) / (highest - lowest);
-    slabStarts.assign(slabs + 1, 0);
+    const size_t slabCount = count / edgesPerSlab;
+    slabs = std::make_unique<Slabs>();
+    slabs->perMetre = static_cast<double>(slabCount) / (highest - lowest);
+    std::vector<size_t> &starts = slabs->starts;
+    starts.assign(slabCount + 1, 0);
     const auto forEachSlab = [this](size_t i, auto visit) {
         const PlaneVertex &from = vertices[i == 0 ? count - 1 : i - 1];
         const PlaneVertex &to = vertices[i];
@@ -45,11 +47,11 @@ void RingSlabs::buildSlabs()
             visit(slab);
     };
     for (size_t i = 0; i < count; ++i)
-        forEachSlab(i, [this](size_t slab) { ++slabStarts[slab + 1]; });
-    for (size_t slab = 0; slab < slabs; ++slab)
-        slabStarts[slab + 1] += slabStarts[slab];
-    slabEdges.resize(slabStarts.back());
-    std::vector<size_t> next(slabStarts.begin(), slabStarts.end() - 1);
+        forEachSlab(i, [&starts](size_t slab) { ++starts[slab + 1]; });
+    for (size_t slab = 0; slab < slabCount; ++slab)
+        starts[slab + 1] += starts[slab];
+    slabs->edges.resize(starts.back());
+    std::vector<size_t> next(starts.begin(), starts.end() - 1);
     for (size_t i = 0; i < count; ++i)
-        forEachSlab(i, [this, &next, i](size_t slab) { slabEdges[next[slab]++] = static_cast<unsigned>(i); });
+        forEachSlab(i, [this, &next, i](size_t slab) { slabs->edges[next[slab]++] = static_cast<unsigned>(i); });
 }

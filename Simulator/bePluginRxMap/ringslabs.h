@@ -3,6 +3,7 @@
 #include "planering.h"
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 /// Whether the ray from (x, y) towards greater x crosses the edge from `from` to `to`, reckoned step by step as the
@@ -37,20 +38,27 @@ public:
         if (!(y >= lowest && y <= highest))
             return false;
         bool inside = false;
-        if (slabStarts.empty()) {
+        if (!slabs) {
             for (size_t i = 0, j = count - 1; i < count; j = i++)
                 inside ^= crosses(vertices[j], vertices[i], x, y);
             return inside;
         }
         const size_t slab = slabOf(y);
-        for (size_t k = slabStarts[slab]; k < slabStarts[slab + 1]; ++k) {
-            const size_t i = slabEdges[k];
+        for (size_t k = slabs->starts[slab]; k < slabs->starts[slab + 1]; ++k) {
+            const size_t i = slabs->edges[k];
             inside ^= crosses(vertices[i == 0 ? count - 1 : i - 1], vertices[i], x, y);
         }
         return inside;
     }
 
 private:
+    /// Slab s holds the edges edges[starts[s] ... starts[s + 1]); an edge is named by its end's index.
+    struct Slabs {
+        double perMetre = 0.0;
+        std::vector<size_t> starts;
+        std::vector<unsigned> edges;
+    };
+
     size_t slabOf(double y) const;
     void buildSlabs();
 
@@ -58,8 +66,6 @@ private:
     size_t count;
     double lowest;
     double highest;
-    double slabsPerMetre = 0.0;
-    /// Slab s holds the edges slabEdges[slabStarts[s] ... slabStarts[s + 1]); an edge is named by its end's index.
-    std::vector<size_t> slabStarts;
-    std::vector<unsigned> slabEdges;
+    /// Null for short rings, of which a map may have very many.
+    std::unique_ptr<Slabs> slabs;
 };

@@ -1,6 +1,9 @@
 #include "planering.h"
 #include "testbase.h"
 
+#include <algorithm>
+#include <random>
+
 Q_DECLARE_METATYPE(PlaneRing)
 
 class PlaneRingTest : public TestBase {
@@ -15,6 +18,9 @@ private Q_SLOTS:
     void seesWhereSegmentsMeet();
     void knowsSimpleRings_data();
     void knowsSimpleRings();
+    void knowsConvexRings_data();
+    void knowsConvexRings();
+    void takesNoRingForConvexThatIsNotSimple();
 };
 
 void PlaneRingTest::measuresAreaWithItsDirection()
@@ -89,6 +95,8 @@ void PlaneRingTest::knowsSimpleRings_data()
     QTest::newRow("spike") << PlaneRing{{0, 0}, {10, 0}, {20, 0}, {10, 0}, {10, 10}} << false;
     QTest::newRow("folds back at the first vertex") << PlaneRing{{10, 0}, {0, 0}, {5, 5}, {5, 0}} << false;
     QTest::newRow("flat") << PlaneRing{{0, 0}, {10, 0}, {5, 0}} << false;
+    QTest::newRow("always turns left, but runs around twice")
+        << PlaneRing{{0, 10}, {-6, -8}, {10, 3}, {-10, 3}, {6, -8}} << false;
     QTest::newRow("two vertices") << PlaneRing{{0, 0}, {10, 0}} << false;
 }
 
@@ -100,6 +108,56 @@ void PlaneRingTest::knowsSimpleRings()
         std::rotate(ring.begin(), ring.begin() + 1, ring.end());
         QCOMPARE(isSimpleRing(ring), simple);
     }
+}
+
+void PlaneRingTest::knowsConvexRings_data()
+{
+    QTest::addColumn<PlaneRing>("ring");
+    QTest::addColumn<bool>("convex");
+    QTest::newRow("square") << PlaneRing{{0, 0}, {10, 0}, {10, 10}, {0, 10}} << true;
+    QTest::newRow("square on a corner") << PlaneRing{{0, 0}, {10, -10}, {20, 0}, {10, 10}} << true;
+    QTest::newRow("triangle") << PlaneRing{{0, 0}, {10, 1}, {10, 10}} << true;
+    QTest::newRow("eight corners") << PlaneRing{{1, 0}, {2, 0}, {3, 1}, {3, 2}, {2, 3}, {1, 3}, {0, 2}, {0, 1}} << true;
+    QTest::newRow("reflex") << PlaneRing{{0, 0}, {10, 0}, {5, 5}, {10, 10}, {0, 10}} << false;
+    QTest::newRow("vertex within an edge") << PlaneRing{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}} << false;
+    QTest::newRow("bow tie") << PlaneRing{{0, 0}, {10, 10}, {10, 0}, {0, 10}} << false;
+    QTest::newRow("always turns left, but runs around twice")
+        << PlaneRing{{0, 10}, {-6, -8}, {10, 3}, {-10, 3}, {6, -8}} << false;
+    QTest::newRow("repeated vertex") << PlaneRing{{0, 0}, {0, 0}, {10, 0}, {10, 10}} << false;
+    QTest::newRow("two vertices") << PlaneRing{{0, 0}, {10, 0}} << false;
+    QTest::newRow("none") << PlaneRing() << false;
+}
+
+void PlaneRingTest::knowsConvexRings()
+{
+    QFETCH(PlaneRing, ring);
+    QFETCH(bool, convex);
+    for (size_t i = 0; i < 2 * std::max(size_t(1), ring.size()); ++i) {
+        QCOMPARE(isConvexRing(ring), convex);
+        if (!ring.empty())
+            std::rotate(ring.begin(), ring.begin() + 1, ring.end());
+        if (i + 1 == ring.size())
+            std::reverse(ring.begin(), ring.end());
+    }
+}
+
+void PlaneRingTest::takesNoRingForConvexThatIsNotSimple()
+{
+    std::mt19937 random(9);
+    int convex = 0;
+    for (int i = 0; i < 20000; ++i) {
+        PlaneRing ring(3 + random() % 5);
+        for (PlaneVertex &vertex : ring)
+            vertex = {static_cast<double>(random() % 6), static_cast<double>(random() % 6)};
+        if (!isConvexRing(ring))
+            continue;
+        ++convex;
+        for (size_t k = 0; k < ring.size(); ++k) {
+            for (size_t n = k + 2; n < ring.size() - (k == 0 ? 1 : 0); ++n)
+                QVERIFY(!segmentsMeet(ring[k], ring[k + 1], ring[n], ring[(n + 1) % ring.size()]));
+        }
+    }
+    QVERIFY(convex > 1000);
 }
 
 QTEST_GUILESS_MAIN(PlaneRingTest)

@@ -1,5 +1,6 @@
 #include "Backend/prescriptionbackend.h"
 #include "fixture.h"
+#include "layerwriter.h"
 #include "testbase.h"
 
 #include "Framework/databroker.h"
@@ -9,6 +10,7 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cmath>
 #include <limits>
@@ -89,6 +91,7 @@ private Q_SLOTS:
     void worksRequestsOffInOrder();
     void reportsProgressUpToTheWhole();
     void keepsTheEventLoopRunningWhileItLoads();
+    void reportsProgressAndAnswersWhileABigMapLoads();
     void cancelsWhatRunsAndWhatWaits();
     void cancelsALoadThatWaitsToBePublished();
     void isDestroyedWhileItLoads();
@@ -438,6 +441,37 @@ void PrescriptionBackendTest::keepsTheEventLoopRunningWhileItLoads()
         this, [&ran] { ran = true; }, Qt::QueuedConnection);
     load("three-zones.geojson");
     QVERIFY(ran);
+}
+
+void PrescriptionBackendTest::reportsProgressAndAnswersWhileABigMapLoads()
+{
+    constexpr int side = 60;
+    LayerSketch sketch;
+    sketch.fields = {{"rate", 1.0}};
+    for (int i = 0; i < side * side; ++i)
+        sketch.rows.append({squareText(11.0 + 0.001 * (i % side), 48.0 + 0.001 * (i / side), 0.001), {i + 1.0}});
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("big.shp"));
+    QVERIFY(sketch.write(path));
+
+    int handled = 0;
+    QTimer whenIdle;
+    connect(&whenIdle, &QTimer::timeout, this, [&handled] { ++handled; });
+    whenIdle.start(0);
+    QList<double> fractions;
+    QList<int> handledBefore;
+    connect(backend.data(), &PrescriptionBackend::progress, this, [&](const QString &, double fraction) {
+        fractions.append(fraction);
+        handledBefore.append(handled);
+    });
+    const LoadReport report = backend->loadAndWait(requestFor(path));
+    QCOMPARE(report.polygons, side * side);
+    QVERIFY(fractions.size() >= 20);
+    QVERIFY(fractions.first() < 0.1);
+    QCOMPARE(fractions.last(), 1.0);
+    for (int i = 1; i < fractions.size(); ++i)
+        QVERIFY(fractions.at(i) > fractions.at(i - 1));
+    QVERIFY(handledBefore.last() > handledBefore.first());
 }
 
 void PrescriptionBackendTest::cancelsWhatRunsAndWhatWaits()

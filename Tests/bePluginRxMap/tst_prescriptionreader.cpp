@@ -26,6 +26,8 @@ private Q_SLOTS:
     void countsRecordsWithCoordinatesThatAreNotFinite();
     void countsRingsOfFewerThanThreePlaces();
     void readsOnlyTheWantedColumns();
+    void readsAColumnThatSharesItsName();
+    void readsShapesBesideAColumnOfTheirName();
     void refusesAColumnThatIsNotThere();
     void refusesAColumnThatHoldsNoNumbers();
     void takesTheFirstLayerWithPolygons();
@@ -261,6 +263,35 @@ void PrescriptionReaderTest::readsOnlyTheWantedColumns()
     QCOMPARE(map.columns.size(), size_t(2));
     QCOMPARE(map.columns[0].name, QStringLiteral("area_ha"));
     QCOMPARE(map.columns[1].name, QStringLiteral("SEED_K_HA"));
+}
+
+void PrescriptionReaderTest::readsAColumnThatSharesItsName()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"RATE_A", 1.0}, {"RATE_B", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, 90.0}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QFile table(path("a.dbf"));
+    QVERIFY(table.open(QIODevice::ReadWrite));
+    QByteArray bytes = table.readAll();
+    bytes.replace("RATE_B", "RATE_A");
+    table.seek(0);
+    table.write(bytes);
+    table.close();
+    QVERIFY2(read(path("a.shp"), {QStringLiteral("RATE_A")}), qPrintable(error));
+    QCOMPARE(map.columnNames, QStringList({QStringLiteral("RATE_A"), QStringLiteral("RATE_A")}));
+    QCOMPARE(map.columns[0].values[0], 80.0);
+}
+
+void PrescriptionReaderTest::readsShapesBesideAColumnOfTheirName()
+{
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"RATE", 1.0}, {"OGR_GEOMETRY", QString()}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, QStringLiteral("cell")}}};
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QVERIFY2(read(path("a.gpkg"), {QStringLiteral("RATE")}), qPrintable(error));
+    QCOMPARE(map.rings.size(), size_t(1));
 }
 
 void PrescriptionReaderTest::refusesAColumnThatIsNotThere()

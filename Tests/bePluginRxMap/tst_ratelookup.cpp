@@ -5,6 +5,7 @@
 #include "testbase.h"
 
 #include <cmath>
+#include <deque>
 #include <limits>
 #include <random>
 
@@ -206,7 +207,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
     const auto map = load(path);
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
     // Each cell alone, so that one can count how many of them take a point.
-    std::vector<RateLookup> cells;
+    std::deque<RateLookup> cells;
     std::vector<TreeEntry> extents;
     std::vector<PlaneVertex> points;
     std::mt19937 random(23);

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void choosesAGridThatSingleNumbersHold_data();
     void choosesAGridThatSingleNumbersHold();
     void leavesVerticesThatSingleNumbersHoldExactly();
+    void takesTheNearestPlaceOfTheGrid();
     void takesAnOuterRingWithItsHoles();
     void dropsRepeatedVertices();
     void splitsARingThatCrossesItself();
@@ -94,6 +95,25 @@ void RingRepairTest::leavesVerticesThatSingleNumbersHoldExactly()
             QCOMPARE(static_cast<double>(static_cast<float>(vertex.y)), vertex.y);
             QVERIFY(!(vertex.x == 0.0 && std::signbit(vertex.x)));
         }
+    }
+}
+
+void RingRepairTest::takesTheNearestPlaceOfTheGrid()
+{
+    const RingRepair ringRepair(16000.0);
+    const double grid = ringRepair.grid();
+    std::mt19937 random(12);
+    std::uniform_real_distribution<double> place(-16000.0, 16000.0);
+    for (int i = 0; i < 2000; ++i) {
+        // Every other corner lies just between two places of the grid.
+        const double x = i % 2 == 0 ? place(random) : (std::floor(place(random)) + 0.5) * grid;
+        const double y = i % 2 == 0 ? place(random) : (std::floor(place(random)) + 0.5) * grid;
+        const SourceMap map = mapOf({{{{x, y}, {x + 5.0, y}, {x, y + 5.0}}, false}});
+        RingRepair::Outcome outcome;
+        ringRepair.append(map, map.xs, map.ys, 0, outcome);
+        QCOMPARE(outcome.polygons.size(), size_t(1));
+        QCOMPARE(outcome.polygons[0].outer[0].x, std::nearbyint(x / grid) * grid);
+        QCOMPARE(outcome.polygons[0].outer[0].y, std::nearbyint(y / grid) * grid);
     }
 }
 
