@@ -247,7 +247,9 @@ void RxMapWidgetDialog01::writeSettings()
     if (settingsGroup == nullptr)
         return;
     const QList<OrvikTypes::RX_SETTINGS> old = settingsGroup->getSettings();
+    // Meant without a token here too.
     settingsGroup->setSettings(settings, nullptr);
+    // The group's list may have grown since the dialog was built.
     for (int i = 0; i < qMin(old.size(), settings.size()); ++i) {
         if (old.at(i).isMaster != settings.at(i).isMaster
             || old.at(i).zeroRateShutoff != settings.at(i).zeroRateShutoff) {

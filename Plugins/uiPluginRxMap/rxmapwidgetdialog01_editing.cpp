@@ -94,7 +94,7 @@ void RxMapWidgetDialog01::showDefaultRate()
         defaultRateEdit->setText(QStringLiteral("????"));
         return;
     }
-    // Asked for a second time, as it is meant: the factors are those of the mapping's product when the rate is shown.
+    // Asked for a second time; that is meant.
     defaultRateLabel->setText(getDefaultRateSettings());
     defaultRateEdit->setText(QString::number(rateCalMappings.at(mapping).defaultRate * toDisplayFactor, 'g', 6));
 }
@@ -189,8 +189,8 @@ void RxMapWidgetDialog01::defaultRateEdited()
     // Without its units a typed number means nothing.
     if (product != nullptr && lacksUnits(*product))
         return;
-    const double typed = defaultRateEdit->getText().toDouble();
-    const double rate = (std::isfinite(typed) ? typed : 0.0) * fromDisplayFactor;
+    const double typed = defaultRateEdit->getText().toDouble() * fromDisplayFactor;
+    const double rate = std::isfinite(typed) ? typed : 0.0;
     pushDefaultRate(rate);
     const int mapping = findProductMapping(rateCalMappings, selectedProduct);
     if (mapping >= 0)

@@ -94,6 +94,51 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
+/// A position solution that tells standstill as a list.
+class ListGpsGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QVariantList, vehicleIsStopped, VehicleIsStopped)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QVariantList vehicleIsStopped;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A bin that names its prescription by a number.
+class NumberBinGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(int, rxMapGroupName, RxMapGroupName)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        int rxMapGroupName = 0;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
+/// A receiver of re-initialisations that shows what type a value had when it was written.
+class TextQuillSpanGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QString, reInit, ReInit)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QString reInit;
+    };
+    QScopedPointer<Values> d{new Values};
+};
+
 class QuillSpanGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(bool, reInit, ReInit)

@@ -2,6 +2,8 @@
 #include "ratemapping.h"
 #include "testbase.h"
 
+#include <limits>
+
 class TestRateMapping : public TestBase {
     Q_OBJECT
 
@@ -51,7 +53,13 @@ void TestRateMapping::aProductsMappingIsTheFirstThatContainsItsNumber_data()
     QTest::newRow("number alone") << QStringList{"1", "2"} << 1 << 1;
     QTest::newRow("number in a path") << QStringList{"group.1", "group.2"} << 0 << 0;
     QTest::newRow("11 comes before 1") << QStringList{"11", "1"} << 0 << 0;
+    QTest::newRow("10 comes before 1") << QStringList{"10", "1"} << 0 << 0;
+    QTest::newRow("number in the middle") << QStringList{"rate 1 north"} << 0 << 0;
+    QTest::newRow("number of two digits") << QStringList{"1", "10"} << 9 << 1;
     QTest::newRow("none") << QStringList{"1", "2"} << 2 << -1;
+    QTest::newRow("before the first") << QStringList{"0", "10"} << -1 << -1;
+    QTest::newRow("as far back as it goes") << QStringList{"-2147483647"} << std::numeric_limits<int>::min() << -1;
+    QTest::newRow("beyond the last") << QStringList{"-2147483648"} << std::numeric_limits<int>::max() << -1;
     QTest::newRow("no mappings") << QStringList{} << 0 << -1;
 }
 

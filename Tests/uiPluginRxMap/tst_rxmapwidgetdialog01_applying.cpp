@@ -16,6 +16,9 @@ private Q_SLOTS:
     void aMasterAloneSendsReInit();
     void aChangedShutoffSendsReInit();
     void aToggleThatEndsWhereItBeganSendsNoReInit();
+    void aShutoffChangedMeanwhileCountsAsAChange();
+    void anEditToWhatTheGroupHoldsMeanwhileSendsNoReInit();
+    void reInitIsATruthValue();
     void mappingsAreWrittenBeforeSettings();
 };
 
@@ -171,6 +174,40 @@ void TestDialogApplying::aToggleThatEndsWhereItBeganSendsNoReInit()
     done();
     QCOMPARE(host->reInitialisations, 0);
     QCOMPARE(writes, 1);
+}
+
+void TestDialogApplying::aShutoffChangedMeanwhileCountsAsAChange()
+{
+    open();
+    OrvikTypes::RX_SETTINGS entry = host->entry(1);
+    entry.zeroRateShutoff = true;
+    host->editSettings(1, entry);
+    done();
+    QCOMPARE(host->reInitialisations, 1);
+    QVERIFY(!host->entry(1).zeroRateShutoff);
+}
+
+void TestDialogApplying::anEditToWhatTheGroupHoldsMeanwhileSendsNoReInit()
+{
+    open();
+    DialogProbe::release(probe->zeroRateShutoffBox());
+    OrvikTypes::RX_SETTINGS entry = host->entry(0);
+    entry.zeroRateShutoff = true;
+    host->editSettings(0, entry);
+    done();
+    QCOMPARE(host->reInitialisations, 0);
+}
+
+void TestDialogApplying::reInitIsATruthValue()
+{
+    host->broker.removeGroup(QStringLiteral("quillSpan"));
+    auto *quillSpan = new TextQuillSpanGroup(QStringLiteral("quillSpan"));
+    host->broker.publishGroup(quillSpan);
+    open();
+    DialogProbe::release(probe->zeroRateShutoffBox());
+    done();
+    // A number would have come as its digits.
+    QCOMPARE(quillSpan->getReInit(), QStringLiteral("true"));
 }
 
 void TestDialogApplying::mappingsAreWrittenBeforeSettings()

@@ -7,6 +7,7 @@ class TestDialogDefaultRate : public DialogTest {
 private Q_SLOTS:
     void theDefaultRateIsShownInDisplayUnits_data();
     void theDefaultRateIsShownInDisplayUnits();
+    void theDefaultRateIsShownInTheUnitOfTheProductChosen();
     void aProductWithoutMappingShowsQuestionMarks();
     void theDefaultRateCaptionNamesTheUnit_data();
     void theDefaultRateCaptionNamesTheUnit();
@@ -15,6 +16,11 @@ private Q_SLOTS:
     void withoutAProductTheDefaultRateIsHidden();
     void aTypedDefaultRateTakesEffectAtOnce();
     void aTypedDefaultRateWithoutMappingReachesTheLoaderAlone();
+    void aTypedDefaultRateChangesTheProductsMappingAlone_data();
+    void aTypedDefaultRateChangesTheProductsMappingAlone();
+    void theMappingTakesARateThatTheLoaderHas();
+    void ratesThatHardlyDifferAreTwoRates();
+    void aTypedDefaultRateThatIsNoNumberIsZero_data();
     void aTypedDefaultRateThatIsNoNumberIsZero();
     void theLoaderTakesTheRateBeforeTheMapping();
 };
@@ -48,14 +54,36 @@ void TestDialogDefaultRate::theDefaultRateIsShownInDisplayUnits()
     QCOMPARE(probe->defaultRateEdit()->getText(), text);
 }
 
+void TestDialogDefaultRate::theDefaultRateIsShownInTheUnitOfTheProductChosen()
+{
+    host->replaceProduct(0, ProductLineItem::Pressure);
+    host->setLoaded();
+    host->host.units->setPressureToDisplay(5.0);
+    host->host.units->setWeightRateToDisplay(2.0);
+    auto mappings = host->map->getRateCalMappings();
+    mappings[0].defaultRate = 3.0;
+    mappings[1].defaultRate = 10.0;
+    host->map->setRateCalMappings(mappings);
+    open();
+    QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("15"));
+    DialogProbe::release(probe->productButton(1));
+    QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("20"));
+    DialogProbe::release(probe->productButton(0));
+    QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("15"));
+}
+
 void TestDialogDefaultRate::aProductWithoutMappingShowsQuestionMarks()
 {
     auto mappings = host->map->getRateCalMappings();
     mappings.removeAt(1);
     host->map->setRateCalMappings(mappings);
+    host->replaceProduct(1, ProductLineItem::Pressure);
+    host->setLoaded();
     open();
     DialogProbe::release(probe->productButton(1));
     QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("????"));
+    // Its unit is told all the same.
+    QCOMPARE(probe->defaultRateLabel()->text(), QStringLiteral("Default Rate (psi)"));
 }
 
 void TestDialogDefaultRate::theDefaultRateCaptionNamesTheUnit_data()
@@ -177,14 +205,73 @@ void TestDialogDefaultRate::aTypedDefaultRateWithoutMappingReachesTheLoaderAlone
     QCOMPARE(host->loaders[1].defaultRate, 8.0);
     for (const auto &mapping : qAsConst(probe->mappings()))
         QCOMPARE(mapping.defaultRate, 0.0);
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("0"));
+    QCOMPARE(host->loaders[1].defaultRate, 0.0);
+}
+
+void TestDialogDefaultRate::aTypedDefaultRateChangesTheProductsMappingAlone_data()
+{
+    QTest::addColumn<QStringList>("channels");
+    QTest::addColumn<int>("changed");
+    QTest::newRow("one for each product") << QStringList{"2", "1", "3"} << 1;
+    QTest::newRow("two that contain the number") << QStringList{"2", "11", "1"} << 1;
+    QTest::newRow("the same channel twice") << QStringList{"1", "2", "1"} << 0;
+}
+
+void TestDialogDefaultRate::aTypedDefaultRateChangesTheProductsMappingAlone()
+{
+    QFETCH(QStringList, channels);
+    QFETCH(int, changed);
+    QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> mappings;
+    for (const QString &channel : channels)
+        mappings.append(mappingFor(channel));
+    host->map->setRateCalMappings(mappings);
+    open();
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("8"));
+    mappings[changed].defaultRate = 8.0;
+    QCOMPARE(probe->mappings(), mappings);
+}
+
+void TestDialogDefaultRate::theMappingTakesARateThatTheLoaderHas()
+{
+    host->loaders[0].defaultRate = 5.0;
+    open();
+    int taken = 0;
+    connect(&host->loaders[0], &RxMapLoader::defaultRateTaken, this, [&taken] { ++taken; });
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("5"));
+    QCOMPARE(probe->mappings().at(0).defaultRate, 5.0);
+    QCOMPARE(taken, 0);
+}
+
+void TestDialogDefaultRate::ratesThatHardlyDifferAreTwoRates()
+{
+    open();
+    QList<double> taken;
+    connect(&host->loaders[0], &RxMapLoader::defaultRateTaken, this, [&taken](double rate) { taken.append(rate); });
+    for (const char *text : {"1", "1.0000000000001"})
+        DialogProbe::type(probe->defaultRateEdit(), QString::fromLatin1(text));
+    QCOMPARE(taken.size(), 2);
+    QVERIFY(taken.at(0) < taken.at(1));
+}
+
+void TestDialogDefaultRate::aTypedDefaultRateThatIsNoNumberIsZero_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text : {"????", "", "inf", "-inf", "nan", "1e308"})
+        QTest::newRow(text) << QString::fromLatin1(text);
 }
 
 void TestDialogDefaultRate::aTypedDefaultRateThatIsNoNumberIsZero()
 {
+    QFETCH(QString, text);
     open();
+    // With this factor the largest numbers are none any more.
+    probe->setFactors(0.1, 10.0);
     host->loaders[0].defaultRate = 5.0;
-    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("????"));
+    probe->mappings()[0].defaultRate = 6.0;
+    DialogProbe::type(probe->defaultRateEdit(), text);
     QCOMPARE(host->loaders[0].defaultRate, 0.0);
+    QCOMPARE(probe->mappings().at(0).defaultRate, 0.0);
 }
 
 void TestDialogDefaultRate::theLoaderTakesTheRateBeforeTheMapping()

@@ -30,6 +30,8 @@ void TestDialogEditing::selectingAProductShowsItsValues()
     QCOMPARE(probe->productButton(2)->textColor(0), QColor(Qt::white));
     DialogProbe::release(probe->productButton(1));
     QCOMPARE(probe->zeroRateShutoffBox()->currentImage(), 0);
+    QCOMPARE(probe->productButton(2)->currentImage(), 0);
+    QCOMPARE(probe->productButton(2)->textColor(0), QColor(129, 129, 129, 255));
 }
 
 void TestDialogEditing::lookAheadIsShownWithOneDecimal_data()
@@ -66,6 +68,7 @@ void TestDialogEditing::typedLookAheadIsStoredInMilliseconds_data()
     QTest::newRow("no number") << "abc" << 0;
     QTest::newRow("empty") << "" << 0;
     QTest::newRow("not a number") << "nan" << 0;
+    QTest::newRow("too small") << "-1e300" << std::numeric_limits<int>::min();
     QTest::newRow("too large") << "1e300" << std::numeric_limits<int>::max();
 }
 

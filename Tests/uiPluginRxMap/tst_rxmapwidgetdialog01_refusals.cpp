@@ -7,6 +7,8 @@ class TestDialogRefusals : public DialogTest {
 private Q_SLOTS:
     void refusedWritesAreLoggedAndTheDialogCloses_data();
     void refusedWritesAreLoggedAndTheDialogCloses();
+    void aGroupThatRefusesDoesNotHoldUpTheNext_data();
+    void aGroupThatRefusesDoesNotHoldUpTheNext();
     void aRemovedGroupIsRefusedAndTheDialogCloses();
     void aMissingQuillSpanIsIgnored();
     void fewerSettingsThanTheGroupHoldsNow();
@@ -52,15 +54,53 @@ void TestDialogRefusals::refusedWritesAreLoggedAndTheDialogCloses()
     QVERIFY(messages().debugLines().join(QLatin1Char('\n')).contains(debugLine));
 }
 
+void TestDialogRefusals::aGroupThatRefusesDoesNotHoldUpTheNext_data()
+{
+    QTest::addColumn<QString>("refusal");
+    QTest::addColumn<QString>("warning");
+    const QString set = QStringLiteral("set rxMap.field::rateCalMappings failed: ");
+    QTest::newRow("protected") << "protected" << set + QStringLiteral("invalid write access token");
+    QTest::newRow("rejected") << "rejected" << set + QStringLiteral("5");
+    QTest::newRow("removed") << "removed" << QString();
+}
+
+void TestDialogRefusals::aGroupThatRefusesDoesNotHoldUpTheNext()
+{
+    QFETCH(QString, refusal);
+    QFETCH(QString, warning);
+    DbGroupRxMap *second = host->host.addMap(QStringLiteral("second"), {4});
+    open();
+    probe->mappings()[0].defaultRate = 10.0;
+    probe->mappings()[3].defaultRate = 40.0;
+    if (refusal == QLatin1String("protected"))
+        host->map->setWriteProtected("rateCalMappings", true);
+    else if (refusal == QLatin1String("rejected"))
+        host->map->setWriteValidator(
+            "rateCalMappings", [](QVariant, void *) { return 5; }, nullptr);
+    else
+        host->broker.removeGroup(QStringLiteral("rxMap.field"));
+    if (!warning.isEmpty())
+        messages().expectWarning(warning);
+    done();
+    QCOMPARE(host->map->getRateCalMappings().at(0).defaultRate, 0.0);
+    QCOMPARE(second->getRateCalMappings().at(0).defaultRate, 40.0);
+}
+
 void TestDialogRefusals::aRemovedGroupIsRefusedAndTheDialogCloses()
 {
     open();
     DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("4.2"));
+    DialogProbe::release(probe->zeroRateShutoffBox());
     DbGroupRxMap *group = host->map;
     host->broker.removeGroup(QStringLiteral("rxMap.field"));
     done();
     QCOMPARE(group->mostRecentErr(), int(DataBrokerGroup::ErrGroupRemoved));
     QCOMPARE(group->getSettings().at(0).onLookAheadMs, 1000);
+    const QString refused = QStringLiteral("mostRecentErr = DataBrokerGroup::ErrGroupRemoved, while setting");
+    QCOMPARE(
+        messages().debugLines().filter(refused),
+        (QStringList{refused + QStringLiteral(" \"rateCalMappings\""), refused + QStringLiteral(" \"settings\"")}));
+    QCOMPARE(host->reInitialisations, 1);
 }
 
 void TestDialogRefusals::aMissingQuillSpanIsIgnored()
