@@ -49,21 +49,21 @@ BENCHMARK_CAPTURE(rebuild, grid, [] { return gridMap("grid", 317); })
     ->Iterations(7);
 BENCHMARK_CAPTURE(rebuild, smooth,
                   [] {
-                      return zoneMap("smooth", {800, 1, 0.65, 3, 1});
+                      return zoneMap("smooth", {800, 2, 3, 0.0, 1});
                   })
     ->Name("Rebuild/zones-smooth")
     ->UseManualTime()
     ->Iterations(7);
 BENCHMARK_CAPTURE(rebuild, rough,
                   [] {
-                      return zoneMap("rough", {540, 0, 0.8, 3, 1});
+                      return zoneMap("rough", {680, 40, 10, 0.1, 1});
                   })
     ->Name("Rebuild/zones-rough")
     ->UseManualTime()
     ->Iterations(7);
 BENCHMARK_CAPTURE(plainRebuild, rough,
                   [] {
-                      return zoneMap("rough", {540, 0, 0.8, 3, 1});
+                      return zoneMap("rough", {680, 40, 10, 0.1, 1});
                   })
     ->Name("PlainRebuild/zones-rough")
     ->UseManualTime()

@@ -58,13 +58,6 @@ void smoothLines(std::vector<double> &values, int side, int radius, bool columns
     }
 }
 
-int classOf(double rank, const ZoneKind &kind)
-{
-    if (rank < kind.background)
-        return 0;
-    return 1 + static_cast<int>((rank - kind.background) / (1.0 - kind.background) * (kind.classes - 1));
-}
-
 /// A raster of classes cut from smoothed noise at its quantiles.
 Raster classRaster(const ZoneKind &kind)
 {
@@ -84,7 +77,9 @@ Raster classRaster(const ZoneKind &kind)
         for (int x = 0; x < side; ++x) {
             const double value = noise[static_cast<std::size_t>(y * side + x)];
             const auto rank = std::lower_bound(sorted.begin(), sorted.end(), value) - sorted.begin();
-            raster.set(x, y, classOf(static_cast<double>(rank) / static_cast<double>(sorted.size()), kind));
+            const bool isSpeckle = static_cast<double>(random()) / 4294967296.0 < kind.speckles;
+            const auto zone = static_cast<int>(rank * kind.classes / static_cast<std::ptrdiff_t>(sorted.size()));
+            raster.set(x, y, isSpeckle ? static_cast<int>(random() % 2) : 2 + zone);
         }
     }
     return raster;
@@ -202,9 +197,9 @@ BenchmarkMap gridMap(const std::string &name, int side)
 BenchmarkMap zoneMap(const std::string &name, const ZoneKind &kind)
 {
     const int side = kind.side;
-    const Raster classRates = classRaster(kind);
+    const Raster classes = classRaster(kind);
     std::vector<std::pair<int, int>> firstCells;
-    const Raster zones = zonesOf(classRates, firstCells);
+    const Raster zones = zonesOf(classes, firstCells);
     std::vector<std::vector<BenchmarkMap::Ring>> holes(firstCells.size());
     std::vector<BenchmarkMap::Ring> outers(firstCells.size());
     std::vector<bool> walked(static_cast<std::size_t>(side) * static_cast<std::size_t>(side), false);
@@ -222,11 +217,14 @@ BenchmarkMap zoneMap(const std::string &name, const ZoneKind &kind)
         }
     }
     BenchmarkMap map(name);
-    for (std::size_t zone = 0; zone < outers.size(); ++zone) {
-        const auto rate = static_cast<float>(classRates.at(firstCells[zone].first, firstCells[zone].second));
-        map.add(std::move(outers[zone]), rate, false);
-        for (BenchmarkMap::Ring &hole : holes[zone])
-            map.add(std::move(hole), rate, true);
+    for (int noiseClass = 0; noiseClass < 2 + kind.classes; ++noiseClass) {
+        for (std::size_t zone = 0; zone < outers.size(); ++zone) {
+            if (classes.at(firstCells[zone].first, firstCells[zone].second) != noiseClass)
+                continue;
+            map.add(std::move(outers[zone]), static_cast<float>(noiseClass * 30), false);
+            for (BenchmarkMap::Ring &hole : holes[zone])
+                map.add(std::move(hole), static_cast<float>(noiseClass * 30), true);
+        }
     }
     map.finish();
     return map;

@@ -6,14 +6,15 @@
 BenchmarkMap gridMap(const std::string &name, int side);
 /// How a zone map is grown.
 struct ZoneKind {
-    int side;          ///< Samples along an edge of the field, 5 m apart.
-    int smoothing;     ///< Radius, in samples, over which white noise is averaged; 0 leaves it rough.
-    double background; ///< Share of the field that the lowest class takes.
-    int classes;       ///< The others share the rest evenly.
+    int side;        ///< Samples along an edge of the field, 5 m apart.
+    int smoothing;   ///< Radius, in samples, over which white noise is averaged twice; its quantiles bound the zones.
+    int classes;     ///< Of equal share.
+    double speckles; ///< Share of samples that are drawn anew, into two classes of their own below the others.
     unsigned int seed;
 };
 
-/// Zones of equal class in a field of noise.
+/// Zones of equal class in a field of noise. The rings of one class follow each other, as they do where a file holds
+/// one record for each rate.
 BenchmarkMap zoneMap(const std::string &name, const ZoneKind &kind);
 /// One ring of `vertices` vertices around `holes` holes.
 BenchmarkMap ringMap(const std::string &name, int vertices, int holes);

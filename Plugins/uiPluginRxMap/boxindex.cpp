@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace {
 
@@ -18,77 +17,95 @@ void include(Box &box, const Box &other)
     box.maxY = qMax(box.maxY, other.maxY);
 }
 
-double centreX(const Box &box)
+double centreX(const BoxEntry &entry)
 {
-    return box.minX / 2.0 + box.maxX / 2.0;
+    return entry.box.minX / 2.0 + entry.box.maxX / 2.0;
 }
 
-double centreY(const Box &box)
+double centreY(const BoxEntry &entry)
 {
-    return box.minY / 2.0 + box.maxY / 2.0;
+    return entry.box.minY / 2.0 + entry.box.maxY / 2.0;
 }
 
 } // namespace
 
-BoxIndex::BoxIndex(const QVector<Box> &boxes, const QVector<int> &ids)
+BoxIndex::BoxIndex(QVector<BoxEntry> entries)
 {
-    packLeaves(boxes, ids);
+    packLeaves(entries);
     while (levels.constLast().size() > fanOut) {
-        const QVector<Box> &below = levels.constLast();
-        QVector<Box> level;
+        const QVector<Node> &below = levels.constLast();
+        QVector<Node> level;
         level.reserve((below.size() + fanOut - 1) / fanOut);
         for (int i = 0; i < below.size(); ++i) {
-            if (i % fanOut == 0)
+            if (i % fanOut == 0) {
                 level.append(below.at(i));
-            else
-                include(level.last(), below.at(i));
+                continue;
+            }
+            Node &node = level.last();
+            include(node.box, below.at(i).box);
+            node.smallestArea = qMin(node.smallestArea, below.at(i).smallestArea);
+            node.left += below.at(i).left;
         }
         levels.append(level);
     }
 }
 
 // Boxes that lie near each other come to lie in one node: sorted into columns by x, in each column by y.
-void BoxIndex::packLeaves(const QVector<Box> &boxes, const QVector<int> &ids)
+void BoxIndex::packLeaves(QVector<BoxEntry> &entries)
 {
-    QVector<int> order(boxes.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::sort(order.begin(), order.end(),
-              [&boxes](int a, int b) { return centreX(boxes.at(a)) < centreX(boxes.at(b)); });
-    const int nodes = (boxes.size() + fanOut - 1) / fanOut;
+    std::sort(entries.begin(), entries.end(),
+              [](const BoxEntry &a, const BoxEntry &b) { return centreX(a) < centreX(b); });
+    const int nodes = (entries.size() + fanOut - 1) / fanOut;
     const int columns = qMax(1, static_cast<int>(std::sqrt(nodes)));
-    const int columnSize = (boxes.size() + columns - 1) / columns;
-    for (int start = 0; start < order.size(); start += columnSize) {
-        const int end = qMin(start + columnSize, order.size());
-        std::sort(order.begin() + start, order.begin() + end,
-                  [&boxes](int a, int b) { return centreY(boxes.at(a)) < centreY(boxes.at(b)); });
+    const int columnSize = (entries.size() + columns - 1) / columns;
+    for (int start = 0; start < entries.size(); start += columnSize) {
+        const int end = qMin(start + columnSize, entries.size());
+        std::sort(entries.begin() + start, entries.begin() + end,
+                  [](const BoxEntry &a, const BoxEntry &b) { return centreY(a) < centreY(b); });
     }
 
-    QVector<Box> leaves;
-    leaves.reserve(order.size());
-    leafIds.reserve(order.size());
-    for (int i : qAsConst(order)) {
-        leaves.append(boxes.at(i));
-        leafIds.append(ids.at(i));
+    int largestId = -1;
+    for (const BoxEntry &entry : qAsConst(entries))
+        largestId = qMax(largestId, entry.id);
+    leafOfId.fill(-1, largestId + 1);
+    QVector<Node> leaves;
+    leaves.reserve(entries.size());
+    leafIds.reserve(entries.size());
+    for (const BoxEntry &entry : qAsConst(entries)) {
+        leafOfId[entry.id] = leaves.size();
+        leaves.append({entry.box, entry.area, 1});
+        leafIds.append(entry.id);
     }
     levels.append(leaves);
 }
 
-void BoxIndex::find(const Box &box, QVector<int> &found) const
+void BoxIndex::find(const Box &box, double area, QVector<BoxEntry> &found) const
 {
     const int top = levels.size() - 1;
     for (int node = 0; node < levels.at(top).size(); ++node)
-        findBelow(top, node, box, found);
+        findBelow(top, node, box, area, found);
 }
 
-void BoxIndex::findBelow(int level, int node, const Box &box, QVector<int> &found) const
+void BoxIndex::findBelow(int level, int node, const Box &box, double area, QVector<BoxEntry> &found) const
 {
-    if (!levels.at(level).at(node).contains(box))
+    const Node &here = levels.at(level).at(node);
+    if (here.left == 0 || here.smallestArea >= area || !box.touches(here.box))
         return;
     if (level == 0) {
-        found.append(leafIds.at(node));
+        if (box.contains(here.box))
+            found.append({here.box, here.smallestArea, leafIds.at(node)});
         return;
     }
     const int end = qMin((node + 1) * fanOut, levels.at(level - 1).size());
     for (int below = node * fanOut; below < end; ++below)
-        findBelow(level - 1, below, box, found);
+        findBelow(level - 1, below, box, area, found);
+}
+
+void BoxIndex::remove(int id)
+{
+    int node = leafOfId.at(id);
+    for (QVector<Node> &level : levels) {
+        --level[node].left;
+        node /= fanOut;
+    }
 }

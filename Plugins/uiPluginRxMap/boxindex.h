@@ -13,21 +13,44 @@ struct Box {
     {
         return minX <= other.minX && other.maxX <= maxX && minY <= other.minY && other.maxY <= maxY;
     }
+
+    bool touches(const Box &other) const
+    {
+        return minX <= other.maxX && other.minX <= maxX && minY <= other.maxY && other.minY <= maxY;
+    }
 };
 
-/// A packed tree of boxes that finds those that contain a given one.
+/// The box of one ring, with the area that the ring is published with.
+struct BoxEntry {
+    Box box;     ///< Finite.
+    double area; ///< Not NaN.
+    int id;      ///< Tells the boxes of an index apart; 0 or above.
+};
+
+Q_DECLARE_TYPEINFO(BoxEntry, Q_PRIMITIVE_TYPE);
+
+/// A packed tree of boxes that finds those inside a given one, and from which boxes are taken as they are used up.
 class BoxIndex {
 public:
-    /// `boxes` are finite; `ids` are what find() answers with, in the same order.
-    BoxIndex(const QVector<Box> &boxes, const QVector<int> &ids);
+    explicit BoxIndex(QVector<BoxEntry> entries);
 
-    /// Appends the ids of all boxes that contain `box` to `found`, in no particular order.
-    void find(const Box &box, QVector<int> &found) const;
+    /// Appends all boxes inside `box` whose area is less than `area` to `found`, in no particular order.
+    void find(const Box &box, double area, QVector<BoxEntry> &found) const;
+    /// Takes a box out; `id` is one of the index and still in it.
+    void remove(int id);
 
 private:
-    void packLeaves(const QVector<Box> &boxes, const QVector<int> &ids);
-    void findBelow(int level, int node, const Box &box, QVector<int> &found) const;
+    /// What is known of everything below a node; a node without boxes left is passed over.
+    struct Node {
+        Box box;
+        double smallestArea;
+        int left;
+    };
 
-    QVector<QVector<Box>> levels; ///< From the leaves up; node n has the nodes n * fanOut ... below it.
+    void packLeaves(QVector<BoxEntry> &entries);
+    void findBelow(int level, int node, const Box &box, double area, QVector<BoxEntry> &found) const;
+
+    QVector<QVector<Node>> levels; ///< From the leaves up; node n has the nodes n * fanOut ... below it.
     QVector<int> leafIds;
+    QVector<int> leafOfId;
 };

@@ -2,6 +2,30 @@
 
 #include "Framework/rxpolygon.h"
 
+#include <cmath>
+#include <limits>
+
+/// Coordinates up to the one cannot overflow in the edge arithmetic; heights from the other on lose less to underflow
+/// than crossingMargin() allows for.
+constexpr double largestOrdinary = 1e100;
+constexpr double smallestOrdinary = 1e-180;
+
+/// Whether crossingMargin() holds for edges that end at this vertex; false for NaN.
+inline bool isOrdinary(const OrvikTypes::RX_POLYGONVERTEX &vertex)
+{
+    const double height = std::fabs(vertex.y);
+    return std::fabs(vertex.x) <= largestOrdinary
+        && (height == 0.0 || (height >= smallestOrdinary && height <= largestOrdinary));
+}
+
+/// How far, metres, the crossing that edgeToggles() computes can lie beside its edge, for a ring of ordinary vertices
+/// between two abscissas: the rounding of five operations, and an underflow at the smallest height.
+inline double crossingMargin(double leftmost, double rightmost)
+{
+    return 16.0 * std::numeric_limits<double>::epsilon() * (std::fabs(leftmost) + std::fabs(rightmost))
+        + 1.0 / largestOrdinary;
+}
+
 /// Vertices of a ring; none for a ring without a vertex array or with a count that no ring in memory can have.
 inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
 {

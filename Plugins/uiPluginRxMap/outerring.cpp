@@ -1,0 +1,46 @@
+#include "outerring.h"
+
+#include "ringbox.h"
+#include "ringtest.h"
+
+using OrvikTypes::RX_POLYGON;
+using OrvikTypes::RX_POLYGONVERTEX;
+
+namespace {
+
+/// Rings with fewer vertices, or with fewer to be tested against them, are tested faster edge by edge.
+constexpr int smallestRastered = 16;
+
+} // namespace
+
+OuterRing::OuterRing(const RX_POLYGON &ring)
+    : vertices(ring.vertices)
+    , count(vertexCount(ring))
+    , ordinary(boxOfOuter(ring, outerBox))
+{
+}
+
+void OuterRing::prepareFor(qint64 points)
+{
+    if (ordinary && count >= smallestRastered && points >= smallestRastered)
+        raster.reset(new RingRaster(vertices, count));
+}
+
+bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)
+{
+    const int points = vertexCount(hole);
+    // One point answers for all of a hole that no edge comes near.
+    const bool isClear = raster && raster->isClear(holeBox);
+    const int tested = isClear ? qMin(points, 1) : points;
+    for (int i = 0; i < tested; ++i) {
+        const RX_POLYGONVERTEX point = narrowed(hole.vertices[i]);
+        if (!isInside(point.x, point.y))
+            return false;
+    }
+    return points > 0;
+}
+
+bool OuterRing::isInside(double x, double y)
+{
+    return raster ? raster->isInside(x, y) : isInsideRing(vertices, count, x, y);
+}

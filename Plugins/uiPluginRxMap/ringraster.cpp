@@ -1,0 +1,201 @@
+#include "ringraster.h"
+
+#include "ringtest.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+using OrvikTypes::RX_POLYGONVERTEX;
+
+namespace {
+
+/// A box of more cells is not looked through.
+constexpr int mostCellsOfBox = 64;
+
+} // namespace
+
+RingRaster::RingRaster(const RX_POLYGONVERTEX *vertices, int count)
+    : vertices(vertices)
+    , count(count)
+    , left(vertices[0].x)
+    , bottom(vertices[0].y)
+{
+    double right = left;
+    double top = bottom;
+    double run = 0.0;
+    double climb = 0.0;
+    for (int i = 0, j = count - 1; i < count; j = i++) {
+        left = qMin(left, vertices[i].x);
+        right = qMax(right, vertices[i].x);
+        bottom = qMin(bottom, vertices[i].y);
+        top = qMax(top, vertices[i].y);
+        run += std::fabs(vertices[i].x - vertices[j].x);
+        climb += std::fabs(vertices[i].y - vertices[j].y);
+    }
+    // Once for the edge test, once for where an edge's pieces are computed to end.
+    marginX = 2.0 * crossingMargin(left, right);
+    marginY = 2.0 * crossingMargin(bottom, top);
+    chooseCells(right - left, top - bottom, run, climb);
+    listEdges();
+}
+
+// Cells of the mean edge's width and height let each edge cross only a few; fewer and larger ones where that would
+// make more than two for each edge.
+void RingRaster::chooseCells(double width, double height, double run, double climb)
+{
+    double wantedColumns = run > 0.0 ? width / run * count : 1.0;
+    double wantedRows = climb > 0.0 ? height / climb * count : 1.0;
+    const double excess = wantedColumns * wantedRows / (2.0 * count);
+    if (excess > 1.0) {
+        wantedColumns /= std::sqrt(excess);
+        wantedRows /= std::sqrt(excess);
+    }
+    columns = static_cast<int>(qBound(1.0, wantedColumns, static_cast<double>(count)));
+    rows = static_cast<int>(qBound(1.0, wantedRows, static_cast<double>(count)));
+    if (width > 0.0 && std::isfinite(columns / width))
+        columnsPerMetre = columns / width;
+    if (height > 0.0 && std::isfinite(rows / height))
+        rowsPerMetre = rows / height;
+}
+
+void RingRaster::listEdges()
+{
+    cells.fill(Unknown, columns * rows);
+    isResolved.fill(false, rows);
+    cellStart.fill(0, columns * rows + 1);
+    for (int edge = 0; edge < count; ++edge)
+        forCellsOf(edge, [this](int cell) { ++cellStart[cell + 1]; });
+    for (int cell = 0; cell < cells.size(); ++cell) {
+        if (cellStart.at(cell + 1) > 0)
+            cells[cell] = Crossed;
+    }
+    std::partial_sum(cellStart.cbegin(), cellStart.cend(), cellStart.begin());
+    cellEdges.resize(cellStart.constLast());
+    QVector<int> next = cellStart;
+    for (int edge = 0; edge < count; ++edge)
+        forCellsOf(edge, [this, &next, edge](int cell) { cellEdges[next[cell]++] = edge; });
+}
+
+// Piece by piece, each hardly higher than a row, so that a long slanting edge does not cross all cells of its box. A
+// cell may be visited twice.
+template <typename Visit> void RingRaster::forCellsOf(int edge, Visit visit) const
+{
+    const RX_POLYGONVERTEX &from = vertices[edge == 0 ? count - 1 : edge - 1];
+    const RX_POLYGONVERTEX &to = vertices[edge];
+    const int pieces = 1 + static_cast<int>(std::fabs(to.y - from.y) * rowsPerMetre);
+    RX_POLYGONVERTEX start = from;
+    for (int piece = 1; piece <= pieces; ++piece) {
+        RX_POLYGONVERTEX end = to;
+        if (piece < pieces) {
+            const double share = static_cast<double>(piece) / pieces;
+            end = {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
+        }
+        const int firstColumn = columnOf(qMin(start.x, end.x) - marginX);
+        const int lastColumn = columnOf(qMax(start.x, end.x) + marginX);
+        const int lastRow = rowOf(qMax(start.y, end.y) + marginY);
+        for (int row = rowOf(qMin(start.y, end.y) - marginY); row <= lastRow; ++row) {
+            for (int column = firstColumn; column <= lastColumn; ++column)
+                visit(row * columns + column);
+        }
+        start = end;
+    }
+}
+
+bool RingRaster::isInside(double x, double y)
+{
+    if (std::isnan(x) || std::isnan(y))
+        return false;
+    const int row = rowOf(y);
+    if (!isResolved.at(row))
+        resolveRow(row, y);
+    gathered.resize(0);
+    for (int column = columnOf(x); column < columns; ++column) {
+        const int cell = row * columns + column;
+        double clearX = x;
+        if (cells.at(cell) == Crossed || cells.at(cell) == Unknown)
+            gather(cell);
+        else if (column == columnOf(x) || middleOf(column, clearX))
+            return differsBetween(x, clearX, y) != (cells.at(cell) == Inside);
+    }
+    return differsBetween(x, std::numeric_limits<double>::infinity(), y);
+}
+
+/// Finds the sides of a row's cells from the right, where outside is, along the height `y` of the row.
+void RingRaster::resolveRow(int row, double y)
+{
+    isResolved[row] = true;
+    gathered.resize(0);
+    bool isInside = false;
+    double knownX = std::numeric_limits<double>::infinity();
+    for (int column = columns - 1; column >= 0; --column) {
+        const int cell = row * columns + column;
+        double x = 0.0;
+        if (cells.at(cell) == Crossed) {
+            gather(cell);
+        } else if (middleOf(column, x)) {
+            isInside ^= differsBetween(x, knownX, y);
+            cells[cell] = isInside ? Inside : Outside;
+            knownX = x;
+            gathered.resize(0);
+        }
+    }
+}
+
+/// Whether the gathered edges put two points at the height `y` on different sides.
+bool RingRaster::differsBetween(double x, double otherX, double y)
+{
+    std::sort(gathered.begin(), gathered.end());
+    const auto end = std::unique(gathered.begin(), gathered.end());
+    bool differs = false;
+    for (auto edge = gathered.cbegin(); edge != end; ++edge) {
+        const RX_POLYGONVERTEX &from = vertices[*edge == 0 ? count - 1 : *edge - 1];
+        differs ^= edgeToggles(from, vertices[*edge], x, y) != edgeToggles(from, vertices[*edge], otherX, y);
+    }
+    return differs;
+}
+
+void RingRaster::gather(int cell)
+{
+    for (int entry = cellStart.at(cell); entry < cellStart.at(cell + 1); ++entry)
+        gathered.append(cellEdges.at(entry));
+}
+
+bool RingRaster::isClear(const Box &box) const
+{
+    const int firstColumn = columnOf(box.minX);
+    const int lastColumn = columnOf(box.maxX);
+    const int firstRow = rowOf(box.minY);
+    const int lastRow = rowOf(box.maxY);
+    if (lastColumn - firstColumn >= mostCellsOfBox || lastRow - firstRow >= mostCellsOfBox
+        || (lastColumn - firstColumn + 1) * (lastRow - firstRow + 1) > mostCellsOfBox)
+        return false;
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (int column = firstColumn; column <= lastColumn; ++column) {
+            if (cells.at(row * columns + column) == Crossed)
+                return false;
+        }
+    }
+    return true;
+}
+
+/// An abscissa in the middle of a column; false where the machine's numbers have none.
+bool RingRaster::middleOf(int column, double &x) const
+{
+    x = columnsPerMetre > 0.0 ? left + (column + 0.5) / columnsPerMetre : left;
+    return columnOf(x) == column;
+}
+
+// Neither falls as its argument rises, rounding included; the outermost cells reach beyond the ring's box.
+int RingRaster::columnOf(double x) const
+{
+    return static_cast<int>(qBound(0.0, (x - left) * columnsPerMetre, columns - 1.0));
+}
+
+int RingRaster::rowOf(double y) const
+{
+    return static_cast<int>(qBound(0.0, (y - bottom) * rowsPerMetre, rows - 1.0));
+}
