@@ -19,8 +19,6 @@ private Q_SLOTS:
     void controlsStandAtTheirPlaces();
     void controlsAreStackedInTheirOrder();
     void slotsComeInTheirOrder();
-    void everySignalIsConnectedToItsSlot_data();
-    void everySignalIsConnectedToItsSlot();
     void lineEditsTakeTheirLimits_data();
     void lineEditsTakeTheirLimits();
     void productButtonsAreSpreadOverTheHeight_data();
@@ -173,46 +171,6 @@ void TestDialogLayout::slotsComeInTheirOrder()
              (QStringList{"doneButtonReleased(int)", "onValueChanged(int)", "productSelectionChanged(int)",
                           "testForZeroSpeed()"}));
     QCOMPARE(names, (QList<QByteArray>{"", "id", "buttonIndex"}));
-}
-
-void TestDialogLayout::everySignalIsConnectedToItsSlot_data()
-{
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<int>("id");
-    QTest::newRow("done") << "doneButton" << 0;
-    QTest::newRow("apply to all") << "applyToAllBox" << 0;
-    QTest::newRow("look-ahead") << "lookAheadEdit" << 1;
-    QTest::newRow("zero rate") << "zeroRateShutoffBox" << 2;
-    QTest::newRow("default rate") << "defaultRateEdit" << 3;
-    QTest::newRow("product 1") << "productButton0" << 0;
-    QTest::newRow("product 3") << "productButton2" << 2;
-}
-
-void TestDialogLayout::everySignalIsConnectedToItsSlot()
-{
-    QFETCH(QString, control);
-    QFETCH(int, id);
-    DialogHost host;
-    Opened opened(host);
-    opened.dialog.show();
-    const DialogProbe &probe = opened.probe;
-    auto *widget = opened.dialog.findChild<QWidget *>(control);
-    QVERIFY(widget);
-    if (auto *edit = qobject_cast<OrvikLineEdit *>(widget)) {
-        QCOMPARE(edit->id(), id);
-        DialogProbe::type(edit, QStringLiteral("7.0"));
-        QVERIFY(probe.settings().at(0).onLookAheadMs == 7000 || probe.mappings().at(0).defaultRate == 7.0);
-        return;
-    }
-    auto *button = qobject_cast<OrvikButton *>(widget);
-    QCOMPARE(button->id(), id);
-    DialogProbe::release(button);
-    if (control == QLatin1String("doneButton"))
-        QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
-    else if (control.startsWith(QLatin1String("productButton")))
-        QCOMPARE(probe.selectedProduct(), id);
-    else
-        QCOMPARE(button->currentImage(), 1);
 }
 
 void TestDialogLayout::lineEditsTakeTheirLimits_data()

@@ -8,6 +8,7 @@ class TestDialogMissing : public TestBase {
 
 private Q_SLOTS:
     void aGroupThatWasNeverWrittenGivesNoSettings();
+    void settingsComeFromTheFirstNameEvenIfItIsNoMap();
     void missingPiecesLeaveAUsableDialog_data();
     void missingPiecesLeaveAUsableDialog();
 };
@@ -92,6 +93,29 @@ void TestDialogMissing::aGroupThatWasNeverWrittenGivesNoSettings()
     QCOMPARE(host.reInitialisations, 0);
 }
 
+void TestDialogMissing::settingsComeFromTheFirstNameEvenIfItIsNoMap()
+{
+    DialogHost host;
+    host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    host.broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
+    DbGroupRxMap *group = host.host.addMap(QStringLiteral("second"), {1, 2, 3});
+    OrvikTypes::RX_SETTINGS entry;
+    entry.onLookAheadMs = 2500;
+    entry.zeroRateShutoff = true;
+    const QList<OrvikTypes::RX_SETTINGS> settings{entry, entry, entry};
+    group->setSettings(settings);
+    Opened opened(host);
+    opened.dialog.show();
+    QVERIFY(opened.probe.settings().isEmpty());
+    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("0.0"));
+    QCOMPARE(opened.probe.mappings(), group->getRateCalMappings());
+    useEveryControl(opened);
+    DialogProbe::release(opened.probe.doneButton());
+    QCOMPARE(group->getSettings(), settings);
+    QCOMPARE(group->getRateCalMappings().at(2).defaultRate, 12.5);
+    QCOMPARE(host.reInitialisations, 0);
+}
+
 void TestDialogMissing::missingPiecesLeaveAUsableDialog_data()
 {
     QTest::addColumn<QString>("missing");
@@ -103,41 +127,42 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog_data()
     QTest::addColumn<double>("loaderRate");
     const QString caption = QStringLiteral("Default Rate (kg/ha)");
     QTest::newRow("nothing") << "nothing"
-                             << "3.0" << caption << "0" << true << 12.5 << 12.5;
+                             << "3.0" << caption << "4" << true << 12.5 << 12.5;
     QTest::newRow("map") << "map"
-                         << "0.0" << caption << "????" << false << 0.0 << 12.5;
+                         << "0.0" << caption << "????" << false << 4.0 << 12.5;
     QTest::newRow("other class") << "map of another class"
-                                 << "0.0" << caption << "????" << false << 0.0 << 12.5;
+                                 << "0.0" << caption << "????" << false << 4.0 << 12.5;
     QTest::newRow("settings") << "settings"
-                              << "0.0" << caption << "0" << false << 12.5 << 12.5;
+                              << "0.0" << caption << "4" << false << 12.5 << 12.5;
     QTest::newRow("units") << "units"
                            << "3.0"
                            << ""
-                           << "0" << true << 0.0 << 0.0;
+                           << "0" << true << 4.0 << 3.0;
     QTest::newRow("gps") << "gps"
-                         << "3.0" << caption << "0" << true << 12.5 << 12.5;
+                         << "3.0" << caption << "4" << true << 12.5 << 12.5;
+    // No product has given its factors yet, so that what is typed counts as 0.
     QTest::newRow("products") << "products"
                               << "3.0"
                               << ""
-                              << "0" << true << 0.0 << 0.0;
+                              << "0" << true << 0.0 << 3.0;
     // The factors are those of the product before.
     QTest::newRow("node") << "node"
                           << "3.0"
                           << ""
-                          << "0" << true << 12.5 << 12.5;
+                          << "4" << true << 12.5 << 12.5;
     QTest::newRow("loader") << "loader"
-                            << "3.0" << caption << "0" << true << 12.5 << 0.0;
+                            << "3.0" << caption << "4" << true << 12.5 << 3.0;
     // Without bins no product is under control, so Done cancels; the master falls to the first product.
     QTest::newRow("bins") << "bins"
-                          << "3.0" << caption << "0" << false << 0.0 << 12.5;
+                          << "3.0" << caption << "4" << false << 4.0 << 12.5;
     QTest::newRow("images") << "images"
-                            << "3.0" << caption << "0" << true << 12.5 << 12.5;
+                            << "3.0" << caption << "4" << true << 12.5 << 12.5;
     QTest::newRow("group removed") << "group removed while open"
-                                   << "3.0" << caption << "0" << false << 0.0 << 12.5;
+                                   << "3.0" << caption << "4" << false << 4.0 << 12.5;
     QTest::newRow("everything") << "everything"
                                 << "0.0"
                                 << ""
-                                << "????" << false << 0.0 << 0.0;
+                                << "????" << false << 4.0 << 3.0;
 }
 
 void TestDialogMissing::missingPiecesLeaveAUsableDialog()
@@ -145,6 +170,11 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog()
     QFETCH(QString, missing);
     QFETCH(bool, settingsWritten);
     DialogHost host;
+    // None of them as a fresh record has it.
+    auto mappings = host.map->getRateCalMappings();
+    mappings[2].defaultRate = 4.0;
+    host.map->setRateCalMappings(mappings);
+    host.loaders[2].defaultRate = 3.0;
     takeAway(host, missing);
     auto expected = host.map->getSettings();
     if (settingsWritten) {
@@ -162,7 +192,11 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog()
     QTEST(opened.probe.lookAheadEdit()->getText(), "lookAhead");
     QTEST(opened.probe.defaultRateLabel()->text(), "caption");
     QTEST(opened.probe.defaultRateEdit()->getText(), "rate");
+    // Without a bin a product is not under control; else even a rate field without a node is shown, as it is meant.
+    const bool hasBins = missing != QLatin1String("bins") && missing != QLatin1String("everything");
+    QCOMPARE(opened.probe.defaultRateEdit()->isVisible(), hasBins);
     useEveryControl(opened);
+    QCOMPARE(messages().debugLines(), QStringList());
     DialogProbe::release(opened.probe.doneButton());
     QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
     QCOMPARE(host.map->getSettings(), expected);

@@ -1,9 +1,8 @@
 #include "dialogtest.h"
 
-#include <QElapsedTimer>
+#include <QAbstractEventDispatcher>
 
 #include <functional>
-#include <limits>
 
 /// When the dialog's controls are shown, hidden, locked and repainted.
 class TestDialogStates : public DialogTest {
@@ -20,10 +19,10 @@ private Q_SLOTS:
     void anUnmappedProductKeepsTheLock();
     void controlsComeBackWithAMappedProduct_data();
     void controlsComeBackWithAMappedProduct();
-    void aBinThatKnowsNoPrescriptionIsNotUnderVra();
     void everyEvaluationRepaintsTheDialog();
     void theVehicleIsPolledEveryHalfSecond();
     void thePollEndsWithTheDialog();
+    void productButtonsAndDoneAreNeverDisabled_data();
     void productButtonsAndDoneAreNeverDisabled();
 
 private:
@@ -64,6 +63,16 @@ public:
     int paints = 0;
 };
 
+/// What the event dispatcher waits for on behalf of single-shot timers.
+QList<QAbstractEventDispatcher::TimerInfo> pollTimers()
+{
+    const auto *dispatcher = QAbstractEventDispatcher::instance();
+    QList<QAbstractEventDispatcher::TimerInfo> timers;
+    for (QObject *timer : dispatcher->children())
+        timers.append(dispatcher->registeredTimers(timer));
+    return timers;
+}
+
 } // namespace
 
 int TestDialogStates::enabledEdits() const
@@ -103,6 +112,9 @@ void TestDialogStates::controlStates()
     QCOMPARE(probe->vehicleMovingLabel()->isVisible(), movingShown);
     QCOMPARE(probe->doneButton()->currentImage(), controlsShown && !stopped ? 1 : 0);
     QCOMPARE(enabledEdits(), stopped || !controlsShown ? 4 : 0);
+    // The captions are never locked.
+    for (QWidget *caption : probe->valueControls().mid(4))
+        QVERIFY2(caption->isEnabled(), qPrintable(caption->objectName()));
 }
 
 void TestDialogStates::notUnderVraLeavesMessageAndDoneImageAsTheyWere()
@@ -143,6 +155,7 @@ void TestDialogStates::onlyAStandstillThatIsKnownUnlocks_data()
     QTest::newRow("text empty") << QVariant(QStringLiteral("")) << false;
     QTest::newRow("number 1") << QVariant(1) << true;
     QTest::newRow("number 0") << QVariant(0) << false;
+    QTest::newRow("list of true") << QVariant(QVariantList{true}) << false;
 }
 
 void TestDialogStates::onlyAStandstillThatIsKnownUnlocks()
@@ -152,6 +165,10 @@ void TestDialogStates::onlyAStandstillThatIsKnownUnlocks()
     if (standstill.type() == QVariant::String) {
         auto *gps = new TextGpsGroup(QStringLiteral("mainGpsSolution"));
         gps->setVehicleIsStopped(standstill.toString());
+        host->broker.publishGroup(gps);
+    } else if (standstill.type() == QVariant::List) {
+        auto *gps = new ListGpsGroup(QStringLiteral("mainGpsSolution"));
+        gps->setVehicleIsStopped(standstill.toList());
         host->broker.publishGroup(gps);
     } else if (standstill.isValid()) {
         auto *gps = new NumberGpsGroup(QStringLiteral("mainGpsSolution"));
@@ -217,18 +234,6 @@ void TestDialogStates::controlsComeBackWithAMappedProduct()
     QCOMPARE(probe->vehicleMovingLabel()->isVisible(), !stopped);
 }
 
-void TestDialogStates::aBinThatKnowsNoPrescriptionIsNotUnderVra()
-{
-    host->broker.removeGroup(QStringLiteral("system.binGroup.3"));
-    host->broker.publishGroup(new UnmappedBinGroup(QStringLiteral("system.binGroup.3")));
-    open();
-    QVERIFY(!probe->notUnderVraLabel()->isVisible());
-    DialogProbe::release(probe->productButton(2));
-    QVERIFY(probe->notUnderVraLabel()->isVisible());
-    for (QWidget *control : probe->valueControls())
-        QVERIFY2(!control->isVisible(), qPrintable(control->objectName()));
-}
-
 void TestDialogStates::everyEvaluationRepaintsTheDialog()
 {
     open();
@@ -245,19 +250,19 @@ void TestDialogStates::everyEvaluationRepaintsTheDialog()
 
 void TestDialogStates::theVehicleIsPolledEveryHalfSecond()
 {
-    QElapsedTimer clock;
-    QList<qint64> polls;
-    const auto countPoll = [&] { polls.append(clock.elapsed()); };
-    PollHook hook(*host->gps, countPoll);
+    // Polls of earlier dialogs run out first.
+    QTRY_VERIFY_WITH_TIMEOUT(pollTimers().isEmpty(), 3000);
+    int polls = 0;
+    PollHook hook(*host->gps, [&polls] { ++polls; });
     open();
-    clock.start();
-    polls.clear();
-    QTRY_VERIFY_WITH_TIMEOUT(polls.size() > 4, 8000);
-    qint64 shortest = std::numeric_limits<qint64>::max();
-    for (int i = 1; i < polls.size(); ++i)
-        shortest = qMin(shortest, polls.at(i) - polls.at(i - 1));
-    // A busy machine polls late, never early; the timer itself may be 5 % off.
-    QVERIFY2(shortest >= 400 && shortest < 700, qPrintable(QString::number(shortest)));
+    polls = 0;
+    for (int poll = 0; poll < 3; ++poll) {
+        const QList<QAbstractEventDispatcher::TimerInfo> timers = pollTimers();
+        QCOMPARE(timers.size(), 1);
+        QCOMPARE(timers.constFirst().interval, 500);
+        QCOMPARE(timers.constFirst().timerType, Qt::PreciseTimer);
+        QTRY_COMPARE_WITH_TIMEOUT(polls, poll + 1, 3000);
+    }
 }
 
 void TestDialogStates::thePollEndsWithTheDialog()
@@ -274,13 +279,28 @@ void TestDialogStates::thePollEndsWithTheDialog()
     QCOMPARE(polls, 0);
 }
 
+void TestDialogStates::productButtonsAndDoneAreNeverDisabled_data()
+{
+    controlStates_data();
+}
+
 void TestDialogStates::productButtonsAndDoneAreNeverDisabled()
 {
-    host->gps->setVehicleIsStopped(false);
+    QFETCH(QString, group);
+    QFETCH(bool, stopped);
+    host->bins.at(0)->setRxMapGroupName(group);
+    host->gps->setVehicleIsStopped(stopped);
     open();
-    for (int i = 0; i < probe->productButtonCount(); ++i)
-        QVERIFY(probe->productButton(i)->isEnabled());
-    QVERIFY(probe->doneButton()->isEnabled());
+    // As it opens, after it was editable, and after it was locked.
+    for (const bool before : {stopped, true, false}) {
+        host->bins.at(0)->setRxMapGroupName(before == stopped ? group : QStringLiteral("rxMap.field"));
+        dialog->setControlsEnabledState(before);
+        host->bins.at(0)->setRxMapGroupName(group);
+        dialog->setControlsEnabledState(stopped);
+        for (int i = 0; i < probe->productButtonCount(); ++i)
+            QVERIFY(probe->productButton(i)->isEnabled());
+        QVERIFY(probe->doneButton()->isEnabled());
+    }
 }
 
 QTEST_MAIN(TestDialogStates)
