@@ -178,6 +178,7 @@ bool RxMap3D::isInitialized() const
 
 void RxMap3D::init()
 {
+    // Without a context there are no functions to find; a later call has another chance.
     if (isInitialized() || QOpenGLContext::currentContext() == nullptr)
         return;
     initializeOpenGLFunctions();
@@ -192,7 +193,8 @@ void RxMap3D::init()
 
 void RxMap3D::draw(QMatrix4x4 mvp)
 {
-    if (!isInitialized())
+    // The functions would be called through a null context.
+    if (!isInitialized() || QOpenGLContext::currentContext() == nullptr)
         return;
     QOpenGLShaderProgram &program = shaderProgram();
     program.bind();

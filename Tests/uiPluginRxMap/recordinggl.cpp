@@ -3,6 +3,8 @@
 #include <QMap>
 #include <QOpenGLContext>
 
+#include <utility>
+
 namespace {
 
 using Table = QOpenGLFunctionsPrivate::Functions;
@@ -22,6 +24,8 @@ struct Record {
     QStringList calls;
     QList<unsigned int> errors;
     QMap<unsigned int, const void *> pointers;
+    QMap<unsigned int, QString> shaders; ///< The type of each.
+    std::function<void(const QString &)> watcher;
 };
 
 Record record;
@@ -29,6 +33,8 @@ Record record;
 void note(const QString &call)
 {
     record.calls.append(call);
+    if (record.watcher)
+        record.watcher(call);
 }
 
 void QOPENGLF_APIENTRY useProgram(GLuint program)
@@ -51,10 +57,13 @@ void QOPENGLF_APIENTRY disableArray(GLuint index)
 
 void QOPENGLF_APIENTRY uniformMatrix(GLint location, GLsizei count, GLboolean transpose, const GLfloat *value)
 {
-    note(QStringLiteral("glUniformMatrix4fv count %1 transpose %2 first %3")
+    QStringList values;
+    for (int i = 0; i < 16; ++i)
+        values.append(QString::number(static_cast<double>(value[i])));
+    note(QStringLiteral("glUniformMatrix4fv count %1 transpose %2 values %3")
              .arg(count)
              .arg(transpose)
-             .arg(static_cast<double>(value[0])));
+             .arg(values.join(QLatin1Char(' '))));
     record.real.UniformMatrix4fv(location, count, transpose, value);
 }
 
@@ -85,19 +94,22 @@ GLenum QOPENGLF_APIENTRY getError()
 
 GLuint QOPENGLF_APIENTRY createShader(GLenum type)
 {
-    note(QStringLiteral("glCreateShader 0x%1").arg(type, 0, 16));
-    return record.real.CreateShader(type);
+    const QString name = QStringLiteral("0x%1").arg(type, 0, 16);
+    note(QStringLiteral("glCreateShader ") + name);
+    const GLuint shader = record.real.CreateShader(type);
+    record.shaders[shader] = name;
+    return shader;
 }
 
 void QOPENGLF_APIENTRY compileShader(GLuint shader)
 {
-    note(QStringLiteral("glCompileShader"));
+    note(QStringLiteral("glCompileShader ") + record.shaders.value(shader));
     record.real.CompileShader(shader);
 }
 
 void QOPENGLF_APIENTRY attachShader(GLuint program, GLuint shader)
 {
-    note(QStringLiteral("glAttachShader"));
+    note(QStringLiteral("glAttachShader ") + record.shaders.value(shader));
     record.real.AttachShader(program, shader);
 }
 
@@ -235,6 +247,11 @@ void RecordingGl::clear()
 void RecordingGl::pend(const QList<unsigned int> &errors)
 {
     record.errors = errors;
+}
+
+void RecordingGl::watch(std::function<void(const QString &)> watcher)
+{
+    record.watcher = std::move(watcher);
 }
 
 const void *RecordingGl::pointerOf(unsigned int attribute)

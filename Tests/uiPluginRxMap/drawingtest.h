@@ -1,0 +1,26 @@
+#pragma once
+
+#include "currentcontext.h"
+#include "maphost.h"
+#include "recordinggl.h"
+#include "rxmap3dprobe.h"
+#include "testbase.h"
+
+/// Base of the tests of the map's drawing: for each test function a context with a recording function table, and a map
+/// that is not initialised.
+class DrawingTest : public TestBase {
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
+    /// Appends a bank of so many vertices to the map.
+    void addBank(int vertices, qint32 primitive = 4);
+
+    QScopedPointer<CurrentContext> context;
+    QScopedPointer<RecordingGl> gl;
+    QScopedPointer<MapHost> host;
+    QScopedPointer<RxMap3D> map;
+};
