@@ -4,7 +4,7 @@
 #include <QString>
 
 /// The user-interface languages: English is built in, the others are catalogues (*_<code>.qm) in the plug-ins' folder
-/// or its folder "translations".
+/// or its folder "translations", and the display's own, which the program carries.
 class Languages {
 public:
     /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application. Empty, or the

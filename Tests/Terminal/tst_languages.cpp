@@ -13,6 +13,8 @@ private Q_SLOTS:
     void cleanup();
     void aLanguageIsFoundByItsCode_data();
     void aLanguageIsFoundByItsCode();
+    void everyTextOfTheDisplayIsTranslated_data();
+    void everyTextOfTheDisplayIsTranslated();
     void englishNeedsNoCatalogue_data();
     void englishNeedsNoCatalogue();
     void cataloguesBesideThePluginCountToo();
@@ -34,16 +36,22 @@ void TestLanguages::aLanguageIsFoundByItsCode_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("ownText");
     QTest::newRow("de") << "de"
-                        << "Auf alle Produkte anwenden";
+                        << "Auf alle Produkte anwenden"
+                        << "PRODUKTE";
     QTest::newRow("fr") << "fr"
-                        << "Appliquer à tous les produits";
+                        << "Appliquer à tous les produits"
+                        << "PRODUITS";
     QTest::newRow("es") << "es"
-                        << "Aplicar a todos los productos";
+                        << "Aplicar a todos los productos"
+                        << "PRODUCTOS";
     QTest::newRow("pt_BR") << "pt_BR"
-                           << "Aplicar a todos os produtos";
+                           << "Aplicar a todos os produtos"
+                           << "PRODUTOS";
     QTest::newRow("pt-br") << "pt-br"
-                           << "Aplicar a todos os produtos";
+                           << "Aplicar a todos os produtos"
+                           << "PRODUTOS";
 }
 
 void TestLanguages::aLanguageIsFoundByItsCode()
@@ -51,6 +59,25 @@ void TestLanguages::aLanguageIsFoundByItsCode()
     QFETCH(QString, code);
     QCOMPARE(Languages::install(code, QDir(pluginFolder())), QString());
     QTEST(title(), "text");
+    QTEST(QCoreApplication::translate("ProductSelector", "PRODUCTS"), "ownText");
+}
+
+void TestLanguages::everyTextOfTheDisplayIsTranslated_data()
+{
+    QTest::addColumn<QString>("code");
+    for (const char *code : {"de", "fr", "es", "pt_BR"})
+        QTest::newRow(code) << QString::fromLatin1(code);
+}
+
+void TestLanguages::everyTextOfTheDisplayIsTranslated()
+{
+    QFETCH(QString, code);
+    QFile file(sourcePath("Simulator/Terminal/translations/terminal_%1.ts").arg(code));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString catalogue = QString::fromUtf8(file.readAll());
+    QVERIFY(catalogue.count(QStringLiteral("<translation>")) > 10);
+    QVERIFY(!catalogue.contains(QStringLiteral("type=\"unfinished\"")));
+    QVERIFY(!catalogue.contains(QStringLiteral("<translation></translation>")));
 }
 
 void TestLanguages::englishNeedsNoCatalogue_data()

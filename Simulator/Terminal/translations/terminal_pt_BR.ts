@@ -1,0 +1,88 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>LegendPanel</name>
+    <message>
+        <source>No rate</source>
+        <translation>Sem dose</translation>
+    </message>
+    <message>
+        <source>No map</source>
+        <translation>Sem mapa</translation>
+    </message>
+</context>
+<context>
+    <name>MapOverlay</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>ProductSelector</name>
+    <message>
+        <source>Bin %1</source>
+        <translation>Dep. %1</translation>
+    </message>
+    <message>
+        <source>Product %1, bin %2</source>
+        <translation>Produto %1, depósito %2</translation>
+    </message>
+    <message>
+        <source>PRODUCTS</source>
+        <translation>PRODUTOS</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>No prescription loaded</source>
+        <translation>Nenhum mapa de prescrição carregado</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Parado</translation>
+    </message>
+    <message>
+        <source>Loading %1</source>
+        <translation>Carregando %1</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalWindow</name>
+    <message>
+        <source>Field terminal</source>
+        <translation>Terminal de campo</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+</context>
+</TS>
