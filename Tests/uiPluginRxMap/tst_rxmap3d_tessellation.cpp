@@ -113,6 +113,10 @@ const QVector<Vertex> &TestRxMap3DTessellation::rebuild(PolygonChain &chain)
 
 void TestRxMap3DTessellation::withoutABoundGroupTheTessellatorStays()
 {
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    rebuild(chain);
+    RecordingGlu::clear();
     const int living = RecordingGlu::living();
     map->setDbGroup(nullptr);
     QCOMPARE(RecordingGlu::calls(), QStringList{"gluNewTess"});
@@ -122,11 +126,16 @@ void TestRxMap3DTessellation::withoutABoundGroupTheTessellatorStays()
 
 void TestRxMap3DTessellation::withoutAnAamGroupTheTessellatorStays()
 {
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    rebuild(chain);
+    RecordingGlu::clear();
     const int living = RecordingGlu::living();
     map->setAamGroup(nullptr);
     map->updatePolygons();
     QCOMPARE(RecordingGlu::calls(), QStringList{"gluNewTess"});
     QCOMPARE(RecordingGlu::living(), living + 1);
+    QVERIFY(RxMap3DProbe::banks(*map).isEmpty());
 }
 
 void TestRxMap3DTessellation::aFailedTessellatorLeavesNoBank()
