@@ -35,6 +35,12 @@ SimulatorRun runScript(const QString &script, const QStringList &arguments)
     return runSimulator(arguments + QStringList{QStringLiteral("--script"), file.fileName()});
 }
 
+SimulatorRun runOperatorScript(const QString &script, const QStringList &arguments)
+{
+    const QString sample = QStringLiteral("var sample = \"%1\";\n").arg(sampleField());
+    return runScript(sample + scriptText(QStringLiteral("helpers.js")) + script, arguments);
+}
+
 QString scriptText(const QString &name)
 {
     QFile file(sourcePath("Tests/EndToEnd/") + name);

@@ -13,6 +13,8 @@ struct SimulatorRun {
 SimulatorRun runSimulator(const QStringList &arguments);
 /// Runs a script's text; `arguments` come before it.
 SimulatorRun runScript(const QString &script, const QStringList &arguments = {});
+/// Runs a script after helpers.js; the sample field's file is `sample` there.
+SimulatorRun runOperatorScript(const QString &script, const QStringList &arguments = {});
 /// A file of this folder.
 QString scriptText(const QString &name);
 QString sampleField();

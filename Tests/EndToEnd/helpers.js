@@ -1,0 +1,21 @@
+// What the operator's scripts share; it runs before each of them.
+
+function check(condition, text) { if (!condition) throw new Error(text); }
+function same(actual, expected, text) {
+  var a = JSON.stringify(actual), e = JSON.stringify(expected);
+  if (a !== e) throw new Error(text + ": " + a + " instead of " + e);
+}
+function control(name) {
+  var found = terminal.find(name);
+  check(found !== null, "no control " + name);
+  return found;
+}
+function openDialog() {
+  control("rxOptions").longTouch();
+  check(terminal.find("rxMapSettings") !== null, "the dialog did not open");
+}
+function done() {
+  control("doneButton").touch();
+  terminal.wait(50);
+  check(terminal.find("rxMapSettings") === null, "the dialog did not close");
+}
