@@ -11,6 +11,8 @@
 #include "Framework/xyz.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
+#include <QPointer>
+
 namespace {
 
 template <typename Group> Group *findGroupOf(const DataBroker *broker, const QString &name)
@@ -59,40 +61,50 @@ void RxMapGraphicsList::init()
 
 void RxMapGraphicsList::activeAamChanged(QString name)
 {
-    aamGroup = findGroupOf<DbGroupAAM>(broker, name);
-    rxMap3D->setAamGroup(aamGroup);
-    productGroupInfo =
-        aamGroup == nullptr ? nullptr : findGroupOf<DbGroupProductGroupInfo>(broker, aamGroup->productGroupName());
+    // Reading runs the host's hooks, which may replace this list, or activate another product: the latest one counts.
+    const QPointer<RxMapGraphicsList> self(this);
+    DbGroupAAM *const aam = findGroupOf<DbGroupAAM>(broker, name);
+    aamGroup = aam;
+    rxMap3D->setAamGroup(aam);
+    if (!self || aamGroup != aam)
+        return;
+    if (aam == nullptr) {
+        productGroupInfo = nullptr;
+        return;
+    }
+    const QString productGroup = aam->productGroupName();
+    if (self && aamGroup == aam)
+        productGroupInfo = findGroupOf<DbGroupProductGroupInfo>(broker, productGroup);
 }
 
 QString RxMapGraphicsList::getPointDescription(QVector3D point)
 {
     const QVariant query = QVariant::fromValue(OrvikTypes::XYZ(
         static_cast<double>(point.x()), static_cast<double>(point.y()), static_cast<double>(point.z())));
-    if (broker == nullptr)
+    // Reads and the write run the host's hooks and slots, which may replace this list: no member is touched after them.
+    DataBroker *const source = broker;
+    const DbGroupAAM *const aam = aamGroup;
+    if (source == nullptr || aam == nullptr)
         return {};
-    const QStringList names = broker->findGroup(QStringLiteral("rxMap.*"), true, false);
+    const QStringList names = source->findGroup(QStringLiteral("rxMap.*"), true, false);
     const double factor = productGroupInfo == nullptr ? 1.0 : getRateConversion(productGroupInfo);
     for (const QString &name : names) {
         const QByteArray group = name.toLatin1();
-        const int position = mappingIndex(group);
+        const int position = mappingIndex(*source, group, *aam);
         // The first map of the active product decides, also when its answer is not valid: later ones are not asked.
         if (position >= 0)
-            return describe(*broker, group, position, query, factor);
+            return describe(*source, group, position, query, factor);
     }
     return {};
 }
 
-int RxMapGraphicsList::mappingIndex(const QByteArray &group) const
+int RxMapGraphicsList::mappingIndex(const DataBroker &broker, const QByteArray &group, const DbGroupAAM &aam)
 {
-    if (aamGroup == nullptr)
-        return -1;
-    return findMapping(
-        brokerValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(*broker, group, "rateCalMappings"),
-        aamGroup->productGroupName());
+    const auto mappings =
+        brokerValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(broker, group, "rateCalMappings");
+    return findMapping(mappings, aam.productGroupName());
 }
 
-// Touches no member: the write runs the host's slots, which may replace this list.
 QString RxMapGraphicsList::describe(DataBroker &broker, const QByteArray &group, int position, const QVariant &point,
                                     double factor)
 {

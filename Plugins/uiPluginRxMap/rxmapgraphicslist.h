@@ -30,8 +30,8 @@ public Q_SLOTS:
 private:
     friend class RxMapGraphicsListProbe;
 
-    /// Position of the active product's mapping in the group of that name; -1 when it has none.
-    int mappingIndex(const QByteArray &group) const;
+    /// Position of the mapping of `aam`'s product in the group of that name; -1 when it has none.
+    static int mappingIndex(const DataBroker &broker, const QByteArray &group, const DbGroupAAM &aam);
     /// Asks the back-end for the rate at `position` of its answer; empty when the answer is not valid.
     static QString describe(DataBroker &broker, const QByteArray &group, int position, const QVariant &point,
                             double factor);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int enabledImage = 0;
 constexpr int disabledImage = 1;
+const QString defaultFamily = QStringLiteral("Liberation Sans");
 
 } // namespace
 
@@ -19,8 +20,9 @@ RxMapWidget::RxMapWidget(QString pluginName, QString widgetName, int x, int y, Q
                          DataBroker *broker)
     : UiGWidget(pluginName, widgetName, x, y, imageDir, position, broker, false)
 {
-    QVariant family;
-    broker->getIniSetting("main.general.font", family, QStringLiteral("Liberation Sans"), true);
+    QVariant family = broker == nullptr ? QVariant(defaultFamily) : QVariant();
+    if (broker != nullptr)
+        broker->getIniSetting("main.general.font", family, defaultFamily, true);
     font.setFamily(family.toString());
     font.setWeight(50);
     font.setPointSize(15);
@@ -30,7 +32,7 @@ RxMapWidget::RxMapWidget(QString pluginName, QString widgetName, int x, int y, Q
     button->setObjectName(QStringLiteral("rxOptions"));
     connect(button, SIGNAL(longTouch(int)), this, SLOT(onLongTouch(int)));
     connect(button, SIGNAL(buttonReleased(int)), this, SLOT(onButtonReleased(int)));
-    const bool mapLoaded = !broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty();
+    const bool mapLoaded = broker != nullptr && !broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty();
     button->setCurrentImage(mapLoaded ? enabledImage : disabledImage);
     resize(button->size());
     setPos(position);
@@ -47,9 +49,11 @@ void RxMapWidget::onLongTouch(int /*id*/)
 {
     if (button->currentImage() == disabledImage)
         return;
-    popupIsActive(true);
-    // The host may close the page, and this widget with it, while the dialog runs.
+    // The host may close the page, and this widget with it, while the dialog runs or when it hears of the popup.
     const QPointer<RxMapWidget> self(this);
+    popupIsActive(true);
+    if (!self)
+        return;
     QDir images = imageDir();
     const QPointer<RxMapWidgetDialog01> dialog = new RxMapWidgetDialog01(dataBroker(), images, nullptr);
     dialog->exec();
@@ -57,7 +61,8 @@ void RxMapWidget::onLongTouch(int /*id*/)
     if (!self)
         return;
     popupIsActive(false);
-    update(QRectF());
+    if (self)
+        update(QRectF());
 }
 
 void RxMapWidget::onButtonReleased(int /*id*/)

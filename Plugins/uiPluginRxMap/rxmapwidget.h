@@ -12,7 +12,7 @@ class RxMapWidget : public UiGWidget {
     Q_OBJECT
 
 public:
-    /// See UiGWidget. `broker` outlives the widget.
+    /// See UiGWidget. `broker` outlives the widget; without one the button is disabled.
     RxMapWidget(QString pluginName, QString widgetName, int x, int y, QDir imageDir, QPointF position,
                 DataBroker *broker);
     ~RxMapWidget() override;
@@ -25,6 +25,6 @@ public Q_SLOTS:
     void onButtonReleased(int id);
 
 private:
-    QFont font;
+    QFont font;             ///< The terminal's; meant to be set up though nothing draws with it.
     OrvikButtonQgw *button; ///< Child item.
 };

@@ -13,13 +13,23 @@ const QString graphicsListName = QStringLiteral("RxMapGraphicsList");
 const QString majorVersion = QStringLiteral("1");
 const QString minorVersion = QStringLiteral("0");
 
+/// Deletes the list, and whatever list is asked for while one is being deleted.
+void deleteEveryList(QPointer<UiGraphicsList> &list)
+{
+    while (list) {
+        UiGraphicsList *last = list;
+        list.clear();
+        delete last;
+    }
+}
+
 } // namespace
 
 UiPluginRxMap::UiPluginRxMap() = default;
 
 UiPluginRxMap::~UiPluginRxMap()
 {
-    delete graphicsList.data();
+    deleteEveryList(graphicsList);
 }
 
 QStringList UiPluginRxMap::getGuidancePageWidgetNames()
@@ -63,10 +73,12 @@ QStringList UiPluginRxMap::getGraphicsListNames()
 QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataBroker *broker)
 {
     // Meant to come before the name is looked at: any request ends the list that exists.
-    delete graphicsList.data();
+    deleteEveryList(graphicsList);
     QPointer<UiGraphicsList> made;
     if (name == graphicsListName) {
         made = new RxMapGraphicsList(broker, nullptr);
+        // Making one reads the broker, whose hooks may have asked for a list meanwhile.
+        deleteEveryList(graphicsList);
         graphicsLists().insert(name, made);
     }
     graphicsList = made;

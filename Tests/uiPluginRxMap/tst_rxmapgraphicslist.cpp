@@ -2,7 +2,7 @@
 #include "foreignmapgroup.h"
 #include "maphost.h"
 #include "rxmap3dprobe.h"
-#include "rxmapgraphicslist.h"
+#include "rxmapgraphicslistprobe.h"
 #include "testbase.h"
 
 #include "Framework/dbgroupaam.h"
@@ -15,16 +15,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QTranslator>
-
-/// Lets the test see what the list keeps to itself.
-class RxMapGraphicsListProbe {
-public:
-    static DbGroupRxMap *rxMapGroup(const RxMapGraphicsList &list) { return list.rxMapGroup; }
-    static DbGroupAAM *aamGroup(const RxMapGraphicsList &list) { return list.aamGroup; }
-    static DbGroupProductGroupInfo *productGroupInfo(const RxMapGraphicsList &list) { return list.productGroupInfo; }
-    static DbGroupQmlUnitsConverter *unitsConverter(const RxMapGraphicsList &list) { return list.unitsConverter; }
-    static RxMap3D *map(const RxMapGraphicsList &list) { return list.rxMap3D; }
-};
 
 using Probe = RxMapGraphicsListProbe;
 

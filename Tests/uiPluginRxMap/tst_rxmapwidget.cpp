@@ -1,24 +1,13 @@
-#include "dialoghost.h"
-#include "rxmapwidget.h"
-#include "rxmapwidgetdialog01.h"
 #include "testbase.h"
+#include "widgetpage.h"
 
-#include "Framework/orvikbutton.h"
-#include "Framework/orvikbuttonqgw.h"
-
-#include <QApplication>
-#include <QGraphicsScene>
-#include <QGraphicsView>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
-#include <QScopeGuard>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include <functional>
+#include <type_traits>
 
-/// The Rx options button.
+/// What the Rx options button is made of and shows.
 class TestRxMapWidget : public TestBase {
     Q_OBJECT
 
@@ -30,75 +19,14 @@ private Q_SLOTS:
     void theFontIsTheTerminals_data();
     void theFontIsTheTerminals();
     void bothSignalsOfTheButtonAreConnected();
-    void withoutAMapTheButtonIsDisabledAndOpensNothing();
-    void aMapPublishedLaterDoesNotEnableIt();
     void theWidgetHasTheButtonsSizeAndItsPosition();
-    void aShortTouchDoesNothing();
-    void onlyAFingerHeldOnTheButtonOpensTheDialog_data();
-    void onlyAFingerHeldOnTheButtonOpensTheDialog();
-    void aLongTouchRunsTheDialogModally();
-    void theFlagIsClearedAfterTheDialogAndBeforeTheRepaint();
-    void closingThePageWhileTheDialogRunsIsSafe();
+    void withoutABrokerTheButtonIsDisabled();
+    void keptOperationsAreTheHosts();
     void slotsComeInTheirOrder();
     void pageShownLeavesTheButtonAlone();
 };
 
 namespace {
-
-struct Page {
-    explicit Page(DialogHost &host)
-        : widget(QStringLiteral("UiPluginRxMap"), QStringLiteral("RxMapWidget"), 1, 2, host.images, QPointF(30, 40),
-                 &host.broker)
-    {
-        for (QGraphicsItem *item : widget.childItems()) {
-            auto *candidate = qobject_cast<OrvikButtonQgw *>(item->toGraphicsObject());
-            if (candidate != nullptr && candidate->objectName() == QLatin1String("rxOptions"))
-                button = candidate;
-        }
-    }
-
-    RxMapWidget widget;
-    OrvikButtonQgw *button = nullptr;
-};
-
-RxMapWidgetDialog01 *openDialog()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *dialog = qobject_cast<RxMapWidgetDialog01 *>(widget))
-            return dialog;
-    }
-    return nullptr;
-}
-
-/// Acts inside the modal loop of the dialog that is to open while this lives, and closes that dialog in any case, so
-/// that a test that fails in there ends all the same.
-class DialogWatch {
-public:
-    explicit DialogWatch(std::function<void(RxMapWidgetDialog01 *)> action = nullptr)
-    {
-        QObject::connect(&timer, &QTimer::timeout, &timer, [this, action] {
-            QPointer<RxMapWidgetDialog01> dialog = openDialog();
-            if (dialog.isNull())
-                return;
-            const auto close = qScopeGuard([&dialog] {
-                if (dialog)
-                    dialog->accept();
-            });
-            timer.stop();
-            hasOpened = true;
-            if (action)
-                action(dialog);
-        });
-        timer.start(0);
-    }
-
-    bool hasOpened = false;
-
-private:
-    Q_DISABLE_COPY(DialogWatch)
-
-    QTimer timer;
-};
 
 /// The widget's font is set up and drawn with by nobody: the only way to see it is past its access. Explicit
 /// instantiation may name a private member.
@@ -122,7 +50,7 @@ QColor shownColor(OrvikButtonQgw &button)
 void TestRxMapWidget::withAMapTheButtonIsEnabled()
 {
     DialogHost host;
-    Page page(host);
+    WidgetPage page(host);
     QVERIFY(page.button);
     QCOMPARE(page.button->currentImage(), 0);
     QCOMPARE(page.button->id(), 0);
@@ -150,7 +78,7 @@ void TestRxMapWidget::theButtonShowsItsImages()
     host.images = QDir(images.path());
     if (!hasMap)
         host.broker.removeGroup(QStringLiteral("rxMap.field"));
-    Page page(host);
+    WidgetPage page(host);
     QTEST(shownColor(*page.button), "color");
 }
 
@@ -159,7 +87,7 @@ void TestRxMapWidget::onlyAPrescriptionsNameEnablesIt()
     DialogHost host;
     host.broker.removeGroup(QStringLiteral("rxMap.field"));
     host.broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
-    Page page(host);
+    WidgetPage page(host);
     QCOMPARE(page.button->currentImage(), 1);
 }
 
@@ -180,7 +108,7 @@ void TestRxMapWidget::theFontIsTheTerminals()
     file.write(settings);
     file.close();
     DialogHost host(3, file.fileName());
-    Page page(host);
+    WidgetPage page(host);
     QTEST(widgetFont(page.widget).family(), "family");
     QCOMPARE(widgetFont(page.widget).weight(), 50);
     QCOMPARE(widgetFont(page.widget).pointSize(), 15);
@@ -189,40 +117,16 @@ void TestRxMapWidget::theFontIsTheTerminals()
 void TestRxMapWidget::bothSignalsOfTheButtonAreConnected()
 {
     DialogHost host;
-    Page page(host);
+    WidgetPage page(host);
     // Breaking a connection succeeds only where there is one.
     QVERIFY(disconnect(page.button, SIGNAL(longTouch(int)), &page.widget, SLOT(onLongTouch(int))));
     QVERIFY(disconnect(page.button, SIGNAL(buttonReleased(int)), &page.widget, SLOT(onButtonReleased(int))));
 }
 
-void TestRxMapWidget::withoutAMapTheButtonIsDisabledAndOpensNothing()
-{
-    DialogHost host;
-    host.broker.removeGroup(QStringLiteral("rxMap.field"));
-    Page page(host);
-    QCOMPARE(page.button->currentImage(), 1);
-    bool active = false;
-    connect(&page.widget, &UiGWidget::popupActiveChanged, this, [&active] { active = true; });
-    const DialogWatch watch;
-    Q_EMIT page.button->longTouch(0);
-    QVERIFY(!active);
-    QCoreApplication::processEvents();
-    QVERIFY(!watch.hasOpened);
-}
-
-void TestRxMapWidget::aMapPublishedLaterDoesNotEnableIt()
-{
-    DialogHost host;
-    host.broker.removeGroup(QStringLiteral("rxMap.field"));
-    Page page(host);
-    host.host.addMap(QStringLiteral("later"), {1});
-    QCOMPARE(page.button->currentImage(), 1);
-}
-
 void TestRxMapWidget::theWidgetHasTheButtonsSizeAndItsPosition()
 {
     DialogHost host;
-    Page page(host);
+    WidgetPage page(host);
     QVERIFY(!page.button->size().isEmpty());
     QCOMPARE(page.widget.size(), page.button->size());
     QCOMPARE(page.widget.pos(), QPointF(30, 40));
@@ -230,130 +134,55 @@ void TestRxMapWidget::theWidgetHasTheButtonsSizeAndItsPosition()
     QCOMPARE(page.widget.gridPosition(), QPoint(1, 2));
 }
 
-void TestRxMapWidget::aShortTouchDoesNothing()
+void TestRxMapWidget::withoutABrokerTheButtonIsDisabled()
 {
     DialogHost host;
-    Page page(host);
-    const DialogWatch watch;
-    Q_EMIT page.button->buttonReleased(0);
-    QCoreApplication::processEvents();
-    QVERIFY(!watch.hasOpened);
-    QVERIFY(!page.widget.isPopupActive());
+    const QScopedPointer<RxMapWidget> widget(newWidget(host, nullptr));
+    QVERIFY(rxOptionsOf(*widget));
+    QCOMPARE(rxOptionsOf(*widget)->currentImage(), 1);
+    QCOMPARE(widgetFont(*widget).family(), QStringLiteral("Liberation Sans"));
 }
 
-void TestRxMapWidget::onlyAFingerHeldOnTheButtonOpensTheDialog_data()
+void TestRxMapWidget::keptOperationsAreTheHosts()
 {
-    QTest::addColumn<bool>("slidesOff");
-    QTest::addColumn<bool>("isHeld");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("lifted at once") << false << false << false;
-    QTest::newRow("lifted beside it") << true << false << false;
-    QTest::newRow("held beside it") << true << true << false;
-    QTest::newRow("held on it") << false << true << true;
-}
-
-void TestRxMapWidget::onlyAFingerHeldOnTheButtonOpensTheDialog()
-{
-    QFETCH(bool, slidesOff);
-    QFETCH(bool, isHeld);
-    constexpr int longerThanAnyHoldMs = 1000;
+    // Which class an operation's pointer names tells where it was declared last.
+    class Open : public RxMapWidget {
+    public:
+        using RxMapWidget::mousePressEvent;
+        using RxMapWidget::mouseReleaseEvent;
+    };
+    using Touch = void (UiGWidget::*)(QGraphicsSceneMouseEvent *);
+    static_assert(std::is_same<decltype(&Open::mousePressEvent), Touch>::value, "touches stay the host's");
+    static_assert(std::is_same<decltype(&Open::mouseReleaseEvent), Touch>::value, "touches stay the host's");
+    static_assert(std::is_same<decltype(&RxMapWidget::checkForRequiredDbGroups), bool (UiGWidget::*)(bool)>::value,
+                  "the check of required groups stays the host's");
+    static_assert(std::is_same<decltype(&RxMapWidget::userHasLongTouchedThisWidget), void (UiGWidget::*)()>::value,
+                  "long touches beside the button stay the host's");
+    static_assert(std::is_same<decltype(&RxMapWidget::pageShown), void (RxMapWidget::*)()>::value,
+                  "the widget has a pageShown() of its own");
     DialogHost host;
-    Page page(host);
-    QGraphicsScene scene(0, 0, 400, 300);
-    scene.addItem(&page.widget);
-    const auto takeOut = qScopeGuard([&] { scene.removeItem(&page.widget); });
-    QGraphicsView view(&scene);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    const QPoint onIt = view.mapFromScene(page.widget.sceneBoundingRect().center());
-    const QPoint besideIt = view.mapFromScene(page.widget.sceneBoundingRect().bottomRight() + QPointF(20, 20));
-    const DialogWatch watch;
-
-    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, onIt);
-    if (slidesOff) {
-        QMouseEvent slide(QEvent::MouseMove, besideIt, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(view.viewport(), &slide);
-    }
-    if (isHeld)
-        QTest::qWait(longerThanAnyHoldMs);
-    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, slidesOff ? besideIt : onIt);
-    QCoreApplication::processEvents();
-    QTEST(watch.hasOpened, "opens");
-    QVERIFY(!page.widget.isPopupActive());
-}
-
-void TestRxMapWidget::aLongTouchRunsTheDialogModally()
-{
-    DialogHost host;
-    Page page(host);
-    QStringList order;
-    connect(&page.widget, &UiGWidget::popupActiveChanged, this,
-            [&order](bool active) { order.append(active ? QStringLiteral("active") : QStringLiteral("inactive")); });
-    const DialogWatch watch([&order, &page](RxMapWidgetDialog01 *dialog) {
-        order.append(QStringLiteral("dialog"));
-        QVERIFY(dialog->isModal());
-        QVERIFY(dialog->parentWidget() == nullptr);
-        QVERIFY(page.widget.isPopupActive());
-    });
-    Q_EMIT page.button->longTouch(0);
-    QCOMPARE(order, (QStringList{"active", "dialog", "inactive"}));
-    QVERIFY(!page.widget.isPopupActive());
-}
-
-void TestRxMapWidget::theFlagIsClearedAfterTheDialogAndBeforeTheRepaint()
-{
-    DialogHost host;
-    auto *page = new Page(host);
-    const QScopedPointer<Page> owner(page);
-    QStringList order;
-    QGraphicsScene scene;
-    scene.addItem(&page->widget);
-    const auto takeOut = qScopeGuard([&] { scene.removeItem(&page->widget); });
-    connect(&scene, &QGraphicsScene::changed, this, [&order] { order.append(QStringLiteral("repaint")); });
-    connect(&page->widget, &UiGWidget::popupActiveChanged, this, [&order](bool active) {
-        // Repaints that were asked for so far take place now.
-        QCoreApplication::sendPostedEvents();
-        order.append(active ? QStringLiteral("active") : QStringLiteral("inactive"));
-    });
-    QCoreApplication::processEvents();
-    order.clear();
-    const DialogWatch watch([this, &order](RxMapWidgetDialog01 *dialog) {
-        connect(dialog, &QObject::destroyed, this, [&order] { order.append(QStringLiteral("destroyed")); });
-    });
-    page->widget.onLongTouch(0);
-    QVERIFY(watch.hasOpened);
-    QCOMPARE(order, (QStringList{"active", "destroyed", "inactive"}));
-    QTRY_VERIFY(order.size() > 3);
-    QCOMPARE(order.at(3), QStringLiteral("repaint"));
-}
-
-void TestRxMapWidget::closingThePageWhileTheDialogRunsIsSafe()
-{
-    DialogHost host;
-    auto *page = new Page(host);
-    const DialogWatch watch([&page](RxMapWidgetDialog01 *) {
-        delete page;
-        page = nullptr;
-    });
-    page->widget.onLongTouch(0);
-    delete page;
-    QVERIFY(watch.hasOpened);
-    QVERIFY(openDialog() == nullptr);
+    WidgetPage page(host);
+    QVERIFY(!page.widget.requiresDbGroups());
+    QVERIFY(page.widget.checkForRequiredDbGroups(true));
+    QCOMPARE(messages().debugLines(), QStringList());
 }
 
 void TestRxMapWidget::slotsComeInTheirOrder()
 {
     const QMetaObject &meta = RxMapWidget::staticMetaObject;
+    QCOMPARE(QString::fromLatin1(meta.className()), QStringLiteral("RxMapWidget"));
     QStringList signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
         signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+    }
     QCOMPARE(signatures, (QStringList{"onLongTouch(int)", "onButtonReleased(int)"}));
 }
 
 void TestRxMapWidget::pageShownLeavesTheButtonAlone()
 {
     DialogHost host;
-    Page page(host);
+    WidgetPage page(host);
     host.broker.removeGroup(QStringLiteral("rxMap.field"));
     page.widget.pageShown();
     QCOMPARE(page.button->currentImage(), 0);

@@ -1,8 +1,10 @@
 #include "rxmap3d.h"
 #include "testbase.h"
 
+#include "Framework/basepluginprovides.h"
 #include "Framework/object3d.h"
 #include "Framework/uigraphicslist.h"
+#include "Framework/uigwidget.h"
 #include "Framework/uiplugininterface.h"
 
 #include <cstddef>
@@ -19,6 +21,8 @@ private Q_SLOTS:
     void drawablesKeepTheirOrder();
     void theMapsOwnOperationsFollowThoseOfItsFirstBase();
     void graphicsListsKeepTheirOrder();
+    void guidanceWidgetsKeepTheirOrder();
+    void whatEveryPlugInTellsKeepsItsOrder();
 };
 
 namespace {
@@ -42,6 +46,18 @@ constexpr int slotsOfQObject = 12;
 
 /// One operation more than the interface has.
 class LongerInterface : public UiPluginInterface {
+public:
+    virtual void afterTheLast() { }
+};
+
+/// One operation more than Qt's graphics widgets have.
+class LongerGraphicsWidget : public QGraphicsWidget {
+public:
+    virtual void afterTheLast() { }
+};
+
+/// One operation more than every plug-in tells.
+class LongerProvides : public BasePlugInProvides {
 public:
     virtual void afterTheLast() { }
 };
@@ -133,6 +149,32 @@ void TestVirtualSlots::graphicsListsKeepTheirOrder()
     QCOMPARE(slotOf(&UiGraphicsList::getPointDescription), slotsOfQObject);
     QCOMPARE(slotOf(&UiGraphicsList::init), slotsOfQObject + 1);
     QCOMPARE(slotOf(&UiGraphicsList::drawables), slotsOfQObject + 2);
+}
+
+void TestVirtualSlots::guidanceWidgetsKeepTheirOrder()
+{
+    class Open : public UiGWidget {
+    public:
+        using UiGWidget::mousePressEvent;
+        using UiGWidget::mouseReleaseEvent;
+    };
+    const int first = slotOf(&LongerGraphicsWidget::afterTheLast);
+    QCOMPARE(slotOf(&UiGWidget::pageShown), first);
+    QCOMPARE(slotOf(&Open::mousePressEvent), first + 1);
+    QCOMPARE(slotOf(&Open::mouseReleaseEvent), first + 2);
+    QCOMPARE(slotOf(&UiGWidget::checkForRequiredDbGroups), first + 3);
+    QCOMPARE(slotOf(&UiGWidget::userHasLongTouchedThisWidget), first + 4);
+}
+
+void TestVirtualSlots::whatEveryPlugInTellsKeepsItsOrder()
+{
+    // The destructor comes first and takes two.
+    QCOMPARE(slotOf(&BasePlugInProvides::close), 2);
+    QCOMPARE(slotOf(&BasePlugInProvides::getInterfaceVersion), 3);
+    QCOMPARE(slotOf(&BasePlugInProvides::getDbVersion), 4);
+    QCOMPARE(slotOf(&BasePlugInProvides::getPluginName), 5);
+    QCOMPARE(slotOf(&BasePlugInProvides::getPluginVersion), 6);
+    QCOMPARE(slotOf(&LongerProvides::afterTheLast), 7);
 }
 
 QTEST_APPLESS_MAIN(TestVirtualSlots)
