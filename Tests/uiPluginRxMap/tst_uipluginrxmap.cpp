@@ -1,15 +1,10 @@
 #include "maphost.h"
-#include "paths.h"
-#include "rxmapgraphicslist.h"
-#include "rxmapwidget.h"
 #include "testbase.h"
 #include "uipluginrxmap.h"
 
-#include "Framework/dbgroupjob.h"
-
 #include <QTranslator>
 
-/// The entry object: its catalogue and its factories.
+/// The entry object: its catalogue and what it is to the host.
 class TestUiPluginRxMap : public TestBase {
     Q_OBJECT
 
@@ -21,29 +16,10 @@ private Q_SLOTS:
     void previewNamesFollowImageNames();
     void theMetaObjectAnswersItsNameAndTheInterface();
     void theSecondBaseReachesTheSameObject();
-
-    void aSecondGraphicsListReplacesTheFirst();
-    void theFirstGraphicsListIsGoneBeforeTheSecondIsMade();
-    void anyOtherNameDeletesTheGraphicsList_data();
-    void anyOtherNameDeletesTheGraphicsList();
-    void theHostCanDeleteTheGraphicsListFirst();
-    void destructionDeletesTheGraphicsListAndNoWidget();
-
-    void twoWidgetsLiveAndTheMapHoldsTheSecond();
-    void unknownWidgetNamesGiveNull_data();
-    void unknownWidgetNamesGiveNull();
-    void qmlWidgetsAreNeverMade();
-    void widgetsTakeImagesFromTheSecondDirectory();
+    void deletingTheSecondBaseDeletesThePlugin();
 };
 
 namespace {
-
-/// Opens the host's maps of what the plug-in made.
-class OpenPlugin : public UiPluginRxMap {
-public:
-    using UiPluginBase::graphicsLists;
-    using UiPluginBase::graphicsWidgets;
-};
 
 class ContextTranslator : public QTranslator {
 public:
@@ -139,6 +115,7 @@ void TestUiPluginRxMap::theMetaObjectAnswersItsNameAndTheInterface()
     QCOMPARE(plugin.qt_metacast("com.orvik.UiPluginInterface/4 "), nullptr);
     QCOMPARE(plugin.qt_metacast("com.orvik.UiPluginInterface"), nullptr);
     QCOMPARE(plugin.qt_metacast("UiPluginBase"), nullptr);
+    QCOMPARE(plugin.qt_metacast("BasePlugInProvides"), nullptr);
     QCOMPARE(plugin.qt_metacast("QObject"), static_cast<void *>(static_cast<QObject *>(&plugin)));
     QCOMPARE(qobject_cast<UiPluginInterface *>(static_cast<QObject *>(&plugin)), &plugin);
     const QMetaObject &meta = *plugin.metaObject();
@@ -148,154 +125,38 @@ void TestUiPluginRxMap::theMetaObjectAnswersItsNameAndTheInterface()
 
 void TestUiPluginRxMap::theSecondBaseReachesTheSameObject()
 {
-    UiPluginRxMap plugin;
+    class Closing : public UiPluginRxMap {
+    public:
+        void close() override { ++closed; }
+
+        int closed = 0;
+    } plugin;
+    using Version = QPair<unsigned long, unsigned long>;
     BasePlugInProvides &provides = plugin;
     QCOMPARE(provides.getPluginName(), QStringLiteral("UiPluginRxMap"));
-    unsigned long major = 0;
-    unsigned long minor = 0;
-    provides.getPluginVersion(major, minor);
-    QCOMPARE(major, 1UL);
-    provides.getInterfaceVersion(major, minor);
-    QCOMPARE(major, 4UL);
+    Version version(99, 99);
+    provides.getPluginVersion(version.first, version.second);
+    QCOMPARE(version, Version(1, 0));
+    version = Version(99, 99);
+    provides.getInterfaceVersion(version.first, version.second);
+    QCOMPARE(version, Version(4, 0));
+    version = Version(99, 99);
+    provides.getDbVersion(version.first, version.second);
+    QCOMPARE(version, Version(1, 0));
+    provides.close();
+    QCOMPARE(plugin.closed, 1);
 }
 
-void TestUiPluginRxMap::aSecondGraphicsListReplacesTheFirst()
-{
-    MapHost host;
-    OpenPlugin plugin;
-    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
-    QVERIFY(qobject_cast<RxMapGraphicsList *>(first));
-    QCOMPARE(first->parent(), nullptr);
-    QCOMPARE(plugin.graphicsLists().value(listName), first);
-    const QPointer<UiGraphicsList> second = plugin.createUiGraphicsList(listName, &host.broker);
-    QVERIFY(first.isNull());
-    QVERIFY(!second.isNull());
-    QCOMPARE(plugin.graphicsLists().size(), 1);
-    QCOMPARE(plugin.graphicsLists().value(listName), second);
-}
-
-void TestUiPluginRxMap::theFirstGraphicsListIsGoneBeforeTheSecondIsMade()
-{
-    struct Look {
-        QPointer<UiGraphicsList> first;
-        QList<bool> wasGone;
-    } look;
-    MapHost host;
-    UiPluginRxMap plugin;
-    look.first = plugin.createUiGraphicsList(listName, &host.broker);
-    QVERIFY(!look.first.isNull());
-    // A new list reads the active map while it is made.
-    const auto note = [](void *argument) {
-        auto *noted = static_cast<Look *>(argument);
-        noted->wasGone.append(noted->first.isNull());
-    };
-    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", note, &look));
-    const QPointer<UiGraphicsList> second = plugin.createUiGraphicsList(listName, &host.broker);
-    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", nullptr, nullptr));
-    QVERIFY(!second.isNull());
-    QVERIFY(!look.wasGone.isEmpty());
-    QVERIFY(!look.wasGone.contains(false));
-}
-
-void TestUiPluginRxMap::anyOtherNameDeletesTheGraphicsList_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("other") << "Other";
-    QTest::newRow("letter case") << "rxmapgraphicslist";
-    QTest::newRow("empty") << "";
-}
-
-void TestUiPluginRxMap::anyOtherNameDeletesTheGraphicsList()
-{
-    QFETCH(QString, name);
-    MapHost host;
-    OpenPlugin plugin;
-    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
-    QVERIFY(plugin.createUiGraphicsList(name, &host.broker).isNull());
-    QVERIFY(first.isNull());
-    QCOMPARE(plugin.graphicsLists().keys(), QStringList{listName});
-    QVERIFY(plugin.graphicsLists().value(listName).isNull());
-}
-
-void TestUiPluginRxMap::theHostCanDeleteTheGraphicsListFirst()
-{
-    MapHost host;
-    UiPluginRxMap plugin;
-    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
-    plugin.deleteGraphicsList(first);
-    QVERIFY(first.isNull());
-    QVERIFY(!plugin.createUiGraphicsList(listName, &host.broker).isNull());
-}
-
-void TestUiPluginRxMap::destructionDeletesTheGraphicsListAndNoWidget()
+void TestUiPluginRxMap::deletingTheSecondBaseDeletesThePlugin()
 {
     MapHost host;
     auto *plugin = new UiPluginRxMap;
-    plugin->init(&host.broker, QDir(), QDir());
+    const QPointer<QObject> watch(plugin);
     const QPointer<UiGraphicsList> list = plugin->createUiGraphicsList(listName, &host.broker);
-    const QPointer<UiGWidget> widget = plugin->createUiGWidget(widgetName, 0, 0, {}, &host.broker);
-    delete plugin;
+    QVERIFY(!list.isNull());
+    delete static_cast<BasePlugInProvides *>(plugin);
+    QVERIFY(watch.isNull());
     QVERIFY(list.isNull());
-    QVERIFY(!widget.isNull());
-    delete widget;
-}
-
-void TestUiPluginRxMap::twoWidgetsLiveAndTheMapHoldsTheSecond()
-{
-    MapHost host;
-    OpenPlugin plugin;
-    plugin.init(&host.broker, QDir(), QDir());
-    const QPointer<UiGWidget> first = plugin.createUiGWidget(widgetName, 1, 2, {3, 4}, &host.broker);
-    const QPointer<UiGWidget> second = plugin.createUiGWidget(widgetName, 5, 6, {7, 8}, &host.broker);
-    QVERIFY(!first.isNull() && !second.isNull());
-    QVERIFY(qobject_cast<RxMapWidget *>(first));
-    QCOMPARE(plugin.graphicsWidgets().size(), 1);
-    QCOMPARE(plugin.graphicsWidgets().value(widgetName), second);
-    QCOMPARE(first->gridPosition(), QPoint(1, 2));
-    QCOMPARE(first->pos(), QPointF(3, 4));
-    QCOMPARE(first->pluginName(), QStringLiteral("UiPluginRxMap"));
-    QCOMPARE(first->widgetName(), widgetName);
-    delete first;
-    delete second;
-}
-
-void TestUiPluginRxMap::unknownWidgetNamesGiveNull_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("letter case") << "rxmapwidget";
-    QTest::newRow("other") << "Other";
-    QTest::newRow("empty") << "";
-}
-
-void TestUiPluginRxMap::unknownWidgetNamesGiveNull()
-{
-    QFETCH(QString, name);
-    MapHost host;
-    OpenPlugin plugin;
-    plugin.init(&host.broker, QDir(), QDir());
-    const QScopedPointer<UiGWidget> before(plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker).data());
-    QVERIFY(plugin.createUiGWidget(name, 0, 0, {}, &host.broker).isNull());
-    QCOMPARE(plugin.graphicsWidgets().keys(), QStringList{widgetName});
-    QCOMPARE(plugin.graphicsWidgets().value(widgetName).data(), before.data());
-    QVERIFY(before);
-}
-
-void TestUiPluginRxMap::qmlWidgetsAreNeverMade()
-{
-    MapHost host;
-    UiPluginRxMap plugin;
-    for (const QString &name : {widgetName, listName, QString()})
-        QVERIFY(plugin.createUiQmlWidget(name, {}, nullptr, &host.broker).isNull());
-}
-
-void TestUiPluginRxMap::widgetsTakeImagesFromTheSecondDirectory()
-{
-    MapHost host;
-    UiPluginRxMap plugin;
-    plugin.init(&host.broker, QDir(QStringLiteral("/nowhere")), QDir(buildPath("Simulator/Resources/images")));
-    const QPointer<UiGWidget> widget = plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker);
-    QVERIFY(widget->size().width() > 40.0);
-    delete widget;
 }
 
 QTEST_MAIN(TestUiPluginRxMap)

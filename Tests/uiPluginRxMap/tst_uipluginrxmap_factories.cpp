@@ -1,0 +1,279 @@
+#include "maphost.h"
+#include "paths.h"
+#include "rxmapgraphicslist.h"
+#include "rxmapwidget.h"
+#include "testbase.h"
+#include "uipluginrxmap.h"
+
+#include "Framework/dbgroupjob.h"
+#include "Framework/orvikbuttonqgw.h"
+
+/// What the entry object makes for the host, and what becomes of it.
+class TestUiPluginRxMapFactories : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aSecondGraphicsListReplacesTheFirst();
+    void theFirstGraphicsListIsGoneBeforeTheSecondIsMade();
+    void anyOtherNameDeletesTheGraphicsList_data();
+    void anyOtherNameDeletesTheGraphicsList();
+    void theHostCanDeleteTheGraphicsListFirst();
+    void destructionDeletesTheGraphicsListAndNoWidget();
+    void aListAskedForWhileTheOldOneGoesIsReplaced();
+    void aListAskedForWhileANewOneIsMadeIsReplaced();
+    void aListAskedForWhileThePluginGoesGoesWithIt();
+    void aFreshPluginHasNoListOfAnUnknownName();
+    void theHostCanDeleteAllThatThePluginMade();
+    void twoWidgetsLiveAndTheMapHoldsTheSecond();
+    void unknownWidgetNamesGiveNull_data();
+    void unknownWidgetNamesGiveNull();
+    void qmlWidgetsAreNeverMade();
+    void widgetsTakeImagesFromTheSecondDirectory();
+    void aWidgetAsksTheBrokerThatItsMakingNames();
+};
+
+namespace {
+
+/// Opens the host's maps of what the plug-in made.
+class OpenPlugin : public UiPluginRxMap {
+public:
+    using UiPluginBase::graphicsLists;
+    using UiPluginBase::graphicsWidgets;
+};
+
+const QString listName = QStringLiteral("RxMapGraphicsList");
+const QString widgetName = QStringLiteral("RxMapWidget");
+
+} // namespace
+
+void TestUiPluginRxMapFactories::aSecondGraphicsListReplacesTheFirst()
+{
+    MapHost host;
+    OpenPlugin plugin;
+    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(qobject_cast<RxMapGraphicsList *>(first));
+    QCOMPARE(first->parent(), nullptr);
+    QCOMPARE(plugin.graphicsLists().value(listName), first);
+    const QPointer<UiGraphicsList> second = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(first.isNull());
+    QVERIFY(!second.isNull());
+    QCOMPARE(plugin.graphicsLists().size(), 1);
+    QCOMPARE(plugin.graphicsLists().value(listName), second);
+}
+
+void TestUiPluginRxMapFactories::theFirstGraphicsListIsGoneBeforeTheSecondIsMade()
+{
+    struct Look {
+        QPointer<UiGraphicsList> first;
+        QList<bool> wasGone;
+    } look;
+    MapHost host;
+    UiPluginRxMap plugin;
+    look.first = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(!look.first.isNull());
+    // A new list reads the active map while it is made.
+    const auto note = [](void *argument) {
+        auto *noted = static_cast<Look *>(argument);
+        noted->wasGone.append(noted->first.isNull());
+    };
+    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", note, &look));
+    const QPointer<UiGraphicsList> second = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", nullptr, nullptr));
+    QVERIFY(!second.isNull());
+    QVERIFY(!look.wasGone.isEmpty());
+    QVERIFY(!look.wasGone.contains(false));
+}
+
+void TestUiPluginRxMapFactories::anyOtherNameDeletesTheGraphicsList_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("other") << "Other";
+    QTest::newRow("letter case") << "rxmapgraphicslist";
+    QTest::newRow("empty") << "";
+}
+
+void TestUiPluginRxMapFactories::anyOtherNameDeletesTheGraphicsList()
+{
+    QFETCH(QString, name);
+    MapHost host;
+    OpenPlugin plugin;
+    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(plugin.createUiGraphicsList(name, &host.broker).isNull());
+    QVERIFY(first.isNull());
+    QCOMPARE(plugin.graphicsLists().keys(), QStringList{listName});
+    QVERIFY(plugin.graphicsLists().value(listName).isNull());
+    QCOMPARE(messages().debugLines(), QStringList());
+}
+
+void TestUiPluginRxMapFactories::theHostCanDeleteTheGraphicsListFirst()
+{
+    MapHost host;
+    UiPluginRxMap plugin;
+    const QPointer<UiGraphicsList> first = plugin.createUiGraphicsList(listName, &host.broker);
+    plugin.deleteGraphicsList(first);
+    QVERIFY(first.isNull());
+    QVERIFY(!plugin.createUiGraphicsList(listName, &host.broker).isNull());
+}
+
+void TestUiPluginRxMapFactories::destructionDeletesTheGraphicsListAndNoWidget()
+{
+    MapHost host;
+    auto *plugin = new UiPluginRxMap;
+    plugin->init(&host.broker, QDir(), QDir());
+    const QPointer<UiGraphicsList> list = plugin->createUiGraphicsList(listName, &host.broker);
+    const QPointer<UiGWidget> widget = plugin->createUiGWidget(widgetName, 0, 0, {}, &host.broker);
+    delete plugin;
+    QVERIFY(list.isNull());
+    QVERIFY(!widget.isNull());
+    delete widget;
+}
+
+void TestUiPluginRxMapFactories::aListAskedForWhileTheOldOneGoesIsReplaced()
+{
+    MapHost host;
+    OpenPlugin plugin;
+    QPointer<UiGraphicsList> inner;
+    connect(plugin.createUiGraphicsList(listName, &host.broker).data(), &QObject::destroyed, this,
+            [&] { inner = plugin.createUiGraphicsList(listName, &host.broker); });
+    const QPointer<UiGraphicsList> outer = plugin.createUiGraphicsList(listName, &host.broker);
+    QVERIFY(inner.isNull());
+    QVERIFY(!outer.isNull());
+    QCOMPARE(plugin.graphicsLists().value(listName), outer);
+}
+
+void TestUiPluginRxMapFactories::aListAskedForWhileANewOneIsMadeIsReplaced()
+{
+    struct Asking {
+        OpenPlugin plugin;
+        MapHost host;
+        bool isDue = true;
+        QPointer<UiGraphicsList> inner;
+    } asking;
+    const auto askOnce = [](void *argument) {
+        auto &asked = *static_cast<Asking *>(argument);
+        if (!asked.isDue)
+            return;
+        asked.isDue = false;
+        asked.inner = asked.plugin.createUiGraphicsList(listName, &asked.host.broker);
+    };
+    QVERIFY(asking.host.job->setBeforeReadHook("activeAAMGroupName", askOnce, &asking));
+    const QPointer<UiGraphicsList> outer = asking.plugin.createUiGraphicsList(listName, &asking.host.broker);
+    QVERIFY(asking.host.job->setBeforeReadHook("activeAAMGroupName", nullptr, nullptr));
+    QVERIFY(!asking.isDue);
+    QVERIFY(asking.inner.isNull());
+    QVERIFY(!outer.isNull());
+    QCOMPARE(asking.plugin.graphicsLists().value(listName), outer);
+    delete outer;
+}
+
+void TestUiPluginRxMapFactories::aListAskedForWhileThePluginGoesGoesWithIt()
+{
+    MapHost host;
+    auto *plugin = new UiPluginRxMap;
+    QPointer<UiGraphicsList> inner;
+    bool hasAsked = false;
+    connect(plugin->createUiGraphicsList(listName, &host.broker).data(), &QObject::destroyed, this, [&] {
+        inner = plugin->createUiGraphicsList(listName, &host.broker);
+        hasAsked = !inner.isNull();
+    });
+    delete plugin;
+    QVERIFY(hasAsked);
+    QVERIFY(inner.isNull());
+}
+
+void TestUiPluginRxMapFactories::aFreshPluginHasNoListOfAnUnknownName()
+{
+    MapHost host;
+    OpenPlugin plugin;
+    QVERIFY(plugin.createUiGraphicsList(QStringLiteral("Other"), &host.broker).isNull());
+    QVERIFY(plugin.graphicsLists().isEmpty());
+}
+
+void TestUiPluginRxMapFactories::theHostCanDeleteAllThatThePluginMade()
+{
+    MapHost host;
+    UiPluginRxMap plugin;
+    plugin.init(&host.broker, QDir(), QDir());
+    const QPointer<UiGraphicsList> list = plugin.createUiGraphicsList(listName, &host.broker);
+    const QPointer<UiGWidget> widget = plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker);
+    QVERIFY(!list.isNull() && !widget.isNull());
+    plugin.deleteAllWidgets();
+    QVERIFY(list.isNull());
+    QVERIFY(widget.isNull());
+}
+
+void TestUiPluginRxMapFactories::twoWidgetsLiveAndTheMapHoldsTheSecond()
+{
+    MapHost host;
+    OpenPlugin plugin;
+    plugin.init(&host.broker, QDir(), QDir());
+    const QPointer<UiGWidget> first = plugin.createUiGWidget(widgetName, 1, 2, {3, 4}, &host.broker);
+    const QPointer<UiGWidget> second = plugin.createUiGWidget(widgetName, 5, 6, {7, 8}, &host.broker);
+    QVERIFY(!first.isNull() && !second.isNull());
+    QVERIFY(qobject_cast<RxMapWidget *>(first));
+    QCOMPARE(plugin.graphicsWidgets().size(), 1);
+    QCOMPARE(plugin.graphicsWidgets().value(widgetName), second);
+    QCOMPARE(first->gridPosition(), QPoint(1, 2));
+    QCOMPARE(first->pos(), QPointF(3, 4));
+    QCOMPARE(first->pluginName(), QStringLiteral("UiPluginRxMap"));
+    QCOMPARE(first->widgetName(), widgetName);
+    delete first;
+    delete second;
+}
+
+void TestUiPluginRxMapFactories::unknownWidgetNamesGiveNull_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("letter case") << "rxmapwidget";
+    QTest::newRow("other") << "Other";
+    QTest::newRow("empty") << "";
+}
+
+void TestUiPluginRxMapFactories::unknownWidgetNamesGiveNull()
+{
+    QFETCH(QString, name);
+    MapHost host;
+    OpenPlugin plugin;
+    plugin.init(&host.broker, QDir(), QDir());
+    const QScopedPointer<UiGWidget> before(plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker).data());
+    QVERIFY(plugin.createUiGWidget(name, 0, 0, {}, &host.broker).isNull());
+    QCOMPARE(plugin.graphicsWidgets().keys(), QStringList{widgetName});
+    QCOMPARE(plugin.graphicsWidgets().value(widgetName).data(), before.data());
+    QVERIFY(before);
+    QCOMPARE(messages().debugLines(), QStringList());
+}
+
+void TestUiPluginRxMapFactories::qmlWidgetsAreNeverMade()
+{
+    MapHost host;
+    UiPluginRxMap plugin;
+    for (const QString &name : {widgetName, listName, QString()})
+        QVERIFY(plugin.createUiQmlWidget(name, {}, nullptr, &host.broker).isNull());
+}
+
+void TestUiPluginRxMapFactories::widgetsTakeImagesFromTheSecondDirectory()
+{
+    MapHost host;
+    UiPluginRxMap plugin;
+    plugin.init(&host.broker, QDir(QStringLiteral("/nowhere")), QDir(buildPath("Simulator/Resources/images")));
+    const QPointer<UiGWidget> widget = plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker);
+    QVERIFY(widget->size().width() > 40.0);
+    delete widget;
+}
+
+void TestUiPluginRxMapFactories::aWidgetAsksTheBrokerThatItsMakingNames()
+{
+    DataBroker empty;
+    MapHost host;
+    host.addMap(QStringLiteral("field"), {1});
+    UiPluginRxMap plugin;
+    plugin.init(&empty, QDir(), QDir());
+    const QScopedPointer<UiGWidget> widget(plugin.createUiGWidget(widgetName, 0, 0, {}, &host.broker).data());
+    QCOMPARE(widget->childItems().size(), 1);
+    const auto *button = qobject_cast<OrvikButtonQgw *>(widget->childItems().constFirst()->toGraphicsObject());
+    QVERIFY(button);
+    QCOMPARE(button->currentImage(), 0);
+}
+
+QTEST_MAIN(TestUiPluginRxMapFactories)
+#include "tst_uipluginrxmap_factories.moc"
