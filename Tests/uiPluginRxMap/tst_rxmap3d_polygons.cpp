@@ -102,6 +102,8 @@ void TestRxMap3DPolygons::crossingRingsAreNotDrawnAndHarmNoOther()
     const QVector<Vertex> &drawn = rebuild(redAndGreen);
     QCOMPARE(drawn.size(), 6);
     QVERIFY(std::all_of(drawn.begin(), drawn.end(), [](const Vertex &vertex) { return vertex.x >= 50.0F; }));
+    // The good ring started with nothing left of the one before.
+    QCOMPARE(RecordingGlu::calls().filter(QStringLiteral(" #0")).size(), 2);
     QVERIFY(coordList.isEmpty());
     QVERIFY(vList.isEmpty());
     QCOMPARE(chain.at(0).drawIndex, 1);
