@@ -17,6 +17,9 @@ private Q_SLOTS:
 private:
     /// As many as a machine may have: the product buttons overlap.
     void photographSixteenProducts();
+    /// Both messages, beside a button that says Done.
+    void photographNotUnderVraFromTheStart();
+    void photographWith(const QStringList &products, const QString &columns, const QString &state);
 
     QTemporaryDir folder;
 };
@@ -36,11 +39,15 @@ terminal.find("productButton0").touch();
 terminal.drive(3);
 terminal.wait(700);
 terminal.screenshot(folder + "/dialog-locked.png");
+terminal.find("productButton2").touch();
+terminal.wait(50);
+terminal.screenshot(folder + "/dialog-not-under-vra-locked.png");
 terminal.find("doneButton").touch();
 )js");
     const SimulatorRun run = runScript(script.arg(folder.path(), sampleField()));
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     photographSixteenProducts();
+    photographNotUnderVraFromTheStart();
 }
 
 void TestDialogPictures::photographSixteenProducts()
@@ -49,26 +56,42 @@ void TestDialogPictures::photographSixteenProducts()
     for (int number = 1; number <= 16; ++number)
         products.append(
             QStringLiteral(R"({"name": "Product %1", "shortName": "Bin%1", "kind": "weight", "bin": %1})").arg(number));
-    QFile file(folder.filePath(QStringLiteral("products.json")));
+    photographWith(products, QStringLiteral("\"FERT_KG_HA\""), QStringLiteral("dialog-sixteen-products"));
+}
+
+void TestDialogPictures::photographNotUnderVraFromTheStart()
+{
+    const QStringList products{
+        QStringLiteral(R"({"name": "Seed", "shortName": "Seed", "kind": "weight", "bin": 1, "underVra": false})"),
+        QStringLiteral(R"({"name": "Herbicide", "shortName": "Herb", "kind": "volume", "bin": 2})")};
+    photographWith(products, QStringLiteral("\"\", \"HERB_L_HA\""),
+                   QStringLiteral("dialog-not-under-vra-from-the-start"));
+}
+
+void TestDialogPictures::photographWith(const QStringList &products, const QString &columns, const QString &state)
+{
+    QFile file(folder.filePath(state + QStringLiteral(".json")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QStringLiteral("[%1]").arg(products.join(QLatin1Char(','))).toUtf8());
     file.close();
     const QString script = QStringLiteral(R"js(
-terminal.open("%2", {columns: ["FERT_KG_HA"]});
+terminal.open("%1", {columns: [%2]});
 terminal.find("rxOptions").longTouch();
 terminal.wait(100);
-terminal.screenshot("%1/dialog-sixteen-products.png");
+terminal.screenshot("%3");
 terminal.find("doneButton").touch();
 )js");
+    const QString picture = folder.filePath(state + QStringLiteral(".png"));
     const SimulatorRun run =
-        runScript(script.arg(folder.path(), sampleField()), {QStringLiteral("--products"), file.fileName()});
+        runScript(script.arg(sampleField(), columns, picture), {QStringLiteral("--products"), file.fileName()});
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
 }
 
 void TestDialogPictures::statesLookAsStored_data()
 {
     QTest::addColumn<QString>("state");
-    for (const char *state : {"dialog-editable", "dialog-not-under-vra", "dialog-locked", "dialog-sixteen-products"})
+    for (const char *state : {"dialog-editable", "dialog-not-under-vra", "dialog-locked", "dialog-sixteen-products",
+                              "dialog-not-under-vra-locked", "dialog-not-under-vra-from-the-start"})
         QTest::newRow(state) << QString::fromLatin1(state);
 }
 
