@@ -1,7 +1,12 @@
 #pragma once
 
+#include "vertexbank.h"
+
 class HolePlacement;
 struct RingLists;
+
+/// Triangles of the largest bank that a list holds, its head left free. No more room than that is asked for.
+constexpr int mostTriangles = (0x7FFFFFFF - 256) / static_cast<int>(3 * sizeof(Vertex));
 
 /// How much room the tessellation of a polygon needs.
 struct PolygonSize {

@@ -62,6 +62,7 @@ void PolygonTessellation::endPolygon()
 {
     gluTessEndPolygon(tessellator);
     const int start = triangles.size();
+    // Whole triangles come, unless one was given up half way.
     const int emitted = vList.size() - vList.size() % 3;
     triangles.resize(start + emitted);
     const Vertex *from = vList.constData();

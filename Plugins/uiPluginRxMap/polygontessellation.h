@@ -13,7 +13,8 @@ class GLUtesselator;
 constexpr float mapHeight = -4.99F;
 
 /// Tessellates one polygon after the other with one GLU tessellator and appends their triangles to a bank.
-/// Of a tessellator no property and no normal is set: winding rule odd, normal computed.
+/// Of a tessellator no property and no normal is set: winding rule odd, normal computed. Nor is an error callback
+/// registered: a polygon that GLU gives up on is not drawn, and nothing is said.
 class PolygonTessellation {
 public:
     /// Registers the callbacks with `tessellator`.

@@ -6,8 +6,8 @@
 
 /// The rings of a chain, outers and holes apart, each in chain order. The records are not owned.
 struct RingLists {
-    /// Walks `count` records; a chain that ends early is taken as far as it goes.
-    RingLists(OrvikTypes::RX_POLYGON *chain, unsigned int count);
+    /// Walks `published` records; a chain that ends early is taken as far as it goes.
+    RingLists(OrvikTypes::RX_POLYGON *chain, unsigned int published);
 
     QVector<OrvikTypes::RX_POLYGON *> outers;
     QVector<OrvikTypes::RX_POLYGON *> holes;

@@ -26,7 +26,7 @@ inline double crossingMargin(double leftmost, double rightmost)
         + 1.0 / largestOrdinary;
 }
 
-/// Vertices of a ring; none for a ring without a vertex array or with a count that no ring in memory can have.
+/// Vertices of a ring; none for a ring without a vertex array or with more than an int counts.
 inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
 {
     const bool isPossible = ring.vertices != nullptr && ring.vertexCount <= 0x7FFFFFFFU;

@@ -26,7 +26,8 @@ class RxMap3D : public QObject, public Object3D {
     Q_OBJECT
 
 public:
-    /// `broker` is not owned and outlives the drawable, as do the groups that it hands out.
+    /// `broker` is not owned and outlives the drawable, as do the groups that it hands out: one that was taken out of
+    /// the broker is safe to hold, one that was deleted behind its back is not.
     RxMap3D(DataBroker *broker, QObject *parent);
     ~RxMap3D() override;
 
@@ -38,7 +39,7 @@ public:
     /// Binds `group` (null: none) and builds the map anew.
     void setDbGroup(DataBrokerGroup *group);
     /// Even-odd test of the point (x, y) against a ring of `count` vertices; half-open, so that a point on an edge
-    /// shared by two rings is inside one of them.
+    /// shared by two rings is inside one of them. Offered to others: hole placement decides alike by itself.
     bool isInsidePoly(OrvikTypes::RX_POLYGONVERTEX *vertices, int count, float x, float y);
     /// Appends an empty bank; valid until the list changes.
     VertexBank *addVertexBank(QString name);

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aPolygonHasTwoTrianglesLessThanVertices();
     void everyHoleAddsItsVerticesAndTwoTriangles();
     void theMapIsTheSumOfItsPolygons();
+    void noMoreRoomIsAskedForThanAListHolds();
 };
 
 void TestPolygonSize::aPolygonHasTwoTrianglesLessThanVertices_data()
@@ -62,6 +63,19 @@ void TestPolygonSize::theMapIsTheSumOfItsPolygons()
     chain.addOuter({});
     const RingLists rings(chain.first(), chain.count());
     QCOMPARE(triangleCount(rings, HolePlacement(rings.outers, rings.holes)), 8 + 1);
+}
+
+void TestPolygonSize::noMoreRoomIsAskedForThanAListHolds()
+{
+    PolygonChain chain;
+    for (int i = 0; i < 3; ++i)
+        chain.addOuter(square(0, 0, 10)).vertexCount = 0x7FFFFFFFU; // Never looked at.
+    const RingLists rings(chain.first(), chain.count());
+    const HolePlacement placement(rings.outers, rings.holes);
+    QCOMPARE(triangleCount(rings, placement), mostTriangles);
+    const PolygonSize size = polygonSize(rings, placement, 0);
+    QCOMPARE(size.triangles, mostTriangles);
+    QCOMPARE(size.vertices, 3 * mostTriangles);
 }
 
 QTEST_APPLESS_MAIN(TestPolygonSize)

@@ -45,7 +45,6 @@ private Q_SLOTS:
     void propertiesAreReadInOrder();
     void theConnectionIsUnique();
     void aSetFromAnotherThreadRebuildsLater();
-    void aReadHookMayTakeTheProductAway();
     void withoutABrokerNothingIsBound();
     void castingByNameAnswersBothBases();
 };
@@ -455,19 +454,6 @@ void TestRxMap3DBinding::aSetFromAnotherThreadRebuildsLater()
     QVERIFY(RecordingGlu::calls().isEmpty());
     QCoreApplication::processEvents();
     QCOMPARE(RecordingGlu::count(QStringLiteral("gluNewTess")), 1);
-}
-
-void TestRxMap3DBinding::aReadHookMayTakeTheProductAway()
-{
-    MapHost host;
-    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
-    RxMap3D map(&host.broker, nullptr);
-    map.setAamGroup(host.aam(1));
-    map.setDbGroup(group);
-    group->setBeforeReadHook(
-        "polygonCount", [](void *argument) { static_cast<RxMap3D *>(argument)->setAamGroup(nullptr); }, &map);
-    map.updatePolygons();
-    QCOMPARE(RxMap3DProbe::aamGroup(map), nullptr);
 }
 
 void TestRxMap3DBinding::withoutABrokerNothingIsBound()
