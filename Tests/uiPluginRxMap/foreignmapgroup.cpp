@@ -9,3 +9,9 @@ ORVIK_GROUP_PROPERTY_ACCESSORS(ForeignMapGroup, QString, polygonCount, PolygonCo
 ORVIK_GROUP_PROPERTY_ACCESSORS(ForeignMapGroup, QString, queryRatesAtXYZ, QueryRatesAtXYZ, d->queryRatesAtXYZ)
 ORVIK_GROUP_PROPERTY_ACCESSORS(ForeignMapGroup, QString, ratesAtXYZ, RatesAtXYZ, d->ratesAtXYZ)
 ORVIK_GROUP_PROPERTY_ACCESSORS(ForeignMapGroup, QString, ratesAtXYZValid, RatesAtXYZValid, d->ratesAtXYZValid)
+
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextValidityMapGroup, QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>,
+                               rateCalMappings, RateCalMappings, d->rateCalMappings)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextValidityMapGroup, QString, queryRatesAtXYZ, QueryRatesAtXYZ, d->queryRatesAtXYZ)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextValidityMapGroup, QList<float>, ratesAtXYZ, RatesAtXYZ, d->ratesAtXYZ)
+ORVIK_GROUP_PROPERTY_ACCESSORS(TextValidityMapGroup, QString, ratesAtXYZValid, RatesAtXYZValid, d->ratesAtXYZValid)

@@ -30,3 +30,24 @@ private:
     };
     QScopedPointer<Values> d{new Values};
 };
+
+/// A prescription group of a back-end that tells its rates as they are and their validity as text.
+class TextValidityMapGroup : public DataBrokerGroup {
+    Q_OBJECT
+    ORVIK_GROUP_PROPERTY(QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>, rateCalMappings, RateCalMappings)
+    ORVIK_GROUP_PROPERTY(QString, queryRatesAtXYZ, QueryRatesAtXYZ)
+    ORVIK_GROUP_PROPERTY(QList<float>, ratesAtXYZ, RatesAtXYZ)
+    ORVIK_GROUP_PROPERTY(QString, ratesAtXYZValid, RatesAtXYZValid)
+
+public:
+    using DataBrokerGroup::DataBrokerGroup;
+
+private:
+    struct Values {
+        QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings;
+        QString queryRatesAtXYZ;
+        QList<float> ratesAtXYZ;
+        QString ratesAtXYZValid;
+    };
+    QScopedPointer<Values> d{new Values};
+};
