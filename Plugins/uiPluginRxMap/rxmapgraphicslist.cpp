@@ -66,8 +66,6 @@ void RxMapGraphicsList::activeAamChanged(QString name)
     DbGroupAAM *const aam = findGroupOf<DbGroupAAM>(broker, name);
     aamGroup = aam;
     rxMap3D->setAamGroup(aam);
-    if (!self || aamGroup != aam)
-        return;
     if (aam == nullptr) {
         productGroupInfo = nullptr;
         return;
