@@ -192,4 +192,4 @@ const bool areRealMapsAdded = [] {
 
 } // namespace
 
-BENCHMARK(loadCells)->Name("Load/cells-100k")->UseManualTime()->Iterations(9);
+BENCHMARK(loadCells)->Name("Load/cells-100k")->UseManualTime()->Iterations(15);
