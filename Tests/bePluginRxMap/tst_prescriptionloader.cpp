@@ -1,81 +1,13 @@
-#include "fixture.h"
 #include "gdalsession.h"
-#include "layerwriter.h"
-#include "prescriptionloader.h"
-#include "testbase.h"
-
-#include <QTemporaryDir>
+#include "loadertest.h"
 
 #include <cmath>
-#include <memory>
 #include <ogrsf_frmts.h>
 
 using OrvikTypes::RX_POLYGON;
 
-namespace {
-
-std::unique_ptr<LoadedMap> load(const LoadRequest &request, const std::vector<LocalPlane> &planes = {})
-{
-    const LoadControl control;
-    return PrescriptionLoader(request, planes, control).load();
-}
-
-std::unique_ptr<LoadedMap> load(const QString &path, const QStringList &columns = {})
-{
-    return load(requestFor(path, columns));
-}
-
-double areaOf(const LoadedMap &map)
-{
-    double area = 0.0;
-    for (const RX_POLYGON *record = map.chain->first(); record != nullptr; record = record->next)
-        area += record->isHole ? -record->area : record->area;
-    return area;
-}
-
-/// What GDAL alone finds in a file.
-struct Census {
-    int records = 0;
-    int polygons = 0;
-    int holes = 0;
-    int invalid = 0;
-    int withoutRate = 0;
-};
-
-void count(const OGRPolygon &polygon, Census &census)
-{
-    ++census.polygons;
-    census.holes += polygon.getNumInteriorRings();
-}
-
-Census censusOf(const QString &path, const QStringList &columns)
-{
-    const GdalSession session;
-    Census census;
-    const GDALDatasetUniquePtr file(GDALDataset::Open(qPrintable(path), GDAL_OF_VECTOR));
-    for (const OGRFeatureUniquePtr &feature : file->GetLayer(0)) {
-        ++census.records;
-        bool hasRate = false;
-        for (const QString &column : columns)
-            hasRate = hasRate || feature->IsFieldSetAndNotNull(feature->GetFieldIndex(qPrintable(column)));
-        const OGRGeometry *geometry = feature->GetGeometryRef();
-        if (!hasRate || geometry == nullptr) {
-            ++census.withoutRate;
-            continue;
-        }
-        census.invalid += geometry->IsValid() ? 0 : 1;
-        if (wkbFlatten(geometry->getGeometryType()) == wkbPolygon)
-            count(*geometry->toPolygon(), census);
-        else
-            for (const OGRPolygon *part : *geometry->toMultiPolygon())
-                count(*part, census);
-    }
-    return census;
-}
-
-} // namespace
-
-class PrescriptionLoaderTest : public TestBase {
+/// What becomes of a file that can be loaded.
+class PrescriptionLoaderTest : public LoaderTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -89,33 +21,9 @@ private Q_SLOTS:
     void keepsAPolygonThatHasARateInOneColumn();
     void skipsRatesTooLargeForThePublishedNumbers();
     void dropsAPolygonThatALaterOneRepeats();
-    void saysWhyItCannotLoad_data();
-    void saysWhyItCannotLoad();
-    void refusesARequestThatMakesNoSense_data();
-    void refusesARequestThatMakesNoSense();
-    void refusesATruncatedShapefile();
-    void refusesShapefilesWhosePartsDoNotFit();
-    void countsWhatItSkipsButRefusesWhenNothingIsLeft();
     void joinsAPlaneThatIsNear();
     void endsWhenItIsCancelled();
-    void loadsRealMaps_data();
-    void loadsRealMaps();
-    void refusesParcelsForWantOfARate();
-
-private:
-    QString write(const LayerSketch &sketch, const char *name);
-
-    QTemporaryDir folder;
 };
-
-QString PrescriptionLoaderTest::write(const LayerSketch &sketch, const char *name)
-{
-    const QString path = folder.filePath(QLatin1String(name));
-    for (const char *extension : {"shp", "shx", "dbf", "prj", "cpg"})
-        QFile::remove(path.left(path.size() - 3) + QLatin1String(extension));
-    QFile::remove(path);
-    return sketch.write(path) ? path : QString();
-}
 
 void PrescriptionLoaderTest::loadsTheFixtures_data()
 {
@@ -277,135 +185,6 @@ void PrescriptionLoaderTest::dropsAPolygonThatALaterOneRepeats()
     QCOMPARE(map->lookup->ratesAt(0.0, 0.0).rates, QList<float>({3.0F, 20.0F}));
 }
 
-void PrescriptionLoaderTest::saysWhyItCannotLoad_data()
-{
-    QTest::addColumn<QString>("geometry");
-    QTest::addColumn<QByteArray>("kind");
-    QTest::addColumn<QVariant>("rate");
-    QTest::addColumn<QString>("reason");
-    const QString square = squareText(11.0, 48.0, 0.001);
-    QTest::newRow("points") << "POINT (11 48)" << QByteArray("POINT") << QVariant(1.0) << "holds no polygons";
-    QTest::newRow("points in a layer of any kind")
-        << "POINT (11 48)" << QByteArray("GEOMETRY") << QVariant(1.0) << "points or lines";
-    QTest::newRow("no geometry") << "" << QByteArray("POLYGON") << QVariant(1.0) << "holds no polygon";
-    QTest::newRow("a ring of two points")
-        << "POLYGON ((11 48, 12 48, 11 48))" << QByteArray("POLYGON") << QVariant(1.0) << "holds no polygon";
-    QTest::newRow("a ring on one line") << "POLYGON ((11 48, 11.001 48, 11.002 48, 11 48))" << QByteArray("POLYGON")
-                                        << QVariant(1.0) << "encloses anything";
-    QTest::newRow("nothing but null rates")
-        << square << QByteArray("POLYGON") << QVariant() << "no column that looks like a rate";
-    QTest::newRow("half the globe") << squareText(-90.0, -80.0, 150.0) << QByteArray("POLYGON") << QVariant(1.0)
-                                    << "extends over";
-    QTest::newRow("beyond the globe") << squareText(5000.0, 48.0, 1.0) << QByteArray("POLYGON") << QVariant(1.0)
-                                      << "no longitudes and latitudes";
-}
-
-void PrescriptionLoaderTest::saysWhyItCannotLoad()
-{
-    QFETCH(QString, geometry);
-    QFETCH(QByteArray, kind);
-    QFETCH(QVariant, rate);
-    QFETCH(QString, reason);
-    LayerSketch sketch;
-    sketch.driver = "GPKG";
-    sketch.kind = kind.constData();
-    sketch.fields = {{"rate", 1.0}};
-    sketch.rows = {{geometry, {rate}}};
-    const QString path = write(sketch, "a.gpkg");
-    const auto map = load(path);
-    QVERIFY(!map->report.isOk());
-    QVERIFY(map->chain == nullptr && map->lookup == nullptr);
-    QVERIFY2(map->report.error.startsWith(path + QStringLiteral(": ")), qPrintable(map->report.error));
-    QVERIFY2(map->report.error.contains(reason), qPrintable(map->report.error));
-    QVERIFY(!map->report.error.contains(QLatin1Char('\n')));
-}
-
-void PrescriptionLoaderTest::refusesARequestThatMakesNoSense_data()
-{
-    QTest::addColumn<QStringList>("columns");
-    QTest::addColumn<QStringList>("products");
-    QTest::addColumn<QString>("reason");
-    const QStringList products = requestFor({}).rateCalNames;
-    QTest::newRow("no product") << QStringList() << QStringList() << "no product";
-    QTest::newRow("more columns than products")
-        << QStringList({"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA", "area_ha"}) << products << "\"area_ha\" has no product";
-    QTest::newRow("empty columns only") << QStringList({"", ""}) << products << "no column is named";
-    QTest::newRow("a column that is not there") << QStringList({"SEED_K_HA", "LIME"}) << products << "\"LIME\"";
-}
-
-void PrescriptionLoaderTest::refusesARequestThatMakesNoSense()
-{
-    QFETCH(QStringList, columns);
-    QFETCH(QStringList, products);
-    QFETCH(QString, reason);
-    LoadRequest request = requestFor(fixture("three-zones.geojson"), columns);
-    request.rateCalNames = products;
-    QVERIFY2(load(request)->report.error.contains(reason), qPrintable(load(request)->report.error));
-}
-
-void PrescriptionLoaderTest::refusesATruncatedShapefile()
-{
-    LayerSketch sketch;
-    sketch.fields = {{"rate", 1.0}};
-    for (int i = 0; i < 5; ++i)
-        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {1.0 + i}});
-    const QString path = write(sketch, "a.shp");
-    QFile shapes(path);
-    QVERIFY(shapes.resize(shapes.size() - 50));
-    QVERIFY2(load(path)->report.error.contains(QStringLiteral("is cut short")), qPrintable(load(path)->report.error));
-    // The same with a header that does not give it away.
-    QVERIFY(shapes.open(QIODevice::ReadWrite));
-    const qint64 words = shapes.size() / 2;
-    shapes.seek(24);
-    const char length[] = {static_cast<char>(words >> 24), static_cast<char>(words >> 16),
-                           static_cast<char>(words >> 8), static_cast<char>(words)};
-    shapes.write(length, 4);
-    shapes.close();
-    QVERIFY(!load(path)->report.isOk());
-    QVERIFY(!load(path)->report.error.contains(QLatin1Char('\n')));
-}
-
-void PrescriptionLoaderTest::refusesShapefilesWhosePartsDoNotFit()
-{
-    LayerSketch sketch;
-    sketch.fields = {{"rate", 1.0}};
-    for (int i = 0; i < 5; ++i)
-        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {1.0 + i}});
-    const QString path = write(sketch, "a.shp");
-    LayerSketch fewer = sketch;
-    fewer.rows = sketch.rows.mid(0, 2);
-    const QString other = write(fewer, "b.shp");
-    const QString table = path.left(path.size() - 3) + QStringLiteral("dbf");
-    QVERIFY(QFile::remove(table));
-    QVERIFY2(load(path)->report.error.contains(QStringLiteral("no .dbf")), qPrintable(load(path)->report.error));
-    QVERIFY(QFile::copy(other.left(other.size() - 3) + QStringLiteral("dbf"), table));
-    QVERIFY2(load(path)->report.error.contains(QStringLiteral("2 rows for 5 shapes")),
-             qPrintable(load(path)->report.error));
-}
-
-void PrescriptionLoaderTest::countsWhatItSkipsButRefusesWhenNothingIsLeft()
-{
-    LayerSketch sketch;
-    sketch.driver = "GeoJSON";
-    sketch.kind = "GEOMETRY";
-    sketch.fields = {{"rate", 1.0}};
-    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}},
-                   {QString(), {2.0}},
-                   {QStringLiteral("POINT (11 48)"), {3.0}},
-                   {QStringLiteral("POLYGON ((11 48, 12 48, 11 48))"), {4.0}},
-                   {squareText(11.001, 48.0, 0.001), {QVariant()}}};
-    const auto map = load(write(sketch, "a.geojson"));
-    QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
-    QCOMPARE(map->report.outers, 1);
-    QCOMPARE(map->report.skipped, 4);
-    const QString warnings = map->report.warnings.join(QLatin1Char('\n'));
-    for (const char *text : {"2 records without geometry were skipped", "1 record that is no polygon was skipped",
-                             "1 record without a rate was skipped", "1 ring that encloses nothing was left out"})
-        QVERIFY2(warnings.contains(QLatin1String(text)), qPrintable(warnings));
-    sketch.rows.removeFirst();
-    QVERIFY(!load(write(sketch, "a.geojson"))->report.isOk());
-}
-
 void PrescriptionLoaderTest::joinsAPlaneThatIsNear()
 {
     const LoadRequest request = requestFor(fixture("overlap.geojson"));
@@ -441,54 +220,6 @@ void PrescriptionLoaderTest::endsWhenItIsCancelled()
                  qPrintable(QStringLiteral("%1: %2").arg(at).arg(map->report.error)));
         QVERIFY(map->chain == nullptr);
     }
-}
-
-void PrescriptionLoaderTest::loadsRealMaps_data()
-{
-    QTest::addColumn<QStringList>("named");
-    QTest::addColumn<QStringList>("columns");
-    const QStringList none;
-    QTest::newRow("grid-clipped/grid-clipped.shp") << none << QStringList("RATE_kg_");
-    QTest::newRow("cells-three-products/cells.shp") << none << QStringList({"SEED_kg_ha", "HERB_l_ha", "FERT_kg_ha"});
-    QTest::newRow("cells-three-products/zones_8c.shp") << none << QStringList("RATE_KG_HA");
-    QTest::newRow("cells-17k/cells.shp") << none << QStringList("RATE_l_ha");
-    QTest::newRow("cells-17k/zones_4c.shp") << none << QStringList("RATE_l_ha");
-    QTest::newRow("cells-17k/zones_8c.shp") << none << QStringList("RATE_l_ha");
-    QTest::newRow("blocks-utm/treatment_blocks.shp") << none << QStringList("target_rat");
-    QTest::newRow("blocks-utm/treatment_blocks.gpkg") << none << QStringList("target_rate");
-    QTest::newRow("zones-geojson/app_map_vector.geojson") << none << QStringList("dose");
-    QTest::newRow("zones-geojson/isoxmljs_test.geojson") << none << QStringList("DOSE");
-    QTest::newRow("parcels-holes/parcels.shp") << QStringList("AREA_HA") << QStringList("AREA_HA");
-}
-
-void PrescriptionLoaderTest::loadsRealMaps()
-{
-    RXMAP_NEED_REAL_DATA();
-    QFETCH(QStringList, named);
-    QFETCH(QStringList, columns);
-    const QString path = realData(QLatin1String(QTest::currentDataTag()));
-    const Census census = censusOf(path, columns);
-    const auto map = load(path, named);
-    QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
-    QCOMPARE(map->report.columns, columns);
-    QCOMPARE(map->report.skipped, census.withoutRate);
-    QCOMPARE(map->report.repaired, census.invalid);
-    if (census.invalid == 0) {
-        QCOMPARE(map->report.outers, census.polygons);
-        QCOMPARE(map->report.holes, census.holes);
-    } else {
-        QVERIFY(map->report.outers > census.polygons);
-    }
-    QVERIFY(census.polygons > 0);
-}
-
-void PrescriptionLoaderTest::refusesParcelsForWantOfARate()
-{
-    RXMAP_NEED_REAL_DATA();
-    const QString path = realData(QStringLiteral("parcels-holes/parcels.shp"));
-    const auto map = load(path);
-    QVERIFY2(map->report.error.startsWith(path + QStringLiteral(": has no column that looks like a rate")),
-             qPrintable(map->report.error));
 }
 
 QTEST_GUILESS_MAIN(PrescriptionLoaderTest)
