@@ -17,7 +17,10 @@ source "$project/scripts/with-display.sh"
 } >&2
 simulator="$project/build/release/Simulator/Terminal/terminal-simulator"
 
-if (($# > 0)); then
+if (($# > 0)) && needs_operator "$@" && ! has_display; then
+    echo "run.sh: there is no display; use --describe, --screenshot or --script, or no argument for a demonstration" >&2
+    exit 1
+elif (($# > 0)); then
     with_display "$simulator" "$@"
 elif has_display; then
     "$simulator" "$project/Simulator/Resources/sample/sample-field.shp"

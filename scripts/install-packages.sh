@@ -6,7 +6,7 @@ packages=(
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
     libglu1-mesa-dev libgl1-mesa-dev libgl1-mesa-dri
     libgdal-dev libgeos-dev libboost-dev libbenchmark-dev
-    librsvg2-bin fonts-liberation xvfb xauth
+    librsvg2-bin fonts-liberation xvfb xauth x11-xkb-utils
 )
 
 install_packages() {

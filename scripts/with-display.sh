@@ -1,25 +1,52 @@
 # Runs a command on the display at hand, or on a virtual one that lives as long as the command; sourced by run.sh and
 # test.sh. The command's exit status is the function's.
 
+# Whether there is a display that answers.
 has_display() {
-    [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]
+    if [[ -n "${DISPLAY:-}" ]]; then
+        setxkbmap -display "$DISPLAY" -query >/dev/null 2>&1 || return 1
+    else
+        [[ -n "${WAYLAND_DISPLAY:-}" && -S "${XDG_RUNTIME_DIR:-}/$WAYLAND_DISPLAY" ]]
+    fi
+}
+
+# Whether the terminal simulator, started with these arguments, waits for somebody to use it.
+needs_operator() {
+    local argument
+    for argument in "$@"; do
+        case "$argument" in
+        --describe | --describe=* | --screenshot | --screenshot=* | --script | --script=* | --help | -h) return 1 ;;
+        esac
+    done
+}
+
+# Takes down what with_virtual_display has started; its variables are seen here.
+stop_virtual_display() {
+    trap - INT TERM
+    kill ${client:+"$client"} "$server" 2>/dev/null || true
+    wait ${client:+"$client"} "$server" 2>/dev/null || true
+    rm -f "$announced"
 }
 
 with_virtual_display() {
-    local announced server status=0
+    local announced server client="" status=0
     announced="$(mktemp)"
     Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$announced" >/dev/null 2>&1 &
     server=$!
+    trap 'stop_virtual_display; kill -INT $$' INT
+    trap 'stop_virtual_display; kill -TERM $$' TERM
     while [[ ! -s "$announced" ]] && kill -0 "$server" 2>/dev/null; do sleep 0.05; done
     if [[ -s "$announced" ]]; then
-        env -u WAYLAND_DISPLAY DISPLAY=":$(<"$announced")" QT_QPA_PLATFORM=xcb "$@" || status=$?
+        # In the background, so that a signal is heeded at once; such a command loses its standard input otherwise.
+        env -u WAYLAND_DISPLAY DISPLAY=":$(<"$announced")" QT_QPA_PLATFORM=xcb "$@" <&0 &
+        client=$!
+        wait "$client" || status=$?
+        client=""
     else
         echo "the virtual display did not start" >&2
         status=1
     fi
-    kill "$server" 2>/dev/null || true
-    wait "$server" 2>/dev/null || true
-    rm -f "$announced"
+    stop_virtual_display
     return "$status"
 }
 

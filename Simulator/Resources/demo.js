@@ -29,9 +29,9 @@ for (var product = 1; product <= map.columns.length; ++product) {
 
 terminal.activeProduct = 1;
 var button = terminal.find("rxOptions");
-if (button !== null) {
-    button.longTouch();
-    terminal.screenshot("build/demo/settings.png");
-    print("Picture of the settings dialog: build/demo/settings.png");
-    terminal.find("doneButton").touch();
-}
+if (button === null)
+    throw new Error("the guidance page has no rxOptions");
+button.longTouch();
+terminal.screenshot("build/demo/settings.png");
+print("Picture of the settings dialog: build/demo/settings.png");
+terminal.find("doneButton").touch();

@@ -7,6 +7,9 @@
 #include <QOpenGLContext>
 
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -17,11 +20,23 @@ int complain(const QString &reason)
     return 1;
 }
 
-/// Qt aborts where it finds no display; that must be a plain error.
-bool hasDisplay()
+/// Qt aborts where it cannot open a display; that must be a plain error. A child process tries it, silently.
+bool canOpenDisplay(char *program)
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit noCore = {0, 0};
+        setrlimit(RLIMIT_CORE, &noCore);
+        const int nowhere = open("/dev/null", O_WRONLY);
+        dup2(nowhere, STDOUT_FILENO);
+        dup2(nowhere, STDERR_FILENO);
+        int kept = 1;
+        const QGuiApplication application(kept, &program);
+        _exit(0);
+    }
+    int status = 0;
+    // Where no process can be made, the display is taken for granted.
+    return child < 0 || (waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
 /// Without a login there is no run-time folder, and Qt remarks on it; errors are to stand alone.
@@ -47,10 +62,10 @@ int main(int argc, char *argv[])
         std::fputs(CommandLine::helpText().toLocal8Bit().constData(), stdout);
         return 0;
     }
-    if (!hasDisplay())
-        return complain(QStringLiteral("there is no display; start it under xvfb-run"));
-
     provideRuntimeFolder();
+    if (!canOpenDisplay(argv[0]))
+        return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
+
     int kept = 1; // The options are the program's own, Qt is to take none of them.
     QApplication application(kept, argv);
     if (!QOpenGLContext().create())
