@@ -3,6 +3,9 @@
 #include "Framework/databroker.h"
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 template <typename T> T read(const DataBroker &broker, const QString &group, const char *property)
@@ -14,8 +17,17 @@ template <typename T> T read(const DataBroker &broker, const QString &group, con
 
 } // namespace
 
+QList<OrvikTypes::RX_RATECOLOR> ActiveMap::drawnClasses(QList<OrvikTypes::RX_RATECOLOR> legend)
+{
+    const auto isUnseen = [](const OrvikTypes::RX_RATECOLOR &entry) { return entry.color.alpha() == 0; };
+    legend.erase(std::remove_if(legend.begin(), legend.end(), isUnseen), legend.end());
+    return legend;
+}
+
 QColor ActiveMap::classColor(double rate) const
 {
+    if (std::isnan(rate))
+        return {};
     for (const OrvikTypes::RX_RATECOLOR &entry : legend) {
         if (entry.rate >= rate)
             return entry.color;
@@ -41,7 +53,7 @@ ActiveMap ActiveMap::find(const DataBroker &broker, const QString &rateCalName)
             if (mappings.at(i).rateCalName != rateCalName)
                 continue;
             const auto legends = read<QList<QList<OrvikTypes::RX_RATECOLOR>>>(broker, group, "rateColors");
-            return {group, mappings.at(i).dbfColumnName, i, legends.value(i)};
+            return {group, mappings.at(i).dbfColumnName, i, drawnClasses(legends.value(i))};
         }
     }
     return {};

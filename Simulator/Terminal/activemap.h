@@ -16,10 +16,13 @@ struct ActiveMap {
     QString columnName;
     /// Place among the group's mappings; -1 without a map.
     int mapping = -1;
+    /// The classes that are drawn.
     QList<OrvikTypes::RX_RATECOLOR> legend;
 
     bool isValid() const { return mapping >= 0; }
-    /// Colour of the legend class that holds `rate` (base units); invalid without a legend.
+    /// A published legend without its fully transparent entries, which stand for polygons without a rate.
+    static QList<OrvikTypes::RX_RATECOLOR> drawnClasses(QList<OrvikTypes::RX_RATECOLOR> legend);
+    /// Colour of the legend class that holds `rate` (base units); invalid without a legend, and where there is no rate.
     QColor classColor(double rate) const;
     /// The colour of the class at the point that was queried last in the map's group; invalid when it has no rate.
     QColor queriedColor(const DataBroker &broker) const;

@@ -1,6 +1,7 @@
 #include "controlprobe.h"
 
 #include "terminalwindow.h"
+#include "windowstack.h"
 
 #include "Framework/orvikbutton.h"
 #include "Framework/orvikbuttonqgw.h"
@@ -19,25 +20,6 @@
 #include <algorithm>
 
 namespace {
-
-/// Windows from the top of the stack down: dialogs and popups lie over the terminal's display.
-QWidgetList windowsFromTop()
-{
-    QWidgetList over;
-    QWidgetList base;
-    const QWidgetList all = QApplication::topLevelWidgets();
-    for (QWidget *window : all)
-        (qobject_cast<TerminalWindow *>(window) == nullptr ? over : base).append(window);
-    if (QWidget *modal = QApplication::activeModalWidget()) {
-        over.removeAll(modal);
-        over.prepend(modal);
-    }
-    if (QWidget *popup = QApplication::activePopupWidget()) {
-        over.removeAll(popup);
-        over.prepend(popup);
-    }
-    return over + base;
-}
 
 const QWidget *displayWindow()
 {
@@ -87,7 +69,7 @@ QRect viewportRect(const QGraphicsObject *item, const QGraphicsView *view)
 QObject *ControlProbe::find(const QString &name)
 {
     QObject *hidden = nullptr;
-    const QWidgetList windows = windowsFromTop();
+    const QWidgetList windows = WindowStack::fromTop();
     for (QWidget *window : windows) {
         const QList<QObject *> matches = matchesIn(window, name);
         for (QObject *match : matches) {

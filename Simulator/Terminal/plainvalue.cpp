@@ -1,5 +1,7 @@
 #include "plainvalue.h"
 
+#include "../Framework/valueconversion.h"
+
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxpolygon.h"
 #include "Framework/rxsettings.h"
@@ -10,6 +12,7 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <cmath>
 #include <functional>
 
 using OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING;
@@ -33,7 +36,7 @@ QVariant plain(const float &value)
 
 QVariant plain(const QColor &color)
 {
-    return color.isValid() ? color.name() : QString();
+    return color.isValid() ? color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb) : QString();
 }
 
 QVariant plain(const XYZ &point)
@@ -89,6 +92,25 @@ QVariant plain(const RX_DBFCOLUMN_TO_RATECAL_MAPPING &entry)
                        {QStringLiteral("auxNumber2"), entry.auxNumber2}};
 }
 
+/// As the broker takes a value: nothing is lost by it.
+template <typename T> bool take(const QVariant &value, T &target)
+{
+    QVariant converted;
+    if (!convertWithoutLoss(value, qMetaTypeId<T>(), converted))
+        return false;
+    target = converted.value<T>();
+    return true;
+}
+
+bool take(const QVariant &value, QColor &target)
+{
+    const QString name = value.toString();
+    if (value.userType() != QMetaType::QString || (!name.isEmpty() && !QColor::isValidColor(name)))
+        return false;
+    target = name.isEmpty() ? QColor() : QColor(name);
+    return true;
+}
+
 /// Reads the fields of a plain object; every field that is there must be known and of the right type.
 class FieldReader {
 public:
@@ -104,10 +126,7 @@ public:
         const QVariant value = fields.take(QLatin1String(name));
         if (!value.isValid())
             return *this;
-        QVariant converted = value;
-        if (converted.convert(qMetaTypeId<T>()))
-            target = converted.value<T>();
-        else if (error.isEmpty())
+        if (!take(value, target) && error.isEmpty())
             error = QStringLiteral("\"%1\" has the wrong type").arg(QLatin1String(name));
         return *this;
     }
@@ -163,16 +182,17 @@ QString read(const QVariant &value, RX_SETTINGS &entry)
 
 QString read(const QVariant &value, float &number)
 {
-    bool isNumber = false;
-    number = value.toFloat(&isNumber);
-    return isNumber ? QString() : QStringLiteral("a number is expected");
+    // A script has no single-precision numbers: rounding is no loss here, going out of range is.
+    double wide = 0.0;
+    if (!take(value, wide) || (std::isfinite(wide) && !std::isfinite(float(wide))))
+        return QStringLiteral("a number is expected");
+    number = float(wide);
+    return {};
 }
 
 QString read(const QVariant &value, int &number)
 {
-    bool isNumber = false;
-    number = value.toInt(&isNumber);
-    return isNumber ? QString() : QStringLiteral("a number is expected");
+    return take(value, number) ? QString() : QStringLiteral("a whole number is expected");
 }
 
 QString read(const QVariant &value, RX_DBFCOLUMN_TO_RATECAL_MAPPING &entry);

@@ -1,5 +1,6 @@
 #include "scriptterminal.h"
 
+#include "activemap.h"
 #include "controlprobe.h"
 #include "fieldview.h"
 #include "guicall.h"
@@ -55,7 +56,7 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 {
     QVariantList legends;
     for (const QList<OrvikTypes::RX_RATECOLOR> &legend : report.legends)
-        legends.append(QVariant(plainLegend(legend)));
+        legends.append(QVariant(plainLegend(ActiveMap::drawnClasses(legend))));
     return {{QStringLiteral("group"), report.group},
             {QStringLiteral("polygons"), report.polygons},
             {QStringLiteral("outers"), report.outers},
@@ -156,7 +157,8 @@ QJSValue ScriptTerminal::mapColor(double x, double y)
 
 QJSValue ScriptTerminal::find(const QString &name)
 {
-    if (!onGui([&] { return ControlProbe::find(name) != nullptr; }))
+    // Most widgets have no name.
+    if (name.isEmpty() || !onGui([&] { return ControlProbe::find(name) != nullptr; }))
         return QJSValue(QJSValue::NullValue);
     auto *control = new ScriptControl(name, terminal);
     Terminal *shown = terminal;
@@ -187,7 +189,7 @@ void ScriptTerminal::set(const QString &group, const QString &property, const QJ
         const int type = index >= 0 ? target->metaObject()->property(index).userType() : int(QMetaType::UnknownType);
         const Result<QVariant> converted = PlainValue::toBroker(plain, type);
         if (!converted.isOk())
-            return converted.error;
+            return QStringLiteral("\"%2\" of group \"%1\": %3").arg(group, property, converted.error);
         const int code = terminal->broker()->setProperty(group.toLatin1().constData(), property.toLatin1().constData(),
                                                          converted.value);
         terminal->refresh();

@@ -8,6 +8,7 @@
 #include "productselector.h"
 #include "statusbar.h"
 #include "touchbutton.h"
+#include "windowstack.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -113,10 +114,10 @@ QImage TerminalWindow::screenshot()
 {
     QImage image = grab().toImage().convertToFormat(QImage::Format_RGB32);
     QPainter painter(&image);
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (window != this && window->isVisible() && window->isWindow())
-            painter.drawPixmap(window->pos() - mapToGlobal(QPoint(0, 0)), window->grab());
+    const QWidgetList windows = WindowStack::fromTop();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        if (*window != this && (*window)->isVisible())
+            painter.drawPixmap((*window)->pos() - mapToGlobal(QPoint(0, 0)), (*window)->grab());
     }
     return image;
 }

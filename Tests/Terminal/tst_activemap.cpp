@@ -14,6 +14,7 @@ private Q_SLOTS:
     void aRateBelongsToTheFirstClassThatIsNotBelowIt_data();
     void aRateBelongsToTheFirstClassThatIsNotBelowIt();
     void withoutALegendThereIsNoColour();
+    void whatIsNotDrawnIsNoClass();
     void theMappingOfTheProductIsFound();
     void withoutAMapNothingIsFound();
     void theColourIsThatOfThePointThatWasQueried();
@@ -41,6 +42,24 @@ void TestActiveMap::aRateBelongsToTheFirstClassThatIsNotBelowIt()
 void TestActiveMap::withoutALegendThereIsNoColour()
 {
     QVERIFY(!ActiveMap().classColor(1.0).isValid());
+}
+
+void TestActiveMap::whatIsNotDrawnIsNoClass()
+{
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    LoadRequest request;
+    request.path = TerminalHost::fixture(QStringLiteral("partly-without-rate.geojson"));
+    request.columns = QStringList{"fert_rate"};
+    request.columns.append(QStringLiteral("seed_rate"));
+    request.rateCalNames = QStringList{Machine::productGroupName(1), Machine::productGroupName(2)};
+    const LoadReport report = backend.loadAndWait(request);
+    QCOMPARE(report.legends.first().size(), 3);
+    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
+    QCOMPARE(map.legend.size(), 2);
+    QCOMPARE(map.legend.last().rate, 110.0);
+    QCOMPARE(map.classColor(200.0), map.legend.last().color);
+    QVERIFY(!map.classColor(qQNaN()).isValid());
 }
 
 void TestActiveMap::theMappingOfTheProductIsFound()

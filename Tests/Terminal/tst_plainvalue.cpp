@@ -87,6 +87,25 @@ void TestPlainValue::whatIsNoSuchRecordIsRefused_data()
                                    << "unknown field \"speed\"";
     QTest::newRow("wrong type") << QVariant(QVariantMap{{"x", "east"}}) << qMetaTypeId<XYZ>()
                                 << "\"x\" has the wrong type";
+    const auto setting = [](const char *field, const QVariant &value) {
+        return QVariant(QVariantList{QVariantMap{{field, value}}});
+    };
+    QTest::newRow("fraction for a whole number")
+        << setting("onLookAheadMs", 1.6) << settings << "\"onLookAheadMs\" has the wrong type";
+    QTest::newRow("too great a number") << setting("onLookAheadMs", 1e12) << settings
+                                        << "\"onLookAheadMs\" has the wrong type";
+    QTest::newRow("no number") << setting("onLookAheadMs", qQNaN()) << settings
+                               << "\"onLookAheadMs\" has the wrong type";
+    QTest::newRow("word for a truth") << setting("isMaster", "nonsense") << settings
+                                      << "\"isMaster\" has the wrong type";
+    QTest::newRow("word for a colour") << QVariant(
+        QVariantList{QVariant(QVariantList{QVariantMap{{"rate", 1.0}, {"color", "reddish"}}})})
+                                       << qMetaTypeId<QList<QList<RX_RATECOLOR>>>() << "\"color\" has the wrong type";
+    QTest::newRow("fraction for an index")
+        << QVariant(QVariantList{QVariantMap{{"auxIndices", QVariantList{1, 2.5}}}})
+        << qMetaTypeId<QList<RX_DBFCOLUMN_TO_RATECAL_MAPPING>>() << "a whole number is expected";
+    QTest::newRow("rate beyond single precision")
+        << QVariant(QVariantList{1e300}) << qMetaTypeId<QList<float>>() << "a number is expected";
     QTest::newRow("texts for rates") << QVariant(QVariantList{"much"}) << qMetaTypeId<QList<float>>()
                                      << "a number is expected";
 }

@@ -71,6 +71,11 @@ void TestScriptRunner::callsDoWhatTheySay_data()
         "terminal.activeProduct = 2;"
         "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'FERT_KG_HA']});"
         "same(m.legend[0].rate, 0); same(m.legends.length, 2);");
+    row("open with gaps in a column",
+        "var m = terminal.open(zones.replace('three-zones', 'partly-without-rate'));"
+        "same(m.legends.map(function (l) { return l.length; }), [2, 2]); same(m.legend, m.legends[0]);"
+        "terminal.set(m.group, 'rateColors', terminal.get(m.group, 'rateColors'));"
+        "same(terminal.get(m.group, 'rateColors')[0][2].color, '#00000000');");
     row("open with likely columns", "same(terminal.open(sample).columns.length, 3);");
     row("close",
         "var m = terminal.open(zones); terminal.close(m.group); same(terminal.groups('rxMap.*'), []);"
@@ -92,6 +97,9 @@ void TestScriptRunner::callsDoWhatTheySay_data()
         "same(terminal.find('nobody'), null); var b = terminal.find('selectProduct2');"
         "same(b.text, 'Fertiliser'); same(b.visible, true); same(b.enabled, true); same(b.image, -1);"
         "same(b.width > 100 && b.height > 60 && b.x >= 0 && b.y >= 0, true);");
+    row("find nothing",
+        "same(terminal.find(''), null); same(terminal.find(null), null);"
+        " same(terminal.find(undefined), null);");
     row("find what is hidden", "var e = terminal.find('guidancePage'); same(e !== null, true);");
     row("touch", "terminal.find('selectProduct3').touch(); same(terminal.activeProduct, 3);");
     row("a control outlives its widget",
