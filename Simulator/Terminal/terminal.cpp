@@ -15,11 +15,14 @@
 #include "Framework/dbgroupproductgroupinfo.h"
 #include "Framework/uigraphicslist.h"
 #include "Framework/uiplugininterface.h"
+#include "bePluginRxMap/rxmaploader.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QVector3D>
+
+#include <algorithm>
 
 /// A static library's resources have to be asked for, from outside of any namespace.
 static void initialiseResources()
@@ -128,10 +131,32 @@ LoadReport Terminal::open(const QString &path, const QStringList &columns)
     LoadRequest request;
     request.path = path;
     request.columns = columns;
+    const QStringList leftOut = leaveOutUndriven(request);
+    if (!leftOut.isEmpty() && request.columns.join(QString()).isEmpty()) {
+        refused.error = leftOut.first();
+        return refused;
+    }
     QList<int> numbers;
     for (int number = 1; number <= columns.size(); ++number)
         numbers.append(number);
-    return load(request, numbers);
+    LoadReport report = load(request, numbers);
+    if (report.isOk())
+        report.warnings = leftOut + report.warnings;
+    return report;
+}
+
+QStringList Terminal::leaveOutUndriven(LoadRequest &request) const
+{
+    QStringList leftOut;
+    for (int i = 0; i < request.columns.size(); ++i) {
+        const Product &product = machineModel->products().at(i);
+        if (product.underVra || request.columns.at(i).isEmpty())
+            continue;
+        leftOut.append(QStringLiteral("%1: column \"%2\" is left out, product %3 (%4) takes no prescription")
+                           .arg(request.path, request.columns.at(i), QString::number(i + 1), product.name));
+        request.columns[i].clear();
+    }
+    return leftOut;
 }
 
 LoadReport Terminal::openFor(const QString &path, const QList<int> &productNumbers)
@@ -146,7 +171,8 @@ LoadReport Terminal::load(LoadRequest request, const QList<int> &productNumbers)
     const Products &products = machineModel->products();
     for (const int number : productNumbers) {
         request.rateCalNames.append(Machine::productGroupName(number));
-        request.defaultRates.append(products.at(number - 1).defaultRate);
+        // The rate in use, which the operator may have changed.
+        request.defaultRates.append(prescriptions->loader(number - 1)->defaultRate);
     }
     for (const Product &product : products)
         request.productNames.append(product.name);
@@ -201,10 +227,19 @@ QString Terminal::touch(const QPointF &field)
 
 std::optional<QRectF> Terminal::bounds() const
 {
-    std::optional<QRectF> all;
     const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps)
-        all = all ? all->united(map.bounds) : map.bounds;
+    if (maps.isEmpty())
+        return {};
+    const QString active =
+        ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct())).groupName;
+    const auto shown =
+        std::find_if(maps.begin(), maps.end(), [&active](const LoadReport &map) { return map.group == active; });
+    const LoadReport &first = shown != maps.end() ? *shown : maps.last();
+    QRectF all = first.bounds;
+    for (const LoadReport &map : maps) {
+        if (map.origin == first.origin)
+            all |= map.bounds;
+    }
     return all;
 }
 
@@ -229,7 +264,6 @@ void Terminal::followMaps()
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     display->guidancePage()->rebuild();
     showLegend();
-    frameField();
 }
 
 void Terminal::showLegend()
@@ -242,6 +276,8 @@ void Terminal::showLegend()
                              rateUnit(product.rateKind(), machineModel->unitSystem())});
     display->productSelector()->setActiveProduct(number);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
+    // Another product's map may lie elsewhere.
+    frameField();
     refresh();
 }
 

@@ -51,7 +51,8 @@ public:
     TerminalWindow *window() const { return display.data(); }
 
     /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
-    /// leaves its product out. Without columns the most likely ones feed the products that a prescription may drive.
+    /// leaves its product out, and so does a product that no prescription may drive, with a warning. Without columns
+    /// the most likely ones feed the products that a prescription may drive.
     LoadReport open(const QString &path, const QStringList &columns);
     /// The same, with the most likely columns for the products of these numbers (from 1).
     LoadReport openFor(const QString &path, const QList<int> &productNumbers);
@@ -69,7 +70,8 @@ public:
     /// Touches the ground at a field point (metres): the bubble there says what the graphics lists say. The text
     /// shown, empty when they say nothing.
     QString touch(const QPointF &field);
-    /// Extent of everything that is loaded, metres (top = least y); nothing when no map is.
+    /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
+    /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
     std::optional<QRectF> bounds() const;
     /// What is drawn at a field point, see FieldView::colorAt().
     QColor mapColor(const QPointF &field);
@@ -84,6 +86,8 @@ private Q_SLOTS:
 private:
     void watchGroup(const QString &name);
     LoadReport load(LoadRequest request, const QList<int> &productNumbers);
+    /// Clears the columns of products that no prescription may drive; a line for each.
+    QStringList leaveOutUndriven(LoadRequest &request) const;
     void connectDisplay();
     void installGraphicsLists();
     void followMaps();

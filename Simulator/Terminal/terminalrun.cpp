@@ -10,6 +10,7 @@
 #include "terminalwindow.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -39,43 +40,90 @@ QString loadPlugins(Terminal &terminal, const QDir &folder)
                                  : QStringLiteral("%1: no user-interface plug-in in this folder").arg(folder.path());
 }
 
-QString openWithColumns(Terminal &terminal, const CommandLine &line)
+/// Each file once, however it is named.
+QStringList withoutRepetition(const QStringList &paths)
 {
-    if (line.prescriptions.size() == 1)
-        return terminal.open(line.prescriptions.first(), line.columns).error;
-    QList<ColumnPlan::File> files;
-    for (const QString &path : line.prescriptions) {
-        const ColumnSearch columns = PrescriptionBackend::findColumns(path, line.columns);
-        if (!columns.isOk())
-            return columns.error;
-        files.append({path, columns.found});
+    QStringList files;
+    QStringList known;
+    for (const QString &path : paths) {
+        const QString canonical = QFileInfo(path).canonicalFilePath();
+        if (!canonical.isEmpty() && known.contains(canonical))
+            continue;
+        files.append(path);
+        known.append(canonical);
     }
-    const Result<QList<QStringList>> plan = ColumnPlan::distribute(files, line.columns);
+    return files;
+}
+
+/// What a load left out or took for granted.
+void printWarnings(const LoadReport &report)
+{
+    for (const QString &warning : report.warnings)
+        print(stderr, warning);
+}
+
+QString openOne(Terminal &terminal, const QString &path, const QStringList &columns)
+{
+    const LoadReport report = terminal.open(path, columns);
+    if (report.isOk())
+        printWarnings(report);
+    return report.error;
+}
+
+QString openWithColumns(Terminal &terminal, const QStringList &paths, const QStringList &columns)
+{
+    if (paths.size() == 1)
+        return openOne(terminal, paths.first(), columns);
+    QList<ColumnPlan::File> files;
+    for (const QString &path : paths) {
+        const ColumnSearch search = PrescriptionBackend::findColumns(path, columns);
+        if (!search.isOk())
+            return search.error;
+        files.append({path, search.found});
+    }
+    const Result<QList<QStringList>> plan = ColumnPlan::distribute(files, columns);
     if (!plan.isOk())
         return plan.error;
     for (int i = 0; i < files.size(); ++i) {
-        const LoadReport report = terminal.open(files.at(i).path, plan.value.at(i));
-        if (!report.isOk())
-            return report.error;
+        if (plan.value.at(i).isEmpty()) {
+            print(stderr, QStringLiteral("%1: not opened, it feeds no product").arg(files.at(i).path));
+            continue;
+        }
+        const QString error = openOne(terminal, files.at(i).path, plan.value.at(i));
+        if (!error.isEmpty())
+            return error;
     }
     return {};
 }
 
+void printFeeds(const Terminal &terminal, const LoadReport &report)
+{
+    const QMap<int, QString> feeds = terminal.columnsOf(report.group);
+    for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
+        const QString product = terminal.machine()->products().at(feed.key() - 1).name;
+        print(stdout, QStringLiteral("%1: product %2 (%3): %4").arg(report.path).arg(feed.key()).arg(product, *feed));
+    }
+    if (feeds.isEmpty())
+        print(stdout, QStringLiteral("%1: feeds no product").arg(report.path));
+}
+
 /// Each file feeds the products that none before it does; once all are fed, a file takes products over.
-QString openLikely(Terminal &terminal, const CommandLine &line)
+QString openLikely(Terminal &terminal, const QStringList &paths)
 {
     QList<int> unfed = terminal.productsUnderVra();
-    for (const QString &path : line.prescriptions) {
+    QList<LoadReport> reports;
+    for (const QString &path : paths) {
         const LoadReport report = terminal.openFor(path, unfed.isEmpty() ? terminal.productsUnderVra() : unfed);
         if (!report.isOk())
             return report.error;
-        const QMap<int, QString> feeds = terminal.columnsOf(report.group);
-        for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
-            const QString product = terminal.machine()->products().at(feed.key() - 1).name;
-            print(stdout, QStringLiteral("%1: product %2 (%3): %4").arg(path).arg(feed.key()).arg(product, *feed));
-            unfed.removeAll(feed.key());
-        }
+        printWarnings(report);
+        const QList<int> fed = terminal.columnsOf(report.group).keys();
+        for (const int product : fed)
+            unfed.removeAll(product);
+        reports.append(report);
     }
+    for (const LoadReport &report : qAsConst(reports))
+        printFeeds(terminal, report);
     return {};
 }
 
@@ -129,7 +177,8 @@ QString runTerminal(const CommandLine &line)
     error = loadPlugins(terminal, pluginFolder);
     if (error.isEmpty() && !terminal.show())
         error = QStringLiteral("the display has no OpenGL");
+    const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty())
-        error = line.columns.isEmpty() ? openLikely(terminal, line) : openWithColumns(terminal, line);
+        error = line.columns.isEmpty() ? openLikely(terminal, files) : openWithColumns(terminal, files, line.columns);
     return error.isEmpty() ? runTasks(terminal, line) : error;
 }

@@ -90,6 +90,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     dropRecordsWithoutRate();
     countRings(map);
     dropHidden();
+    warnOfGaps();
     if (!arrange())
         return false;
     map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
@@ -141,6 +142,7 @@ bool PrescriptionLoader::place(LoadedMap &map)
                  .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
     if (!map.plane.project(source, xs, ys, reason))
         return fail(reason);
+    map.report.origin = QPointF(map.plane.longitude(), map.plane.latitude());
     control.report(shareOfReading + shareOfPlacing);
     return true;
 }
@@ -254,6 +256,22 @@ void PrescriptionLoader::dropRecordsWithoutRate()
     polygons.erase(std::remove_if(polygons.begin(), polygons.end(),
                                   [&hasNoRate](const PlanePolygon &polygon) { return hasNoRate(polygon.record); }),
                    polygons.end());
+}
+
+void PrescriptionLoader::warnOfGaps()
+{
+    for (size_t i = 0; i < mappings; ++i) {
+        int gaps = 0;
+        int last = -1;
+        for (const PlanePolygon &polygon : polygons) {
+            if (polygon.record != last && std::isnan(rates[static_cast<size_t>(polygon.record) * mappings + i]))
+                ++gaps;
+            last = polygon.record;
+        }
+        const QString column = report->columns.at(static_cast<int>(i));
+        warnCount(gaps, QStringLiteral("record has no rate in column \"%1\"").arg(column),
+                  QStringLiteral("records have no rate in column \"%1\"").arg(column));
+    }
 }
 
 void PrescriptionLoader::countRings(LoadedMap &map) const

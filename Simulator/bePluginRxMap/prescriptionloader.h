@@ -32,6 +32,8 @@ private:
     void takeRates(const std::vector<int> &columns);
     void dropRecordsWithoutRate();
     void dropHidden();
+    /// Tells of records that have a rate, but not in every column.
+    void warnOfGaps();
     void countRings(LoadedMap &map) const;
     bool arrange();
     void buildLegends(LoadedMap &map) const;

@@ -8,6 +8,10 @@
 #include "terminalwindow.h"
 #include "testbase.h"
 
+#include "bePluginRxMap/dbgrouprxmap.h"
+#include "bePluginRxMap/rxmaploader.h"
+
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -52,6 +56,8 @@ private Q_SLOTS:
     void theNewestMapTakesAProductOverAndGivesItBack();
     void loadingAgainWhileDrawingReplacesTheMap();
     void unloadingWhileDrawingLeavesTheGround();
+    void aMapThatIsLoadedAgainTakesTheDefaultRatesInUse();
+    void farMapsAreFramedOneByOne();
     void aBadFileLeavesTheMapAsItWas();
     void moreColumnsThanProductsAreRefused();
     void theBubbleShowsWhatIsSaidAndGoes();
@@ -295,6 +301,42 @@ void TestTerminal::unloadingWhileDrawingLeavesTheGround()
     QVERIFY(terminal().window()->legend()->classTexts().isEmpty());
     QVERIFY(!terminal().bounds());
     QVERIFY(!terminal().close(report.group));
+}
+
+void TestTerminal::aMapThatIsLoadedAgainTakesTheDefaultRatesInUse()
+{
+    const LoadReport report = open("three-zones.geojson", {"SEED_K_HA", "FERT_KG_HA"});
+    auto *map = qobject_cast<DbGroupRxMap *>(terminal().broker()->getGroup(report.group, false));
+    QCOMPARE(map->getRateCalMappings().at(1).defaultRate, 150.0);
+    // As the dialog writes it.
+    terminal().backend()->loader(1)->defaultRate = 77.5;
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA", "FERT_KG_HA"}).isOk());
+    QCOMPARE(map->getRateCalMappings().at(0).defaultRate, 80.0);
+    QCOMPARE(map->getRateCalMappings().at(1).defaultRate, 77.5);
+}
+
+void TestTerminal::farMapsAreFramedOneByOne()
+{
+    QTemporaryDir folder;
+    QFile source(TerminalHost::fixture("overlap.geojson"));
+    QFile far(folder.filePath(QStringLiteral("far.geojson")));
+    QVERIFY(source.open(QIODevice::ReadOnly) && far.open(QIODevice::WriteOnly));
+    far.write(source.readAll().replace("5500", "5530"));
+    far.close();
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    const QRectF near = terminal().bounds().value();
+    const LoadReport report = terminal().open(far.fileName(), {QString(), QStringLiteral("rate")});
+    QVERIFY(report.isOk());
+    QVERIFY(report.warnings.join(QLatin1Char(' ')).contains(QStringLiteral("30 km")));
+    QCOMPARE(terminal().bounds().value(), near);
+    terminal().machine()->setActiveProduct(2);
+    QCOMPARE(terminal().bounds().value(), report.bounds);
+    // The field view stands over the map that it shows.
+    QVERIFY(terminal().mapColor(report.bounds.topLeft() + QPointF(1.0, 1.0)) != FieldScene::groundColor());
+    terminal().machine()->setActiveProduct(3);
+    QCOMPARE(terminal().bounds().value(), report.bounds);
+    QVERIFY(terminal().close(report.group));
+    QCOMPARE(terminal().bounds().value(), near);
 }
 
 void TestTerminal::aBadFileLeavesTheMapAsItWas()

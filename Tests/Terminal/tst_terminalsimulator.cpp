@@ -2,6 +2,7 @@
 #include "terminalhost.h"
 #include "testbase.h"
 
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -20,9 +21,17 @@ private Q_SLOTS:
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
     void columnsAreTakenFromTheFilesThatHaveThem();
+    void aFileThatIsToFeedNothingIsNotOpened();
+    void aFileThatIsNamedTwiceIsLoadedOnce();
+    void theColumnsThatFeedInTheEndAreReported();
+    void whatALoadCountsIsTold_data();
+    void whatALoadCountsIsTold();
+    void aProductThatNoPrescriptionDrivesIsFedByNone();
     void brokenPluginsAreReportedAndSkipped();
     void productsComeFromAFile();
+    void withoutADisplayItSaysSo_data();
     void withoutADisplayItSaysSo();
+    void withoutOpenGlItSaysSo();
     void itSpeaksTheOperatorsLanguage();
 
 private:
@@ -174,6 +183,79 @@ void TestTerminalSimulator::columnsAreTakenFromTheFilesThatHaveThem()
     QCOMPARE(outcome.output, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
 }
 
+void TestTerminalSimulator::aFileThatIsToFeedNothingIsNotOpened()
+{
+    const QString script = write("print(terminal.groups('rxMap.*'), terminal.get('system.binGroup.1',"
+                                 " 'rxMapGroupName'));",
+                                 "opened.js");
+    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
+    const Outcome outcome = run({"--columns", "SEED_K_HA", "--script", script, zones(), other});
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, QStringLiteral("rxMap.three-zones.geojson rxMap.three-zones.geojson\n"));
+    QCOMPARE(outcome.errors, other + QStringLiteral(": not opened, it feeds no product\n"));
+}
+
+void TestTerminalSimulator::aFileThatIsNamedTwiceIsLoadedOnce()
+{
+    const QString again = QStringLiteral("%1/../fixtures/three-zones.geojson").arg(QFileInfo(zones()).path());
+    const Outcome once = run({"--describe", "0,0", zones()});
+    const Outcome twice = run({"--describe", "0,0", zones(), again});
+    QCOMPARE(twice.status, 0);
+    QCOMPARE(twice.output, once.output);
+    QCOMPARE(twice.errors, QString());
+}
+
+void TestTerminalSimulator::theColumnsThatFeedInTheEndAreReported()
+{
+    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
+    const Outcome outcome = run({"--describe", "-1000,0", zones(), other});
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
+    QVERIFY(outcome.output.contains(zones() + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")));
+    QVERIFY(outcome.output.contains(other + QStringLiteral(": product 1 (Seed): rate\n")));
+}
+
+void TestTerminalSimulator::whatALoadCountsIsTold_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("likely columns") << QStringList{};
+    QTest::newRow("a column by name") << QStringList{"--columns", "Rate"};
+    QTest::newRow("a column by name, two files")
+        << QStringList{"--columns", "Rate,SEED_K_HA", TerminalHost::fixture("three-zones.geojson")};
+}
+
+void TestTerminalSimulator::whatALoadCountsIsTold()
+{
+    QFETCH(QStringList, options);
+    const QString path = TerminalHost::fixture(QStringLiteral("text-rates.geojson"));
+    const Outcome outcome = run(options + QStringList{"--describe", "0,0", path});
+    QCOMPARE(outcome.status, 0);
+    QStringList lines = outcome.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    lines.sort();
+    QCOMPARE(lines,
+             QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
+                          path + QStringLiteral(": 2 records without a rate were skipped")}));
+}
+
+void TestTerminalSimulator::aProductThatNoPrescriptionDrivesIsFedByNone()
+{
+    const QString products =
+        write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false}])",
+              "water.json");
+    const QString script =
+        write("print(terminal.get('rxMap.three-zones.geojson', 'rateCalMappings').length)", "count.js");
+    const Outcome some =
+        run({"--products", products, "--columns", "FERT_KG_HA,HERB_L_HA", "--script", script, zones()});
+    QVERIFY2(some.status == 0, qPrintable(some.errors));
+    QCOMPARE(some.output, QStringLiteral("1\n"));
+    const QString reason =
+        zones() + QStringLiteral(": column \"HERB_L_HA\" is left out, product 2 (Water) takes no prescription\n");
+    QCOMPARE(some.errors, reason);
+    const Outcome none = run({"--products", products, "--columns", ",HERB_L_HA", "--script", script, zones()});
+    QCOMPARE(none.status, 1);
+    QCOMPARE(none.errors, QStringLiteral("terminal-simulator: ") + reason);
+}
+
 void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
 {
     QTemporaryDir plugins;
@@ -203,14 +285,38 @@ void TestTerminalSimulator::productsComeFromAFile()
     QVERIFY(outcome.output.contains(QLatin1String("product 3 (Urea)")));
 }
 
+void TestTerminalSimulator::withoutADisplayItSaysSo_data()
+{
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<QString>("platform");
+    QTest::newRow("none") << QString() << QString();
+    QTest::newRow("empty") << QStringLiteral("") << QString();
+    QTest::newRow("dead") << QStringLiteral(":4711") << QString();
+    QTest::newRow("dead, platform named") << QStringLiteral(":4711") << QStringLiteral("xcb");
+    QTest::newRow("none, platform named") << QString() << QStringLiteral("xcb");
+    QTest::newRow("no such platform") << qEnvironmentVariable("DISPLAY") << QStringLiteral("nothing");
+}
+
 void TestTerminalSimulator::withoutADisplayItSaysSo()
 {
+    QFETCH(QString, display);
+    QFETCH(QString, platform);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(QLatin1String(name));
+    if (!display.isNull())
+        environment.insert(QStringLiteral("DISPLAY"), display);
+    if (!platform.isNull())
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
     const Outcome none = run({zones()}, environment);
     QCOMPARE(none.status, 1);
-    QCOMPARE(none.errors.count(QLatin1Char('\n')), 1);
+    QCOMPARE(none.errors,
+             QStringLiteral("terminal-simulator: there is no display that can be opened; start it under xvfb-run\n"));
+}
+
+void TestTerminalSimulator::withoutOpenGlItSaysSo()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     // That platform leaves its own things behind.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));

@@ -147,6 +147,11 @@ void PrescriptionLoaderTest::keepsAPolygonThatHasARateInOneColumn()
 {
     const auto map = load(fixture("partly-without-rate.geojson"));
     QCOMPARE(map->report.outers, 3);
+    const QString file = fixture("partly-without-rate.geojson");
+    QCOMPARE(map->report.warnings,
+             QStringList({file + QStringLiteral(": 1 record has no rate in column \"seed_rate\""),
+                          file + QStringLiteral(": 1 record has no rate in column \"fert_rate\""),
+                          file + QStringLiteral(": 1 record without a rate was skipped")}));
     const RX_POLYGON *first = map->chain->first();
     QCOMPARE(first->rates[0], 10.0F);
     QVERIFY(std::isnan(first->rates[1]));

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QMetaType>
+#include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
@@ -59,6 +60,8 @@ struct LoadReport {
     QStringList warnings;
     /// Extent in the local plane, metres: left = least x, top = least y.
     QRectF bounds;
+    /// Where the local plane touches the earth, degrees of longitude and latitude. Maps of one origin share a plane.
+    QPointF origin;
 
     bool isOk() const { return error.isEmpty(); }
 };
