@@ -30,6 +30,25 @@ static void initialiseResources()
     Q_INIT_RESOURCE(terminal);
 }
 
+namespace {
+
+Amount amountOf(const Product &product)
+{
+    switch (product.kind) {
+    case Product::Kind::Count:
+        return Amount::Count;
+    case Product::Kind::Volume:
+    case Product::Kind::Injection:
+        return Amount::Volume;
+    case Product::Kind::Weight:
+        return Amount::Weight;
+    default:
+        return Amount::Unknown;
+    }
+}
+
+} // namespace
+
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     : QObject(parent)
     , dataBroker(QString(), TerminalWindow::DisplaySize)
@@ -171,6 +190,7 @@ LoadReport Terminal::load(LoadRequest request, const QList<int> &productNumbers)
     const Products &products = machineModel->products();
     for (const int number : productNumbers) {
         request.rateCalNames.append(Machine::productGroupName(number));
+        request.amounts.append(amountOf(products.at(number - 1)));
         // The rate in use, which the operator may have changed.
         request.defaultRates.append(prescriptions->loader(number - 1)->defaultRate);
     }

@@ -1,6 +1,9 @@
 #include "columnname.h"
 
 #include <QSet>
+#include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +28,25 @@ const QSet<QString> &amountUnits()
 {
     static const QSet<QString> words = wordSet("kg g t to l lt ltr liter litre ml gal lb lbs oz floz pt qt seeds seed "
                                                "sds s k ks ksds plants pl st korn kst ct");
+    return words;
+}
+
+struct AmountWords {
+    Amount amount;
+    QSet<QString> units;
+    QSet<QString> products;
+};
+
+const QVector<AmountWords> &amountWords()
+{
+    static const QVector<AmountWords> words = {
+        {Amount::Count, wordSet("seeds sds s k ks ksds plants pl st korn kst ct"),
+         wordSet("seed seeding sow saat saatgut samen semence semilla semente population pop")},
+        {Amount::Volume, wordSet("l lt ltr liter litre ml gal floz pt qt"),
+         wordSet("herb herbicide fung fungicide insect spray liquid herbizid water")},
+        {Amount::Weight, wordSet("kg g t to lb lbs oz"),
+         wordSet("fert fertiliser fertilizer duenger dunger engrais fertilizante adubo urea lime kalk")},
+    };
     return words;
 }
 
@@ -100,6 +122,39 @@ bool ColumnName::namesUnitPerArea() const
             return true;
     }
     return false;
+}
+
+QString ColumnName::unit() const
+{
+    for (int i = words.size() - 1; i >= 0; --i) {
+        for (const QString &area : areaUnits()) {
+            const QString &word = words.at(i);
+            if (word == area && i > 0)
+                return words.at(i - 1) == QLatin1String("per") ? words.value(i - 2) : words.at(i - 1);
+            QString amount = word.endsWith(area) ? word.left(word.size() - area.size()) : QString();
+            amount = amount.endsWith(QLatin1String("per")) ? amount.left(amount.size() - 3) : amount;
+            if (amountUnits().contains(amount))
+                return amount;
+        }
+    }
+    return words.isEmpty() ? QString() : words.last();
+}
+
+Amount ColumnName::amount() const
+{
+    // Seed is sown by weight, too: its name says more than its unit.
+    for (const AmountWords &known : amountWords()) {
+        const bool isNamed = std::any_of(words.begin(), words.end(),
+                                         [&known](const QString &word) { return isIn(known.products, word); });
+        if (isNamed)
+            return known.amount;
+    }
+    const QString measure = unit();
+    for (const AmountWords &known : amountWords()) {
+        if (known.units.contains(measure))
+            return known.amount;
+    }
+    return Amount::Unknown;
 }
 
 bool ColumnName::namesRate() const

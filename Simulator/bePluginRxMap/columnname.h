@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/loadreport.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -13,9 +15,13 @@ public:
     bool namesRate() const;
     /// Names what no rate is: an identifier, size, total, extent, place.
     bool namesOther() const;
+    /// What a word for the product, else the rate's unit, says is measured out.
+    Amount amount() const;
 
 private:
     bool namesUnitPerArea() const;
+    /// The word before an area's unit, else the last word.
+    QString unit() const;
 
     /// Lower case, split at everything but letters and digits, and where small letters meet capitals.
     QStringList words;

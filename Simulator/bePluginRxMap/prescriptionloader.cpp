@@ -200,10 +200,17 @@ std::vector<int> PrescriptionLoader::columnsByLikelihood(LoadedMap &map) const
         for (const PlaneRing &hole : polygon.holes)
             area -= ringArea(hole);
     }
-    const std::vector<int> chosen = RateColumns::mostLikely(source, areas, request.rateCalNames.size());
-    for (size_t product = 0; product < chosen.size(); ++product) {
-        map.rateCalNames.append(request.rateCalNames.at(static_cast<int>(product)));
-        map.defaultRates.append(request.defaultRates.value(static_cast<int>(product), 0.0));
+    QList<Amount> amounts;
+    for (int product = 0; product < request.rateCalNames.size(); ++product)
+        amounts.append(request.amounts.value(product, Amount::Unknown));
+    const std::vector<int> assigned = RateColumns::assign(source, RateColumns::mostLikely(source, areas), amounts);
+    std::vector<int> chosen;
+    for (int product = 0; product < request.rateCalNames.size(); ++product) {
+        if (assigned[static_cast<size_t>(product)] < 0)
+            continue;
+        chosen.push_back(assigned[static_cast<size_t>(product)]);
+        map.rateCalNames.append(request.rateCalNames.at(product));
+        map.defaultRates.append(request.defaultRates.value(product, 0.0));
     }
     return chosen;
 }

@@ -85,7 +85,7 @@ int RateColumns::find(const QStringList &names, const QString &wanted)
     return -1;
 }
 
-std::vector<int> RateColumns::mostLikely(const SourceMap &map, const std::vector<double> &recordAreas, int most)
+std::vector<int> RateColumns::mostLikely(const SourceMap &map, const std::vector<double> &recordAreas)
 {
     std::vector<int> named;
     std::vector<int> possible;
@@ -98,8 +98,27 @@ std::vector<int> RateColumns::mostLikely(const SourceMap &map, const std::vector
         else if (mayBeRateByContent(column, map, recordAreas))
             possible.push_back(static_cast<int>(i));
     }
-    std::vector<int> &chosen = named.empty() ? possible : named;
-    if (chosen.size() > static_cast<size_t>(std::max(0, most)))
-        chosen.resize(static_cast<size_t>(std::max(0, most)));
-    return chosen;
+    return named.empty() ? possible : named;
+}
+
+std::vector<int> RateColumns::assign(const SourceMap &map, std::vector<int> columns, const QList<Amount> &amounts)
+{
+    std::vector<int> assigned(static_cast<size_t>(amounts.size()), -1);
+    for (int product = 0; product < amounts.size(); ++product) {
+        const auto suits = [&map, &amounts, product](int column) {
+            const Amount amount = ColumnName(map.columns[static_cast<size_t>(column)].name).amount();
+            return amount != Amount::Unknown && amount == amounts.at(product);
+        };
+        const auto suiting = std::find_if(columns.begin(), columns.end(), suits);
+        if (suiting == columns.end())
+            continue;
+        assigned[static_cast<size_t>(product)] = *suiting;
+        columns.erase(suiting);
+    }
+    auto next = columns.begin();
+    for (int &column : assigned) {
+        if (column < 0 && next != columns.end())
+            column = *next++;
+    }
+    return assigned;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/loadreport.h"
 #include "sourcemap.h"
 
 #include <QStringList>
@@ -13,7 +14,11 @@ public:
     static bool isWorthReading(const SourceColumn &column);
     /// Place of the column called `wanted`, else of the first whose name differs in case only; -1 when there is none.
     static int find(const QStringList &names, const QString &wanted);
-    /// Places, in table order, of the likely rate columns of `map.columns`, at most `most`. A column whose name says
+    /// Places, in table order, of the likely rate columns of `map.columns`. A column whose name says
     /// that it is a rate outdoes all that only could be one by their content. `recordAreas`: square metres per record.
-    static std::vector<int> mostLikely(const SourceMap &map, const std::vector<double> &recordAreas, int most);
+    static std::vector<int> mostLikely(const SourceMap &map, const std::vector<double> &recordAreas);
+    /// Hands `columns` (places in `map.columns`) out to products that are measured out as `amounts` say: each product
+    /// takes the first column whose name suits it, then those that found none take what is left, in table order. One
+    /// entry per product, -1 where no column is left.
+    static std::vector<int> assign(const SourceMap &map, std::vector<int> columns, const QList<Amount> &amounts);
 };

@@ -1,12 +1,16 @@
 #include "columnname.h"
 #include "testbase.h"
 
+Q_DECLARE_METATYPE(Amount)
+
 class ColumnNameTest : public TestBase {
     Q_OBJECT
 
 private Q_SLOTS:
     void tellsRatesFromTheRest_data();
     void tellsRatesFromTheRest();
+    void tellsWhatIsMeasuredOut_data();
+    void tellsWhatIsMeasuredOut();
 };
 
 void ColumnNameTest::tellsRatesFromTheRest_data()
@@ -39,6 +43,24 @@ void ColumnNameTest::tellsRatesFromTheRest()
     const ColumnName name(tag == "umlaut" ? QString::fromUtf8("Düngung") : QString::fromLatin1(tag));
     QCOMPARE(name.namesRate(), rate);
     QCOMPARE(name.namesOther(), other);
+}
+
+void ColumnNameTest::tellsWhatIsMeasuredOut_data()
+{
+    QTest::addColumn<Amount>("amount");
+    for (const char *name : {"SEED_KS_HA", "rate_seeds_ac", "seed_rate", "SEED_kg_ha", "PopRate", "ksha", "Saat_Rate"})
+        QTest::newRow(name) << Amount::Count;
+    for (const char *name : {"HERB_l_ha", "HERB_L_HA", "gal_per_ac", "N_galperac", "dose_herb", "RateMlHa"})
+        QTest::newRow(name) << Amount::Volume;
+    for (const char *name : {"RATE_kg_", "FERT_KG_HA", "N_kgha", "LimeTHa", "UreaLbAc", "fert_rate"})
+        QTest::newRow(name) << Amount::Weight;
+    for (const char *name : {"rate", "dose", "Rx1", "target_rat", "value", ""})
+        QTest::newRow(name) << Amount::Unknown;
+}
+
+void ColumnNameTest::tellsWhatIsMeasuredOut()
+{
+    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).amount(), "amount");
 }
 
 QTEST_GUILESS_MAIN(ColumnNameTest)

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+Q_DECLARE_METATYPE(Amount)
+
 namespace {
 
 SourceColumn column(const char *name, std::vector<double> values)
@@ -22,14 +24,14 @@ SourceColumn integerColumn(const char *name, std::vector<double> values)
 
 const std::vector<double> areas = {100.0, 250.0, 80.0, 400.0};
 
-QStringList likely(std::vector<SourceColumn> columns, int most = 3)
+QStringList likely(std::vector<SourceColumn> columns)
 {
     SourceMap map;
     map.xs = {11.0, 12.0};
     map.ys = {48.0, 49.0};
     map.columns = std::move(columns);
     QStringList names;
-    for (const int place : RateColumns::mostLikely(map, areas, most))
+    for (const int place : RateColumns::mostLikely(map, areas))
         names.append(map.columns[static_cast<size_t>(place)].name);
     return names;
 }
@@ -44,7 +46,8 @@ private Q_SLOTS:
     void readsTextOnlyWhereTheNameSaysRate();
     void prefersColumnsNamedAsRates();
     void keepsTheOrderOfTheTable();
-    void takesNoMoreThanThereAreProducts();
+    void handsColumnsOutByWhatTheyMeasure_data();
+    void handsColumnsOutByWhatTheyMeasure();
     void takesAProductNameByItsContent();
     void passesOverWhatIsNoRate_data();
     void passesOverWhatIsNoRate();
@@ -86,11 +89,39 @@ void RateColumnsTest::keepsTheOrderOfTheTable()
              QStringList({QStringLiteral("SEED_kg_ha"), QStringLiteral("HERB_l_ha"), QStringLiteral("FERT_kg_ha")}));
 }
 
-void RateColumnsTest::takesNoMoreThanThereAreProducts()
+void RateColumnsTest::handsColumnsOutByWhatTheyMeasure_data()
 {
-    const std::vector<SourceColumn> columns = {column("rate1", {1, 1, 1, 1}), column("rate2", {1, 1, 1, 1})};
-    QCOMPARE(likely(columns, 1), QStringList(QStringLiteral("rate1")));
-    QVERIFY(likely(columns, 0).isEmpty());
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QList<Amount>>("amounts");
+    QTest::addColumn<QList<int>>("assigned");
+    const QList<Amount> machine = {Amount::Count, Amount::Weight, Amount::Volume};
+    QTest::newRow("in the order of the products")
+        << QStringList{"SEED_ks_ha", "FERT_kg_ha", "HERB_l_ha"} << machine << QList<int>{0, 1, 2};
+    QTest::newRow("in another order") << QStringList{"SEED_kg_ha", "HERB_l_ha", "FERT_kg_ha"} << machine
+                                      << QList<int>{0, 2, 1};
+    QTest::newRow("unknown products") << QStringList{"HERB_l_ha", "FERT_kg_ha"}
+                                      << QList<Amount>{Amount::Unknown, Amount::Unknown} << QList<int>{0, 1};
+    QTest::newRow("unknown columns") << QStringList{"rate1", "rate2"} << machine << QList<int>{0, 1, -1};
+    QTest::newRow("one of them known") << QStringList{"rate1", "rate_l_ha", "rate2"} << machine << QList<int>{0, 2, 1};
+    QTest::newRow("two that suit") << QStringList{"a_l_ha", "b_l_ha"} << QList<Amount>{Amount::Volume, Amount::Volume}
+                                   << QList<int>{0, 1};
+    QTest::newRow("fewer products than columns")
+        << QStringList{"SEED_ks_ha", "FERT_kg_ha"} << QList<Amount>{Amount::Weight} << QList<int>{1};
+    QTest::newRow("no column") << QStringList{} << machine << QList<int>{-1, -1, -1};
+}
+
+void RateColumnsTest::handsColumnsOutByWhatTheyMeasure()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QList<Amount>, amounts);
+    SourceMap map;
+    std::vector<int> columns;
+    for (const QString &name : names) {
+        columns.push_back(static_cast<int>(map.columns.size()));
+        map.columns.push_back(column(qPrintable(name), {}));
+    }
+    const std::vector<int> assigned = RateColumns::assign(map, columns, amounts);
+    QTEST(QList<int>(assigned.begin(), assigned.end()), "assigned");
 }
 
 void RateColumnsTest::takesAProductNameByItsContent()

@@ -9,6 +9,9 @@
 #include <QString>
 #include <QStringList>
 
+/// How a product is measured out.
+enum class Amount { Unknown, Count, Volume, Weight };
+
 /// What to load, and for whom.
 struct LoadRequest {
     /// A Shapefile, GeoPackage or GeoJSON file.
@@ -18,6 +21,9 @@ struct LoadRequest {
     QStringList columns;
     /// Product-group names in product order.
     QStringList rateCalNames;
+    /// How rateCalNames' products are measured out, missing ones Unknown. Columns that the back-end chooses go to the
+    /// products that their names suit.
+    QList<Amount> amounts;
     /// Names for the entries of "settings", one per product of the machine, in product order.
     QStringList productNames;
     /// Default rates of rateCalNames' products, base units; missing ones are 0.
