@@ -317,6 +317,8 @@ void TestTerminalSimulator::withoutADisplayItSaysSo()
 void TestTerminalSimulator::withoutOpenGlItSaysSo()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // With a display at hand, that platform borrows its OpenGL.
+    environment.remove(QStringLiteral("DISPLAY"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     // That platform leaves its own things behind.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
