@@ -1,6 +1,7 @@
 #include "benchmarkhost.h"
 
 #include "rxmap3d.h"
+#include "rxmap3dprobe.h"
 
 #include "Framework/dbgroupaam.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
@@ -29,6 +30,11 @@ BenchmarkHost::BenchmarkHost(BenchmarkMap &map)
     broker.publishGroup(aam);
     rxMap3D->setAamGroup(aam);
     rxMap3D->setDbGroup(rxMapGroup);
+}
+
+int BenchmarkHost::bankVertices() const
+{
+    return RxMap3DProbe::banks(*rxMap3D).at(0).vertices.size();
 }
 
 BenchmarkHost::~BenchmarkHost()

@@ -15,6 +15,8 @@ public:
 
     RxMap3D &drawable() { return *rxMap3D; }
     DbGroupRxMap &group() { return *rxMapGroup; }
+    /// Vertices that were built, three a triangle.
+    int bankVertices() const;
 
 private:
     DataBroker broker;

@@ -24,7 +24,8 @@ BenchmarkMap::BenchmarkMap(std::string name)
 void BenchmarkMap::add(Ring ring, float rate, bool isHole)
 {
     polygons.push_back({areaOf(ring), 0, nullptr, static_cast<quint32>(ring.size()), nullptr, isHole, nullptr});
-    outerCount += isHole ? 0 : 1;
+    if (!isHole)
+        outerPositions.push_back(polygons.size() - 1);
     vertexCount += ring.size();
     rates.push_back(rate);
     rings.push_back(std::move(ring));

@@ -21,9 +21,11 @@ public:
 
     const std::string &name() const { return mapName; }
     OrvikTypes::RX_POLYGON *chain() { return polygons.data(); }
+    /// Outer ring number `index` of the chain, from 0.
+    const OrvikTypes::RX_POLYGON &outer(std::size_t index) const { return polygons[outerPositions[index]]; }
     unsigned int count() const { return static_cast<unsigned int>(polygons.size()); }
-    unsigned int outers() const { return outerCount; }
-    unsigned int holes() const { return count() - outerCount; }
+    unsigned int outers() const { return static_cast<unsigned int>(outerPositions.size()); }
+    unsigned int holes() const { return count() - outers(); }
     std::size_t vertices() const { return vertexCount; }
 
 private:
@@ -31,6 +33,6 @@ private:
     std::vector<Ring> rings;
     std::vector<float> rates;
     std::vector<OrvikTypes::RX_POLYGON> polygons;
-    unsigned int outerCount = 0;
+    std::vector<std::size_t> outerPositions;
     std::size_t vertexCount = 0;
 };

@@ -6,7 +6,6 @@
 
 #include "Framework/databroker.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -158,8 +157,6 @@ private:
 
 void load(benchmark::State &state, const QString &path)
 {
-    int argumentCount = 0;
-    const QCoreApplication application(argumentCount, nullptr);
     Loading loading(path);
     compareSideBySide(
         state, "over_gdal", [&loading] { loading.load(); }, [&path] { benchmark::DoNotOptimize(readWithGdal(path)); },

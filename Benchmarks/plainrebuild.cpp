@@ -1,5 +1,7 @@
 #include "plainrebuild.h"
 
+#include "holeplacement.h"
+#include "ringlists.h"
 #include "ringtest.h"
 #include "tesscallbacks.h"
 
@@ -70,6 +72,18 @@ Placement plainPlacement(RX_POLYGON *chain, unsigned int count)
             holes.erase(holes.begin() + static_cast<std::ptrdiff_t>(position));
         }
         placement.push_back(std::move(here));
+    }
+    return placement;
+}
+
+Placement fastPlacement(RX_POLYGON *chain, unsigned int count)
+{
+    const RingLists rings(chain, count);
+    const HolePlacement fast(rings.outers, rings.holes);
+    Placement placement(static_cast<std::size_t>(rings.outers.size()));
+    for (int outer = 0; outer < rings.outers.size(); ++outer) {
+        for (int hole = fast.firstHole(outer); hole >= 0; hole = fast.nextHole(hole))
+            placement[static_cast<std::size_t>(outer)].push_back(rings.holes.at(hole));
     }
     return placement;
 }

@@ -15,6 +15,9 @@ using Placement = std::vector<std::vector<OrvikTypes::RX_POLYGON *>>;
 /// Each hole compared with each outer ring, as hole placement is defined.
 Placement plainPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 
+/// The same, found as the plug-in finds it.
+Placement fastPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
+
 /// GLU with the plug-in's callbacks on the contours of a known placement: vertices allocated one by one, triangles
 /// copied reversed. What a rebuild cannot do without.
 QVector<Vertex> bareTessellation(OrvikTypes::RX_POLYGON *chain, unsigned int count, const Placement &placement,

@@ -1,34 +1,36 @@
 // A rebuild of the whole map, beside what GLU takes anyway and beside hole placement as it is defined.
 
 #include "benchmarkhost.h"
+#include "mapkinds.h"
 #include "plainrebuild.h"
 #include "rxmap3d.h"
 #include "sidebyside.h"
-#include "zonemaps.h"
-
-#include <functional>
 
 namespace {
 
-using Maker = std::function<BenchmarkMap()>;
-
-void rebuild(benchmark::State &state, const Maker &make)
+void describe(benchmark::State &state, const BenchmarkMap &map)
 {
-    BenchmarkMap map = make();
-    const Placement placement = plainPlacement(map.chain(), map.count());
+    state.counters["outers"] = map.outers();
+    state.counters["holes"] = map.holes();
+    state.counters["vertices"] = static_cast<double>(map.vertices());
+}
+
+void rebuild(benchmark::State &state, const NamedMap &kind)
+{
+    BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
+    const Placement placement = fastPlacement(map.chain(), map.count());
     compareSideBySide(
         state, "over_glu", [&host] { host.drawable().updatePolygons(); },
         [&map, &placement] {
             benchmark::DoNotOptimize(bareTessellation(map.chain(), map.count(), placement, benchmarkLegend()));
         });
-    state.counters["outers"] = map.outers();
-    state.counters["holes"] = map.holes();
+    describe(state, map);
 }
 
-void plainRebuild(benchmark::State &state, const Maker &make)
+void plainRebuild(benchmark::State &state, const NamedMap &kind)
 {
-    BenchmarkMap map = make();
+    BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
     compareSideBySide(
         state, "over_fast",
@@ -37,34 +39,18 @@ void plainRebuild(benchmark::State &state, const Maker &make)
             benchmark::DoNotOptimize(bareTessellation(map.chain(), map.count(), placement, benchmarkLegend()));
         },
         [&host] { host.drawable().updatePolygons(); });
-    state.counters["outers"] = map.outers();
-    state.counters["holes"] = map.holes();
+    describe(state, map);
 }
 
-} // namespace
+const bool areMapsAdded = [] {
+    for (const NamedMap &map : rebuildMaps()) {
+        benchmark::RegisterBenchmark(("Rebuild/" + map.name).c_str(), rebuild, map)->UseManualTime()->Iterations(9);
+    }
+    const NamedMap manyHoles = manyHolesMap();
+    benchmark::RegisterBenchmark(("PlainRebuild/" + manyHoles.name).c_str(), plainRebuild, manyHoles)
+        ->UseManualTime()
+        ->Iterations(2);
+    return true;
+}();
 
-BENCHMARK_CAPTURE(rebuild, grid, [] { return gridMap("grid", 317); })
-    ->Name("Rebuild/cells-100k")
-    ->UseManualTime()
-    ->Iterations(7);
-BENCHMARK_CAPTURE(rebuild, smooth,
-                  [] {
-                      return zoneMap("smooth", {800, 2, 3, 0.0, 1});
-                  })
-    ->Name("Rebuild/zones-smooth")
-    ->UseManualTime()
-    ->Iterations(7);
-BENCHMARK_CAPTURE(rebuild, rough,
-                  [] {
-                      return zoneMap("rough", {680, 40, 10, 0.1, 1});
-                  })
-    ->Name("Rebuild/zones-rough")
-    ->UseManualTime()
-    ->Iterations(7);
-BENCHMARK_CAPTURE(plainRebuild, rough,
-                  [] {
-                      return zoneMap("rough", {680, 40, 10, 0.1, 1});
-                  })
-    ->Name("PlainRebuild/zones-rough")
-    ->UseManualTime()
-    ->Iterations(1);
+} // namespace

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "benchmarkmap.h"
+#include "peerresult.h"
+#include "plainrebuild.h"
+
+/// Constrained Delaunay triangulation by CGAL, polygon by polygon; counts the triangles inside the outer ring and
+/// outside the holes.
+PeerResult triangulateWithCgal(const BenchmarkMap &map, const Placement &placement);

@@ -1,0 +1,54 @@
+#include "mapkinds.h"
+
+#include "zonemaps.h"
+
+#include <cmath>
+
+namespace {
+
+/// Side of a square map with about so many rings, where one ring takes `samples` samples.
+int sideFor(int rings, double samples)
+{
+    return static_cast<int>(std::lround(std::sqrt(rings * samples)));
+}
+
+} // namespace
+
+std::vector<MapKind> mapKinds()
+{
+    return {
+        {"cells", [](int rings) { return gridMap("cells", sideFor(rings, 1.0)); }},
+        {"zones-smooth",
+         [](int rings) {
+             return zoneMap("zones-smooth", {sideFor(rings, 57.0), 2, 3, 0.0, 1});
+         }},
+        {"zones-rough",
+         [](int rings) {
+             return zoneMap("zones-rough", {sideFor(rings, 7.9), 40, 10, 0.1, 1});
+         }},
+        {"specks",
+         [](int rings) {
+             return zoneMap("specks", {sideFor(rings, 8.0), 1, 1, 0.1, 1});
+         }},
+    };
+}
+
+std::vector<NamedMap> rebuildMaps()
+{
+    std::vector<NamedMap> maps{{"cells-100k", [] { return gridMap("cells-100k", 317); }}};
+    for (const int side : {200, 400, 800}) {
+        const std::string name = "zones-smooth-" + std::to_string(side);
+        maps.push_back({name, [name, side] { return zoneMap(name, {side, 2, 3, 0.0, 1}); }});
+    }
+    for (const int side : {170, 340, 680}) {
+        const std::string name = "zones-rough-" + std::to_string(side);
+        maps.push_back({name, [name, side] { return zoneMap(name, {side, 40, 10, 0.1, 1}); }});
+    }
+    maps.push_back({"ring-100k", [] { return ringMap("ring-100k", 100000, 1000); }});
+    return maps;
+}
+
+NamedMap manyHolesMap()
+{
+    return {"zones-rough-680", [] { return zoneMap("zones-rough-680", {680, 40, 10, 0.1, 1}); }};
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "benchmarkmap.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// A way to make maps of one kind in any size.
+struct MapKind {
+    std::string name;
+    std::function<BenchmarkMap(int rings)> make; ///< About so many rings, outer ones and holes together.
+};
+
+/// Square cells; zones grown from smooth noise, from rough noise, and specks in one piece of ground.
+std::vector<MapKind> mapKinds();
+
+struct NamedMap {
+    std::string name;
+    std::function<BenchmarkMap()> make;
+};
+
+/// The maps on which rebuilds are measured: 100,000 cells, smooth and rough zones in three sizes, one large ring.
+std::vector<NamedMap> rebuildMaps();
+/// The largest map of rough zones, on which every hole is far from its place in the chain.
+NamedMap manyHolesMap();

@@ -1,0 +1,44 @@
+// The same polygons cut into triangles by other libraries, for the record.
+
+#include "benchmarkhost.h"
+#include "cgalpeer.h"
+#include "geospeer.h"
+#include "mapkinds.h"
+#include "plainrebuild.h"
+#include "rxmap3d.h"
+#include "sidebyside.h"
+
+namespace {
+
+void peers(benchmark::State &state, const NamedMap &kind)
+{
+    BenchmarkMap map = kind.make();
+    BenchmarkHost host(map);
+    const Placement placement = fastPlacement(map.chain(), map.count());
+    std::vector<double> rebuildTimes;
+    std::vector<double> geosTimes;
+    std::vector<double> cgalTimes;
+    PeerResult byGeos;
+    PeerResult byCgal;
+    for (auto _ : state) {
+        rebuildTimes.push_back(timed([&host] { host.drawable().updatePolygons(); }));
+        geosTimes.push_back(timed([&] { byGeos = triangulateWithGeos(map, placement); }));
+        cgalTimes.push_back(timed([&] { byCgal = triangulateWithCgal(map, placement); }));
+        state.SetIterationTime(rebuildTimes.back());
+    }
+    const double rebuild = median(rebuildTimes);
+    state.counters["geos_over_rebuild"] = median(geosTimes) / rebuild;
+    state.counters["cgal_over_rebuild"] = median(cgalTimes) / rebuild;
+    state.counters["triangles"] = host.bankVertices() / 3;
+    state.counters["geos_triangles"] = byGeos.triangles;
+    state.counters["geos_refused"] = byGeos.refused;
+    state.counters["cgal_triangles"] = byCgal.triangles;
+}
+
+const bool areMapsAdded = [] {
+    for (const NamedMap &map : rebuildMaps())
+        benchmark::RegisterBenchmark(("Peers/" + map.name).c_str(), peers, map)->UseManualTime()->Iterations(3);
+    return true;
+}();
+
+} // namespace

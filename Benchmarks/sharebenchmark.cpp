@@ -1,0 +1,103 @@
+// The plug-in's own share of a rebuild, with GLU quiet: how its time grows, and the most memory that it takes.
+
+#include "allocationmeter.h"
+#include "benchmarkhost.h"
+#include "mapkinds.h"
+#include "plainrebuild.h"
+#include "quietglu.h"
+#include "rxmap3d.h"
+#include "sidebyside.h"
+#include "tesscallbacks.h"
+
+#include "bePluginRxMap/dbgrouprxmap.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int fewRings = 4000;
+constexpr int manyRings = 64000;
+
+double shareOf(RxMap3D &drawable)
+{
+    return timed([&drawable] { drawable.updatePolygons(); });
+}
+
+/// The exponent that the time, or another quantity, grows with from `few` to `many`.
+double growth(double few, double many, double fewRingsMade, double manyRingsMade)
+{
+    return std::log(many / few) / std::log(manyRingsMade / fewRingsMade);
+}
+
+void growthOfShare(benchmark::State &state, const MapKind &kind)
+{
+    BenchmarkMap few = kind.make(fewRings);
+    BenchmarkMap many = kind.make(manyRings);
+    BenchmarkHost fewHost(few);
+    BenchmarkHost manyHost(many);
+    const QuietGlu quiet;
+    std::vector<double> fewTimes;
+    std::vector<double> manyTimes;
+    for (auto _ : state) {
+        for (int i = 0; i < 16; ++i)
+            fewTimes.push_back(shareOf(fewHost.drawable()));
+        manyTimes.push_back(shareOf(manyHost.drawable()));
+        state.SetIterationTime(manyTimes.back());
+    }
+    const double n = few.count();
+    const double m = many.count();
+    state.counters["exponent"] = growth(median(fewTimes), median(manyTimes), n, m);
+    state.counters["n_log_n"] = growth(n * std::log(n), m * std::log(m), n, m);
+    state.counters["few_rings"] = n;
+    state.counters["many_rings"] = m;
+}
+
+/// Bytes of the largest polygon in the tessellator's vertices and in triangles, as the rebuild needs them.
+std::size_t largestPolygon(const BenchmarkMap &map, const Placement &placement)
+{
+    std::size_t largest = 0;
+    for (std::size_t outer = 0; outer < placement.size(); ++outer) {
+        std::size_t vertices = map.outer(outer).vertexCount;
+        for (const OrvikTypes::RX_POLYGON *hole : placement[outer])
+            vertices += hole->vertexCount;
+        const std::size_t triangles = vertices + 2 * placement[outer].size() - 2;
+        largest = std::max(largest, vertices * sizeof(RXVERT) + 3 * triangles * sizeof(Vertex));
+    }
+    return largest;
+}
+
+void peakMemory(benchmark::State &state, const NamedMap &kind)
+{
+    BenchmarkMap map = kind.make();
+    BenchmarkHost host(map);
+    const Placement placement = fastPlacement(map.chain(), map.count());
+    const QuietGlu quiet;
+    std::size_t peak = 0;
+    for (auto _ : state) {
+        host.drawable().setDbGroup(nullptr);
+        coordList = QVector<RXVERT *>();
+        vList = QVector<Vertex>();
+        const AllocationMeter meter;
+        host.drawable().setDbGroup(&host.group());
+        peak = meter.peak();
+    }
+    const double bank = static_cast<double>(host.bankVertices() * sizeof(Vertex));
+    state.counters["over_bank"] =
+        static_cast<double>(peak) / (bank + static_cast<double>(largestPolygon(map, placement)));
+    state.counters["peak_bytes"] = static_cast<double>(peak);
+    state.counters["bank_bytes"] = bank;
+}
+
+const bool areKindsAdded = [] {
+    for (const MapKind &kind : mapKinds()) {
+        benchmark::RegisterBenchmark(("Growth/" + kind.name).c_str(), growthOfShare, kind)
+            ->UseManualTime()
+            ->Iterations(9);
+    }
+    for (const NamedMap &map : rebuildMaps())
+        benchmark::RegisterBenchmark(("PeakMemory/" + map.name).c_str(), peakMemory, map)->Iterations(1);
+    return true;
+}();
+
+} // namespace
