@@ -1,19 +1,10 @@
-// The process's malloc family, passed on to the C library's own under the names that glibc gives it.
+// Without sanitizers the process's malloc family stands here and passes on to the C library's own, under the names that
+// glibc gives it; with them the address sanitizer tells of every block.
 
 #include "allocationmeter.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdint>
-#include <malloc.h>
-
-extern "C" {
-void *__libc_malloc(size_t size);
-void *__libc_calloc(size_t count, size_t size);
-void *__libc_realloc(void *block, size_t size);
-void *__libc_memalign(size_t alignment, size_t size);
-void __libc_free(void *block);
-}
 
 namespace {
 
@@ -21,13 +12,12 @@ bool isMetering = false;
 std::int64_t inUse = 0;
 std::int64_t most = 0;
 
-void *taken(void *block)
+void taken(std::size_t size)
 {
-    if (isMetering && block != nullptr) {
-        inUse += static_cast<std::int64_t>(malloc_usable_size(block));
-        most = std::max(most, inUse);
-    }
-    return block;
+    if (!isMetering)
+        return;
+    inUse += static_cast<std::int64_t>(size);
+    most = std::max(most, inUse);
 }
 
 void given(std::size_t size)
@@ -55,19 +45,58 @@ std::size_t AllocationMeter::peak() const
     return static_cast<std::size_t>(most);
 }
 
-// The sanitizers bring a malloc family of their own.
-#ifndef __SANITIZE_ADDRESS__
+#ifdef __SANITIZE_ADDRESS__
 
 extern "C" {
 
+std::size_t __sanitizer_get_allocated_size(const volatile void *block);
+int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const volatile void *, std::size_t),
+                                              void (*onFree)(const volatile void *));
+
+} // extern "C"
+
+namespace {
+
+void onMalloc(const volatile void * /*block*/, std::size_t size)
+{
+    taken(size);
+}
+
+void onFree(const volatile void *block)
+{
+    if (isMetering && block != nullptr)
+        given(__sanitizer_get_allocated_size(block));
+}
+
+const int hooks = __sanitizer_install_malloc_and_free_hooks(onMalloc, onFree);
+
+} // namespace
+
+#else
+
+#include <cerrno>
+#include <malloc.h>
+
+extern "C" {
+
+void *__libc_malloc(size_t size);
+void *__libc_calloc(size_t count, size_t size);
+void *__libc_realloc(void *block, size_t size);
+void *__libc_memalign(size_t alignment, size_t size);
+void __libc_free(void *block);
+
 void *malloc(size_t size)
 {
-    return taken(__libc_malloc(size));
+    void *block = __libc_malloc(size);
+    taken(malloc_usable_size(block));
+    return block;
 }
 
 void *calloc(size_t count, size_t size)
 {
-    return taken(__libc_calloc(count, size));
+    void *block = __libc_calloc(count, size);
+    taken(malloc_usable_size(block));
+    return block;
 }
 
 void *realloc(void *block, size_t size)
@@ -76,22 +105,25 @@ void *realloc(void *block, size_t size)
     void *moved = __libc_realloc(block, size);
     if (moved != nullptr || size == 0)
         given(before);
-    return taken(moved);
+    taken(malloc_usable_size(moved));
+    return moved;
 }
 
 void *memalign(size_t alignment, size_t size)
 {
-    return taken(__libc_memalign(alignment, size));
+    void *block = __libc_memalign(alignment, size);
+    taken(malloc_usable_size(block));
+    return block;
 }
 
 void *aligned_alloc(size_t alignment, size_t size)
 {
-    return taken(__libc_memalign(alignment, size));
+    return memalign(alignment, size);
 }
 
 int posix_memalign(void **block, size_t alignment, size_t size)
 {
-    *block = taken(__libc_memalign(alignment, size));
+    *block = memalign(alignment, size);
     return *block == nullptr ? ENOMEM : 0;
 }
 

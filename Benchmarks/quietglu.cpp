@@ -1,18 +1,23 @@
 #include "quietglu.h"
 
 #include <GL/glu.h>
+#include <algorithm>
 #include <cstdint>
 #include <dlfcn.h>
 
 namespace {
 
-struct Polygon {
-    std::uintptr_t vertices = 0;
-    std::uintptr_t contours = 0;
+struct Count {
+    std::size_t polygons = 0;
+    std::size_t contours = 0;
+    std::size_t vertices = 0;
+    std::size_t triangles = 0;
 };
 
 bool isQuiet = false;
-Polygon polygon;
+Count polygon;
+Count all;
+Count largest;
 void (*vertexCallback)(void *) = nullptr;
 
 /// The library's own function behind the one of the same name here.
@@ -23,10 +28,19 @@ template <typename Function> Function real(Function /*type*/, const char *name)
 
 void answerWithTriangles()
 {
-    const std::uintptr_t corners = polygon.vertices + 2 * polygon.contours;
-    const std::uintptr_t triangles = corners > 4 ? corners - 4 : 0;
-    for (std::uintptr_t corner = 0; corner < 3 * triangles; ++corner)
-        vertexCallback(reinterpret_cast<void *>(corner % polygon.vertices));
+    const std::size_t corners = polygon.vertices + 2 * polygon.contours;
+    polygon.triangles = corners > 4 ? corners - 4 : 0;
+    for (std::size_t corner = 0; corner < 3 * polygon.triangles; ++corner)
+        vertexCallback(reinterpret_cast<void *>(static_cast<std::uintptr_t>(corner % polygon.vertices)));
+}
+
+void countPolygon()
+{
+    ++all.polygons;
+    all.contours += polygon.contours;
+    all.vertices += polygon.vertices;
+    largest.vertices = std::max(largest.vertices, polygon.vertices);
+    largest.triangles = std::max(largest.triangles, polygon.triangles);
 }
 
 } // namespace
@@ -34,11 +48,38 @@ void answerWithTriangles()
 QuietGlu::QuietGlu()
 {
     isQuiet = true;
+    all = Count();
+    largest = Count();
 }
 
 QuietGlu::~QuietGlu()
 {
     isQuiet = false;
+}
+
+std::size_t QuietGlu::polygons() const
+{
+    return all.polygons;
+}
+
+std::size_t QuietGlu::contours() const
+{
+    return all.contours;
+}
+
+std::size_t QuietGlu::vertices() const
+{
+    return all.vertices;
+}
+
+std::size_t QuietGlu::largestPolygonVertices() const
+{
+    return largest.vertices;
+}
+
+std::size_t QuietGlu::largestPolygonTriangles() const
+{
+    return largest.triangles;
 }
 
 extern "C" {
@@ -54,7 +95,7 @@ void gluTessCallback(GLUtesselator *tess, GLenum which, _GLUfuncptr callback)
 void gluTessBeginPolygon(GLUtesselator *tess, GLvoid *data)
 {
     static const auto original = real(&gluTessBeginPolygon, "gluTessBeginPolygon");
-    polygon = Polygon();
+    polygon = Count();
     if (!isQuiet)
         original(tess, data);
 }
@@ -87,10 +128,12 @@ void gluTessEndContour(GLUtesselator *tess)
 void gluTessEndPolygon(GLUtesselator *tess)
 {
     static const auto original = real(&gluTessEndPolygon, "gluTessEndPolygon");
-    if (isQuiet)
-        answerWithTriangles();
-    else
+    if (!isQuiet) {
         original(tess);
+        return;
+    }
+    answerWithTriangles();
+    countPolygon();
 }
 
 } // extern "C"

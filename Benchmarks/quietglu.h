@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 /// While one of these lives, GLU's tessellator does no work: a polygon is answered with as many triangles as its
 /// contours have when they do not cross, of any of its vertices. What a rebuild then takes is the plug-in's own share.
 class QuietGlu {
@@ -8,4 +10,12 @@ public:
     ~QuietGlu();
     QuietGlu(const QuietGlu &) = delete;
     QuietGlu &operator=(const QuietGlu &) = delete;
+
+    /// What it was asked since it was made.
+    std::size_t polygons() const;
+    std::size_t contours() const;
+    std::size_t vertices() const;
+    /// Vertices of the polygon that had the most, contours taken together, and triangles of the one with most of those.
+    std::size_t largestPolygonVertices() const;
+    std::size_t largestPolygonTriangles() const;
 };

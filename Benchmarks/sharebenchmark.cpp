@@ -3,7 +3,6 @@
 #include "allocationmeter.h"
 #include "benchmarkhost.h"
 #include "mapkinds.h"
-#include "plainrebuild.h"
 #include "quietglu.h"
 #include "rxmap3d.h"
 #include "sidebyside.h"
@@ -53,25 +52,10 @@ void growthOfShare(benchmark::State &state, const MapKind &kind)
     state.counters["many_rings"] = m;
 }
 
-/// Bytes of the largest polygon in the tessellator's vertices and in triangles, as the rebuild needs them.
-std::size_t largestPolygon(const BenchmarkMap &map, const Placement &placement)
-{
-    std::size_t largest = 0;
-    for (std::size_t outer = 0; outer < placement.size(); ++outer) {
-        std::size_t vertices = map.outer(outer).vertexCount;
-        for (const OrvikTypes::RX_POLYGON *hole : placement[outer])
-            vertices += hole->vertexCount;
-        const std::size_t triangles = vertices + 2 * placement[outer].size() - 2;
-        largest = std::max(largest, vertices * sizeof(RXVERT) + 3 * triangles * sizeof(Vertex));
-    }
-    return largest;
-}
-
 void peakMemory(benchmark::State &state, const NamedMap &kind)
 {
     BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
-    const Placement placement = fastPlacement(map.chain(), map.count());
     const QuietGlu quiet;
     std::size_t peak = 0;
     for (auto _ : state) {
@@ -82,9 +66,10 @@ void peakMemory(benchmark::State &state, const NamedMap &kind)
         host.drawable().setDbGroup(&host.group());
         peak = meter.peak();
     }
+    const auto largest = static_cast<double>(quiet.largestPolygonVertices() * sizeof(RXVERT)
+                                             + 3 * quiet.largestPolygonTriangles() * sizeof(Vertex));
     const double bank = static_cast<double>(host.bankVertices() * sizeof(Vertex));
-    state.counters["over_bank"] =
-        static_cast<double>(peak) / (bank + static_cast<double>(largestPolygon(map, placement)));
+    state.counters["over_bank"] = static_cast<double>(peak) / (bank + largest);
     state.counters["peak_bytes"] = static_cast<double>(peak);
     state.counters["bank_bytes"] = bank;
 }

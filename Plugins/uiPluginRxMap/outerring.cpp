@@ -11,6 +11,9 @@ namespace {
 /// Rings with fewer vertices, or with fewer to be tested against them, are tested faster edge by edge.
 constexpr int smallestRastered = 16;
 
+/// Beyond so many points the cells take no more of them into account.
+constexpr qint64 mostCellsForPoints = 100000000;
+
 } // namespace
 
 OuterRing::OuterRing(const RX_POLYGON &ring)
@@ -23,7 +26,7 @@ OuterRing::OuterRing(const RX_POLYGON &ring)
 void OuterRing::prepareFor(qint64 points)
 {
     if (ordinary && count >= smallestRastered && points >= smallestRastered)
-        raster.reset(new RingRaster(vertices, count));
+        raster.reset(new RingRaster(vertices, count, static_cast<int>(qMin(points, mostCellsForPoints))));
 }
 
 bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)

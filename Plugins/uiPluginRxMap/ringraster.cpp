@@ -18,7 +18,7 @@ constexpr int mostCellsOfBox = 64;
 
 } // namespace
 
-RingRaster::RingRaster(const RX_POLYGONVERTEX *vertices, int count)
+RingRaster::RingRaster(const RX_POLYGONVERTEX *vertices, int count, int points)
     : vertices(vertices)
     , count(count)
     , left(vertices[0].x)
@@ -39,17 +39,17 @@ RingRaster::RingRaster(const RX_POLYGONVERTEX *vertices, int count)
     // Once for the edge test, once for where an edge's pieces are computed to end.
     marginX = 2.0 * crossingMargin(left, right);
     marginY = 2.0 * crossingMargin(bottom, top);
-    chooseCells(right - left, top - bottom, run, climb);
+    chooseCells(right - left, top - bottom, run, climb, points);
     listEdges();
 }
 
-// Cells of the mean edge's width and height let each edge cross only a few; fewer and larger ones where that would
-// make more than two for each edge.
-void RingRaster::chooseCells(double width, double height, double run, double climb)
+// Cells of the mean edge's width and height let each edge cross only a few; fewer and larger ones where those would be
+// too many. Points have their share, lest a wide ring of few edges leave most of them in cells that are crossed.
+void RingRaster::chooseCells(double width, double height, double run, double climb, int points)
 {
     double wantedColumns = run > 0.0 ? width / run * count : 1.0;
     double wantedRows = climb > 0.0 ? height / climb * count : 1.0;
-    const double excess = wantedColumns * wantedRows / (2.0 * count);
+    const double excess = wantedColumns * wantedRows / (2.0 * count + points);
     if (excess > 1.0) {
         wantedColumns /= std::sqrt(excess);
         wantedRows /= std::sqrt(excess);

@@ -9,11 +9,12 @@
 /// Answers the even-odd test of one ring as isInsideRing() does, to the last bit, from a raster of cells over the
 /// ring's box: all points of a cell that no edge comes near lie on one side of the ring, and what lies between such a
 /// cell and a point left of it in its row are the only edges that the two can differ by.
-/// Takes at most two cells and a handful of entries per edge. The ring is not owned and may not change.
+/// Takes at most two cells and a handful of entries per edge, and a cell per point. The ring is not owned and may not
+/// change.
 class RingRaster {
 public:
-    /// The ring is ordinary (see isOrdinary()) and has at least one vertex.
-    RingRaster(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count);
+    /// The ring is ordinary (see isOrdinary()) and has at least one vertex; about so many points will be asked for.
+    RingRaster(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count, int points);
 
     bool isInside(double x, double y);
     /// Whether all points of the box are known to lie on one side of the ring. False also for a box of many cells.
@@ -22,7 +23,7 @@ public:
 private:
     enum Cell : quint8 { Unknown, Crossed, Inside, Outside };
 
-    void chooseCells(double width, double height, double run, double climb);
+    void chooseCells(double width, double height, double run, double climb, int points);
     void listEdges();
     template <typename Visit> void forCellsOf(int edge, Visit visit) const;
     void resolveRow(int row, double y);

@@ -33,12 +33,20 @@ inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
     return isPossible ? static_cast<int>(ring.vertexCount) : 0;
 }
 
+#ifdef RXMAP_COUNT_EDGE_TESTS
+/// Edge tests made so far; there only where a program that watches the cost of hole placement is built with it.
+extern quint64 edgeTestsMade;
+#endif
+
 /// Whether the edge between the ring vertices `j` and `i` toggles the even-odd test of the point (x, y): it spans y
 /// (lower end included, upper end not, so horizontal edges never count) and crosses that height right of x.
 /// The one place that decides it, since every way of testing must agree to the last bit.
 inline bool edgeToggles(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double x,
                         double y)
 {
+#ifdef RXMAP_COUNT_EDGE_TESTS
+    ++edgeTestsMade;
+#endif
     const bool spans = (i.y <= y && y < j.y) || (j.y <= y && y < i.y);
     return spans && (j.x - i.x) * (y - i.y) / (j.y - i.y) + i.x > x;
 }

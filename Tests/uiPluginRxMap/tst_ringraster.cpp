@@ -64,7 +64,7 @@ void TestRingRaster::halfOpenEdgesOfTheUnitSquare()
     QFETCH(bool, expected);
     const Ring unit = square(0, 0, 1);
     QCOMPARE(isInsideRing(unit.data(), 4, x, y), expected);
-    QCOMPARE(RingRaster(unit.data(), 4).isInside(x, y), expected);
+    QCOMPARE(RingRaster(unit.data(), 4, 1).isInside(x, y), expected);
 }
 
 void TestRingRaster::slopedEdgesToTheLastBit_data()
@@ -99,7 +99,7 @@ void TestRingRaster::slopedEdgesToTheLastBit()
     const auto count = static_cast<int>(ring.size());
     QCOMPARE(isInsidePlainly(ring.data(), count, x, 1.0), expected);
     QCOMPARE(isInsideRing(ring.data(), count, x, 1.0), expected);
-    QCOMPARE(RingRaster(ring.data(), count).isInside(x, 1.0), expected);
+    QCOMPARE(RingRaster(ring.data(), count, 1).isInside(x, 1.0), expected);
 }
 
 void TestRingRaster::anEmptyRingHasNoInside()
@@ -136,7 +136,7 @@ void TestRingRaster::theRasterAgreesWithAllEdgesTested()
         Ring ring(static_cast<std::size_t>(vertices));
         for (auto &vertex : ring)
             vertex = {next(), next()};
-        RingRaster raster(ring.data(), vertices);
+        RingRaster raster(ring.data(), vertices, 100);
         for (int i = 0; i < 200; ++i) {
             // Every third point lies exactly on a vertex's height.
             const double x = next();
@@ -169,7 +169,7 @@ void TestRingRaster::roundingBesideAnEdgeIsAnsweredAsPlainly()
     Ring ring = wavyRing(200, size, size / 5.0);
     for (auto &vertex : ring)
         vertex = {vertex.x + offset, vertex.y + offset};
-    RingRaster raster(ring.data(), 200);
+    RingRaster raster(ring.data(), 200, 100);
     std::mt19937 random(3);
     for (int i = 0; i < 5000; ++i) {
         // A point of an edge, moved by a few of the machine's numbers or not at all.
@@ -196,7 +196,7 @@ void TestRingRaster::teethAsHighAsTheRing()
     }
     ring.push_back({100.0, -1.0});
     const auto count = static_cast<int>(ring.size());
-    RingRaster raster(ring.data(), count);
+    RingRaster raster(ring.data(), count, 100);
     std::mt19937 random(2);
     std::uniform_real_distribution<double> position(-2.0, 102.0);
     int inside = 0;
@@ -226,7 +226,7 @@ void TestRingRaster::aCrossingComputedBesideItsEdgeCounts()
             for (int i = steps; i >= 0; --i)
                 ring.push_back({1024.0 * i / steps, 1024.0});
             const auto count = static_cast<int>(ring.size());
-            RingRaster raster(ring.data(), count);
+            RingRaster raster(ring.data(), count, 100);
             double y = 512.0;
             for (int up = 0; up < 4; ++up) {
                 double x = tip;
@@ -255,7 +255,7 @@ void TestRingRaster::aClearBoxLiesOnOneSide()
 {
     QFETCH(Ring, ring);
     const auto count = static_cast<int>(ring.size());
-    RingRaster raster(ring.data(), count);
+    RingRaster raster(ring.data(), count, 100);
     std::mt19937 random(9);
     std::uniform_real_distribution<double> position(-120.0, 120.0);
     std::uniform_real_distribution<double> length(0.0, 4.0);
@@ -281,7 +281,7 @@ void TestRingRaster::aClearBoxLiesOnOneSide()
 void TestRingRaster::mostOfAWideRingIsClear()
 {
     const Ring ring = wavyRing(20000, 1000.0, 20.0);
-    const RingRaster raster(ring.data(), 20000);
+    const RingRaster raster(ring.data(), 20000, 100);
     std::mt19937 random(4);
     std::uniform_real_distribution<double> position(-600.0, 600.0);
     for (int i = 0; i < 1000; ++i) {

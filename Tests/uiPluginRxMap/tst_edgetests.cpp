@@ -1,0 +1,88 @@
+#include "holeplacement.h"
+#include "mapkinds.h"
+#include "ringlists.h"
+#include "ringtest.h"
+#include "testbase.h"
+
+#include <cmath>
+
+quint64 edgeTestsMade = 0;
+
+/// How many edges are looked at to place a map's holes: a cost that is the same on every machine.
+class TestEdgeTests : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theyGrowNoFasterThanRingsSortedWould_data();
+    void theyGrowNoFasterThanRingsSortedWould();
+    void aMapWithoutHolesNeedsNone();
+    void aLargeRingIsNotLookedAtWholeForEveryHole();
+};
+
+namespace {
+
+/// Edge tests made to place the map's holes.
+quint64 testsFor(BenchmarkMap &map)
+{
+    const RingLists rings(map.chain(), map.count());
+    const quint64 before = edgeTestsMade;
+    const HolePlacement placement(rings.outers, rings.holes);
+    return edgeTestsMade - before;
+}
+
+MapKind kindOf(const QString &name)
+{
+    for (const MapKind &kind : mapKinds()) {
+        if (name == QString::fromStdString(kind.name))
+            return kind;
+    }
+    return {};
+}
+
+double nLogN(double n)
+{
+    return n * std::log(n);
+}
+
+} // namespace
+
+void TestEdgeTests::theyGrowNoFasterThanRingsSortedWould_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"zones-smooth", "zones-rough", "specks"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void TestEdgeTests::theyGrowNoFasterThanRingsSortedWould()
+{
+    QFETCH(QString, kind);
+    BenchmarkMap few = kindOf(kind).make(4000);
+    BenchmarkMap many = kindOf(kind).make(64000);
+    const auto fewTests = static_cast<double>(testsFor(few));
+    const auto manyTests = static_cast<double>(testsFor(many));
+    QVERIFY(fewTests > 0.0);
+    const double growth = manyTests / fewTests;
+    const double allowed = nLogN(many.count()) / nLogN(few.count());
+    QVERIFY2(growth <= allowed, qPrintable(QStringLiteral("%1 times, at most %2").arg(growth).arg(allowed)));
+}
+
+void TestEdgeTests::aMapWithoutHolesNeedsNone()
+{
+    BenchmarkMap cells = kindOf(QStringLiteral("cells")).make(1000);
+    QCOMPARE(testsFor(cells), quint64(0));
+}
+
+void TestEdgeTests::aLargeRingIsNotLookedAtWholeForEveryHole()
+{
+    for (const NamedMap &map : rebuildMaps()) {
+        if (map.name != "ring-100k")
+            continue;
+        BenchmarkMap ring = map.make();
+        const quint64 tests = testsFor(ring);
+        // A thousand holes of 20 vertices in a ring of a hundred thousand: 2 000 000 000 edge by edge.
+        QVERIFY2(tests > 0 && tests < 200000, qPrintable(QString::number(tests)));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestEdgeTests)
+#include "tst_edgetests.moc"

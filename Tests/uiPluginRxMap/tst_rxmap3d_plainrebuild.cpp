@@ -1,0 +1,171 @@
+#include "Backend/prescriptionbackend.h"
+#include "maphost.h"
+#include "paths.h"
+#include "plainrebuild.h"
+#include "randommap.h"
+#include "rxmap3dprobe.h"
+#include "testbase.h"
+
+#include "bePluginRxMap/dbgrouprxmap.h"
+
+#include <QDirIterator>
+
+#include <cstring>
+
+using OrvikTypes::RX_POLYGON;
+
+/// What is built, compared bit for bit with a rebuild as it is defined.
+class TestRxMap3DPlainRebuild : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void randomMaps_data();
+    void randomMaps();
+    void cellsThatShareEdges();
+    void holesThatTouch();
+    void wholePrescriptions_data();
+    void wholePrescriptions();
+};
+
+namespace {
+
+QList<OrvikTypes::RX_RATECOLOR> legend()
+{
+    return {{0.0, QColor(10, 20, 30)}, {50.0, QColor(40, 250, 60, 77)}, {1e9, QColor(1, 2, 3, 4)}};
+}
+
+/// The difference between what the group's map was built to and the plain rebuild; empty where there is none.
+QString difference(const RxMap3D &map, const PlainRebuild &expected, const RX_POLYGON *record)
+{
+    if (RxMap3DProbe::banks(map).size() != 1)
+        return QStringLiteral("%1 banks").arg(RxMap3DProbe::banks(map).size());
+    const QVector<Vertex> &built = RxMap3DProbe::banks(map).at(0).vertices;
+    if (built.size() != expected.vertices.size())
+        return QStringLiteral("%1 vertices instead of %2").arg(built.size()).arg(expected.vertices.size());
+    for (int i = 0; i < built.size(); ++i) {
+        if (std::memcmp(&built.at(i), &expected.vertices.at(i), sizeof(Vertex)) != 0)
+            return QStringLiteral("vertex %1 differs").arg(i);
+    }
+    for (int i = 0; i < expected.drawIndexes.size(); ++i, record = record->next) {
+        if (record->drawIndex != expected.drawIndexes.at(i))
+            return QStringLiteral("record %1 has draw index %2 instead of %3")
+                .arg(i)
+                .arg(record->drawIndex)
+                .arg(expected.drawIndexes.at(i));
+    }
+    return QString();
+}
+
+/// A drawable bound to an empty map of product 1, to which chains are published one after the other.
+class Bound {
+public:
+    Bound()
+        : group(host.addMap(QStringLiteral("plain"), {1}))
+        , map(&host.broker, nullptr)
+    {
+        map.setAamGroup(host.aam(1));
+        map.updateRxMapGroup();
+    }
+
+    QString differenceOf(PolygonChain &chain)
+    {
+        const PlainRebuild expected =
+            rebuildPlainly(chain.first(), chain.count(), legend(), RxMap3DProbe::currentColor(map));
+        MapHost::publish(*group, chain, legend());
+        const QString found = difference(map, expected, chain.first());
+        group->setPolygonCount(0);
+        return found;
+    }
+
+private:
+    MapHost host;
+    DbGroupRxMap *group;
+    RxMap3D map;
+};
+
+} // namespace
+
+void TestRxMap3DPlainRebuild::randomMaps_data()
+{
+    addRandomKinds();
+}
+
+void TestRxMap3DPlainRebuild::randomMaps()
+{
+    QFETCH(RandomKind, kind);
+    Bound bound;
+    for (unsigned int seed = 1; seed <= 300; ++seed) {
+        RandomMap random(kind, seed);
+        for (unsigned int i = 0; i < random.chain.count(); ++i)
+            random.chain.at(i).drawIndex = 1000 + static_cast<int>(i);
+        const QString found = bound.differenceOf(random.chain);
+        QVERIFY2(found.isEmpty(), qPrintable(QStringLiteral("map %1: %2").arg(seed).arg(found)));
+    }
+}
+
+void TestRxMap3DPlainRebuild::cellsThatShareEdges()
+{
+    PolygonChain chain;
+    for (int i = 0; i < 400; ++i)
+        chain.addOuter(square(5.0 * (i % 20), 5.0 * (i / 20), 5.0), {static_cast<float>(i % 70)});
+    Bound bound;
+    QCOMPARE(bound.differenceOf(chain), QString());
+}
+
+// The first holes touch each other and the ring along whole edges and at corners, the others lie exactly on lines of
+// vertices; the outer rings have equal areas.
+void TestRxMap3DPlainRebuild::holesThatTouch()
+{
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 100));
+    chain.addOuter(square(0, 0, 100));
+    chain.addOuter(square(50, 50, 100));
+    for (const Ring &hole : {square(10, 10, 5), square(15, 10, 5), square(20, 15, 5), square(0, 40, 5),
+                             square(95, 95, 5), square(50, 50, 10), square(60, 50, 40)})
+        chain.addHole(hole);
+    Bound bound;
+    QCOMPARE(bound.differenceOf(chain), QString());
+}
+
+void TestRxMap3DPlainRebuild::wholePrescriptions_data()
+{
+    QTest::addColumn<QString>("path");
+    const auto addFiles = [](const QString &folder) {
+        QDirIterator files(folder, {"*.shp", "*.gpkg", "*.geojson"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            QTest::newRow(qPrintable(QDir(folder).relativeFilePath(path))) << path;
+        }
+    };
+    addFiles(sourcePath("Tests/fixtures"));
+    addFiles(sourcePath("Simulator/Resources/sample"));
+    if (!realData(QString()).isEmpty())
+        addFiles(realData(QString()));
+}
+
+void TestRxMap3DPlainRebuild::wholePrescriptions()
+{
+    QFETCH(QString, path);
+    MapHost host;
+    PrescriptionBackend backend(&host.broker);
+    LoadRequest request;
+    request.path = path;
+    request.rateCalNames = QStringList{MapHost::productGroup(1)};
+    // Without rates in it, but full of rings: any numeric column will do.
+    if (path.endsWith(QLatin1String("parcels.shp")))
+        request.columns = QStringList{QStringLiteral("AREA_HA")};
+    const LoadReport report = backend.loadAndWait(request);
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    auto *group = qobject_cast<DbGroupRxMap *>(host.broker.getGroup(report.group, false));
+    QVERIFY(group);
+    auto *chain = static_cast<RX_POLYGON *>(group->getPolygonBuffer());
+
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    const PlainRebuild expected = rebuildPlainly(chain, group->getPolygonCount(), group->getRateColors().at(0));
+    map.updateRxMapGroup();
+    QCOMPARE(difference(map, expected, chain), QString());
+}
+
+QTEST_MAIN(TestRxMap3DPlainRebuild)
+#include "tst_rxmap3d_plainrebuild.moc"
