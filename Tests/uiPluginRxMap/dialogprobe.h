@@ -7,6 +7,8 @@
 
 #include <QLabel>
 
+#include <vector>
+
 /// Lets tests see what the dialog keeps to itself.
 class DialogProbe {
 public:
@@ -48,6 +50,21 @@ public:
     QList<int> pointSizes() const
     {
         return {d.titlePointSize, d.subtitlePointSize, d.captionPointSize, d.largePointSize, d.smallPointSize};
+    }
+    void spreadProductButtons() const { d.spreadProductButtons(); }
+    /// Where the members lie, in the order in which they are to be declared.
+    std::vector<const void *> memberPlaces() const
+    {
+        return {&d.broker,           &d.unitsConverter,   &d.imageDir,
+                &d.dialogFont,       &d.screenSize,       &d.lookAheadEdit,
+                &d.defaultRateEdit,  &d.applyToAllBox,    &d.zeroRateShutoffBox,
+                &d.doneButton,       &d.productButtons,   &d.vehicleMovingLabel,
+                &d.notUnderVraLabel, &d.lookAheadLabel,   &d.zeroRateShutoffLabel,
+                &d.applyToAllLabel,  &d.defaultRateLabel, &d.selectedProduct,
+                &d.settingsGroup,    &d.rxMapGroups,      &d.settings,
+                &d.rateCalMappings,  &d.titlePointSize,   &d.subtitlePointSize,
+                &d.captionPointSize, &d.largePointSize,   &d.smallPointSize,
+                &d.largeFont,        &d.toDisplayFactor,  &d.fromDisplayFactor};
     }
     int groupCount() const { return d.rxMapGroups.size(); }
     double toDisplayFactor() const { return d.toDisplayFactor; }

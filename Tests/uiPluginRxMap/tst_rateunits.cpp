@@ -168,7 +168,8 @@ void TestRateUnits::aCarrierNodeRulesOutRatioAndInjection()
         Product product(QString::fromLatin1(kind), 1);
         product.node.setIsCarrier(true);
         QCOMPARE(product.unit().text, QStringLiteral("L/ha"));
-        QCOMPARE(product.unit().toDisplay, 4.0);
+        QCOMPARE(product.unit().toDisplay, pairOf(QStringLiteral("volume")));
+        QCOMPARE(product.unit().fromDisplay, -pairOf(QStringLiteral("volume")));
     }
 }
 
@@ -177,6 +178,8 @@ void TestRateUnits::ratioComesBeforeInjection()
     Product product(QStringLiteral("injection"), 1);
     product.node.setOperationalSettings(OrvikTypes::SPN_OperationalSetStruct(true));
     QCOMPARE(product.unit().text, QStringLiteral("L/L"));
+    QCOMPARE(product.unit().toDisplay, pairOf(QStringLiteral("ratio")));
+    QCOMPARE(product.unit().fromDisplay, -pairOf(QStringLiteral("ratio")));
 }
 
 void TestRateUnits::aProductOfNoKnownKindHasNoUnit()

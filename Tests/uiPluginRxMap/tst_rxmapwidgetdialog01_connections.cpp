@@ -11,6 +11,8 @@ private Q_SLOTS:
     void editsReachTheirSlots();
     void everySignalIsConnectedOnce_data();
     void everySignalIsConnectedOnce();
+    void aHeldButtonIsReleasedOnce_data();
+    void aHeldButtonIsReleasedOnce();
 };
 
 namespace {
@@ -96,6 +98,28 @@ void TestDialogConnections::everySignalIsConnectedOnce()
     QVERIFY(widget);
     const bool isButton = qobject_cast<const OrvikButton *>(widget) != nullptr;
     QCOMPARE(receiverCount(*widget, isButton ? SIGNAL(buttonReleased(int)) : SIGNAL(textChanged(int))), 1);
+}
+
+void TestDialogConnections::aHeldButtonIsReleasedOnce_data()
+{
+    QTest::addColumn<QString>("control");
+    for (const char *name : {"doneButton", "applyToAllBox", "zeroRateShutoffBox", "productButton1"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestDialogConnections::aHeldButtonIsReleasedOnce()
+{
+    QFETCH(QString, control);
+    open();
+    auto *button = dialog->findChild<OrvikButton *>(control);
+    QVERIFY(button);
+    const QSignalSpy released(button, &OrvikButton::buttonReleased);
+    QTest::mousePress(button, Qt::LeftButton);
+    // Longer than it takes a repeating button to come again.
+    QTest::qWait(700);
+    QCOMPARE(released.count(), 0);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(released.count(), 1);
 }
 
 QTEST_MAIN(TestDialogConnections)

@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 
+#include <functional>
+
 /// How the dialog is built.
 class TestDialogLayout : public TestBase {
     Q_OBJECT
@@ -14,6 +16,7 @@ class TestDialogLayout : public TestBase {
 private Q_SLOTS:
     void theDialogHasTheSizeOfItsBackgroundAndIsCentred_data();
     void theDialogHasTheSizeOfItsBackgroundAndIsCentred();
+    void theDialogIsCentredOnAnyDisplay();
     void theWindowHasExactlyTwoFlags();
     void controlsStandAtTheirPlaces_data();
     void controlsStandAtTheirPlaces();
@@ -23,6 +26,7 @@ private Q_SLOTS:
     void lineEditsTakeTheirLimits();
     void productButtonsAreSpreadOverTheHeight_data();
     void productButtonsAreSpreadOverTheHeight();
+    void productButtonsShareTheFirstOnesHeight();
     void productLabels_data();
     void productLabels();
     void theFirstMasterIsSelected();
@@ -30,6 +34,7 @@ private Q_SLOTS:
     void mappingsOfAllGroupsAreJoinedInOrder();
     void settingsComeFromTheFirstGroup();
     void membersKeepTheirSizes();
+    void membersLieInTheirOrder();
 };
 
 namespace {
@@ -68,6 +73,21 @@ void TestDialogLayout::theDialogHasTheSizeOfItsBackgroundAndIsCentred()
     QCOMPARE(opened.dialog.geometry(), geometry);
     QCOMPARE(opened.probe.doneButton()->pos(), QPoint(background.width() - 85, 5));
     QCOMPARE(opened.probe.screenSize(), QSize(1280, 800));
+    const auto *image = opened.dialog.findChild<OrvikImage *>();
+    QVERIFY(image);
+    QCOMPARE(image->id(), 0);
+    QCOMPARE(image->geometry(), QRect(QPoint(0, 0), background));
+}
+
+void TestDialogLayout::theDialogIsCentredOnAnyDisplay()
+{
+    QTemporaryDir images;
+    QPixmap(640, 480).save(images.filePath(QStringLiteral("RxOptionsPopup.png")));
+    DataBroker broker(QString(), QSize(1024, 768));
+    QDir folder(images.path());
+    RxMapWidgetDialog01 dialog(&broker, folder, nullptr);
+    QCOMPARE(dialog.geometry(), QRect(192, 144, 640, 480));
+    QCOMPARE(DialogProbe(dialog).screenSize(), QSize(1024, 768));
 }
 
 void TestDialogLayout::theWindowHasExactlyTwoFlags()
@@ -75,7 +95,8 @@ void TestDialogLayout::theWindowHasExactlyTwoFlags()
     DialogHost host;
     Opened opened(host);
     QCOMPARE(opened.dialog.windowFlags() & ~Qt::WindowType_Mask, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    QVERIFY(!(opened.dialog.windowFlags() & Qt::Dialog & ~Qt::Window));
+    // No type but the one that Qt gives every window.
+    QCOMPARE(opened.dialog.windowFlags() & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Window));
 }
 
 void TestDialogLayout::controlsStandAtTheirPlaces_data()
@@ -188,6 +209,15 @@ void TestDialogLayout::lineEditsTakeTheirLimits_data()
     QTest::newRow("look-ahead, largest") << "lookAheadEdit"
                                          << "999.9"
                                          << "999.9";
+    QTest::newRow("look-ahead, half a second") << "lookAheadEdit"
+                                               << "0.5"
+                                               << "0.5";
+    QTest::newRow("rate, none") << "defaultRateEdit"
+                                << "0"
+                                << "0";
+    QTest::newRow("rate, below one") << "defaultRateEdit"
+                                     << "0.5"
+                                     << "0.5";
     QTest::newRow("rate, largest") << "defaultRateEdit"
                                    << "5000"
                                    << "5000";
@@ -228,21 +258,24 @@ void TestDialogLayout::productButtonsAreSpreadOverTheHeight_data()
 {
     QTest::addColumn<int>("products");
     QTest::addColumn<int>("buttonHeight");
+    QTest::addColumn<int>("dialogHeight");
     QTest::addColumn<QList<int>>("tops");
-    QTest::newRow("three of 100") << 3 << 100 << QList<int>{125, 350, 575};
-    QTest::newRow("one") << 1 << 100 << QList<int>{350};
-    QTest::newRow("twelve overlap") << 12 << 100
+    QTest::newRow("three of 100") << 3 << 100 << 800 << QList<int>{125, 350, 575};
+    QTest::newRow("three of 60 in 481") << 3 << 60 << 481 << QList<int>{75, 210, 345};
+    QTest::newRow("one") << 1 << 100 << 800 << QList<int>{350};
+    QTest::newRow("twelve overlap") << 12 << 100 << 800
                                     << QList<int>{-30, 40, 110, 180, 250, 320, 390, 460, 530, 600, 670, 740};
-    QTest::newRow("none") << 0 << 100 << QList<int>{};
+    QTest::newRow("none") << 0 << 100 << 800 << QList<int>{};
 }
 
 void TestDialogLayout::productButtonsAreSpreadOverTheHeight()
 {
     QFETCH(int, products);
     QFETCH(int, buttonHeight);
+    QFETCH(int, dialogHeight);
     QFETCH(QList<int>, tops);
     QTemporaryDir images;
-    QPixmap(800, 800).save(images.filePath(QStringLiteral("RxOptionsPopup.png")));
+    QPixmap(800, dialogHeight).save(images.filePath(QStringLiteral("RxOptionsPopup.png")));
     for (const char *name : {"productButtonOff.png", "productButtonOn.png"})
         QPixmap(100, buttonHeight).save(images.filePath(QString::fromLatin1(name)));
     DialogHost host(products);
@@ -251,6 +284,23 @@ void TestDialogLayout::productButtonsAreSpreadOverTheHeight()
     QCOMPARE(opened.probe.productButtonCount(), products);
     for (int i = 0; i < products; ++i)
         QCOMPARE(opened.probe.productButton(i)->pos(), QPoint(23, tops.at(i)));
+    const auto *caption = qobject_cast<QLabel *>(opened.dialog.children().constLast());
+    QVERIFY(caption);
+    QCOMPARE(caption->geometry(), QRect(5, 0, 50, dialogHeight));
+}
+
+void TestDialogLayout::productButtonsShareTheFirstOnesHeight()
+{
+    DialogHost host(3);
+    Opened opened(host);
+    QList<QPoint> places;
+    for (int i = 0; i < 3; ++i)
+        places.append(opened.probe.productButton(i)->pos());
+    for (int other : {1, 2})
+        opened.probe.productButton(other)->resize(100, 7);
+    opened.probe.spreadProductButtons();
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(opened.probe.productButton(i)->pos(), places.at(i));
 }
 
 void TestDialogLayout::productLabels_data()
@@ -336,6 +386,16 @@ void TestDialogLayout::membersKeepTheirSizes()
     Opened opened(host);
     QCOMPARE(opened.probe.pointSizes(), (QList<int>{26, 22, 16, 22, 14}));
     QCOMPARE(opened.probe.largeFont().pointSize(), 22);
+}
+
+void TestDialogLayout::membersLieInTheirOrder()
+{
+    DialogHost host;
+    Opened opened(host);
+    const std::vector<const void *> places = opened.probe.memberPlaces();
+    QCOMPARE(int(places.size()), 30);
+    for (std::size_t i = 1; i < places.size(); ++i)
+        QVERIFY2(std::less<const void *>()(places[i - 1], places[i]), qPrintable(QString::number(i)));
 }
 
 QTEST_MAIN(TestDialogLayout)

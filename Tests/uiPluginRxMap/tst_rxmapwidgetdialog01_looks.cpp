@@ -4,7 +4,9 @@
 
 #include "Framework/orvikimage.h"
 
+#include <QApplication>
 #include <QPixmap>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void lockedBoxesAreDimmed();
     void pressedProductButtonsAreNotHighlighted();
     void captionsHaveTheirSizes();
+    void textsAreNotBoldInABoldApplication();
     void lineEditsKeepTheirFont();
     void productButtonsHaveLargeTexts();
     void theFontFamilyIsTheTerminals_data();
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void messagesAreRed();
     void theVerticalCaptionLiesOverTheButtons();
     void textsAreTranslatedInTheirContexts();
+    void constructionLogsNothing_data();
     void constructionLogsNothing();
 };
 
@@ -90,12 +94,13 @@ QFont fontOf(const QString &family, int pointSize)
     return font;
 }
 
-/// What a product button that is not selected looks like with that text and font.
-QImage productButton(const QDir &images, const QString &text, const QFont &font)
+/// What a product button looks like with that text and font.
+QImage productButton(const QDir &images, const QString &text, const QFont &font, bool selected = false)
 {
     const QStringList files{QStringLiteral("productButtonOff.png"), QStringLiteral("productButtonOn.png")};
     OrvikButton button(1, images, files, QPoint(0, 0), nullptr, false);
-    button.addText(0, text, QColor(129, 129, 129, 255), font);
+    button.setCurrentImage(selected ? 1 : 0);
+    button.addText(0, text, selected ? QColor(Qt::white) : QColor(129, 129, 129, 255), font);
     return looks(button);
 }
 
@@ -175,6 +180,20 @@ void TestDialogLooks::captionsHaveTheirSizes()
     }
 }
 
+void TestDialogLooks::textsAreNotBoldInABoldApplication()
+{
+    const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
+    QFont bold = before;
+    bold.setWeight(QFont::Bold);
+    QApplication::setFont(bold);
+    DialogHost host;
+    Opened opened(host);
+    QCOMPARE(opened.probe.dialogFont().weight(), 50);
+    for (const QLabel *label : opened.dialog.findChildren<QLabel *>())
+        QCOMPARE(label->font().weight(), 50);
+}
+
 void TestDialogLooks::lineEditsKeepTheirFont()
 {
     DialogHost host;
@@ -193,8 +212,9 @@ void TestDialogLooks::productButtonsHaveLargeTexts()
     DialogHost host;
     host.images = images.dir();
     Opened opened(host);
-    QCOMPARE(looks(*opened.probe.productButton(1)),
-             productButton(images.dir(), QStringLiteral("Bin2"), fontOf(QStringLiteral("Liberation Sans"), 24)));
+    const QFont font = fontOf(QStringLiteral("Liberation Sans"), 24);
+    QCOMPARE(looks(*opened.probe.productButton(0)), productButton(images.dir(), QStringLiteral("Bin1"), font, true));
+    QCOMPARE(looks(*opened.probe.productButton(1)), productButton(images.dir(), QStringLiteral("Bin2"), font));
 }
 
 void TestDialogLooks::theFontFamilyIsTheTerminals_data()
@@ -247,6 +267,10 @@ void TestDialogLooks::messagesAreRed()
         for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
             QCOMPARE(label->palette().brush(group, opened.dialog.foregroundRole()), QBrush(Qt::red));
     }
+    // And nothing else is.
+    const QWidget *others[] = {&opened.dialog, opened.probe.defaultRateLabel(), opened.probe.doneButton()};
+    for (const QWidget *other : others)
+        QVERIFY(other->palette().brush(opened.dialog.foregroundRole()) != QBrush(Qt::red));
 }
 
 void TestDialogLooks::theVerticalCaptionLiesOverTheButtons()
@@ -283,9 +307,18 @@ void TestDialogLooks::textsAreTranslatedInTheirContexts()
     QCOMPARE(opened.probe.productButton(1)->text(0), QStringLiteral("RxMapWidgetDialog01|P02"));
 }
 
+void TestDialogLooks::constructionLogsNothing_data()
+{
+    QTest::addColumn<QString>("missing");
+    for (const char *group : {"nothing", "QmlUnitsConverter", "mainGpsSolution", "quillSpan", "rxMap.field"})
+        QTest::newRow(group) << QString::fromLatin1(group);
+}
+
 void TestDialogLooks::constructionLogsNothing()
 {
+    QFETCH(QString, missing);
     DialogHost host;
+    host.broker.removeGroup(missing);
     messages().clear();
     Opened opened(host);
     QCOMPARE(messages().debugLines(), QStringList());

@@ -1,0 +1,156 @@
+#include "dialogtest.h"
+#include "dialogwatch.h"
+
+/// The order in which the dialog is built, seen by a host that is read meanwhile, and the groups that it finds.
+class TestDialogConstruction : public DialogTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstProductIsLitUntilAMasterIsFound();
+    void theRateIsKnownBeforeTheGroupsAreRead();
+    void standstillIsAskedForWithTheMasterSelected();
+    void aMapThatIsGoneGivesNoSettings();
+    void aGroupOfAnotherClassBetweenMapsIsLeftOut();
+    void theFirstProductMayBeNameless();
+    void binsAreReadByTheirLatin1Names();
+
+private:
+    void makeMaster(int index);
+};
+
+namespace {
+
+/// Acts on the dialog that is under construction, once, before a property is read for the first time.
+class FirstRead {
+public:
+    FirstRead(DataBrokerGroup &group, const char *property, std::function<void(RxMapWidgetDialog01 &)> action)
+        : group(group)
+        , property(property)
+        , action(action)
+    {
+        group.setBeforeReadHook(property, &FirstRead::called, this);
+    }
+    ~FirstRead() { group.setBeforeReadHook(property, nullptr, nullptr); }
+
+    bool hasCome = false;
+
+private:
+    Q_DISABLE_COPY(FirstRead)
+
+    static void called(void *self)
+    {
+        auto *read = static_cast<FirstRead *>(self);
+        RxMapWidgetDialog01 *dialog = openDialog();
+        if (read->hasCome || dialog == nullptr)
+            return;
+        read->hasCome = true;
+        read->action(*dialog);
+    }
+
+    DataBrokerGroup &group;
+    const char *property;
+    std::function<void(RxMapWidgetDialog01 &)> action;
+};
+
+} // namespace
+
+void TestDialogConstruction::makeMaster(int index)
+{
+    OrvikTypes::RX_SETTINGS entry = host->entry(index);
+    entry.isMaster = true;
+    host->editSettings(index, entry);
+}
+
+void TestDialogConstruction::theFirstProductIsLitUntilAMasterIsFound()
+{
+    makeMaster(2);
+    int image = -1;
+    QColor color;
+    const FirstRead read(*host->bins.at(1), "compositionShortName", [&image, &color](RxMapWidgetDialog01 &building) {
+        const auto *first = building.findChild<OrvikButton *>(QStringLiteral("productButton0"));
+        if (first == nullptr)
+            return;
+        image = first->currentImage();
+        color = first->textColor(0);
+    });
+    open();
+    QVERIFY(read.hasCome);
+    QCOMPARE(image, 1);
+    QCOMPARE(color, QColor(Qt::white));
+    QCOMPARE(probe->productButton(0)->currentImage(), 0);
+    QCOMPARE(probe->productButton(0)->textColor(0), QColor(129, 129, 129, 255));
+    QCOMPARE(probe->productButton(2)->currentImage(), 1);
+    QCOMPARE(probe->productButton(2)->textColor(0), QColor(Qt::white));
+}
+
+void TestDialogConstruction::theRateIsKnownBeforeTheGroupsAreRead()
+{
+    QString caption;
+    const FirstRead read(*host->map, "settings", [&caption](RxMapWidgetDialog01 &building) {
+        const auto *label = building.findChild<QLabel *>(QStringLiteral("defaultRateLabel"));
+        caption = label == nullptr ? QStringLiteral("none") : label->text();
+    });
+    open();
+    QVERIFY(read.hasCome);
+    QCOMPARE(caption, QStringLiteral("Default Rate (kg/ha)"));
+}
+
+void TestDialogConstruction::standstillIsAskedForWithTheMasterSelected()
+{
+    makeMaster(1);
+    int selected = -1;
+    const FirstRead read(*host->gps, "vehicleIsStopped", [&selected](RxMapWidgetDialog01 &building) {
+        selected = DialogProbe(building).selectedProduct();
+    });
+    open();
+    QVERIFY(read.hasCome);
+    QCOMPARE(selected, 1);
+}
+
+void TestDialogConstruction::aMapThatIsGoneGivesNoSettings()
+{
+    DbGroupRxMap *second = host->host.addMap(QStringLiteral("second"), {3, 2, 1});
+    OrvikTypes::RX_SETTINGS entry;
+    entry.onLookAheadMs = 7500;
+    second->setSettings({entry, entry, entry});
+    host->broker.removeGroup(QStringLiteral("rxMap.field"));
+    open();
+    QCOMPARE(probe->settings(), second->getSettings());
+    QCOMPARE(probe->mappings(), second->getRateCalMappings());
+    QCOMPARE(probe->groupCount(), 1);
+}
+
+void TestDialogConstruction::aGroupOfAnotherClassBetweenMapsIsLeftOut()
+{
+    host->broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
+    const DbGroupRxMap *last = host->host.addMap(QStringLiteral("last"), {5, 4});
+    open();
+    QCOMPARE(probe->groupCount(), 2);
+    QCOMPARE(probe->settings(), host->map->getSettings());
+    QCOMPARE(probe->mappings(), host->map->getRateCalMappings() + last->getRateCalMappings());
+}
+
+void TestDialogConstruction::theFirstProductMayBeNameless()
+{
+    host.reset(new DialogHost(0));
+    host->broker.publishGroup(new NamelessBinGroup(QStringLiteral("system.binGroup.1")));
+    open();
+    QCOMPARE(probe->productButton(0)->text(0), QStringLiteral("P01"));
+    QCOMPARE(probe->productButton(0)->textColor(0), QColor(Qt::white));
+    QCOMPARE(probe->productButton(0)->currentImage(), 1);
+}
+
+void TestDialogConstruction::binsAreReadByTheirLatin1Names()
+{
+    auto *bin = new BinGroup(QStringLiteral("system.binGroup.l") + QChar(0xE4) + QStringLiteral("nge"));
+    bin->setCompositionShortName(QStringLiteral("Late"));
+    bin->setRxMapGroupName(QStringLiteral("rxMap.field"));
+    host->broker.publishGroup(bin);
+    open();
+    QCOMPARE(probe->productButton(3)->text(0), QStringLiteral("Late"));
+    DialogProbe::release(probe->productButton(3));
+    QVERIFY(!probe->notUnderVraLabel()->isVisible());
+}
+
+QTEST_MAIN(TestDialogConstruction)
+#include "tst_rxmapwidgetdialog01_construction.moc"
