@@ -136,6 +136,7 @@ void RxMapWidgetDialog01::readGroups()
     if (settingsGroup != nullptr)
         settings = settingsGroup->getSettings();
 
+    // Between the two looks at the groups: the host sees bins read after the settings and before the mappings.
     setupSidebar();
 
     for (const QString &name : names) {
@@ -191,6 +192,7 @@ void RxMapWidgetDialog01::spreadProductButtons()
         productButtons.at(k)->move(23, gap + k * (buttonHeight + gap));
 }
 
+// It is made last, so that it lies over the buttons' left 32 pixels; that is by design.
 void RxMapWidgetDialog01::addProductsCaption()
 {
     auto *caption = new QLabel(tr("P\nR\nO\nD\nU\nC\nT\nS"), this);

@@ -35,8 +35,9 @@ public:
     QLabel *addCaption(QString text, QPoint position, int pointSize, QWidget *parent);
     /// Makes the product buttons and the vertical caption at the left edge.
     void setupSidebar();
-    /// Takes the display factors of the selected product and shows its default-rate field; hides the field when the
-    /// product has no usable node. Returns the field's caption, empty when hidden.
+    /// Takes the display factors of the selected product and shows its default-rate field; hides the field, and
+    /// keeps the factors, when no product is loaded there, it has no usable node, or its kind needs a units converter
+    /// that is missing. Returns the field's caption, empty when hidden.
     QString getDefaultRateSettings();
     /// Makes `index` the only master and selects it; a negative index clears the master.
     void setMasterProduct(int index);

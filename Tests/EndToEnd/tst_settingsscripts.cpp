@@ -2,6 +2,10 @@
 #include "testbase.h"
 
 #include <QFile>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 /// What an operator does in the settings dialog, from the outside: scripts of this folder drive the built simulator.
@@ -11,7 +15,41 @@ class TestSettingsScripts : public TestBase {
 private Q_SLOTS:
     void whatTheOperatorSetsIsShownAndWritten_data();
     void whatTheOperatorSetsIsShownAndWritten();
+    void defaultRatesAreInTheOperatorsUnits_data();
+    void defaultRatesAreInTheOperatorsUnits();
 };
+
+namespace {
+
+/// What one of a shown unit is in the product's base unit: kg/ha, L/ha, 1000/ha, mL/ha, L/L or kPa.
+double inBaseUnits(const QString &unit)
+{
+    constexpr double acre = 0.40468564224;                 // ha
+    constexpr double turf = 0.009290304;                   // ha, 1000 ft²
+    constexpr double pound = 0.45359237;                   // kg
+    constexpr double gallon = 3.785411784;                 // L
+    constexpr double fluidOunce = 1000.0 * gallon / 128.0; // mL
+    static const QHash<QString, double> amounts{{"k/ac", 1.0 / acre},
+                                                {"k/tu", 1.0 / turf},
+                                                {"lb/ac", pound / acre},
+                                                {"lb/tu", pound / turf},
+                                                {"gal/ac", gallon / acre},
+                                                {"gal/tu", gallon / turf},
+                                                {"fl oz/gal", 1.0 / 128.0},
+                                                {"fl oz/ac", fluidOunce / acre},
+                                                {"fl oz/tu", fluidOunce / turf},
+                                                {"psi", 6.894757293168}};
+    return amounts.value(unit, 1.0);
+}
+
+QString writeProducts(const QTemporaryDir &folder, const QByteArray &products)
+{
+    QFile file(folder.filePath(QStringLiteral("products.json")));
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(products) == products.size();
+    return written ? file.fileName() : QString();
+}
+
+} // namespace
 
 void TestSettingsScripts::whatTheOperatorSetsIsShownAndWritten_data()
 {
@@ -33,14 +71,52 @@ void TestSettingsScripts::whatTheOperatorSetsIsShownAndWritten()
     QTemporaryDir folder;
     QStringList arguments;
     if (!products.isEmpty()) {
-        QFile file(folder.filePath(QStringLiteral("products.json")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(products);
-        file.close();
-        arguments = QStringList{QStringLiteral("--products"), file.fileName()};
+        arguments = QStringList{QStringLiteral("--products"), writeProducts(folder, products)};
     }
     const QString script = scriptText(QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".js"));
     const SimulatorRun run = runOperatorScript(script, arguments);
+    const QString output = run.output.join(QLatin1Char('\n'));
+    QVERIFY2(run.exitCode == 0, qPrintable(output + run.errors));
+    QVERIFY2(run.output.contains(QStringLiteral("finished")), qPrintable(output));
+}
+
+void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits_data()
+{
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QStringList>("kinds");
+    QTest::addColumn<QStringList>("units");
+    const QStringList areaRates{"weight", "volume", "count"};
+    const QStringList otherRates{"ratio", "injection", "pressure"};
+    QTest::newRow("per area, us") << "us" << areaRates << QStringList{"lb/ac", "gal/ac", "k/ac"};
+    QTest::newRow("per area, metric") << "metric" << areaRates << QStringList{"kg/ha", "L/ha", "k/ha"};
+    QTest::newRow("per area, turf") << "turf" << areaRates << QStringList{"lb/tu", "gal/tu", "k/tu"};
+    QTest::newRow("other, us") << "us" << otherRates << QStringList{"fl oz/gal", "fl oz/ac", "psi"};
+    QTest::newRow("other, metric") << "metric" << otherRates << QStringList{"L/L", "mL/ha", "kPa"};
+    QTest::newRow("other, turf") << "turf" << otherRates << QStringList{"fl oz/gal", "fl oz/tu", "psi"};
+}
+
+void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits()
+{
+    QFETCH(QString, system);
+    QFETCH(QStringList, kinds);
+    QFETCH(QStringList, units);
+    QJsonArray machine;
+    QJsonArray expected;
+    for (int i = 0; i < kinds.size(); ++i) {
+        const double amount = inBaseUnits(units.at(i));
+        machine.append(
+            QJsonObject{{"name", kinds.at(i)}, {"kind", kinds.at(i)}, {"bin", i + 1}, {"defaultRate", 30.0}});
+        expected.append(QJsonObject{{"unit", units.at(i)}, {"shown", 30.0 / amount}, {"ten", 10.0 * amount}});
+    }
+    QTemporaryDir folder;
+    const QString script = QStringLiteral("var columns = [\"SEED_KS_HA\", \"FERT_KG_HA\", \"HERB_L_HA\"];\n"
+                                          "var products = ")
+        + QString::fromUtf8(QJsonDocument(expected).toJson()) + QStringLiteral(";\n")
+        + scriptText(QStringLiteral("rates-in-units.js"));
+    const SimulatorRun run =
+        runOperatorScript(script,
+                          {QStringLiteral("--products"), writeProducts(folder, QJsonDocument(machine).toJson()),
+                           QStringLiteral("--units"), system});
     const QString output = run.output.join(QLatin1Char('\n'));
     QVERIFY2(run.exitCode == 0, qPrintable(output + run.errors));
     QVERIFY2(run.output.contains(QStringLiteral("finished")), qPrintable(output));
