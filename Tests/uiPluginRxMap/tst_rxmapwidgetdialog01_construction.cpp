@@ -1,11 +1,15 @@
 #include "dialogtest.h"
 #include "dialogwatch.h"
 
-/// The order in which the dialog is built, seen by a host that is read meanwhile, and the groups that it finds.
+/// What the dialog finds when it is built, and in which order it looks: the host sees itself read meanwhile.
 class TestDialogConstruction : public DialogTest {
     Q_OBJECT
 
 private Q_SLOTS:
+    void theFirstMasterIsSelected();
+    void withoutAMasterTheFirstProductIsSelected();
+    void mappingsOfAllGroupsAreJoinedInOrder();
+    void settingsComeFromTheFirstGroup();
     void theFirstProductIsLitUntilAMasterIsFound();
     void theRateIsKnownBeforeTheGroupsAreRead();
     void standstillIsAskedForWithTheMasterSelected();
@@ -59,6 +63,56 @@ void TestDialogConstruction::makeMaster(int index)
     OrvikTypes::RX_SETTINGS entry = host->entry(index);
     entry.isMaster = true;
     host->editSettings(index, entry);
+}
+
+void TestDialogConstruction::theFirstMasterIsSelected()
+{
+    host.reset(new DialogHost(4));
+    for (int index : {2, 3}) {
+        OrvikTypes::RX_SETTINGS entry = host->entry(index);
+        entry.isMaster = true;
+        entry.zeroRateShutoff = index == 2;
+        host->editSettings(index, entry);
+    }
+    open();
+    QCOMPARE(probe->selectedProduct(), 2);
+    QCOMPARE(probe->productButton(0)->currentImage(), 0);
+    QCOMPARE(probe->productButton(0)->textColor(0), QColor(129, 129, 129));
+    QCOMPARE(probe->productButton(2)->currentImage(), 1);
+    QCOMPARE(probe->productButton(2)->textColor(0), QColor(Qt::white));
+    QCOMPARE(probe->applyToAllBox()->currentImage(), 1);
+    QVERIFY(!probe->settings().at(3).isMaster);
+    QVERIFY(probe->settings().at(0).zeroRateShutoff);
+}
+
+void TestDialogConstruction::withoutAMasterTheFirstProductIsSelected()
+{
+    open();
+    QCOMPARE(probe->selectedProduct(), 0);
+    QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("1.0"));
+    QCOMPARE(probe->applyToAllBox()->currentImage(), 0);
+}
+
+void TestDialogConstruction::mappingsOfAllGroupsAreJoinedInOrder()
+{
+    host->host.addMap(QStringLiteral("another"), {5, 4});
+    // Not a prescription by its name.
+    host->broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
+    open();
+    QCOMPARE(probe->groupCount(), 2);
+    QStringList channels;
+    for (const auto &mapping : probe->mappings())
+        channels.append(mapping.rateCalName.right(1));
+    QCOMPARE(channels.join(QString()), QStringLiteral("12354"));
+}
+
+void TestDialogConstruction::settingsComeFromTheFirstGroup()
+{
+    host.reset(new DialogHost(2));
+    DbGroupRxMap *second = host->host.addMap(QStringLiteral("another"), {1});
+    second->setSettings({OrvikTypes::RX_SETTINGS()});
+    open();
+    QCOMPARE(probe->settings(), host->map->getSettings());
 }
 
 void TestDialogConstruction::theFirstProductIsLitUntilAMasterIsFound()

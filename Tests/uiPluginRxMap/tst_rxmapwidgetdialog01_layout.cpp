@@ -29,10 +29,6 @@ private Q_SLOTS:
     void productButtonsShareTheFirstOnesHeight();
     void productLabels_data();
     void productLabels();
-    void theFirstMasterIsSelected();
-    void withoutAMasterTheFirstProductIsSelected();
-    void mappingsOfAllGroupsAreJoinedInOrder();
-    void settingsComeFromTheFirstGroup();
     void membersKeepTheirSizes();
     void membersLieInTheirOrder();
 };
@@ -326,58 +322,6 @@ void TestDialogLayout::productLabels()
     const OrvikButton *button = opened.probe.productButton(product);
     QCOMPARE(button->textColor(0), product == 0 ? QColor(Qt::white) : QColor(129, 129, 129, 255));
     QCOMPARE(button->currentImage(), product == 0 ? 1 : 0);
-}
-
-void TestDialogLayout::theFirstMasterIsSelected()
-{
-    DialogHost host(4);
-    for (int index : {2, 3}) {
-        OrvikTypes::RX_SETTINGS entry = host.entry(index);
-        entry.isMaster = true;
-        entry.zeroRateShutoff = index == 2;
-        host.editSettings(index, entry);
-    }
-    Opened opened(host);
-    QCOMPARE(opened.probe.selectedProduct(), 2);
-    QCOMPARE(opened.probe.productButton(0)->currentImage(), 0);
-    QCOMPARE(opened.probe.productButton(0)->textColor(0), QColor(129, 129, 129));
-    QCOMPARE(opened.probe.productButton(2)->currentImage(), 1);
-    QCOMPARE(opened.probe.productButton(2)->textColor(0), QColor(Qt::white));
-    QCOMPARE(opened.probe.applyToAllBox()->currentImage(), 1);
-    QVERIFY(!opened.probe.settings().at(3).isMaster);
-    QVERIFY(opened.probe.settings().at(0).zeroRateShutoff);
-}
-
-void TestDialogLayout::withoutAMasterTheFirstProductIsSelected()
-{
-    DialogHost host;
-    Opened opened(host);
-    QCOMPARE(opened.probe.selectedProduct(), 0);
-    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("1.0"));
-    QCOMPARE(opened.probe.applyToAllBox()->currentImage(), 0);
-}
-
-void TestDialogLayout::mappingsOfAllGroupsAreJoinedInOrder()
-{
-    DialogHost host(3);
-    host.host.addMap(QStringLiteral("another"), {5, 4});
-    // Not a prescription by its name.
-    host.broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
-    Opened opened(host);
-    QCOMPARE(opened.probe.groupCount(), 2);
-    QStringList channels;
-    for (const auto &mapping : opened.probe.mappings())
-        channels.append(mapping.rateCalName.right(1));
-    QCOMPARE(channels.join(QString()), QStringLiteral("12354"));
-}
-
-void TestDialogLayout::settingsComeFromTheFirstGroup()
-{
-    DialogHost host(2);
-    DbGroupRxMap *second = host.host.addMap(QStringLiteral("another"), {1});
-    second->setSettings({OrvikTypes::RX_SETTINGS()});
-    Opened opened(host);
-    QCOMPARE(opened.probe.settings(), host.map->getSettings());
 }
 
 void TestDialogLayout::membersKeepTheirSizes()
