@@ -20,11 +20,11 @@ std::vector<MapKind> mapKinds()
         {"cells", [](int rings) { return gridMap("cells", sideFor(rings, 1.0)); }},
         {"zones-smooth",
          [](int rings) {
-             return zoneMap("zones-smooth", {sideFor(rings, 57.0), 2, 3, 0.0, 1});
+             return zoneMap("zones-smooth", {sideFor(rings, 12.2), 1, 3, 0.0, 1});
          }},
         {"zones-rough",
          [](int rings) {
-             return zoneMap("zones-rough", {sideFor(rings, 7.9), 40, 10, 0.1, 1});
+             return zoneMap("zones-rough", {sideFor(rings, 7.9), 30, 12, 0.1, 1});
          }},
         {"specks",
          [](int rings) {
@@ -40,9 +40,9 @@ std::vector<NamedMap> rebuildMaps()
         const std::string name = "zones-smooth-" + std::to_string(side);
         maps.push_back({name, [name, side] { return zoneMap(name, {side, 2, 3, 0.0, 1}); }});
     }
-    for (const int side : {170, 340, 680}) {
+    for (const int side : {180, 360, 720}) {
         const std::string name = "zones-rough-" + std::to_string(side);
-        maps.push_back({name, [name, side] { return zoneMap(name, {side, 40, 10, 0.1, 1}); }});
+        maps.push_back({name, [name, side] { return zoneMap(name, {side, 30, 12, 0.1, 1}); }});
     }
     maps.push_back({"ring-100k", [] { return ringMap("ring-100k", 100000, 1000); }});
     return maps;
@@ -50,5 +50,5 @@ std::vector<NamedMap> rebuildMaps()
 
 NamedMap manyHolesMap()
 {
-    return {"zones-rough-680", [] { return zoneMap("zones-rough-680", {680, 40, 10, 0.1, 1}); }};
+    return {"zones-rough-720", [] { return zoneMap("zones-rough-720", {720, 30, 12, 0.1, 1}); }};
 }

@@ -71,10 +71,12 @@ void BoxIndex::packLeaves(QVector<BoxEntry> &entries)
     QVector<Node> leaves;
     leaves.reserve(entries.size());
     leafIds.reserve(entries.size());
+    leafPoints.reserve(entries.size());
     for (const BoxEntry &entry : qAsConst(entries)) {
         leafOfId[entry.id] = leaves.size();
         leaves.append({entry.box, entry.area, 1});
         leafIds.append(entry.id);
+        leafPoints.append(entry.points);
     }
     levels.append(leaves);
 }
@@ -93,7 +95,7 @@ void BoxIndex::findBelow(int level, int node, const Box &box, double area, QVect
         return;
     if (level == 0) {
         if (box.contains(here.box))
-            found.append({here.box, here.smallestArea, leafIds.at(node)});
+            found.append({here.box, here.smallestArea, leafIds.at(node), leafPoints.at(node)});
         return;
     }
     const int end = qMin((node + 1) * fanOut, levels.at(level - 1).size());

@@ -25,6 +25,7 @@ struct BoxEntry {
     Box box;     ///< Finite.
     double area; ///< Not NaN.
     int id;      ///< Tells the boxes of an index apart; 0 or above.
+    int points;  ///< Vertices of the ring; carried for whoever finds the box.
 };
 
 Q_DECLARE_TYPEINFO(BoxEntry, Q_PRIMITIVE_TYPE);
@@ -52,5 +53,6 @@ private:
 
     QVector<QVector<Node>> levels; ///< From the leaves up; node n has the nodes n * fanOut ... below it.
     QVector<int> leafIds;
+    QVector<int> leafPoints;
     QVector<int> leafOfId;
 };

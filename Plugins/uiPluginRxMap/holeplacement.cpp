@@ -37,7 +37,7 @@ public:
         }
         for (int hole = 0; hole < holes.size(); ++hole) {
             if (!taken.at(hole) && limit > holes.at(hole)->area)
-                found.append({{}, holes.at(hole)->area, hole});
+                found.append({{}, holes.at(hole)->area, hole, vertexCount(*holes.at(hole))});
         }
     }
 
@@ -58,7 +58,7 @@ private:
             smallestArea = std::min(smallestArea, ring.area);
             if (vertexCount(ring) == 0 || std::isnan(ring.area) || !boxOfHole(ring, box))
                 continue;
-            entries.append({box, ring.area, hole});
+            entries.append({box, ring.area, hole, vertexCount(ring)});
             isIndexed[hole] = true;
         }
         return entries;
@@ -89,7 +89,7 @@ HolePlacement::HolePlacement(const QVector<RX_POLYGON *> &outers, const QVector<
         live.collect(outer, limit, placed, found);
         qint64 points = 0;
         for (const BoxEntry &entry : qAsConst(found))
-            points += vertexCount(*holes.at(entry.id));
+            points += entry.points;
         outer.prepareFor(points);
         int last = -1;
         for (const BoxEntry &entry : qAsConst(found)) {

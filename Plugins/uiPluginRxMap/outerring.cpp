@@ -31,11 +31,11 @@ void OuterRing::prepareFor(qint64 points)
 
 bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)
 {
+    // One point, whichever, answers for all of a box that no edge comes near.
+    if (raster && raster->isClear(holeBox))
+        return raster->isInside(holeBox.minX, holeBox.minY);
     const int points = vertexCount(hole);
-    // One point answers for all of a hole that no edge comes near.
-    const bool isClear = raster && raster->isClear(holeBox);
-    const int tested = isClear ? qMin(points, 1) : points;
-    for (int i = 0; i < tested; ++i) {
+    for (int i = 0; i < points; ++i) {
         const RX_POLYGONVERTEX point = narrowed(hole.vertices[i]);
         if (!isInside(point.x, point.y))
             return false;

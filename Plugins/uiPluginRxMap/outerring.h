@@ -20,7 +20,7 @@ public:
     /// Says that so many vertices of holes are about to be tested.
     void prepareFor(qint64 points);
     /// Whether every vertex of the hole, narrowed to float, is inside; false for a hole without vertices. `holeBox` is
-    /// their box; it is not looked at unless the ring is ordinary.
+    /// their box; it is not looked at unless prepareFor() was called.
     bool contains(const OrvikTypes::RX_POLYGON &hole, const Box &holeBox);
 
 private:
