@@ -1,5 +1,6 @@
 #include "rxmapgraphicslist.h"
 
+#include "groupvalue.h"
 #include "ratemapping.h"
 #include "rxmap3d.h"
 
@@ -18,13 +19,6 @@ namespace {
 template <typename Group> Group *findGroupOf(const DataBroker *broker, const QString &name)
 {
     return broker == nullptr ? nullptr : qobject_cast<Group *>(broker->getGroup(name, false));
-}
-
-template <typename T> T brokerValue(const DataBroker &broker, const QByteArray &group, const char *property)
-{
-    QVariant value;
-    broker.getProperty(group.constData(), property, value);
-    return value.value<T>();
 }
 
 } // namespace
@@ -99,7 +93,7 @@ QString RxMapGraphicsList::getPointDescription(QVector3D point)
 int RxMapGraphicsList::mappingIndex(const DataBroker &broker, const QByteArray &group, const DbGroupAAM &aam)
 {
     const auto mappings =
-        brokerValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(broker, group, "rateCalMappings");
+        groupValue<QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(broker, group.constData(), "rateCalMappings");
     return findMapping(mappings, aam.productGroupName());
 }
 
@@ -107,8 +101,8 @@ QString RxMapGraphicsList::describe(DataBroker &broker, const QByteArray &group,
                                     double factor)
 {
     broker.setProperty(group.constData(), "queryRatesAtXYZ", point);
-    const QList<float> rates = brokerValue<QList<float>>(broker, group, "ratesAtXYZ");
-    const bool valid = brokerValue<bool>(broker, group, "ratesAtXYZValid");
+    const QList<float> rates = groupValue<QList<float>>(broker, group.constData(), "ratesAtXYZ");
+    const bool valid = groupValue<bool>(broker, group.constData(), "ratesAtXYZValid");
     if (!valid || position >= rates.size())
         return {};
     const double rate = static_cast<double>(rates.at(position)) * factor;

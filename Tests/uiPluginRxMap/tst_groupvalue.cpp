@@ -32,6 +32,7 @@ private Q_SLOTS:
     void textIsConvertedWhereItCanBe();
     void aFailedConversionLeavesNothing();
     void anUnknownPropertyLeavesNothing();
+    void aBrokersGroupsAreReadByNameTheSameWay();
 };
 
 void TestGroupValue::textIsConvertedWhereItCanBe()
@@ -57,6 +58,16 @@ void TestGroupValue::anUnknownPropertyLeavesNothing()
 {
     const TextGroup group(QStringLiteral("texts"));
     QCOMPARE(groupValue<unsigned int>(group, "polygons"), 0U);
+}
+
+void TestGroupValue::aBrokersGroupsAreReadByNameTheSameWay()
+{
+    DataBroker broker;
+    broker.publishGroup(new TextGroup(QStringLiteral("texts")));
+    QCOMPARE(groupValue<unsigned int>(broker, "texts", "polygonCount"), 12U);
+    QCOMPARE(groupValue<void *>(broker, "texts", "polygonBuffer"), nullptr);
+    QCOMPARE(groupValue<unsigned int>(broker, "texts", "polygons"), 0U);
+    QCOMPARE(groupValue<unsigned int>(broker, "others", "polygonCount"), 0U);
 }
 
 QTEST_APPLESS_MAIN(TestGroupValue)
