@@ -95,6 +95,17 @@ Result<Product> readProduct(const QJsonValue &value, int number)
     return {product, {}};
 }
 
+Product standardProduct(int bin, const QString &name, const QString &shortName, Product::Kind kind, double defaultRate)
+{
+    Product product;
+    product.name = name;
+    product.shortName = shortName;
+    product.kind = kind;
+    product.bin = bin;
+    product.defaultRate = defaultRate;
+    return product;
+}
+
 } // namespace
 
 Result<Products> ProductFile::read(const QString &path)
@@ -135,25 +146,9 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
 
 Products ProductFile::standard()
 {
-    Product seed;
-    seed.name = QStringLiteral("Seed");
-    seed.shortName = QStringLiteral("Seed");
-    seed.kind = Product::Kind::Count;
-    seed.bin = 1;
-    seed.defaultRate = 80.0;
-
-    Product fertiliser;
-    fertiliser.name = QStringLiteral("Fertiliser");
-    fertiliser.shortName = QStringLiteral("Fert");
-    fertiliser.kind = Product::Kind::Weight;
-    fertiliser.bin = 2;
-    fertiliser.defaultRate = 150.0;
-
-    Product spray;
-    spray.name = QStringLiteral("Herbicide");
-    spray.shortName = QStringLiteral("Herb");
-    spray.kind = Product::Kind::Volume;
-    spray.bin = 3;
-    spray.defaultRate = 2.0;
-    return {seed, fertiliser, spray};
+    return {
+        standardProduct(1, QStringLiteral("Seed"), QStringLiteral("Seed"), Product::Kind::Count, 80.0),
+        standardProduct(2, QStringLiteral("Fertiliser"), QStringLiteral("Fert"), Product::Kind::Weight, 150.0),
+        standardProduct(3, QStringLiteral("Herbicide"), QStringLiteral("Herb"), Product::Kind::Volume, 2.0),
+    };
 }
