@@ -21,7 +21,6 @@ private Q_SLOTS:
     void losingTheMatchUnbindsAndEmptiesTheBanks();
     void withoutAnAamGroupNothingIsBound();
     void withoutPrescriptionGroupsNothingIsBound();
-    void destructionEndsTheConnectionAndLeavesTheRecords();
     void aRemovedGroupStaysSafeToHold();
     void propertiesOfOtherTypesAreConverted();
     void propertiesThatDoNotConvertLeaveAnEmptyMap();
@@ -141,24 +140,6 @@ void TestRxMap3DBinding::withoutPrescriptionGroupsNothingIsBound()
     map.setAamGroup(host.aam(1));
     map.updateRxMapGroup();
     QCOMPARE(RxMap3DProbe::boundGroup(map), nullptr);
-}
-
-void TestRxMap3DBinding::destructionEndsTheConnectionAndLeavesTheRecords()
-{
-    MapHost host;
-    DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
-    PolygonChain chain;
-    chain.addOuter(square(0, 0, 10));
-    MapHost::publish(*group, chain, oneClass());
-    auto *map = new RxMap3D(&host.broker, nullptr);
-    map->setAamGroup(host.aam(1));
-    map->updateRxMapGroup();
-    delete map;
-    RecordingGlu::clear();
-    group->setPolygonCount(1);
-    QVERIFY(RecordingGlu::calls().isEmpty());
-    QCOMPARE(chain.at(0).drawIndex, 1);
-    QCOMPARE(chain.at(0).vertices[2].x, 10.0);
 }
 
 void TestRxMap3DBinding::aRemovedGroupStaysSafeToHold()

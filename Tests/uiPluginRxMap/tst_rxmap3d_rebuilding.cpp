@@ -15,6 +15,7 @@ private Q_SLOTS:
     void everySetOfPolygonCountRebuilds();
     void bindingTwiceLeavesOneConnection();
     void aFormerGroupNoLongerRebuilds();
+    void destructionEndsTheConnectionAndLeavesTheRecords();
     void propertiesAreReadInOrder();
     void theConnectionIsUnique();
     void aSetFromAnotherThreadRebuildsLater();
@@ -24,8 +25,7 @@ void TestRxMap3DRebuilding::everySetOfPolygonCountRebuilds()
 {
     PolygonChain chain;
     chain.addOuter(square(0, 0, 10));
-    MapHost::publish(*group, chain, oneClass);
-    QCOMPARE(RxMap3DProbe::banks(*map).at(0).vertices.size(), 6);
+    QCOMPARE(rebuild(chain).size(), 6);
     RecordingGlu::clear();
     QCOMPARE(host->broker.setProperty("rxMap.field", "polygonCount", 1U), 0);
     group->setPolygonCount(1);
@@ -50,6 +50,20 @@ void TestRxMap3DRebuilding::aFormerGroupNoLongerRebuilds()
     QVERIFY(RecordingGlu::calls().isEmpty());
     next->setPolygonCount(0);
     QCOMPARE(RecordingGlu::count(QStringLiteral("gluNewTess")), 1);
+}
+
+void TestRxMap3DRebuilding::destructionEndsTheConnectionAndLeavesTheRecords()
+{
+    PolygonChain chain;
+    chain.addOuter(square(0, 0, 10));
+    rebuild(chain);
+    delete map;
+    map = nullptr;
+    RecordingGlu::clear();
+    group->setPolygonCount(1);
+    QVERIFY(RecordingGlu::calls().isEmpty());
+    QCOMPARE(chain.at(0).drawIndex, 1);
+    QCOMPARE(chain.at(0).vertices[2].x, 10.0);
 }
 
 void TestRxMap3DRebuilding::propertiesAreReadInOrder()
