@@ -1,9 +1,8 @@
 // Every published chain can be drawn as it stands: a tessellator without a way to make new vertices, fed as the
 // renderer feeds it, fills exactly what the outer rings cover less their holes.
 #include "fixture.h"
-#include "paths.h"
 #include "prescriptionloader.h"
-#include "testbase.h"
+#include "wholemaptest.h"
 
 #include <GL/glu.h>
 #include <cmath>
@@ -78,7 +77,7 @@ double filledArea(Fill &fill)
 
 } // namespace
 
-class PolygonChainDrawing : public TestBase {
+class PolygonChainDrawing : public WholeMapTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -88,22 +87,12 @@ private Q_SLOTS:
 
 void PolygonChainDrawing::fillsWhatItCovers_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QStringList>("columns");
-    for (const char *name : {"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
-                             "two-parts.geojson", "touching-holes.geojson"})
-        QTest::newRow(name) << fixture(name) << QStringList();
-    QTest::newRow("sample") << sourcePath("Simulator/Resources/sample/sample-field.shp") << QStringList();
-    if (realData(QString()).isEmpty())
-        return;
-    for (const char *name :
-         {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
-          "cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp", "blocks-utm/treatment_blocks.shp",
-          "blocks-utm/treatment_blocks.gpkg", "zones-geojson/app_map_vector.geojson",
-          "zones-geojson/isoxmljs_test.geojson"})
-        QTest::newRow(name) << realData(QLatin1String(name)) << QStringList();
-    QTest::newRow("parcels") << realData(QStringLiteral("parcels-holes/parcels.shp"))
-                             << QStringList(QStringLiteral("AREA_HA"));
+    addMapRows({"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
+                "two-parts.geojson", "touching-holes.geojson"},
+               {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
+                "cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp",
+                "blocks-utm/treatment_blocks.shp", "blocks-utm/treatment_blocks.gpkg",
+                "zones-geojson/app_map_vector.geojson", "zones-geojson/isoxmljs_test.geojson"});
 }
 
 void PolygonChainDrawing::fillsWhatItCovers()

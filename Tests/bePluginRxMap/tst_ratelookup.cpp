@@ -2,7 +2,7 @@
 #include "paths.h"
 #include "prescriptionloader.h"
 #include "ratelookup.h"
-#include "testbase.h"
+#include "wholemaptest.h"
 
 #include <cmath>
 #include <deque>
@@ -55,7 +55,7 @@ std::unique_ptr<LoadedMap> load(const QString &path, const QStringList &columns 
 
 } // namespace
 
-class RateLookupTest : public TestBase {
+class RateLookupTest : public WholeMapTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -149,21 +149,11 @@ void RateLookupTest::answersNothingForAnEmptyMap()
 
 void RateLookupTest::agreesWithLookingAtEveryRing_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QStringList>("columns");
-    for (const char *name : {"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
-                             "two-parts.geojson", "touching-holes.geojson", "partly-without-rate.geojson"})
-        QTest::newRow(name) << fixture(name) << QStringList();
-    QTest::newRow("sample") << sourcePath("Simulator/Resources/sample/sample-field.shp") << QStringList();
-    if (realData(QString()).isEmpty())
-        return;
-    for (const char *name :
-         {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
-          "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp", "blocks-utm/treatment_blocks.gpkg",
-          "zones-geojson/app_map_vector.geojson", "zones-geojson/isoxmljs_test.geojson"})
-        QTest::newRow(name) << realData(QLatin1String(name)) << QStringList();
-    QTest::newRow("parcels") << realData(QStringLiteral("parcels-holes/parcels.shp"))
-                             << QStringList(QStringLiteral("AREA_HA"));
+    addMapRows({"three-zones.geojson", "pond-and-island.geojson", "overlap.geojson", "bow-tie.geojson",
+                "two-parts.geojson", "touching-holes.geojson", "partly-without-rate.geojson"},
+               {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
+                "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp", "blocks-utm/treatment_blocks.gpkg",
+                "zones-geojson/app_map_vector.geojson", "zones-geojson/isoxmljs_test.geojson"});
 }
 
 void RateLookupTest::agreesWithLookingAtEveryRing()
