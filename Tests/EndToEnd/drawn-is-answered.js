@@ -54,10 +54,12 @@ var width = bounds.maxX - bounds.minX;
 var height = bounds.maxY - bounds.minY;
 var pixel = Math.max(width, height) / 300;
 var ground = terminal.mapColor(bounds.minX - 0.04 * width, bounds.minY - 0.04 * height);
+var mappings = terminal.get(map.group, "rateCalMappings");
 var compared = 0, covered = 0, mixed = 0, edges = 0, wrong = 0;
 
 for (var product = 0; product < map.columns.length; ++product) {
-  terminal.activeProduct = product + 1;
+  // Columns feed the products that their names suit; a mapping's name ends with the product's number.
+  terminal.activeProduct = parseInt(mappings[product].rateCalName.match(/\d+/)[0]);
   var legend = map.legends[product];
   // All colours first: a touch changes what is shown, and the view would have to be drawn again for every point.
   var samples = [];
@@ -88,4 +90,5 @@ for (var product = 0; product < map.columns.length; ++product) {
     if (wrong < 6) print("at", sample.x, sample.y, "drawn", sample.drawn, sample.color, "answered", answered, touched);
   });
 }
-print(JSON.stringify({ compared: compared, covered: covered, mixed: mixed, edges: edges, wrong: wrong }));
+print(JSON.stringify({ compared: compared, covered: covered, mixed: mixed, edges: edges, wrong: wrong,
+                       mixedShare: mixed / (points * map.columns.length) }));
