@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <malloc.h>
 
 namespace {
 
@@ -29,8 +30,24 @@ double growth(double few, double many, double fewRingsMade, double manyRingsMade
     return std::log(many / few) / std::log(manyRingsMade / fewRingsMade);
 }
 
+/// While one of these lives, the allocator keeps what is freed, so that no page is had from the kernel anew: that takes
+/// time by thresholds of its own, whatever the program does.
+struct KeptPages {
+    KeptPages()
+    {
+        mallopt(M_MMAP_THRESHOLD, 1 << 30);
+        mallopt(M_TRIM_THRESHOLD, 1 << 30);
+    }
+    ~KeptPages()
+    {
+        mallopt(M_MMAP_THRESHOLD, 1 << 17);
+        mallopt(M_TRIM_THRESHOLD, 1 << 17);
+    }
+};
+
 void growthOfShare(benchmark::State &state, const MapKind &kind)
 {
+    const KeptPages keptPages;
     BenchmarkMap few = kind.make(fewRings);
     BenchmarkMap many = kind.make(manyRings);
     BenchmarkHost fewHost(few);

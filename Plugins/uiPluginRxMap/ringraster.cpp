@@ -130,18 +130,24 @@ void RingRaster::resolveRow(int row, double y)
     isResolved[row] = true;
     gathered.resize(0);
     bool isInside = false;
+    bool isSideKnown = true;
     double knownX = std::numeric_limits<double>::infinity();
     for (int column = columns - 1; column >= 0; --column) {
         const int cell = row * columns + column;
-        double x = 0.0;
         if (cells.at(cell) == Crossed) {
             gather(cell);
-        } else if (middleOf(column, x)) {
+            isSideKnown = false;
+            continue;
+        }
+        double x = 0.0;
+        if (!isSideKnown && middleOf(column, x)) {
             isInside ^= differsBetween(x, knownX, y);
-            cells[cell] = isInside ? Inside : Outside;
+            isSideKnown = true;
             knownX = x;
             gathered.resize(0);
         }
+        if (isSideKnown)
+            cells[cell] = isInside ? Inside : Outside;
     }
 }
 
