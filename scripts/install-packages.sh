@@ -5,13 +5,8 @@ packages=(
     g++ cmake ninja-build ccache
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
     libglu1-mesa-dev libgl1-mesa-dev libgl1-mesa-dri
-<<<<<<< HEAD
-    libgdal-dev libgeos-dev libboost-dev libbenchmark-dev
-    librsvg2-bin fonts-liberation xvfb xauth x11-xkb-utils
-=======
     libgdal-dev libgeos-dev libboost-dev libbenchmark-dev libcgal-dev
-    librsvg2-bin fonts-liberation xvfb xauth
->>>>>>> d5aa4cb (Measure growth, memory, frames, properties and other libraries' triangulations)
+    librsvg2-bin fonts-liberation xvfb xauth x11-xkb-utils
 )
 
 install_packages() {
