@@ -14,16 +14,13 @@ std::int64_t most = 0;
 
 void taken(std::size_t size)
 {
-    if (!isMetering)
-        return;
     inUse += static_cast<std::int64_t>(size);
     most = std::max(most, inUse);
 }
 
 void given(std::size_t size)
 {
-    if (isMetering)
-        inUse -= static_cast<std::int64_t>(size);
+    inUse -= static_cast<std::int64_t>(size);
 }
 
 } // namespace
@@ -59,7 +56,8 @@ namespace {
 
 void onMalloc(const volatile void * /*block*/, std::size_t size)
 {
-    taken(size);
+    if (isMetering)
+        taken(size);
 }
 
 void onFree(const volatile void *block)
@@ -85,35 +83,44 @@ void *__libc_realloc(void *block, size_t size);
 void *__libc_memalign(size_t alignment, size_t size);
 void __libc_free(void *block);
 
+} // extern "C"
+
+namespace {
+
+// Nothing but a test of a flag while nobody meters: other benchmarks run through here too.
+void *metered(void *block)
+{
+    if (isMetering)
+        taken(malloc_usable_size(block));
+    return block;
+}
+
+} // namespace
+
+extern "C" {
+
 void *malloc(size_t size)
 {
-    void *block = __libc_malloc(size);
-    taken(malloc_usable_size(block));
-    return block;
+    return metered(__libc_malloc(size));
 }
 
 void *calloc(size_t count, size_t size)
 {
-    void *block = __libc_calloc(count, size);
-    taken(malloc_usable_size(block));
-    return block;
+    return metered(__libc_calloc(count, size));
 }
 
 void *realloc(void *block, size_t size)
 {
-    const std::size_t before = malloc_usable_size(block);
+    const std::size_t before = isMetering ? malloc_usable_size(block) : 0;
     void *moved = __libc_realloc(block, size);
-    if (moved != nullptr || size == 0)
+    if (isMetering && (moved != nullptr || size == 0))
         given(before);
-    taken(malloc_usable_size(moved));
-    return moved;
+    return metered(moved);
 }
 
 void *memalign(size_t alignment, size_t size)
 {
-    void *block = __libc_memalign(alignment, size);
-    taken(malloc_usable_size(block));
-    return block;
+    return metered(__libc_memalign(alignment, size));
 }
 
 void *aligned_alloc(size_t alignment, size_t size)
@@ -129,7 +136,8 @@ int posix_memalign(void **block, size_t alignment, size_t size)
 
 void free(void *block)
 {
-    given(malloc_usable_size(block));
+    if (isMetering)
+        given(malloc_usable_size(block));
     __libc_free(block);
 }
 

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int framesAtOnce = 5;
+constexpr int framesAtOnce = 3;
 
 /// The view from straight above that holds all vertices.
 QMatrix4x4 viewOf(const QVector<Vertex> &vertices)
@@ -105,7 +105,7 @@ void frame(benchmark::State &state, const NamedMap &kind)
 
 const bool areMapsAdded = [] {
     for (const NamedMap &map : rebuildMaps())
-        benchmark::RegisterBenchmark(("Frame/" + map.name).c_str(), frame, map)->UseManualTime()->Iterations(15);
+        benchmark::RegisterBenchmark(("Frame/" + map.name).c_str(), frame, map)->UseManualTime()->Iterations(31);
     return true;
 }();
 
