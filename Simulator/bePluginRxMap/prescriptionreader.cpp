@@ -91,6 +91,9 @@ bool PrescriptionReader::checkFile()
         return fail(QStringLiteral("there is no such file"));
     if (info.isDir())
         return fail(QStringLiteral("is a folder, not a file"));
+    // A pipe would be waited on for ever.
+    if (!info.isFile())
+        return fail(QStringLiteral("is no plain file"));
     if (info.suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) != 0)
         return true;
     const QString problem = ShapefileCheck::problem(path);

@@ -21,6 +21,17 @@ QString partPath(const QString &shapePath, const QString &extension)
     return {};
 }
 
+/// A pipe in place of a part would be waited on for ever.
+QString partsProblem(const QString &shapePath)
+{
+    for (const char *extension : {"shx", "dbf", "prj", "cpg"}) {
+        const QString part = partPath(shapePath, QLatin1String(extension));
+        if (!part.isEmpty() && !QFileInfo(part).isFile())
+            return QStringLiteral("the .%1 beside it is no plain file").arg(QLatin1String(extension));
+    }
+    return {};
+}
+
 QByteArray readHeader(const QString &path, int size)
 {
     QFile file(path);
@@ -98,6 +109,9 @@ QString ShapefileCheck::problem(const QString &path)
     const QString shapes = shapesProblem(path);
     if (!shapes.isEmpty())
         return shapes;
+    const QString parts = partsProblem(path);
+    if (!parts.isEmpty())
+        return parts;
     const qint64 count = shapeCount(partPath(path, QStringLiteral("shx")));
     if (count < 0)
         return QStringLiteral("there is no usable .shx beside it");

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Looks at the three files of a Shapefile before a reader does, which would take half of one for the whole.
+/// Looks at the files of a Shapefile before a reader does, which would take half of one for the whole.
 class ShapefileCheck {
 public:
     /// What keeps the Shapefile from being read in full; empty when nothing does. The text names no file but parts.

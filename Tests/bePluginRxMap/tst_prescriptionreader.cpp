@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <ogrsf_frmts.h>
+#include <sys/stat.h>
 
 class PrescriptionReaderTest : public TestBase {
     Q_OBJECT
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void takesTheFirstLayerWithPolygons();
     void refusesFilesThatItCannotRead_data();
     void refusesFilesThatItCannotRead();
+    void refusesWhatIsNoPlainFile_data();
+    void refusesWhatIsNoPlainFile();
     void endsWhenItIsCancelled();
     void reportsProgress();
 
@@ -379,6 +382,34 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead()
     QCOMPARE(error, QStringLiteral("is a folder, not a file"));
     QVERIFY(!read(path("none.shp")));
     QCOMPARE(error, QStringLiteral("there is no such file"));
+}
+
+void PrescriptionReaderTest::refusesWhatIsNoPlainFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+    for (const char *name : {"a.geojson", "a.gpkg", "a.shp"})
+        QTest::newRow(name) << name << "is no plain file";
+    for (const char *extension : {"shx", "dbf", "prj", "cpg"})
+        QTest::newRow(extension) << QStringLiteral("a.%1").arg(extension)
+                                 << QStringLiteral("the .%1 beside it is no plain file").arg(extension);
+}
+
+void PrescriptionReaderTest::refusesWhatIsNoPlainFile()
+{
+    QFETCH(QString, name);
+    LayerSketch sketch;
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    const QString pipe = folder->filePath(name);
+    QFile::remove(pipe);
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(
+        !read(pipe.endsWith(QLatin1String("geojson")) || pipe.endsWith(QLatin1String("gpkg")) ? pipe : path("a.shp")));
+    QTEST(error, "reason");
+    QVERIFY(!read(QStringLiteral("/dev/null")));
+    QCOMPARE(error, QStringLiteral("is no plain file"));
 }
 
 void PrescriptionReaderTest::endsWhenItIsCancelled()
