@@ -4,12 +4,16 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QRegularExpression>
 
 namespace {
+
+/// The files that plug-ins were loaded from, by identifier.
+using FileNames = QHash<QString, QString>;
 
 bool isSharedLibrary(const QString &path)
 {
@@ -32,6 +36,25 @@ QString metadataComplaint(const QPluginLoader &loader)
     return {};
 }
 
+/// The plug-in's identifier without the version, the same for every copy of it.
+QString plainIdentifier(const QPluginLoader &loader)
+{
+    return loader.metaData().value(QStringLiteral("IID")).toString().section(QLatin1Char('/'), 0, 0);
+}
+
+/// Why the file is not to be loaded; empty when it is.
+QString complaintBeforeLoading(const QString &path, const QPluginLoader &loader, const FileNames &loaded)
+{
+    if (!isSharedLibrary(path))
+        return QStringLiteral("is no shared library");
+    const QString complaint = metadataComplaint(loader);
+    const QString identifier = plainIdentifier(loader);
+    // Two copies would draw and say everything twice.
+    if (complaint.isEmpty() && loaded.contains(identifier))
+        return QStringLiteral("is the same plug-in as %1, \"%2\"").arg(loaded.value(identifier), identifier);
+    return complaint;
+}
+
 QString line(const QString &path, const QString &reason)
 {
     return QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason.simplified());
@@ -42,17 +65,14 @@ QString line(const QString &path, const QString &reason)
 PluginScanner::Findings PluginScanner::scan(const QDir &folder)
 {
     Findings findings;
+    FileNames loaded;
     const QStringList names = folder.entryList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
     for (const QString &name : names) {
         const QString path = folder.absoluteFilePath(name);
-        if (!isSharedLibrary(path)) {
-            findings.complaints.append(line(path, QStringLiteral("is no shared library")));
-            continue;
-        }
         QPluginLoader loader(path);
         // A function that is missing must show now, not end the program when it is called.
         loader.setLoadHints(QLibrary::ResolveAllSymbolsHint);
-        const QString complaint = metadataComplaint(loader);
+        const QString complaint = complaintBeforeLoading(path, loader, loaded);
         if (!complaint.isEmpty()) {
             findings.complaints.append(line(path, complaint));
             continue;
@@ -64,6 +84,7 @@ PluginScanner::Findings PluginScanner::scan(const QDir &folder)
         }
         if (auto *plugin = qobject_cast<UiPluginInterface *>(instance)) {
             findings.plugins.append({path, plugin});
+            loaded.insert(plainIdentifier(loader), name);
             continue;
         }
         loader.unload();

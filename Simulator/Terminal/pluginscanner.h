@@ -22,6 +22,7 @@ public:
         QStringList complaints;
     };
 
-    /// Looks at every shared library (*.so) of the folder, in name order.
+    /// Looks at every shared library (*.so) of the folder, in name order. Of several copies or versions of one plug-in
+    /// the first is taken.
     static Findings scan(const QDir &folder);
 };

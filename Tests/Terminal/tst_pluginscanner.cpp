@@ -14,18 +14,21 @@ private Q_SLOTS:
     void brokenFilesAreReportedByNameAndReason_data();
     void brokenFilesAreReportedByNameAndReason();
     void brokenFilesDoNotHideAGoodOne();
+    void aSecondCopyIsReportedAndNotLoaded();
+    void aBrokenPluginDoesNotStandForAGoodOne();
     void ofAPluginOfAnotherKindNoCodeRuns();
     void anEmptyFolderHasNone();
 
 private:
     /// Copies a built module into `folder`.
-    static bool put(const QString &module, const QTemporaryDir &folder);
+    static bool put(const QString &module, const QTemporaryDir &folder) { return put(module, folder, module); }
+    static bool put(const QString &module, const QTemporaryDir &folder, const QString &name);
     static bool write(const QByteArray &content, const QString &name, const QTemporaryDir &folder);
 };
 
-bool TestPluginScanner::put(const QString &module, const QTemporaryDir &folder)
+bool TestPluginScanner::put(const QString &module, const QTemporaryDir &folder, const QString &name)
 {
-    return QFile::copy(QStringLiteral(RXMAP_MODULES "/") + module, folder.filePath(module));
+    return QFile::copy(QStringLiteral(RXMAP_MODULES "/") + module, folder.filePath(name));
 }
 
 bool TestPluginScanner::write(const QByteArray &content, const QString &name, const QTemporaryDir &folder)
@@ -103,6 +106,34 @@ void TestPluginScanner::brokenFilesDoNotHideAGoodOne()
     QVERIFY(findings.complaints.at(0).startsWith(QLatin1String("lacksinterface.so")));
     QVERIFY(findings.complaints.at(1).startsWith(QLatin1String("plainlibrary.so")));
     delete findings.plugins.first().instance;
+}
+
+void TestPluginScanner::aSecondCopyIsReportedAndNotLoaded()
+{
+    QTemporaryDir folder;
+    const QString module = QStringLiteral("goodplugin.so");
+    QVERIFY(put(module, folder));
+    QVERIFY(put(module, folder, QStringLiteral("zcopy.so")));
+    QVERIFY(QFile::link(folder.filePath(module), folder.filePath(QStringLiteral("zlink.so"))));
+    const PluginScanner::Findings findings = PluginScanner::scan(QDir(folder.path()));
+    QCOMPARE(findings.plugins.size(), 1);
+    QCOMPARE(findings.plugins.first().path, folder.filePath(module));
+    const QString reason = QStringLiteral(": is the same plug-in as goodplugin.so, \"com.orvik.uiPluginGood\"");
+    QCOMPARE(findings.complaints,
+             QStringList({QStringLiteral("zcopy.so") + reason, QStringLiteral("zlink.so") + reason}));
+    delete findings.plugins.first().instance;
+}
+
+void TestPluginScanner::aBrokenPluginDoesNotStandForAGoodOne()
+{
+    QTemporaryDir folder;
+    QVERIFY(put(QStringLiteral("lacksinterface.so"), folder));
+    QVERIFY(put(QStringLiteral("lacksinterface.so"), folder, QStringLiteral("lacksinterface2.so")));
+    const PluginScanner::Findings findings = PluginScanner::scan(QDir(folder.path()));
+    QVERIFY(findings.plugins.isEmpty());
+    QCOMPARE(findings.complaints.size(), 2);
+    QVERIFY2(findings.complaints.last().contains(QLatin1String("lacks the interface")),
+             qPrintable(findings.complaints.last()));
 }
 
 void TestPluginScanner::ofAPluginOfAnotherKindNoCodeRuns()
