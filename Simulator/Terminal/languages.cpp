@@ -1,6 +1,7 @@
 #include "languages.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include <memory>
@@ -13,6 +14,13 @@ static void initialiseCatalogues()
 
 namespace {
 
+/// The language a catalogue's name ends with, the country with it ("de", "pt_BR"); empty when it names none.
+QString languageOf(const QFileInfo &catalogue)
+{
+    static const QRegularExpression ending(QStringLiteral("_([a-z]{2,3}(?:_[A-Z]{2})?)$"));
+    return ending.match(catalogue.completeBaseName()).captured(1);
+}
+
 /// Installs the catalogue for the life of the application; false when it is none.
 bool installCatalogue(const QString &path)
 {
@@ -24,15 +32,15 @@ bool installCatalogue(const QString &path)
 
 QString Languages::install(const QString &code, const QDir &pluginFolder)
 {
-    QString suffix = code;
-    suffix.replace(QLatin1Char('-'), QLatin1Char('_'));
-    if (suffix.compare(QLatin1String("en"), Qt::CaseInsensitive) == 0)
+    QString language = code;
+    language.replace(QLatin1Char('-'), QLatin1Char('_'));
+    if (language.compare(QLatin1String("en"), Qt::CaseInsensitive) == 0)
         return {};
     bool isFound = false;
     for (const QString &path : {pluginFolder.path(), pluginFolder.filePath(QStringLiteral("translations"))}) {
         const QFileInfoList catalogues = QDir(path).entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
         for (const QFileInfo &catalogue : catalogues) {
-            if (!catalogue.completeBaseName().endsWith(QLatin1Char('_') + suffix, Qt::CaseInsensitive))
+            if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) != 0)
                 continue;
             if (!installCatalogue(catalogue.filePath()))
                 return QStringLiteral("%1: no translation catalogue").arg(catalogue.filePath());
@@ -45,7 +53,7 @@ QString Languages::install(const QString &code, const QDir &pluginFolder)
     initialiseCatalogues();
     const QStringList own = QDir(QStringLiteral(":/translations")).entryList();
     for (const QString &name : own) {
-        if (name.compare(QStringLiteral("terminal_%1.qm").arg(suffix), Qt::CaseInsensitive) == 0)
+        if (name.compare(QStringLiteral("terminal_%1.qm").arg(language), Qt::CaseInsensitive) == 0)
             installCatalogue(QStringLiteral(":/translations/") + name);
     }
     return {};

@@ -17,7 +17,9 @@ private Q_SLOTS:
     void everyTextOfTheDisplayIsTranslated();
     void englishNeedsNoCatalogue_data();
     void englishNeedsNoCatalogue();
+    void cataloguesBesideThePluginCountToo_data();
     void cataloguesBesideThePluginCountToo();
+    void aLanguageWithoutACatalogueIsRefused_data();
     void aLanguageWithoutACatalogueIsRefused();
     void aDamagedCatalogueIsNamed();
 
@@ -50,6 +52,9 @@ void TestLanguages::aLanguageIsFoundByItsCode_data()
                            << "Aplicar a todos os produtos"
                            << "PRODUTOS";
     QTest::newRow("pt-br") << "pt-br"
+                           << "Aplicar a todos os produtos"
+                           << "PRODUTOS";
+    QTest::newRow("pt-BR") << "pt-BR"
                            << "Aplicar a todos os produtos"
                            << "PRODUTOS";
 }
@@ -94,21 +99,39 @@ void TestLanguages::englishNeedsNoCatalogue()
     QCOMPARE(title(), QStringLiteral("Apply to all products"));
 }
 
+void TestLanguages::cataloguesBesideThePluginCountToo_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << "uiPluginRxMap_es.qm";
+    QTest::newRow("underscores in the plug-in's name") << "ui_map_es.qm";
+}
+
 void TestLanguages::cataloguesBesideThePluginCountToo()
 {
+    QFETCH(QString, name);
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(pluginFolder() + QStringLiteral("/translations/uiPluginRxMap_es.qm"),
-                        folder.filePath(QStringLiteral("uiPluginRxMap_es.qm"))));
+    QVERIFY(QFile::copy(pluginFolder() + QStringLiteral("/translations/uiPluginRxMap_es.qm"), folder.filePath(name)));
     QCOMPARE(Languages::install(QStringLiteral("es"), QDir(folder.path())), QString());
     QCOMPARE(title(), QStringLiteral("Aplicar a todos los productos"));
 }
 
+void TestLanguages::aLanguageWithoutACatalogueIsRefused_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::newRow("unknown") << "xx";
+    QTest::newRow("end of a code") << "R";
+    QTest::newRow("country alone") << "BR";
+    QTest::newRow("country alone, in lower case") << "br";
+    QTest::newRow("language alone, of which there is that of a country") << "pt";
+    QTest::newRow("name of the plug-in too") << "uiPluginRxMap_de";
+}
+
 void TestLanguages::aLanguageWithoutACatalogueIsRefused()
 {
-    const QString error = Languages::install(QStringLiteral("xx"), QDir(pluginFolder()));
-    QVERIFY2(error.contains(QLatin1String("xx")) && error.contains(pluginFolder()), qPrintable(error));
-    // "R" ends the name of no catalogue: a code stands whole.
-    QVERIFY(!Languages::install(QStringLiteral("R"), QDir(pluginFolder())).isEmpty());
+    QFETCH(QString, code);
+    const QString error = Languages::install(code, QDir(pluginFolder()));
+    QVERIFY2(error.startsWith(QStringLiteral("--language %1: ").arg(code)) && error.contains(pluginFolder()),
+             qPrintable(error));
     QCOMPARE(title(), QStringLiteral("Apply to all products"));
 }
 
