@@ -88,15 +88,17 @@ void ScriptTerminal::fail(const QString &reason) const
     qjsEngine(this)->throwError(reason);
 }
 
-int ScriptTerminal::activeProduct() const
+QJSValue ScriptTerminal::activeProduct() const
 {
     return onGui([this] { return terminal->machine()->activeProduct(); });
 }
 
-void ScriptTerminal::setActiveProduct(int number)
+void ScriptTerminal::setActiveProduct(const QJSValue &number)
 {
-    if (!onGui([&] { return terminal->machine()->setActiveProduct(number); }))
-        fail(QStringLiteral("no product %1").arg(number));
+    // What is no whole number would be rounded, or wrapped, to a product that nobody asked for.
+    const bool isWhole = number.isNumber() && number.toNumber() == double(number.toInt());
+    if (!isWhole || !onGui([&] { return terminal->machine()->setActiveProduct(number.toInt()); }))
+        fail(QStringLiteral("no product %1").arg(number.toString()));
 }
 
 QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)

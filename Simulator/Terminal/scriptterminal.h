@@ -14,14 +14,14 @@ class Terminal;
 class ScriptTerminal : public QObject {
     Q_OBJECT
     /// The active product's number, from 1.
-    Q_PROPERTY(int activeProduct READ activeProduct WRITE setActiveProduct)
+    Q_PROPERTY(QJSValue activeProduct READ activeProduct WRITE setActiveProduct)
 
 public:
     /// `terminal` lives on the user-interface thread and outlives the script; a set `isInterrupted` ends wait().
     ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent = nullptr);
 
-    int activeProduct() const;
-    void setActiveProduct(int number);
+    QJSValue activeProduct() const;
+    void setActiveProduct(const QJSValue &number);
 
     /// Loads a prescription; `options.columns` names the rate columns of products 1, 2, ...
     Q_INVOKABLE QJSValue open(const QString &path, const QJSValue &options = QJSValue());

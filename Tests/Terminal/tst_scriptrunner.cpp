@@ -154,6 +154,12 @@ void TestScriptRunner::failuresAreThrownWithTheirReason_data()
     row("no such map", "terminal.close('rxMap.nothing');", "no map \"rxMap.nothing\" is loaded");
     row("product 0", "terminal.activeProduct = 0;", "no product 0");
     row("product 4", "terminal.activeProduct = 4;", "no product 4");
+    row("product 1.7", "terminal.activeProduct = 1.7;", "no product 1.7");
+    row("product NaN", "terminal.activeProduct = NaN;", "no product NaN");
+    row("endless product", "terminal.activeProduct = -Infinity;", "no product -Infinity");
+    row("product beyond whole numbers", "terminal.activeProduct = 4294967297;", "no product 4294967297");
+    row("product in words", "terminal.activeProduct = 'two';", "no product two");
+    row("product true", "terminal.activeProduct = true;", "no product true");
     row("no field point", "terminal.mapColor(NaN, 0);", "is no field point");
     row("unknown group", "terminal.get('nothing', 'x');", "no group \"nothing\"");
     row("unknown property", "terminal.get('quillSpan', 'x');", "group \"quillSpan\" has no property \"x\"");
