@@ -42,6 +42,17 @@ std::size_t AllocationMeter::peak() const
     return static_cast<std::size_t>(most);
 }
 
+AllocationMeter::Pause::Pause()
+    : wasMetering(isMetering)
+{
+    isMetering = false;
+}
+
+AllocationMeter::Pause::~Pause()
+{
+    isMetering = wasMetering;
+}
+
 #ifdef __SANITIZE_ADDRESS__
 
 extern "C" {

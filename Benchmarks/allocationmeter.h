@@ -12,4 +12,16 @@ public:
 
     /// The most bytes that were in use at one time beyond those in use at the start, as the allocator rounds them.
     std::size_t peak() const;
+
+    /// What is allocated and freed while one of these lives is not counted.
+    class Pause {
+    public:
+        Pause();
+        ~Pause();
+        Pause(const Pause &) = delete;
+        Pause &operator=(const Pause &) = delete;
+
+    private:
+        bool wasMetering;
+    };
 };

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "baretessellation.h"
 #include "benchmarkmap.h"
 #include "peerresult.h"
-#include "plainrebuild.h"
 
 /// Constrained Delaunay triangulation by CGAL, polygon by polygon; counts the triangles inside the outer ring and
 /// outside the holes.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "baretessellation.h"
 #include "benchmarkmap.h"
 #include "peerresult.h"
-#include "plainrebuild.h"
 
 /// Constrained Delaunay triangulation by GEOS, polygon by polygon.
 PeerResult triangulateWithGeos(const BenchmarkMap &map, const Placement &placement);

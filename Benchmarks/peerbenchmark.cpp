@@ -1,10 +1,10 @@
 // The same polygons cut into triangles by other libraries, for the record.
 
+#include "baretessellation.h"
 #include "benchmarkhost.h"
 #include "cgalpeer.h"
 #include "geospeer.h"
-#include "mapkinds.h"
-#include "plainrebuild.h"
+#include "realmaps.h"
 #include "rxmap3d.h"
 #include "sidebyside.h"
 
@@ -36,7 +36,7 @@ void peers(benchmark::State &state, const NamedMap &kind)
 }
 
 const bool areMapsAdded = [] {
-    for (const NamedMap &map : rebuildMaps())
+    for (const NamedMap &map : allMaps())
         benchmark::RegisterBenchmark(("Peers/" + map.name).c_str(), peers, map)->UseManualTime()->Iterations(3);
     return true;
 }();

@@ -1,5 +1,7 @@
 #include "quietglu.h"
 
+#include "allocationmeter.h"
+
 #include <GL/glu.h>
 #include <algorithm>
 #include <cstdint>
@@ -23,7 +25,9 @@ void (*vertexCallback)(void *) = nullptr;
 /// The library's own function behind the one of the same name here.
 template <typename Function> Function real(Function /*type*/, const char *name)
 {
-    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+    // By its name: with every function that is called here, the linker sees no need for the library.
+    static void *const library = dlopen("libGLU.so.1", RTLD_NOW);
+    return reinterpret_cast<Function>(dlsym(library, name));
 }
 
 void answerWithTriangles()
@@ -83,6 +87,20 @@ std::size_t QuietGlu::largestPolygonTriangles() const
 }
 
 extern "C" {
+
+GLUtesselator *gluNewTess(void)
+{
+    static const auto original = real(&gluNewTess, "gluNewTess");
+    const AllocationMeter::Pause pause;
+    return original();
+}
+
+void gluDeleteTess(GLUtesselator *tess)
+{
+    static const auto original = real(&gluDeleteTess, "gluDeleteTess");
+    const AllocationMeter::Pause pause;
+    original(tess);
+}
 
 void gluTessCallback(GLUtesselator *tess, GLenum which, _GLUfuncptr callback)
 {

@@ -4,6 +4,7 @@
 
 /// While one of these lives, GLU's tessellator does no work: a polygon is answered with as many triangles as its
 /// contours have when they do not cross, of any of its vertices. What a rebuild then takes is the plug-in's own share.
+/// Memory for the tessellator itself is GLU's, and is never metered.
 class QuietGlu {
 public:
     QuietGlu();

@@ -1,4 +1,4 @@
-#include "plainrebuild.h"
+#include "baretessellation.h"
 
 #include "holeplacement.h"
 #include "ringlists.h"
