@@ -1,14 +1,12 @@
-#include "Backend/prescriptionbackend.h"
 #include "maphost.h"
 #include "paths.h"
 #include "plainrebuild.h"
 #include "randommap.h"
 #include "rxmap3dprobe.h"
 #include "testbase.h"
+#include "wholeprescription.h"
 
 #include "bePluginRxMap/dbgrouprxmap.h"
-
-#include <QDirIterator>
 
 #include <cstring>
 
@@ -130,41 +128,24 @@ void TestRxMap3DPlainRebuild::holesThatTouch()
 void TestRxMap3DPlainRebuild::wholePrescriptions_data()
 {
     QTest::addColumn<QString>("path");
-    const auto addFiles = [](const QString &folder) {
-        QDirIterator files(folder, {"*.shp", "*.gpkg", "*.geojson"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString path = files.next();
-            QTest::newRow(qPrintable(QDir(folder).relativeFilePath(path))) << path;
-        }
-    };
-    addFiles(sourcePath("Tests/fixtures"));
-    addFiles(sourcePath("Simulator/Resources/sample"));
+    WholePrescription::addRows(sourcePath("Tests/fixtures"));
+    WholePrescription::addRows(sourcePath("Simulator/Resources/sample"));
     if (!realData(QString()).isEmpty())
-        addFiles(realData(QString()));
+        WholePrescription::addRows(realData(QString()));
 }
 
 void TestRxMap3DPlainRebuild::wholePrescriptions()
 {
     QFETCH(QString, path);
-    MapHost host;
-    PrescriptionBackend backend(&host.broker);
-    LoadRequest request;
-    request.path = path;
-    request.rateCalNames = QStringList{MapHost::productGroup(1)};
-    // Without rates in it, but full of rings: any numeric column will do.
-    if (path.endsWith(QLatin1String("parcels.shp")))
-        request.columns = QStringList{QStringLiteral("AREA_HA")};
-    const LoadReport report = backend.loadAndWait(request);
-    QVERIFY2(report.isOk(), qPrintable(report.error));
-    auto *group = qobject_cast<DbGroupRxMap *>(host.broker.getGroup(report.group, false));
-    QVERIFY(group);
-    auto *chain = static_cast<RX_POLYGON *>(group->getPolygonBuffer());
+    WholePrescription prescription(path);
+    QCOMPARE(prescription.problem(), QString());
 
-    RxMap3D map(&host.broker, nullptr);
-    map.setAamGroup(host.aam(1));
-    const PlainRebuild expected = rebuildPlainly(chain, group->getPolygonCount(), group->getRateColors().at(0));
+    RxMap3D map(&prescription.host.broker, nullptr);
+    map.setAamGroup(prescription.host.aam(1));
+    const PlainRebuild expected = rebuildPlainly(prescription.chain(), prescription.group()->getPolygonCount(),
+                                                 prescription.group()->getRateColors().at(0));
     map.updateRxMapGroup();
-    QCOMPARE(difference(map, expected, chain), QString());
+    QCOMPARE(difference(map, expected, prescription.chain()), QString());
 }
 
 QTEST_MAIN(TestRxMap3DPlainRebuild)

@@ -1,13 +1,9 @@
-#include "Backend/prescriptionbackend.h"
-#include "maphost.h"
 #include "paths.h"
 #include "rxmap3dprobe.h"
 #include "testbase.h"
+#include "wholeprescription.h"
 
 #include "bePluginRxMap/dbgrouprxmap.h"
-
-#include <QDir>
-#include <QDirIterator>
 
 #include <cmath>
 
@@ -73,39 +69,18 @@ double coveredArea(const QVector<Vertex> &vertices)
     return doubled / 2.0;
 }
 
-void addFiles(const QDir &folder)
-{
-    QDirIterator files(folder.path(), {"*.shp", "*.gpkg", "*.geojson"}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        QTest::newRow(qPrintable(folder.relativeFilePath(path))) << path;
-    }
-}
-
 } // namespace
 
 void TestRxMap3DRealMaps::checkCover(const QString &path)
 {
-    MapHost host;
-    PrescriptionBackend backend(&host.broker);
-    LoadRequest request;
-    request.path = path;
-    request.rateCalNames = QStringList{MapHost::productGroup(1)};
-    // Without rates in it, but full of rings: any numeric column will do.
-    if (path.endsWith(QLatin1String("parcels.shp")))
-        request.columns = QStringList{QStringLiteral("AREA_HA")};
-    const LoadReport report = backend.loadAndWait(request);
-    QVERIFY2(report.isOk(), qPrintable(report.error));
-    auto *group = qobject_cast<DbGroupRxMap *>(host.broker.getGroup(report.group, false));
-    QVERIFY(group);
-
-    RxMap3D map(&host.broker, nullptr);
-    map.setAamGroup(host.aam(1));
+    WholePrescription prescription(path);
+    QCOMPARE(prescription.problem(), QString());
+    RxMap3D map(&prescription.host.broker, nullptr);
+    map.setAamGroup(prescription.host.aam(1));
     map.updateRxMapGroup();
-    QCOMPARE(RxMap3DProbe::boundGroup(map), group);
+    QCOMPARE(RxMap3DProbe::boundGroup(map), prescription.group());
     QCOMPARE(RxMap3DProbe::banks(map).size(), 1);
-    const Enclosed expected =
-        enclosedBy(static_cast<const RX_POLYGON *>(group->getPolygonBuffer()), group->getPolygonCount());
+    const Enclosed expected = enclosedBy(prescription.chain(), prescription.group()->getPolygonCount());
     QVERIFY(expected.outers > 0);
     QVERIFY(expected.isNumberedInOrder);
     const double covered = coveredArea(RxMap3DProbe::banks(map).at(0).vertices);
@@ -120,8 +95,8 @@ void TestRxMap3DRealMaps::checkCover(const QString &path)
 void TestRxMap3DRealMaps::smallMapsAreCovered_data()
 {
     QTest::addColumn<QString>("path");
-    addFiles(QDir(sourcePath("Tests/fixtures")));
-    addFiles(QDir(sourcePath("Simulator/Resources/sample")));
+    WholePrescription::addRows(sourcePath("Tests/fixtures"));
+    WholePrescription::addRows(sourcePath("Simulator/Resources/sample"));
 }
 
 void TestRxMap3DRealMaps::smallMapsAreCovered()
@@ -134,7 +109,7 @@ void TestRxMap3DRealMaps::realMapsAreCovered_data()
 {
     QTest::addColumn<QString>("path");
     if (!realData(QString()).isEmpty())
-        addFiles(QDir(realData(QString())));
+        WholePrescription::addRows(realData(QString()));
 }
 
 void TestRxMap3DRealMaps::realMapsAreCovered()
