@@ -1,6 +1,7 @@
 #include "guicall.h"
 #include "testbase.h"
 
+#include <QDialog>
 #include <QEventLoop>
 #include <QThread>
 
@@ -10,7 +11,7 @@ class TestGuiCall : public TestBase {
 
 private Q_SLOTS:
     void theFunctionRunsOnTheOtherThreadAndItsResultComesBack();
-    void theCallIsServedByAnEventLoopThatACallOpened();
+    void theCallIsServedByTheEventLoopOfADialogThatACallOpened();
 };
 
 void TestGuiCall::theFunctionRunsOnTheOtherThreadAndItsResultComesBack()
@@ -33,19 +34,19 @@ void TestGuiCall::theFunctionRunsOnTheOtherThreadAndItsResultComesBack()
     QCOMPARE(result, QStringLiteral("done"));
 }
 
-void TestGuiCall::theCallIsServedByAnEventLoopThatACallOpened()
+void TestGuiCall::theCallIsServedByTheEventLoopOfADialogThatACallOpened()
 {
     QObject gui;
     QEventLoop outer;
-    QEventLoop dialog;
+    QDialog dialog;
     bool wasServedInside = false;
     const QScopedPointer<QThread> thread(QThread::create([&] {
         QMetaObject::invokeMethod(
             &gui, [&dialog] { dialog.exec(); }, Qt::QueuedConnection);
         wasServedInside =
-            callOnGui(&gui, [&] { return dialog.isRunning() && QThread::currentThread() == gui.thread(); });
+            callOnGui(&gui, [&] { return dialog.isVisible() && QThread::currentThread() == gui.thread(); });
         callOnGui(&gui, [&dialog] {
-            dialog.quit();
+            dialog.accept();
             return true;
         });
     }));
@@ -56,5 +57,5 @@ void TestGuiCall::theCallIsServedByAnEventLoopThatACallOpened()
     QVERIFY(wasServedInside);
 }
 
-QTEST_GUILESS_MAIN(TestGuiCall)
+QTEST_MAIN(TestGuiCall)
 #include "tst_guicall.moc"
