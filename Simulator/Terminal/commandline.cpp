@@ -1,5 +1,7 @@
 #include "commandline.h"
 
+#include "plainfile.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 
@@ -76,12 +78,8 @@ QString readColumns(const QString &text, CommandLine &line)
 
 QString requireFile(const QString &option, const QString &path)
 {
-    const QFileInfo file(path);
-    if (!file.exists())
-        return QStringLiteral("--%1 %2: no such file").arg(option, path);
-    if (!file.isFile() || !file.isReadable())
-        return QStringLiteral("--%1 %2: not a readable file").arg(option, path);
-    return {};
+    const QString problem = plainFileProblem(path);
+    return problem.isEmpty() ? QString() : QStringLiteral("--%1 %2: %3").arg(option, path, problem);
 }
 
 QString requireFolder(const QString &option, const QString &path)

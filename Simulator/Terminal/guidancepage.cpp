@@ -59,7 +59,11 @@ void GuidancePage::addWidgets(UiPluginInterface *plugin)
         if (!widget)
             continue;
         scene()->addItem(widget);
-        connect(widget.data(), &UiGWidget::popupActiveChanged, this, &GuidancePage::setPopupActive);
+        connect(widget.data(), &UiGWidget::popupActiveChanged, this, [this, widget](bool active) {
+            popupOwner = widget;
+            setPopupActive(active);
+        });
+        connect(widget.data(), &QObject::destroyed, this, &GuidancePage::forgetOrphanedPopup);
         widget->pageShown();
         places.append({plugin, widget});
         extent = QSizeF(left + widget->size().width(), qMax(extent.height(), widget->size().height()));
@@ -71,16 +75,26 @@ void GuidancePage::clear()
     for (const Place &place : qAsConst(places)) {
         if (!place.widget)
             continue;
+        place.widget->disconnect(this);
         scene()->removeItem(place.widget);
         place.plugin->deleteGWidget(place.widget);
     }
     places.clear();
     extent = QSizeF(0.0, 0.0);
+    isPopupActive = false;
+    isRebuildDue = false;
 }
 
 QSize GuidancePage::sizeHint() const
 {
     return extent.toSize();
+}
+
+void GuidancePage::forgetOrphanedPopup()
+{
+    // Whoever was to say that the popup has closed is gone.
+    if (isPopupActive && !popupOwner)
+        setPopupActive(false);
 }
 
 void GuidancePage::setPopupActive(bool active)

@@ -22,7 +22,7 @@ public:
     /// Builds the page anew, as a host does when it shows it; widgets look at the published groups only when they are
     /// made. While a popup is open this waits until it has closed.
     void rebuild();
-    /// Has the plug-ins delete every widget of the page.
+    /// Has the plug-ins delete every widget of the page; a popup of theirs counts as closed.
     void clear();
     QSize sizeHint() const override;
 
@@ -38,11 +38,13 @@ private:
 
     void addWidgets(UiPluginInterface *plugin);
     void setPopupActive(bool active);
+    void forgetOrphanedPopup();
 
     QList<UiPluginInterface *> plugins;
     DataBroker *broker = nullptr;
     QList<Place> places;
     QSizeF extent;
+    QPointer<UiGWidget> popupOwner;
     bool isPopupActive = false;
     bool isRebuildDue = false;
 };

@@ -1,5 +1,7 @@
 #include "productfile.h"
 
+#include "plainfile.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -34,37 +36,46 @@ QString plainKey(const QString &key)
     return plain;
 }
 
+/// A value as it stands in the file; of a long one, the beginning.
+QString written(const QJsonValue &value)
+{
+    constexpr int longest = 30;
+    QByteArray text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    text = text.mid(1, text.size() - 2);
+    const QString line = QString::fromUtf8(text);
+    return line.size() > longest ? line.left(longest - 2) + QStringLiteral("...") : line;
+}
+
 /// Reads one value into `product`; the reason when it cannot.
 QString readValue(const QString &key, const QJsonValue &value, Product &product)
 {
     const QString plain = plainKey(key);
-    const auto complaint = [&key](const char *wanted) {
-        return QStringLiteral("\"%1\" is no %2").arg(key, QLatin1String(wanted));
+    const auto complaint = [&key, &value](const QString &wanted) {
+        return QStringLiteral("\"%1\" is %2; %3 is wanted").arg(key, written(value), wanted);
     };
     if (plain == QLatin1String("name") || plain == QLatin1String("shortname")) {
         const QString text = value.toString().trimmed();
         if (text.isEmpty())
-            return complaint("text");
+            return complaint(QStringLiteral("a text"));
         (plain == QLatin1String("name") ? product.name : product.shortName) = text;
     } else if (plain == QLatin1String("kind")) {
         const auto kind = kinds().constFind(value.toString().toLower());
         if (kind == kinds().constEnd())
-            return QStringLiteral("unknown kind \"%1\" (known: %2)")
-                .arg(value.toVariant().toString(), QStringList(kinds().keys()).join(QStringLiteral(", ")));
+            return complaint(QStringLiteral("one of ") + QStringList(kinds().keys()).join(QStringLiteral(", ")));
         product.kind = *kind;
     } else if (plain == QLatin1String("bin")) {
         const double bin = value.toDouble(-1.0);
         if (bin < 1.0 || bin > MostBins || bin != std::floor(bin))
-            return complaint("whole number from 1 to 99");
+            return complaint(QStringLiteral("a whole number from 1 to 99"));
         product.bin = int(bin);
     } else if (plain == QLatin1String("defaultrate")) {
         const double rate = value.toDouble(-1.0);
         if (!(rate >= 0.0))
-            return complaint("number from 0");
+            return complaint(QStringLiteral("a number from 0"));
         product.defaultRate = rate;
     } else if (plain == QLatin1String("undervra") || plain == QLatin1String("iscarrier")) {
         if (!value.isBool())
-            return complaint("true or false");
+            return complaint(QStringLiteral("true or false"));
         (plain == QLatin1String("undervra") ? product.underVra : product.isCarrier) = value.toBool();
     } else {
         return QStringLiteral("unknown key \"%1\"").arg(key);
@@ -75,7 +86,8 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
 Result<Product> readProduct(const QJsonValue &value, int number)
 {
     if (!value.isObject())
-        return Result<Product>::failure(QStringLiteral("is no object"));
+        return Result<Product>::failure(
+            QStringLiteral("is %1; an object with \"name\" and \"kind\" is wanted").arg(written(value)));
     Product product;
     product.bin = number;
     bool hasKind = false;
@@ -110,6 +122,9 @@ Product standardProduct(int bin, const QString &name, const QString &shortName, 
 
 Result<Products> ProductFile::read(const QString &path)
 {
+    const QString problem = plainFileProblem(path);
+    if (!problem.isEmpty())
+        return Result<Products>::failure(QStringLiteral("%1: %2").arg(path, problem));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Result<Products>::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
@@ -124,7 +139,8 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
-        return failure(QStringLiteral("no JSON at byte %1: %2").arg(error.offset).arg(error.errorString()));
+        return failure(
+            QStringLiteral("is no JSON list of products (at byte %1: %2)").arg(error.offset).arg(error.errorString()));
     const QJsonValue list =
         document.isArray() ? QJsonValue(document.array()) : document.object().value(QStringLiteral("products"));
     if (!list.isArray())

@@ -1,5 +1,6 @@
 #include "scriptrunner.h"
 
+#include "plainfile.h"
 #include "scriptconsole.h"
 #include "scriptterminal.h"
 #include "terminal.h"
@@ -47,6 +48,9 @@ ScriptRunner::ScriptRunner(Terminal *terminal, QObject *parent)
 
 QString ScriptRunner::run(const QString &path)
 {
+    const QString problem = plainFileProblem(path);
+    if (!problem.isEmpty())
+        return QStringLiteral("%1: %2").arg(path, problem);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(path, file.errorString());

@@ -15,6 +15,7 @@
 
 #include <QElapsedTimer>
 #include <QJSEngine>
+#include <QJSValueIterator>
 #include <QMetaProperty>
 #include <QThread>
 
@@ -69,6 +70,23 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
             {QStringLiteral("warnings"), report.warnings}};
 }
 
+/// What is wrong with the options of open(); empty when nothing is.
+QString mistakeIn(const QJSValue &options)
+{
+    const QString columns = QStringLiteral("columns");
+    if (options.isUndefined())
+        return {};
+    if (!options.isObject() || options.isArray())
+        return QStringLiteral("the options of open() are no object");
+    QJSValueIterator option(options);
+    while (option.next()) {
+        if (option.name() != columns)
+            return QStringLiteral("\"%1\" is no option of open(); it knows \"columns\"").arg(option.name());
+    }
+    const QJSValue value = options.property(columns);
+    return value.isUndefined() || value.isArray() ? QString() : QStringLiteral("\"columns\" is no list");
+}
+
 } // namespace
 
 ScriptTerminal::ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent)
@@ -103,11 +121,12 @@ void ScriptTerminal::setActiveProduct(const QJSValue &number)
 
 QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)
 {
-    const QJSValue columns = options.property(QStringLiteral("columns"));
-    if (!columns.isUndefined() && !columns.isArray()) {
-        fail(QStringLiteral("\"columns\" is no list"));
+    const QString mistake = mistakeIn(options);
+    if (!mistake.isEmpty()) {
+        fail(mistake);
         return {};
     }
+    const QJSValue columns = options.property(QStringLiteral("columns"));
     QStringList names;
     for (const QVariant &name : columns.toVariant().toList())
         names.append(name.toString());
@@ -236,7 +255,8 @@ void ScriptTerminal::wait(double milliseconds)
 
 void ScriptTerminal::screenshot(const QString &path)
 {
-    const QString error = onGui([&] { return terminal->saveScreenshot(path); });
+    const QString error = path.isEmpty() ? QStringLiteral("a picture needs a file name")
+                                         : onGui([&] { return terminal->saveScreenshot(path); });
     if (!error.isEmpty())
         fail(error);
 }

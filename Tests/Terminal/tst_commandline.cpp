@@ -3,6 +3,8 @@
 
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 /// What the program makes of its arguments.
 class TestCommandLine : public TestBase {
     Q_OBJECT
@@ -10,6 +12,8 @@ class TestCommandLine : public TestBase {
 private Q_SLOTS:
     void badArgumentsAreRefusedInOneLine_data();
     void badArgumentsAreRefusedInOneLine();
+    void aPipeIsRefusedWithoutWaitingForIt_data();
+    void aPipeIsRefusedWithoutWaitingForIt();
     void everyOptionIsRead();
     void withoutArgumentsTheDefaultsHold();
     void unitSystemsAreKnownByName_data();
@@ -41,6 +45,9 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("point at infinity") << QStringList{"--describe", "1,inf"} << "1,inf";
     QTest::newRow("missing products file") << QStringList{"--products", "/no/such.json"} << "/no/such.json";
     QTest::newRow("products file is a folder") << QStringList{"--products", "/"} << "--products /";
+    QTest::newRow("products file is a device") << QStringList{"--products", "/dev/zero"} << "is no plain file";
+    QTest::newRow("script is a folder") << QStringList{"--script", "/"} << "--script /: is a folder, not a file";
+    QTest::newRow("script is a device") << QStringList{"--script", "/dev/null"} << "is no plain file";
     QTest::newRow("missing script") << QStringList{"--script", "/no/such.js"} << "/no/such.js";
     QTest::newRow("missing plug-in folder") << QStringList{"--plugin-dir", "/no/such"} << "/no/such";
     QTest::newRow("option twice") << QStringList{"--units", "us", "--units", "turf"} << "more than once";
@@ -57,6 +64,22 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine()
     QVERIFY(!line.isOk());
     QVERIFY2(line.error.contains(mentioned), qPrintable(line.error));
     QVERIFY2(!line.error.contains(QLatin1Char('\n')), qPrintable(line.error));
+}
+
+void TestCommandLine::aPipeIsRefusedWithoutWaitingForIt_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("products") << "--products";
+    QTest::newRow("script") << "--script";
+}
+
+void TestCommandLine::aPipeIsRefusedWithoutWaitingForIt()
+{
+    QFETCH(QString, option);
+    QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QCOMPARE(parse({option, pipe}).error, QStringLiteral("%1 %2: is no plain file").arg(option, pipe));
 }
 
 void TestCommandLine::everyOptionIsRead()

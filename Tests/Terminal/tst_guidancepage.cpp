@@ -81,6 +81,9 @@ private Q_SLOTS:
     void aWidgetThatIsGoneAlreadyIsLeftAlone();
     void clearingLeavesAnEmptyPage();
     void thePageIsGreyWhileAPopupIsOpen();
+    void clearingUnderAnOpenPopupLeavesThePageUsable();
+    void aWidgetThatDiesUnderItsPopupLeavesThePageUsable();
+    void aRebuildThatWaitedComesWhenThePopupsWidgetDies();
     void rebuildingWaitsForThePopup();
     void aPopupThatClosesWithNothingDueLeavesTheWidgets();
     void theFingerThatOpenedAPopupHoldsNothingAfterwards();
@@ -176,6 +179,37 @@ void TestGuidancePage::thePageIsGreyWhileAPopupIsOpen()
     second->made.at(0)->setPopup(false);
     for (const QPointer<SampleWidget> &widget : first->made + second->made)
         QCOMPARE(widget->opacity(), 1.0);
+}
+
+void TestGuidancePage::clearingUnderAnOpenPopupLeavesThePageUsable()
+{
+    first->made.at(0)->setPopup(true);
+    page->rebuild();
+    page->clear();
+    page->rebuild();
+    QCOMPARE(first->made.size(), 4);
+    QCOMPARE(first->made.last()->opacity(), 1.0);
+    QCoreApplication::processEvents();
+    QCOMPARE(first->made.size(), 4);
+}
+
+void TestGuidancePage::aWidgetThatDiesUnderItsPopupLeavesThePageUsable()
+{
+    first->made.at(0)->setPopup(true);
+    delete first->made.at(1).data();
+    QVERIFY(second->made.at(0)->opacity() < 0.5);
+    delete first->made.at(0).data();
+    QCOMPARE(second->made.at(0)->opacity(), 1.0);
+    page->rebuild();
+    QCOMPARE(first->made.size(), 4);
+}
+
+void TestGuidancePage::aRebuildThatWaitedComesWhenThePopupsWidgetDies()
+{
+    first->made.at(0)->setPopup(true);
+    page->rebuild();
+    delete first->made.at(0).data();
+    QTRY_COMPARE(first->made.size(), 4);
 }
 
 void TestGuidancePage::rebuildingWaitsForThePopup()

@@ -1,6 +1,10 @@
 #include "productfile.h"
 #include "testbase.h"
 
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
 /// The machine's products from a file.
 class TestProductFile : public TestBase {
     Q_OBJECT
@@ -16,6 +20,7 @@ private Q_SLOTS:
     void aListNeedsNoObjectAroundIt();
     void sixteenProductsAreTaken();
     void aMissingFileIsNamed();
+    void onlyAPlainFileIsRead();
     void theStandardMachineHasThreeProducts();
     void aCarrierMetersAPlainVolume();
 
@@ -33,29 +38,46 @@ void TestProductFile::badFilesAreRefusedInOneLine_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("mentioned");
-    QTest::newRow("no JSON") << QByteArray("{\"products\": [") << "no JSON";
-    QTest::newRow("nothing") << QByteArray() << "no JSON";
+    QTest::newRow("no JSON") << QByteArray("{\"products\": [") << "is no JSON list of products";
+    QTest::newRow("nothing") << QByteArray() << "is no JSON list of products";
+    QTest::newRow("a number alone") << QByteArray("2") << "is no JSON list of products";
+    QTest::newRow("a text alone") << QByteArray("\"2\"") << "is no JSON list of products";
     QTest::newRow("no list") << QByteArray("{\"product\": []}") << "no list of products";
     QTest::newRow("list is a text") << QByteArray("{\"products\": \"three\"}") << "no list of products";
     QTest::newRow("empty list") << QByteArray("[]") << "describes 0 products";
     QTest::newRow("seventeen products") << products(17) << "describes 17 products";
-    QTest::newRow("product is a number") << QByteArray("[7]") << "product 1: is no object";
+    QTest::newRow("product is a number") << QByteArray("[7]")
+                                         << "product 1: is 7; an object with \"name\" and \"kind\" is wanted";
+    QTest::newRow("product is a text") << QByteArray(R"([{"name": "A", "kind": "count"}, "2"])")
+                                       << "product 2: is \"2\"; an object with \"name\" and \"kind\" is wanted";
+    QTest::newRow("product is nothing") << QByteArray("[null]") << "product 1: is null; an object";
+    QTest::newRow("product is a list") << QByteArray("[[1, 2]]") << "product 1: is [1,2]; an object";
+    QTest::newRow("product is a long text") << QByteArray("[\"" + QByteArray(500, 'x') + "\"]")
+                                            << "product 1: is \"xxxxxxxxxxxxxxxxxxxxxxxxxxx...; an object";
     QTest::newRow("no name") << QByteArray(R"([{"kind": "count"}])") << "product 1: has no \"name\"";
-    QTest::newRow("empty name") << QByteArray(R"([{"name": " ", "kind": "count"}])") << "\"name\" is no text";
+    QTest::newRow("empty name") << QByteArray(R"([{"name": " ", "kind": "count"}])")
+                                << "product 1: \"name\" is \" \"; a text is wanted";
+    QTest::newRow("name is a number") << QByteArray(R"([{"name": 2, "kind": "count"}])")
+                                      << "product 1: \"name\" is 2; a text is wanted";
+    QTest::newRow("kind is a number") << QByteArray(R"([{"name": "A", "kind": 2}])")
+                                      << "product 1: \"kind\" is 2; one of count, injection,";
     QTest::newRow("no kind") << QByteArray(R"([{"name": "A"}])") << "product 1: has no \"kind\"";
-    QTest::newRow("unknown kind") << QByteArray(R"([{"name": "A", "kind": "length"}])") << "unknown kind \"length\"";
+    QTest::newRow("unknown kind") << QByteArray(R"([{"name": "A", "kind": "length"}])")
+                                  << "product 1: \"kind\" is \"length\"; one of count, injection, ";
+    QTest::newRow("bin is a text") << QByteArray(R"([{"name": "A", "kind": "count", "bin": "2"}])")
+                                   << "product 1: \"bin\" is \"2\"; a whole number from 1 to 99 is wanted";
     QTest::newRow("bin 0") << QByteArray(R"([{"name": "A", "kind": "count", "bin": 0}])") << "\"bin\"";
     QTest::newRow("half a bin") << QByteArray(R"([{"name": "A", "kind": "count", "bin": 1.5}])") << "\"bin\"";
     QTest::newRow("rate below zero") << QByteArray(R"([{"name": "A", "kind": "count", "defaultRate": -1}])")
-                                     << "\"defaultRate\"";
+                                     << "\"defaultRate\" is -1; a number from 0 is wanted";
     QTest::newRow("rate is a text") << QByteArray(R"([{"name": "A", "kind": "count", "defaultRate": "5"}])")
-                                    << "\"defaultRate\"";
+                                    << "\"defaultRate\" is \"5\"; a number from 0 is wanted";
     QTest::newRow("control is a number") << QByteArray(R"([{"name": "A", "kind": "count", "underVra": 1}])")
-                                         << "\"underVra\"";
+                                         << "\"underVra\" is 1; true or false is wanted";
     QTest::newRow("unknown key") << QByteArray(R"([{"name": "A", "kind": "count", "colour": "red"}])")
                                  << "unknown key \"colour\"";
     QTest::newRow("second product") << QByteArray(R"([{"name": "A", "kind": "count"}, {"name": "B", "kind": "x"}])")
-                                    << "product 2: unknown kind";
+                                    << "product 2: \"kind\" is \"x\"; ";
 }
 
 void TestProductFile::badFilesAreRefusedInOneLine()
@@ -146,6 +168,16 @@ void TestProductFile::aMissingFileIsNamed()
 {
     const Result<Products> result = ProductFile::read(QStringLiteral("/no/such/machine.json"));
     QVERIFY2(result.error.startsWith(QLatin1String("/no/such/machine.json: ")), qPrintable(result.error));
+}
+
+void TestProductFile::onlyAPlainFileIsRead()
+{
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QCOMPARE(ProductFile::read(QStringLiteral("/dev/null")).error, QStringLiteral("/dev/null: is no plain file"));
+    QCOMPARE(ProductFile::read(folder.path()).error, folder.path() + QStringLiteral(": is a folder, not a file"));
+    QCOMPARE(ProductFile::read(pipe).error, pipe + QStringLiteral(": is no plain file"));
 }
 
 void TestProductFile::theStandardMachineHasThreeProducts()

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 /// Every call of the scripts, on a terminal with the plug-in.
 class TestScriptRunner : public TestBase {
     Q_OBJECT
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void anUncaughtErrorNamesFileAndLine_data();
     void anUncaughtErrorNamesFileAndLine();
     void aMissingScriptIsNamed();
+    void onlyAPlainFileIsRunAsScript();
     void aScriptGoesOnWhileADialogIsOpen();
     void aDialogThatWasLeftOpenIsClosedAtTheEnd();
     void theDialogsEditsComeThrough();
@@ -151,6 +154,11 @@ void TestScriptRunner::failuresAreThrownWithTheirReason_data()
     row("missing file", "terminal.open('/no/such.shp');", "/no/such.shp: ");
     row("missing column", "terminal.open(zones, {columns: ['NOPE']});", "\"NOPE\"");
     row("columns no list", "terminal.open(zones, {columns: 'SEED_K_HA'});", "\"columns\" is no list");
+    row("unknown option", "terminal.open(zones, {colums: ['SEED_K_HA']});",
+        "\"colums\" is no option of open(); it knows \"columns\"");
+    row("options no object", "terminal.open(zones, ['SEED_K_HA']);", "the options of open() are no object");
+    row("options a text", "terminal.open(zones, 'SEED_K_HA');", "the options of open() are no object");
+    row("options null", "terminal.open(zones, null);", "the options of open() are no object");
     row("no such map", "terminal.close('rxMap.nothing');", "no map \"rxMap.nothing\" is loaded");
     row("product 0", "terminal.activeProduct = 0;", "no product 0");
     row("product 4", "terminal.activeProduct = 4;", "no product 4");
@@ -171,6 +179,7 @@ void TestScriptRunner::failuresAreThrownWithTheirReason_data()
     row("backwards", "terminal.drive(-1);", "out of range");
     row("wait backwards", "terminal.wait(-5);", "cannot wait");
     row("picture in no folder", "terminal.screenshot('/no/such/folder/p.png');", "/no/such/folder/p.png: ");
+    row("picture without a name", "terminal.screenshot('');", "a picture needs a file name");
     row("touch what is hidden",
         "var m = terminal.open(zones); terminal.find('rxOptions').longTouch();"
         "var e = terminal.find('notUnderVraLabel'); e.touch();",
@@ -213,6 +222,16 @@ void TestScriptRunner::aMissingScriptIsNamed()
 {
     const QString error = ScriptRunner(&host->terminal()).run(QStringLiteral("/no/such.js"));
     QVERIFY2(error.startsWith(QLatin1String("/no/such.js: ")), qPrintable(error));
+}
+
+void TestScriptRunner::onlyAPlainFileIsRunAsScript()
+{
+    const QString pipe = folder->filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ScriptRunner runner(&host->terminal());
+    QCOMPARE(runner.run(QStringLiteral("/dev/null")), QStringLiteral("/dev/null: is no plain file"));
+    QCOMPARE(runner.run(folder->path()), folder->path() + QStringLiteral(": is a folder, not a file"));
+    QCOMPARE(runner.run(pipe), pipe + QStringLiteral(": is no plain file"));
 }
 
 void TestScriptRunner::aScriptGoesOnWhileADialogIsOpen()
