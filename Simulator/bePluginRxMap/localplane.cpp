@@ -106,9 +106,9 @@ bool LocalPlane::locate(const SourceMap &map, GeographicExtent &extent, QString 
     const Range y = rangeOf(map.ys);
     const bool isGeographic = !map.reference || map.reference->IsGeographic();
     if (isGeographic && !areDegrees(x, y)) {
-        error = map.reference ? QStringLiteral("its coordinates are no longitudes and latitudes")
-                              : QStringLiteral("names no coordinate system, and its coordinates are no longitudes and "
-                                               "latitudes");
+        error = map.reference
+            ? QStringLiteral("its coordinates are no longitudes and latitudes")
+            : map.lackOfReference + QStringLiteral(", and its coordinates are no longitudes and latitudes");
         return false;
     }
     std::vector<double> longitudes;

@@ -130,7 +130,7 @@ bool PrescriptionLoader::place(LoadedMap &map)
     if (!LocalPlane::locate(source, extent, reason))
         return fail(reason);
     if (!source.reference)
-        warn(QStringLiteral("names no coordinate system; taken as WGS 84"));
+        warn(source.lackOfReference + QStringLiteral("; taken as WGS 84"));
     const double longitude = 0.5 * (extent.west + extent.east);
     const double latitude = 0.5 * (extent.south + extent.north);
     const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
@@ -218,11 +218,8 @@ std::vector<int> PrescriptionLoader::columnsByLikelihood(LoadedMap &map) const
 bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 {
     const std::vector<int> chosen = request.columns.isEmpty() ? columnsByLikelihood(map) : columnsByRequest(map);
-    if (chosen.empty()) {
-        const QString columns =
-            source.columnNames.isEmpty() ? QStringLiteral("none") : source.columnNames.join(QStringLiteral(", "));
-        return fail(QStringLiteral("has no column that looks like a rate; name one (its columns: %1)").arg(columns));
-    }
+    if (chosen.empty())
+        return fail(RateColumns::reasonForNone(source));
     for (const int index : chosen) {
         const SourceColumn &column = source.columns[static_cast<size_t>(index)];
         map.report.columns.append(column.name);

@@ -94,10 +94,15 @@ bool PrescriptionReader::checkFile()
     // A pipe would be waited on for ever.
     if (!info.isFile())
         return fail(QStringLiteral("is no plain file"));
-    if (info.suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) != 0)
+    if (!isShapefile())
         return true;
     const QString problem = ShapefileCheck::problem(path);
     return problem.isEmpty() || fail(problem);
+}
+
+bool PrescriptionReader::isShapefile() const
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
 }
 
 bool PrescriptionReader::read(SourceMap &map)
@@ -111,8 +116,7 @@ bool PrescriptionReader::read(SourceMap &map)
     OGRLayer *layer = chooseLayer(*dataset, map);
     if (layer == nullptr || !chooseColumns(*layer, map))
         return false;
-    if (const OGRSpatialReference *reference = layer->GetSpatialRef())
-        map.reference.reset(reference->Clone());
+    readReference(*layer, map);
     const bool isRead = readRecords(*layer, map);
     if (isRead && !session.firstFailure().isEmpty())
         return fail(session.firstFailure());
@@ -137,12 +141,11 @@ bool PrescriptionReader::readColumnNames(QStringList &names)
 
 GDALDatasetUniquePtr PrescriptionReader::openDataset(const GdalSession &session)
 {
-    const bool isShapefile = QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
     const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
     const char *const otherFormats[] = {"GPKG", "GeoJSON", nullptr};
     GDALDatasetUniquePtr dataset(GDALDataset::Open(QFileInfo(path).absoluteFilePath().toUtf8().constData(),
                                                    GDAL_OF_VECTOR | GDAL_OF_READONLY,
-                                                   isShapefile ? shapefileOnly : otherFormats));
+                                                   isShapefile() ? shapefileOnly : otherFormats));
     if (!dataset) {
         const QString failure = session.firstFailure();
         fail(failure.isEmpty() ? QStringLiteral("is no Shapefile, GeoPackage or GeoJSON file") : failure);
@@ -182,7 +185,9 @@ bool PrescriptionReader::chooseColumns(OGRLayer &layer, SourceMap &map)
         column.isText = field->GetType() == OFTString;
         column.isInteger = field->GetType() == OFTInteger || field->GetType() == OFTInteger64;
         map.columnNames.append(column.name);
-        if (column.isText || column.isInteger || field->GetType() == OFTReal)
+        // GDAL counts true and false among the whole numbers; they say where, not how much.
+        const bool isNumeric = column.isInteger || field->GetType() == OFTReal;
+        if (column.isText || (isNumeric && field->GetSubType() != OFSTBoolean))
             table.push_back(column);
     }
     if (wanted.isEmpty()) {
@@ -225,6 +230,19 @@ void PrescriptionReader::skipOtherColumns(OGRLayer &layer, const SourceMap &map)
             others.AddString(name);
     }
     layer.SetIgnoredFields(const_cast<const char **>(others.List()));
+}
+
+void PrescriptionReader::readReference(OGRLayer &layer, SourceMap &map)
+{
+    // A Shapefile's definition is read only now; what is wrong with it is said by other means.
+    const GdalSession own;
+    if (const OGRSpatialReference *reference = layer.GetSpatialRef()) {
+        map.reference.reset(reference->Clone());
+        return;
+    }
+    const QString file = isShapefile() ? ShapefileCheck::definitionFile(path) : QString();
+    if (!file.isEmpty())
+        map.lackOfReference = QStringLiteral("its coordinate system (%1) cannot be read").arg(file);
 }
 
 bool PrescriptionReader::readRecords(OGRLayer &layer, SourceMap &map)

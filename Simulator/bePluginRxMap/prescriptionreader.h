@@ -31,11 +31,13 @@ public:
 private:
     bool fail(const QString &text);
     bool checkFile();
+    bool isShapefile() const;
     std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
     OGRLayer *chooseLayer(GDALDataset &dataset, SourceMap &map);
     bool chooseColumns(OGRLayer &layer, SourceMap &map);
     /// Lets GDAL leave the columns alone that are not read.
     static void skipOtherColumns(OGRLayer &layer, const SourceMap &map);
+    void readReference(OGRLayer &layer, SourceMap &map);
     bool readRecords(OGRLayer &layer, SourceMap &map);
     void readValues(const OGRFeature &feature, SourceMap &map);
     void readShape(const OGRGeometry *geometry, SourceMap &map);

@@ -85,6 +85,20 @@ int RateColumns::find(const QStringList &names, const QString &wanted)
     return -1;
 }
 
+QString RateColumns::reasonForNone(const SourceMap &map)
+{
+    QStringList empty;
+    for (const SourceColumn &column : map.columns) {
+        if (isWorthReading(column) && ColumnName(column.name).namesRate() && !hasRates(column))
+            empty.append(column.name);
+    }
+    if (!empty.isEmpty())
+        return QStringLiteral("holds no rates: no record has one in %1").arg(empty.join(QStringLiteral(", ")));
+    const QString columns =
+        map.columnNames.isEmpty() ? QStringLiteral("none") : map.columnNames.join(QStringLiteral(", "));
+    return QStringLiteral("has no column that looks like a rate; name one (its columns: %1)").arg(columns);
+}
+
 std::vector<int> RateColumns::mostLikely(const SourceMap &map, const std::vector<double> &recordAreas)
 {
     std::vector<int> named;

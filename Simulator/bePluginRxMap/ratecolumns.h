@@ -17,6 +17,8 @@ public:
     /// Places, in table order, of the likely rate columns of `map.columns`. A column whose name says
     /// that it is a rate outdoes all that only could be one by their content. `recordAreas`: square metres per record.
     static std::vector<int> mostLikely(const SourceMap &map, const std::vector<double> &recordAreas);
+    /// What to say of a file in which mostLikely() finds no column.
+    static QString reasonForNone(const SourceMap &map);
     /// Hands `columns` (places in `map.columns`) out to products that are measured out as `amounts` say: each product
     /// takes the first column whose name suits it, then those that found none take what is left, in table order. One
     /// entry per product, -1 where no column is left.

@@ -120,3 +120,11 @@ QString ShapefileCheck::problem(const QString &path)
         return QStringLiteral("there is no .dbf beside it");
     return tableProblem(table, count);
 }
+
+QString ShapefileCheck::definitionFile(const QString &path)
+{
+    const QString part = partPath(path, QStringLiteral("prj"));
+    QFile file(part);
+    const bool saysSomething = !part.isEmpty() && file.open(QIODevice::ReadOnly) && !file.readAll().trimmed().isEmpty();
+    return saysSomething ? QFileInfo(part).fileName() : QString();
+}

@@ -7,4 +7,6 @@ class ShapefileCheck {
 public:
     /// What keeps the Shapefile from being read in full; empty when nothing does. The text names no file but parts.
     static QString problem(const QString &path);
+    /// Name of the file beside it that is to define its coordinate system; empty where none says anything.
+    static QString definitionFile(const QString &path);
 };

@@ -45,6 +45,8 @@ struct SourceMap {
     QStringList columnNames;
     /// Null when the file names no coordinate system.
     SpatialReference reference;
+    /// Said of the file where `reference` is null.
+    QString lackOfReference = QStringLiteral("names no coordinate system");
     int records = 0;
     int emptyRecords = 0;     ///< Without geometry, or with rings that enclose nothing only.
     int otherRecords = 0;     ///< Points and lines.

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void measuresAreaInSquareMetres();
     void showsTheSamePlaceWhateverTheCoordinateSystem();
     void takesAMapWithoutACoordinateSystemAsDegrees();
+    void saysThatACoordinateSystemCannotBeRead_data();
+    void saysThatACoordinateSystemCannotBeRead();
     void repairsAndCountsABrokenRing();
     void skipsAndCountsRecordsWithoutRate();
     void keepsAPolygonThatHasARateInOneColumn();
@@ -124,6 +126,42 @@ void PrescriptionLoaderTest::takesAMapWithoutACoordinateSystemAsDegrees()
     QVERIFY(map->report.warnings.first().contains(QStringLiteral("WGS 84")));
     sketch.rows = {{squareText(700000.0, 5300000.0, 100.0), {1.0}}};
     QVERIFY(load(write(sketch, "a.shp"))->report.error.contains(QStringLiteral("names no coordinate system")));
+}
+
+void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("definition");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("words") << QByteArray("somewhere in the\nnorth field")
+                           << "its coordinate system (a.prj) cannot be read";
+    QTest::newRow("bytes") << QByteArray("\x00\xff\x07\n\x80", 5) << "its coordinate system (a.prj) cannot be read";
+    QTest::newRow("cut short") << QByteArray("PROJCS[\"WGS 84 / UTM") << "its coordinate system (a.prj) cannot be read";
+    QTest::newRow("blank") << QByteArray(" \n") << "names no coordinate system";
+}
+
+void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead()
+{
+    QFETCH(QByteArray, definition);
+    QFETCH(QString, said);
+    LayerSketch sketch;
+    sketch.epsg = 0;
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
+    const QString path = write(sketch, "a.shp");
+    QFile file(folder.filePath(QStringLiteral("a.prj")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(definition) == definition.size());
+    file.close();
+    const auto map = load(path);
+    QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
+    QCOMPARE(map->report.warnings,
+             QStringList(path + QStringLiteral(": ") + said + QStringLiteral("; taken as WGS 84")));
+    sketch.rows = {{squareText(700000.0, 5300000.0, 100.0), {1.0}}};
+    QCOMPARE(write(sketch, "a.shp"), path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(definition) == definition.size());
+    file.close();
+    QCOMPARE(load(path)->report.error,
+             path + QStringLiteral(": ") + said
+                 + QStringLiteral(", and its coordinates are no longitudes and latitudes"));
 }
 
 void PrescriptionLoaderTest::repairsAndCountsABrokenRing()

@@ -9,6 +9,7 @@ private Q_SLOTS:
     void saysWhyItCannotLoad();
     void refusesARequestThatMakesNoSense_data();
     void refusesARequestThatMakesNoSense();
+    void refusesNamedColumnsWithoutRates();
     void refusesATruncatedShapefile();
     void refusesShapefilesWhosePartsDoNotFit();
     void countsWhatItSkipsButRefusesWhenNothingIsLeft();
@@ -30,7 +31,7 @@ void PrescriptionLoaderRefusalsTest::saysWhyItCannotLoad_data()
     QTest::newRow("a ring on one line") << "POLYGON ((11 48, 11.001 48, 11.002 48, 11 48))" << QByteArray("POLYGON")
                                         << QVariant(1.0) << "encloses anything";
     QTest::newRow("nothing but null rates")
-        << square << QByteArray("POLYGON") << QVariant() << "no column that looks like a rate";
+        << square << QByteArray("POLYGON") << QVariant() << "holds no rates: no record has one in rate";
     QTest::newRow("half the globe") << squareText(-90.0, -80.0, 150.0) << QByteArray("POLYGON") << QVariant(1.0)
                                     << "extends over";
     QTest::newRow("beyond the globe") << squareText(5000.0, 48.0, 1.0) << QByteArray("POLYGON") << QVariant(1.0)
@@ -78,6 +79,18 @@ void PrescriptionLoaderRefusalsTest::refusesARequestThatMakesNoSense()
     LoadRequest request = requestFor(fixture("three-zones.geojson"), columns);
     request.rateCalNames = products;
     QVERIFY2(load(request)->report.error.contains(reason), qPrintable(load(request)->report.error));
+}
+
+void PrescriptionLoaderRefusalsTest::refusesNamedColumnsWithoutRates()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"RATE_A", 1.0}, {"RATE_B", 1.0}};
+    for (int i = 0; i < 3; ++i)
+        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {QVariant(), QVariant()}});
+    const QString path = write(sketch, "a.shp");
+    QCOMPARE(load(path)->report.error, path + QStringLiteral(": holds no rates: no record has one in RATE_A, RATE_B"));
+    QCOMPARE(load(path, {QStringLiteral("RATE_B")})->report.error,
+             path + QStringLiteral(": column \"RATE_B\" holds no rates"));
 }
 
 void PrescriptionLoaderRefusalsTest::refusesATruncatedShapefile()

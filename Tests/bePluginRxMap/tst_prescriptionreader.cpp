@@ -30,7 +30,9 @@ private Q_SLOTS:
     void readsAColumnThatSharesItsName();
     void readsShapesBesideAColumnOfTheirName();
     void refusesAColumnThatIsNotThere();
+    void refusesAColumnThatHoldsNoNumbers_data();
     void refusesAColumnThatHoldsNoNumbers();
+    void leavesTrueAndFalseOutOfTheLikelyColumns();
     void takesTheFirstLayerWithPolygons();
     void refusesFilesThatItCannotRead_data();
     void refusesFilesThatItCannotRead();
@@ -304,8 +306,17 @@ void PrescriptionReaderTest::refusesAColumnThatIsNotThere()
              qPrintable(error));
 }
 
+void PrescriptionReaderTest::refusesAColumnThatHoldsNoNumbers_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("a list") << QByteArray("[1.0, 2.0]");
+    QTest::newRow("true") << QByteArray("true");
+    QTest::newRow("false") << QByteArray("false");
+}
+
 void PrescriptionReaderTest::refusesAColumnThatHoldsNoNumbers()
 {
+    QFETCH(QByteArray, value);
     LayerSketch sketch;
     sketch.driver = "GeoJSON";
     sketch.fields = {{"rate", 1.0}};
@@ -314,12 +325,26 @@ void PrescriptionReaderTest::refusesAColumnThatHoldsNoNumbers()
     QFile file(path("a.geojson"));
     QVERIFY(file.open(QIODevice::ReadWrite));
     QByteArray text = file.readAll();
-    text.replace("\"rate\": 1.0", "\"rate\": [1.0, 2.0]");
+    text.replace("\"rate\": 1.0", "\"rate\": " + value);
     file.resize(0);
     file.write(text);
     file.close();
     QVERIFY(!read(path("a.geojson"), {QStringLiteral("rate")}));
     QCOMPARE(error, QStringLiteral("column \"rate\" holds no numbers"));
+}
+
+void PrescriptionReaderTest::leavesTrueAndFalseOutOfTheLikelyColumns()
+{
+    QFile file(path("a.geojson"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"type": "FeatureCollection", "features": [{"type": "Feature",
+        "properties": {"rate": true, "rate_b": 7.5},
+        "geometry": {"type": "Polygon", "coordinates": [[[11, 48], [11.001, 48], [11, 48.001], [11, 48]]]}}]})");
+    file.close();
+    QVERIFY2(read(path("a.geojson")), qPrintable(error));
+    QCOMPARE(map.columns.size(), size_t(1));
+    QCOMPARE(map.columns[0].name, QStringLiteral("rate_b"));
+    QCOMPARE(map.columnNames, QStringList({QStringLiteral("rate"), QStringLiteral("rate_b")}));
 }
 
 void PrescriptionReaderTest::takesTheFirstLayerWithPolygons()
