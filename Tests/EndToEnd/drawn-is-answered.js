@@ -1,5 +1,5 @@
 // Compares, at random field points, the class of the drawn colour with the class of the answered rate. Expects `path`,
-// `options` and `points` to be set. Points within a pixel of an edge, and where polygons overlap, are left out.
+// `options` and `points` to be set. Points that disagree within a pixel of an edge are left out.
 
 var seed = 12345;
 function random() {
@@ -57,6 +57,20 @@ var ground = terminal.mapColor(bounds.minX - 0.04 * width, bounds.minY - 0.04 * 
 var mappings = terminal.get(map.group, "rateCalMappings");
 var compared = 0, covered = 0, mixed = 0, edges = 0, wrong = 0;
 
+function isColorEdge(sample) {
+  return steps.some(function (step) {
+    return !isClose(sample.color, terminal.mapColor(sample.x + step[0] * pixel, sample.y + step[1] * pixel));
+  });
+}
+
+// A strip narrower than a pixel need not be drawn where it is answered.
+function isAnswerEdge(sample, product, legend) {
+  return steps.some(function (step) {
+    var there = answeredClass(sample.x + step[0] * pixel, sample.y + step[1] * pixel, product, legend);
+    return there !== sample.answered;
+  });
+}
+
 for (var product = 0; product < map.columns.length; ++product) {
   // Columns feed the products that their names suit; a mapping's name ends with the product's number.
   terminal.activeProduct = parseInt(mappings[product].rateCalName.match(/\d+/)[0]);
@@ -67,27 +81,22 @@ for (var product = 0; product < map.columns.length; ++product) {
     var x = bounds.minX + random() * width;
     var y = bounds.minY + random() * height;
     var color = terminal.mapColor(x, y);
-    var isEdge = steps.some(function (step) {
-      return !isClose(color, terminal.mapColor(x + step[0] * pixel, y + step[1] * pixel));
-    });
-    var drawn = drawnClass(color, legend, ground);
-    if (isEdge) ++edges;
-    else if (drawn === -2) ++mixed;
-    else samples.push({ x: x, y: y, color: color, drawn: drawn });
+    samples.push({ x: x, y: y, color: color, drawn: drawnClass(color, legend, ground) });
   }
-  samples.forEach(function (sample, number) {
-    var answered = answeredClass(sample.x, sample.y, product, legend);
-    // A strip narrower than a pixel need not be drawn where it is answered.
-    var isAnswerEdge = steps.some(function (step) {
-      return answeredClass(sample.x + step[0] * pixel, sample.y + step[1] * pixel, product, legend) !== answered;
-    });
-    if (isAnswerEdge) { ++edges; return; }
+  var doubtful = samples.filter(function (sample, number) {
+    sample.answered = answeredClass(sample.x, sample.y, product, legend);
+    sample.touched = number < 20 ? touchedClass(sample.x, sample.y, legend) : sample.answered;
+    if (sample.answered !== sample.drawn || sample.touched !== sample.drawn) return true;
     ++compared;
     if (sample.drawn >= 0) ++covered;
-    var touched = number < 20 ? touchedClass(sample.x, sample.y, legend) : answered;
-    if (answered === sample.drawn && touched === sample.drawn) return;
+    return false;
+  });
+  doubtful.forEach(function (sample) {
+    if (isColorEdge(sample) || isAnswerEdge(sample, product, legend)) { ++edges; return; }
+    if (sample.drawn === -2) { ++mixed; return; }
+    ++compared;
     ++wrong;
-    if (wrong < 6) print("at", sample.x, sample.y, "drawn", sample.drawn, sample.color, "answered", answered, touched);
+    if (wrong < 6) print("wrong at", JSON.stringify(sample));
   });
 }
 print(JSON.stringify({ compared: compared, covered: covered, mixed: mixed, edges: edges, wrong: wrong,

@@ -1,5 +1,13 @@
+#include "activemap.h"
+#include "fieldscene.h"
+#include "fieldview.h"
+#include "machine.h"
 #include "simulatorrun.h"
+#include "terminalhost.h"
+#include "terminalwindow.h"
 #include "testbase.h"
+
+#include "bePluginRxMap/dbgrouprxmap.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -12,31 +20,115 @@ class TestDrawnIsAnswered : public TestBase {
 private Q_SLOTS:
     void classesAgree_data();
     void classesAgree();
+    void aMapTooWideForOneLookAgreesUpClose();
 };
+
+namespace {
+
+/// What a comparison of drawn with answered colours found.
+struct Comparison {
+    int compared = 0;
+    int covered = 0; ///< Of these, on polygons.
+    int wrong = 0;
+    QString firstWrong;
+};
+
+bool isNear(const QColor &a, const QColor &b)
+{
+    constexpr int tolerance = 3;
+    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance
+        && std::abs(a.blue() - b.blue()) <= tolerance;
+}
+
+/// Looks at parts of the active product's map from near and compares there, point by point.
+class CloseLook {
+public:
+    explicit CloseLook(Terminal &terminal)
+        : terminal(terminal)
+        , map(ActiveMap::find(*terminal.broker(), Machine::productGroupName(terminal.machine()->activeProduct())))
+    {
+    }
+
+    void compareIn(const QRectF &area)
+    {
+        constexpr int steps = 12;
+        terminal.window()->fieldView()->frame(area);
+        for (int i = 0; i < steps * steps; ++i)
+            compareAt(QPointF(area.left() + area.width() * (0.5 + i % steps) / steps,
+                              area.top() + area.height() * (0.5 + i / steps) / steps));
+    }
+
+    Comparison found;
+
+private:
+    QColor answeredAt(const QPointF &point) const
+    {
+        return terminal.touch(point).isEmpty() ? FieldScene::groundColor()
+                                               : FieldScene::onGround(map.queriedColor(*terminal.broker()));
+    }
+
+    void compareAt(const QPointF &point)
+    {
+        const QColor answered = answeredAt(point);
+        const QColor drawn = terminal.mapColor(point);
+        const bool agrees = isNear(drawn, answered);
+        if (!agrees && isAtEdge(point, answered))
+            return;
+        ++found.compared;
+        found.covered += answered == FieldScene::groundColor() ? 0 : 1;
+        if (agrees)
+            return;
+        if (++found.wrong == 1)
+            found.firstWrong = QStringLiteral("%1,%2 is drawn %3, answered %4")
+                                   .arg(point.x())
+                                   .arg(point.y())
+                                   .arg(drawn.name(), answered.name());
+    }
+
+    /// Within a pixel of an edge, what is drawn may be what is answered beside the point.
+    bool isAtEdge(const QPointF &point, const QColor &answered) const
+    {
+        const double pixel = 1.5 * terminal.window()->fieldView()->camera().metresPerPixel(point);
+        for (int i = 0; i < 9; ++i) {
+            if (answeredAt(point + pixel * QPointF(i % 3 - 1, i / 3 - 1)) != answered)
+                return true;
+        }
+        return false;
+    }
+
+    Terminal &terminal;
+    ActiveMap map;
+};
+
+QRectF boundsOf(const OrvikTypes::RX_POLYGON &polygon)
+{
+    QPolygonF ring;
+    for (unsigned int i = 0; i < polygon.vertexCount; ++i)
+        ring.append(QPointF(polygon.vertices[i].x, polygon.vertices[i].y));
+    return ring.boundingRect();
+}
+
+} // namespace
 
 void TestDrawnIsAnswered::classesAgree_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("options");
-    QTest::newRow("sample field") << sampleField() << "{}";
+    QTest::newRow("sample field") << sampleField();
     for (const char *name :
          {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
           "cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp", "blocks-utm/treatment_blocks.shp",
           "blocks-utm/treatment_blocks.gpkg", "zones-geojson/app_map_vector.geojson",
           "zones-geojson/isoxmljs_test.geojson"})
-        QTest::newRow(name) << realData(QString::fromLatin1(name)) << "{}";
-    QTest::newRow("parcels-holes/parcels.shp")
-        << realData(QStringLiteral("parcels-holes/parcels.shp")) << "{columns: [\"AREA_HA\"]}";
+        QTest::newRow(name) << realData(QString::fromLatin1(name));
 }
 
 void TestDrawnIsAnswered::classesAgree()
 {
     QFETCH(QString, file);
-    QFETCH(QString, options);
     if (file.isEmpty())
         QSKIP("no folder with real prescriptions beside the project");
     QVERIFY2(QFileInfo::exists(file), qPrintable(file));
-    const QString head = QStringLiteral("var path = \"%1\"; var options = %2; var points = 400;\n").arg(file, options);
+    const QString head = QStringLiteral("var path = \"%1\"; var options = {}; var points = 400;\n").arg(file);
     const SimulatorRun run = runScript(head + scriptText(QStringLiteral("drawn-is-answered.js")));
     const QString said = run.output.join(QLatin1Char('\n')) + run.errors;
     QVERIFY2(run.exitCode == 0, qPrintable(said));
@@ -45,8 +137,36 @@ void TestDrawnIsAnswered::classesAgree()
     // Colours that are no class's are left out of the comparison, so there may be next to none.
     QVERIFY2(result.value(QStringLiteral("mixedShare")).toDouble(1.0) <= 0.01, qPrintable(said));
     // Enough points lie far from edges, on the map and beside it, to mean something.
-    QVERIFY2(result.value(QStringLiteral("compared")).toInt() > 200, qPrintable(said));
+    const int compared = result.value(QStringLiteral("compared")).toInt();
+    QVERIFY2(compared > 200, qPrintable(said));
+    // Bare ground alone would say nothing.
+    QVERIFY2(5 * result.value(QStringLiteral("covered")).toInt() >= compared, qPrintable(said));
     qInfo("%s", qPrintable(run.output.constLast()));
+}
+
+void TestDrawnIsAnswered::aMapTooWideForOneLookAgreesUpClose()
+{
+    RXMAP_NEED_REAL_DATA();
+    constexpr int looks = 15;
+    TerminalHost host;
+    QCOMPARE(host.problem(), QString());
+    const LoadReport report =
+        host.terminal().open(realData(QStringLiteral("parcels-holes/parcels.shp")), {QStringLiteral("AREA_HA")});
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    auto *group = qobject_cast<DbGroupRxMap *>(host.terminal().broker()->getGroup(report.group, false));
+    QVERIFY(group);
+    CloseLook look(host.terminal());
+    int outer = 0;
+    for (auto *polygon = static_cast<const OrvikTypes::RX_POLYGON *>(group->getPolygonBuffer()); polygon != nullptr;
+         polygon = polygon->next) {
+        if (!polygon->isHole && outer++ % (report.outers / looks) == 0)
+            look.compareIn(boundsOf(*polygon));
+    }
+    const Comparison &found = look.found;
+    qInfo("%d compared, %d of them on polygons", found.compared, found.covered);
+    QVERIFY2(found.wrong == 0, qPrintable(found.firstWrong));
+    QVERIFY2(found.compared >= 100 * looks, qPrintable(QString::number(found.compared)));
+    QVERIFY2(3 * found.covered >= found.compared, qPrintable(QString::number(found.covered)));
 }
 
 QTEST_MAIN(TestDrawnIsAnswered)
