@@ -1,0 +1,89 @@
+#include "framepace.h"
+#include "testbase.h"
+
+#include <QPaintEvent>
+#include <QWidget>
+
+namespace {
+
+/// Counts how often it is drawn.
+class Canvas : public QWidget {
+public:
+    int drawings = 0;
+
+protected:
+    void paintEvent(QPaintEvent *) override { ++drawings; }
+};
+
+} // namespace
+
+/// Changes that come faster than frames.
+class TestFramePace : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void requestsWithinAFrameShareItsDrawing();
+    void nothingIsDrawnBeforeTheEventLoopTurns();
+    void requestsWithoutEndDoNotPutTheDrawingOff();
+    void aLaterRequestIsDrawnAgain();
+
+private:
+    QScopedPointer<Canvas> canvas;
+    QScopedPointer<FramePace> pace;
+};
+
+void TestFramePace::init()
+{
+    TestBase::init();
+    canvas.reset(new Canvas);
+    canvas->resize(50, 50);
+    canvas->show();
+    QVERIFY(QTest::qWaitForWindowExposed(canvas.data()));
+    pace.reset(new FramePace(canvas.data()));
+    QCoreApplication::processEvents();
+    canvas->drawings = 0;
+}
+
+void TestFramePace::cleanup()
+{
+    pace.reset();
+    canvas.reset();
+    TestBase::cleanup();
+}
+
+void TestFramePace::requestsWithinAFrameShareItsDrawing()
+{
+    for (int i = 0; i < 1000; ++i)
+        pace->request();
+    QTRY_COMPARE(canvas->drawings, 1);
+    // Another frame's time brings no second one.
+    QTest::qWait(60);
+    QCOMPARE(canvas->drawings, 1);
+}
+
+void TestFramePace::nothingIsDrawnBeforeTheEventLoopTurns()
+{
+    pace->request();
+    QCOMPARE(canvas->drawings, 0);
+}
+
+void TestFramePace::requestsWithoutEndDoNotPutTheDrawingOff()
+{
+    QTimer changes;
+    connect(&changes, &QTimer::timeout, canvas.data(), [this] { pace->request(); });
+    changes.start(1);
+    QTRY_VERIFY(canvas->drawings >= 3);
+}
+
+void TestFramePace::aLaterRequestIsDrawnAgain()
+{
+    for (int drawn = 1; drawn <= 3; ++drawn) {
+        pace->request();
+        QTRY_COMPARE(canvas->drawings, drawn);
+    }
+}
+
+QTEST_MAIN(TestFramePace)
+#include "tst_framepace.moc"
