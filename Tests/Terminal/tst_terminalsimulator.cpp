@@ -15,19 +15,10 @@ private Q_SLOTS:
     void badArgumentsEndWithOneLine_data();
     void badArgumentsEndWithOneLine();
     void helpIsPrinted();
-    void likelyColumnsAreReportedOnceForAFileThatIsNamedTwice();
-    void aPointIsDescribed_data();
-    void aPointIsDescribed();
+    void aPointIsDescribedInTheOperatorsUnits();
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
-    void columnsAreTakenFromTheFilesThatHaveThem();
-    void aFileThatIsToFeedNothingIsNotOpened();
-    void theColumnsThatFeedInTheEndAreReported();
-    void whatALoadCountsIsTold_data();
-    void whatALoadCountsIsTold();
-    void aProductThatNoPrescriptionDrivesIsFedByNone();
     void brokenPluginsAreReportedAndSkipped();
-    void productsComeFromAFile();
     void withoutADisplayItSaysSo_data();
     void withoutADisplayItSaysSo();
     void withoutOpenGlItSaysSo();
@@ -77,20 +68,7 @@ void TestTerminalSimulator::badArgumentsEndWithOneLine_data()
     QTest::newRow("unknown option") << QStringList{"--colour"} << "colour";
     QTest::newRow("unknown units") << QStringList{"--units", "metres"} << "metres";
     QTest::newRow("missing prescription") << QStringList{"/no/such.shp"} << "/no/such.shp";
-    QTest::newRow("folder") << QStringList{"/tmp"} << "/tmp";
-    QTest::newRow("text file") << QStringList{TerminalHost::fixture("README.md")} << "README.md";
-    QTest::newRow("second file bad") << QStringList{zones(), "/no/such.shp"} << "/no/such.shp";
-    QTest::newRow("missing column") << QStringList{"--columns", "NOPE", zones()} << "NOPE";
-    QTest::newRow("column in no file") << QStringList{"--columns", "SEED_K_HA,NOPE", zones(),
-                                                      TerminalHost::fixture("overlap.geojson")}
-                                       << "NOPE";
-    QTest::newRow("more columns than products")
-        << QStringList{"--columns", "SEED_K_HA,,,FERT_KG_HA", zones()} << "4 columns";
     QTest::newRow("bad products") << QStringList{"--products", write("[]", "empty.json")} << "empty.json";
-    QTest::newRow("no plug-in") << QStringList{"--plugin-dir", folder.path()} << folder.path();
-    QTest::newRow("unknown language") << QStringList{"--language", "xx"} << "xx";
-    QTest::newRow("picture in no folder")
-        << QStringList{"--screenshot", "/no/such/folder/p.png"} << "/no/such/folder/p.png";
 }
 
 void TestTerminalSimulator::badArgumentsEndWithOneLine()
@@ -113,48 +91,12 @@ void TestTerminalSimulator::helpIsPrinted()
         QVERIFY2(outcome.output.contains(QLatin1String(option)), option);
 }
 
-void TestTerminalSimulator::likelyColumnsAreReportedOnceForAFileThatIsNamedTwice()
+void TestTerminalSimulator::aPointIsDescribedInTheOperatorsUnits()
 {
-    const QString again = QStringLiteral("%1/../fixtures/three-zones.geojson").arg(QFileInfo(zones()).path());
-    const Outcome once = run({"--describe", "0,0", zones()});
-    QVERIFY2(once.status == 0, qPrintable(once.errors));
-    for (const char *column : {"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA"})
-        QVERIFY2(once.output.contains(QLatin1String(column)), qPrintable(once.output));
-    QVERIFY(!once.output.contains(QLatin1String("area_ha")));
-    const Outcome twice = run({"--describe", "0,0", zones(), again});
-    QCOMPARE(twice.status, 0);
-    QCOMPARE(twice.output, once.output);
-    QCOMPARE(twice.errors, QString());
-}
-
-void TestTerminalSimulator::aPointIsDescribed_data()
-{
-    QTest::addColumn<QString>("point");
-    QTest::addColumn<QString>("units");
-    QTest::addColumn<QString>("line");
-    QTest::newRow("west") << "-100,0"
-                          << "metric"
-                          << "Rx Rate: 70.00";
-    QTest::newRow("per acre") << "-100,0"
-                              << "us"
-                              << "Rx Rate: 28.33";
-    QTest::newRow("per 1000 square feet") << "-100,0"
-                                          << "turf"
-                                          << "Rx Rate: 0.65";
-    QTest::newRow("outside") << "-1000,0"
-                             << "metric"
-                             << "No rate is prescribed at -1000,0";
-}
-
-void TestTerminalSimulator::aPointIsDescribed()
-{
-    QFETCH(QString, point);
-    QFETCH(QString, units);
-    QFETCH(QString, line);
-    const Outcome outcome =
-        run({"--language", "en", "--describe", point, "--units", units, "--columns", "SEED_K_HA", zones()});
+    const Outcome outcome = run({"--describe", "-100,0", "--units", "us", "--columns", "SEED_K_HA", zones()});
     QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QCOMPARE(outcome.output, line + QLatin1Char('\n'));
+    QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 28.33\n"));
+    QCOMPARE(outcome.errors, QString());
 }
 
 void TestTerminalSimulator::aPictureIsSaved()
@@ -178,80 +120,6 @@ void TestTerminalSimulator::aScriptsResultIsTheExitStatus()
     QVERIFY2(bad.errors.startsWith(QLatin1String("terminal-simulator: ")), qPrintable(bad.errors));
 }
 
-void TestTerminalSimulator::columnsAreTakenFromTheFilesThatHaveThem()
-{
-    const QString script = write("print(terminal.get('system.binGroup.1', 'rxMapGroupName'),"
-                                 " terminal.get('system.binGroup.2', 'rxMapGroupName'));",
-                                 "feeds.js");
-    const Outcome outcome = run({"--columns", "RATE,FERT_KG_HA", "--script", script, zones(),
-                                 TerminalHost::fixture(QStringLiteral("overlap.geojson"))});
-    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QCOMPARE(outcome.output, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
-}
-
-void TestTerminalSimulator::aFileThatIsToFeedNothingIsNotOpened()
-{
-    const QString script = write("print(terminal.groups('rxMap.*'), terminal.get('system.binGroup.1',"
-                                 " 'rxMapGroupName'));",
-                                 "opened.js");
-    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
-    const Outcome outcome = run({"--columns", "SEED_K_HA", "--script", script, zones(), other});
-    QCOMPARE(outcome.status, 0);
-    QCOMPARE(outcome.output, QStringLiteral("rxMap.three-zones.geojson rxMap.three-zones.geojson\n"));
-    QCOMPARE(outcome.errors, other + QStringLiteral(": not opened, it feeds no product\n"));
-}
-
-void TestTerminalSimulator::theColumnsThatFeedInTheEndAreReported()
-{
-    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
-    const Outcome outcome = run({"--describe", "-1000,0", zones(), other});
-    QCOMPARE(outcome.status, 0);
-    QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
-    QVERIFY(outcome.output.contains(zones() + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")));
-    QVERIFY(outcome.output.contains(other + QStringLiteral(": product 1 (Seed): rate\n")));
-}
-
-void TestTerminalSimulator::whatALoadCountsIsTold_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("likely columns") << QStringList{};
-    QTest::newRow("a column by name") << QStringList{"--columns", "Rate"};
-    QTest::newRow("a column by name, two files")
-        << QStringList{"--columns", "Rate,SEED_K_HA", TerminalHost::fixture("three-zones.geojson")};
-}
-
-void TestTerminalSimulator::whatALoadCountsIsTold()
-{
-    QFETCH(QStringList, options);
-    const QString path = TerminalHost::fixture(QStringLiteral("text-rates.geojson"));
-    const Outcome outcome = run(options + QStringList{"--describe", "0,0", path});
-    QCOMPARE(outcome.status, 0);
-    QStringList lines = outcome.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    lines.sort();
-    QCOMPARE(lines,
-             QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
-                          path + QStringLiteral(": 2 records without a rate were skipped")}));
-}
-
-void TestTerminalSimulator::aProductThatNoPrescriptionDrivesIsFedByNone()
-{
-    const QString products =
-        write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false}])",
-              "water.json");
-    const QString script =
-        write("print(terminal.get('rxMap.three-zones.geojson', 'rateCalMappings').length)", "count.js");
-    const Outcome some =
-        run({"--products", products, "--columns", "FERT_KG_HA,HERB_L_HA", "--script", script, zones()});
-    QVERIFY2(some.status == 0, qPrintable(some.errors));
-    QCOMPARE(some.output, QStringLiteral("1\n"));
-    const QString reason =
-        zones() + QStringLiteral(": column \"HERB_L_HA\" is left out, product 2 (Water) takes no prescription\n");
-    QCOMPARE(some.errors, reason);
-    const Outcome none = run({"--products", products, "--columns", ",HERB_L_HA", "--script", script, zones()});
-    QCOMPARE(none.status, 1);
-    QCOMPARE(none.errors, QStringLiteral("terminal-simulator: ") + reason);
-}
-
 void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
 {
     QTemporaryDir plugins;
@@ -266,19 +134,6 @@ void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
     QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 80.00\n"));
     QCOMPARE(outcome.errors, QStringLiteral("libbroken.so: is no shared library\n"));
-}
-
-void TestTerminalSimulator::productsComeFromAFile()
-{
-    const QString products =
-        write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false},
-                    {"name": "Urea", "kind": "weight"}])",
-              "machine.json");
-    const Outcome outcome = run({"--products", products, "--describe", "0,0", zones()});
-    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QVERIFY2(outcome.output.contains(QLatin1String("product 1 (Lime)")), qPrintable(outcome.output));
-    QVERIFY(!outcome.output.contains(QLatin1String("Water")));
-    QVERIFY(outcome.output.contains(QLatin1String("product 3 (Urea)")));
 }
 
 void TestTerminalSimulator::withoutADisplayItSaysSo_data()

@@ -1,0 +1,280 @@
+#include "commandline.h"
+#include "paths.h"
+#include "streamcapture.h"
+#include "terminalhost.h"
+#include "terminalrun.h"
+#include "testbase.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QThread>
+
+/// What the command line asks for, done in this process.
+class TestTerminalRun : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatCannotBeDoneIsOneLine_data();
+    void whatCannotBeDoneIsOneLine();
+    void tasksAreDoneInTheirOrder();
+    void aScriptThatFailsEndsTheTasks();
+    void withoutATaskItRunsUntilTheDisplayIsClosed();
+    void aDisplayThatIsClosedWhileMapsLoadEndsTheRun();
+    void likelyColumnsAreReportedOnceForAFileThatIsNamedTwice();
+    void aPointIsDescribed_data();
+    void aPointIsDescribed();
+    void columnsAreTakenFromTheFilesThatHaveThem();
+    void aFileThatIsToFeedNothingIsNotOpened();
+    void theColumnsThatFeedInTheEndAreReported();
+    void whatALoadCountsIsTold_data();
+    void whatALoadCountsIsTold();
+    void aProductThatNoPrescriptionDrivesIsFedByNone();
+    void productsComeFromAFile();
+
+private:
+    struct Outcome {
+        QString error;
+        QString output;
+        QString errors;
+    };
+
+    static Outcome run(const QStringList &arguments);
+    static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
+    QString write(const QByteArray &content, const QString &name);
+
+    QTemporaryDir folder;
+};
+
+TestTerminalRun::Outcome TestTerminalRun::run(const QStringList &arguments)
+{
+    const Result<CommandLine> line = CommandLine::parse(QStringList(QStringLiteral("terminal-simulator")) + arguments);
+    if (!line.isOk())
+        return {QStringLiteral("not understood: ") + line.error, {}, {}};
+    Outcome outcome;
+    const StreamCapture output(stdout);
+    const StreamCapture errors(stderr);
+    outcome.error = runTerminal(line.value);
+    outcome.output = output.written();
+    outcome.errors = errors.written();
+    return outcome;
+}
+
+QString TestTerminalRun::write(const QByteArray &content, const QString &name)
+{
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+}
+
+void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("mentioned");
+    QTest::newRow("missing prescription") << QStringList{"/no/such.shp"} << "/no/such.shp";
+    QTest::newRow("bad products") << QStringList{"--products", write("[]", "empty.json")} << "empty.json";
+    QTest::newRow("folder") << QStringList{"/tmp"} << "/tmp";
+    QTest::newRow("text file") << QStringList{TerminalHost::fixture("README.md")} << "README.md";
+    QTest::newRow("second file bad") << QStringList{zones(), "/no/such.shp"} << "/no/such.shp";
+    QTest::newRow("missing column") << QStringList{"--columns", "NOPE", zones()} << "NOPE";
+    QTest::newRow("column in no file") << QStringList{"--columns", "SEED_K_HA,NOPE", zones(),
+                                                      TerminalHost::fixture("overlap.geojson")}
+                                       << "NOPE";
+    QTest::newRow("more columns than products")
+        << QStringList{"--columns", "SEED_K_HA,,,FERT_KG_HA", zones()} << "4 columns";
+    QTest::newRow("no plug-in") << QStringList{"--plugin-dir", folder.path()} << folder.path();
+    QTest::newRow("unknown language") << QStringList{"--language", "xx"} << "xx";
+    QTest::newRow("picture in no folder")
+        << QStringList{"--screenshot", "/no/such/folder/p.png"} << "/no/such/folder/p.png";
+}
+
+void TestTerminalRun::whatCannotBeDoneIsOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, mentioned);
+    const Outcome outcome = run(arguments);
+    QVERIFY2(outcome.error.contains(mentioned), qPrintable(outcome.error));
+    QVERIFY2(!outcome.error.contains(QLatin1Char('\n')), qPrintable(outcome.error));
+    QVERIFY2(!outcome.error.startsWith(QLatin1String("not understood")), qPrintable(outcome.error));
+    QCOMPARE(outcome.errors, QString());
+}
+
+void TestTerminalRun::tasksAreDoneInTheirOrder()
+{
+    const QString picture = folder.filePath(QStringLiteral("map.png"));
+    const QString script =
+        write("print(terminal.activeProduct); terminal.close(terminal.groups('rxMap.*')[0]);", "t.js");
+    const Outcome outcome =
+        run({"--columns", "SEED_K_HA", "--script", script, "--screenshot", picture, "--describe", "0,0", zones()});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 80.00\n1\n"));
+    QCOMPARE(QImage(picture).size(), QSize(1280, 800));
+    // The script has taken the map away before the picture was taken.
+    const QString before = folder.filePath(QStringLiteral("before.png"));
+    QCOMPARE(run({"--columns", "SEED_K_HA", "--screenshot", before, "--describe", "0,0", zones()}).error, QString());
+    const QRect field(500, 300, 200, 200);
+    QVERIFY(QImage(picture).copy(field) != QImage(before).copy(field));
+}
+
+void TestTerminalRun::aScriptThatFailsEndsTheTasks()
+{
+    const QString picture = folder.filePath(QStringLiteral("never.png"));
+    const Outcome outcome =
+        run({"--script", write("print('before');\nterminal.get('x', 'y');", "bad.js"), "--screenshot", picture});
+    QCOMPARE(outcome.error, folder.filePath("bad.js") + QStringLiteral(":2: Error: no group \"x\""));
+    QCOMPARE(outcome.output, QStringLiteral("before\n"));
+    QVERIFY(!QFileInfo::exists(picture));
+}
+
+void TestTerminalRun::withoutATaskItRunsUntilTheDisplayIsClosed()
+{
+    bool hasRun = false;
+    QTimer closing;
+    connect(&closing, &QTimer::timeout, this, [&hasRun] {
+        if (QThread::currentThread()->loopLevel() == 0)
+            return;
+        hasRun = true;
+        QApplication::closeAllWindows();
+    });
+    closing.start(0);
+    QCOMPARE(run({}).error, QString());
+    QVERIFY(hasRun);
+}
+
+void TestTerminalRun::aDisplayThatIsClosedWhileMapsLoadEndsTheRun()
+{
+    QTimer::singleShot(0, this, &QApplication::closeAllWindows);
+    QCOMPARE(run({zones()}).error, QString());
+}
+
+void TestTerminalRun::likelyColumnsAreReportedOnceForAFileThatIsNamedTwice()
+{
+    const QString again = QStringLiteral("%1/../fixtures/three-zones.geojson").arg(QFileInfo(zones()).path());
+    const Outcome once = run({"--describe", "0,0", zones()});
+    QCOMPARE(once.error, QString());
+    for (const char *column : {"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA"})
+        QVERIFY2(once.output.contains(QLatin1String(column)), qPrintable(once.output));
+    QVERIFY(!once.output.contains(QLatin1String("area_ha")));
+    const Outcome twice = run({"--describe", "0,0", zones(), again});
+    QCOMPARE(twice.error, QString());
+    QCOMPARE(twice.output, once.output);
+    QCOMPARE(twice.errors, QString());
+}
+
+void TestTerminalRun::aPointIsDescribed_data()
+{
+    QTest::addColumn<QString>("point");
+    QTest::addColumn<QString>("units");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("west") << "-100,0"
+                          << "metric"
+                          << "Rx Rate: 70.00";
+    QTest::newRow("per acre") << "-100,0"
+                              << "us"
+                              << "Rx Rate: 28.33";
+    QTest::newRow("per 1000 square feet") << "-100,0"
+                                          << "turf"
+                                          << "Rx Rate: 0.65";
+    QTest::newRow("outside") << "-1000,0"
+                             << "metric"
+                             << "No rate is prescribed at -1000,0";
+}
+
+void TestTerminalRun::aPointIsDescribed()
+{
+    QFETCH(QString, point);
+    QFETCH(QString, units);
+    QFETCH(QString, line);
+    const Outcome outcome = run({"--describe", point, "--units", units, "--columns", "SEED_K_HA", zones()});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, line + QLatin1Char('\n'));
+}
+
+void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
+{
+    const QString script = write("print(terminal.get('system.binGroup.1', 'rxMapGroupName'),"
+                                 " terminal.get('system.binGroup.2', 'rxMapGroupName'));",
+                                 "feeds.js");
+    const Outcome outcome = run({"--columns", "RATE,FERT_KG_HA", "--script", script, zones(),
+                                 TerminalHost::fixture(QStringLiteral("overlap.geojson"))});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
+}
+
+void TestTerminalRun::aFileThatIsToFeedNothingIsNotOpened()
+{
+    const QString script = write("print(terminal.groups('rxMap.*'), terminal.get('system.binGroup.1',"
+                                 " 'rxMapGroupName'));",
+                                 "opened.js");
+    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
+    const Outcome outcome = run({"--columns", "SEED_K_HA", "--script", script, zones(), other});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, QStringLiteral("rxMap.three-zones.geojson rxMap.three-zones.geojson\n"));
+    QCOMPARE(outcome.errors, other + QStringLiteral(": not opened, it feeds no product\n"));
+}
+
+void TestTerminalRun::theColumnsThatFeedInTheEndAreReported()
+{
+    const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
+    const Outcome outcome = run({"--describe", "-1000,0", zones(), other});
+    QCOMPARE(outcome.error, QString());
+    QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
+    QVERIFY(outcome.output.contains(zones() + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")));
+    QVERIFY(outcome.output.contains(other + QStringLiteral(": product 1 (Seed): rate\n")));
+}
+
+void TestTerminalRun::whatALoadCountsIsTold_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("likely columns") << QStringList{};
+    QTest::newRow("a column by name") << QStringList{"--columns", "Rate"};
+    QTest::newRow("a column by name, two files")
+        << QStringList{"--columns", "Rate,SEED_K_HA", TerminalHost::fixture("three-zones.geojson")};
+}
+
+void TestTerminalRun::whatALoadCountsIsTold()
+{
+    QFETCH(QStringList, options);
+    const QString path = TerminalHost::fixture(QStringLiteral("text-rates.geojson"));
+    const Outcome outcome = run(options + QStringList{"--describe", "0,0", path});
+    QCOMPARE(outcome.error, QString());
+    QStringList lines = outcome.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    lines.sort();
+    QCOMPARE(lines,
+             QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
+                          path + QStringLiteral(": 2 records without a rate were skipped")}));
+}
+
+void TestTerminalRun::aProductThatNoPrescriptionDrivesIsFedByNone()
+{
+    const QString products =
+        write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false}])",
+              "water.json");
+    const QString script =
+        write("print(terminal.get('rxMap.three-zones.geojson', 'rateCalMappings').length)", "count.js");
+    const Outcome some =
+        run({"--products", products, "--columns", "FERT_KG_HA,HERB_L_HA", "--script", script, zones()});
+    QCOMPARE(some.error, QString());
+    QCOMPARE(some.output, QStringLiteral("1\n"));
+    const QString reason =
+        zones() + QStringLiteral(": column \"HERB_L_HA\" is left out, product 2 (Water) takes no prescription");
+    QCOMPARE(some.errors, reason + QLatin1Char('\n'));
+    const Outcome none = run({"--products", products, "--columns", ",HERB_L_HA", "--script", script, zones()});
+    QCOMPARE(none.error, reason);
+}
+
+void TestTerminalRun::productsComeFromAFile()
+{
+    const QString products =
+        write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false},
+                    {"name": "Urea", "kind": "weight"}])",
+              "machine.json");
+    const Outcome outcome = run({"--products", products, "--describe", "0,0", zones()});
+    QCOMPARE(outcome.error, QString());
+    QVERIFY2(outcome.output.contains(QLatin1String("product 1 (Lime)")), qPrintable(outcome.output));
+    QVERIFY(!outcome.output.contains(QLatin1String("Water")));
+    QVERIFY(outcome.output.contains(QLatin1String("product 3 (Urea)")));
+}
+
+QTEST_MAIN(TestTerminalRun)
+#include "tst_terminalrun.moc"
