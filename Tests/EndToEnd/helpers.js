@@ -5,6 +5,13 @@ function same(actual, expected, text) {
   var a = JSON.stringify(actual), e = JSON.stringify(expected);
   if (a !== e) throw new Error(text + ": " + a + " instead of " + e);
 }
+// Lets the terminal run until the condition holds; the dialog looks at the vehicle twice a second.
+function awaitThat(condition, text) {
+  for (var waited = 0; !condition(); waited += 20) {
+    check(waited < 20000, text);
+    terminal.wait(20);
+  }
+}
 function control(name) {
   var found = terminal.find(name);
   check(found !== null, "no control " + name);

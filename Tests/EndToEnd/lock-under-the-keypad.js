@@ -7,8 +7,10 @@ var shown = control("lookAheadEdit").text;
 control("lookAheadEdit").touch();
 check(terminal.find("keypad7") !== null && control("keypad7").visible, "no keypad");
 terminal.drive(3);
-terminal.wait(700);
-check(terminal.find("keypad7") === null || !control("keypad7").visible, "the keypad stays");
+awaitThat(function () {
+  var key = terminal.find("keypad7");
+  return key === null || !key.visible;
+}, "the keypad stays");
 control("lookAheadEdit").enter("7");
 check(terminal.find("keypad7") === null || !control("keypad7").visible, "a locked field opens the keypad");
 same(control("lookAheadEdit").text, shown, "what a locked field shows");

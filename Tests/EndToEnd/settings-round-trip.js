@@ -10,8 +10,7 @@ control("lookAheadEdit").enter("2.5");
 control("defaultRateEdit").enter("77.5");
 
 terminal.drive(3);
-terminal.wait(700);
-check(control("vehicleMovingLabel").visible, "no message while the vehicle moves");
+awaitThat(function () { return control("vehicleMovingLabel").visible; }, "no message while the vehicle moves");
 ["lookAheadEdit", "defaultRateEdit", "zeroRateShutoffBox", "applyToAllBox"].forEach(function (name) {
   check(!control(name).enabled, name + " can be edited while the vehicle moves");
 });
@@ -20,8 +19,7 @@ control("zeroRateShutoffBox").touch();
 same(control("zeroRateShutoffBox").image, 0, "a locked box");
 
 terminal.stop();
-terminal.wait(700);
-check(!control("vehicleMovingLabel").visible, "the message stays");
+awaitThat(function () { return !control("vehicleMovingLabel").visible; }, "the message stays");
 check(control("lookAheadEdit").enabled, "stays locked");
 same(control("doneButton").image, 0, "Done");
 same(control("lookAheadEdit").text, "2.5", "what was typed before the lock");

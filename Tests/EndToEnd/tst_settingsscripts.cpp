@@ -82,24 +82,17 @@ void TestSettingsScripts::whatTheOperatorSetsIsShownAndWritten()
 
 void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits_data()
 {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<QStringList>("kinds");
     QTest::addColumn<QStringList>("units");
-    const QStringList areaRates{"weight", "volume", "count"};
-    const QStringList otherRates{"ratio", "injection", "pressure"};
-    QTest::newRow("per area, us") << "us" << areaRates << QStringList{"lb/ac", "gal/ac", "k/ac"};
-    QTest::newRow("per area, metric") << "metric" << areaRates << QStringList{"kg/ha", "L/ha", "k/ha"};
-    QTest::newRow("per area, turf") << "turf" << areaRates << QStringList{"lb/tu", "gal/tu", "k/tu"};
-    QTest::newRow("other, us") << "us" << otherRates << QStringList{"fl oz/gal", "fl oz/ac", "psi"};
-    QTest::newRow("other, metric") << "metric" << otherRates << QStringList{"L/L", "mL/ha", "kPa"};
-    QTest::newRow("other, turf") << "turf" << otherRates << QStringList{"fl oz/gal", "fl oz/tu", "psi"};
+    // In the order of weight, volume, count, ratio, injection and pressure.
+    QTest::newRow("us") << QStringList{"lb/ac", "gal/ac", "k/ac", "fl oz/gal", "fl oz/ac", "psi"};
+    QTest::newRow("metric") << QStringList{"kg/ha", "L/ha", "k/ha", "L/L", "mL/ha", "kPa"};
+    QTest::newRow("turf") << QStringList{"lb/tu", "gal/tu", "k/tu", "fl oz/gal", "fl oz/tu", "psi"};
 }
 
 void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits()
 {
-    QFETCH(QString, system);
-    QFETCH(QStringList, kinds);
     QFETCH(QStringList, units);
+    const QStringList kinds{"weight", "volume", "count", "ratio", "injection", "pressure"};
     QJsonArray machine;
     QJsonArray expected;
     for (int i = 0; i < kinds.size(); ++i) {
@@ -110,13 +103,13 @@ void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits()
     }
     QTemporaryDir folder;
     const QString script = QStringLiteral("var columns = [\"SEED_KS_HA\", \"FERT_KG_HA\", \"HERB_L_HA\"];\n"
-                                          "var products = ")
+                                          "columns = columns.concat(columns);\nvar products = ")
         + QString::fromUtf8(QJsonDocument(expected).toJson()) + QStringLiteral(";\n")
         + scriptText(QStringLiteral("rates-in-units.js"));
     const SimulatorRun run =
         runOperatorScript(script,
                           {QStringLiteral("--products"), writeProducts(folder, QJsonDocument(machine).toJson()),
-                           QStringLiteral("--units"), system});
+                           QStringLiteral("--units"), QString::fromLatin1(QTest::currentDataTag())});
     const QString output = run.output.join(QLatin1Char('\n'));
     QVERIFY2(run.exitCode == 0, qPrintable(output + run.errors));
     QVERIFY2(run.output.contains(QStringLiteral("finished")), qPrintable(output));
