@@ -22,7 +22,6 @@ private Q_SLOTS:
     void aMissingFileIsNamed();
     void onlyAPlainFileIsRead();
     void theStandardMachineHasThreeProducts();
-    void aCarrierMetersAPlainVolume();
 
 private:
     static QByteArray products(int count)
@@ -190,21 +189,6 @@ void TestProductFile::theStandardMachineHasThreeProducts()
         QCOMPARE(standard.at(i).bin, i + 1);
         QVERIFY(standard.at(i).underVra);
     }
-}
-
-void TestProductFile::aCarrierMetersAPlainVolume()
-{
-    Product product;
-    product.isCarrier = true;
-    product.kind = Product::Kind::Ratio;
-    QVERIFY(product.rateKind() == Product::Kind::Volume);
-    product.kind = Product::Kind::Injection;
-    QVERIFY(product.rateKind() == Product::Kind::Volume);
-    product.kind = Product::Kind::Weight;
-    QVERIFY(product.rateKind() == Product::Kind::Weight);
-    product.isCarrier = false;
-    product.kind = Product::Kind::Ratio;
-    QVERIFY(product.rateKind() == Product::Kind::Ratio);
 }
 
 QTEST_APPLESS_MAIN(TestProductFile)
