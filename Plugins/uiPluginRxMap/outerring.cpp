@@ -10,6 +10,7 @@ namespace {
 
 /// Rings with fewer vertices, or with fewer to be tested against them, are tested faster edge by edge.
 constexpr int smallestRastered = 16;
+constexpr qint64 fewestRasteredPoints = 48;
 
 /// Beyond so many points the cells take no more of them into account.
 constexpr qint64 mostCellsForPoints = 100000000;
@@ -25,7 +26,7 @@ OuterRing::OuterRing(const RX_POLYGON &ring)
 
 void OuterRing::prepareFor(qint64 points)
 {
-    if (ordinary && count >= smallestRastered && points >= smallestRastered)
+    if (ordinary && count >= smallestRastered && points >= fewestRasteredPoints)
         raster.reset(new RingRaster(vertices, count, static_cast<int>(qMin(points, mostCellsForPoints))));
 }
 
@@ -45,5 +46,7 @@ bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)
 
 bool OuterRing::isInside(double x, double y)
 {
-    return raster ? raster->isInside(x, y) : isInsideRing(vertices, count, x, y);
+    if (raster)
+        return raster->isInside(x, y);
+    return ordinary ? isInsideOrdinaryRing(vertices, count, x, y) : isInsideRing(vertices, count, x, y);
 }

@@ -67,39 +67,43 @@ void RingRaster::listEdges()
     cells.fill(Unknown, columns * rows);
     isResolved.fill(false, rows);
     cellStart.fill(0, columns * rows + 1);
-    for (int edge = 0; edge < count; ++edge)
-        forCellsOf(edge, [this](int cell) { ++cellStart[cell + 1]; });
-    for (int cell = 0; cell < cells.size(); ++cell) {
-        if (cellStart.at(cell + 1) > 0)
-            cells[cell] = Crossed;
+    QVector<Crossing> crossings;
+    crossings.reserve(2 * count);
+    CellRange from = cellsNear(vertices[count - 1]);
+    for (int edge = 0; edge < count; ++edge) {
+        const CellRange to = cellsNear(vertices[edge]);
+        findCells(edge, from, to, crossings);
+        from = to;
     }
+    for (const Crossing &crossing : qAsConst(crossings)) {
+        cells[crossing.cell] = Crossed;
+        ++cellStart[crossing.cell];
+    }
+    // Now where each cell's edges end; the start, once all of them are in.
     std::partial_sum(cellStart.cbegin(), cellStart.cend(), cellStart.begin());
-    cellEdges.resize(cellStart.constLast());
-    QVector<int> next = cellStart;
-    for (int edge = 0; edge < count; ++edge)
-        forCellsOf(edge, [this, &next, edge](int cell) { cellEdges[next[cell]++] = edge; });
+    cellEdges.resize(crossings.size());
+    for (const Crossing &crossing : qAsConst(crossings))
+        cellEdges[--cellStart[crossing.cell]] = crossing.edge;
 }
 
 // Piece by piece, each hardly higher than a row, so that a long slanting edge does not cross all cells of its box. A
-// cell may be visited twice.
-template <typename Visit> void RingRaster::forCellsOf(int edge, Visit visit) const
+// cell may be found twice.
+void RingRaster::findCells(int edge, CellRange start, const CellRange &last, QVector<Crossing> &found) const
 {
-    const RX_POLYGONVERTEX &from = vertices[edge == 0 ? count - 1 : edge - 1];
+    const RX_POLYGONVERTEX &from = startOf(edge);
     const RX_POLYGONVERTEX &to = vertices[edge];
     const int pieces = 1 + static_cast<int>(std::fabs(to.y - from.y) * rowsPerMetre);
-    RX_POLYGONVERTEX start = from;
     for (int piece = 1; piece <= pieces; ++piece) {
-        RX_POLYGONVERTEX end = to;
+        CellRange end = last;
         if (piece < pieces) {
             const double share = static_cast<double>(piece) / pieces;
-            end = {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
+            end = cellsNear({from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
         }
-        const int firstColumn = columnOf(qMin(start.x, end.x) - marginX);
-        const int lastColumn = columnOf(qMax(start.x, end.x) + marginX);
-        const int lastRow = rowOf(qMax(start.y, end.y) + marginY);
-        for (int row = rowOf(qMin(start.y, end.y) - marginY); row <= lastRow; ++row) {
-            for (int column = firstColumn; column <= lastColumn; ++column)
-                visit(row * columns + column);
+        const int lastColumn = qMax(start.lastColumn, end.lastColumn);
+        const int lastRow = qMax(start.lastRow, end.lastRow);
+        for (int row = qMin(start.firstRow, end.firstRow); row <= lastRow; ++row) {
+            for (int column = qMin(start.firstColumn, end.firstColumn); column <= lastColumn; ++column)
+                found.append({row * columns + column, edge});
         }
         start = end;
     }
@@ -117,7 +121,7 @@ bool RingRaster::isInside(double x, double y)
         const int cell = row * columns + column;
         double clearX = x;
         if (cells.at(cell) == Crossed || cells.at(cell) == Unknown)
-            gather(cell);
+            gather(cell, y);
         else if (column == columnOf(x) || middleOf(column, clearX))
             return differsBetween(x, clearX, y) != (cells.at(cell) == Inside);
     }
@@ -135,7 +139,7 @@ void RingRaster::resolveRow(int row, double y)
     for (int column = columns - 1; column >= 0; --column) {
         const int cell = row * columns + column;
         if (cells.at(cell) == Crossed) {
-            gather(cell);
+            gather(cell, y);
             isSideKnown = false;
             continue;
         }
@@ -151,23 +155,27 @@ void RingRaster::resolveRow(int row, double y)
     }
 }
 
-/// Whether the gathered edges put two points at the height `y` on different sides.
+/// Whether the gathered edges put two points at the height `y`, which all of them span, on different sides.
 bool RingRaster::differsBetween(double x, double otherX, double y)
 {
     std::sort(gathered.begin(), gathered.end());
     const auto end = std::unique(gathered.begin(), gathered.end());
     bool differs = false;
     for (auto edge = gathered.cbegin(); edge != end; ++edge) {
-        const RX_POLYGONVERTEX &from = vertices[*edge == 0 ? count - 1 : *edge - 1];
-        differs ^= edgeToggles(from, vertices[*edge], x, y) != edgeToggles(from, vertices[*edge], otherX, y);
+        const double crossing = edgeCrossing(startOf(*edge), vertices[*edge], y);
+        differs ^= (crossing > x) != (crossing > otherX);
     }
     return differs;
 }
 
-void RingRaster::gather(int cell)
+/// Gathers the edges near a cell that span the height `y`.
+void RingRaster::gather(int cell, double y)
 {
-    for (int entry = cellStart.at(cell); entry < cellStart.at(cell + 1); ++entry)
-        gathered.append(cellEdges.at(entry));
+    for (int entry = cellStart.at(cell); entry < cellStart.at(cell + 1); ++entry) {
+        const int edge = cellEdges.at(entry);
+        if (ordinaryEdgeSpans(startOf(edge), vertices[edge], y))
+            gathered.append(edge);
+    }
 }
 
 bool RingRaster::isClear(const Box &box) const
@@ -193,6 +201,18 @@ bool RingRaster::middleOf(int column, double &x) const
 {
     x = columnsPerMetre > 0.0 ? left + (column + 0.5) / columnsPerMetre : left;
     return columnOf(x) == column;
+}
+
+const RX_POLYGONVERTEX &RingRaster::startOf(int edge) const
+{
+    return vertices[edge == 0 ? count - 1 : edge - 1];
+}
+
+/// The cells that a point may lie in, for all that rounding can do.
+RingRaster::CellRange RingRaster::cellsNear(const RX_POLYGONVERTEX &point) const
+{
+    return {columnOf(point.x - marginX), columnOf(point.x + marginX), rowOf(point.y - marginY),
+            rowOf(point.y + marginY)};
 }
 
 // Neither falls as its argument rises, rounding included; the outermost cells reach beyond the ring's box.

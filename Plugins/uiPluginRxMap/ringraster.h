@@ -24,11 +24,24 @@ private:
     enum Cell : quint8 { Unknown, Crossed, Inside, Outside };
 
     void chooseCells(double width, double height, double run, double climb, int points);
+    struct CellRange {
+        int firstColumn;
+        int lastColumn;
+        int firstRow;
+        int lastRow;
+    };
+    struct Crossing {
+        int cell;
+        int edge;
+    };
+
     void listEdges();
-    template <typename Visit> void forCellsOf(int edge, Visit visit) const;
+    void findCells(int edge, CellRange start, const CellRange &last, QVector<Crossing> &found) const;
+    CellRange cellsNear(const OrvikTypes::RX_POLYGONVERTEX &point) const;
     void resolveRow(int row, double y);
     bool differsBetween(double x, double otherX, double y);
-    void gather(int cell);
+    void gather(int cell, double y);
+    const OrvikTypes::RX_POLYGONVERTEX &startOf(int edge) const;
     bool middleOf(int column, double &x) const;
     int columnOf(double x) const;
     int rowOf(double y) const;
