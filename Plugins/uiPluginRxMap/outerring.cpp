@@ -8,8 +8,9 @@ using OrvikTypes::RX_POLYGONVERTEX;
 
 namespace {
 
-/// Rings with fewer vertices, or with fewer to be tested against them, are tested faster edge by edge.
+/// Rings with fewer vertices are tested faster edge by edge.
 constexpr int smallestRastered = 16;
+/// Likewise all rings that fewer points are tested against.
 constexpr qint64 fewestRasteredPoints = 48;
 
 /// Beyond so many points the cells take no more of them into account.

@@ -49,6 +49,9 @@ void RingRaster::chooseCells(double width, double height, double run, double cli
 {
     double wantedColumns = run > 0.0 ? width / run * count : 1.0;
     double wantedRows = climb > 0.0 ? height / climb * count : 1.0;
+    // No narrower than the margins: an edge would lie in all cells that it may be off by.
+    wantedColumns = qMin(wantedColumns, width / (2.0 * marginX));
+    wantedRows = qMin(wantedRows, height / (2.0 * marginY));
     const double excess = wantedColumns * wantedRows / (2.0 * count + points);
     if (excess > 1.0) {
         wantedColumns /= std::sqrt(excess);
@@ -68,7 +71,7 @@ void RingRaster::listEdges()
     isResolved.fill(false, rows);
     cellStart.fill(0, columns * rows + 1);
     QVector<Crossing> crossings;
-    crossings.reserve(2 * count);
+    crossings.reserve(count);
     CellRange from = cellsNear(vertices[count - 1]);
     for (int edge = 0; edge < count; ++edge) {
         const CellRange to = cellsNear(vertices[edge]);

@@ -156,6 +156,7 @@ void TestDrawnIsAnswered::aMapTooWideForOneLookAgreesUpClose()
     auto *group = qobject_cast<DbGroupRxMap *>(host.terminal().broker()->getGroup(report.group, false));
     QVERIFY(group);
     CloseLook look(host.terminal());
+    QVERIFY(report.outers >= looks);
     int outer = 0;
     for (auto *polygon = static_cast<const OrvikTypes::RX_POLYGON *>(group->getPolygonBuffer()); polygon != nullptr;
          polygon = polygon->next) {

@@ -6,6 +6,7 @@
 
 #include <QEventLoop>
 #include <QJSEngine>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -21,7 +22,8 @@ private Q_SLOTS:
     void callsDoWhatTheySay();
     void failuresAreThrownWithTheirReason_data();
     void failuresAreThrownWithTheirReason();
-    void everyCallRunsOnTheUserInterfaceThread();
+    void aPictureOfTheWholeWindowIsSaved();
+    void theTerminalIsChangedOnTheUserInterfaceThread();
     void anInterruptEndsAWait();
 
 private:
@@ -153,7 +155,6 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
         "same(terminal.get('mainGpsSolution', 'position').y > before, true); terminal.stop();"
         "same(terminal.get('mainGpsSolution', 'vehicleIsStopped'), true);");
     row("wait", "var start = Date.now(); terminal.wait(120); same(Date.now() - start >= 119, true);");
-    row("screenshot", "terminal.screenshot(folder + '/picture.png');");
     row("caught errors do not count",
         "try { terminal.get('nothing', 'x'); } catch (e) { same(e instanceof Error, true); }");
 }
@@ -212,7 +213,15 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason()
     QVERIFY2(!error.contains(QLatin1Char('\n')), qPrintable(error));
 }
 
-void TestScriptTerminal::everyCallRunsOnTheUserInterfaceThread()
+void TestScriptTerminal::aPictureOfTheWholeWindowIsSaved()
+{
+    QCOMPARE(run("terminal.screenshot(folder + '/picture.png');"), QString());
+    const QImage picture(folder->filePath(QStringLiteral("picture.png")));
+    QCOMPARE(picture.size(), QSize(1280, 800));
+    QVERIFY(picture.pixel(640, 400) != picture.pixel(20, 20));
+}
+
+void TestScriptTerminal::theTerminalIsChangedOnTheUserInterfaceThread()
 {
     QThread *ranOn = nullptr;
     connect(

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void tasksAreDoneInTheirOrder();
     void aScriptThatFailsEndsTheTasks();
     void withoutATaskItRunsUntilTheDisplayIsClosed();
-    void aDisplayThatIsClosedWhileMapsLoadEndsTheRun();
+    void aDisplayThatIsClosedBeforeTheMapsAreLoadedEndsTheRun();
     void likelyColumnsAreReportedOnceForAFileThatIsNamedTwice();
     void aPointIsDescribed_data();
     void aPointIsDescribed();
@@ -141,7 +141,7 @@ void TestTerminalRun::withoutATaskItRunsUntilTheDisplayIsClosed()
     QVERIFY(hasRun);
 }
 
-void TestTerminalRun::aDisplayThatIsClosedWhileMapsLoadEndsTheRun()
+void TestTerminalRun::aDisplayThatIsClosedBeforeTheMapsAreLoadedEndsTheRun()
 {
     QTimer::singleShot(0, this, &QApplication::closeAllWindows);
     QCOMPARE(run({zones()}).error, QString());

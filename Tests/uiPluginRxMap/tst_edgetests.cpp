@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theyGrowNoFasterThanSortingTheHoles();
     void aMapWithoutHolesNeedsNone();
     void aLargeRingIsNotLookedAtWholeForEveryHole();
+    void aRingNoWiderThanItsRoundingIsLookedAtLikeAnyOther();
 };
 
 namespace {
@@ -82,6 +83,24 @@ void TestEdgeTests::aLargeRingIsNotLookedAtWholeForEveryHole()
         // A thousand holes of 20 vertices in a ring of a hundred thousand: 2 000 000 000 edge by edge.
         QVERIFY2(tests > 0 && tests < 200000, qPrintable(QString::number(tests)));
     }
+}
+
+void TestEdgeTests::aRingNoWiderThanItsRoundingIsLookedAtLikeAnyOther()
+{
+    constexpr int vertices = 4000;
+    constexpr int points = 100;
+    BenchmarkMap map("sliver");
+    // Nearly all of its vertices are one.
+    BenchmarkMap::Ring sliver(vertices, {400.0, 300.0 + 1e-12});
+    sliver[0] = {400.0 - 1e-12, 300.0 - 1e-12};
+    sliver[1] = {400.0 + 1e-12, 300.0 - 1e-12};
+    map.add(sliver, 1.0F, false);
+    map.add(BenchmarkMap::Ring(points, {400.0, 300.0}), 1.0F, true);
+    map.finish();
+    map.chain()->area = 1000.0;
+    const quint64 tests = testsFor(map);
+    // As if the ring were looked at whole for each point, and once for its row.
+    QVERIFY2(tests > 0 && tests <= vertices * (points + 2), qPrintable(QString::number(tests)));
 }
 
 QTEST_APPLESS_MAIN(TestEdgeTests)

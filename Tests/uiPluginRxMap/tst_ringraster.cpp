@@ -5,6 +5,7 @@
 #include "testbase.h"
 
 #include <cmath>
+#include <limits>
 #include <random>
 
 Q_DECLARE_METATYPE(Ring)
@@ -54,7 +55,15 @@ void TestRingRaster::halfOpenEdgesOfTheUnitSquare_data()
     QTest::newRow("left bottom corner") << 0.0 << 0.0 << true;
     QTest::newRow("right top corner") << 1.0 << 1.0 << false;
     QTest::newRow("height of the top edge, outside") << -1.0 << 1.0 << false;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
     QTest::newRow("not a number") << std::nan("") << 0.5 << false;
+    QTest::newRow("no height") << 0.5 << std::nan("") << false;
+    QTest::newRow("far west") << -infinity << 0.5 << false;
+    QTest::newRow("far east") << infinity << 0.5 << false;
+    QTest::newRow("far north") << 0.5 << infinity << false;
+    QTest::newRow("far south") << 0.5 << -infinity << false;
+    QTest::newRow("bottom edge, negative zero") << 0.5 << -0.0 << true;
+    QTest::newRow("left bottom corner, negative zeros") << -0.0 << -0.0 << true;
 }
 
 void TestRingRaster::halfOpenEdgesOfTheUnitSquare()
@@ -64,6 +73,7 @@ void TestRingRaster::halfOpenEdgesOfTheUnitSquare()
     QFETCH(bool, expected);
     const Ring unit = square(0, 0, 1);
     QCOMPARE(isInsideRing(unit.data(), 4, x, y), expected);
+    QCOMPARE(isInsideOrdinaryRing(unit.data(), 4, x, y), expected);
     QCOMPARE(RingRaster(unit.data(), 4, 1).isInside(x, y), expected);
 }
 
@@ -99,6 +109,7 @@ void TestRingRaster::slopedEdgesToTheLastBit()
     const auto count = static_cast<int>(ring.size());
     QCOMPARE(isInsidePlainly(ring.data(), count, x, 1.0), expected);
     QCOMPARE(isInsideRing(ring.data(), count, x, 1.0), expected);
+    QCOMPARE(isInsideOrdinaryRing(ring.data(), count, x, 1.0), expected);
     QCOMPARE(RingRaster(ring.data(), count, 1).isInside(x, 1.0), expected);
 }
 
@@ -143,6 +154,7 @@ void TestRingRaster::theRasterAgreesWithAllEdgesTested()
             const double y = i % 3 == 0 ? ring[static_cast<std::size_t>(i % vertices)].y : next();
             const bool expected = isInsidePlainly(ring.data(), vertices, x, y);
             QCOMPARE(isInsideRing(ring.data(), vertices, x, y), expected);
+            QCOMPARE(isInsideOrdinaryRing(ring.data(), vertices, x, y), expected);
             QCOMPARE(raster.isInside(x, y), expected);
             inside += expected ? 1 : 0;
         }
