@@ -5,8 +5,8 @@
 #include "vehicle.h"
 
 #include <QEventLoop>
-#include <QJSEngine>
 #include <QImage>
+#include <QJSEngine>
 #include <QTemporaryDir>
 #include <QThread>
 
