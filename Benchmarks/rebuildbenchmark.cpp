@@ -51,7 +51,7 @@ void plainRebuild(benchmark::State &state, const NamedMap &kind)
 
 const bool areMapsAdded = [] {
     for (const NamedMap &map : allMaps()) {
-        benchmark::RegisterBenchmark(("Rebuild/" + map.name).c_str(), rebuild, map)->UseManualTime()->Iterations(9);
+        benchmark::RegisterBenchmark(("Rebuild/" + map.name).c_str(), rebuild, map)->UseManualTime()->Iterations(21);
     }
     const NamedMap manyHoles = manyHolesMap();
     benchmark::RegisterBenchmark(("PlainRebuild/" + manyHoles.name).c_str(), plainRebuild, manyHoles)

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <ctime>
+#include <functional>
+#include <utility>
 #include <vector>
 
 /// Processor time of the process so far, all its threads, seconds.
@@ -32,8 +34,9 @@ struct NoPreparation {
     void operator()() const { }
 };
 
-/// Runs both in turn in every iteration, the order swapped each time, and sets `counter` to the quotient of the
-/// medians. `prepare` comes before each iteration and is not timed.
+/// Runs both in turn in every iteration, the order swapped each time, and sets `counter` to the median of the
+/// iterations' quotients: what slows the machine for a while slows both sides of a quotient. `prepare` comes before
+/// each iteration and is not timed.
 template <typename Work, typename Baseline, typename Preparation = NoPreparation>
 void compareSideBySide(benchmark::State &state, const char *counter, Work &&work, Baseline &&baseline,
                        Preparation &&prepare = {})
@@ -51,7 +54,10 @@ void compareSideBySide(benchmark::State &state, const char *counter, Work &&work
         swapped = !swapped;
         state.SetIterationTime(workTimes.back());
     }
-    state.counters[counter] = median(workTimes) / median(baselineTimes);
+    std::vector<double> quotients(workTimes.size());
+    std::transform(workTimes.begin(), workTimes.end(), baselineTimes.begin(), quotients.begin(),
+                   std::divides<double>());
+    state.counters[counter] = median(std::move(quotients));
     state.counters["seconds"] = median(workTimes);
     state.counters["baseline_seconds"] = median(baselineTimes);
 }
