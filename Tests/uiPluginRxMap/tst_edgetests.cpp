@@ -17,6 +17,8 @@ private Q_SLOTS:
     void theyGrowNoFasterThanSortingTheHoles();
     void aMapWithoutHolesNeedsNone();
     void aLargeRingIsNotLookedAtWholeForEveryHole();
+    void onlyLargeRingsAndManyPointsAreWorthARaster_data();
+    void onlyLargeRingsAndManyPointsAreWorthARaster();
     void aRingNoWiderThanItsRoundingIsLookedAtLikeAnyOther();
 };
 
@@ -38,6 +40,16 @@ MapKind kindOf(const QString &name)
             return kind;
     }
     return {};
+}
+
+BenchmarkMap::Ring circle(int vertices, double radius)
+{
+    BenchmarkMap::Ring ring;
+    for (int i = 0; i < vertices; ++i) {
+        const double angle = 6.28318530717958648 * i / vertices;
+        ring.push_back({radius * std::cos(angle), radius * std::sin(angle)});
+    }
+    return ring;
 }
 
 double nLogN(double n)
@@ -83,6 +95,31 @@ void TestEdgeTests::aLargeRingIsNotLookedAtWholeForEveryHole()
         // A thousand holes of 20 vertices in a ring of a hundred thousand: 2 000 000 000 edge by edge.
         QVERIFY2(tests > 0 && tests < 200000, qPrintable(QString::number(tests)));
     }
+}
+
+void TestEdgeTests::onlyLargeRingsAndManyPointsAreWorthARaster_data()
+{
+    QTest::addColumn<int>("vertices");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<bool>("isEdgeByEdge");
+    QTest::newRow("a small ring") << 15 << 1000 << true;
+    QTest::newRow("a ring just large enough") << 16 << 1000 << false;
+    QTest::newRow("few points") << 1000 << 47 << true;
+    QTest::newRow("just enough points") << 1000 << 48 << false;
+}
+
+void TestEdgeTests::onlyLargeRingsAndManyPointsAreWorthARaster()
+{
+    QFETCH(int, vertices);
+    QFETCH(int, points);
+    QFETCH(bool, isEdgeByEdge);
+    BenchmarkMap map("pond");
+    map.add(circle(vertices, 1000.0), 1.0F, false);
+    map.add(circle(points, 1.0), 1.0F, true);
+    map.finish();
+    const auto all = static_cast<quint64>(vertices * points);
+    const quint64 tests = testsFor(map);
+    QVERIFY2(isEdgeByEdge ? tests == all : tests < all / 10, qPrintable(QString::number(tests)));
 }
 
 void TestEdgeTests::aRingNoWiderThanItsRoundingIsLookedAtLikeAnyOther()
