@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -127,6 +128,19 @@ QString openLikely(Terminal &terminal, const QStringList &paths)
     return {};
 }
 
+/// Where the product shown first has no map, shows the first one that has.
+void showFedProduct(Terminal &terminal)
+{
+    if (!terminal.activeColumn().isEmpty())
+        return;
+    QList<int> fed;
+    const QStringList groups = terminal.broker()->findGroup(QStringLiteral("rxMap.*"), true, false);
+    for (const QString &group : groups)
+        fed.append(terminal.columnsOf(group).keys());
+    if (!fed.isEmpty())
+        terminal.machine()->setActiveProduct(*std::min_element(fed.cbegin(), fed.cend()));
+}
+
 void describe(Terminal &terminal, const QPointF &point)
 {
     const QString text = terminal.touch(point);
@@ -180,5 +194,8 @@ QString runTerminal(const CommandLine &line)
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty())
         error = line.columns.isEmpty() ? openLikely(terminal, files) : openWithColumns(terminal, files, line.columns);
-    return error.isEmpty() ? runTasks(terminal, line) : error;
+    if (!error.isEmpty())
+        return error;
+    showFedProduct(terminal);
+    return runTasks(terminal, line);
 }

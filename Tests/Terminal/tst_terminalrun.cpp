@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aPointIsDescribed_data();
     void aPointIsDescribed();
     void columnsAreTakenFromTheFilesThatHaveThem();
+    void theFirstProductWithAMapIsShown();
     void aFileThatIsToFeedNothingIsNotOpened();
     void theColumnsThatFeedInTheEndAreReported();
     void whatALoadCountsIsTold_data();
@@ -199,6 +200,15 @@ void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
                                  TerminalHost::fixture(QStringLiteral("overlap.geojson"))});
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.output, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
+}
+
+void TestTerminalRun::theFirstProductWithAMapIsShown()
+{
+    const Outcome second = run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--describe", "-100,0", zones()});
+    QCOMPARE(second.error, QString());
+    const Outcome first = run({"--columns", "FERT_KG_HA", "--describe", "-100,0", zones()});
+    QVERIFY2(second.output.startsWith(QLatin1String("Rx Rate: ")), qPrintable(second.output));
+    QCOMPARE(second.output, first.output);
 }
 
 void TestTerminalRun::aFileThatIsToFeedNothingIsNotOpened()
