@@ -23,3 +23,11 @@ QString TerminalHost::sampleField()
 {
     return sourcePath("Simulator/Resources/sample/sample-field.shp");
 }
+
+QString TerminalHost::scriptStart(const QString &folder)
+{
+    return QStringLiteral("function same(a, b) { a = JSON.stringify(a); b = JSON.stringify(b);"
+                          " if (a !== b) throw new Error(a + ' is not ' + b); }"
+                          "var zones = '%1'; var sample = '%2'; var folder = '%3'; ")
+        .arg(fixture("three-zones.geojson"), sampleField(), folder);
+}

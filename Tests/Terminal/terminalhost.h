@@ -16,6 +16,9 @@ public:
     /// A prescription of the tests' own.
     static QString fixture(const QString &name);
     static QString sampleField();
+    /// What scripts of the tests begin with, on one line: same(a, b), which throws unless both are equal, and the paths
+    /// `zones`, `sample` and `folder`.
+    static QString scriptStart(const QString &folder);
 
 private:
     Terminal shown;

@@ -48,12 +48,8 @@ void TestScriptRunner::cleanup()
 
 QString TestScriptRunner::run(const QString &program)
 {
-    const QString prelude =
-        QStringLiteral("function same(a, b) { a = JSON.stringify(a); b = JSON.stringify(b);"
-                       " if (a !== b) throw new Error(a + ' is not ' + b); }"
-                       "var zones = '%1'; var sample = '%2'; var folder = '%3'; ")
-            .arg(TerminalHost::fixture("three-zones.geojson"), TerminalHost::sampleField(), folder->path());
-    return ScriptRunner(&host->terminal()).evaluate(prelude + program, QStringLiteral("test.js"));
+    return ScriptRunner(&host->terminal())
+        .evaluate(TerminalHost::scriptStart(folder->path()) + program, QStringLiteral("test.js"));
 }
 
 void TestScriptRunner::anUncaughtErrorNamesFileAndLine_data()

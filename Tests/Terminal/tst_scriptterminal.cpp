@@ -60,18 +60,13 @@ void TestScriptTerminal::cleanupTestCase()
 
 QString TestScriptTerminal::run(const QString &program)
 {
-    const QString prelude =
-        QStringLiteral("function same(a, b) { a = JSON.stringify(a); b = JSON.stringify(b);"
-                       " if (a !== b) throw new Error(a + ' is not ' + b); }"
-                       "var zones = '%1'; var sample = '%2'; var folder = '%3'; ")
-            .arg(TerminalHost::fixture("three-zones.geojson"), TerminalHost::sampleField(), folder->path());
     QString thrown;
     QEventLoop loop;
     const QScopedPointer<QThread> thread(QThread::create([&] {
         QJSEngine engine;
         ScriptTerminal calls(&host->terminal(), &isInterrupted, &engine);
         engine.globalObject().setProperty(QStringLiteral("terminal"), engine.newQObject(&calls));
-        const QJSValue result = engine.evaluate(prelude + program);
+        const QJSValue result = engine.evaluate(TerminalHost::scriptStart(folder->path()) + program);
         thrown = result.isError() ? result.toString() : QString();
     }));
     connect(thread.data(), &QThread::finished, &loop, &QEventLoop::quit);
