@@ -17,7 +17,8 @@ private Q_SLOTS:
     void theColourComesAtHalfItsAlpha();
     void anInvalidColourIsBlack();
     void aTriangleTurnsTheOtherWayThanTheTessellatorGaveIt();
-    void theListsAreEmptyAfterwardsAndKeepTheirRoom();
+    void theListsAreEmptyAfterwardsAndTheTrianglesKeepTheirRoom();
+    void onlyTheRoomForALargePolygonsVerticesIsGivenBack();
     void aVertexThatIsNoNumberIsLeftOut();
 
 private:
@@ -116,7 +117,7 @@ void TestPolygonTessellation::aTriangleTurnsTheOtherWayThanTheTessellatorGaveIt(
     }
 }
 
-void TestPolygonTessellation::theListsAreEmptyAfterwardsAndKeepTheirRoom()
+void TestPolygonTessellation::theListsAreEmptyAfterwardsAndTheTrianglesKeepTheirRoom()
 {
     Ring ring;
     for (int i = 0; i < 500; ++i)
@@ -127,6 +128,18 @@ void TestPolygonTessellation::theListsAreEmptyAfterwardsAndKeepTheirRoom()
     QVERIFY(vList.capacity() >= 3 * 498);
     tessellate(square(0, 0, 10), Qt::red);
     QVERIFY(vList.capacity() >= 3 * 498);
+}
+
+void TestPolygonTessellation::onlyTheRoomForALargePolygonsVerticesIsGivenBack()
+{
+    Ring ring;
+    for (int i = 0; i < 129; ++i)
+        ring.push_back({100.0 * std::cos(i / 21.0), 100.0 * std::sin(i / 21.0)});
+    tessellate(ring, Qt::red);
+    QCOMPARE(coordList.capacity(), 0);
+    ring.pop_back();
+    tessellate(ring, Qt::red);
+    QVERIFY(coordList.capacity() >= 128);
 }
 
 void TestPolygonTessellation::aVertexThatIsNoNumberIsLeftOut()
