@@ -3,12 +3,14 @@
 #include "gdalsession.h"
 #include "ratecolumns.h"
 #include "shapefilecheck.h"
+#include "shapereader.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
 #include <cpl_string.h>
+#include <iterator>
 #include <limits>
 #include <ogrsf_frmts.h>
 
@@ -43,28 +45,24 @@ void reserve(SourceMap &map, double records)
         column.values.reserve(room);
 }
 
-bool isFinite(const SourceMap &map, size_t first)
+/// The columns that may hold numbers; `names` gets the names of all.
+std::vector<SourceColumn> tableColumns(OGRFeatureDefn &definition, QStringList &names)
 {
-    for (size_t i = first; i < map.xs.size(); ++i) {
-        if (!std::isfinite(map.xs[i]) || !std::isfinite(map.ys[i]))
-            return false;
+    std::vector<SourceColumn> columns;
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        const OGRFieldDefn *field = definition.GetFieldDefn(i);
+        SourceColumn column;
+        column.name = QString::fromUtf8(field->GetNameRef());
+        column.field = i;
+        column.isText = field->GetType() == OFTString;
+        column.isInteger = field->GetType() == OFTInteger || field->GetType() == OFTInteger64;
+        names.append(column.name);
+        // GDAL counts true and false among the whole numbers; they say where, not how much.
+        const bool isNumeric = column.isInteger || field->GetType() == OFTReal;
+        if (column.isText || (isNumeric && field->GetSubType() != OFSTBoolean))
+            columns.push_back(std::move(column));
     }
-    return true;
-}
-
-/// Whether the vertices from `first` on hold at least three different places.
-bool enclosesSomething(const SourceMap &map, size_t first)
-{
-    size_t second = 0;
-    for (size_t i = first + 1; i < map.xs.size(); ++i) {
-        if (map.xs[i] == map.xs[first] && map.ys[i] == map.ys[first])
-            continue;
-        if (second == 0)
-            second = i;
-        else if (map.xs[i] != map.xs[second] || map.ys[i] != map.ys[second])
-            return true;
-    }
-    return false;
+    return columns;
 }
 
 } // namespace
@@ -133,9 +131,7 @@ bool PrescriptionReader::readColumnNames(QStringList &names)
     OGRLayer *layer = dataset ? chooseLayer(*dataset, map) : nullptr;
     if (layer == nullptr)
         return false;
-    OGRFeatureDefn *definition = layer->GetLayerDefn();
-    for (int i = 0; i < definition->GetFieldCount(); ++i)
-        names.append(QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef()));
+    tableColumns(*layer->GetLayerDefn(), names);
     return true;
 }
 
@@ -175,29 +171,16 @@ OGRLayer *PrescriptionReader::chooseLayer(GDALDataset &dataset, SourceMap &map)
 
 bool PrescriptionReader::chooseColumns(OGRLayer &layer, SourceMap &map)
 {
-    OGRFeatureDefn *definition = layer.GetLayerDefn();
-    std::vector<SourceColumn> table;
-    for (int i = 0; i < definition->GetFieldCount(); ++i) {
-        const OGRFieldDefn *field = definition->GetFieldDefn(i);
-        SourceColumn column;
-        column.name = QString::fromUtf8(field->GetNameRef());
-        column.field = i;
-        column.isText = field->GetType() == OFTString;
-        column.isInteger = field->GetType() == OFTInteger || field->GetType() == OFTInteger64;
-        map.columnNames.append(column.name);
-        // GDAL counts true and false among the whole numbers; they say where, not how much.
-        const bool isNumeric = column.isInteger || field->GetType() == OFTReal;
-        if (column.isText || (isNumeric && field->GetSubType() != OFSTBoolean))
-            table.push_back(column);
-    }
-    if (wanted.isEmpty()) {
-        for (const SourceColumn &column : table) {
-            if (RateColumns::isWorthReading(column))
-                map.columns.push_back(column);
-        }
-        return true;
-    }
-    QStringList read;
+    const std::vector<SourceColumn> table = tableColumns(*layer.GetLayerDefn(), map.columnNames);
+    if (!wanted.isEmpty())
+        return takeWantedColumns(table, map);
+    std::copy_if(table.begin(), table.end(), std::back_inserter(map.columns), RateColumns::isWorthReading);
+    return true;
+}
+
+bool PrescriptionReader::takeWantedColumns(const std::vector<SourceColumn> &table, SourceMap &map)
+{
+    QStringList taken;
     for (const QString &name : wanted) {
         const int place = RateColumns::find(map.columnNames, name);
         if (place < 0)
@@ -207,9 +190,9 @@ bool PrescriptionReader::chooseColumns(OGRLayer &layer, SourceMap &map)
             std::find_if(table.begin(), table.end(), [place](const auto &c) { return c.field == place; });
         if (column == table.end())
             return fail(QStringLiteral("column \"%1\" holds no numbers").arg(map.columnNames.at(place)));
-        if (!read.contains(column->name))
+        if (!taken.contains(column->name))
             map.columns.push_back(*column);
-        read.append(column->name);
+        taken.append(column->name);
     }
     return true;
 }
@@ -250,11 +233,12 @@ bool PrescriptionReader::readRecords(OGRLayer &layer, SourceMap &map)
     const double expected = static_cast<double>(std::max<GIntBig>(1, layer.GetFeatureCount()));
     reserve(map, expected);
     skipOtherColumns(layer, map);
+    ShapeReader shapes(map);
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (control.isCancelled())
             return fail(QStringLiteral("loading was cancelled"));
         readValues(*feature, map);
-        readShape(feature->GetGeometryRef(), map);
+        shapes.read(feature->GetGeometryRef());
         ++map.records;
         if (map.records % 256 == 0)
             control.report(std::min(1.0, map.records / expected));
@@ -277,75 +261,5 @@ void PrescriptionReader::readValues(const OGRFeature &feature, SourceMap &map)
         }
         // The sum turns a negative zero into the plain one.
         column.values.push_back(isNumber && isRate(value) ? value + 0.0 : notANumber);
-    }
-}
-
-void PrescriptionReader::readShape(const OGRGeometry *geometry, SourceMap &map)
-{
-    if (geometry == nullptr || geometry->IsEmpty()) {
-        ++map.emptyRecords;
-        return;
-    }
-    const size_t firstRing = map.rings.size();
-    const size_t firstVertex = map.xs.size();
-    const bool hasAreas = appendGeometry(*geometry, map);
-    const bool finite = isFinite(map, firstVertex);
-    if (hasAreas && finite && map.rings.size() > firstRing)
-        return;
-    if (!hasAreas)
-        ++map.otherRecords;
-    else if (!finite)
-        ++map.notFiniteRecords;
-    else
-        ++map.emptyRecords;
-    map.rings.resize(firstRing);
-    map.xs.resize(firstVertex);
-    map.ys.resize(firstVertex);
-}
-
-bool PrescriptionReader::appendGeometry(const OGRGeometry &geometry, SourceMap &map)
-{
-    const OGRwkbGeometryType kind = wkbFlatten(geometry.getGeometryType());
-    if (kind == wkbPolygon || kind == wkbTriangle) {
-        appendPolygon(*geometry.toPolygon(), map);
-        return true;
-    }
-    if (OGR_GT_IsNonLinear(kind)) {
-        const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry());
-        return linear && !OGR_GT_IsNonLinear(linear->getGeometryType()) && appendGeometry(*linear, map);
-    }
-    bool hasAreas = false;
-    if (OGR_GT_IsSubClassOf(kind, wkbGeometryCollection)) {
-        for (const OGRGeometry *member : *geometry.toGeometryCollection())
-            hasAreas = appendGeometry(*member, map) || hasAreas;
-    } else if (OGR_GT_IsSubClassOf(kind, wkbPolyhedralSurface)) {
-        for (const OGRPolygon *face : *geometry.toPolyhedralSurface()) {
-            appendPolygon(*face, map);
-            hasAreas = true;
-        }
-    }
-    return hasAreas;
-}
-
-void PrescriptionReader::appendPolygon(const OGRPolygon &polygon, SourceMap &map)
-{
-    const int holes = polygon.getNumInteriorRings();
-    for (int i = -1; i < holes; ++i) {
-        const OGRLinearRing *ring = i < 0 ? polygon.getExteriorRing() : polygon.getInteriorRing(i);
-        const int count = ring == nullptr ? 0 : ring->getNumPoints();
-        const size_t first = map.xs.size();
-        map.xs.resize(first + count);
-        map.ys.resize(first + count);
-        if (count > 0)
-            ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
-        if (isFinite(map, first) && !enclosesSomething(map, first)) {
-            map.xs.resize(first);
-            map.ys.resize(first);
-            ++map.droppedRings;
-            if (i < 0)
-                return;
-            continue;
-        }
-        map.rings.push_back({first, static_cast<size_t>(count), map.records, i >= 0});
     }
 }

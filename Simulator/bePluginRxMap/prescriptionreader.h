@@ -10,13 +10,11 @@
 class GDALDataset;
 class GdalSession;
 class OGRFeature;
-class OGRGeometry;
 class OGRLayer;
-class OGRPolygon;
 struct GDALDatasetUniquePtrDeleter;
 
-/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Curves are made
-/// straight, heights and measures dropped. Blocks; use in the loading thread, inside a GdalSession.
+/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Blocks; use
+/// in the loading thread.
 class PrescriptionReader {
 public:
     /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that may be a rate.
@@ -35,14 +33,12 @@ private:
     std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
     OGRLayer *chooseLayer(GDALDataset &dataset, SourceMap &map);
     bool chooseColumns(OGRLayer &layer, SourceMap &map);
+    bool takeWantedColumns(const std::vector<SourceColumn> &table, SourceMap &map);
     /// Lets GDAL leave the columns alone that are not read.
     static void skipOtherColumns(OGRLayer &layer, const SourceMap &map);
     void readReference(OGRLayer &layer, SourceMap &map);
     bool readRecords(OGRLayer &layer, SourceMap &map);
     void readValues(const OGRFeature &feature, SourceMap &map);
-    void readShape(const OGRGeometry *geometry, SourceMap &map);
-    bool appendGeometry(const OGRGeometry &geometry, SourceMap &map);
-    void appendPolygon(const OGRPolygon &polygon, SourceMap &map);
 
     QString path;
     QStringList wanted;
