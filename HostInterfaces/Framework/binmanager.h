@@ -20,8 +20,8 @@ public:
     static BinManager *instance(DataBroker *broker);
     ~BinManager() override;
 
-    /// The loaded products (each a ProductLineItem) in product order; not owned by the caller, valid until the
-    /// products change.
+    /// The loaded products in product order, each a ProductLineItem, or null where somebody deleted it; not owned by
+    /// the caller, valid until the products change.
     QList<QObject *> loadedFilteredProducts() const;
 
     // For the host.

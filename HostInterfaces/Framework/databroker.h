@@ -46,8 +46,9 @@ public:
 
     // For the host and for back-ends.
 
-    /// Publishes `group` under its name and takes ownership of it. ErrNameTaken when the name is in use; the caller
-    /// then keeps ownership.
+    /// Publishes `group` under its name and takes ownership of it. ErrNameTaken when the name is in use or the group
+    /// published already, ErrGroupRemoved for one that was taken out before, ErrUnknownGroup for null; the caller then
+    /// keeps ownership.
     int publishGroup(DataBrokerGroup *group);
     /// Takes the group out: it is marked as removed, announces it, and stays alive until the broker is destroyed.
     /// Success or ErrUnknownGroup.

@@ -33,6 +33,7 @@ public:
     /// Called by the page when it comes into view.
     virtual void pageShown();
 
+    // The order of the virtual operations is part of the binary interface; hence the changes of access.
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;

@@ -8,8 +8,8 @@
 /// and has every vertex of the hole inside (the hole's coordinates narrowed to float). A hole without vertices, or
 /// inside no outer ring, is placed nowhere. The rings are not owned and may not change meanwhile.
 ///
-/// Comparing each hole with each outer ring would cost minutes on maps with tens of thousands of rings; boxes and
-/// bands leave out only comparisons that must fail.
+/// Comparing each hole with each outer ring would cost minutes on maps with tens of thousands of rings; a tree of
+/// boxes and a raster leave out only comparisons whose result is known.
 class HolePlacement {
 public:
     HolePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers, const QVector<OrvikTypes::RX_POLYGON *> &holes);

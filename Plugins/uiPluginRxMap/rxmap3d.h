@@ -20,8 +20,9 @@ struct RingLists;
 /// turns its polygons into one bank of coloured triangles and draws that.
 ///
 /// Everything runs on the user-interface thread. Of OpenGL it expects blending as the host set it and a context that
-/// is current in init() and draw(); it leaves its shader program bound and all other state as it found it, the two
-/// attribute arrays disabled. Vertices are handed over from client memory: no buffer objects are made.
+/// is current in init() and draw(); it leaves its shader program bound and its two attribute arrays disabled, their
+/// pointers stale, takes the pending OpenGL errors, and leaves all else as it found it. Vertices are handed over from
+/// client memory: no buffer objects are made.
 class RxMap3D : public QObject, public Object3D {
     Q_OBJECT
 
