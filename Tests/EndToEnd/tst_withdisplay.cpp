@@ -4,9 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 /// The shell functions that give a program a display.
 class TestWithDisplay : public TestBase {
@@ -15,6 +19,7 @@ class TestWithDisplay : public TestBase {
 private Q_SLOTS:
     void aDisplayMustAnswer_data();
     void aDisplayMustAnswer();
+    void aWaylandDisplayAloneIsNone();
     void anOperatorIsNeededUnlessTheArgumentsSayWhatToDo_data();
     void anOperatorIsNeededUnlessTheArgumentsSayWhatToDo();
     void theCommandsStatusIsTheFunctions();
@@ -54,12 +59,27 @@ void TestWithDisplay::aDisplayMustAnswer()
 {
     QFETCH(QString, display);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
     if (display.isNull())
         environment.remove(QStringLiteral("DISPLAY"));
     else
         environment.insert(QStringLiteral("DISPLAY"), display);
     QTEST(statusOf(QStringLiteral("has_display"), environment), "status");
+}
+
+void TestWithDisplay::aWaylandDisplayAloneIsNone()
+{
+    const QTemporaryDir folder;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, qPrintable(folder.filePath(QStringLiteral("wayland-0"))), sizeof(address.sun_path));
+    const int compositor = socket(AF_UNIX, SOCK_STREAM, 0);
+    const auto closeSocket = qScopeGuard([compositor] { close(compositor); });
+    QCOMPARE(bind(compositor, reinterpret_cast<const sockaddr *>(&address), sizeof(address)), 0);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+    environment.insert(QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-0"));
+    QCOMPARE(statusOf(QStringLiteral("has_display"), environment), 1);
 }
 
 void TestWithDisplay::anOperatorIsNeededUnlessTheArgumentsSayWhatToDo_data()
