@@ -74,15 +74,13 @@ void LegendPanel::show(const Content &newContent)
 QString LegendPanel::classText(int index) const
 {
     const OrvikTypes::RX_RATECOLOR &entry = content.classes.at(index);
-    if (entry.color.alpha() == 0)
-        return tr("No rate");
     if (content.hasSingleRates)
         return rateText(entry.rate * content.factor);
     const QString limit = limitText(entry.rate * content.factor);
     // Zero is a class of its own, and no rate is below it.
     if (entry.rate == 0.0)
         return limit;
-    if (index == 0 || content.classes.at(index - 1).rate < 0.0)
+    if (index == 0)
         return QStringLiteral("\u2264 ") + limit;
     return limitText(content.classes.at(index - 1).rate * content.factor) + RangeDash + limit;
 }

@@ -19,7 +19,7 @@ public:
         QString product;
         /// The prescription column that feeds it.
         QString column;
-        /// Base units; none when there is no map. A fully transparent one stands for polygons without a rate.
+        /// Those that are drawn, limits ascending in base units, none negative; empty when there is no map.
         QList<OrvikTypes::RX_RATECOLOR> classes;
         /// Every class holds one single rate, its limit; else those above the class before, up to the limit.
         bool hasSingleRates = false;
@@ -47,5 +47,4 @@ private:
 
     Content content;
     QStringList texts;
-    QList<QColor> colors;
 };

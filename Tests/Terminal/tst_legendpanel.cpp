@@ -50,7 +50,7 @@ private Q_SLOTS:
     void classesReadAsRangesInTheOperatorsUnit();
     void singleRatesReadAsTheRateItself_data();
     void singleRatesReadAsTheRateItself();
-    void polygonsWithoutRateAreNamed();
+    void aSwatchShowsItsColorAsOnTheGround();
     void longNumbersAreDrawnWhole_data();
     void longNumbersAreDrawnWhole();
     void theGreatestNumbersFitTheirPanel();
@@ -106,16 +106,15 @@ void TestLegendPanel::singleRatesReadAsTheRateItself()
     QTEST(panel.classTexts(), "texts");
 }
 
-void TestLegendPanel::polygonsWithoutRateAreNamed()
+void TestLegendPanel::aSwatchShowsItsColorAsOnTheGround()
 {
-    LegendPanel::Content content = contentOf({10.0, 20.0}, 1.0);
-    content.classes.append({20.0, QColor(0, 0, 0, 0)});
+    const QColor clear(0, 200, 100, 128);
+    LegendPanel::Content content;
+    content.classes = {{10.0, Qt::green}, {20.0, clear}};
     LegendPanel panel;
     panel.show(content);
-    QCOMPARE(panel.classTexts(), (QStringList{"≤ 10", "10 – 20", "No rate"}));
-    // The ground shows there.
-    const QPoint thirdSwatch(30, 165);
-    QCOMPARE(panel.grab().toImage().pixelColor(thirdSwatch), FieldScene::groundColor());
+    const QPoint secondSwatch(30, 127);
+    QCOMPARE(panel.grab().toImage().pixelColor(secondSwatch), FieldScene::onGround(clear));
 }
 
 void TestLegendPanel::longNumbersAreDrawnWhole_data()

@@ -4,10 +4,6 @@
 <context>
     <name>LegendPanel</name>
     <message>
-        <source>No rate</source>
-        <translation>Keine Menge</translation>
-    </message>
-    <message>
         <source>No map</source>
         <translation>Keine Karte</translation>
     </message>

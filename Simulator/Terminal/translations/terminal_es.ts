@@ -4,10 +4,6 @@
 <context>
     <name>LegendPanel</name>
     <message>
-        <source>No rate</source>
-        <translation>Sin dosis</translation>
-    </message>
-    <message>
         <source>No map</source>
         <translation>Sin mapa</translation>
     </message>

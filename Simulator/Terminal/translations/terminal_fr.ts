@@ -4,10 +4,6 @@
 <context>
     <name>LegendPanel</name>
     <message>
-        <source>No rate</source>
-        <translation>Aucune dose</translation>
-    </message>
-    <message>
         <source>No map</source>
         <translation>Aucune carte</translation>
     </message>

@@ -4,10 +4,6 @@
 <context>
     <name>LegendPanel</name>
     <message>
-        <source>No rate</source>
-        <translation>Sem dose</translation>
-    </message>
-    <message>
         <source>No map</source>
         <translation>Sem mapa</translation>
     </message>
