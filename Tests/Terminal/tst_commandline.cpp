@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aPointSouthWestOfTheOriginIsAPoint_data();
     void aPointSouthWestOfTheOriginIsAPoint();
     void columnsMayLeaveAProductOut();
+    void theHelpTellsWhatHoldsWithoutAnOption_data();
+    void theHelpTellsWhatHoldsWithoutAnOption();
 
 private:
     static Result<CommandLine> parse(const QStringList &arguments)
@@ -153,6 +155,24 @@ void TestCommandLine::columnsMayLeaveAProductOut()
     const Result<CommandLine> line = parse({"--columns", ",B", "map.shp"});
     QVERIFY(line.isOk());
     QCOMPARE(line.value.columns, QStringList({QString(), "B"}));
+}
+
+void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption_data()
+{
+    QTest::addColumn<QString>("told");
+    QTest::newRow("columns")
+        << "--columns <A,B,...> rate columns for products 1, 2, ... (default: the most likely ones)";
+    QTest::newRow("units") << "--units <SYSTEM> the operator's unit system: us, metric (default) or turf";
+    QTest::newRow("language") << "--language <CODE> user-interface language: en (default), de, es, fr or pt_BR";
+    QTest::newRow("plug-ins") << "--plugin-dir <DIR> where plug-ins are searched (default: the plug-in of this build)";
+    QTest::newRow("help") << "-h, --help show this help";
+}
+
+void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption()
+{
+    QFETCH(QString, told);
+    const QString help = CommandLine::helpText().simplified();
+    QVERIFY2(help.contains(told), qPrintable(help));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)
