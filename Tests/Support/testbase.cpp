@@ -12,8 +12,7 @@ void TestBase::init()
 
 void TestBase::cleanup()
 {
-    if (!watch)
-        return;
+    QVERIFY2(!watch.isNull(), "init() does not call TestBase::init()");
     const QStringList complaints = watch->complaints();
     watch.reset();
     if (!complaints.isEmpty())
