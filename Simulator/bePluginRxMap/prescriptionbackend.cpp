@@ -8,6 +8,8 @@
 
 #include <QEventLoop>
 
+#include <memory>
+
 PrescriptionBackend::PrescriptionBackend(DataBroker *broker, QObject *parent)
     : QObject(parent)
     , d(new PrescriptionBackendPrivate(this, broker))
@@ -41,15 +43,21 @@ void PrescriptionBackend::load(const LoadRequest &request)
 
 LoadReport PrescriptionBackend::loadAndWait(const LoadRequest &request)
 {
-    LoadReport outcome;
-    QEventLoop loop;
-    d->enqueue(request, [&outcome, &loop](const LoadReport &report) {
-        outcome = report;
-        loop.quit();
+    // Something else may end the event loop before the load is done, so what the load's end touches outlives this call.
+    struct Wait {
+        LoadReport outcome;
+        QEventLoop loop;
+    };
+    const auto wait = std::make_shared<Wait>();
+    wait->outcome = PrescriptionBackendPrivate::refuse(request.path, QStringLiteral("loading was given up"));
+    const std::shared_ptr<LoadJob> job = d->enqueue(request, [wait](const LoadReport &report) {
+        wait->outcome = report;
+        wait->loop.quit();
     });
-    // The back-end may be gone when the loop ends; nothing of it is touched then.
-    loop.exec();
-    return outcome;
+    wait->loop.exec();
+    // The back-end may be gone by now; nothing of it is touched any more. A load that goes on must change nothing.
+    job->cancelled = true;
+    return wait->outcome;
 }
 
 void PrescriptionBackend::cancel()

@@ -50,16 +50,15 @@ PrescriptionBackendPrivate::~PrescriptionBackendPrivate()
     const std::deque<std::shared_ptr<LoadJob>> unfinished = std::move(jobs);
     jobs.clear();
     for (const std::shared_ptr<LoadJob> &job : unfinished) {
-        LoadReport report;
-        report.path = job->request.path;
         if (job->done)
-            job->done(refuse(report, QStringLiteral("loading was cancelled")));
+            job->done(refuse(job->request.path, QStringLiteral("loading was cancelled")));
     }
     while (!entries.empty())
         entries.pop_back();
 }
 
-void PrescriptionBackendPrivate::enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done)
+std::shared_ptr<LoadJob> PrescriptionBackendPrivate::enqueue(const LoadRequest &request,
+                                                             std::function<void(const LoadReport &)> done)
 {
     auto job = std::make_shared<LoadJob>();
     job->request = request;
@@ -67,6 +66,7 @@ void PrescriptionBackendPrivate::enqueue(const LoadRequest &request, std::functi
     jobs.push_back(job);
     if (jobs.size() == 1)
         startNext();
+    return job;
 }
 
 void PrescriptionBackendPrivate::cancel()
@@ -106,7 +106,7 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
 {
     const std::shared_ptr<LoadJob> job = jobs.front();
     if (map->report.isOk() && job->cancelled)
-        map->report = refuse(map->report, QStringLiteral("loading was cancelled"));
+        map->report = refuse(map->report.path, QStringLiteral("loading was cancelled"));
     const bool isChange = map->report.isOk();
     const LoadReport report = isChange ? publish(std::move(map)) : map->report;
     jobs.pop_front();
@@ -121,11 +121,11 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
         job->done(report);
 }
 
-LoadReport PrescriptionBackendPrivate::refuse(LoadReport report, const QString &reason) const
+LoadReport PrescriptionBackendPrivate::refuse(const QString &path, const QString &reason)
 {
     LoadReport refused;
-    refused.path = report.path;
-    refused.error = QStringLiteral("%1: %2").arg(report.path, reason);
+    refused.path = path;
+    refused.error = QStringLiteral("%1: %2").arg(path, reason);
     return refused;
 }
 
@@ -167,7 +167,7 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
     LoadReport report = map->report;
     if (!entry.map->publish(std::move(map), channels, settings)) {
         shareOut({});
-        return refuse(report, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
+        return refuse(report.path, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
     }
     entries.push_back(std::move(entry));
     return report;

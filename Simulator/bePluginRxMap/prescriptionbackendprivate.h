@@ -23,7 +23,10 @@ public:
     PrescriptionBackendPrivate(PrescriptionBackend *backend, DataBroker *dataBroker);
     ~PrescriptionBackendPrivate();
 
-    void enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done);
+    /// `done` is called when the load has ended, at the latest when the back-end goes.
+    std::shared_ptr<LoadJob> enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done);
+    /// The report of a load that came to nothing.
+    static LoadReport refuse(const QString &path, const QString &reason);
     void cancel();
     bool isLoading() const { return !jobs.empty(); }
     bool unload(const QString &group);
@@ -40,7 +43,6 @@ private:
     void startNext();
     void finishCurrent(std::unique_ptr<LoadedMap> map);
     LoadReport publish(std::unique_ptr<LoadedMap> map);
-    LoadReport refuse(LoadReport report, const QString &reason) const;
     std::vector<LocalPlane> planes() const;
     QString freeGroupName(const QString &file) const;
     /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.

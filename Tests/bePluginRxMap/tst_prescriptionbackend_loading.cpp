@@ -17,6 +17,8 @@ private Q_SLOTS:
     void cancelsALoadThatWaitsToBePublished();
     void isDestroyedWhileItLoads();
     void letsAListenerDestroyIt();
+    void givesALoadUpWhenTheProgramEnds_data();
+    void givesALoadUpWhenTheProgramEnds();
 };
 
 void PrescriptionBackendLoadingTest::worksRequestsOffInOrder()
@@ -141,6 +143,35 @@ void PrescriptionBackendLoadingTest::letsAListenerDestroyIt()
     QVERIFY(report.isOk());
     QVERIFY(backend.isNull());
     QVERIFY(broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty());
+}
+
+void PrescriptionBackendLoadingTest::givesALoadUpWhenTheProgramEnds_data()
+{
+    QTest::addColumn<bool>("isDestroyed");
+    QTest::newRow("the back-end stays") << false;
+    QTest::newRow("the back-end goes, too") << true;
+}
+
+void PrescriptionBackendLoadingTest::givesALoadUpWhenTheProgramEnds()
+{
+    QFETCH(bool, isDestroyed);
+    const QString path = fixture("three-zones.geojson");
+    LoadReport report;
+    QTimer::singleShot(0, this, [&] {
+        QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
+        backend->load(requestFor(fixture("overlap.geojson")));
+        report = backend->loadAndWait(requestFor(path));
+        if (isDestroyed)
+            backend.reset();
+    });
+    QCoreApplication::exec();
+    QCOMPARE(report.path, path);
+    QCOMPARE(report.error, path + QStringLiteral(": loading was given up"));
+    if (isDestroyed)
+        return;
+    QTRY_VERIFY(!backend->isLoading());
+    QCOMPARE(backend->maps().size(), 1);
+    QVERIFY(backend->maps().first().path.endsWith(QStringLiteral("overlap.geojson")));
 }
 
 QTEST_GUILESS_MAIN(PrescriptionBackendLoadingTest)

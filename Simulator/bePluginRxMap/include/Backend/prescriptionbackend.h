@@ -29,7 +29,8 @@ public:
 
     /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
     void load(const LoadRequest &request);
-    /// Loads and waits, with the event loop running.
+    /// Loads and waits, with the event loop running. A load whose wait is ended from outside, as by the program's end,
+    /// is given up: the report says so.
     LoadReport loadAndWait(const LoadRequest &request);
     /// Cancels the load in progress and those waiting; each finishes with an error that says so.
     void cancel();
