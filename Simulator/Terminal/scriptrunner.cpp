@@ -16,6 +16,9 @@
 
 namespace {
 
+/// How long calls of a script that is being ended wait for their answer at most, milliseconds.
+constexpr unsigned long AnswerSlice = 10;
+
 /// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, for ever.
 void closeDialogs()
 {
@@ -69,8 +72,21 @@ QString ScriptRunner::evaluate(const QString &program, const QString &name)
     });
     thread->start();
     loop.exec();
+    if (thread->isRunning())
+        endFromOutside(*thread);
     thread->wait();
     return error;
+}
+
+void ScriptRunner::endFromOutside(QThread &thread)
+{
+    interrupt();
+    // The script may be waiting for an answer, and until it has one it does not see the interrupt.
+    while (!thread.wait(AnswerSlice)) {
+        closeDialogs();
+        QApplication::processEvents();
+    }
+    closeDialogs();
 }
 
 void ScriptRunner::interrupt()
@@ -85,6 +101,8 @@ void ScriptRunner::useEngine(QJSEngine *running)
 {
     const QMutexLocker locker(&engineMutex);
     engine = running;
+    if (engine != nullptr && isInterrupted)
+        engine->setInterrupted(true);
 }
 
 QString ScriptRunner::evaluateOnThread(const QString &program, const QString &name)

@@ -9,6 +9,7 @@
 #include <atomic>
 
 class QJSEngine;
+class QThread;
 class Terminal;
 
 /// Runs a script against the terminal. The script has a thread of its own, so that it goes on while the user-interface
@@ -20,8 +21,8 @@ public:
     /// `terminal` is not owned.
     explicit ScriptRunner(Terminal *terminal, QObject *parent = nullptr);
 
-    /// Runs the file to its end, with the event loop turning. Dialogs that the script left open are closed. Empty, or
-    /// the line that tells what went wrong and where.
+    /// Runs the file to its end, with the event loop turning; the program's end interrupts it. Dialogs that the script
+    /// left open are closed. Empty, or the line that tells what went wrong and where.
     QString run(const QString &path);
     /// The same for a script's text; `name` stands for the file in errors.
     QString evaluate(const QString &program, const QString &name);
@@ -29,6 +30,8 @@ public:
     void interrupt();
 
 private:
+    /// Interrupts the script and goes on answering its calls until it has ended.
+    void endFromOutside(QThread &thread);
     void useEngine(QJSEngine *running);
     QString evaluateOnThread(const QString &program, const QString &name);
 

@@ -12,6 +12,8 @@ class TestGuiCall : public TestBase {
 private Q_SLOTS:
     void theFunctionRunsOnTheOtherThreadAndItsResultComesBack();
     void theCallIsServedByTheEventLoopOfADialogThatACallOpened();
+    void aFunctionWithoutAResultRunsToo();
+    void aCallWhoseObjectGoesFirstGivesAnEmptyValue();
 };
 
 void TestGuiCall::theFunctionRunsOnTheOtherThreadAndItsResultComesBack()
@@ -55,6 +57,40 @@ void TestGuiCall::theCallIsServedByTheEventLoopOfADialogThatACallOpened()
     outer.exec();
     thread->wait();
     QVERIFY(wasServedInside);
+}
+
+void TestGuiCall::aFunctionWithoutAResultRunsToo()
+{
+    QObject gui;
+    QEventLoop loop;
+    QThread *ranOn = nullptr;
+    const QScopedPointer<QThread> thread(
+        QThread::create([&] { callOnGui(&gui, [&ranOn] { ranOn = QThread::currentThread(); }); }));
+    connect(thread.data(), &QThread::finished, &loop, &QEventLoop::quit);
+    thread->start();
+    loop.exec();
+    thread->wait();
+    QCOMPARE(ranOn, QThread::currentThread());
+}
+
+void TestGuiCall::aCallWhoseObjectGoesFirstGivesAnEmptyValue()
+{
+    QObject gui;
+    bool hasRun = false;
+    QString result = QStringLiteral("nothing yet");
+    const QScopedPointer<QThread> thread(QThread::create([&] {
+        result = callOnGui(&gui, [&hasRun] {
+            hasRun = true;
+            return QStringLiteral("done");
+        });
+    }));
+    thread->start();
+    // Calls that wait for an object are dropped when it goes; here the object stays, since it may not go before the
+    // thread has called.
+    while (!thread->wait(1))
+        QCoreApplication::removePostedEvents(&gui);
+    QVERIFY(!hasRun);
+    QCOMPARE(result, QString());
 }
 
 QTEST_MAIN(TestGuiCall)

@@ -24,6 +24,10 @@ private Q_SLOTS:
     void theDialogsEditsComeThrough();
     void screenshotsShowTheOpenDialog();
     void aScriptThatNeverEndsCanBeInterrupted();
+    void anInterruptBeforeTheScriptRunsEndsIt();
+    void theProgramsEndInterruptsAScript_data();
+    void theProgramsEndInterruptsAScript();
+    void theProgramsEndClosesTheScriptsDialog();
 
 private:
     QString run(const QString &program);
@@ -150,6 +154,53 @@ void TestScriptRunner::aScriptThatNeverEndsCanBeInterrupted()
         QTimer::singleShot(200, &runner, &ScriptRunner::interrupt);
         QCOMPARE(runner.evaluate(program, QStringLiteral("endless.js")), QStringLiteral("endless.js: interrupted"));
     }
+}
+
+void TestScriptRunner::anInterruptBeforeTheScriptRunsEndsIt()
+{
+    ScriptRunner runner(&host->terminal());
+    runner.interrupt();
+    QCOMPARE(runner.evaluate(QStringLiteral("for (;;) {}"), QStringLiteral("endless.js")),
+             QStringLiteral("endless.js: interrupted"));
+}
+
+void TestScriptRunner::theProgramsEndInterruptsAScript_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("that computes") << QStringLiteral("for (;;) {}");
+    QTest::newRow("that waits") << QStringLiteral("terminal.wait(1e9);");
+    QTest::newRow("that calls the terminal") << QStringLiteral("for (;;) terminal.activeProduct;");
+}
+
+void TestScriptRunner::theProgramsEndInterruptsAScript()
+{
+    QFETCH(QString, program);
+    ScriptRunner runner(&host->terminal());
+    QString error;
+    QTimer::singleShot(0, this, [&] {
+        QTimer::singleShot(100, qApp, &QCoreApplication::quit);
+        error = runner.evaluate(program, QStringLiteral("endless.js"));
+    });
+    QApplication::exec();
+    QCOMPARE(error, QStringLiteral("endless.js: interrupted"));
+}
+
+void TestScriptRunner::theProgramsEndClosesTheScriptsDialog()
+{
+    QString error;
+    QTimer whenOpen;
+    connect(&whenOpen, &QTimer::timeout, qApp, [] {
+        if (QApplication::activeModalWidget() != nullptr)
+            QCoreApplication::quit();
+    });
+    QTimer::singleShot(0, this, [&] {
+        whenOpen.start(0);
+        error = run("terminal.open(zones); terminal.find('rxOptions').longTouch(); for (;;) terminal.activeProduct;");
+        whenOpen.stop();
+    });
+    QApplication::exec();
+    QCOMPARE(error, QStringLiteral("test.js: interrupted"));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
 }
 
 QTEST_MAIN(TestScriptRunner)
