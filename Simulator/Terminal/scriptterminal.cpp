@@ -6,6 +6,8 @@
 #include "guicall.h"
 #include "machine.h"
 #include "plainvalue.h"
+#include "productfile.h"
+#include "result.h"
 #include "scriptcontrol.h"
 #include "terminal.h"
 #include "terminalwindow.h"
@@ -70,21 +72,42 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
             {QStringLiteral("warnings"), report.warnings}};
 }
 
-/// What is wrong with the options of open(); empty when nothing is.
-QString mistakeIn(const QJSValue &options)
+/// The columns that a list of a script names; null and undefined leave a product out, as an empty text does.
+Result<QStringList> namesIn(const QJSValue &list)
+{
+    const quint32 count = list.property(QStringLiteral("length")).toUInt();
+    if (count > quint32(ProductFile::MostProducts))
+        return Result<QStringList>::failure(
+            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::MostProducts));
+    QStringList names;
+    for (quint32 i = 0; i < count; ++i) {
+        const QJSValue entry = list.property(i);
+        const bool isLeftOut = entry.isNull() || entry.isUndefined();
+        if (!entry.isString() && !isLeftOut)
+            return Result<QStringList>::failure(QStringLiteral("entry %1 of \"columns\" is no text").arg(i + 1));
+        names.append(isLeftOut ? QString() : entry.toString());
+    }
+    return {names, {}};
+}
+
+/// The columns that the options of open() name.
+Result<QStringList> columnsIn(const QJSValue &options)
 {
     const QString columns = QStringLiteral("columns");
     if (options.isUndefined())
         return {};
     if (!options.isObject() || options.isArray())
-        return QStringLiteral("the options of open() are no object");
+        return Result<QStringList>::failure(QStringLiteral("the options of open() are no object"));
     QJSValueIterator option(options);
     while (option.next()) {
         if (option.name() != columns)
-            return QStringLiteral("\"%1\" is no option of open(); it knows \"columns\"").arg(option.name());
+            return Result<QStringList>::failure(
+                QStringLiteral("\"%1\" is no option of open(); it knows \"columns\"").arg(option.name()));
     }
     const QJSValue value = options.property(columns);
-    return value.isUndefined() || value.isArray() ? QString() : QStringLiteral("\"columns\" is no list");
+    if (value.isUndefined())
+        return {};
+    return value.isArray() ? namesIn(value) : Result<QStringList>::failure(QStringLiteral("\"columns\" is no list"));
 }
 
 } // namespace
@@ -121,18 +144,14 @@ void ScriptTerminal::setActiveProduct(const QJSValue &number)
 
 QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)
 {
-    const QString mistake = mistakeIn(options);
-    if (!mistake.isEmpty()) {
-        fail(mistake);
+    const Result<QStringList> columns = columnsIn(options);
+    if (!columns.isOk()) {
+        fail(columns.error);
         return {};
     }
-    const QJSValue columns = options.property(QStringLiteral("columns"));
-    QStringList names;
-    for (const QVariant &name : columns.toVariant().toList())
-        names.append(name.toString());
     QVariantMap description;
     const QString error = onGui([&] {
-        const LoadReport report = terminal->open(path, names);
+        const LoadReport report = terminal->open(path, columns.value);
         if (report.isOk())
             description = describe(report, terminal->activeColumn());
         return report.error;

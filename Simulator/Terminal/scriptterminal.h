@@ -23,7 +23,8 @@ public:
     QJSValue activeProduct() const;
     void setActiveProduct(const QJSValue &number);
 
-    /// Loads a prescription; `options.columns` names the rate columns of products 1, 2, ...
+    /// Loads a prescription; `options.columns` names the rate columns of products 1, 2, ...; an empty text, null or
+    /// undefined leaves its product out.
     Q_INVOKABLE QJSValue open(const QString &path, const QJSValue &options = QJSValue());
     Q_INVOKABLE void close(const QString &group);
     /// The text shown at a field point (metres) after touching it; empty for none.

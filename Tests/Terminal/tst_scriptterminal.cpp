@@ -95,6 +95,14 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
         "same(m.legends.map(function (l) { return l.length; }), [2, 2]); same(m.legend, m.legends[0]);"
         "terminal.set(m.group, 'rateColors', terminal.get(m.group, 'rateColors'));"
         "same(terminal.get(m.group, 'rateColors')[0][2].color, '#00000000');");
+    row("open with products left out",
+        "['', null, undefined].forEach(function (none) {"
+        " same(terminal.open(zones, {columns: [none, 'FERT_KG_HA']}).columns, ['FERT_KG_HA']);"
+        " same(terminal.get('rxMap.three-zones.geojson', 'rateCalMappings')[0].rateCalName,"
+        " 'system.productGroup.2'); });");
+    row("open reads its options once",
+        "var reads = 0; var options = {get columns() { ++reads; return ['SEED_K_HA']; }};"
+        "terminal.open(zones, options); same(reads, 1);");
     row("open with likely columns", "same(terminal.open(sample).columns.length, 3);");
     row("close",
         "var m = terminal.open(zones); terminal.close(m.group); same(terminal.groups('rxMap.*'), []);"
@@ -170,6 +178,12 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("missing file", "terminal.open('/no/such.shp');", "/no/such.shp: ");
     row("missing column", "terminal.open(zones, {columns: ['NOPE']});", "\"NOPE\"");
     row("columns no list", "terminal.open(zones, {columns: 'SEED_K_HA'});", "\"columns\" is no list");
+    row("column an object", "terminal.open(zones, {columns: [{a: 1}]});", "entry 1 of \"columns\" is no text");
+    row("column true", "terminal.open(zones, {columns: ['SEED_K_HA', true]});", "entry 2 of \"columns\" is no text");
+    row("column a number", "terminal.open(zones, {columns: ['', null, 7]});", "entry 3 of \"columns\" is no text");
+    row("column a list", "terminal.open(zones, {columns: [['SEED_K_HA']]});", "entry 1 of \"columns\" is no text");
+    row("endless columns", "terminal.open(zones, {columns: new Array(4294967295)});",
+        "\"columns\" has more than 16 entries");
     row("unknown option", "terminal.open(zones, {colums: ['SEED_K_HA']});",
         "\"colums\" is no option of open(); it knows \"columns\"");
     row("options no object", "terminal.open(zones, ['SEED_K_HA']);", "the options of open() are no object");
