@@ -3,15 +3,14 @@
 
 #include "Framework/databroker.h"
 
-#include <QFile>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <thread>
 
-class TestDataBroker : public TestBase {
+/// Publishing groups in the broker, finding them by their names, and taking them out.
+class TestDataBrokerGroups : public TestBase {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -29,18 +28,11 @@ private Q_SLOTS:
     void aRemovedGroupStaysAliveUntilTheBrokerGoes();
     void removalIsAnnouncedOnceAfterTheGroupKnows();
     void removingAnUnknownGroupIsAnError();
-    void accessByNameGivesItsCodes();
-    void aFailedReadLeavesTheValue();
     void aGroupDeletedByItsCreatorIsForgotten();
-    void settingsAreReadByDottedPath_data();
-    void settingsAreReadByDottedPath();
-    void aSettingThatIsNotThereGivesTheDefaultOnRequest();
-    void aBrokerWithoutSettingsHasNone();
-    void theDisplaySizeIsGivenBack();
     void publishingAndSearchingRunFromManyThreads();
 };
 
-void TestDataBroker::aPublishedGroupIsFound()
+void TestDataBrokerGroups::aPublishedGroupIsFound()
 {
     DataBroker broker;
     QSignalSpy published(&broker, &DataBroker::groupPublished);
@@ -53,7 +45,7 @@ void TestDataBroker::aPublishedGroupIsFound()
     QCOMPARE(published.first().first().toString(), QStringLiteral("rxMap.a"));
 }
 
-void TestDataBroker::aMissingGroupIsNullAndReportedOnRequest()
+void TestDataBrokerGroups::aMissingGroupIsNullAndReportedOnRequest()
 {
     const DataBroker broker;
     QCOMPARE(broker.getGroup(QStringLiteral("rxMap.a"), false), nullptr);
@@ -62,7 +54,7 @@ void TestDataBroker::aMissingGroupIsNullAndReportedOnRequest()
     QCOMPARE(messages().debugLines(), QStringList{QStringLiteral("no group of this name: \"rxMap.a\"")});
 }
 
-void TestDataBroker::aNameInUseIsRefusedAndTheCallerKeepsItsGroup()
+void TestDataBrokerGroups::aNameInUseIsRefusedAndTheCallerKeepsItsGroup()
 {
     DataBroker broker;
     auto *const first = new SampleGroup(QStringLiteral("rxMap.a"));
@@ -77,7 +69,7 @@ void TestDataBroker::aNameInUseIsRefusedAndTheCallerKeepsItsGroup()
     QCOMPARE(broker.getGroup(QStringLiteral("rxMap.a"), false), first);
 }
 
-void TestDataBroker::aGroupIsPublishedOnce()
+void TestDataBrokerGroups::aGroupIsPublishedOnce()
 {
     DataBroker broker;
     DataBroker other;
@@ -90,14 +82,14 @@ void TestDataBroker::aGroupIsPublishedOnce()
     QCOMPARE(other.findGroup(QStringLiteral("*"), true, true), QStringList());
 }
 
-void TestDataBroker::noGroupIsNotPublished()
+void TestDataBrokerGroups::noGroupIsNotPublished()
 {
     DataBroker broker;
     QCOMPARE(broker.publishGroup(nullptr), int(DataBrokerGroup::ErrUnknownGroup));
     QCOMPARE(broker.findGroup(QStringLiteral("*"), true, true), QStringList());
 }
 
-void TestDataBroker::thePublisherNoLongerOwnsTheGroup()
+void TestDataBrokerGroups::thePublisherNoLongerOwnsTheGroup()
 {
     DataBroker broker;
     QPointer<SampleGroup> group;
@@ -110,7 +102,7 @@ void TestDataBroker::thePublisherNoLongerOwnsTheGroup()
     QCOMPARE(broker.getGroup(QStringLiteral("rxMap.a"), false), group.data());
 }
 
-void TestDataBroker::patternsMatchNamesAndStartsOfNames_data()
+void TestDataBrokerGroups::patternsMatchNamesAndStartsOfNames_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QStringList>("names");
@@ -125,7 +117,7 @@ void TestDataBroker::patternsMatchNamesAndStartsOfNames_data()
     QTest::newRow("nothing") << "" << QStringList();
 }
 
-void TestDataBroker::patternsMatchNamesAndStartsOfNames()
+void TestDataBrokerGroups::patternsMatchNamesAndStartsOfNames()
 {
     QFETCH(QString, pattern);
     QFETCH(QStringList, names);
@@ -135,7 +127,7 @@ void TestDataBroker::patternsMatchNamesAndStartsOfNames()
     QCOMPARE(broker.findGroup(pattern, true, false), names);
 }
 
-void TestDataBroker::namesComeInPublicationOrderOrSorted()
+void TestDataBrokerGroups::namesComeInPublicationOrderOrSorted()
 {
     DataBroker broker;
     for (const char *name : {"bin.2", "bin.10", "bin.1"})
@@ -144,7 +136,7 @@ void TestDataBroker::namesComeInPublicationOrderOrSorted()
     QCOMPARE(broker.findGroup(QStringLiteral("bin.*"), false, false), (QStringList{"bin.1", "bin.10", "bin.2"}));
 }
 
-void TestDataBroker::aNamePublishedAgainMovesToTheEnd()
+void TestDataBrokerGroups::aNamePublishedAgainMovesToTheEnd()
 {
     DataBroker broker;
     broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a")));
@@ -157,7 +149,7 @@ void TestDataBroker::aNamePublishedAgainMovesToTheEnd()
     QCOMPARE(broker.findGroup(QStringLiteral("rxMap.*"), true, true), (QStringList{"rxMap.b", "rxMap.a"}));
 }
 
-void TestDataBroker::removedGroupsAreListedOnRequestOnly()
+void TestDataBrokerGroups::removedGroupsAreListedOnRequestOnly()
 {
     DataBroker broker;
     broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a")));
@@ -168,7 +160,7 @@ void TestDataBroker::removedGroupsAreListedOnRequestOnly()
     QCOMPARE(broker.findGroup(QStringLiteral("rxMap.*"), true, true), (QStringList{"rxMap.a", "rxMap.b"}));
 }
 
-void TestDataBroker::aRemovedGroupStaysAliveUntilTheBrokerGoes()
+void TestDataBrokerGroups::aRemovedGroupStaysAliveUntilTheBrokerGoes()
 {
     QPointer<SampleGroup> removed = new SampleGroup(QStringLiteral("rxMap.a"));
     QPointer<SampleGroup> published = new SampleGroup(QStringLiteral("rxMap.b"));
@@ -184,7 +176,7 @@ void TestDataBroker::aRemovedGroupStaysAliveUntilTheBrokerGoes()
     QVERIFY(published.isNull());
 }
 
-void TestDataBroker::removalIsAnnouncedOnceAfterTheGroupKnows()
+void TestDataBrokerGroups::removalIsAnnouncedOnceAfterTheGroupKnows()
 {
     DataBroker broker;
     auto *const group = new SampleGroup(QStringLiteral("rxMap.a"));
@@ -205,7 +197,7 @@ void TestDataBroker::removalIsAnnouncedOnceAfterTheGroupKnows()
     QCOMPARE(named.count(), 1);
 }
 
-void TestDataBroker::removingAnUnknownGroupIsAnError()
+void TestDataBrokerGroups::removingAnUnknownGroupIsAnError()
 {
     DataBroker broker;
     QSignalSpy named(&broker, &DataBroker::groupRemoved);
@@ -213,40 +205,7 @@ void TestDataBroker::removingAnUnknownGroupIsAnError()
     QCOMPARE(named.count(), 0);
 }
 
-void TestDataBroker::accessByNameGivesItsCodes()
-{
-    DataBroker broker;
-    broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a")));
-    QVariant value;
-    QCOMPARE(broker.setProperty("rxMap.a", "level", 4), int(DataBrokerGroup::Success));
-    QCOMPARE(broker.getProperty("rxMap.a", "level", value), int(DataBrokerGroup::Success));
-    QCOMPARE(value, QVariant(4));
-
-    QCOMPARE(broker.getProperty("rxMap.b", "level", value), int(DataBrokerGroup::ErrUnknownGroup));
-    QCOMPARE(broker.setProperty("rxMap.b", "level", 4), int(DataBrokerGroup::ErrUnknownGroup));
-    QCOMPARE(broker.getProperty(nullptr, "level", value), int(DataBrokerGroup::ErrUnknownGroup));
-    QCOMPARE(broker.setProperty("rxMap.a", nullptr, 4), int(DataBrokerGroup::ErrUnknownProperty));
-    QCOMPARE(broker.setProperty("rxMap.a", "height", 4), int(DataBrokerGroup::ErrUnknownProperty));
-    QCOMPARE(broker.setProperty("rxMap.a", "level", QStringLiteral("high")), int(DataBrokerGroup::ErrWrongType));
-
-    broker.removeGroup(QStringLiteral("rxMap.a"));
-    QCOMPARE(broker.setProperty("rxMap.a", "level", 5), int(DataBrokerGroup::ErrGroupRemoved));
-    QCOMPARE(broker.getProperty("rxMap.a", "level", value), int(DataBrokerGroup::ErrGroupRemoved));
-}
-
-void TestDataBroker::aFailedReadLeavesTheValue()
-{
-    DataBroker broker;
-    broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a")));
-    QVariant value = QStringLiteral("as it was");
-    broker.getProperty("rxMap.b", "level", value);
-    broker.getProperty("rxMap.a", "height", value);
-    broker.removeGroup(QStringLiteral("rxMap.a"));
-    broker.getProperty("rxMap.a", "level", value);
-    QCOMPARE(value, QVariant(QStringLiteral("as it was")));
-}
-
-void TestDataBroker::aGroupDeletedByItsCreatorIsForgotten()
+void TestDataBrokerGroups::aGroupDeletedByItsCreatorIsForgotten()
 {
     DataBroker broker;
     auto *const group = new SampleGroup(QStringLiteral("rxMap.a"));
@@ -259,63 +218,7 @@ void TestDataBroker::aGroupDeletedByItsCreatorIsForgotten()
     QCOMPARE(broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a"))), int(DataBrokerGroup::Success));
 }
 
-void TestDataBroker::settingsAreReadByDottedPath_data()
-{
-    QTest::addColumn<QByteArray>("setting");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("section with a dot") << QByteArray("main.general.font") << "DejaVu Sans";
-    QTest::newRow("section") << QByteArray("display.contrast") << "7";
-    QTest::newRow("no section") << QByteArray("language") << "de";
-    QTest::newRow("text beyond Latin-1") << QByteArray("display.unit") << QString(QChar(0x2030));
-}
-
-void TestDataBroker::settingsAreReadByDottedPath()
-{
-    QFETCH(QByteArray, setting);
-    QFETCH(QString, value);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("terminal.ini")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\nlanguage=de\n[main.general]\nfont=DejaVu Sans\n[display]\ncontrast=7\nunit=\xe2\x80\xb0\n");
-    file.close();
-    const DataBroker broker(file.fileName());
-    QVariant found;
-    QCOMPARE(broker.getIniSetting(setting.constData(), found, QStringLiteral("other"), true),
-             int(DataBrokerGroup::Success));
-    QCOMPARE(found.toString(), value);
-}
-
-void TestDataBroker::aSettingThatIsNotThereGivesTheDefaultOnRequest()
-{
-    const QTemporaryDir folder;
-    const DataBroker broker(folder.filePath(QStringLiteral("absent.ini")));
-    QVariant value = QStringLiteral("as it was");
-    QCOMPARE(broker.getIniSetting("main.general.font", value, QStringLiteral("Liberation Sans"), false),
-             int(DataBrokerGroup::ErrUnknownProperty));
-    QCOMPARE(value.toString(), QStringLiteral("as it was"));
-    QCOMPARE(broker.getIniSetting("", value, QVariant(), false), int(DataBrokerGroup::ErrUnknownProperty));
-    QCOMPARE(broker.getIniSetting(nullptr, value, QVariant(), false), int(DataBrokerGroup::ErrUnknownProperty));
-    QCOMPARE(broker.getIniSetting("main.general.font", value, QStringLiteral("Liberation Sans"), true),
-             int(DataBrokerGroup::Success));
-    QCOMPARE(value.toString(), QStringLiteral("Liberation Sans"));
-}
-
-void TestDataBroker::aBrokerWithoutSettingsHasNone()
-{
-    const DataBroker broker;
-    QVariant value;
-    QCOMPARE(broker.getIniSetting("main.general.font", value, QStringLiteral("Liberation Sans"), true),
-             int(DataBrokerGroup::Success));
-    QCOMPARE(value.toString(), QStringLiteral("Liberation Sans"));
-}
-
-void TestDataBroker::theDisplaySizeIsGivenBack()
-{
-    QCOMPARE(DataBroker().getSize(), QSize(1280, 800));
-    QCOMPARE(DataBroker(QString(), QSize(640, 480)).getSize(), QSize(640, 480));
-}
-
-void TestDataBroker::publishingAndSearchingRunFromManyThreads()
+void TestDataBrokerGroups::publishingAndSearchingRunFromManyThreads()
 {
     constexpr int publishers = 4;
     constexpr int groupsEach = 200;
@@ -356,5 +259,5 @@ void TestDataBroker::publishingAndSearchingRunFromManyThreads()
     QCOMPARE(broker.findGroup(QStringLiteral("*"), true, true).size(), publishers * groupsEach);
 }
 
-QTEST_GUILESS_MAIN(TestDataBroker)
-#include "tst_databroker.moc"
+QTEST_GUILESS_MAIN(TestDataBrokerGroups)
+#include "tst_databroker_groups.moc"
