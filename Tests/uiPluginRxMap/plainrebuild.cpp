@@ -106,7 +106,8 @@ PlainRebuild rebuildPlainly(RX_POLYGON *chain, unsigned int count, const QList<O
     QVector<RX_POLYGON *> unplaced = holes;
     for (int outer = 0; outer < outers.size(); ++outer) {
         const RX_POLYGON &polygon = *outers.at(outer);
-        carriedOver = colorOf(static_cast<double>(polygon.rates[0]), legend, carriedOver);
+        if (polygon.rates != nullptr)
+            carriedOver = colorOf(static_cast<double>(polygon.rates[0]), legend, carriedOver);
         QVector<RX_POLYGON *> here;
         for (const int hole : cut.at(outer)) {
             here.append(holes.at(hole));
@@ -119,5 +120,6 @@ PlainRebuild rebuildPlainly(RX_POLYGON *chain, unsigned int count, const QList<O
     }
     for (RX_POLYGON *hole : qAsConst(unplaced))
         made.drawIndexes[records.indexOf(hole)] = -1;
+    made.carriedOver = carriedOver;
     return made;
 }

@@ -14,6 +14,7 @@
 struct PlainRebuild {
     QVector<Vertex> vertices;
     QVector<int> drawIndexes; ///< One for each record of the chain, in order.
+    QColor carriedOver;       ///< The colour of the last polygon.
 };
 
 /// `carriedOver`: the colour of the polygon before the first. Writes nothing into the records.

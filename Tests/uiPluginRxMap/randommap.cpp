@@ -5,32 +5,135 @@
 #include <cmath>
 #include <limits>
 
+using OrvikTypes::RX_POLYGON;
+using OrvikTypes::RX_POLYGONVERTEX;
+
+namespace {
+
+RX_POLYGONVERTEX between(const RX_POLYGONVERTEX &from, const RX_POLYGONVERTEX &to, double share)
+{
+    return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
+}
+
+using Rings = RandomRings;
+using Odd = OddNumbers;
+using Census = MapCensus;
+
+void add(const char *name, const RandomKind &kind, const MapCensus::Counts &least)
+{
+    QTest::newRow(name) << kind << least;
+}
+
+void addSingleRings()
+{
+    const MapCensus::Counts notOrdinary{{Census::CutHole, 80}, {Census::HoleInOddRing, 80}};
+    add("tangles", {Rings::Tangles}, {{Census::CutHole, 10}});
+    add("tangles on a grid", {Rings::Tangles, Odd::None, 2.0}, {{Census::CutHole, 10}, {Census::PointOnLine, 50}});
+    add("tangles with odd values", {Rings::Tangles, Odd::AnyCoordinate, 1.0},
+        {{Census::CutHole, 15}, {Census::HoleInOddRing, 10}});
+    add("nested", {Rings::Stars}, {{Census::CutHole, 80}, {Census::RasteredRing, 30}});
+    add("nested on a grid", {Rings::Stars, Odd::None, 1.0},
+        {{Census::CutHole, 80}, {Census::RasteredRing, 30}, {Census::PointOnLine, 400}, {Census::HolesThatTouch, 15}});
+    add("nested far away", {Rings::Stars, Odd::None, 0.0, 3.3e8}, {{Census::CutHole, 60}, {Census::RasteredRing, 20}});
+    add("nested with odd values", {Rings::Stars, Odd::AnyCoordinate},
+        {{Census::CutHole, 4}, {Census::HoleInOddRing, 3}});
+    add("nested with few odd values", {Rings::Stars, Odd::OneVertexOfFewRings},
+        {{Census::CutHole, 70},
+         {Census::RasteredRing, 30},
+         {Census::OddHoleInRasteredRing, 5},
+         {Census::HoleInOddRing, 5}});
+    add("nested and minute", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-170},
+        {{Census::CutHole, 80}, {Census::RasteredRing, 15}});
+    add("nested and all but nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-200}, notOrdinary);
+    add("nested and next to nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-300}, notOrdinary);
+}
+
+void addRelatedRings()
+{
+    const MapCensus::Counts narrowed{
+        {Census::CutHole, 120}, {Census::RasteredRing, 60}, {Census::PointNarrowedOntoLine, 150}};
+    add("narrowed onto lines", {Rings::Nudged, Odd::None, 1.0}, narrowed);
+    add("narrowed onto lines far away", {Rings::Nudged, Odd::None, 1.0, 1e6}, narrowed);
+    add("sectors", {Rings::Sectors, Odd::None, 1.0},
+        {{Census::CutHole, 100},
+         {Census::RasteredRing, 40},
+         {Census::PointOnLine, 2000},
+         {Census::EdgeShared, 1500},
+         {Census::HolesThatTouch, 80}});
+    add("sectors with few odd values", {Rings::Sectors, Odd::OneVertexOfFewRings, 1.0},
+        {{Census::CutHole, 60},
+         {Census::RasteredRing, 30},
+         {Census::EdgeShared, 1500},
+         {Census::OddHoleInRasteredRing, 4},
+         {Census::HoleInOddRing, 3}});
+}
+
+} // namespace
+
 RandomMap::RandomMap(const RandomKind &kind, unsigned int seed)
     : kind(kind)
     , random(seed)
 {
     const int rings = 2 + below(14);
     for (int i = 0; i < rings; ++i) {
-        const Ring ring = kind.nested ? star() : tangle();
-        OrvikTypes::RX_POLYGON &polygon = below(2) == 0 ? chain.addOuter(ring) : chain.addHole(ring);
+        const bool isHole = below(2) == 1;
+        Ring ring = nextRing(isHole);
+        // What it was before: a ring that is not a number large would meet no other.
+        const double area = ring.empty() ? 0.0 : std::fabs(signedArea(ring));
+        spoil(ring);
+        RX_POLYGON &polygon = isHole ? chain.addHole(ring) : chain.addOuter(ring, {rate()});
+        polygon.area = area;
         if (below(4) == 0)
             polygon.area = 100.0 * below(4);
+        if (kind.odd != OddNumbers::None && below(8) == 0)
+            polygon.area = oddNumber();
+        if (!isHole && below(8) == 0)
+            polygon.rates = nullptr;
     }
+}
+
+float RandomMap::rate()
+{
+    if (below(16) == 0)
+        return std::numeric_limits<float>::quiet_NaN();
+    return 10.0F * static_cast<float>(below(12)) - 20.0F;
+}
+
+Ring RandomMap::nextRing(bool isHole)
+{
+    switch (kind.rings) {
+    case RandomRings::Tangles:
+        return tangle();
+    case RandomRings::Stars:
+        return star().ring;
+    case RandomRings::Nudged:
+        if (isHole && !models.empty())
+            return nudgedHole(models[static_cast<std::size_t>(below(static_cast<int>(models.size())))]);
+        models.push_back(star());
+        return models.back().ring;
+    case RandomRings::Sectors:
+        if (models.empty())
+            models.push_back(star());
+        return sector(models.front());
+    }
+    return {};
+}
+
+double RandomMap::oddNumber()
+{
+    static const double odd[] = {std::numeric_limits<double>::quiet_NaN(),
+                                 std::numeric_limits<double>::infinity(),
+                                 -std::numeric_limits<double>::infinity(),
+                                 1e300,
+                                 -1e200,
+                                 1e-300,
+                                 5e-324,
+                                 1e39};
+    return odd[below(8)];
 }
 
 double RandomMap::coordinate(double value)
 {
-    if (kind.oddValues && below(12) == 0) {
-        static const double odd[] = {std::numeric_limits<double>::quiet_NaN(),
-                                     std::numeric_limits<double>::infinity(),
-                                     -std::numeric_limits<double>::infinity(),
-                                     1e300,
-                                     -1e200,
-                                     1e-300,
-                                     5e-324,
-                                     1e39};
-        return odd[below(8)];
-    }
     return kind.scale * ((kind.grid > 0.0 ? std::round(value / kind.grid) * kind.grid : value) + kind.offset);
 }
 
@@ -43,34 +146,82 @@ Ring RandomMap::tangle()
     return ring;
 }
 
-Ring RandomMap::star()
+RandomMap::Star RandomMap::star()
 {
     std::uniform_real_distribution<double> position(-12.0, 12.0);
     const double x = position(random);
     const double y = position(random);
     const double radius = 1.0 + below(30);
     const int vertices = 3 + below(80);
-    Ring ring;
+    Star made{{coordinate(x), coordinate(y)}, {}};
     for (int i = 0; i < vertices; ++i) {
         const double angle = 6.28318530717958648 * i / vertices;
         const double reach = radius * (0.8 + 0.02 * below(10));
-        ring.push_back({coordinate(x + reach * std::cos(angle)), coordinate(y + reach * std::sin(angle))});
+        made.ring.push_back({coordinate(x + reach * std::cos(angle)), coordinate(y + reach * std::sin(angle))});
     }
+    return made;
+}
+
+// A smaller star of as many vertices, about two of which are the outer ring's own or in the middle of its edges. Those
+// are numbers that a float holds, where the outer ring's are small multiples of the grid.
+Ring RandomMap::nudgedHole(const Star &outer)
+{
+    const int vertices = static_cast<int>(outer.ring.size());
+    const double share = 0.2 + 0.07 * below(10);
+    Ring hole;
+    for (std::size_t i = 0; i < outer.ring.size(); ++i) {
+        const RX_POLYGONVERTEX &vertex = outer.ring[i];
+        if (below(vertices) == 0)
+            hole.push_back(nudged(vertex));
+        else if (below(vertices) == 0)
+            hole.push_back(nudged(between(vertex, outer.ring[(i + 1) % outer.ring.size()], 0.5)));
+        else
+            hole.push_back(between(outer.centre, vertex, share));
+    }
+    return hole;
+}
+
+/// The vertex, or one beside it by less than half of what a float's numbers lie apart there.
+RX_POLYGONVERTEX RandomMap::nudged(const RX_POLYGONVERTEX &vertex)
+{
+    const double x = 2e-8 * (below(3) - 1);
+    const double y = 2e-8 * (below(3) - 1);
+    return {vertex.x * (1.0 + x), vertex.y * (1.0 + y)};
+}
+
+// Halves and quarters are exact, so that pieces of one size share what they share to the last bit.
+Ring RandomMap::sector(const Star &whole)
+{
+    const int vertices = static_cast<int>(whole.ring.size());
+    const int from = below(vertices);
+    const int taken = below(2) == 0 ? vertices : 1 + below(vertices);
+    const double share = 1.0 / (1 << below(3));
+    Ring ring;
+    if (taken < vertices)
+        ring.push_back(whole.centre);
+    for (int i = 0; i < taken; ++i)
+        ring.push_back(between(whole.centre, whole.ring[static_cast<std::size_t>((from + i) % vertices)], share));
     return ring;
+}
+
+void RandomMap::spoil(Ring &ring)
+{
+    if (kind.odd == OddNumbers::AnyCoordinate) {
+        for (auto &vertex : ring) {
+            vertex.x = below(12) == 0 ? oddNumber() : vertex.x;
+            vertex.y = below(12) == 0 ? oddNumber() : vertex.y;
+        }
+    }
+    if (kind.odd == OddNumbers::OneVertexOfFewRings && !ring.empty() && below(8) == 0) {
+        RX_POLYGONVERTEX &vertex = ring[static_cast<std::size_t>(below(static_cast<int>(ring.size())))];
+        (below(2) == 0 ? vertex.x : vertex.y) = oddNumber();
+    }
 }
 
 void addRandomKinds()
 {
     QTest::addColumn<RandomKind>("kind");
-    const auto add = [](const char *name, const RandomKind &kind) { QTest::newRow(name) << kind; };
-    add("tangles", {});
-    add("tangles on a grid", {2.0, 0.0, false, false, 1.0});
-    add("tangles with odd values", {1.0, 0.0, true, false, 1.0});
-    add("nested", {0.0, 0.0, false, true, 1.0});
-    add("nested on a grid", {1.0, 0.0, false, true, 1.0});
-    add("nested far away", {0.0, 3.3e8, false, true, 1.0});
-    add("nested with odd values", {0.0, 0.0, true, true, 1.0});
-    add("nested and minute", {0.0, 0.0, false, true, 1e-170});
-    add("nested and all but nothing", {0.0, 0.0, false, true, 1e-200});
-    add("nested and next to nothing", {0.0, 0.0, false, true, 1e-300});
+    QTest::addColumn<MapCensus::Counts>("least");
+    addSingleRings();
+    addRelatedRings();
 }

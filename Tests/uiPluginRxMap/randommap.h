@@ -1,21 +1,37 @@
 #pragma once
 
+#include "mapcensus.h"
 #include "maphost.h"
 
 #include <random>
+#include <vector>
+
+/// What the rings of a random map are.
+enum class RandomRings {
+    Tangles, ///< A few vertices anywhere.
+    Stars,   ///< Many vertices around a centre, so that rings lie inside one another.
+    Nudged,  ///< Stars; holes are drawn from outer rings, their vertices beside a line by less than a float tells.
+    Sectors, ///< Pieces of one star in three sizes: they share edges, vertices and the centre.
+};
+
+/// Where there are NaN, infinities, huge and tiny numbers among the coordinates.
+enum class OddNumbers { None, AnyCoordinate, OneVertexOfFewRings };
 
 /// How random rings are made.
 struct RandomKind {
-    double grid = 0.0;      ///< Coordinates are multiples of this; 0: any.
-    double offset = 0.0;    ///< Far from the origin, narrowing to float moves vertices.
-    bool oddValues = false; ///< NaN, infinities, huge and tiny numbers among the coordinates.
-    bool nested = false;    ///< Stars inside stars instead of tangles.
+    RandomRings rings = RandomRings::Tangles;
+    OddNumbers odd = OddNumbers::None;
+    double grid = 0.0;   ///< Coordinates are multiples of this; 0: any.
+    double offset = 0.0; ///< Far from the origin, narrowing to float moves vertices.
     double scale = 1.0;
 };
 
 Q_DECLARE_METATYPE(RandomKind)
 
-/// A few outer rings and holes, some with an area that is not theirs; the same for the same seed.
+/// So many of a kind's maps, of the seeds from 1 on, are counted; the others are made in the same way.
+constexpr unsigned int countedMaps = 100;
+
+/// A few outer rings and holes, some with an area that is not theirs or without rates; the same for the same seed.
 class RandomMap {
 public:
     RandomMap(const RandomKind &kind, unsigned int seed);
@@ -23,14 +39,28 @@ public:
     PolygonChain chain;
 
 private:
+    struct Star {
+        OrvikTypes::RX_POLYGONVERTEX centre;
+        Ring ring;
+    };
+
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned int>(limit)); }
     double coordinate(double value);
+    double oddNumber();
+    float rate();
+    Ring nextRing(bool isHole);
     Ring tangle();
-    Ring star();
+    Star star();
+    Ring nudgedHole(const Star &outer);
+    OrvikTypes::RX_POLYGONVERTEX nudged(const OrvikTypes::RX_POLYGONVERTEX &vertex);
+    Ring sector(const Star &whole);
+    void spoil(Ring &ring);
 
     RandomKind kind;
     std::mt19937 random;
+    std::vector<Star> models; ///< What further rings are made from.
 };
 
-/// Adds a row "kind" of RandomKind for every sort of trouble that rings can make.
+/// Adds a row for every sort of trouble that rings can make: a RandomKind "kind", and MapCensus::Counts "least" of what
+/// its first countedMaps maps hold.
 void addRandomKinds();
