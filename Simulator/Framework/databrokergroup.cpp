@@ -1,8 +1,8 @@
 #include "Framework/databrokergroup.h"
 
+#include "Conversion/valueconversion.h"
 #include "databrokergroupprivate.h"
 #include "debugline.h"
-#include "valueconversion.h"
 #include "writeoutcome.h"
 
 #include "Framework/groupproperty.h"

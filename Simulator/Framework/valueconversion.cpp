@@ -1,4 +1,4 @@
-#include "valueconversion.h"
+#include "Conversion/valueconversion.h"
 
 #include <QMetaType>
 

@@ -1,6 +1,6 @@
 #include "plainvalue.h"
 
-#include "../Framework/valueconversion.h"
+#include "Conversion/valueconversion.h"
 
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxpolygon.h"

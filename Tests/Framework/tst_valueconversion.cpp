@@ -1,5 +1,5 @@
+#include "Conversion/valueconversion.h"
 #include "testbase.h"
-#include "valueconversion.h"
 
 #include <limits>
 
