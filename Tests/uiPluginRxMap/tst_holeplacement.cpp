@@ -5,6 +5,7 @@
 #include "testbase.h"
 
 #include <cmath>
+#include <limits>
 
 using OrvikTypes::RX_POLYGON;
 
@@ -15,6 +16,8 @@ private Q_SLOTS:
     void aHoleInsideTwoRingsIsCutFromTheFirstOnly();
     void aHoleMustBeMoreThanTenSquareMetresSmaller_data();
     void aHoleMustBeMoreThanTenSquareMetresSmaller();
+    void aHoleWithAVertexThatIsNotFiniteIsNotCut_data();
+    void aHoleWithAVertexThatIsNotFiniteIsNotCut();
     void aHoleWithOneVertexOutsideIsNotCut();
     void aHoleWithoutVerticesIsPlacedNowhere();
     void aRingWithoutAVertexArrayIsEmpty();
@@ -30,6 +33,18 @@ private Q_SLOTS:
 };
 
 namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+Ring circle(int vertices, double radius)
+{
+    Ring ring;
+    for (int i = 0; i < vertices; ++i) {
+        const double angle = 6.28318530717958648 * i / vertices;
+        ring.push_back({radius * std::cos(angle), radius * std::sin(angle)});
+    }
+    return ring;
+}
 
 struct Rings {
     QVector<RX_POLYGON *> outers;
@@ -86,6 +101,14 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller_data()
     // Ten more than the hole rounds up to the outer ring's area: only the difference from that tells them apart.
     QTest::newRow("less than rounding over ten more") << 10.000000000000002 << 1e-15 << true;
     QTest::newRow("not a number") << std::nan("") << 4.0 << false;
+    QTest::newRow("a hole that is not a number large") << 100.0 << std::nan("") << false;
+    QTest::newRow("both not a number") << std::nan("") << std::nan("") << false;
+    QTest::newRow("infinite") << infinity << 4.0 << true;
+    QTest::newRow("an infinite hole") << 100.0 << infinity << false;
+    QTest::newRow("both infinite") << infinity << infinity << false;
+    QTest::newRow("less than any number") << -infinity << 4.0 << false;
+    QTest::newRow("a hole less than any number") << 4.0 << -infinity << true;
+    QTest::newRow("both less than any number") << -infinity << -infinity << false;
 }
 
 void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
@@ -93,10 +116,46 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
     QFETCH(double, outerArea);
     QFETCH(double, holeArea);
     QFETCH(bool, cut);
-    PolygonChain chain;
-    chain.addOuter(square(0, 0, 10)).area = outerArea;
-    chain.addHole(square(4, 4, 2)).area = holeArea;
-    QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
+    // Without its left edge a ring still has all on its inside that is left of the right one.
+    Ring withoutLeftEdge = square(0, 0, 10);
+    withoutLeftEdge.push_back({std::nan(""), 5});
+    for (const Ring &outer : {square(0, 0, 10), withoutLeftEdge}) {
+        PolygonChain chain;
+        chain.addOuter(outer).area = outerArea;
+        chain.addHole(square(4, 4, 2)).area = holeArea;
+        QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
+        // With a hole for which the ring is large enough in any case, though it lies elsewhere.
+        chain.addHole(square(40, 40, 2)).area = -1e300;
+        QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
+    }
+}
+
+void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut_data()
+{
+    QTest::addColumn<double>("coordinate");
+    QTest::newRow("not a number") << std::nan("");
+    QTest::newRow("infinite") << infinity;
+    QTest::newRow("infinite to the left") << -infinity;
+    QTest::newRow("infinite once narrowed") << 1e39;
+}
+
+void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut()
+{
+    QFETCH(double, coordinate);
+    // Few vertices are tested edge by edge, many by a raster.
+    for (const int vertices : {4, 60}) {
+        for (const int odd : {0, vertices / 2, vertices - 1}) {
+            for (const bool isHeight : {false, true}) {
+                Ring hole = circle(vertices, 10.0);
+                (isHeight ? hole[static_cast<std::size_t>(odd)].y : hole[static_cast<std::size_t>(odd)].x) = coordinate;
+                PolygonChain chain;
+                chain.addOuter(circle(vertices, 100.0));
+                chain.addHole(hole).area = 1.0;
+                chain.addHole(circle(vertices, 10.0));
+                QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{1}}));
+            }
+        }
+    }
 }
 
 void TestHolePlacement::aHoleWithOneVertexOutsideIsNotCut()
