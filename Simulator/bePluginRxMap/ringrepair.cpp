@@ -1,5 +1,6 @@
 #include "ringrepair.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -26,7 +26,7 @@ public:
     explicit RingRepair(double farthest);
 
     double grid() const { return gridSize; }
-    /// `inPlane` holds the map's coordinates in metres (as x, y); the file's own ones are in `map`.
+    /// `xs` and `ys` are the map's coordinates in metres, in the order of the file's own ones, which are in `map`.
     /// `firstRing` is an outer ring; it and the holes behind it are taken. Returns the ring behind those.
     size_t append(const SourceMap &map, const std::vector<double> &xs, const std::vector<double> &ys, size_t firstRing,
                   Outcome &outcome) const;
