@@ -48,9 +48,9 @@ int HoleArrangement::arrange(std::vector<PlanePolygon> &polygons)
     return arrangement.misplaced();
 }
 
-std::vector<OuterRing> HoleArrangement::outers() const
+std::vector<DrawnRing> HoleArrangement::outers() const
 {
-    std::vector<OuterRing> result;
+    std::vector<DrawnRing> result;
     result.reserve(polygons.size());
     for (const PlanePolygon &polygon : polygons)
         result.push_back({polygon.outer.data(), polygon.outer.size(), ringArea(polygon.outer)});

@@ -25,7 +25,7 @@ private:
     bool joinHoles();
     bool sort();
     std::vector<int> sortedAsFarAsPossible() const;
-    std::vector<OuterRing> outers() const;
+    std::vector<DrawnRing> outers() const;
     int misplaced() const;
 
     std::vector<PlanePolygon> &polygons;

@@ -13,23 +13,23 @@ double narrowed(double value)
     return static_cast<double>(static_cast<float>(value));
 }
 
-std::vector<TreeEntry> entries(const std::vector<OuterRing> &outers)
+std::vector<TreeEntry> entries(const std::vector<DrawnRing> &outers)
 {
     std::vector<TreeEntry> result;
     result.reserve(outers.size());
-    for (const OuterRing &outer : outers)
+    for (const DrawnRing &outer : outers)
         result.emplace_back(extentOf(outer.vertices, outer.count), static_cast<unsigned>(result.size()));
     return result;
 }
 
 } // namespace
 
-HoleTakers::HoleTakers(std::vector<OuterRing> outerRings)
+HoleTakers::HoleTakers(std::vector<DrawnRing> outerRings)
     : outers(std::move(outerRings))
     , tree(entries(outers))
 {
     indexes.reserve(outers.size());
-    for (const OuterRing &outer : outers)
+    for (const DrawnRing &outer : outers)
         indexes.emplace_back(outer.vertices, outer.count);
 }
 

@@ -1,16 +1,10 @@
 #pragma once
 
+#include "drawnring.h"
 #include "ringslabs.h"
 #include "ringtree.h"
 
 #include <vector>
-
-/// An outer ring as the renderer gets it.
-struct OuterRing {
-    const PlaneVertex *vertices;
-    size_t count;
-    double area; ///< Square metres.
-};
 
 /// Says which outer ring the renderer cuts a hole from. The renderer is not told which hole belongs to which polygon:
 /// it cuts a hole from the first outer ring, in the order of drawing, that is larger by more than ten square metres and
@@ -20,7 +14,7 @@ public:
     static constexpr int nowhere = -1;
 
     /// `outers` in the order of drawing; their vertices are not copied and must outlive this.
-    explicit HoleTakers(std::vector<OuterRing> outers);
+    explicit HoleTakers(std::vector<DrawnRing> outers);
 
     /// Places of all outer rings that fulfil the conditions, ascending.
     std::vector<int> takers(const PlaneVertex *hole, size_t count, double area) const;
@@ -31,7 +25,7 @@ private:
     std::vector<unsigned> candidates(const PlaneVertex *hole, size_t count) const;
     bool takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const;
 
-    std::vector<OuterRing> outers;
+    std::vector<DrawnRing> outers;
     std::vector<RingSlabs> indexes;
     RingTree tree;
 };

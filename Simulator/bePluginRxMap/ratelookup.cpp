@@ -16,9 +16,9 @@ struct PlacedHole {
     const RX_POLYGON *hole;
 };
 
-std::vector<OuterRing> outerRings(const std::vector<const RX_POLYGON *> &records)
+std::vector<DrawnRing> outerRings(const std::vector<const RX_POLYGON *> &records)
 {
-    std::vector<OuterRing> rings;
+    std::vector<DrawnRing> rings;
     rings.reserve(records.size());
     for (const RX_POLYGON *record : records)
         rings.push_back({record->vertices, record->vertexCount, record->area});

@@ -8,9 +8,9 @@ PlaneRing square(double x, double y, double side)
     return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
 }
 
-std::vector<OuterRing> outersOf(const std::vector<PlaneRing> &rings)
+std::vector<DrawnRing> outersOf(const std::vector<PlaneRing> &rings)
 {
-    std::vector<OuterRing> outers;
+    std::vector<DrawnRing> outers;
     for (const PlaneRing &ring : rings)
         outers.push_back({ring.data(), ring.size(), ringArea(ring)});
     return outers;

@@ -130,7 +130,7 @@ bool shareVertex(const RX_POLYGON &one, const RX_POLYGON &other)
 
 } // namespace
 
-void MapCensus::add(PolygonChain &chain)
+void MapCensus::add(HandMadeChain &chain)
 {
     QVector<RX_POLYGON *> outers;
     QVector<RX_POLYGON *> holes;

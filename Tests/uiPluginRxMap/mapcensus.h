@@ -21,7 +21,7 @@ public:
     };
     using Counts = QMap<Case, int>;
 
-    void add(PolygonChain &chain);
+    void add(HandMadeChain &chain);
     /// Each case found more seldom than `least` says, with both numbers; empty where there is none.
     QString shortOf(const Counts &least) const;
 

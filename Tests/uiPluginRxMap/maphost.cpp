@@ -6,50 +6,6 @@
 #include "Framework/dbgroupqmlunitsconverter.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
-#include <cmath>
-#include <utility>
-
-using OrvikTypes::RX_POLYGON;
-
-Ring square(double left, double bottom, double size)
-{
-    return {{left, bottom}, {left + size, bottom}, {left + size, bottom + size}, {left, bottom + size}};
-}
-
-double signedArea(const Ring &ring)
-{
-    double doubled = 0.0;
-    for (std::size_t i = 0, j = ring.size() - 1; i < ring.size(); j = i++)
-        doubled += ring[j].x * ring[i].y - ring[i].x * ring[j].y;
-    return doubled / 2.0;
-}
-
-RX_POLYGON &PolygonChain::addOuter(const Ring &ring, std::vector<float> rates)
-{
-    return add(ring, std::move(rates), false);
-}
-
-RX_POLYGON &PolygonChain::addHole(const Ring &ring)
-{
-    return add(ring, {0.0F}, true);
-}
-
-RX_POLYGON *PolygonChain::first()
-{
-    return polygons.empty() ? nullptr : &polygons.front();
-}
-
-RX_POLYGON &PolygonChain::add(const Ring &ring, std::vector<float> rates, bool isHole)
-{
-    rings.push_back(ring);
-    rateLists.push_back(std::move(rates));
-    polygons.push_back({ring.empty() ? 0.0 : std::fabs(signedArea(ring)), 0, rings.back().data(),
-                        static_cast<quint32>(ring.size()), rateLists.back().data(), isHole, nullptr});
-    if (polygons.size() > 1)
-        polygons[polygons.size() - 2].next = &polygons.back();
-    return polygons.back();
-}
-
 OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mappingFor(const QString &rateCalName)
 {
     OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mapping;
@@ -107,7 +63,7 @@ DbGroupRxMap *MapHost::addMap(const QString &name, const QList<int> &products)
     return group;
 }
 
-void MapHost::publish(DbGroupRxMap &group, PolygonChain &chain, const QList<OrvikTypes::RX_RATECOLOR> &legend)
+void MapHost::publish(DbGroupRxMap &group, HandMadeChain &chain, const QList<OrvikTypes::RX_RATECOLOR> &legend)
 {
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
     for (int i = 0; i < group.getRateCalMappings().size(); ++i)

@@ -79,7 +79,7 @@ RandomMap::RandomMap(const RandomKind &kind, unsigned int seed)
         const bool isHole = below(2) == 1;
         Ring ring = nextRing(isHole);
         // What it was before: a ring that is not a number large would meet no other.
-        const double area = ring.empty() ? 0.0 : std::fabs(signedArea(ring));
+        const double area = ring.empty() ? 0.0 : std::fabs(shoelaceArea(ring));
         spoil(ring);
         RX_POLYGON &polygon = isHole ? chain.addHole(ring) : chain.addOuter(ring, {rate()});
         polygon.area = area;

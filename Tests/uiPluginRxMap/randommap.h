@@ -36,7 +36,7 @@ class RandomMap {
 public:
     RandomMap(const RandomKind &kind, unsigned int seed);
 
-    PolygonChain chain;
+    HandMadeChain chain;
 
 private:
     struct Star {

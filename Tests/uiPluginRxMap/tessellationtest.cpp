@@ -22,7 +22,7 @@ void TessellationTest::cleanup()
     TestBase::cleanup();
 }
 
-const QVector<Vertex> &TessellationTest::rebuild(PolygonChain &chain)
+const QVector<Vertex> &TessellationTest::rebuild(HandMadeChain &chain)
 {
     MapHost::publish(*group, chain, oneClass);
     return RxMap3DProbe::banks(*map).at(0).vertices;

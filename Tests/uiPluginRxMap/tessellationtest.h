@@ -17,7 +17,7 @@ protected Q_SLOTS:
 
 protected:
     /// Publishes the chain with the legend of one class; the triangles drawn for it, of the map's first bank.
-    const QVector<Vertex> &rebuild(PolygonChain &chain);
+    const QVector<Vertex> &rebuild(HandMadeChain &chain);
 
     /// A legend of one opaque red class.
     const QList<OrvikTypes::RX_RATECOLOR> oneClass{{100.0, QColor(255, 0, 0)}};

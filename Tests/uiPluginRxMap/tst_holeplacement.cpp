@@ -51,7 +51,7 @@ struct Rings {
     QVector<RX_POLYGON *> holes;
 };
 
-Rings split(PolygonChain &chain)
+Rings split(HandMadeChain &chain)
 {
     Rings rings;
     for (RX_POLYGON *polygon = chain.first(); polygon != nullptr; polygon = polygon->next)
@@ -83,7 +83,7 @@ QVector<QVector<int>> placed(const Rings &rings)
 
 void TestHolePlacement::aHoleInsideTwoRingsIsCutFromTheFirstOnly()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addHole(square(4, 4, 2));
     chain.addOuter(square(0, 0, 10));
     chain.addOuter(square(1, 1, 8));
@@ -120,7 +120,7 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
     Ring withoutLeftEdge = square(0, 0, 10);
     withoutLeftEdge.push_back({std::nan(""), 5});
     for (const Ring &outer : {square(0, 0, 10), withoutLeftEdge}) {
-        PolygonChain chain;
+        HandMadeChain chain;
         chain.addOuter(outer).area = outerArea;
         chain.addHole(square(4, 4, 2)).area = holeArea;
         QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
@@ -148,7 +148,7 @@ void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut()
             for (const bool isHeight : {false, true}) {
                 Ring hole = circle(vertices, 10.0);
                 (isHeight ? hole[static_cast<std::size_t>(odd)].y : hole[static_cast<std::size_t>(odd)].x) = coordinate;
-                PolygonChain chain;
+                HandMadeChain chain;
                 chain.addOuter(circle(vertices, 100.0));
                 chain.addHole(hole).area = 1.0;
                 chain.addHole(circle(vertices, 10.0));
@@ -160,7 +160,7 @@ void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut()
 
 void TestHolePlacement::aHoleWithOneVertexOutsideIsNotCut()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole({{4, 4}, {6, 4}, {5, 10.5}});
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));
@@ -168,7 +168,7 @@ void TestHolePlacement::aHoleWithOneVertexOutsideIsNotCut()
 
 void TestHolePlacement::aHoleWithoutVerticesIsPlacedNowhere()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole({});
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));
@@ -176,7 +176,7 @@ void TestHolePlacement::aHoleWithoutVerticesIsPlacedNowhere()
 
 void TestHolePlacement::aRingWithoutAVertexArrayIsEmpty()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10)).vertices = nullptr;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(4, 4, 2)).vertices = nullptr;
@@ -194,7 +194,7 @@ void TestHolePlacement::aHoleWithAnImpossibleVertexCountIsPlacedNowhere_data()
 void TestHolePlacement::aHoleWithAnImpossibleVertexCountIsPlacedNowhere()
 {
     QFETCH(quint32, count);
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(4, 4, 2)).vertexCount = count;
     chain.addHole(square(4, 4, 2));
@@ -211,7 +211,7 @@ void TestHolePlacement::outersWithImpossibleVertexCountsDisturbNoOther()
     QFETCH(quint32, count);
     for (int rings = 1; rings <= 40; ++rings) {
         for (int good = 0; good <= rings; ++good) {
-            PolygonChain chain;
+            HandMadeChain chain;
             for (int ring = 0; ring <= rings; ++ring) {
                 RX_POLYGON &outer = chain.addOuter(square(0, 0, 10));
                 if (ring != good)
@@ -228,7 +228,7 @@ void TestHolePlacement::outersWithImpossibleVertexCountsDisturbNoOther()
 void TestHolePlacement::aCrossingBeyondTheRingStillCounts()
 {
     // The left edge's crossing, as computed, lies left of both of its ends: so does the hole, and yet it is inside.
-    PolygonChain chain;
+    HandMadeChain chain;
     chain
         .addOuter({{1.000000000000419, 1.9991116523742674},
                    {391864.6605272225, 4.4188206188761381},
@@ -241,7 +241,7 @@ void TestHolePlacement::aCrossingBeyondTheRingStillCounts()
 void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
 {
     // Heights below the smallest normal number: the edge arithmetic underflows.
-    PolygonChain chain;
+    HandMadeChain chain;
     chain
         .addOuter({{0.00042726980716363024, 8.0088041190866065e-321},
                    {3.3876405413944645e-292, 6.4475566782282674e-321},
@@ -255,7 +255,7 @@ void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
 void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
 {
     // 16777217 is not a float: narrowed it becomes 16777216 and lies left of the ring.
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(16777216.5, 0, 10));
     chain.addHole({{16777217, 2}, {16777220, 2}, {16777220, 4}});
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));

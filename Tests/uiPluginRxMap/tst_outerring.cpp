@@ -28,7 +28,7 @@ namespace {
 /// Whether the ring contains the hole, tested edge by edge or after preparing for many points.
 bool contains(const Ring &ring, const Ring &hole, bool isPrepared)
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     OuterRing outer(chain.addOuter(ring));
     const RX_POLYGON &polygon = chain.addHole(hole);
     Box box{};
@@ -57,7 +57,7 @@ Ring manyVertices()
 
 void TestOuterRing::theBoxHoldsTheRingAndALittleMore()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     const OuterRing outer(chain.addOuter(square(10, 20, 5)));
     QVERIFY(outer.isOrdinary());
     QVERIFY(outer.box().contains({10, 20, 15, 25}));
@@ -85,7 +85,7 @@ void TestOuterRing::aRingWithOddCoordinatesIsNotOrdinary()
     QFETCH(double, x);
     QFETCH(double, y);
     QFETCH(bool, ordinary);
-    PolygonChain chain;
+    HandMadeChain chain;
     const OuterRing outer(chain.addOuter({{0, 0}, {10, 0}, {x, y}}));
     QCOMPARE(outer.isOrdinary(), ordinary);
 }

@@ -31,7 +31,7 @@ void TestPolygonSize::aPolygonHasTwoTrianglesLessThanVertices()
 {
     QFETCH(int, vertices);
     QFETCH(int, triangles);
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(Ring(static_cast<std::size_t>(vertices)));
     const RingLists rings(chain.first(), chain.count());
     const HolePlacement placement(rings.outers, rings.holes);
@@ -43,7 +43,7 @@ void TestPolygonSize::aPolygonHasTwoTrianglesLessThanVertices()
 
 void TestPolygonSize::everyHoleAddsItsVerticesAndTwoTriangles()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(1, 1, 2));
     chain.addHole({{5, 5}, {7, 5}, {7, 7}});
@@ -56,7 +56,7 @@ void TestPolygonSize::everyHoleAddsItsVerticesAndTwoTriangles()
 
 void TestPolygonSize::theMapIsTheSumOfItsPolygons()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(1, 1, 2));
     chain.addOuter({{20, 0}, {30, 0}, {30, 10}});
@@ -67,7 +67,7 @@ void TestPolygonSize::theMapIsTheSumOfItsPolygons()
 
 void TestPolygonSize::noMoreRoomIsAskedForThanAListHolds()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     for (int i = 0; i < 3; ++i)
         chain.addOuter(square(0, 0, 10)).vertexCount = 0x7FFFFFFFU; // Never looked at.
     const RingLists rings(chain.first(), chain.count());

@@ -44,7 +44,7 @@ void TestPolygonTessellation::cleanup()
 
 void TestPolygonTessellation::tessellate(const Ring &ring, const QColor &color)
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     PolygonTessellation tessellation(tessellator, triangles);
     const auto vertices = static_cast<int>(ring.size());
     tessellation.beginPolygon(color, vertices, vertices - 2);
@@ -85,7 +85,7 @@ void TestPolygonTessellation::theColourComesAtHalfItsAlpha()
 
 void TestPolygonTessellation::anInvalidColourIsBlack()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     PolygonTessellation tessellation(tessellator, triangles);
     for (const QColor &color : {QColor(255, 255, 255), QColor()}) {
         triangles.clear();

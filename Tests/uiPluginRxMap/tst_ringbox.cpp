@@ -17,7 +17,7 @@ private Q_SLOTS:
 
 void TestRingBox::aHolesBoxIsOfItsNarrowedVertices()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     Box box{};
     QVERIFY(boxOfHole(chain.addHole({{16777217, 0.1}, {16777220, 3}, {16777221, 2}}), box));
     QCOMPARE(box.minX, 16777216.0);
@@ -40,14 +40,14 @@ void TestRingBox::aHoleThatIsNotFiniteHasNone()
 {
     QFETCH(double, x);
     QFETCH(double, y);
-    PolygonChain chain;
+    HandMadeChain chain;
     Box box{};
     QVERIFY(!boxOfHole(chain.addHole({{0, 0}, {1, 0}, {x, y}}), box));
 }
 
 void TestRingBox::anOutersBoxIsWiderByWhatACrossingCanErr()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     Box box{};
     QVERIFY(boxOfOuter(chain.addOuter({{1.0, 2.0}, {4e5, 3.0}, {2e5, 7.0}}), box));
     // Five roundings of the larger abscissa.

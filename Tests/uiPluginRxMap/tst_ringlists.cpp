@@ -14,7 +14,7 @@ private Q_SLOTS:
 
 void TestRingLists::outersAndHolesAreTakenApartInChainOrder()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addHole(square(0, 0, 1));
     chain.addOuter(square(1, 0, 1));
     chain.addOuter(square(2, 0, 1));
@@ -39,7 +39,7 @@ void TestRingLists::onlyTheCountedRecordsAreTaken_data()
 void TestRingLists::onlyTheCountedRecordsAreTaken()
 {
     QFETCH(unsigned int, count);
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 1));
     chain.addHole(square(1, 0, 1));
     chain.addOuter(square(2, 0, 1));

@@ -37,7 +37,7 @@ QList<OrvikTypes::RX_RATECOLOR> oneClass()
 }
 
 /// A map of product 1 from a back-end of another make, with one square in `chain` that it does not count yet.
-ForeignMapGroup *publishForeignMap(MapHost &host, PolygonChain &chain)
+ForeignMapGroup *publishForeignMap(MapHost &host, HandMadeChain &chain)
 {
     auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));
     host.broker.publishGroup(group);
@@ -111,7 +111,7 @@ void TestRxMap3DBinding::losingTheMatchUnbindsAndEmptiesTheBanks()
 {
     MapHost host;
     DbGroupRxMap *group = host.addMap(QStringLiteral("field"), {1});
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     MapHost::publish(*group, chain, oneClass());
     RxMap3D map(&host.broker, nullptr);
@@ -159,7 +159,7 @@ void TestRxMap3DBinding::aRemovedGroupStaysSafeToHold()
 void TestRxMap3DBinding::propertiesOfOtherTypesAreConverted()
 {
     MapHost host;
-    PolygonChain chain;
+    HandMadeChain chain;
     ForeignMapGroup *group = publishForeignMap(host, chain);
     RxMap3D map(&host.broker, nullptr);
     map.setAamGroup(host.aam(1));
@@ -171,7 +171,7 @@ void TestRxMap3DBinding::propertiesOfOtherTypesAreConverted()
 void TestRxMap3DBinding::propertiesThatDoNotConvertLeaveAnEmptyMap()
 {
     MapHost host;
-    PolygonChain chain;
+    HandMadeChain chain;
     ForeignMapGroup *group = publishForeignMap(host, chain);
     RxMap3D map(&host.broker, nullptr);
     map.setAamGroup(host.aam(1));

@@ -52,7 +52,7 @@ void TestRxMap3DColours::aPolygonTakesTheFirstClassNotBelowItsRate_data()
 void TestRxMap3DColours::aPolygonTakesTheFirstClassNotBelowItsRate()
 {
     QFETCH(float, rate);
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10), {rate});
     MapHost::publish(*group, chain, threeClasses());
     QTEST(firstColor(*map), "color");
@@ -67,7 +67,7 @@ void TestRxMap3DColours::aPolygonTakesTheFirstClassNotBelowItsRate()
 
 void TestRxMap3DColours::anEmptyLegendKeepsTheColourOfThePolygonBefore()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10), {15.0F});
     MapHost::publish(*group, chain, threeClasses());
     QCOMPARE(firstColor(*map), 0x8000FF00U);
@@ -78,7 +78,7 @@ void TestRxMap3DColours::anEmptyLegendKeepsTheColourOfThePolygonBefore()
 
 void TestRxMap3DColours::theColourSurvivesRebuilds()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10), {15.0F});
     MapHost::publish(*group, chain, threeClasses());
     map->setDbGroup(nullptr);
@@ -88,7 +88,7 @@ void TestRxMap3DColours::theColourSurvivesRebuilds()
 void TestRxMap3DColours::theColourStartsInvalidAndDrawsBlackAtHalfAlpha()
 {
     QVERIFY(!RxMap3DProbe::currentColor(RxMap3D(&host->broker, nullptr)).isValid());
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     MapHost::publish(*group, chain, {});
     QCOMPARE(firstColor(*map), 0x80000000U);
@@ -97,7 +97,7 @@ void TestRxMap3DColours::theColourStartsInvalidAndDrawsBlackAtHalfAlpha()
 void TestRxMap3DColours::theColumnIsThePositionOfTheMapping()
 {
     group->setRateCalMappings({mappingFor(MapHost::productGroup(2)), mappingFor(MapHost::productGroup(1))});
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10), {5.0F, 25.0F});
     MapHost::publish(*group, chain, threeClasses());
     QCOMPARE(firstColor(*map), 0x80FF0000U);
@@ -108,7 +108,7 @@ void TestRxMap3DColours::theColumnIsThePositionOfTheMapping()
 
 void TestRxMap3DColours::everyPolygonTakesItsOwnColour()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     for (float rate : {5.0F, 25.0F, 15.0F})
         chain.addOuter(square(20.0 * chain.count(), 0, 10), {rate});
     MapHost::publish(*group, chain, threeClasses());
@@ -121,7 +121,7 @@ void TestRxMap3DColours::everyPolygonTakesItsOwnColour()
 
 void TestRxMap3DColours::theRateIsWidenedBeforeItIsCompared()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10), {0.1F});
     // 0.1 as a float is a little more than 0.1.
     MapHost::publish(*group, chain, {{0.1, QColor(255, 0, 0)}, {1.0, QColor(0, 255, 0)}});

@@ -42,8 +42,8 @@ private:
     QScopedPointer<MapHost> host;
     DbGroupRxMap *firstMap = nullptr;  ///< Maps product 1; one square.
     DbGroupRxMap *secondMap = nullptr; ///< Maps product 2; two squares.
-    PolygonChain firstChain;
-    PolygonChain secondChain;
+    HandMadeChain firstChain;
+    HandMadeChain secondChain;
     RxMap3D *drawable = nullptr; ///< Shows product 1.
     std::function<void()> action;
 };
@@ -69,9 +69,9 @@ void TestRxMap3DHooks::init()
     host.reset(new MapHost);
     firstMap = host->addMap(QStringLiteral("first"), {1});
     secondMap = host->addMap(QStringLiteral("second"), {2});
-    firstChain = PolygonChain();
+    firstChain = HandMadeChain();
     firstChain.addOuter(square(0, 0, 10));
-    secondChain = PolygonChain();
+    secondChain = HandMadeChain();
     secondChain.addOuter(square(0, 0, 10));
     secondChain.addOuter(square(20, 0, 10));
     MapHost::publish(*firstMap, firstChain, oneClass);

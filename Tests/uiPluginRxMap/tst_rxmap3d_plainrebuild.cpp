@@ -93,7 +93,7 @@ public:
         map.updateRxMapGroup();
     }
 
-    QString differenceOf(PolygonChain &chain, const Legend &legend)
+    QString differenceOf(HandMadeChain &chain, const Legend &legend)
     {
         const PlainRebuild expected =
             rebuildPlainly(chain.first(), chain.count(), legend, RxMap3DProbe::currentColor(map));
@@ -151,7 +151,7 @@ void TestRxMap3DPlainRebuild::randomMaps()
 
 void TestRxMap3DPlainRebuild::cellsThatShareEdges()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     for (int i = 0; i < 400; ++i)
         chain.addOuter(square(5.0 * (i % 20), 5.0 * (i / 20), 5.0), {static_cast<float>(i % 70)});
     Bound bound;
@@ -162,7 +162,7 @@ void TestRxMap3DPlainRebuild::cellsThatShareEdges()
 // vertices; the outer rings have equal areas.
 void TestRxMap3DPlainRebuild::holesThatTouch()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 100));
     chain.addOuter(square(0, 0, 100));
     chain.addOuter(square(50, 50, 100));

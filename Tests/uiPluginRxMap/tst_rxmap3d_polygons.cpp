@@ -35,7 +35,7 @@ private:
     QScopedPointer<MapHost> host;
     DbGroupRxMap *group = nullptr;
     QScopedPointer<RxMap3D> map;
-    PolygonChain chain;
+    HandMadeChain chain;
 };
 
 namespace {
@@ -49,7 +49,7 @@ constexpr quint32 green = 0x8000FF00U;
 void TestRxMap3DPolygons::init()
 {
     TestBase::init();
-    chain = PolygonChain();
+    chain = HandMadeChain();
     host.reset(new MapHost);
     group = host->addMap(QStringLiteral("field"), {1});
     map.reset(new RxMap3D(&host->broker, nullptr));

@@ -44,11 +44,11 @@ Enclosed enclosedBy(const RX_POLYGON *polygon, unsigned int count)
             vertex.y = static_cast<double>(static_cast<float>(vertex.y));
         }
         if (!polygon->isHole) {
-            all.area += std::fabs(signedArea(ring));
+            all.area += std::fabs(shoelaceArea(ring));
             ++all.outers;
             all.isNumberedInOrder = all.isNumberedInOrder && polygon->drawIndex == all.outers;
         } else if (polygon->drawIndex != -1) {
-            all.area -= std::fabs(signedArea(ring));
+            all.area -= std::fabs(shoelaceArea(ring));
             ++all.placedHoles;
         }
     }

@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 void TestRxMap3DRebuilding::everySetOfPolygonCountRebuilds()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     QCOMPARE(rebuild(chain).size(), 6);
     RecordingGlu::clear();
@@ -54,7 +54,7 @@ void TestRxMap3DRebuilding::aFormerGroupNoLongerRebuilds()
 
 void TestRxMap3DRebuilding::destructionEndsTheConnectionAndLeavesTheRecords()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     delete map;

@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 void TestRxMap3DTessellation::withoutABoundGroupTheTessellatorStays()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     RecordingGlu::clear();
@@ -43,7 +43,7 @@ void TestRxMap3DTessellation::withoutABoundGroupTheTessellatorStays()
 
 void TestRxMap3DTessellation::withoutAnAamGroupTheTessellatorStays()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     RecordingGlu::clear();
@@ -57,7 +57,7 @@ void TestRxMap3DTessellation::withoutAnAamGroupTheTessellatorStays()
 
 void TestRxMap3DTessellation::aFailedTessellatorLeavesNoBank()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     RecordingGlu::clear();
@@ -69,7 +69,7 @@ void TestRxMap3DTessellation::aFailedTessellatorLeavesNoBank()
 
 void TestRxMap3DTessellation::noMappingForTheProductLeavesNoBank()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     group->setRateCalMappings({mappingFor(MapHost::productGroup(2))});
@@ -83,7 +83,7 @@ void TestRxMap3DTessellation::noMappingForTheProductLeavesNoBank()
 
 void TestRxMap3DTessellation::anIndexBeyondTheLegendsLeavesNoBank()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     group->setRateColors({});
@@ -94,7 +94,7 @@ void TestRxMap3DTessellation::anIndexBeyondTheLegendsLeavesNoBank()
 
 void TestRxMap3DTessellation::noPolygonsLeaveOneEmptyBank()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     QVERIFY(rebuild(chain).isEmpty());
     QCOMPARE(RxMap3DProbe::banks(*map).size(), 1);
     QCOMPARE(RxMap3DProbe::banks(*map).at(0).name, QStringLiteral("RxMap3D_Verts"));
@@ -134,7 +134,7 @@ void TestRxMap3DTessellation::callbacksAreRegisteredInOrder()
 
 void TestRxMap3DTessellation::callsForAnOuterRingWithAHole()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     // A tenth is no float: contours go to the tessellator as they are, although holes are placed by narrowed ones.
     chain.addHole({{0.1, 3}, {5, 0.7}, {5, 7}});
@@ -162,7 +162,7 @@ void TestRxMap3DTessellation::callsForAnOuterRingWithAHole()
 
 void TestRxMap3DTessellation::positionsStartAgainForEveryPolygon()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addOuter(square(20, 0, 10));
     rebuild(chain);
@@ -172,7 +172,7 @@ void TestRxMap3DTessellation::positionsStartAgainForEveryPolygon()
 
 void TestRxMap3DTessellation::nothingIsHeldBetweenRebuilds()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     QVERIFY(coordList.isEmpty());
@@ -182,7 +182,7 @@ void TestRxMap3DTessellation::nothingIsHeldBetweenRebuilds()
 
 void TestRxMap3DTessellation::halfAlphaOfAnOpaqueColourIs128()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     QCOMPARE(rebuild(chain).at(0).color >> 24, 128U);
     group->setRateColors({{{100.0, QColor(255, 0, 0, 0)}}});
@@ -192,7 +192,7 @@ void TestRxMap3DTessellation::halfAlphaOfAnOpaqueColourIs128()
 
 void TestRxMap3DTessellation::aChainShorterThanItsCountEndsEarly()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     rebuild(chain);
     group->setPolygonCount(1000);
@@ -201,7 +201,7 @@ void TestRxMap3DTessellation::aChainShorterThanItsCountEndsEarly()
 
 void TestRxMap3DTessellation::aChainLongerThanItsCountIsCutOff()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addOuter(square(20, 0, 10));
     rebuild(chain);

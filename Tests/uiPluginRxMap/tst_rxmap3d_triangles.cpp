@@ -82,7 +82,7 @@ void TestRxMap3DTriangles::aSquareGivesTwoReversedTriangles()
     coordList.clear();
     QCOMPARE(emitted.size(), 6);
 
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(ring);
     const QVector<Vertex> &drawn = rebuild(chain);
     QCOMPARE(drawn.size(), 6);
@@ -99,7 +99,7 @@ void TestRxMap3DTriangles::aSquareGivesTwoReversedTriangles()
 
 void TestRxMap3DTriangles::outersAreNumberedInOrderAndLostHolesMarked()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addHole(square(100, 100, 2)).drawIndex = 7;
     chain.addOuter(square(0, 0, 10)).drawIndex = 7;
     chain.addHole(square(4, 4, 2)).drawIndex = 7;
@@ -113,7 +113,7 @@ void TestRxMap3DTriangles::outersAreNumberedInOrderAndLostHolesMarked()
 
 void TestRxMap3DTriangles::aHoleInsideTwoOutersIsCutFromTheFirstOnly()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(4, 4, 2));
@@ -122,7 +122,7 @@ void TestRxMap3DTriangles::aHoleInsideTwoOutersIsCutFromTheFirstOnly()
 
 void TestRxMap3DTriangles::aHoleInAnIslandOfALaterRingIsTakenByTheFirst()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 100));
     chain.addHole(square(20, 20, 60));
     chain.addOuter(square(30, 30, 40));
@@ -133,7 +133,7 @@ void TestRxMap3DTriangles::aHoleInAnIslandOfALaterRingIsTakenByTheFirst()
 
 void TestRxMap3DTriangles::aHoleThatIsHardlySmallerIsKeptForALaterRing()
 {
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 4));
     chain.addOuter(square(-10, -10, 30));
     chain.addHole(square(1, 1, 2.5)); // 6.25 m², the first ring has 16.
@@ -145,7 +145,7 @@ void TestRxMap3DTriangles::aHoleThatIsHardlySmallerIsKeptForALaterRing()
 void TestRxMap3DTriangles::theBankHasRoomForAllTrianglesFromTheStart()
 {
     // The hole lies in the outer ring, so the map takes 4 + 4 + 2 - 2 triangles; the ring of two takes none.
-    PolygonChain chain;
+    HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(4, 4, 2));
     chain.addOuter({{20, 0}, {30, 0}});
@@ -171,7 +171,7 @@ void TestRxMap3DTriangles::oddCoordinatesNeverCrash()
         for (int axis = 0; axis < 2; ++axis) {
             Ring ring = square(0, 0, 10);
             (axis == 0 ? ring[corner].x : ring[corner].y) = value;
-            PolygonChain chain;
+            HandMadeChain chain;
             chain.addOuter(ring);
             chain.addOuter(square(20, 0, 10));
             chain.addHole(ring).area = 1.0;
@@ -180,7 +180,7 @@ void TestRxMap3DTriangles::oddCoordinatesNeverCrash()
             group->setPolygonCount(0);
         }
     }
-    PolygonChain lost;
+    HandMadeChain lost;
     lost.addOuter({{value, value}, {value, value}, {value, value}});
     rebuild(lost);
     QCOMPARE(lost.at(0).drawIndex, 1);
@@ -195,10 +195,10 @@ void TestRxMap3DTriangles::trianglesCoverTheOutersLessTheirHoles_data()
         QTest::newRow(shape) << QString::fromLatin1(shape);
 }
 
-static void addShape(PolygonChain &chain, const QString &shape, double &expected)
+static void addShape(HandMadeChain &chain, const QString &shape, double &expected)
 {
-    const auto outer = [&](const Ring &ring) { expected += std::fabs(signedArea(ring)), chain.addOuter(ring); };
-    const auto hole = [&](const Ring &ring) { expected -= std::fabs(signedArea(ring)), chain.addHole(ring); };
+    const auto outer = [&](const Ring &ring) { expected += std::fabs(shoelaceArea(ring)), chain.addOuter(ring); };
+    const auto hole = [&](const Ring &ring) { expected -= std::fabs(shoelaceArea(ring)), chain.addHole(ring); };
     if (shape == QLatin1String("square")) {
         outer(square(0, 0, 10));
     } else if (shape == QLatin1String("clockwise square")) {
@@ -239,7 +239,7 @@ static void addShape(PolygonChain &chain, const QString &shape, double &expected
 void TestRxMap3DTriangles::trianglesCoverTheOutersLessTheirHoles()
 {
     QFETCH(QString, shape);
-    PolygonChain chain;
+    HandMadeChain chain;
     double expected = 0.0;
     addShape(chain, shape, expected);
     const double covered = coveredArea(rebuild(chain));
