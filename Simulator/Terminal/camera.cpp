@@ -7,14 +7,14 @@
 
 namespace {
 
-const double HalfAngle = qDegreesToRadians(20.0);
+const double halfAngle = qDegreesToRadians(20.0);
 // From straight down; small enough that the horizon stays out of the view.
-const double Tilt = qDegreesToRadians(32.0);
-const double SinTilt = std::sin(Tilt);
-const double CosTilt = std::cos(Tilt);
-constexpr double NearFraction = 0.05;
-constexpr double FarFraction = 20.0;
-constexpr int FramingSteps = 24;
+const double tilt = qDegreesToRadians(32.0);
+const double sinTilt = std::sin(tilt);
+const double cosTilt = std::cos(tilt);
+constexpr double nearFraction = 0.05;
+constexpr double farFraction = 20.0;
+constexpr int framingSteps = 24;
 
 QRectF hull(const QPointF (&points)[4])
 {
@@ -42,7 +42,7 @@ void Camera::setTarget(const QPointF &field)
 
 void Camera::setDistance(double metres)
 {
-    range = std::clamp(metres, LeastDistance, MostDistance);
+    range = std::clamp(metres, leastDistance, mostDistance);
 }
 
 void Camera::frame(const QRectF &field, const QRectF &free)
@@ -50,7 +50,7 @@ void Camera::frame(const QRectF &field, const QRectF &free)
     setTarget(field.center());
     setDistance(std::hypot(field.width(), field.height()) * 4.0);
     // Perspective makes the fit implicit: each step centres the seen outline and scales the distance by its excess.
-    for (int step = 0; step < FramingSteps; ++step) {
+    for (int step = 0; step < framingSteps; ++step) {
         const QPointF corners[4] = {
             project(field.topLeft()).value_or(QPointF()), project(field.topRight()).value_or(QPointF()),
             project(field.bottomLeft()).value_or(QPointF()), project(field.bottomRight()).value_or(QPointF())};
@@ -81,12 +81,12 @@ void Camera::zoom(double factor, const QPointF &anchor)
 
 Camera::Vector Camera::eye() const
 {
-    return {middle.x(), middle.y() - range * SinTilt, PlaneHeight + range * CosTilt};
+    return {middle.x(), middle.y() - range * sinTilt, planeHeight + range * cosTilt};
 }
 
 double Camera::halfHeight() const
 {
-    return std::tan(HalfAngle);
+    return std::tan(halfAngle);
 }
 
 double Camera::halfWidth() const
@@ -97,12 +97,12 @@ double Camera::halfWidth() const
 std::optional<QPointF> Camera::project(const QPointF &field) const
 {
     const Vector from = eye();
-    const Vector to{field.x() - from.east, field.y() - from.north, PlaneHeight - from.up};
-    const double depth = to.north * SinTilt - to.up * CosTilt;
+    const Vector to{field.x() - from.east, field.y() - from.north, planeHeight - from.up};
+    const double depth = to.north * sinTilt - to.up * cosTilt;
     if (!(depth > 0.0))
         return std::nullopt;
     const double across = to.east / (depth * halfWidth());
-    const double upward = (to.north * CosTilt + to.up * SinTilt) / (depth * halfHeight());
+    const double upward = (to.north * cosTilt + to.up * sinTilt) / (depth * halfHeight());
     return QPointF((across + 1.0) * 0.5 * view.width(), (1.0 - upward) * 0.5 * view.height());
 }
 
@@ -110,18 +110,18 @@ std::optional<QPointF> Camera::fieldPoint(const QPointF &screen) const
 {
     const double across = (screen.x() / view.width() * 2.0 - 1.0) * halfWidth();
     const double upward = (1.0 - screen.y() / view.height() * 2.0) * halfHeight();
-    const Vector ray{across, SinTilt + upward * CosTilt, -CosTilt + upward * SinTilt};
+    const Vector ray{across, sinTilt + upward * cosTilt, -cosTilt + upward * sinTilt};
     if (!(ray.up < 0.0))
         return std::nullopt;
     const Vector from = eye();
-    const double length = (PlaneHeight - from.up) / ray.up;
+    const double length = (planeHeight - from.up) / ray.up;
     return QPointF(from.east + ray.east * length, from.north + ray.north * length);
 }
 
 double Camera::metresPerPixel(const QPointF &field) const
 {
     const Vector from = eye();
-    const double depth = (field.y() - from.north) * SinTilt - (PlaneHeight - from.up) * CosTilt;
+    const double depth = (field.y() - from.north) * sinTilt - (planeHeight - from.up) * cosTilt;
     return 2.0 * depth * halfWidth() / view.width();
 }
 
@@ -129,10 +129,10 @@ QMatrix4x4 Camera::matrix() const
 {
     const Vector from = eye();
     QMatrix4x4 result;
-    result.perspective(float(qRadiansToDegrees(2.0 * HalfAngle)), float(view.width() / view.height()),
-                       float(range * NearFraction), float(range * FarFraction));
+    result.perspective(float(qRadiansToDegrees(2.0 * halfAngle)), float(view.width() / view.height()),
+                       float(range * nearFraction), float(range * farFraction));
     result.lookAt(QVector3D(float(from.east), float(from.up), float(-from.north)),
-                  QVector3D(float(middle.x()), float(PlaneHeight), float(-middle.y())),
-                  QVector3D(0.0F, float(SinTilt), float(-CosTilt)));
+                  QVector3D(float(middle.x()), float(planeHeight), float(-middle.y())),
+                  QVector3D(0.0F, float(sinTilt), float(-cosTilt)));
     return result;
 }

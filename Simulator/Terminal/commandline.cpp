@@ -9,15 +9,15 @@
 
 namespace {
 
-const QString Columns = QStringLiteral("columns");
-const QString ProductsFile = QStringLiteral("products");
-const QString Units = QStringLiteral("units");
-const QString Language = QStringLiteral("language");
-const QString PluginDir = QStringLiteral("plugin-dir");
-const QString Describe = QStringLiteral("describe");
-const QString Screenshot = QStringLiteral("screenshot");
-const QString Script = QStringLiteral("script");
-const QString Help = QStringLiteral("help");
+const QString columnsOption = QStringLiteral("columns");
+const QString productsOption = QStringLiteral("products");
+const QString unitsOption = QStringLiteral("units");
+const QString languageOption = QStringLiteral("language");
+const QString pluginDirOption = QStringLiteral("plugin-dir");
+const QString describeOption = QStringLiteral("describe");
+const QString screenshotOption = QStringLiteral("screenshot");
+const QString scriptOption = QStringLiteral("script");
+const QString helpOption = QStringLiteral("help");
 
 void declareOptions(QCommandLineParser &parser)
 {
@@ -27,19 +27,20 @@ void declareOptions(QCommandLineParser &parser)
                                  QStringLiteral("Shapefile, GeoPackage or GeoJSON to open"),
                                  QStringLiteral("[PRESCRIPTION...]"));
     parser.addOptions({
-        {Columns, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
+        {columnsOption, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
          QStringLiteral("A,B,...")},
-        {ProductsFile, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
-        {Units, QStringLiteral("the operator's unit system: us, metric (default) or turf"), QStringLiteral("SYSTEM")},
-        {Language, QStringLiteral("user-interface language: en (default), de, es, fr or pt_BR"),
+        {productsOption, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
+        {unitsOption, QStringLiteral("the operator's unit system: us, metric (default) or turf"),
+         QStringLiteral("SYSTEM")},
+        {languageOption, QStringLiteral("user-interface language: en (default), de, es, fr or pt_BR"),
          QStringLiteral("CODE")},
-        {PluginDir, QStringLiteral("where plug-ins are searched (default: the plug-in of this build)"),
+        {pluginDirOption, QStringLiteral("where plug-ins are searched (default: the plug-in of this build)"),
          QStringLiteral("DIR")},
-        {Describe, QStringLiteral("print what the terminal shows for that field point (metres) and exit"),
+        {describeOption, QStringLiteral("print what the terminal shows for that field point (metres) and exit"),
          QStringLiteral("X,Y")},
-        {Screenshot, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
-        {Script, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
-        {{QStringLiteral("h"), Help}, QStringLiteral("show this help")},
+        {screenshotOption, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
+        {scriptOption, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
+        {{QStringLiteral("h"), helpOption}, QStringLiteral("show this help")},
     });
 }
 
@@ -92,7 +93,8 @@ QString requireFolder(const QString &option, const QString &path)
 /// An option that is given more than once, or without a value, is a mistake that must not pass silently.
 QString checkValues(const QCommandLineParser &parser)
 {
-    for (const QString &option : {Columns, ProductsFile, Units, Language, PluginDir, Describe, Screenshot, Script}) {
+    for (const QString &option : {columnsOption, productsOption, unitsOption, languageOption, pluginDirOption,
+                                  describeOption, screenshotOption, scriptOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -106,19 +108,19 @@ QString checkValues(const QCommandLineParser &parser)
 QString readOptions(const QCommandLineParser &parser, CommandLine &line)
 {
     QString error = checkValues(parser);
-    if (error.isEmpty() && parser.isSet(Units))
-        error = readUnits(parser.value(Units), line);
-    if (error.isEmpty() && parser.isSet(Columns))
-        error = readColumns(parser.value(Columns), line);
-    if (error.isEmpty() && parser.isSet(Describe))
-        error = readDescribe(parser.value(Describe), line);
-    if (error.isEmpty() && parser.isSet(ProductsFile))
-        error = requireFile(ProductsFile, parser.value(ProductsFile));
-    if (error.isEmpty() && parser.isSet(Script))
-        error = requireFile(Script, parser.value(Script));
-    if (error.isEmpty() && parser.isSet(PluginDir))
-        error = requireFolder(PluginDir, parser.value(PluginDir));
-    if (error.isEmpty() && parser.isSet(Columns) && parser.positionalArguments().isEmpty())
+    if (error.isEmpty() && parser.isSet(unitsOption))
+        error = readUnits(parser.value(unitsOption), line);
+    if (error.isEmpty() && parser.isSet(columnsOption))
+        error = readColumns(parser.value(columnsOption), line);
+    if (error.isEmpty() && parser.isSet(describeOption))
+        error = readDescribe(parser.value(describeOption), line);
+    if (error.isEmpty() && parser.isSet(productsOption))
+        error = requireFile(productsOption, parser.value(productsOption));
+    if (error.isEmpty() && parser.isSet(scriptOption))
+        error = requireFile(scriptOption, parser.value(scriptOption));
+    if (error.isEmpty() && parser.isSet(pluginDirOption))
+        error = requireFolder(pluginDirOption, parser.value(pluginDirOption));
+    if (error.isEmpty() && parser.isSet(columnsOption) && parser.positionalArguments().isEmpty())
         error = QStringLiteral("--columns needs a prescription to take them from");
     return error;
 }
@@ -140,12 +142,12 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     if (!error.isEmpty())
         return Result<CommandLine>::failure(error);
     line.prescriptions = parser.positionalArguments();
-    line.productFile = parser.value(ProductsFile);
-    line.language = parser.value(Language);
-    line.pluginDir = parser.value(PluginDir);
-    line.screenshot = parser.value(Screenshot);
-    line.script = parser.value(Script);
-    line.wantsHelp = parser.isSet(Help);
+    line.productFile = parser.value(productsOption);
+    line.language = parser.value(languageOption);
+    line.pluginDir = parser.value(pluginDirOption);
+    line.screenshot = parser.value(screenshotOption);
+    line.script = parser.value(scriptOption);
+    line.wantsHelp = parser.isSet(helpOption);
     return {line, {}};
 }
 

@@ -11,10 +11,10 @@
 namespace {
 
 // A gloved finger rolls by this much without meaning to drag, pixels.
-constexpr double TouchSlack = 12.0;
-constexpr double WheelNotch = 120.0;
-constexpr double NotchZoom = 1.2;
-constexpr double FrameMargin = 0.06;
+constexpr double touchSlack = 12.0;
+constexpr double wheelNotch = 120.0;
+constexpr double notchZoom = 1.2;
+constexpr double frameMargin = 0.06;
 
 bool liesIn(const QImage &image, const QPoint &pixel)
 {
@@ -75,7 +75,7 @@ void FieldView::reframe()
     if (framed.isEmpty() || width() < 1 || height() < 1)
         return;
     const QRectF area = freeArea.isEmpty() ? QRectF(rect()) : freeArea;
-    const double margin = FrameMargin * std::min(area.width(), area.height());
+    const double margin = frameMargin * std::min(area.width(), area.height());
     eye.frame(framed, area.adjusted(margin, margin, -margin, -margin));
     moveCamera();
 }
@@ -223,7 +223,7 @@ void FieldView::drag(const QPointF &screen)
 {
     if (!isPressed)
         return;
-    isDragging = isDragging || QLineF(pressedAt, screen).length() > TouchSlack;
+    isDragging = isDragging || QLineF(pressedAt, screen).length() > touchSlack;
     if (!isDragging)
         return;
     framed = QRectF();
@@ -246,7 +246,7 @@ void FieldView::release(const QPointF &screen)
 void FieldView::wheelEvent(QWheelEvent *event)
 {
     framed = QRectF();
-    eye.zoom(std::pow(NotchZoom, event->angleDelta().y() / WheelNotch), event->position());
+    eye.zoom(std::pow(notchZoom, event->angleDelta().y() / wheelNotch), event->position());
     moveCamera();
     event->accept();
 }

@@ -4,14 +4,14 @@
 
 namespace {
 
-constexpr int FrameMs = 30;
+constexpr int frameTime = 30; // Milliseconds.
 
 } // namespace
 
 FramePace::FramePace(QWidget *widget)
 {
     frame.setSingleShot(true);
-    frame.setInterval(FrameMs);
+    frame.setInterval(frameTime);
     QObject::connect(&frame, &QTimer::timeout, widget, qOverload<>(&QWidget::update));
 }
 

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr float BelowMaps = -5.0F;
-constexpr int LinesPerMajor = 5;
+constexpr float belowMaps = -5.0F;
+constexpr int linesPerMajor = 5;
 constexpr quint8 MinorAlpha = 26;
 constexpr quint8 MajorAlpha = 56;
 
@@ -24,11 +24,11 @@ void GroundGrid::setRegion(const QRectF &region, double spacing)
     const qint64 north = qint64(std::ceil(region.bottom() / spacing));
     for (qint64 column = west; column <= east; ++column) {
         const double x = double(column) * spacing;
-        addLine({x, double(south) * spacing}, {x, double(north) * spacing}, column % LinesPerMajor == 0);
+        addLine({x, double(south) * spacing}, {x, double(north) * spacing}, column % linesPerMajor == 0);
     }
     for (qint64 row = south; row <= north; ++row) {
         const double y = double(row) * spacing;
-        addLine({double(west) * spacing, y}, {double(east) * spacing, y}, row % LinesPerMajor == 0);
+        addLine({double(west) * spacing, y}, {double(east) * spacing, y}, row % linesPerMajor == 0);
     }
 }
 
@@ -36,7 +36,7 @@ void GroundGrid::addLine(const QPointF &from, const QPointF &to, bool isMajor)
 {
     const quint8 alpha = isMajor ? MajorAlpha : MinorAlpha;
     for (const QPointF &end : {from, to})
-        vertices.append({float(end.x()), float(Camera::PlaneHeight), float(-end.y()), {40, 44, 36, alpha}});
+        vertices.append({float(end.x()), float(Camera::planeHeight), float(-end.y()), {40, 44, 36, alpha}});
 }
 
 void GroundGrid::init()
@@ -67,5 +67,5 @@ void GroundGrid::draw(QMatrix4x4 mvp)
 
 float GroundGrid::drawingOrder() const
 {
-    return BelowMaps;
+    return belowMaps;
 }

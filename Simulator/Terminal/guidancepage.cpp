@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr double Gap = 8.0;
-constexpr double GreyedOut = 0.35;
+constexpr double gap = 8.0;
+constexpr double greyedOut = 0.35;
 
 } // namespace
 
@@ -54,7 +54,7 @@ void GuidancePage::addWidgets(UiPluginInterface *plugin)
 {
     const QStringList names = plugin->getGuidancePageWidgetNames();
     for (const QString &name : names) {
-        const double left = places.isEmpty() ? 0.0 : extent.width() + Gap;
+        const double left = places.isEmpty() ? 0.0 : extent.width() + gap;
         const QPointer<UiGWidget> widget = plugin->createUiGWidget(name, places.size(), 0, QPointF(left, 0.0), broker);
         if (!widget)
             continue;
@@ -102,7 +102,7 @@ void GuidancePage::setPopupActive(bool active)
     isPopupActive = active;
     for (const Place &place : qAsConst(places)) {
         if (place.widget)
-            place.widget->setOpacity(active ? GreyedOut : 1.0);
+            place.widget->setOpacity(active ? greyedOut : 1.0);
     }
     if (active)
         return;

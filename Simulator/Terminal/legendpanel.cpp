@@ -10,15 +10,15 @@
 
 namespace {
 
-constexpr int Inset = 14;
-constexpr int Head = 70;
-constexpr int Row = 38;
-constexpr int Swatch = 28;
-constexpr int PanelWidth = 212;
-constexpr int TextLeft = Swatch + 22;
-constexpr int LargestText = 20;
-constexpr int SmallestText = 14;
-const QString RangeDash = QStringLiteral(" \u2013 ");
+constexpr int inset = 14;
+constexpr int headHeight = 70;
+constexpr int rowHeight = 38;
+constexpr int swatchHeight = 28;
+constexpr int panelWidth = 212;
+constexpr int textLeft = swatchHeight + 22;
+constexpr int largestText = 20;
+constexpr int smallestText = 14;
+const QString rangeDash = QStringLiteral(" \u2013 ");
 
 /// A number with at least three significant digits and at least `decimals` decimals, without zeros at its end; no
 /// exponent while it is short enough to be read.
@@ -82,29 +82,29 @@ QString LegendPanel::classText(int index) const
         return limit;
     if (index == 0)
         return QStringLiteral("\u2264 ") + limit;
-    return limitText(content.classes.at(index - 1).rate * content.factor) + RangeDash + limit;
+    return limitText(content.classes.at(index - 1).rate * content.factor) + rangeDash + limit;
 }
 
 QFont LegendPanel::fittingFont(int width) const
 {
-    int pixels = LargestText;
+    int pixels = largestText;
     for (const QString &text : texts) {
-        const int needed = QFontMetrics(Look::font(LargestText, true)).horizontalAdvance(text);
-        pixels = std::min(pixels, needed > width ? LargestText * width / needed : LargestText);
+        const int needed = QFontMetrics(Look::font(largestText, true)).horizontalAdvance(text);
+        pixels = std::min(pixels, needed > width ? largestText * width / needed : largestText);
     }
-    return Look::font(std::max(pixels, SmallestText), true);
+    return Look::font(std::max(pixels, smallestText), true);
 }
 
 QSize LegendPanel::sizeHint() const
 {
-    return QSize(PanelWidth, Head + std::max(1, texts.size()) * Row + Inset / 2);
+    return QSize(panelWidth, headHeight + std::max(1, texts.size()) * rowHeight + inset / 2);
 }
 
 void LegendPanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     Look::drawPanel(painter, rect(), Look::panel());
-    const QRect inner = rect().adjusted(Inset, 0, -Inset, 0);
+    const QRect inner = rect().adjusted(inset, 0, -inset, 0);
     drawHead(painter, inner);
     drawClasses(painter, inner);
 }
@@ -120,32 +120,33 @@ void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
     const QRect second(inner.left(), 40, inner.width(), 24);
     const int unitWidth = painter.fontMetrics().horizontalAdvance(content.unit);
     painter.drawText(second, Qt::AlignVCenter | Qt::AlignRight, content.unit);
-    const int columnWidth = inner.width() - unitWidth - Inset;
+    const int columnWidth = inner.width() - unitWidth - inset;
     painter.drawText(second, Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(content.column, Qt::ElideMiddle, columnWidth));
     if (texts.isEmpty()) {
         painter.setFont(Look::font(20));
-        painter.drawText(QRect(inner.left(), Head, inner.width(), Row), Qt::AlignVCenter, tr("No map"));
+        painter.drawText(QRect(inner.left(), headHeight, inner.width(), rowHeight), Qt::AlignVCenter, tr("No map"));
     }
 }
 
 void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
 {
-    const int textWidth = inner.width() - TextLeft;
+    const int textWidth = inner.width() - textLeft;
     const QFont classFont = fittingFont(textWidth);
     const QFontMetrics metrics(classFont);
     for (int i = 0; i < texts.size(); ++i) {
-        const QRect row(inner.left(), Head + i * Row, inner.width(), Row);
-        const QRectF swatch(row.left() + 0.5, row.center().y() - Swatch / 2 + 0.5, Swatch + 8, Swatch);
+        const QRect row(inner.left(), headHeight + i * rowHeight, inner.width(), rowHeight);
+        const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2 + 0.5, swatchHeight + 8,
+                            swatchHeight);
         painter.setPen(QPen(Look::text(), 1.0));
         painter.setBrush(FieldScene::onGround(content.classes.at(i).color));
         painter.drawRoundedRect(swatch, 4.0, 4.0);
         // A range of long numbers takes two lines.
         QString text = texts.at(i);
         if (metrics.horizontalAdvance(text) > textWidth)
-            text.replace(RangeDash, QStringLiteral(" \u2013\n"));
+            text.replace(rangeDash, QStringLiteral(" \u2013\n"));
         painter.setFont(classFont);
         painter.setPen(Look::text());
-        painter.drawText(row.adjusted(TextLeft, 0, 0, 0), Qt::AlignVCenter, text);
+        painter.drawText(row.adjusted(textLeft, 0, 0, 0), Qt::AlignVCenter, text);
     }
 }

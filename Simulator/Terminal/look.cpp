@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double Radius = 10.0;
+constexpr double radius = 10.0;
 
 }
 
@@ -56,5 +56,5 @@ void Look::drawPanel(QPainter &painter, const QRectF &area, const QColor &color)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    painter.drawRoundedRect(area, Radius, Radius);
+    painter.drawRoundedRect(area, radius, radius);
 }

@@ -10,9 +10,9 @@ class QRectF;
 /// thing on the display, at contrasts that hold in sunlight.
 namespace Look {
 
-constexpr int Margin = 12;
+constexpr int margin = 12;
 /// The least edge of anything that a gloved finger is to hit, pixels.
-constexpr int TouchTarget = 72;
+constexpr int touchTarget = 72;
 
 QColor panel();
 QColor button();

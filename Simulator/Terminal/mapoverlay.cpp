@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr double MostScalePixels = 200.0;
-constexpr double MetresPerFoot = 0.3048;
-constexpr double FeetPerMile = 5280.0;
+constexpr double mostScalePixels = 200.0;
+constexpr double metresPerFoot = 0.3048;
+constexpr double feetPerMile = 5280.0;
 
 /// The greatest of 1, 2, 5, 10, 20, ... that is not above `most`.
 double roundLength(double most)
@@ -107,15 +107,15 @@ void MapOverlay::drawNorthArrow(QPainter &painter) const
 
 void MapOverlay::drawScaleBar(QPainter &painter) const
 {
-    const double unit = isMetric ? 1.0 : MetresPerFoot;
+    const double unit = isMetric ? 1.0 : metresPerFoot;
     const double perPixel = camera.metresPerPixel(camera.target()) / unit;
     if (!(perPixel > 0.0))
         return;
-    double most = MostScalePixels * perPixel;
-    const bool isLong = !isMetric && most >= FeetPerMile;
-    most = isLong ? most / FeetPerMile : most;
+    double most = mostScalePixels * perPixel;
+    const bool isLong = !isMetric && most >= feetPerMile;
+    most = isLong ? most / feetPerMile : most;
     const double length = roundLength(most);
-    const double pixels = length * (isLong ? FeetPerMile : 1.0) / perPixel;
+    const double pixels = length * (isLong ? feetPerMile : 1.0) / perPixel;
     QString label;
     if (isMetric)
         label = length >= 1000.0 ? tr("%1 km").arg(length / 1000.0) : tr("%1 m").arg(length);

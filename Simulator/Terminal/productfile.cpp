@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int ShortNameLength = 5;
-constexpr int MostBins = 99;
+constexpr int shortNameLength = 5;
+constexpr int mostBins = 99;
 
 const QMap<QString, Product::Kind> &kinds()
 {
@@ -65,7 +65,7 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
         product.kind = *kind;
     } else if (plain == QLatin1String("bin")) {
         const double bin = value.toDouble(-1.0);
-        if (bin < 1.0 || bin > MostBins || bin != std::floor(bin))
+        if (bin < 1.0 || bin > mostBins || bin != std::floor(bin))
             return complaint(QStringLiteral("a whole number from 1 to 99"));
         product.bin = int(bin);
     } else if (plain == QLatin1String("defaultrate")) {
@@ -103,7 +103,7 @@ Result<Product> readProduct(const QJsonValue &value, int number)
     if (!hasKind)
         return Result<Product>::failure(QStringLiteral("has no \"kind\""));
     if (product.shortName.isEmpty())
-        product.shortName = product.name.left(ShortNameLength).trimmed();
+        product.shortName = product.name.left(shortNameLength).trimmed();
     return {product, {}};
 }
 
@@ -146,9 +146,9 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
     if (!list.isArray())
         return failure(QStringLiteral("holds no list of products"));
     const QJsonArray entries = list.toArray();
-    if (entries.isEmpty() || entries.size() > MostProducts)
+    if (entries.isEmpty() || entries.size() > mostProducts)
         return failure(
-            QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(MostProducts));
+            QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(mostProducts));
 
     Products products;
     for (int i = 0; i < entries.size(); ++i) {

@@ -10,10 +10,10 @@
 
 namespace {
 
-constexpr int Heading = 40;
-constexpr int Gap = 8;
-constexpr int MostInColumn = 8;
-constexpr int TallestButton = 88;
+constexpr int headingHeight = 40;
+constexpr int gap = 8;
+constexpr int mostInColumn = 8;
+constexpr int tallestButton = 88;
 
 } // namespace
 
@@ -21,7 +21,7 @@ ProductSelector::ProductSelector(const Products &products, QWidget *parent)
     : QWidget(parent)
     , buttons(new QButtonGroup(this))
 {
-    const bool isNarrow = products.size() > MostInColumn;
+    const bool isNarrow = products.size() > mostInColumn;
     for (int number = 1; number <= products.size(); ++number) {
         const Product &product = products.at(number - 1);
         auto *button = new TouchButton(isNarrow ? product.shortName : product.name, this);
@@ -42,7 +42,7 @@ void ProductSelector::setActiveProduct(int number)
 
 int ProductSelector::columns() const
 {
-    return buttons->buttons().size() > MostInColumn ? 2 : 1;
+    return buttons->buttons().size() > mostInColumn ? 2 : 1;
 }
 
 int ProductSelector::rows() const
@@ -52,23 +52,24 @@ int ProductSelector::rows() const
 
 int ProductSelector::buttonHeight(int available) const
 {
-    return std::min(TallestButton, (available - Heading - Gap * rows()) / rows());
+    return std::min(tallestButton, (available - headingHeight - gap * rows()) / rows());
 }
 
 int ProductSelector::heightWithin(int available) const
 {
-    return Heading + (buttonHeight(available) + Gap) * rows();
+    return headingHeight + (buttonHeight(available) + gap) * rows();
 }
 
 void ProductSelector::resizeEvent(QResizeEvent *)
 {
     const QList<QAbstractButton *> all = buttons->buttons();
-    const int buttonWidth = (width() - Gap * (columns() + 1)) / columns();
+    const int buttonWidth = (width() - gap * (columns() + 1)) / columns();
     const int tall = buttonHeight(height());
     for (int i = 0; i < all.size(); ++i) {
         const int column = i / rows();
         const int row = i % rows();
-        all.at(i)->setGeometry(Gap + column * (buttonWidth + Gap), Heading + row * (tall + Gap), buttonWidth, tall);
+        all.at(i)->setGeometry(gap + column * (buttonWidth + gap), headingHeight + row * (tall + gap), buttonWidth,
+                               tall);
     }
 }
 
@@ -78,5 +79,5 @@ void ProductSelector::paintEvent(QPaintEvent *)
     Look::drawPanel(painter, rect(), Look::panel());
     painter.setPen(Look::faintText());
     painter.setFont(Look::font(17, true));
-    painter.drawText(QRect(0, 0, width(), Heading), Qt::AlignCenter, tr("PRODUCTS"));
+    painter.drawText(QRect(0, 0, width(), headingHeight), Qt::AlignCenter, tr("PRODUCTS"));
 }

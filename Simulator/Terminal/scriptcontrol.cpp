@@ -12,8 +12,8 @@
 namespace {
 
 // Longer than any control takes to tell a long touch from a short one, milliseconds.
-constexpr int LongestHold = 2500;
-constexpr int HoldPoll = 20;
+constexpr int longestHold = 2500;
+constexpr int holdPoll = 20;
 
 } // namespace
 
@@ -115,8 +115,8 @@ void ScriptControl::longTouch()
     }
     QElapsedTimer held;
     held.start();
-    while (held.elapsed() < LongestHold && !callOnGui(gui, [&watch] { return watch->isOver(); }))
-        QThread::msleep(HoldPoll);
+    while (held.elapsed() < longestHold && !callOnGui(gui, [&watch] { return watch->isOver(); }))
+        QThread::msleep(holdPoll);
     callOnGui(gui, [&spot] {
         ControlProbe::release(spot);
         return true;

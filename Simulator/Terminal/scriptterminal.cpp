@@ -26,7 +26,7 @@
 
 namespace {
 
-constexpr double WaitSlice = 20.0; // Milliseconds.
+constexpr double waitSlice = 20.0; // Milliseconds.
 
 QString reasonOf(int code, const QString &group, const QString &property)
 {
@@ -76,9 +76,9 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 Result<QStringList> namesIn(const QJSValue &list)
 {
     const quint32 count = list.property(QStringLiteral("length")).toUInt();
-    if (count > quint32(ProductFile::MostProducts))
+    if (count > quint32(ProductFile::mostProducts))
         return Result<QStringList>::failure(
-            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::MostProducts));
+            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::mostProducts));
     QStringList names;
     for (quint32 i = 0; i < count; ++i) {
         const QJSValue entry = list.property(i);
@@ -265,7 +265,7 @@ void ScriptTerminal::wait(double milliseconds)
     passed.start();
     for (double left = milliseconds; left > 0.0 && !isInterrupted->load();
          left = milliseconds - double(passed.elapsed()))
-        QThread::msleep(static_cast<unsigned long>(std::ceil(std::min(left, WaitSlice))));
+        QThread::msleep(static_cast<unsigned long>(std::ceil(std::min(left, waitSlice))));
     onGui([this] {
         terminal->refresh();
         return true;

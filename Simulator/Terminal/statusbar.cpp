@@ -6,10 +6,10 @@
 
 namespace {
 
-constexpr double KilometresPerHour = 3.6;
-constexpr double MilesPerHour = 3.6 / 1.609344;
-constexpr int SpeedWidth = 190;
-constexpr int ProgressWidth = 360;
+constexpr double kilometresPerHour = 3.6;
+constexpr double milesPerHour = 3.6 / 1.609344;
+constexpr int speedWidth = 190;
+constexpr int progressWidth = 360;
 
 } // namespace
 
@@ -30,7 +30,7 @@ void StatusBar::setMaps(const QStringList &names)
 void StatusBar::setSpeed(double metresPerSecond, bool metric)
 {
     isMoving = metresPerSecond > 0.0;
-    const double factor = metric ? KilometresPerHour : MilesPerHour;
+    const double factor = metric ? kilometresPerHour : milesPerHour;
     speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(metresPerSecond * factor, 0, 'f', 1) : tr("Stopped");
     update();
 }
@@ -49,15 +49,15 @@ void StatusBar::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect inner = rect().adjusted(20, 0, -20, 0);
 
-    const QRect speedArea(inner.right() - SpeedWidth, 0, SpeedWidth, height());
+    const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
     painter.setFont(Look::font(22, true));
     painter.setPen(isMoving ? Look::accent() : Look::text());
     painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, speed);
 
-    QRect mapArea(inner.left(), 0, inner.width() - SpeedWidth - Look::Margin, height());
+    QRect mapArea(inner.left(), 0, inner.width() - speedWidth - Look::margin, height());
     if (!loading.isEmpty()) {
-        mapArea.setWidth(mapArea.width() - ProgressWidth - Look::Margin);
-        const QRect area(mapArea.right() + Look::Margin, 0, ProgressWidth, height());
+        mapArea.setWidth(mapArea.width() - progressWidth - Look::margin);
+        const QRect area(mapArea.right() + Look::margin, 0, progressWidth, height());
         painter.setFont(Look::font(15));
         painter.setPen(Look::faintText());
         painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft, tr("Loading %1").arg(loading));

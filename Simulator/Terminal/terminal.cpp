@@ -51,7 +51,7 @@ Amount amountOf(const Product &product)
 
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     : QObject(parent)
-    , dataBroker(QString(), TerminalWindow::DisplaySize)
+    , dataBroker(QString(), TerminalWindow::displaySize)
     , prescriptions(new PrescriptionBackend(&dataBroker))
     , machineModel(new Machine(&dataBroker, prescriptions.data(), products, units))
     , vehicleModel(new Vehicle(machineModel->gpsSolution(), &clock))

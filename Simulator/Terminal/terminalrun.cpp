@@ -18,8 +18,8 @@
 namespace {
 
 // Where the build leaves the plug-in and the images, seen from the program.
-const char PluginFolder[] = "../../Plugins/uiPluginRxMap";
-const char ImageFolder[] = "../Resources/images";
+const char builtPluginFolder[] = "../../Plugins/uiPluginRxMap";
+const char builtImageFolder[] = "../Resources/images";
 
 void print(std::FILE *stream, const QString &line)
 {
@@ -34,7 +34,7 @@ QDir besideProgram(const char *folder)
 
 QString loadPlugins(Terminal &terminal, const QDir &folder)
 {
-    const QStringList skipped = terminal.loadPlugins(folder, besideProgram(ImageFolder));
+    const QStringList skipped = terminal.loadPlugins(folder, besideProgram(builtImageFolder));
     for (const QString &complaint : skipped)
         print(stderr, complaint);
     return terminal.hasPlugins() ? QString()
@@ -182,7 +182,7 @@ QString runTerminal(const CommandLine &line)
             return read.error;
         products = read.value;
     }
-    const QDir pluginFolder = line.pluginDir.isEmpty() ? besideProgram(PluginFolder) : QDir(line.pluginDir);
+    const QDir pluginFolder = line.pluginDir.isEmpty() ? besideProgram(builtPluginFolder) : QDir(line.pluginDir);
     QString error = line.language.isEmpty() ? QString() : Languages::install(line.language, pluginFolder);
     if (!error.isEmpty())
         return error;

@@ -17,10 +17,10 @@
 
 namespace {
 
-constexpr int StatusHeight = 56;
-constexpr int SelectorWidth = 212;
-constexpr double ZoomStep = 1.5;
-const char PlacedProperty[] = "rxmapPlacedOnDisplay";
+constexpr int statusHeight = 56;
+constexpr int selectorWidth = 212;
+constexpr double zoomStep = 1.5;
+const char placedProperty[] = "rxmapPlacedOnDisplay";
 
 } // namespace
 
@@ -35,7 +35,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
 {
     setWindowTitle(tr("Field terminal"));
     setObjectName(QStringLiteral("terminalWindow"));
-    setFixedSize(DisplaySize);
+    setFixedSize(displaySize);
     addZoomButtons();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
     qApp->installEventFilter(this);
@@ -52,9 +52,9 @@ void TerminalWindow::addZoomButtons()
         zoomButtons.append(button);
         return button;
     };
-    connect(add(QStringLiteral("+"), "zoomIn"), &TouchButton::clicked, view, [this] { view->zoom(ZoomStep); });
+    connect(add(QStringLiteral("+"), "zoomIn"), &TouchButton::clicked, view, [this] { view->zoom(zoomStep); });
     connect(add(QStringLiteral("\u2212"), "zoomOut"), &TouchButton::clicked, view,
-            [this] { view->zoom(1.0 / ZoomStep); });
+            [this] { view->zoom(1.0 / zoomStep); });
     connect(add(tr("Field"), "showField"), &TouchButton::clicked, this, &TerminalWindow::frameRequested);
 }
 
@@ -65,30 +65,30 @@ void TerminalWindow::resizeEvent(QResizeEvent *)
 
 void TerminalWindow::arrange()
 {
-    const QRect below(0, StatusHeight, width(), height() - StatusHeight);
-    status->setGeometry(0, 0, width(), StatusHeight);
+    const QRect below(0, statusHeight, width(), height() - statusHeight);
+    status->setGeometry(0, 0, width(), statusHeight);
     view->setGeometry(below);
     mapOverlay->setGeometry(below);
-    const QRect inner = below.adjusted(Look::Margin, Look::Margin, -Look::Margin, -Look::Margin);
-    selector->setGeometry(inner.left(), inner.top(), SelectorWidth, selector->heightWithin(inner.height()));
+    const QRect inner = below.adjusted(Look::margin, Look::margin, -Look::margin, -Look::margin);
+    selector->setGeometry(inner.left(), inner.top(), selectorWidth, selector->heightWithin(inner.height()));
     legendPanel->resize(legendPanel->sizeHint());
     legendPanel->move(inner.right() + 1 - legendPanel->width(), inner.top());
 
     int bottom = inner.bottom() + 1;
     int right = inner.right() + 1;
     for (int i = zoomButtons.size() - 1; i >= 0; --i) {
-        right -= Look::TouchTarget;
-        zoomButtons.at(i)->setGeometry(right, bottom - Look::TouchTarget, Look::TouchTarget, Look::TouchTarget);
-        right -= Look::Margin / 2;
+        right -= Look::touchTarget;
+        zoomButtons.at(i)->setGeometry(right, bottom - Look::touchTarget, Look::touchTarget, Look::touchTarget);
+        right -= Look::margin / 2;
     }
-    bottom -= Look::TouchTarget + Look::Margin;
+    bottom -= Look::touchTarget + Look::margin;
     page->resize(page->sizeHint());
     page->move(inner.right() + 1 - page->width(), bottom - page->height());
     page->setVisible(!page->sizeHint().isEmpty());
 
-    QRectF free(inner.left() + SelectorWidth + Look::Margin, inner.top(), 0.0, inner.height());
-    free.setRight(legendPanel->x() - Look::Margin);
-    free.translate(0.0, -StatusHeight);
+    QRectF free(inner.left() + selectorWidth + Look::margin, inner.top(), 0.0, inner.height());
+    free.setRight(legendPanel->x() - Look::margin);
+    free.translate(0.0, -statusHeight);
     view->setFreeArea(free);
     mapOverlay->setFreeArea(free);
 }
@@ -103,8 +103,8 @@ bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
 {
     // A dialog places itself on the display, which on a desk is this window, wherever it stands.
     auto *dialog = event->type() == QEvent::Show && !event->spontaneous() ? qobject_cast<QDialog *>(watched) : nullptr;
-    if (dialog != nullptr && dialog->isWindow() && !dialog->property(PlacedProperty).toBool()) {
-        dialog->setProperty(PlacedProperty, true);
+    if (dialog != nullptr && dialog->isWindow() && !dialog->property(placedProperty).toBool()) {
+        dialog->setProperty(placedProperty, true);
         dialog->move(dialog->pos() + mapToGlobal(QPoint(0, 0)));
     }
     return QWidget::eventFilter(watched, event);

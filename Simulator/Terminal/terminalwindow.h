@@ -18,7 +18,7 @@ class TerminalWindow : public QWidget {
 
 public:
     /// Pixels.
-    static constexpr QSize DisplaySize{1280, 800};
+    static constexpr QSize displaySize{1280, 800};
 
     explicit TerminalWindow(const Products &products, QWidget *parent = nullptr);
     ~TerminalWindow() override;

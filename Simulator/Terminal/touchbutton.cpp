@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr int TextPixels = 24;
-constexpr int NotePixels = 15;
-constexpr int Inset = 10;
+constexpr int textPixels = 24;
+constexpr int notePixels = 15;
+constexpr int inset = 10;
 
 } // namespace
 
@@ -29,7 +29,7 @@ void TouchButton::setNote(const QString &newNote)
 
 QSize TouchButton::sizeHint() const
 {
-    return QSize(Look::TouchTarget, Look::TouchTarget);
+    return QSize(Look::touchTarget, Look::touchTarget);
 }
 
 void TouchButton::paintEvent(QPaintEvent *)
@@ -38,12 +38,12 @@ void TouchButton::paintEvent(QPaintEvent *)
     const QColor fill = isDown() ? Look::pressedButton() : isChecked() ? Look::accent() : Look::button();
     Look::drawPanel(painter, rect(), fill);
     const bool onAccent = isChecked() && !isDown();
-    const QRect inner = rect().adjusted(Inset, 0, -Inset, 0);
+    const QRect inner = rect().adjusted(inset, 0, -inset, 0);
 
-    QFont font = Look::font(TextPixels, true);
+    QFont font = Look::font(textPixels, true);
     const double needed = QFontMetricsF(font).horizontalAdvance(text());
     if (needed > inner.width())
-        font.setPixelSize(std::max(NotePixels, int(TextPixels * inner.width() / needed)));
+        font.setPixelSize(std::max(notePixels, int(textPixels * inner.width() / needed)));
     painter.setFont(font);
     painter.setPen(onAccent ? Look::textOnAccent() : Look::text());
     const QString shown = QFontMetrics(font).elidedText(text(), Qt::ElideRight, inner.width());
@@ -53,7 +53,7 @@ void TouchButton::paintEvent(QPaintEvent *)
     }
     const int middle = height() / 2 + 2;
     painter.drawText(QRect(inner.left(), 0, inner.width(), middle), Qt::AlignHCenter | Qt::AlignBottom, shown);
-    painter.setFont(Look::font(NotePixels));
+    painter.setFont(Look::font(notePixels));
     painter.setPen(onAccent ? Look::textOnAccent() : Look::faintText());
     painter.drawText(QRect(inner.left(), middle + 2, inner.width(), height() - middle - 2),
                      Qt::AlignHCenter | Qt::AlignTop,

@@ -11,7 +11,7 @@ struct UnitTexts {
 };
 
 // The comments tell translators apart what the abbreviations stand for.
-constexpr UnitTexts Texts[] = {
+constexpr UnitTexts unitTexts[] = {
     {Product::Kind::Count,
      {"k/ac", "k/ha", "k/tu"},
      {"count per area: 1000/acre", "count per area: 1000/hectare", "count per area: 1000/turf"}},
@@ -33,7 +33,7 @@ constexpr UnitTexts Texts[] = {
 
 QString rateUnit(Product::Kind kind, UnitSystem units)
 {
-    for (const UnitTexts &entry : Texts) {
+    for (const UnitTexts &entry : unitTexts) {
         if (entry.kind == kind)
             return QCoreApplication::translate("DbGroupQmlUnitsConverter", entry.text[int(units)],
                                                entry.comment[int(units)]);
@@ -48,7 +48,7 @@ int areaUnitSystem(UnitSystem units)
 
 int pressureUnit(UnitSystem units)
 {
-    constexpr int Psi = 0;
-    constexpr int Kilopascal = 1;
-    return units == UnitSystem::Metric ? Kilopascal : Psi;
+    constexpr int psi = 0;
+    constexpr int kilopascal = 1;
+    return units == UnitSystem::Metric ? kilopascal : psi;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int FrameTime = 50; // Milliseconds.
+constexpr int frameTime = 50; // Milliseconds.
 
 }
 
@@ -21,7 +21,7 @@ Vehicle::Vehicle(DbGroupGpsSolution *solution, const SimulationClock *clock, QOb
 {
     auto *timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, &Vehicle::advance);
-    timer->start(FrameTime);
+    timer->start(frameTime);
     publish();
 }
 
@@ -37,7 +37,7 @@ void Vehicle::setArea(const QRectF &newArea)
 
 bool Vehicle::drive(double metresPerSecond)
 {
-    if (!(metresPerSecond >= 0.0) || metresPerSecond > MostSpeed)
+    if (!(metresPerSecond >= 0.0) || metresPerSecond > mostSpeed)
         return false;
     advance();
     speed = metresPerSecond;

@@ -14,7 +14,7 @@ class Vehicle : public QObject {
 
 public:
     /// Metres per second; a road speed that no implement exceeds.
-    static constexpr double MostSpeed = 40.0;
+    static constexpr double mostSpeed = 40.0;
 
     /// Neither `solution` nor `clock` is owned; both outlive the vehicle.
     Vehicle(DbGroupGpsSolution *solution, const SimulationClock *clock, QObject *parent = nullptr);

@@ -31,7 +31,7 @@ QString Picture::compare(const QImage &actual, const QString &name, double pixel
     int differing = 0;
     for (int y = 0; y < actual.height(); ++y) {
         for (int x = 0; x < actual.width(); ++x) {
-            const bool isOff = channelDistance(actual.pixel(x, y), expected.pixel(x, y)) > ChannelTolerance;
+            const bool isOff = channelDistance(actual.pixel(x, y), expected.pixel(x, y)) > channelTolerance;
             difference.setPixel(x, y, isOff ? qRgb(255, 0, 0) : qRgb(255, 255, 255));
             differing += isOff ? 1 : 0;
         }

@@ -7,10 +7,10 @@
 /// picture differs when more than a share of its pixels do, so that a line that falls a pixel aside does not count.
 class Picture {
 public:
-    static constexpr int ChannelTolerance = 24;
-    static constexpr double PixelShare = 0.005;
+    static constexpr int channelTolerance = 24;
+    static constexpr double usualPixelShare = 0.005;
 
     /// Compares with Tests/Terminal/pictures/<name>.png. Empty when they agree. Else what is wrong, and actual,
     /// expected and difference lie in the build's folder of that name.
-    static QString compare(const QImage &actual, const QString &name, double pixelShare = PixelShare);
+    static QString compare(const QImage &actual, const QString &name, double pixelShare = usualPixelShare);
 };

@@ -73,7 +73,7 @@ void TestCamera::theMatrixDrawsAPointWhereItIsProjected()
     Camera eye = camera();
     eye.setDistance(distance);
     const QVector4D clip =
-        eye.matrix() * QVector4D(float(point.x()), float(Camera::PlaneHeight), float(-point.y()), 1.0F);
+        eye.matrix() * QVector4D(float(point.x()), float(Camera::planeHeight), float(-point.y()), 1.0F);
     const QPointF drawn((clip.x() / clip.w() + 1.0) / 2.0 * 1280.0, (1.0 - clip.y() / clip.w()) / 2.0 * 744.0);
     QVERIFY2(QLineF(drawn, eye.project(point).value()).length() < 0.05, "drawn elsewhere than projected");
     QVERIFY(std::abs(clip.z()) < clip.w());
@@ -151,9 +151,9 @@ void TestCamera::theDistanceStaysWithinItsLimits()
 {
     Camera eye = camera();
     eye.zoom(1e9, QPointF(640, 372));
-    QCOMPARE(eye.distance(), Camera::LeastDistance);
+    QCOMPARE(eye.distance(), Camera::leastDistance);
     eye.zoom(1e-12, QPointF(640, 372));
-    QCOMPARE(eye.distance(), Camera::MostDistance);
+    QCOMPARE(eye.distance(), Camera::mostDistance);
 }
 
 void TestCamera::metresPerPixelAgreeWithTheProjection()

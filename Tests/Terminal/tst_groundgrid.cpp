@@ -9,7 +9,7 @@
 namespace {
 
 const QSize viewSize(100, 100);
-constexpr int PixelsPerMetre = 2;
+constexpr int pixelsPerMetre = 2;
 
 /// Looks straight down, with the origin in the middle of pixel (50, 50).
 QMatrix4x4 fromAbove()
@@ -71,7 +71,7 @@ int TestGroundGrid::opacity(GroundGrid &grid, int x, int y)
     gl->glClear(GL_COLOR_BUFFER_BIT);
     grid.draw(fromAbove());
     quint8 color[4] = {};
-    gl->glReadPixels(viewSize.width() / 2 + PixelsPerMetre * x, viewSize.height() / 2 + PixelsPerMetre * y, 1, 1,
+    gl->glReadPixels(viewSize.width() / 2 + pixelsPerMetre * x, viewSize.height() / 2 + pixelsPerMetre * y, 1, 1,
                      GL_RGBA, GL_UNSIGNED_BYTE, color);
     return color[3];
 }

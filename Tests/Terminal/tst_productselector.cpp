@@ -128,7 +128,7 @@ void TestProductSelector::buttonsAreBigAndSideBySide()
     QSet<int> lefts;
     for (int number = 1; number <= count; ++number) {
         const QRect place = buttonOf(selector, number)->geometry();
-        QVERIFY2(qMin(place.width(), place.height()) >= Look::TouchTarget, qPrintable(QString::number(number)));
+        QVERIFY2(qMin(place.width(), place.height()) >= Look::touchTarget, qPrintable(QString::number(number)));
         QVERIFY(selector.rect().contains(place));
         lefts.insert(place.left());
         for (int other = 1; other < number; ++other)

@@ -142,7 +142,7 @@ void TestScriptRunner::screenshotsShowTheOpenDialog()
              QString());
     const QImage open(folder->filePath("open.png"));
     const QImage closed(folder->filePath("closed.png"));
-    QCOMPARE(open.size(), TerminalWindow::DisplaySize);
+    QCOMPARE(open.size(), TerminalWindow::displaySize);
     QVERIFY(open.copy(240, 0, 800, 800) != closed.copy(240, 0, 800, 800));
     QCOMPARE(open.copy(0, 0, 240, 800), closed.copy(0, 0, 240, 800));
 }

@@ -68,7 +68,7 @@ private Q_SLOTS:
 
 private:
     /// Colour distance that rounding of the blend leaves.
-    static constexpr int BlendTolerance = 2;
+    static constexpr int blendTolerance = 2;
 
     static bool isNear(const QColor &a, const QColor &b);
     LoadReport open(const QString &file, const QStringList &columns);
@@ -81,8 +81,8 @@ private:
 
 bool TestTerminal::isNear(const QColor &a, const QColor &b)
 {
-    return std::abs(a.red() - b.red()) <= BlendTolerance && std::abs(a.green() - b.green()) <= BlendTolerance
-        && std::abs(a.blue() - b.blue()) <= BlendTolerance;
+    return std::abs(a.red() - b.red()) <= blendTolerance && std::abs(a.green() - b.green()) <= blendTolerance
+        && std::abs(a.blue() - b.blue()) <= blendTolerance;
 }
 
 LoadReport TestTerminal::open(const QString &file, const QStringList &columns)
@@ -418,7 +418,7 @@ void TestTerminal::aPictureThatCannotBeSavedIsReported()
     QVERIFY2(error.startsWith(QLatin1String("/no/such/folder/map.png: ")), qPrintable(error));
     QTemporaryDir folder;
     QCOMPARE(terminal().saveScreenshot(folder.filePath("map.png")), QString());
-    QCOMPARE(QImage(folder.filePath("map.png")).size(), TerminalWindow::DisplaySize);
+    QCOMPARE(QImage(folder.filePath("map.png")).size(), TerminalWindow::displaySize);
 }
 
 void TestTerminal::twoTerminalsMayFollowEachOther()

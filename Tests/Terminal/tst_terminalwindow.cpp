@@ -101,7 +101,7 @@ void TestTerminalWindow::aPictureShowsTheOpenDialogWhereItIs()
     dialog.move(240, 100);
     dialog.show();
     const QImage picture = window->screenshot();
-    QCOMPARE(picture.size(), TerminalWindow::DisplaySize);
+    QCOMPARE(picture.size(), TerminalWindow::displaySize);
     QCOMPARE(picture.pixelColor(240, 100), color);
     QCOMPARE(picture.pixelColor(539, 299), color);
     QVERIFY(picture.pixelColor(239, 100) != color);

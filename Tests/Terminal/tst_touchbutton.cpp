@@ -28,7 +28,7 @@ QColor ground(TouchButton &button)
 void TestTouchButton::itIsBigEnoughForAGlove()
 {
     const QSize size = TouchButton(QStringLiteral("+")).sizeHint();
-    QVERIFY(size.width() >= Look::TouchTarget && size.height() >= Look::TouchTarget);
+    QVERIFY(size.width() >= Look::touchTarget && size.height() >= Look::touchTarget);
 }
 
 void TestTouchButton::itShowsItsTextAndItsNote()
