@@ -1,6 +1,6 @@
 #pragma once
 
-#include "maphost.h"
+#include "handmadechain.h"
 
 #include <QMap>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "handmadechain.h"
 #include "mapcensus.h"
-#include "maphost.h"
 
 #include <random>
 #include <vector>

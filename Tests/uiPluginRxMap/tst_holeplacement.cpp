@@ -1,7 +1,6 @@
-#include "holeplacement.h"
-#include "maphost.h"
+#include "handmadechain.h"
+#include "placedholes.h"
 #include "plainplacement.h"
-#include "randommap.h"
 #include "testbase.h"
 
 #include <cmath>
@@ -28,8 +27,6 @@ private Q_SLOTS:
     void aCrossingBeyondTheRingStillCounts();
     void minuteHeightsArePlacedAsPlainly();
     void holeCoordinatesAreNarrowedToFloat();
-    void theFastWayEqualsThePlainOne_data();
-    void theFastWayEqualsThePlainOne();
 };
 
 namespace {
@@ -44,39 +41,6 @@ Ring circle(int vertices, double radius)
         ring.push_back({radius * std::cos(angle), radius * std::sin(angle)});
     }
     return ring;
-}
-
-struct Rings {
-    QVector<RX_POLYGON *> outers;
-    QVector<RX_POLYGON *> holes;
-};
-
-Rings split(HandMadeChain &chain)
-{
-    Rings rings;
-    for (RX_POLYGON *polygon = chain.first(); polygon != nullptr; polygon = polygon->next)
-        (polygon->isHole ? rings.holes : rings.outers).append(polygon);
-    return rings;
-}
-
-QVector<QVector<int>> placed(const Rings &rings)
-{
-    const HolePlacement placement(rings.outers, rings.holes);
-    QVector<QVector<int>> cut;
-    for (int outer = 0; outer < rings.outers.size(); ++outer) {
-        QVector<int> here;
-        for (int hole = placement.firstHole(outer); hole >= 0; hole = placement.nextHole(hole))
-            here.append(hole);
-        cut.append(here);
-    }
-    for (int hole = 0; hole < rings.holes.size(); ++hole) {
-        bool found = false;
-        for (const QVector<int> &here : qAsConst(cut))
-            found = found || here.contains(hole);
-        if (found != placement.isPlaced(hole))
-            return {};
-    }
-    return cut;
 }
 
 } // namespace
@@ -248,7 +212,7 @@ void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
                    {2.9267939010010183e-292, 0.0}})
         .area = 1e6;
     chain.addHole({{static_cast<double>(-7.8006251e-06F), 0.0}}).area = 1.0;
-    const Rings rings = split(chain);
+    const RingLists rings = split(chain);
     QCOMPARE(placed(rings), plainPlacement(rings.outers, rings.holes));
 }
 
@@ -259,27 +223,6 @@ void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
     chain.addOuter(square(16777216.5, 0, 10));
     chain.addHole({{16777217, 2}, {16777220, 2}, {16777220, 4}});
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));
-}
-
-void TestHolePlacement::theFastWayEqualsThePlainOne_data()
-{
-    addRandomKinds();
-}
-
-void TestHolePlacement::theFastWayEqualsThePlainOne()
-{
-    QFETCH(RandomKind, kind);
-    QFETCH(MapCensus::Counts, least);
-    MapCensus census;
-    for (unsigned int seed = 1; seed <= 1000; ++seed) {
-        RandomMap map(kind, seed);
-        const Rings rings = split(map.chain);
-        QCOMPARE(placed(rings), plainPlacement(rings.outers, rings.holes));
-        if (seed <= countedMaps)
-            census.add(map.chain);
-    }
-    const QString missing = census.shortOf(least);
-    QVERIFY2(missing.isEmpty(), qPrintable(missing));
 }
 
 QTEST_APPLESS_MAIN(TestHolePlacement)
