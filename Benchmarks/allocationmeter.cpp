@@ -124,9 +124,14 @@ void *realloc(void *block, size_t size)
 {
     const std::size_t before = isMetering ? malloc_usable_size(block) : 0;
     void *moved = __libc_realloc(block, size);
-    if (isMetering && (moved != nullptr || size == 0))
+    const bool isGiven = isMetering && (moved != nullptr || size == 0);
+    // A block that moves stands twice for a while.
+    if (isGiven && moved == block)
         given(before);
-    return metered(moved);
+    metered(moved);
+    if (isGiven && moved != block)
+        given(before);
+    return moved;
 }
 
 void *memalign(size_t alignment, size_t size)

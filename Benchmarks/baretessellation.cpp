@@ -50,26 +50,37 @@ void addContour(GLUtesselator *tessellator, const RX_POLYGON &ring, const RXVERT
     gluTessEndContour(tessellator);
 }
 
+void appendReversed(const QVector<Vertex> &from, QVector<Vertex> &bank)
+{
+    const int start = bank.size();
+    bank.resize(start + from.size());
+    Vertex *to = bank.data() + start;
+    for (int i = 0; i < from.size(); i += 3) {
+        to[i] = from.at(i + 2);
+        to[i + 1] = from.at(i + 1);
+        to[i + 2] = from.at(i);
+    }
+}
+
 } // namespace
 
 Placement plainPlacement(RX_POLYGON *chain, unsigned int count)
 {
-    std::vector<RX_POLYGON *> holes;
-    std::vector<RX_POLYGON *> outers;
-    for (RX_POLYGON *polygon = chain; count > 0; polygon = polygon->next, --count)
-        (polygon->isHole ? holes : outers).push_back(polygon);
+    RingLists rings(chain, count);
+    QVector<RX_POLYGON *> &holes = rings.holes;
     Placement placement;
-    for (const RX_POLYGON *outer : outers) {
+    for (const RX_POLYGON *outer : qAsConst(rings.outers)) {
         std::vector<RX_POLYGON *> here;
-        const std::vector<RX_POLYGON *> snapshot = holes;
-        std::size_t position = 0;
+        // Shared until a hole is taken out.
+        const QVector<RX_POLYGON *> snapshot = holes;
+        int position = 0;
         for (RX_POLYGON *hole : snapshot) {
             if (!(outer->area - 10.0 > hole->area) || !contains(*outer, *hole)) {
                 ++position;
                 continue;
             }
             here.push_back(hole);
-            holes.erase(holes.begin() + static_cast<std::ptrdiff_t>(position));
+            holes.removeAt(position);
         }
         placement.push_back(std::move(here));
     }
@@ -89,9 +100,10 @@ Placement fastPlacement(RX_POLYGON *chain, unsigned int count)
 }
 
 QVector<Vertex> bareTessellation(RX_POLYGON *chain, unsigned int count, const Placement &placement,
-                                 const QList<OrvikTypes::RX_RATECOLOR> &legend)
+                                 const QList<OrvikTypes::RX_RATECOLOR> &legend, std::size_t corners)
 {
     QVector<Vertex> bank;
+    bank.reserve(static_cast<int>(corners));
     GLUtesselator *tessellator = gluNewTess();
     registerCallback(tessellator, GLU_TESS_BEGIN, tessBeginCB);
     registerCallback(tessellator, GLU_TESS_VERTEX, tessVertexCB);
@@ -110,8 +122,7 @@ QVector<Vertex> bareTessellation(RX_POLYGON *chain, unsigned int count, const Pl
         for (const RX_POLYGON *hole : placement[outer])
             addContour(tessellator, *hole, color);
         gluTessEndPolygon(tessellator);
-        for (int i = 0; i < vList.size(); ++i)
-            bank.append(vList.at(i + (i % 3 == 0 ? 2 : i % 3 == 1 ? 0 : -2)));
+        appendReversed(vList, bank);
         vList.resize(0);
         qDeleteAll(coordList);
         coordList.resize(0);

@@ -19,6 +19,6 @@ Placement plainPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 Placement fastPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 
 /// GLU with the plug-in's callbacks on the contours of a known placement: vertices allocated one by one, triangles
-/// copied reversed. What a rebuild cannot do without.
+/// copied reversed into a bank with room for `corners` of them. What a rebuild cannot do without.
 QVector<Vertex> bareTessellation(OrvikTypes::RX_POLYGON *chain, unsigned int count, const Placement &placement,
-                                 const QList<OrvikTypes::RX_RATECOLOR> &legend);
+                                 const QList<OrvikTypes::RX_RATECOLOR> &legend, std::size_t corners);

@@ -24,5 +24,5 @@ private:
     RxMap3D *rxMap3D;
 };
 
-/// The legend of the maps: one colour for each rate from 0 to 199.
+/// The legend of the maps: a colour for each 30 of rate, from 0 to 180.
 QList<OrvikTypes::RX_RATECOLOR> benchmarkLegend();

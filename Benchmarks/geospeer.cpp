@@ -13,8 +13,9 @@ using Context = std::unique_ptr<GEOSContextHandle_HS, decltype(&GEOS_finish_r)>;
 GEOSGeometry *ringOf(GEOSContextHandle_t context, const OrvikTypes::RX_POLYGON &ring)
 {
     const auto count = static_cast<unsigned int>(vertexCount(ring));
-    GEOSCoordSequence *coordinates = GEOSCoordSeq_create_r(context, count + 1, 2);
-    for (unsigned int i = 0; i <= count; ++i) {
+    const unsigned int size = count == 0 ? 0 : count + 1;
+    GEOSCoordSequence *coordinates = GEOSCoordSeq_create_r(context, size, 2);
+    for (unsigned int i = 0; i < size; ++i) {
         const OrvikTypes::RX_POLYGONVERTEX &vertex = ring.vertices[i % count];
         GEOSCoordSeq_setXY_r(context, coordinates, i, vertex.x, vertex.y);
     }

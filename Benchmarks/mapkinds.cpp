@@ -12,6 +12,12 @@ int sideFor(int rings, double samples)
     return static_cast<int>(std::lround(std::sqrt(rings * samples)));
 }
 
+/// A side of 900 samples gives 32,912 outer rings and 21,019 holes.
+ZoneKind roughZones(int side)
+{
+    return {side, 30, 10, 0.042, 1};
+}
+
 } // namespace
 
 std::vector<MapKind> mapKinds()
@@ -22,10 +28,7 @@ std::vector<MapKind> mapKinds()
          [](int rings) {
              return zoneMap("zones-smooth", {sideFor(rings, 12.2), 1, 3, 0.0, 1});
          }},
-        {"zones-rough",
-         [](int rings) {
-             return zoneMap("zones-rough", {sideFor(rings, 7.9), 30, 12, 0.1, 1});
-         }},
+        {"zones-rough", [](int rings) { return zoneMap("zones-rough", roughZones(sideFor(rings, 15.0))); }},
         {"specks",
          [](int rings) {
              return zoneMap("specks", {sideFor(rings, 8.0), 1, 1, 0.1, 1});
@@ -40,9 +43,9 @@ std::vector<NamedMap> rebuildMaps()
         const std::string name = "zones-smooth-" + std::to_string(side);
         maps.push_back({name, [name, side] { return zoneMap(name, {side, 2, 3, 0.0, 1}); }});
     }
-    for (const int side : {180, 360, 720}) {
+    for (const int side : {225, 450, 900}) {
         const std::string name = "zones-rough-" + std::to_string(side);
-        maps.push_back({name, [name, side] { return zoneMap(name, {side, 30, 12, 0.1, 1}); }});
+        maps.push_back({name, [name, side] { return zoneMap(name, roughZones(side)); }});
     }
     maps.push_back({"ring-100k", [] { return ringMap("ring-100k", 100000, 1000); }});
     return maps;
@@ -50,5 +53,5 @@ std::vector<NamedMap> rebuildMaps()
 
 NamedMap manyHolesMap()
 {
-    return {"zones-rough-720", [] { return zoneMap("zones-rough-720", {720, 30, 12, 0.1, 1}); }};
+    return {"zones-rough-900", [] { return zoneMap("zones-rough-900", roughZones(900)); }};
 }

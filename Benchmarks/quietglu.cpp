@@ -34,8 +34,11 @@ void answerWithTriangles()
 {
     const std::size_t corners = polygon.vertices + 2 * polygon.contours;
     polygon.triangles = corners > 4 ? corners - 4 : 0;
-    for (std::size_t corner = 0; corner < 3 * polygon.triangles; ++corner)
-        vertexCallback(reinterpret_cast<void *>(static_cast<std::uintptr_t>(corner % polygon.vertices)));
+    std::uintptr_t vertex = 0;
+    for (std::size_t corner = 0; corner < 3 * polygon.triangles; ++corner) {
+        vertexCallback(reinterpret_cast<void *>(vertex));
+        vertex = vertex + 1 < polygon.vertices ? vertex + 1 : 0;
+    }
 }
 
 void countPolygon()

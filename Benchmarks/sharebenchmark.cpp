@@ -20,9 +20,9 @@ namespace {
 constexpr int fewRings = 4000;
 constexpr int manyRings = 64000;
 
-double shareOf(RxMap3D &drawable)
+double shareOf(BenchmarkHost &host)
 {
-    return timed([&drawable] { drawable.updatePolygons(); });
+    return timed([&host] { host.drawable().updatePolygons(); });
 }
 
 /// The exponent that the time, or another quantity, grows with from `few` to `many`.
@@ -58,8 +58,8 @@ void growthOfShare(benchmark::State &state, const MapKind &kind)
     std::vector<double> manyTimes;
     for (auto _ : state) {
         for (int i = 0; i < 16; ++i)
-            fewTimes.push_back(shareOf(fewHost.drawable()));
-        manyTimes.push_back(shareOf(manyHost.drawable()));
+            fewTimes.push_back(shareOf(fewHost));
+        manyTimes.push_back(shareOf(manyHost));
         state.SetIterationTime(manyTimes.back());
     }
     const double n = few.count();
@@ -74,6 +74,7 @@ void peakMemory(benchmark::State &state, const NamedMap &kind)
 {
     BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
+    const double bank = static_cast<double>(host.bankVertices() * sizeof(Vertex));
     const QuietGlu quiet;
     std::size_t peak = 0;
     for (auto _ : state) {
@@ -86,7 +87,6 @@ void peakMemory(benchmark::State &state, const NamedMap &kind)
     }
     const auto largest = static_cast<double>(quiet.largestPolygonVertices() * sizeof(RXVERT)
                                              + 3 * quiet.largestPolygonTriangles() * sizeof(Vertex));
-    const double bank = static_cast<double>(host.bankVertices() * sizeof(Vertex));
     state.counters["over_bank"] = static_cast<double>(peak) / (bank + largest);
     state.counters["peak_bytes"] = static_cast<double>(peak);
     state.counters["bank_bytes"] = bank;

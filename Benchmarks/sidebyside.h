@@ -36,21 +36,24 @@ struct NoPreparation {
 
 /// Runs both in turn in every iteration, the order swapped each time, and sets `counter` to the median of the
 /// iterations' quotients: what slows the machine for a while slows both sides of a quotient. `prepare` comes before
-/// each iteration and is not timed.
+/// either side and is not timed.
 template <typename Work, typename Baseline, typename Preparation = NoPreparation>
 void compareSideBySide(benchmark::State &state, const char *counter, Work &&work, Baseline &&baseline,
                        Preparation &&prepare = {})
 {
     std::vector<double> workTimes;
     std::vector<double> baselineTimes;
+    const auto run = [&prepare](auto &side, std::vector<double> &times) {
+        prepare();
+        times.push_back(timed(side));
+    };
     bool swapped = false;
     for (auto _ : state) {
-        prepare();
         if (swapped)
-            baselineTimes.push_back(timed(baseline));
-        workTimes.push_back(timed(work));
+            run(baseline, baselineTimes);
+        run(work, workTimes);
         if (!swapped)
-            baselineTimes.push_back(timed(baseline));
+            run(baseline, baselineTimes);
         swapped = !swapped;
         state.SetIterationTime(workTimes.back());
     }
