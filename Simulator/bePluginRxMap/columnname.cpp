@@ -24,13 +24,6 @@ const QSet<QString> &rateWords()
     return words;
 }
 
-const QSet<QString> &amountUnits()
-{
-    static const QSet<QString> words = wordSet("kg g t to l lt ltr liter litre ml gal lb lbs oz floz pt qt seeds seed "
-                                               "sds s k ks ksds plants pl st korn kst ct");
-    return words;
-}
-
 struct AmountWords {
     Amount amount;
     QSet<QString> units;
@@ -50,9 +43,25 @@ const QVector<AmountWords> &amountWords()
     return words;
 }
 
-const QSet<QString> &areaUnits()
+/// The units of all amounts, and what a rate may count as it stands: "seed per hectare".
+QSet<QString> unitsOfAmounts()
 {
-    static const QSet<QString> words = wordSet("ha a ac acre acres m2 hectare");
+    QSet<QString> units = wordSet("seed");
+    for (const AmountWords &known : amountWords())
+        units.unite(known.units);
+    return units;
+}
+
+const QSet<QString> &amountUnits()
+{
+    static const QSet<QString> words = unitsOfAmounts();
+    return words;
+}
+
+/// Longest first: a word that ends in one of them may end in a shorter one, too.
+const QStringList &areaUnits()
+{
+    static const QStringList words = QStringLiteral("hectare acres acre ha ac m2 a").split(QLatin1Char(' '));
     return words;
 }
 

@@ -21,7 +21,8 @@ void ColumnNameTest::tellsRatesFromTheRest_data()
                              "dose",           "DOSE",       "DOSE_1",     "Dosis",       "RATE_l_ha",    "SEED_kg_ha",
                              "HERB_l_ha",      "FERT_kg_ha", "FERT_KG_HA", "N_kgha",      "LimeTHa",      "UreaLbAc",
                              "Fert_kg_per_ha", "AppRate2",   "Menge_kg_h", "Rx1",         "Aufwandmenge", "ZONE_RATE",
-                             "sollwert",       "GPA"})
+                             "sollwert",       "GPA",        "a_seed_ha",  "plants_acre", "floz_per_ac",  "sds_m2",
+                             "X_kst_a",        "lperhectare"})
         QTest::newRow(name) << true << false;
     for (const char *name :
          {"QT_kg",     "ID",    "OBJECTID",   "fid",        "FID_1", "AREA_HA", "area",      "Shape_Area", "Shape_Leng",
@@ -50,7 +51,8 @@ void ColumnNameTest::tellsWhatIsMeasuredOut_data()
     QTest::addColumn<Amount>("amount");
     for (const char *name : {"SEED_KS_HA", "rate_seeds_ac", "seed_rate", "SEED_kg_ha", "PopRate", "ksha", "Saat_Rate"})
         QTest::newRow(name) << Amount::Count;
-    for (const char *name : {"HERB_l_ha", "HERB_L_HA", "gal_per_ac", "N_galperac", "dose_herb", "RateMlHa"})
+    for (const char *name : {"HERB_l_ha", "HERB_L_HA", "X_lha", "X_lperhectare", "qt_acre", "gal_per_ac", "N_galperac",
+                             "dose_herb", "RateMlHa"})
         QTest::newRow(name) << Amount::Volume;
     for (const char *name : {"RATE_kg_", "FERT_KG_HA", "N_kgha", "LimeTHa", "UreaLbAc", "fert_rate"})
         QTest::newRow(name) << Amount::Weight;
