@@ -1,17 +1,16 @@
 #include "prescriptionloader.h"
 
+#include "columnchoice.h"
 #include "gdalsession.h"
 #include "holearrangement.h"
 #include "legendbuilder.h"
 #include "prescriptionreader.h"
-#include "ratecolumns.h"
 #include "repeatedpolygons.h"
 #include "ringrepair.h"
 
 #include <algorithm>
 #include <cmath>
 #include <exception>
-#include <limits>
 
 namespace {
 
@@ -22,12 +21,6 @@ constexpr double shareOfReading = 0.6;
 constexpr double shareOfPlacing = 0.1;
 constexpr double shareOfRepair = 0.2;
 constexpr size_t ringsPerReport = 256;
-
-float rateFrom(double value)
-{
-    const bool fits = std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max());
-    return fits ? static_cast<float>(value) : std::numeric_limits<float>::quiet_NaN();
-}
 
 } // namespace
 
@@ -174,74 +167,19 @@ bool PrescriptionLoader::repairRings()
     return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
 }
 
-std::vector<int> PrescriptionLoader::columnsByRequest(LoadedMap &map) const
-{
-    QStringList names;
-    for (const SourceColumn &column : source.columns)
-        names.append(column.name);
-    std::vector<int> chosen;
-    for (int product = 0; product < request.columns.size(); ++product) {
-        if (request.columns.at(product).isEmpty())
-            continue;
-        const int inTable = RateColumns::find(source.columnNames, request.columns.at(product));
-        chosen.push_back(names.indexOf(source.columnNames.value(inTable)));
-        map.rateCalNames.append(request.rateCalNames.at(product));
-        map.defaultRates.append(request.defaultRates.value(product, 0.0));
-    }
-    return chosen;
-}
-
-std::vector<int> PrescriptionLoader::columnsByLikelihood(LoadedMap &map) const
-{
-    std::vector<double> areas(static_cast<size_t>(source.records), 0.0);
-    for (const PlanePolygon &polygon : polygons) {
-        double &area = areas[static_cast<size_t>(polygon.record)];
-        area += ringArea(polygon.outer);
-        for (const PlaneRing &hole : polygon.holes)
-            area -= ringArea(hole);
-    }
-    QList<Amount> amounts;
-    for (int product = 0; product < request.rateCalNames.size(); ++product)
-        amounts.append(request.amounts.value(product, Amount::Unknown));
-    const std::vector<int> assigned = RateColumns::assign(source, RateColumns::mostLikely(source, areas), amounts);
-    std::vector<int> chosen;
-    for (int product = 0; product < request.rateCalNames.size(); ++product) {
-        if (assigned[static_cast<size_t>(product)] < 0)
-            continue;
-        chosen.push_back(assigned[static_cast<size_t>(product)]);
-        map.rateCalNames.append(request.rateCalNames.at(product));
-        map.defaultRates.append(request.defaultRates.value(product, 0.0));
-    }
-    return chosen;
-}
-
 bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 {
-    const std::vector<int> chosen = request.columns.isEmpty() ? columnsByLikelihood(map) : columnsByRequest(map);
-    if (chosen.empty())
-        return fail(RateColumns::reasonForNone(source));
-    for (const int index : chosen) {
-        const SourceColumn &column = source.columns[static_cast<size_t>(index)];
-        map.report.columns.append(column.name);
-        if (std::all_of(column.values.begin(), column.values.end(), [](double value) { return std::isnan(value); }))
-            return fail(QStringLiteral("column \"%1\" holds no rates").arg(column.name));
-        warnCount(column.unreadable,
-                  QStringLiteral("entry of column \"%1\" is no rate and was left out").arg(column.name),
-                  QStringLiteral("entries of column \"%1\" are no rates and were left out").arg(column.name));
-    }
-    takeRates(chosen);
+    const ColumnChoice choice(request, source, polygons);
+    map.report.columns = choice.columns();
+    for (const QString &warning : choice.warnings())
+        warn(warning);
+    if (!choice.isOk())
+        return fail(choice.error());
+    map.rateCalNames = choice.rateCalNames();
+    map.defaultRates = choice.defaultRates();
+    mappings = static_cast<size_t>(choice.columns().size());
+    rates = choice.rates();
     return true;
-}
-
-void PrescriptionLoader::takeRates(const std::vector<int> &columns)
-{
-    mappings = columns.size();
-    rates.resize(static_cast<size_t>(source.records) * mappings);
-    for (size_t i = 0; i < mappings; ++i) {
-        const std::vector<double> &values = source.columns[static_cast<size_t>(columns[i])].values;
-        for (size_t record = 0; record < values.size(); ++record)
-            rates[record * mappings + i] = rateFrom(values[record]);
-    }
 }
 
 void PrescriptionLoader::dropRecordsWithoutRate()

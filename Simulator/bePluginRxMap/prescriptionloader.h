@@ -27,9 +27,6 @@ private:
     bool place(LoadedMap &map);
     bool repairRings();
     bool chooseColumns(LoadedMap &map);
-    std::vector<int> columnsByRequest(LoadedMap &map) const;
-    std::vector<int> columnsByLikelihood(LoadedMap &map) const;
-    void takeRates(const std::vector<int> &columns);
     void dropRecordsWithoutRate();
     void dropHidden();
     /// Tells of records that have a rate, but not in every column.

@@ -9,7 +9,6 @@ private Q_SLOTS:
     void saysWhyItCannotLoad();
     void refusesARequestThatMakesNoSense_data();
     void refusesARequestThatMakesNoSense();
-    void refusesNamedColumnsWithoutRates();
     void refusesATruncatedShapefile();
     void refusesShapefilesWhosePartsDoNotFit();
     void countsWhatItSkipsButRefusesWhenNothingIsLeft();
@@ -79,18 +78,6 @@ void PrescriptionLoaderRefusalsTest::refusesARequestThatMakesNoSense()
     LoadRequest request = requestFor(fixture("three-zones.geojson"), columns);
     request.rateCalNames = products;
     QVERIFY2(load(request)->report.error.contains(reason), qPrintable(load(request)->report.error));
-}
-
-void PrescriptionLoaderRefusalsTest::refusesNamedColumnsWithoutRates()
-{
-    LayerSketch sketch;
-    sketch.fields = {{"RATE_A", 1.0}, {"RATE_B", 1.0}};
-    for (int i = 0; i < 3; ++i)
-        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {QVariant(), QVariant()}});
-    const QString path = write(sketch, "a.shp");
-    QCOMPARE(load(path)->report.error, path + QStringLiteral(": holds no rates: no record has one in RATE_A, RATE_B"));
-    QCOMPARE(load(path, {QStringLiteral("RATE_B")})->report.error,
-             path + QStringLiteral(": column \"RATE_B\" holds no rates"));
 }
 
 void PrescriptionLoaderRefusalsTest::refusesATruncatedShapefile()
