@@ -1,5 +1,7 @@
 #include "boxindex.h"
 
+#include "placementcost.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
@@ -90,6 +92,7 @@ void BoxIndex::find(const Box &box, double area, QVector<BoxEntry> &found) const
 
 void BoxIndex::findBelow(int level, int node, const Box &box, double area, QVector<BoxEntry> &found) const
 {
+    countBoxVisit();
     const Node &here = levels.at(level).at(node);
     if (here.left == 0 || here.smallestArea >= area || !box.touches(here.box))
         return;

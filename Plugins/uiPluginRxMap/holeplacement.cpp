@@ -2,6 +2,7 @@
 
 #include "boxindex.h"
 #include "outerring.h"
+#include "placementcost.h"
 #include "ringbox.h"
 #include "ringtest.h"
 
@@ -36,6 +37,7 @@ public:
             return;
         }
         for (int hole = 0; hole < holes.size(); ++hole) {
+            countBoxVisit();
             if (!taken.at(hole) && limit > holes.at(hole)->area)
                 found.append({{}, holes.at(hole)->area, hole, vertexCount(*holes.at(hole))});
         }

@@ -1,5 +1,6 @@
 #include "ringraster.h"
 
+#include "placementcost.h"
 #include "ringtest.h"
 
 #include <QtGlobal>
@@ -78,6 +79,7 @@ void RingRaster::listEdges()
         findCells(edge, from, to, crossings);
         from = to;
     }
+    countRasterEntries(cells.size() + crossings.size());
     for (const Crossing &crossing : qAsConst(crossings)) {
         cells[crossing.cell] = Crossed;
         ++cellStart[crossing.cell];

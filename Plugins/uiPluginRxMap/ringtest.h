@@ -1,5 +1,7 @@
 #pragma once
 
+#include "placementcost.h"
+
 #include "Framework/rxpolygon.h"
 
 #include <cmath>
@@ -32,17 +34,6 @@ inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
     const bool isPossible = ring.vertices != nullptr && ring.vertexCount <= 0x7FFFFFFFU;
     return isPossible ? static_cast<int>(ring.vertexCount) : 0;
 }
-
-#ifdef RXMAP_COUNT_EDGE_TESTS
-/// Edge tests made so far; there only where a program that watches the cost of hole placement is built with it.
-extern quint64 edgeTestsMade;
-inline void countEdgeTest()
-{
-    ++edgeTestsMade;
-}
-#else
-inline void countEdgeTest() { }
-#endif
 
 /// Where the edge between the ring vertices `j` and `i`, which spans the height y, crosses it.
 inline double edgeCrossing(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double y)

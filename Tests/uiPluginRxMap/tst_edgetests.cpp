@@ -1,14 +1,14 @@
 #include "holeplacement.h"
 #include "mapkinds.h"
+#include "placementcost.h"
 #include "ringlists.h"
-#include "ringtest.h"
 #include "testbase.h"
 
 #include <cmath>
 
-quint64 edgeTestsMade = 0;
+PlacementCost placementCost;
 
-/// How many edges are looked at to place a map's holes: a cost that is the same on every machine.
+/// How many edges, boxes and cells are looked at to place a map's holes: a cost that is the same on every machine.
 class TestEdgeTests : public TestBase {
     Q_OBJECT
 
@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theyGrowNoFasterThanSortingTheHoles();
     void aMapWithoutHolesNeedsNone();
     void aLargeRingIsNotLookedAtWholeForEveryHole();
+    void longSlantingEdgesAreNotListedInAllCellsOfTheirBoxes();
     void onlyLargeRingsAndManyPointsAreWorthARaster_data();
     void onlyLargeRingsAndManyPointsAreWorthARaster();
     void aRingNoWiderThanItsRoundingIsLookedAtLikeAnyOther();
@@ -24,13 +25,18 @@ private Q_SLOTS:
 
 namespace {
 
-/// Edge tests made to place the map's holes.
-quint64 testsFor(BenchmarkMap &map)
+/// What it costs to place the map's holes.
+PlacementCost costOf(BenchmarkMap &map)
 {
     const RingLists rings(map.chain(), map.count());
-    const quint64 before = edgeTestsMade;
+    placementCost = PlacementCost();
     const HolePlacement placement(rings.outers, rings.holes);
-    return edgeTestsMade - before;
+    return placementCost;
+}
+
+quint64 testsFor(BenchmarkMap &map)
+{
+    return costOf(map).edgeTests;
 }
 
 MapKind kindOf(const QString &name)
@@ -57,6 +63,17 @@ double nLogN(double n)
     return n * std::log(n);
 }
 
+/// Boxes looked at for each outer ring, in units of how often the holes can be halved.
+double boxesPerOuter(const BenchmarkMap &map, const PlacementCost &cost)
+{
+    return static_cast<double>(cost.boxVisits) / (map.outers() * std::log2(map.holes()));
+}
+
+double entriesPerVertex(const BenchmarkMap &map, const PlacementCost &cost)
+{
+    return static_cast<double>(cost.rasterEntries) / static_cast<double>(map.vertices());
+}
+
 } // namespace
 
 void TestEdgeTests::theyGrowNoFasterThanSortingTheHoles_data()
@@ -71,12 +88,17 @@ void TestEdgeTests::theyGrowNoFasterThanSortingTheHoles()
     QFETCH(QString, kind);
     BenchmarkMap few = kindOf(kind).make(4000);
     BenchmarkMap many = kindOf(kind).make(64000);
-    const auto fewTests = static_cast<double>(testsFor(few));
-    const auto manyTests = static_cast<double>(testsFor(many));
-    QVERIFY(fewTests > 0.0);
-    const double growth = manyTests / fewTests;
+    const PlacementCost fewCost = costOf(few);
+    const PlacementCost manyCost = costOf(many);
+    QVERIFY(fewCost.edgeTests > 0);
+    const double growth = static_cast<double>(manyCost.edgeTests) / static_cast<double>(fewCost.edgeTests);
     const double allowed = nLogN(many.holes()) / nLogN(few.holes());
     QVERIFY2(growth <= allowed, qPrintable(QStringLiteral("%1 times, at most %2").arg(growth).arg(allowed)));
+    for (const double boxes : {boxesPerOuter(few, fewCost), boxesPerOuter(many, manyCost)})
+        QVERIFY2(boxes > 0.0 && boxes <= 4.0, qPrintable(QString::number(boxes)));
+    for (const double entries : {entriesPerVertex(few, fewCost), entriesPerVertex(many, manyCost)})
+        QVERIFY2(entries <= 3.0, qPrintable(QString::number(entries)));
+    QVERIFY(manyCost.rasterEntries > 0);
 }
 
 void TestEdgeTests::aMapWithoutHolesNeedsNone()
@@ -91,10 +113,35 @@ void TestEdgeTests::aLargeRingIsNotLookedAtWholeForEveryHole()
         if (map.name != "ring-100k")
             continue;
         BenchmarkMap ring = map.make();
-        const quint64 tests = testsFor(ring);
+        const PlacementCost cost = costOf(ring);
         // A thousand holes of 20 vertices in a ring of a hundred thousand: 2 000 000 000 edge by edge.
-        QVERIFY2(tests > 0 && tests < 200000, qPrintable(QString::number(tests)));
+        QVERIFY2(cost.edgeTests > 0 && cost.edgeTests < 200000, qPrintable(QString::number(cost.edgeTests)));
+        // Not much more than its edges and two cells for each.
+        QVERIFY2(cost.rasterEntries > 100000 && cost.rasterEntries < 400000,
+                 qPrintable(QString::number(cost.rasterEntries)));
     }
+}
+
+void TestEdgeTests::longSlantingEdgesAreNotListedInAllCellsOfTheirBoxes()
+{
+    BenchmarkMap::Ring ring;
+    for (int i = 0; i < 10; ++i) {
+        ring.push_back({i * 100.0 - 1000.0, -500.0});
+        ring.push_back({i * 100.0 + 50.0, 500.0});
+    }
+    // Short edges make for small cells.
+    for (int i = 0; i < 2000; ++i)
+        ring.push_back({999.0 - i, -501.0});
+    BenchmarkMap map("slanting");
+    map.add(ring, 1.0F, false);
+    map.add(circle(100, 0.1), 1.0F, true);
+    map.finish();
+    // The hole is only to have a raster made; it need not be inside.
+    for (OrvikTypes::RX_POLYGON *polygon = map.chain(); polygon != nullptr; polygon = polygon->next)
+        polygon->area = polygon->isHole ? 1.0 : 1000.0;
+    const PlacementCost cost = costOf(map);
+    QVERIFY2(cost.rasterEntries > 0 && entriesPerVertex(map, cost) <= 8.0,
+             qPrintable(QString::number(cost.rasterEntries)));
 }
 
 void TestEdgeTests::onlyLargeRingsAndManyPointsAreWorthARaster_data()
