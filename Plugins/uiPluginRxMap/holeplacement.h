@@ -8,7 +8,7 @@
 /// and has every vertex of the hole inside (the hole's coordinates narrowed to float). A hole without vertices, or
 /// inside no outer ring, is placed nowhere. The rings are not owned and may not change meanwhile.
 ///
-/// Comparing each hole with each outer ring would cost minutes on maps with tens of thousands of rings; a tree of
+/// Comparing each hole with each outer ring would cost seconds on maps with tens of thousands of rings; a tree of
 /// boxes and a raster leave out only comparisons whose result is known.
 class HolePlacement {
 public:
