@@ -12,9 +12,6 @@
 #include <mutex>
 #include <vector>
 
-class QMetaObject;
-class QMetaProperty;
-
 /// What a group keeps beside the value of one property. Hooks, validator and the two status flags are guarded by the
 /// group's lock.
 struct PropertyState {

@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QList>
-#include <QPointF>
 #include <QString>
 
 class DataBroker;

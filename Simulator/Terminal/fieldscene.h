@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QList>
-#include <QMatrix4x4>
 #include <QPointer>
 
 class Camera;

@@ -5,7 +5,6 @@
 
 #include <QImage>
 #include <QOpenGLWidget>
-#include <QScopedPointer>
 
 class QTouchEvent;
 class UiGraphicsList;

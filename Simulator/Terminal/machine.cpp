@@ -69,7 +69,6 @@ Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Product
                  QObject *parent)
     : QObject(parent)
     , broker(broker)
-    , backend(backend)
     , allProducts(products)
     , units(units)
 {

@@ -48,7 +48,6 @@ private:
     void followMaps();
 
     DataBroker *broker;
-    PrescriptionBackend *backend;
     Products allProducts;
     UnitSystem units;
     int active = 1;

@@ -1,7 +1,6 @@
 #include "holetakers.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 

@@ -4,8 +4,6 @@
 #include "prescriptionreader.h"
 #include "ratecolumns.h"
 
-#include "bePluginRxMap/rxmaploader.h"
-
 #include <QEventLoop>
 
 #include <memory>

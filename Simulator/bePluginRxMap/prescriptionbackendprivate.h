@@ -7,9 +7,9 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QHash>
-#include <QObject>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <thread>
 #include <vector>

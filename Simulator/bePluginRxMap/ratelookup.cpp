@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <boost/iterator/function_output_iterator.hpp>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 using OrvikTypes::RX_POLYGON;
