@@ -1,0 +1,19 @@
+#pragma once
+
+#include "fieldview.h"
+#include "testbase.h"
+
+#include <QScopedPointer>
+
+/// Base of the tests of the field view: for each test function a view of 800 x 600 pixels that is shown and frames a
+/// field of 400 m x 200 m.
+class FieldViewTest : public TestBase {
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
+    QScopedPointer<FieldView> view;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "terminalhost.h"
+#include "testbase.h"
+
+#include <QScopedPointer>
+
+/// Base of the tests of the terminal: for each test function a terminal with the plug-in that has loaded nothing.
+class TerminalTest : public TestBase {
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
+    Terminal &terminal() { return host->terminal(); }
+    /// Opens a prescription of the tests' own.
+    LoadReport open(const QString &file, const QStringList &columns);
+
+    QScopedPointer<TerminalHost> host;
+};
