@@ -65,6 +65,7 @@ void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
         auto *vertex = new RXVERT{from.x, static_cast<double>(mapHeight), -from.y, red, green, blue, 0.5 * alpha};
         const auto position = static_cast<quintptr>(coordList.size());
         coordList.append(vertex);
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the callbacks take the place in the list back out of the pointer.
         gluTessVertex(tessellator, &vertex->x, reinterpret_cast<void *>(position));
     }
     gluTessEndContour(tessellator);

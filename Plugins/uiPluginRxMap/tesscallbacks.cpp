@@ -11,7 +11,7 @@ quint32 colorByte(double component)
 {
     // Colours beyond the usual range, or not a number, must not reach the conversion.
     const double inRange = component > 0.0 ? std::min(component, 1.0) : 0.0;
-    return static_cast<quint32>(255.0 * inRange + 0.5);
+    return static_cast<quint32>(255.0 * inRange + 0.5); // NOLINT(bugprone-incorrect-roundings): never negative.
 }
 
 } // namespace

@@ -90,7 +90,7 @@ QPointer<UiGWidget> UiPluginRxMap::createUiGWidget(QString name, int x, int y, Q
 {
     if (name != widgetName)
         return {};
-    const QPointer<UiGWidget> widget = new RxMapWidget(pluginName, name, x, y, imageDir(), position, broker);
+    QPointer<UiGWidget> widget = new RxMapWidget(pluginName, name, x, y, imageDir(), position, broker);
     graphicsWidgets().insert(name, widget);
     return widget;
 }

@@ -125,12 +125,15 @@ bool NumericEntry::fits(const QString &candidate) const
 bool NumericEntry::canReachRange(double magnitude, double smallest, double largest) const
 {
     const double mostDecimals = 1.0 - std::pow(10.0, -int(decimalLimit));
+    double span = 1.0;
     double lowest = magnitude;
-    for (double span = 1.0; lowest <= largest; span *= 10.0, lowest = magnitude * span) {
+    while (lowest <= largest) {
         if (lowest + (span - 1.0) + mostDecimals >= smallest)
             return true;
         if (magnitude == 0.0)
             return false; // a digit after a lone zero takes the zero's place
+        span *= 10.0;
+        lowest = magnitude * span;
     }
     return false;
 }

@@ -5,6 +5,9 @@
 #include "Framework/spnswitchbytecalsettingsstruct.h"
 #include "Framework/xyz.h"
 
+// NOLINTBEGIN(bugprone-macro-parentheses, performance-no-int-to-ptr): a type takes no parentheses, and the pointer that
+// is none tells Qt to give the type an id of its own.
+
 /// Defines what ORVIK_DECLARE_SHARED_METATYPE declares: `TYPE` is registered, once, under the name as written here.
 #define ORVIK_DEFINE_SHARED_METATYPE(TYPE)                                                                             \
     int QMetaTypeId<TYPE>::qt_metatype_id()                                                                            \
@@ -27,6 +30,8 @@ ORVIK_DEFINE_SHARED_METATYPE(OrvikTypes::SPN_OperationalSetStruct)
 ORVIK_DEFINE_SHARED_METATYPE(OrvikTypes::SPN_SwitchByteCalSettingsStruct)
 
 QT_END_NAMESPACE
+
+// NOLINTEND(bugprone-macro-parentheses, performance-no-int-to-ptr)
 
 namespace {
 

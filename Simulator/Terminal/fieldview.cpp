@@ -160,7 +160,7 @@ bool FieldView::event(QEvent *event)
 
 bool FieldView::followTouch(const QTouchEvent &event)
 {
-    const QList<QTouchEvent::TouchPoint> points = event.touchPoints();
+    const QList<QTouchEvent::TouchPoint> &points = event.touchPoints();
     if (points.isEmpty() || event.type() == QEvent::TouchCancel) {
         isPressed = false;
         isPinching = false;

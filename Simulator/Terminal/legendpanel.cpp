@@ -136,7 +136,7 @@ void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
     const QFontMetrics metrics(classFont);
     for (int i = 0; i < texts.size(); ++i) {
         const QRect row(inner.left(), headHeight + i * rowHeight, inner.width(), rowHeight);
-        const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2 + 0.5, swatchHeight + 8,
+        const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2.0 + 0.5, swatchHeight + 8,
                             swatchHeight);
         painter.setPen(QPen(Look::text(), 1.0));
         painter.setBrush(FieldScene::onGround(content.classes.at(i).color));

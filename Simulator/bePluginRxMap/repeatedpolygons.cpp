@@ -67,6 +67,7 @@ PlaneRing standardised(PlaneRing ring)
 std::vector<PlaneRing> standardised(const std::vector<PlaneRing> &rings)
 {
     std::vector<PlaneRing> result;
+    result.reserve(rings.size());
     for (const PlaneRing &ring : rings)
         result.push_back(standardised(ring));
     std::sort(result.begin(), result.end(), isRingBefore);

@@ -203,7 +203,7 @@ std::vector<std::unique_ptr<OGRPolygon>> divide(const OGRPolygon &field, const s
     return pieces;
 }
 
-bool write(const char *path, std::vector<std::unique_ptr<OGRPolygon>> pieces, const OGRGeometry &water)
+bool write(const char *path, const std::vector<std::unique_ptr<OGRPolygon>> &pieces, const OGRGeometry &water)
 {
     OGRSpatialReference world;
     OGRSpatialReference grid;
