@@ -31,8 +31,6 @@ public:
     explicit LegendPanel(QWidget *parent = nullptr);
 
     void show(const Content &content);
-    /// The texts beside the colours, lowest class first.
-    QStringList classTexts() const { return texts; }
     QSize sizeHint() const override;
 
 protected:
@@ -46,5 +44,6 @@ private:
     void drawClasses(QPainter &painter, const QRect &inner) const;
 
     Content content;
+    /// Beside the colours, lowest class first.
     QStringList texts;
 };

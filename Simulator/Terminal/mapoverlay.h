@@ -28,7 +28,6 @@ public:
     void setVehicle(const QPointF &place, double heading);
     /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
-    QString bubbleText() const { return text; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
