@@ -13,9 +13,9 @@ template <typename Callback> void registerCallback(GLUtesselator *tessellator, G
     gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
 }
 
-/// Empties `list`. Room beyond a kibibyte goes too: when such a large block is asked for anew, the C library joins the
-/// small ones freed before, so that what the tessellator makes for the next polygon lies in a row. That takes an eighth
-/// off the time of large polygons; small ones would only pay for it.
+/// Empties `list`. Room beyond a kibibyte goes too: when such a large block is asked for anew, glibc joins the small
+/// ones freed before, so that what the tessellator makes for the next polygon lies in a row. Large polygons gain much
+/// by it (docs/measurements.md); small ones would only pay.
 void emptyOut(QVector<RXVERT *> &list)
 {
     constexpr int mostKept = 128;
