@@ -21,7 +21,7 @@ public:
 
     /// Puts a standing vehicle at the middle of the area's south border (metres of the local plane).
     void setArea(const QRectF &area);
-    /// Metres per second from 0 (stops) to MostSpeed; false, and nothing changes, for any other number.
+    /// Metres per second from 0 (stops) to mostSpeed; false, and nothing changes, for any other number.
     bool drive(double metresPerSecond);
     void stop();
     /// Moves the vehicle by the time that has passed on the clock.
