@@ -121,11 +121,11 @@ public:
         broker = std::make_unique<DataBroker>();
         backend = std::make_unique<PrescriptionBackend>(broker.get());
         QObject::connect(backend.get(), &PrescriptionBackend::progress, [this] { ++progressReports; });
-        progressReports = 0;
     }
 
     void load()
     {
+        progressReports = 0;
         sinceAnswer.start();
         tick.start(1);
         const LoadReport report = backend->loadAndWait(request);
@@ -137,7 +137,7 @@ public:
     }
 
     int polygons = 0;
-    int progressReports = 0;
+    int progressReports = 0; ///< Of the last load.
     /// The longest time without an answer over all loads, seconds.
     double longestPause = 0.0;
 

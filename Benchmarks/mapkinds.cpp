@@ -12,10 +12,16 @@ int sideFor(int rings, double samples)
     return static_cast<int>(std::lround(std::sqrt(rings * samples)));
 }
 
-/// A side of 900 samples gives 32,912 outer rings and 21,019 holes.
+/// A side of 720 samples gives 33,110 outer rings and 21,011 holes.
 ZoneKind roughZones(int side)
 {
-    return {side, 30, 10, 0.042, 1};
+    return {side, 30, 7, 0.068, 1};
+}
+
+NamedMap roughMap(int side)
+{
+    const std::string name = "zones-rough-" + std::to_string(side);
+    return {name, [name, side] { return zoneMap(name, roughZones(side)); }};
 }
 
 } // namespace
@@ -28,7 +34,7 @@ std::vector<MapKind> mapKinds()
          [](int rings) {
              return zoneMap("zones-smooth", {sideFor(rings, 12.2), 1, 3, 0.0, 1});
          }},
-        {"zones-rough", [](int rings) { return zoneMap("zones-rough", roughZones(sideFor(rings, 15.0))); }},
+        {"zones-rough", [](int rings) { return zoneMap("zones-rough", roughZones(sideFor(rings, 9.6))); }},
         {"specks",
          [](int rings) {
              return zoneMap("specks", {sideFor(rings, 8.0), 1, 1, 0.1, 1});
@@ -43,15 +49,13 @@ std::vector<NamedMap> rebuildMaps()
         const std::string name = "zones-smooth-" + std::to_string(side);
         maps.push_back({name, [name, side] { return zoneMap(name, {side, 2, 3, 0.0, 1}); }});
     }
-    for (const int side : {225, 450, 900}) {
-        const std::string name = "zones-rough-" + std::to_string(side);
-        maps.push_back({name, [name, side] { return zoneMap(name, roughZones(side)); }});
-    }
+    for (const int side : {180, 360, 720})
+        maps.push_back(roughMap(side));
     maps.push_back({"ring-100k", [] { return ringMap("ring-100k", 100000, 1000); }});
     return maps;
 }
 
-NamedMap manyHolesMap()
+std::vector<NamedMap> manyHolesMaps()
 {
-    return {"zones-rough-900", [] { return zoneMap("zones-rough-900", roughZones(900)); }};
+    return {roughMap(720), roughMap(1000)};
 }

@@ -17,6 +17,8 @@ protected Q_SLOTS:
 protected:
     /// Of a file in the test's folder.
     QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
+    /// Writes `to` for `from` throughout a file in the test's folder; false when that does not hold `from`.
+    bool replaceIn(const char *name, const QByteArray &from, const QByteArray &to) const;
     /// Reads into `map`; what kept it from that is then in `error`.
     bool read(const QString &file, const QStringList &columns = {});
 

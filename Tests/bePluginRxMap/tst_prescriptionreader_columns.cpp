@@ -45,13 +45,7 @@ void PrescriptionReaderColumnsTest::readsColumnNamesInTheTablesOwnCodePage()
     sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0}}};
     QVERIFY(sketch.write(path("a.shp")));
     QFile::remove(path("a.cpg"));
-    QFile table(path("a.dbf"));
-    QVERIFY(table.open(QIODevice::ReadWrite));
-    QByteArray bytes = table.readAll();
-    bytes.replace("D_ngung", "D\xfcngung");
-    table.seek(0);
-    table.write(bytes);
-    table.close();
+    QVERIFY(replaceIn("a.dbf", "D_ngung", "D\xfcngung"));
     QVERIFY2(read(path("a.shp"), {QString::fromUtf8("düngung")}), qPrintable(error));
     QCOMPARE(map.columns[0].values[0], 80.0);
 }
@@ -95,13 +89,7 @@ void PrescriptionReaderColumnsTest::readsAColumnThatSharesItsName()
     sketch.fields = {{"RATE_A", 1.0}, {"RATE_B", 1.0}};
     sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, 90.0}}};
     QVERIFY(sketch.write(path("a.shp")));
-    QFile table(path("a.dbf"));
-    QVERIFY(table.open(QIODevice::ReadWrite));
-    QByteArray bytes = table.readAll();
-    bytes.replace("RATE_B", "RATE_A");
-    table.seek(0);
-    table.write(bytes);
-    table.close();
+    QVERIFY(replaceIn("a.dbf", "RATE_B", "RATE_A"));
     QVERIFY2(read(path("a.shp"), {QStringLiteral("RATE_A")}), qPrintable(error));
     QCOMPARE(map.columnNames, QStringList({QStringLiteral("RATE_A"), QStringLiteral("RATE_A")}));
     QCOMPARE(map.columns[0].values[0], 80.0);
@@ -141,13 +129,7 @@ void PrescriptionReaderColumnsTest::refusesAColumnThatHoldsNoNumbers()
     sketch.fields = {{"rate", 1.0}};
     sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
     QVERIFY(sketch.write(path("a.geojson")));
-    QFile file(path("a.geojson"));
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QByteArray text = file.readAll();
-    text.replace("\"rate\": 1.0", "\"rate\": " + value);
-    file.resize(0);
-    file.write(text);
-    file.close();
+    QVERIFY(replaceIn("a.geojson", "\"rate\": 1.0", "\"rate\": " + value));
     QVERIFY(!read(path("a.geojson"), {QStringLiteral("rate")}));
     QCOMPARE(error, QStringLiteral("column \"rate\" holds no numbers"));
 }
