@@ -17,7 +17,7 @@
 namespace {
 
 /// How long calls of a script that is being ended wait for their answer at most, milliseconds.
-constexpr unsigned long AnswerSlice = 10;
+constexpr unsigned long answerSlice = 10;
 
 /// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, for ever.
 void closeDialogs()
@@ -82,7 +82,7 @@ void ScriptRunner::endFromOutside(QThread &thread)
 {
     interrupt();
     // The script may be waiting for an answer, and until it has one it does not see the interrupt.
-    while (!thread.wait(AnswerSlice)) {
+    while (!thread.wait(answerSlice)) {
         closeDialogs();
         QApplication::processEvents();
     }
