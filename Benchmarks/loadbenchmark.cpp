@@ -2,6 +2,7 @@
 
 #include "Backend/prescriptionbackend.h"
 #include "gdalsession.h"
+#include "paths.h"
 #include "sidebyside.h"
 
 #include "Framework/databroker.h"
@@ -177,7 +178,7 @@ void loadCells(benchmark::State &state)
 /// Real prescriptions, where they are present.
 const bool areRealMapsAdded = [] {
     for (const char *map : {"cells-17k/cells", "cells-three-products/cells"}) {
-        const QString path = QStringLiteral(RXMAP_BENCHMARK_DATA "/%1.shp").arg(QLatin1String(map));
+        const QString path = realDataFolder() + QStringLiteral("/%1.shp").arg(QLatin1String(map));
         if (QFileInfo::exists(path)) {
             benchmark::RegisterBenchmark((std::string("Load/") + map).c_str(), load, path)
                 ->UseManualTime()

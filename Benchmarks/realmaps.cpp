@@ -1,6 +1,7 @@
 #include "realmaps.h"
 
 #include "Backend/prescriptionbackend.h"
+#include "paths.h"
 
 #include "Framework/databroker.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
@@ -47,7 +48,9 @@ BenchmarkMap published(const std::string &name, const QString &path)
 std::vector<NamedMap> allMaps()
 {
     std::vector<NamedMap> maps = rebuildMaps();
-    const QDir folder(QStringLiteral(RXMAP_BENCHMARK_DATA));
+    const QDir folder(realDataFolder());
+    if (realDataFolder().isEmpty())
+        return maps;
     QStringList paths;
     QDirIterator files(folder.path(), {QStringLiteral("*.shp"), QStringLiteral("*.geojson")}, QDir::Files,
                        QDirIterator::Subdirectories);

@@ -1,11 +1,9 @@
 # Catalogues of a target's texts. The build compiles what stands in the sources and writes nothing there; the target
 # update_translations enters new texts as unfinished and drops those that are gone, and a test tells when that is due.
-#   rxmap_add_catalogues(TARGET NAME FOLDER): translations/NAME_<language>.ts becomes FOLDER/NAME_<language>.qm,
+#   rxmap_add_catalogues(NAME FOLDER [OTHER_FOLDER...]): translations/NAME_<language>.ts becomes FOLDER/NAME_<language>.qm,
 #   in the calling folder; the .qm files' paths are left in `catalogues`.
-# The texts are those of the sources that lie in the calling folder itself; list them before calling.
-function(rxmap_add_catalogues target name folder)
-    get_target_property(texts ${target} SOURCES)
-    list(FILTER texts INCLUDE REGEX "^[^/]+\\.(cpp|h)$")
+# The texts are those of all sources below the calling folder, and of other folders that are named behind.
+function(rxmap_add_catalogues name folder)
     set(sources "")
     set(catalogues "")
     foreach(language de fr es pt_BR)
@@ -20,7 +18,7 @@ function(rxmap_add_catalogues target name folder)
     endforeach()
     set(catalogues ${catalogues} PARENT_SCOPE)
 
-    set(update "$<TARGET_FILE:Qt5::lupdate>" -silent -locations none -no-obsolete ${texts} -ts)
+    set(update "$<TARGET_FILE:Qt5::lupdate>" -silent -locations none -no-obsolete . ${ARGN} -ts)
     if(NOT TARGET update_translations)
         add_custom_target(update_translations)
     endif()

@@ -1,18 +1,21 @@
 # Warnings, sanitizers and the language standard, in one place: link rxmap_cxx14 or rxmap_cxx17.
 
-add_library(rxmap_compile_options INTERFACE)
-target_compile_options(rxmap_compile_options INTERFACE
-    # Wherever a point is tested against an edge it must round alike.
-    -ffp-contract=off
-    -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor $<$<BOOL:${RXMAP_WERROR}>:-Werror>)
-target_compile_definitions(rxmap_compile_options INTERFACE
-    QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS
+set(RXMAP_WARNINGS -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor)
+if(RXMAP_WERROR)
+    list(APPEND RXMAP_WARNINGS -Werror)
+endif()
+set(RXMAP_DEFINITIONS QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS
     QT_DISABLE_DEPRECATED_BEFORE=0x050900)
+# Wherever a point is tested against an edge it must round alike, in tests too.
+set(RXMAP_ROUNDING -ffp-contract=off)
+
+add_library(rxmap_compile_options INTERFACE)
+target_compile_options(rxmap_compile_options INTERFACE ${RXMAP_ROUNDING} ${RXMAP_WARNINGS})
+target_compile_definitions(rxmap_compile_options INTERFACE ${RXMAP_DEFINITIONS})
 if(RXMAP_SANITIZE)
     target_compile_options(rxmap_compile_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1 -O1)
-    # With some 200 programs to link, the quicker linker.
-    target_link_options(rxmap_compile_options INTERFACE -fsanitize=address,undefined -fuse-ld=gold)
+    target_link_options(rxmap_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 
 # The plug-in and the host interfaces keep to what the oldest host kits compile.

@@ -1,6 +1,6 @@
 #include "commandline.h"
 
-#include "plainfile.h"
+#include "regularfile.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -81,7 +81,7 @@ QString readColumns(const QString &text, CommandLine &line)
 
 QString requireFile(const QString &option, const QString &path)
 {
-    const QString problem = plainFileProblem(path);
+    const QString problem = regularFileProblem(path);
     return problem.isEmpty() ? QString() : QStringLiteral("--%1 %2: %3").arg(option, path, problem);
 }
 

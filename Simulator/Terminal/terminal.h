@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
-#include "framepace.h"
 #include "product.h"
+#include "repaintthrottle.h"
 #include "result.h"
 #include "simulationclock.h"
 #include "unitsystem.h"
@@ -106,5 +106,5 @@ private:
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;
-    FramePace viewPace;
+    RepaintThrottle viewPace;
 };

@@ -10,5 +10,5 @@ private Q_SLOTS:
     void anUnexpectedWarning() { qWarning("a warning that nobody expects"); }
 };
 
-QTEST_GUILESS_MAIN(TestForgottenBase)
+RXMAP_TEST(TestForgottenBase, Core)
 #include "tst_forgottenbase.moc"

@@ -79,5 +79,5 @@ void TestDemonstration::itFailsWithoutTheOptionsButton()
     QVERIFY2(run.errors.contains(QLatin1String("rxOptions")), qPrintable(run.errors));
 }
 
-QTEST_MAIN(TestDemonstration)
+RXMAP_TEST(TestDemonstration, Widgets)
 #include "tst_demonstration.moc"

@@ -105,5 +105,5 @@ void TestDialogPictures::statesLookAsStored()
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
-QTEST_MAIN(TestDialogPictures)
+RXMAP_TEST(TestDialogPictures, Widgets)
 #include "tst_dialogpictures.moc"

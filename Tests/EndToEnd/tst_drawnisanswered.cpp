@@ -117,8 +117,7 @@ void TestDrawnIsAnswered::classesAgree_data()
     for (const char *name :
          {"grid-clipped/grid-clipped.shp", "cells-three-products/cells.shp", "cells-three-products/zones_8c.shp",
           "cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-17k/zones_8c.shp", "blocks-utm/treatment_blocks.shp",
-          "blocks-utm/treatment_blocks.gpkg", "zones-geojson/app_map_vector.geojson",
-          "zones-geojson/isoxmljs_test.geojson"})
+          "blocks-utm/treatment_blocks.gpkg", "zones-geojson/app_map_vector.geojson", "zones-geojson/*_test.geojson"})
         QTest::newRow(name) << realData(QString::fromLatin1(name));
 }
 
@@ -126,7 +125,7 @@ void TestDrawnIsAnswered::classesAgree()
 {
     QFETCH(QString, file);
     if (file.isEmpty())
-        QSKIP("no folder with real prescriptions beside the project");
+        QSKIP("RXMAP_REAL_DATA names no folder with real prescriptions");
     QVERIFY2(QFileInfo::exists(file), qPrintable(file));
     const QString head = QStringLiteral("var path = \"%1\"; var options = {}; var points = 400;\n").arg(file);
     const SimulatorRun run = runScript(head + scriptText(QStringLiteral("drawn-is-answered.js")));
@@ -170,5 +169,5 @@ void TestDrawnIsAnswered::aMapTooWideForOneLookAgreesUpClose()
     QVERIFY2(3 * found.covered >= found.compared, qPrintable(QString::number(found.covered)));
 }
 
-QTEST_MAIN(TestDrawnIsAnswered)
+RXMAP_TEST(TestDrawnIsAnswered, Widgets)
 #include "tst_drawnisanswered.moc"

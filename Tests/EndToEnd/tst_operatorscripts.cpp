@@ -107,5 +107,5 @@ print("finished");
 )js"));
 }
 
-QTEST_MAIN(TestOperatorScripts)
+RXMAP_TEST(TestOperatorScripts, Widgets)
 #include "tst_operatorscripts.moc"

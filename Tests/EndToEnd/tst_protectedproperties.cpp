@@ -163,5 +163,5 @@ done();
     checkThatTheNextDialogShowsWhatIsStored();
 }
 
-QTEST_MAIN(TestProtectedProperties)
+RXMAP_TEST(TestProtectedProperties, Widgets)
 #include "tst_protectedproperties.moc"

@@ -115,5 +115,5 @@ void TestSettingsScripts::defaultRatesAreInTheOperatorsUnits()
     QVERIFY2(run.output.contains(QStringLiteral("finished")), qPrintable(output));
 }
 
-QTEST_MAIN(TestSettingsScripts)
+RXMAP_TEST(TestSettingsScripts, Widgets)
 #include "tst_settingsscripts.moc"

@@ -135,5 +135,5 @@ void TestWithDisplay::aSignalTakesTheVirtualDisplayAlong()
     QVERIFY(QDir(folder.path()).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestWithDisplay)
+RXMAP_TEST(TestWithDisplay, Core)
 #include "tst_withdisplay.moc"

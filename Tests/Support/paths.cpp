@@ -14,5 +14,5 @@ QString buildPath(const char *relative)
 
 QString realDataFolder()
 {
-    return QStringLiteral(RXMAP_TEST_DATA);
+    return qEnvironmentVariable("RXMAP_REAL_DATA", QStringLiteral(RXMAP_TEST_DATA));
 }

@@ -3,6 +3,7 @@
 #include "paths.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 void TestBase::init()
 {
@@ -26,6 +27,9 @@ MessageWatch &TestBase::messages()
 
 QString TestBase::realData(const QString &relativePath)
 {
-    const QDir folder(realDataFolder());
-    return folder.exists() ? QDir::cleanPath(folder.filePath(relativePath)) : QString();
+    if (realDataFolder().isEmpty() || !QDir(realDataFolder()).exists())
+        return QString();
+    const QFileInfo file(QDir(realDataFolder()).filePath(relativePath));
+    const QStringList matches = file.dir().entryList({file.fileName()}, QDir::AllEntries | QDir::NoDotAndDotDot);
+    return QDir::cleanPath(file.dir().filePath(matches.isEmpty() ? file.fileName() : matches.constFirst()));
 }

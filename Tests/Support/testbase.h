@@ -1,6 +1,7 @@
 #pragma once
 
 #include "messagewatch.h"
+#include "testmain.h"
 
 #include <QObject>
 #include <QScopedPointer>
@@ -18,7 +19,8 @@ protected Q_SLOTS:
 
 protected:
     MessageWatch &messages();
-    /// Path of a real prescription below the data folder beside the project; empty where the folder is absent.
+    /// Path of a real prescription below the folder that RXMAP_REAL_DATA names; empty where there is no such folder.
+    /// The file's name may be a pattern ("*.shp"), which stands for the first file that matches.
     static QString realData(const QString &relativePath);
 
 private:
@@ -28,4 +30,4 @@ private:
 /// Skips the test function, with a message, where the real prescriptions are absent.
 #define RXMAP_NEED_REAL_DATA()                                                                                         \
     if (realData(QString()).isEmpty())                                                                                 \
-    QSKIP("no folder with real prescriptions beside the project")
+    QSKIP("RXMAP_REAL_DATA names no folder with real prescriptions")

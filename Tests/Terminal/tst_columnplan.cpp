@@ -45,5 +45,5 @@ void TestColumnPlan::aColumnThatNoFileHasIsNamed()
     QCOMPARE(plan.error, QStringLiteral("--columns: no column \"NOPE\" in a.shp, b.shp"));
 }
 
-QTEST_APPLESS_MAIN(TestColumnPlan)
+RXMAP_TEST(TestColumnPlan, None)
 #include "tst_columnplan.moc"

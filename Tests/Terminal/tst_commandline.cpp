@@ -175,5 +175,5 @@ void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption()
     QVERIFY2(help.contains(told), qPrintable(help));
 }
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+RXMAP_TEST(TestCommandLine, Core)
 #include "tst_commandline.moc"

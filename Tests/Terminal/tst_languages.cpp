@@ -146,5 +146,5 @@ void TestLanguages::aDamagedCatalogueIsNamed()
     QVERIFY2(error.startsWith(file.fileName()), qPrintable(error));
 }
 
-QTEST_GUILESS_MAIN(TestLanguages)
+RXMAP_TEST(TestLanguages, Core)
 #include "tst_languages.moc"

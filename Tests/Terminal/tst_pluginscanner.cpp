@@ -152,5 +152,5 @@ void TestPluginScanner::anEmptyFolderHasNone()
     QVERIFY(findings.complaints.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestPluginScanner)
+RXMAP_TEST(TestPluginScanner, Core)
 #include "tst_pluginscanner.moc"

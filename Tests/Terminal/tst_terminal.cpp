@@ -157,5 +157,5 @@ void TestTerminal::twoTerminalsMayFollowEachOther()
     QCOMPARE(terminal().touch(QPointF(0, 0)), QStringLiteral("Rx Rate: 150.00"));
 }
 
-QTEST_MAIN(TestTerminal)
+RXMAP_TEST(TestTerminal, Widgets)
 #include "tst_terminal.moc"

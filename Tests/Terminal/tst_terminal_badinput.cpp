@@ -219,5 +219,5 @@ void TestTerminalBadInput::whatIsCountedLeavesTheMapBefore()
     expectMapBefore();
 }
 
-QTEST_MAIN(TestTerminalBadInput)
+RXMAP_TEST(TestTerminalBadInput, Widgets)
 #include "tst_terminal_badinput.moc"

@@ -142,7 +142,7 @@ void TestTerminalDrawing::whatIsDrawnIsWhatIsAnswered_data()
     QTest::newRow("repaired zones") << realData("cells-17k/zones_8c.shp") << "RATE_l_ha";
     QTest::newRow("trial blocks") << realData("blocks-utm/treatment_blocks.gpkg") << "target_rate";
     QTest::newRow("null polygon") << realData("zones-geojson/app_map_vector.geojson") << "dose";
-    QTest::newRow("two zones") << realData("zones-geojson/isoxmljs_test.geojson") << "DOSE";
+    QTest::newRow("two zones") << realData("zones-geojson/*_test.geojson") << "DOSE";
 }
 
 void TestTerminalDrawing::whatIsDrawnIsWhatIsAnswered()
@@ -277,5 +277,5 @@ void TestTerminalDrawing::theBubbleShowsWhatIsSaidAndGoes()
     QCOMPARE(bubblesShown(), QStringList());
 }
 
-QTEST_MAIN(TestTerminalDrawing)
+RXMAP_TEST(TestTerminalDrawing, Widgets)
 #include "tst_terminal_drawing.moc"

@@ -56,5 +56,5 @@ void TestTerminalPictures::aChangedPictureIsNoticed()
     QVERIFY(Picture::compare(stored, QStringLiteral("no-map")).contains(QLatin1String("10000 pixels differ")));
 }
 
-QTEST_MAIN(TestTerminalPictures)
+RXMAP_TEST(TestTerminalPictures, Widgets)
 #include "tst_terminalpictures.moc"

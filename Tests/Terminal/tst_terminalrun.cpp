@@ -286,5 +286,5 @@ void TestTerminalRun::productsComeFromAFile()
     QVERIFY(outcome.output.contains(QLatin1String("product 3 (Urea)")));
 }
 
-QTEST_MAIN(TestTerminalRun)
+RXMAP_TEST(TestTerminalRun, Widgets)
 #include "tst_terminalrun.moc"

@@ -186,5 +186,5 @@ void TestTerminalSimulator::itSpeaksTheOperatorsLanguage()
     QVERIFY(german.output != QLatin1String("Rx Rate: 80.00\n"));
 }
 
-QTEST_GUILESS_MAIN(TestTerminalSimulator)
+RXMAP_TEST(TestTerminalSimulator, Core)
 #include "tst_terminalsimulator.moc"

@@ -135,5 +135,5 @@ void TestBoxIndex::exactlyTheBoxesInsideAreFound()
     QVERIFY2(hits >= 20, qPrintable(QString::number(hits)));
 }
 
-QTEST_APPLESS_MAIN(TestBoxIndex)
+RXMAP_TEST(TestBoxIndex, None)
 #include "tst_boxindex.moc"

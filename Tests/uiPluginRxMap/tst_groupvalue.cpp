@@ -70,5 +70,5 @@ void TestGroupValue::aBrokersGroupsAreReadByNameTheSameWay()
     QCOMPARE(groupValue<unsigned int>(broker, "others", "polygonCount"), 0U);
 }
 
-QTEST_APPLESS_MAIN(TestGroupValue)
+RXMAP_TEST(TestGroupValue, None)
 #include "tst_groupvalue.moc"

@@ -225,5 +225,5 @@ void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));
 }
 
-QTEST_APPLESS_MAIN(TestHolePlacement)
+RXMAP_TEST(TestHolePlacement, None)
 #include "tst_holeplacement.moc"

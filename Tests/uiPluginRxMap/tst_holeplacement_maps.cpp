@@ -89,5 +89,5 @@ void TestHolePlacementOfMaps::largeMapsArePlacedAsPlainly()
     QVERIFY2(rastered >= fewestRastered, qPrintable(QString::number(rastered)));
 }
 
-QTEST_APPLESS_MAIN(TestHolePlacementOfMaps)
+RXMAP_TEST(TestHolePlacementOfMaps, None)
 #include "tst_holeplacement_maps.moc"

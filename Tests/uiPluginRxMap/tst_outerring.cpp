@@ -125,5 +125,5 @@ void TestOuterRing::verticesAreNarrowedToFloat()
     QVERIFY(contains(square(16777216.5, 0, 10), {{16777218, 2}, {16777220, 2}, {16777220, 4}}, false));
 }
 
-QTEST_APPLESS_MAIN(TestOuterRing)
+RXMAP_TEST(TestOuterRing, None)
 #include "tst_outerring.moc"

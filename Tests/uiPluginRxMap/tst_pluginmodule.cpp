@@ -131,5 +131,5 @@ void TestPluginModule::theEntryPointItselfKeepsTheInstance()
     delete second.data();
 }
 
-QTEST_MAIN(TestPluginModule)
+RXMAP_TEST(TestPluginModule, Widgets)
 #include "tst_pluginmodule.moc"

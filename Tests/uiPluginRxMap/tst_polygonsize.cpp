@@ -78,5 +78,5 @@ void TestPolygonSize::noMoreRoomIsAskedForThanAListHolds()
     QCOMPARE(size.vertices, 3 * mostTriangles);
 }
 
-QTEST_APPLESS_MAIN(TestPolygonSize)
+RXMAP_TEST(TestPolygonSize, None)
 #include "tst_polygonsize.moc"

@@ -70,5 +70,5 @@ void TestRateMapping::aProductsMappingIsTheFirstThatContainsItsNumber()
     QTEST(findProductMapping(mappingsFor(channels), product), "expected");
 }
 
-QTEST_APPLESS_MAIN(TestRateMapping)
+RXMAP_TEST(TestRateMapping, None)
 #include "tst_ratemapping.moc"

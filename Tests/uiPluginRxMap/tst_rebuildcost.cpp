@@ -119,5 +119,5 @@ void TestRebuildCost::nothingIsLeftBetweenRebuilds()
     QCOMPARE(vList.size(), 0);
 }
 
-QTEST_MAIN(TestRebuildCost)
+RXMAP_TEST(TestRebuildCost, Widgets)
 #include "tst_rebuildcost.moc"

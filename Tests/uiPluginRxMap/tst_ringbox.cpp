@@ -58,5 +58,5 @@ void TestRingBox::anOutersBoxIsWiderByWhatACrossingCanErr()
     QCOMPARE(box.maxY, 7.0);
 }
 
-QTEST_APPLESS_MAIN(TestRingBox)
+RXMAP_TEST(TestRingBox, None)
 #include "tst_ringbox.moc"

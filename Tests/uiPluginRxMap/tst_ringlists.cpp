@@ -55,5 +55,5 @@ void TestRingLists::withoutAChainThereAreNoRings()
     QVERIFY(rings.holes.isEmpty());
 }
 
-QTEST_APPLESS_MAIN(TestRingLists)
+RXMAP_TEST(TestRingLists, None)
 #include "tst_ringlists.moc"

@@ -306,5 +306,5 @@ void TestRingRaster::mostOfAWideRingIsClear()
     QVERIFY(!raster.isClear({-500.0, -500.0, 500.0, 500.0}));
 }
 
-QTEST_APPLESS_MAIN(TestRingRaster)
+RXMAP_TEST(TestRingRaster, None)
 #include "tst_ringraster.moc"

@@ -196,5 +196,5 @@ void TestRxMap3DPlainRebuild::wholePrescriptions()
     QCOMPARE(difference(map, expected, prescription.chain()), QString());
 }
 
-QTEST_MAIN(TestRxMap3DPlainRebuild)
+RXMAP_TEST(TestRxMap3DPlainRebuild, Widgets)
 #include "tst_rxmap3d_plainrebuild.moc"

@@ -236,5 +236,5 @@ void TestRxMapGraphicsList::theDrawableIsToldBeforeTheProductIsRead()
     QCOMPARE(seen.aam, host.aam(1));
 }
 
-QTEST_MAIN(TestRxMapGraphicsList)
+RXMAP_TEST(TestRxMapGraphicsList, Widgets)
 #include "tst_rxmapgraphicslist.moc"

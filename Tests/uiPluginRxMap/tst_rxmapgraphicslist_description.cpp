@@ -279,5 +279,5 @@ void TestRxMapGraphicsListDescription::withoutABrokerThereIsAListThatSaysNothing
     QCOMPARE(list.drawables()->size(), 1);
 }
 
-QTEST_MAIN(TestRxMapGraphicsListDescription)
+RXMAP_TEST(TestRxMapGraphicsListDescription, Widgets)
 #include "tst_rxmapgraphicslist_description.moc"

@@ -289,5 +289,5 @@ void TestRxMapGraphicsListLifecycle::ratesAndValidityOfOtherTypesAreConverted()
     QTEST(list.getPointDescription({}), "text");
 }
 
-QTEST_MAIN(TestRxMapGraphicsListLifecycle)
+RXMAP_TEST(TestRxMapGraphicsListLifecycle, Widgets)
 #include "tst_rxmapgraphicslist_lifecycle.moc"

@@ -159,5 +159,5 @@ void TestUiPluginRxMap::deletingTheSecondBaseDeletesThePlugin()
     QVERIFY(list.isNull());
 }
 
-QTEST_MAIN(TestUiPluginRxMap)
+RXMAP_TEST(TestUiPluginRxMap, Widgets)
 #include "tst_uipluginrxmap.moc"

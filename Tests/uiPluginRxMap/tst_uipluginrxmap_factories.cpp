@@ -63,7 +63,7 @@ void TestUiPluginRxMapFactories::aSecondGraphicsListReplacesTheFirst()
 
 void TestUiPluginRxMapFactories::theFirstGraphicsListIsGoneBeforeTheSecondIsMade()
 {
-    struct Look {
+    struct Theme {
         QPointer<UiGraphicsList> first;
         QList<bool> wasGone;
     } look;
@@ -73,7 +73,7 @@ void TestUiPluginRxMapFactories::theFirstGraphicsListIsGoneBeforeTheSecondIsMade
     QVERIFY(!look.first.isNull());
     // A new list reads the active map while it is made.
     const auto note = [](void *argument) {
-        auto *noted = static_cast<Look *>(argument);
+        auto *noted = static_cast<Theme *>(argument);
         noted->wasGone.append(noted->first.isNull());
     };
     QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", note, &look));
@@ -275,5 +275,5 @@ void TestUiPluginRxMapFactories::aWidgetAsksTheBrokerThatItsMakingNames()
     QCOMPARE(button->currentImage(), 0);
 }
 
-QTEST_MAIN(TestUiPluginRxMapFactories)
+RXMAP_TEST(TestUiPluginRxMapFactories, Widgets)
 #include "tst_uipluginrxmap_factories.moc"

@@ -177,5 +177,5 @@ void TestVirtualSlots::whatEveryPlugInTellsKeepsItsOrder()
     QCOMPARE(slotOf(&LongerProvides::afterTheLast), 7);
 }
 
-QTEST_APPLESS_MAIN(TestVirtualSlots)
+RXMAP_TEST(TestVirtualSlots, None)
 #include "tst_virtualslots.moc"

@@ -9,37 +9,6 @@
 #include <QString>
 #include <QStringList>
 
-/// How a product is measured out.
-enum class Amount { Unknown, Count, Volume, Weight };
-
-/// What to load, and for whom.
-struct LoadRequest {
-    /// A Shapefile, GeoPackage or GeoJSON file.
-    QString path;
-    /// Rate columns; entry i feeds rateCalNames[i]. An empty entry leaves that product out. An empty list lets the
-    /// back-end choose the most likely columns, at most one per rateCalNames entry.
-    QStringList columns;
-    /// Product-group names in product order.
-    QStringList rateCalNames;
-    /// How rateCalNames' products are measured out, missing ones Unknown. Columns that the back-end chooses go to the
-    /// products that their names suit.
-    QList<Amount> amounts;
-    /// Names for the entries of "settings", one per product of the machine, in product order.
-    QStringList productNames;
-    /// Default rates of rateCalNames' products, base units; missing ones are 0.
-    QList<double> defaultRates;
-};
-
-/// Which columns a file's table has.
-struct ColumnSearch {
-    /// Those of the wanted columns that are there, as they were asked for.
-    QStringList found;
-    /// One line that names the file and the reason; empty on success.
-    QString error;
-
-    bool isOk() const { return error.isEmpty(); }
-};
-
 /// What came of a load.
 struct LoadReport {
     /// One line that names the file and the reason; empty on success.

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Backend/columnsearch.h"
 #include "Backend/loadreport.h"
+#include "Backend/loadrequest.h"
 
 #include "bePluginRxMap/bepluginrxmapglobal.h"
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "camera.h"
+#include "repaintthrottle.h"
+
+#include <QColor>
+#include <QPointF>
+#include <QString>
+#include <QWidget>
+
+class QPainter;
+
+/// What lies over the map without being touched: vehicle, north arrow, scale bar and the bubble at the touched point.
+/// Drawing it draws the map below it once more, so a vehicle and bubbles that change faster than frames share one.
+class MapOverlay : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MapOverlay(QWidget *parent = nullptr);
+
+    /// Drawn at once, in step with the view that `camera` is of.
+    void setCamera(const Camera &camera);
+    /// The part of the view between the panels, pixels.
+    void setFreeArea(const QRectF &area);
+    /// Metric scale bars count metres, others feet.
+    void setMetric(bool metric);
+    /// `place` in metres, `heading` in degrees clockwise from north.
+    void setVehicle(const QPointF &place, double heading);
+    /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
+    void showBubble(const QPointF &field, const QString &text, const QColor &color);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawVehicle(QPainter &painter) const;
+    void drawNorthArrow(QPainter &painter) const;
+    void drawScaleBar(QPainter &painter) const;
+    void drawBubble(QPainter &painter) const;
+
+    Camera camera;
+    QRectF freeArea;
+    bool isMetric = true;
+    QPointF vehicle;
+    double vehicleHeading = 0.0;
+    QPointF bubbleAt;
+    QString text;
+    QColor bubbleColor;
+    RepaintThrottle pace;
+};

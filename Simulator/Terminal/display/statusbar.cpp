@@ -1,0 +1,75 @@
+#include "statusbar.h"
+
+#include "theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double kilometresPerHour = 3.6;
+constexpr double milesPerHour = 3.6 / 1.609344;
+constexpr int speedWidth = 190;
+constexpr int progressWidth = 360;
+
+} // namespace
+
+StatusBar::StatusBar(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("statusBar"));
+    setMaps({});
+    setSpeed(0.0, true);
+}
+
+void StatusBar::setMaps(const QStringList &names)
+{
+    maps = names.isEmpty() ? tr("No prescription loaded") : names.join(QStringLiteral("  \u00b7  "));
+    update();
+}
+
+void StatusBar::setSpeed(double metresPerSecond, bool metric)
+{
+    isMoving = metresPerSecond > 0.0;
+    const double factor = metric ? kilometresPerHour : milesPerHour;
+    speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(metresPerSecond * factor, 0, 'f', 1) : tr("Stopped");
+    update();
+}
+
+void StatusBar::setProgress(const QString &file, double fraction)
+{
+    loading = file;
+    loaded = qBound(0.0, fraction, 1.0);
+    update();
+}
+
+void StatusBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(Theme::panel().rgb()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect inner = rect().adjusted(20, 0, -20, 0);
+
+    const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
+    painter.setFont(Theme::font(22, true));
+    painter.setPen(isMoving ? Theme::accent() : Theme::text());
+    painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, speed);
+
+    QRect mapArea(inner.left(), 0, inner.width() - speedWidth - Theme::margin, height());
+    if (!loading.isEmpty()) {
+        mapArea.setWidth(mapArea.width() - progressWidth - Theme::margin);
+        const QRect area(mapArea.right() + Theme::margin, 0, progressWidth, height());
+        painter.setFont(Theme::font(15));
+        painter.setPen(Theme::faintText());
+        painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft, tr("Loading %1").arg(loading));
+        const QRectF track(area.left(), height() - 22.0, area.width(), 12.0);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Theme::button());
+        painter.drawRoundedRect(track, 6.0, 6.0);
+        painter.setBrush(Theme::accent());
+        painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(qMax(12.0, track.width() * loaded), 12.0)), 6.0, 6.0);
+    }
+    painter.setFont(Theme::font(22, true));
+    painter.setPen(Theme::text());
+    painter.drawText(mapArea, Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(maps, Qt::ElideMiddle, mapArea.width()));
+}

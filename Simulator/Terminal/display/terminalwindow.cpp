@@ -1,0 +1,123 @@
+#include "terminalwindow.h"
+
+#include "fieldview.h"
+#include "guidancepage.h"
+#include "legendpanel.h"
+#include "mapoverlay.h"
+#include "productselector.h"
+#include "statusbar.h"
+#include "theme.h"
+#include "touchbutton.h"
+#include "windowstack.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QPainter>
+
+namespace {
+
+constexpr int statusHeight = 56;
+constexpr int selectorWidth = 212;
+constexpr double zoomStep = 1.5;
+const char placedProperty[] = "rxmapPlacedOnDisplay";
+
+} // namespace
+
+TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
+    : QWidget(parent)
+    , view(new FieldView(this))
+    , mapOverlay(new MapOverlay(this))
+    , status(new StatusBar(this))
+    , selector(new ProductSelector(products, this))
+    , legendPanel(new LegendPanel(this))
+    , page(new GuidancePage(this))
+{
+    setWindowTitle(tr("Field terminal"));
+    setObjectName(QStringLiteral("terminalWindow"));
+    setFixedSize(displaySize);
+    addZoomButtons();
+    connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
+    qApp->installEventFilter(this);
+    connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
+}
+
+TerminalWindow::~TerminalWindow() = default;
+
+void TerminalWindow::addZoomButtons()
+{
+    const auto add = [this](const QString &text, const char *name) {
+        auto *button = new TouchButton(text, this);
+        button->setObjectName(QLatin1String(name));
+        zoomButtons.append(button);
+        return button;
+    };
+    connect(add(QStringLiteral("+"), "zoomIn"), &TouchButton::clicked, view, [this] { view->zoom(zoomStep); });
+    connect(add(QStringLiteral("\u2212"), "zoomOut"), &TouchButton::clicked, view,
+            [this] { view->zoom(1.0 / zoomStep); });
+    connect(add(tr("Field"), "showField"), &TouchButton::clicked, this, &TerminalWindow::frameRequested);
+}
+
+void TerminalWindow::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void TerminalWindow::arrange()
+{
+    const QRect below(0, statusHeight, width(), height() - statusHeight);
+    status->setGeometry(0, 0, width(), statusHeight);
+    view->setGeometry(below);
+    mapOverlay->setGeometry(below);
+    const QRect inner = below.adjusted(Theme::margin, Theme::margin, -Theme::margin, -Theme::margin);
+    selector->setGeometry(inner.left(), inner.top(), selectorWidth, selector->heightWithin(inner.height()));
+    legendPanel->resize(legendPanel->sizeHint());
+    legendPanel->move(inner.right() + 1 - legendPanel->width(), inner.top());
+
+    int bottom = inner.bottom() + 1;
+    int right = inner.right() + 1;
+    for (int i = zoomButtons.size() - 1; i >= 0; --i) {
+        right -= Theme::touchTarget;
+        zoomButtons.at(i)->setGeometry(right, bottom - Theme::touchTarget, Theme::touchTarget, Theme::touchTarget);
+        right -= Theme::margin / 2;
+    }
+    bottom -= Theme::touchTarget + Theme::margin;
+    page->resize(page->sizeHint());
+    page->move(inner.right() + 1 - page->width(), bottom - page->height());
+    page->setVisible(!page->sizeHint().isEmpty());
+
+    QRectF free(inner.left() + selectorWidth + Theme::margin, inner.top(), 0.0, inner.height());
+    free.setRight(legendPanel->x() - Theme::margin);
+    free.translate(0.0, -statusHeight);
+    view->setFreeArea(free);
+    mapOverlay->setFreeArea(free);
+}
+
+void TerminalWindow::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closed();
+}
+
+bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A dialog places itself on the display, which on a desk is this window, wherever it stands.
+    auto *dialog = event->type() == QEvent::Show && !event->spontaneous() ? qobject_cast<QDialog *>(watched) : nullptr;
+    if (dialog != nullptr && dialog->isWindow() && !dialog->property(placedProperty).toBool()) {
+        dialog->setProperty(placedProperty, true);
+        dialog->move(dialog->pos() + mapToGlobal(QPoint(0, 0)));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+QImage TerminalWindow::screenshot()
+{
+    QImage image = grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QWidgetList windows = WindowStack::fromTop();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        if (*window != this && (*window)->isVisible())
+            painter.drawPixmap((*window)->pos() - mapToGlobal(QPoint(0, 0)), (*window)->grab());
+    }
+    return image;
+}

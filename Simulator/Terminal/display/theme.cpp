@@ -1,0 +1,60 @@
+#include "theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double radius = 10.0;
+
+}
+
+QColor Theme::panel()
+{
+    return QColor(22, 30, 38, 244);
+}
+
+QColor Theme::button()
+{
+    return QColor(54, 66, 78);
+}
+
+QColor Theme::pressedButton()
+{
+    return QColor(104, 120, 136);
+}
+
+QColor Theme::accent()
+{
+    return QColor(255, 198, 0);
+}
+
+QColor Theme::textOnAccent()
+{
+    return QColor(14, 18, 22);
+}
+
+QColor Theme::text()
+{
+    return QColor(255, 255, 255);
+}
+
+QColor Theme::faintText()
+{
+    return QColor(196, 206, 216);
+}
+
+QFont Theme::font(int pixels, bool bold)
+{
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+void Theme::drawPanel(QPainter &painter, const QRectF &area, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(area, radius, radius);
+}

@@ -1,0 +1,61 @@
+#include "touchbutton.h"
+
+#include "theme.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int textPixels = 24;
+constexpr int notePixels = 15;
+constexpr int inset = 10;
+
+} // namespace
+
+TouchButton::TouchButton(const QString &text, QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setText(text);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void TouchButton::setNote(const QString &newNote)
+{
+    note = newNote;
+    update();
+}
+
+QSize TouchButton::sizeHint() const
+{
+    return QSize(Theme::touchTarget, Theme::touchTarget);
+}
+
+void TouchButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QColor fill = isDown() ? Theme::pressedButton() : isChecked() ? Theme::accent() : Theme::button();
+    Theme::drawPanel(painter, rect(), fill);
+    const bool onAccent = isChecked() && !isDown();
+    const QRect inner = rect().adjusted(inset, 0, -inset, 0);
+
+    QFont font = Theme::font(textPixels, true);
+    const double needed = QFontMetricsF(font).horizontalAdvance(text());
+    if (needed > inner.width())
+        font.setPixelSize(std::max(notePixels, int(textPixels * inner.width() / needed)));
+    painter.setFont(font);
+    painter.setPen(onAccent ? Theme::textOnAccent() : Theme::text());
+    const QString shown = QFontMetrics(font).elidedText(text(), Qt::ElideRight, inner.width());
+    if (note.isEmpty()) {
+        painter.drawText(inner, Qt::AlignCenter, shown);
+        return;
+    }
+    const int middle = height() / 2 + 2;
+    painter.drawText(QRect(inner.left(), 0, inner.width(), middle), Qt::AlignHCenter | Qt::AlignBottom, shown);
+    painter.setFont(Theme::font(notePixels));
+    painter.setPen(onAccent ? Theme::textOnAccent() : Theme::faintText());
+    painter.drawText(QRect(inner.left(), middle + 2, inner.width(), height() - middle - 2),
+                     Qt::AlignHCenter | Qt::AlignTop,
+                     QFontMetrics(painter.font()).elidedText(note, Qt::ElideRight, inner.width()));
+}

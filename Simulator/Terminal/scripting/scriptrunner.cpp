@@ -1,0 +1,132 @@
+#include "scriptrunner.h"
+
+#include "regularfile.h"
+#include "scriptconsole.h"
+#include "scriptterminal.h"
+#include "terminal.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFile>
+#include <QJSEngine>
+#include <QMutexLocker>
+#include <QScopedPointer>
+#include <QThread>
+
+namespace {
+
+/// How long calls of a script that is being ended wait for their answer at most, milliseconds.
+constexpr unsigned long answerSlice = 10;
+
+/// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, for ever.
+void closeDialogs()
+{
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    while (QWidget *modal = QApplication::activeModalWidget()) {
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+        if (QApplication::activeModalWidget() == modal)
+            return;
+    }
+}
+
+QString describe(const QJSValue &error, const QString &name)
+{
+    const QJSValue line = error.property(QStringLiteral("lineNumber"));
+    const QString place = line.isNumber() ? QStringLiteral("%1:%2").arg(name).arg(line.toInt()) : name;
+    return QStringLiteral("%1: %2").arg(place, error.toString().simplified());
+}
+
+} // namespace
+
+ScriptRunner::ScriptRunner(Terminal *terminal, QObject *parent)
+    : QObject(parent)
+    , terminal(terminal)
+{
+}
+
+QString ScriptRunner::run(const QString &path)
+{
+    const QString problem = regularFileProblem(path);
+    if (!problem.isEmpty())
+        return QStringLiteral("%1: %2").arg(path, problem);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("%1: %2").arg(path, file.errorString());
+    return evaluate(QString::fromUtf8(file.readAll()), path);
+}
+
+QString ScriptRunner::evaluate(const QString &program, const QString &name)
+{
+    QString error;
+    QEventLoop loop;
+    QScopedPointer<QThread> thread(
+        QThread::create([this, &program, &name, &error] { error = evaluateOnThread(program, name); }));
+    connect(thread.data(), &QThread::finished, &loop, [&loop] {
+        closeDialogs();
+        loop.quit();
+    });
+    thread->start();
+    loop.exec();
+    if (thread->isRunning())
+        endFromOutside(*thread);
+    thread->wait();
+    return error;
+}
+
+void ScriptRunner::endFromOutside(QThread &thread)
+{
+    interrupt();
+    // The script may be waiting for an answer, and until it has one it does not see the interrupt.
+    while (!thread.wait(answerSlice)) {
+        closeDialogs();
+        QApplication::processEvents();
+    }
+    closeDialogs();
+}
+
+void ScriptRunner::interrupt()
+{
+    isInterrupted = true;
+    const QMutexLocker locker(&engineMutex);
+    if (engine != nullptr)
+        engine->setInterrupted(true);
+}
+
+void ScriptRunner::useEngine(QJSEngine *running)
+{
+    const QMutexLocker locker(&engineMutex);
+    engine = running;
+    if (engine != nullptr && isInterrupted)
+        engine->setInterrupted(true);
+}
+
+QString ScriptRunner::evaluateOnThread(const QString &program, const QString &name)
+{
+    QJSEngine scriptEngine;
+    ScriptTerminal scriptTerminal(terminal, &isInterrupted, &scriptEngine);
+    ScriptConsole console(&scriptEngine);
+    QJSValue global = scriptEngine.globalObject();
+    global.setProperty(QStringLiteral("terminal"), scriptEngine.newQObject(&scriptTerminal));
+    QJSValue makePrint = scriptEngine.evaluate(
+        QStringLiteral("(function (console) { return function () { "
+                       "console.writeLine(Array.prototype.map.call(arguments, String).join(' ')); }; })"));
+    global.setProperty(QStringLiteral("print"), makePrint.call({scriptEngine.newQObject(&console)}));
+
+    useEngine(&scriptEngine);
+    // Whatever is thrown comes out as an Error, which is how the engine tells a failure from a result; only an Error of
+    // the script's own knows its line.
+    const QString guarded =
+        QStringLiteral("try { %1\n} catch (thrown) { if (!(thrown instanceof Error)) {"
+                       " thrown = new Error(String(thrown)); thrown.lineNumber = null; } throw thrown; }")
+            .arg(program);
+    const QJSValue result = scriptEngine.evaluate(guarded, name);
+    useEngine(nullptr);
+    if (isInterrupted)
+        return QStringLiteral("%1: interrupted").arg(name);
+    return result.isError() ? describe(result, name) : QString();
+}

@@ -1,0 +1,281 @@
+#include "scriptterminal.h"
+
+#include "activemap.h"
+#include "fieldview.h"
+#include "machine.h"
+#include "productfile.h"
+#include "result.h"
+#include "runonuithread.h"
+#include "scriptcontrol.h"
+#include "scriptvalue.h"
+#include "terminal.h"
+#include "terminalwindow.h"
+#include "uidriver.h"
+#include "vehicle.h"
+
+#include "Framework/databrokergroup.h"
+
+#include <QElapsedTimer>
+#include <QJSEngine>
+#include <QJSValueIterator>
+#include <QMetaProperty>
+#include <QThread>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double waitSlice = 20.0; // Milliseconds.
+
+QString reasonOf(int code, const QString &group, const QString &property)
+{
+    switch (code) {
+    case DataBrokerGroup::ErrUnknownGroup:
+        return QStringLiteral("no group \"%1\"").arg(group);
+    case DataBrokerGroup::ErrUnknownProperty:
+        return QStringLiteral("group \"%1\" has no property \"%2\"").arg(group, property);
+    case DataBrokerGroup::ErrWrongType:
+        return QStringLiteral("the value is of the wrong type for \"%2\" of group \"%1\"").arg(group, property);
+    case DataBrokerGroup::ErrInvalidToken:
+        return QStringLiteral("\"%2\" of group \"%1\" is write-protected").arg(group, property);
+    case DataBrokerGroup::ErrGroupRemoved:
+        return QStringLiteral("group \"%1\" has been removed").arg(group);
+    default:
+        return QStringLiteral("\"%2\" of group \"%1\" refused the value with code %3").arg(group, property).arg(code);
+    }
+}
+
+QVariantList plainLegend(const QList<OrvikTypes::RX_RATECOLOR> &legend)
+{
+    return ScriptValue::fromBroker(QVariant::fromValue(QList<QList<OrvikTypes::RX_RATECOLOR>>{legend}))
+        .toList()
+        .value(0)
+        .toList();
+}
+
+/// The legend of the active product's column, else of the first one.
+QVariantMap describe(const LoadReport &report, const QString &activeColumn)
+{
+    QVariantList legends;
+    for (const QList<OrvikTypes::RX_RATECOLOR> &legend : report.legends)
+        legends.append(QVariant(plainLegend(ActiveMap::drawnClasses(legend))));
+    return {{QStringLiteral("group"), report.group},
+            {QStringLiteral("polygons"), report.polygons},
+            {QStringLiteral("outers"), report.outers},
+            {QStringLiteral("holes"), report.holes},
+            {QStringLiteral("columns"), report.columns},
+            {QStringLiteral("legend"), legends.value(std::max(0, report.columns.indexOf(activeColumn)))},
+            {QStringLiteral("legends"), legends},
+            {QStringLiteral("repaired"), report.repaired},
+            {QStringLiteral("skipped"), report.skipped},
+            {QStringLiteral("warnings"), report.warnings}};
+}
+
+/// The columns that a list of a script names; null and undefined leave a product out, as an empty text does.
+Result<QStringList> namesIn(const QJSValue &list)
+{
+    const quint32 count = list.property(QStringLiteral("length")).toUInt();
+    if (count > quint32(ProductFile::mostProducts))
+        return Result<QStringList>::failure(
+            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::mostProducts));
+    QStringList names;
+    for (quint32 i = 0; i < count; ++i) {
+        const QJSValue entry = list.property(i);
+        const bool isLeftOut = entry.isNull() || entry.isUndefined();
+        if (!entry.isString() && !isLeftOut)
+            return Result<QStringList>::failure(QStringLiteral("entry %1 of \"columns\" is no text").arg(i + 1));
+        names.append(isLeftOut ? QString() : entry.toString());
+    }
+    return {names, {}};
+}
+
+/// The columns that the options of open() name.
+Result<QStringList> columnsIn(const QJSValue &options)
+{
+    const QString columns = QStringLiteral("columns");
+    if (options.isUndefined())
+        return {};
+    if (!options.isObject() || options.isArray())
+        return Result<QStringList>::failure(QStringLiteral("the options of open() are no object"));
+    QJSValueIterator option(options);
+    while (option.next()) {
+        if (option.name() != columns)
+            return Result<QStringList>::failure(
+                QStringLiteral("\"%1\" is no option of open(); it knows \"columns\"").arg(option.name()));
+    }
+    const QJSValue value = options.property(columns);
+    if (value.isUndefined())
+        return {};
+    return value.isArray() ? namesIn(value) : Result<QStringList>::failure(QStringLiteral("\"columns\" is no list"));
+}
+
+} // namespace
+
+ScriptTerminal::ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent)
+    : QObject(parent)
+    , terminal(terminal)
+    , isInterrupted(isInterrupted)
+{
+}
+
+template <typename Function> auto ScriptTerminal::onGui(Function function) const
+{
+    return runOnUiThread(terminal, function);
+}
+
+void ScriptTerminal::fail(const QString &reason) const
+{
+    qjsEngine(this)->throwError(reason);
+}
+
+QJSValue ScriptTerminal::activeProduct() const
+{
+    return onGui([this] { return terminal->machine()->activeProduct(); });
+}
+
+void ScriptTerminal::setActiveProduct(const QJSValue &number)
+{
+    // What is no whole number would be rounded, or wrapped, to a product that nobody asked for.
+    const bool isWhole = number.isNumber() && number.toNumber() == double(number.toInt());
+    if (!isWhole || !onGui([&] { return terminal->machine()->setActiveProduct(number.toInt()); }))
+        fail(QStringLiteral("no product %1").arg(number.toString()));
+}
+
+QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)
+{
+    const Result<QStringList> columns = columnsIn(options);
+    if (!columns.isOk()) {
+        fail(columns.error);
+        return {};
+    }
+    QVariantMap description;
+    const QString error = onGui([&] {
+        const LoadReport report = terminal->open(path, columns.value);
+        if (report.isOk())
+            description = describe(report, terminal->activeColumn());
+        return report.error;
+    });
+    if (!error.isEmpty()) {
+        fail(error);
+        return {};
+    }
+    return qjsEngine(this)->toScriptValue(description);
+}
+
+void ScriptTerminal::close(const QString &group)
+{
+    if (!onGui([&] { return terminal->close(group); }))
+        fail(QStringLiteral("no map \"%1\" is loaded").arg(group));
+}
+
+QString ScriptTerminal::touchMap(double x, double y)
+{
+    return onGui([&] { return terminal->touch(QPointF(x, y)); });
+}
+
+QJSValue ScriptTerminal::bounds()
+{
+    const std::optional<QRectF> all = onGui([this] { return terminal->bounds(); });
+    if (!all)
+        return QJSValue(QJSValue::NullValue);
+    return qjsEngine(this)->toScriptValue(QVariantMap{{QStringLiteral("minX"), all->left()},
+                                                      {QStringLiteral("minY"), all->top()},
+                                                      {QStringLiteral("maxX"), all->right()},
+                                                      {QStringLiteral("maxY"), all->bottom()}});
+}
+
+QJSValue ScriptTerminal::mapColor(double x, double y)
+{
+    if (!std::isfinite(x) || !std::isfinite(y)) {
+        fail(QStringLiteral("(%1, %2) is no field point").arg(x).arg(y));
+        return {};
+    }
+    const QColor color = onGui([&] { return terminal->mapColor(QPointF(x, y)); });
+    return qjsEngine(this)->toScriptValue(QVariantList{color.red(), color.green(), color.blue()});
+}
+
+QJSValue ScriptTerminal::find(const QString &name)
+{
+    // Most widgets have no name.
+    if (name.isEmpty() || !onGui([&] { return UiDriver::find(name) != nullptr; }))
+        return QJSValue(QJSValue::NullValue);
+    auto *control = new ScriptControl(name, terminal);
+    Terminal *shown = terminal;
+    connect(control, &ScriptControl::acted, shown, &Terminal::refresh);
+    return qjsEngine(this)->newQObject(control);
+}
+
+QJSValue ScriptTerminal::get(const QString &group, const QString &property)
+{
+    QVariant value;
+    const int code = onGui([&] {
+        return terminal->broker()->getProperty(group.toLatin1().constData(), property.toLatin1().constData(), value);
+    });
+    if (code != DataBrokerGroup::Success) {
+        fail(reasonOf(code, group, property));
+        return {};
+    }
+    return qjsEngine(this)->toScriptValue(ScriptValue::fromBroker(value));
+}
+
+void ScriptTerminal::set(const QString &group, const QString &property, const QJSValue &value)
+{
+    const QVariant plain = value.toVariant();
+    const QString error = onGui([&] {
+        const DataBrokerGroup *target = terminal->broker()->getGroup(group, false);
+        const int index =
+            target != nullptr ? target->metaObject()->indexOfProperty(property.toLatin1().constData()) : -1;
+        const int type = index >= 0 ? target->metaObject()->property(index).userType() : int(QMetaType::UnknownType);
+        const Result<QVariant> converted = ScriptValue::toBroker(plain, type);
+        if (!converted.isOk())
+            return QStringLiteral("\"%2\" of group \"%1\": %3").arg(group, property, converted.error);
+        const int code = terminal->broker()->setProperty(group.toLatin1().constData(), property.toLatin1().constData(),
+                                                         converted.value);
+        terminal->refresh();
+        return code == DataBrokerGroup::Success ? QString() : reasonOf(code, group, property);
+    });
+    if (!error.isEmpty())
+        fail(error);
+}
+
+QStringList ScriptTerminal::groups(const QString &pattern)
+{
+    return onGui([&] { return terminal->broker()->findGroup(pattern, true, false); });
+}
+
+void ScriptTerminal::drive(double metresPerSecond)
+{
+    if (!onGui([&] { return terminal->vehicle()->drive(metresPerSecond); }))
+        fail(QStringLiteral("a speed of %1 m/s is out of range").arg(metresPerSecond));
+}
+
+void ScriptTerminal::stop()
+{
+    drive(0.0);
+}
+
+void ScriptTerminal::wait(double milliseconds)
+{
+    if (!(milliseconds >= 0.0)) {
+        fail(QStringLiteral("cannot wait %1 ms").arg(milliseconds));
+        return;
+    }
+    QElapsedTimer passed;
+    passed.start();
+    for (double left = milliseconds; left > 0.0 && !isInterrupted->load();
+         left = milliseconds - double(passed.elapsed()))
+        QThread::msleep(static_cast<unsigned long>(std::ceil(std::min(left, waitSlice))));
+    onGui([this] {
+        terminal->refresh();
+        return true;
+    });
+}
+
+void ScriptTerminal::screenshot(const QString &path)
+{
+    const QString error = path.isEmpty() ? QStringLiteral("a picture needs a file name")
+                                         : onGui([&] { return terminal->saveScreenshot(path); });
+    if (!error.isEmpty())
+        fail(error);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "planering.h"
+
+#include <functional>
+#include <vector>
+
+/// Finds polygons that a later record repeats vertex by vertex. The later one hides them, and their holes would be cut
+/// from the wrong one of the two.
+class DuplicatePolygons {
+public:
+    /// Drops each polygon of which a later one has the same rings, wherever these start and whichever way they run.
+    /// `hides(later, earlier)` (records) says whether the later one may stand for the earlier one. Returns how many
+    /// were dropped.
+    static int drop(std::vector<PlanePolygon> &polygons, const std::function<bool(int, int)> &hides);
+};

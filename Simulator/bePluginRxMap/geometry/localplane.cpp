@@ -1,0 +1,168 @@
+#include "localplane.h"
+
+#include "projectionapproximation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <ogr_spatialref.h>
+
+namespace {
+
+constexpr double earthRadius = 6371008.8;
+/// Beyond this a plane is no picture of the earth any more, and no machine drives that far.
+constexpr double widestMap = 1.0e6;
+/// Up to this many vertices are projected one by one; for more, it pays to fit a smooth stand-in.
+constexpr size_t fewVertices = 500;
+
+struct TransformationDelete {
+    void operator()(OGRCoordinateTransformation *transformation) const
+    {
+        OGRCoordinateTransformation::DestroyCT(transformation);
+    }
+};
+using Transformation = std::unique_ptr<OGRCoordinateTransformation, TransformationDelete>;
+
+double radians(double degrees)
+{
+    return degrees * std::acos(-1.0) / 180.0;
+}
+
+SpatialReference worldReference()
+{
+    SpatialReference reference(new OGRSpatialReference);
+    reference->SetWellKnownGeogCS("WGS84");
+    reference->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    return reference;
+}
+
+/// The map's own coordinate system with x (or longitude) first; WGS 84 where it names none.
+SpatialReference sourceReference(const RawPrescription &map)
+{
+    if (!map.reference)
+        return worldReference();
+    SpatialReference reference(map.reference->Clone());
+    reference->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    return reference;
+}
+
+struct Range {
+    double least = 0.0;
+    double greatest = 0.0;
+};
+
+Range rangeOf(const std::vector<double> &values)
+{
+    const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
+    return {*least, *greatest};
+}
+
+bool areDegrees(const Range &x, const Range &y)
+{
+    return x.least >= -180.0 && x.greatest <= 180.0 && y.least >= -90.0 && y.greatest <= 90.0;
+}
+
+/// Longitudes and latitudes of places along the edges of the extent. False when any of them has none.
+bool edgePlaces(const SpatialReference &source, const Range &x, const Range &y, std::vector<double> &longitudes,
+                std::vector<double> &latitudes)
+{
+    constexpr int steps = 8;
+    for (int i = 0; i <= steps; ++i) {
+        for (int k = 0; k <= steps; ++k) {
+            longitudes.push_back(x.least + (x.greatest - x.least) * i / steps);
+            latitudes.push_back(y.least + (y.greatest - y.least) * k / steps);
+        }
+    }
+    const SpatialReference world = worldReference();
+    const Transformation toWorld(OGRCreateCoordinateTransformation(source.get(), world.get()));
+    if (!toWorld)
+        return false;
+    toWorld->Transform(static_cast<int>(longitudes.size()), longitudes.data(), latitudes.data());
+    const auto isFinite = [](double value) { return std::isfinite(value); };
+    return std::all_of(longitudes.begin(), longitudes.end(), isFinite)
+        && std::all_of(latitudes.begin(), latitudes.end(), isFinite);
+}
+
+} // namespace
+
+LocalPlane::LocalPlane(double longitude, double latitude)
+    : originLongitude(longitude)
+    , originLatitude(latitude)
+{
+}
+
+double LocalPlane::distanceTo(double longitude, double latitude) const
+{
+    const double halfNorth = std::sin(0.5 * radians(latitude - originLatitude));
+    const double halfEast = std::sin(0.5 * radians(longitude - originLongitude));
+    const double chord =
+        halfNorth * halfNorth + std::cos(radians(originLatitude)) * std::cos(radians(latitude)) * halfEast * halfEast;
+    return 2.0 * earthRadius * std::asin(std::min(1.0, std::sqrt(chord)));
+}
+
+bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QString &error)
+{
+    const Range x = rangeOf(map.xs);
+    const Range y = rangeOf(map.ys);
+    const bool isGeographic = !map.reference || map.reference->IsGeographic();
+    if (isGeographic && !areDegrees(x, y)) {
+        error = map.reference
+            ? QStringLiteral("its coordinates are no longitudes and latitudes")
+            : map.lackOfReference + QStringLiteral(", and its coordinates are no longitudes and latitudes");
+        return false;
+    }
+    std::vector<double> longitudes;
+    std::vector<double> latitudes;
+    if (!edgePlaces(sourceReference(map), x, y, longitudes, latitudes)) {
+        error = QStringLiteral("its coordinate system \"%1\" cannot be projected there")
+                    .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
+        return false;
+    }
+    const Range longitude = rangeOf(longitudes);
+    const Range latitude = rangeOf(latitudes);
+    extent = {longitude.least, latitude.least, longitude.greatest, latitude.greatest};
+    const double height = earthRadius * radians(extent.north - extent.south);
+    const double nearestEquator =
+        extent.south <= 0.0 && extent.north >= 0.0 ? 0.0 : std::min(std::fabs(extent.south), std::fabs(extent.north));
+    const double width = earthRadius * radians(extent.east - extent.west) * std::cos(radians(nearestEquator));
+    if (std::max(width, height) <= widestMap)
+        return true;
+    error = QStringLiteral("extends over %1 km; no field does").arg(std::max(width, height) / 1000.0, 0, 'f', 0);
+    return false;
+}
+
+bool LocalPlane::project(const RawPrescription &map, std::vector<double> &xs, std::vector<double> &ys,
+                         QString &error) const
+{
+    const QString definition =
+        QStringLiteral("+proj=tmerc +lat_0=%1 +lon_0=%2 +k=1 +x_0=0 +y_0=0 +datum=WGS84 +units=m +no_defs")
+            .arg(originLatitude, 0, 'f', 12)
+            .arg(originLongitude, 0, 'f', 12);
+    OGRSpatialReference plane;
+    const SpatialReference source = sourceReference(map);
+    Transformation toPlane;
+    if (plane.importFromProj4(definition.toLatin1().constData()) == OGRERR_NONE)
+        toPlane.reset(OGRCreateCoordinateTransformation(source.get(), &plane));
+    if (!toPlane) {
+        error = QStringLiteral("its coordinate system \"%1\" cannot be projected")
+                    .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
+        return false;
+    }
+    const auto exact = [&toPlane](size_t count, double *x, double *y) {
+        toPlane->Transform(static_cast<int>(count), x, y);
+    };
+    xs = map.xs;
+    ys = map.ys;
+    const Range x = rangeOf(xs);
+    const Range y = rangeOf(ys);
+    ProjectionApproximation smooth;
+    if (xs.size() > fewVertices && smooth.fit(exact, x.least, x.greatest, y.least, y.greatest)) {
+        smooth.apply(xs.size(), xs.data(), ys.data());
+        return true;
+    }
+    // In parts: there may be more coordinates than one call takes.
+    constexpr size_t part = 1U << 16U;
+    for (size_t first = 0; first < xs.size(); first += part)
+        exact(std::min(part, xs.size() - first), &xs[first], &ys[first]);
+    return true;
+}

@@ -1,0 +1,76 @@
+#include "rendererholerule.h"
+
+#include <algorithm>
+
+namespace {
+
+/// How much larger than a hole an outer ring must be to have it cut out, square metres.
+constexpr double leastDifference = 10.0;
+
+double narrowed(double value)
+{
+    return static_cast<double>(static_cast<float>(value));
+}
+
+std::vector<TreeEntry> entries(const std::vector<RingView> &outers)
+{
+    std::vector<TreeEntry> result;
+    result.reserve(outers.size());
+    for (const RingView &outer : outers)
+        result.emplace_back(extentOf(outer.vertices, outer.count), static_cast<unsigned>(result.size()));
+    return result;
+}
+
+} // namespace
+
+RendererHoleRule::RendererHoleRule(std::vector<RingView> outerRings)
+    : outers(std::move(outerRings))
+    , tree(entries(outers))
+{
+    indexes.reserve(outers.size());
+    for (const RingView &outer : outers)
+        indexes.emplace_back(outer.vertices, outer.count);
+}
+
+std::vector<unsigned> RendererHoleRule::candidates(const PlaneVertex *hole, size_t count) const
+{
+    std::vector<unsigned> result;
+    if (count == 0)
+        return result;
+    TreeBox box;
+    boost::geometry::assign_inverse(box);
+    for (size_t i = 0; i < count; ++i)
+        boost::geometry::expand(box, TreePoint(narrowed(hole[i].x), narrowed(hole[i].y)));
+    for (auto found = tree.qbegin(boost::geometry::index::covers(box)); found != tree.qend(); ++found)
+        result.push_back(found->second);
+    std::sort(result.begin(), result.end());
+    return result;
+}
+
+bool RendererHoleRule::takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const
+{
+    if (!(outers[outer].area - leastDifference > area))
+        return false;
+    return std::all_of(hole, hole + count, [this, outer](const PlaneVertex &vertex) {
+        return indexes[outer].contains(narrowed(vertex.x), narrowed(vertex.y), RendererCrossing());
+    });
+}
+
+std::vector<int> RendererHoleRule::takers(const PlaneVertex *hole, size_t count, double area) const
+{
+    std::vector<int> result;
+    for (const unsigned outer : candidates(hole, count)) {
+        if (takes(outer, hole, count, area))
+            result.push_back(static_cast<int>(outer));
+    }
+    return result;
+}
+
+int RendererHoleRule::taker(const PlaneVertex *hole, size_t count, double area) const
+{
+    for (const unsigned outer : candidates(hole, count)) {
+        if (takes(outer, hole, count, area))
+            return static_cast<int>(outer);
+    }
+    return nowhere;
+}

@@ -1,0 +1,108 @@
+#include "ringrepair.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Finest grid: 2^-10 metres, about a millimetre.
+constexpr int finestGrid = -10;
+/// Bits of a single-precision number's mantissa.
+constexpr int singleBits = 24;
+/// Rings up to this length are looked at edge by edge, without GEOS.
+constexpr size_t shortRing = 12;
+
+double gridFor(double farthest)
+{
+    int bits = 0;
+    std::frexp(farthest, &bits);
+    return std::ldexp(1.0, std::max(finestGrid, bits - singleBits));
+}
+
+/// The nearest whole number, of two the even one, for numbers below 2^51: next to so great a number there is no room
+/// for a fraction. In a line of its own because the library's function takes longer than all else that is done to a
+/// vertex.
+double nearestWhole(double value)
+{
+    constexpr double great = 6755399441055744.0;
+    return value + great - great;
+}
+
+PlaneRing fileRing(const RawPrescription &map, const SourceRing &ring)
+{
+    PlaneRing result;
+    result.reserve(ring.count);
+    for (size_t i = ring.first; i < ring.first + ring.count; ++i)
+        result.push_back({map.xs[i], map.ys[i]});
+    dropRepeatedVertices(result);
+    return result;
+}
+
+} // namespace
+
+RingRepair::RingRepair(double farthest)
+    : gridSize(gridFor(farthest))
+{
+}
+
+PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<double> &ys,
+                              const SourceRing &ring) const
+{
+    PlaneRing result;
+    result.reserve(ring.count);
+    const double perMetre = 1.0 / gridSize;
+    for (size_t i = ring.first; i < ring.first + ring.count; ++i) {
+        if (!std::isfinite(xs[i]) || !std::isfinite(ys[i]))
+            return {};
+        // The sum turns a negative zero into the plain one.
+        const PlaneVertex vertex = {nearestWhole(xs[i] * perMetre) * gridSize + 0.0,
+                                    nearestWhole(ys[i] * perMetre) * gridSize + 0.0};
+        if (result.empty() || !samePlace(result.back(), vertex))
+            result.push_back(vertex);
+    }
+    dropRepeatedVertices(result);
+    return result;
+}
+
+bool RingRepair::isValidInFile(const RawPrescription &map, size_t firstRing, size_t endRing) const
+{
+    std::vector<PlaneRing> holes;
+    for (size_t i = firstRing + 1; i < endRing; ++i)
+        holes.push_back(fileRing(map, map.rings[i]));
+    return geos.isValid(geos.polygon(fileRing(map, map.rings[firstRing]), holes));
+}
+
+void RingRepair::appendRepaired(const PlanePolygon &polygon, Outcome &outcome) const
+{
+    const std::vector<PlanePolygon> parts = geos.polygons(geos.repaired(polygon, gridSize), polygon.record);
+    if (parts.empty())
+        ++outcome.dropped;
+    outcome.polygons.insert(outcome.polygons.end(), parts.begin(), parts.end());
+}
+
+size_t RingRepair::append(const RawPrescription &map, const std::vector<double> &xs, const std::vector<double> &ys,
+                          size_t firstRing, Outcome &outcome) const
+{
+    PlanePolygon polygon;
+    polygon.record = map.rings[firstRing].record;
+    polygon.outer = snapped(xs, ys, map.rings[firstRing]);
+    size_t end = firstRing + 1;
+    for (; end < map.rings.size() && map.rings[end].isHole; ++end) {
+        PlaneRing hole = snapped(xs, ys, map.rings[end]);
+        if (hole.size() >= 3)
+            polygon.holes.push_back(std::move(hole));
+        else
+            ++outcome.dropped;
+    }
+    const bool isShort = polygon.holes.empty() && polygon.outer.size() <= shortRing;
+    if (polygon.outer.size() < 3)
+        ++outcome.dropped;
+    else if ((isShort && isSimpleRing(polygon.outer)) || geos.isValid(geos.polygon(polygon.outer, polygon.holes)))
+        outcome.polygons.push_back(std::move(polygon));
+    else {
+        if (!isValidInFile(map, firstRing, end))
+            ++outcome.repaired;
+        appendRepaired(polygon, outcome);
+    }
+    return end;
+}

@@ -1,0 +1,57 @@
+#include "slabindex.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr size_t shortestSlabbedRing = 48;
+constexpr size_t edgesPerSlab = 4;
+
+} // namespace
+
+SlabIndex::SlabIndex(const PlaneVertex *ringVertices, size_t vertexCount)
+    : vertices(ringVertices)
+    , count(vertexCount)
+    , lowest(std::numeric_limits<double>::infinity())
+    , highest(-std::numeric_limits<double>::infinity())
+{
+    for (size_t i = 0; i < count; ++i) {
+        lowest = std::min(lowest, vertices[i].y);
+        highest = std::max(highest, vertices[i].y);
+    }
+    if (count >= shortestSlabbedRing && highest > lowest)
+        buildSlabs();
+}
+
+size_t SlabIndex::slabOf(double y) const
+{
+    const size_t last = slabs->starts.size() - 2;
+    return std::min(last, static_cast<size_t>((y - lowest) * slabs->perMetre));
+}
+
+void SlabIndex::buildSlabs()
+{
+    const size_t slabCount = count / edgesPerSlab;
+    slabs = std::make_unique<Slabs>();
+    slabs->perMetre = static_cast<double>(slabCount) / (highest - lowest);
+    std::vector<size_t> &starts = slabs->starts;
+    starts.assign(slabCount + 1, 0);
+    const auto forEachSlab = [this](size_t i, auto visit) {
+        const PlaneVertex &from = vertices[i == 0 ? count - 1 : i - 1];
+        const PlaneVertex &to = vertices[i];
+        if (from.y == to.y)
+            return;
+        const size_t last = slabOf(std::max(from.y, to.y));
+        for (size_t slab = slabOf(std::min(from.y, to.y)); slab <= last; ++slab)
+            visit(slab);
+    };
+    for (size_t i = 0; i < count; ++i)
+        forEachSlab(i, [&starts](size_t slab) { ++starts[slab + 1]; });
+    for (size_t slab = 0; slab < slabCount; ++slab)
+        starts[slab + 1] += starts[slab];
+    slabs->edges.resize(starts.back());
+    std::vector<size_t> next(starts.begin(), starts.end() - 1);
+    for (size_t i = 0; i < count; ++i)
+        forEachSlab(i, [this, &next, i](size_t slab) { slabs->edges[next[slab]++] = static_cast<unsigned>(i); });
+}

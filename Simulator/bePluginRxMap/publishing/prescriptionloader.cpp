@@ -1,0 +1,285 @@
+#include "prescriptionloader.h"
+
+#include "columnchoice.h"
+#include "duplicatepolygons.h"
+#include "gdalsession.h"
+#include "holearrangement.h"
+#include "legendbuilder.h"
+#include "prescriptionreader.h"
+#include "ringrepair.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+namespace {
+
+/// Maps that lie farther apart do not share a plane: it would be too far from level under one of them.
+constexpr double farthestOnOnePlane = 20000.0;
+
+constexpr double shareOfReading = 0.6;
+constexpr double shareOfPlacing = 0.1;
+constexpr double shareOfRepair = 0.2;
+constexpr size_t ringsPerReport = 256;
+
+} // namespace
+
+PrescriptionLoader::PrescriptionLoader(const LoadRequest &loadRequest, const std::vector<LocalPlane> &knownPlanes,
+                                       const LoadControl &loadControl)
+    : request(loadRequest)
+    , planes(knownPlanes)
+    , control(loadControl)
+{
+}
+
+bool PrescriptionLoader::fail(const QString &text)
+{
+    report->error = QStringLiteral("%1: %2").arg(request.path, text);
+    return false;
+}
+
+void PrescriptionLoader::warn(const QString &text)
+{
+    report->warnings.append(QStringLiteral("%1: %2").arg(request.path, text));
+}
+
+void PrescriptionLoader::warnCount(int count, const QString &one, const QString &many)
+{
+    if (count > 0)
+        warn(count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(count).arg(many));
+}
+
+std::unique_ptr<LoadedMap> PrescriptionLoader::load()
+{
+    auto map = std::make_unique<LoadedMap>();
+    report = &map->report;
+    report->path = request.path;
+    map->productNames = request.productNames.isEmpty() ? request.rateCalNames : request.productNames;
+    try {
+        if (!loadInto(*map)) {
+            map->chain.reset();
+            map->lookup.reset();
+        }
+    } catch (const std::exception &failure) {
+        map->lookup.reset();
+        map->chain.reset();
+        fail(QStringLiteral("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
+    }
+    return map;
+}
+
+bool PrescriptionLoader::loadInto(LoadedMap &map)
+{
+    const GdalSession session;
+    LoadControl reading = control;
+    reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
+    PrescriptionReader reader(request.path, request.columns, reading);
+    if (!checkRequest())
+        return false;
+    if (!reader.read(source))
+        return fail(reader.error());
+    if (!place(map) || !repairRings() || !chooseColumns(map))
+        return false;
+    dropRecordsWithoutRate();
+    countRings(map);
+    dropHidden();
+    warnOfGaps();
+    if (!arrange())
+        return false;
+    map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
+    map.lookup = std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), mappings);
+    buildLegends(map);
+    reportCounts(map);
+    control.report(1.0);
+    return true;
+}
+
+bool PrescriptionLoader::checkRequest()
+{
+    if (control.isCancelled())
+        return fail(QStringLiteral("loading was cancelled"));
+    if (request.rateCalNames.isEmpty())
+        return fail(QStringLiteral("there is no product to load it for"));
+    if (request.columns.size() > request.rateCalNames.size())
+        return fail(QStringLiteral("column \"%1\" has no product: there are %2")
+                        .arg(request.columns.at(request.rateCalNames.size()))
+                        .arg(request.rateCalNames.size()));
+    const auto isEmpty = [](const QString &name) { return name.isEmpty(); };
+    if (!request.columns.isEmpty() && std::all_of(request.columns.begin(), request.columns.end(), isEmpty))
+        return fail(QStringLiteral("no column is named for any product"));
+    return true;
+}
+
+bool PrescriptionLoader::place(LoadedMap &map)
+{
+    if (source.rings.empty()) {
+        if (source.otherRecords > 0)
+            return fail(QStringLiteral("holds points or lines, not polygons"));
+        return fail(source.notFiniteRecords > 0 ? QStringLiteral("holds no polygon with finite coordinates")
+                                                : QStringLiteral("holds no polygon"));
+    }
+    QString reason;
+    GeographicExtent extent;
+    if (!LocalPlane::locate(source, extent, reason))
+        return fail(reason);
+    if (!source.reference)
+        warn(source.lackOfReference + QStringLiteral("; taken as WGS 84"));
+    const double longitude = 0.5 * (extent.west + extent.east);
+    const double latitude = 0.5 * (extent.south + extent.north);
+    const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
+        return plane.distanceTo(longitude, latitude) <= farthestOnOnePlane;
+    });
+    map.plane = near == planes.end() ? LocalPlane(longitude, latitude) : *near;
+    if (near == planes.end() && !planes.empty())
+        warn(QStringLiteral("lies %1 km from what is loaded and gets a plane of its own")
+                 .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
+    if (!map.plane.project(source, xs, ys, reason))
+        return fail(reason);
+    map.report.origin = QPointF(map.plane.longitude(), map.plane.latitude());
+    control.report(shareOfReading + shareOfPlacing);
+    return true;
+}
+
+bool PrescriptionLoader::repairRings()
+{
+    double farthest = 1.0;
+    for (size_t i = 0; i < xs.size(); ++i) {
+        if (std::isfinite(xs[i]) && std::isfinite(ys[i]))
+            farthest = std::max({farthest, std::fabs(xs[i]), std::fabs(ys[i])});
+    }
+    const RingRepair repair(farthest);
+    RingRepair::Outcome outcome;
+    outcome.polygons.reserve(source.rings.size());
+    const double rings = static_cast<double>(source.rings.size());
+    for (size_t ring = 0, reported = 0; ring < source.rings.size();) {
+        if (control.isCancelled())
+            return fail(QStringLiteral("loading was cancelled"));
+        ring = repair.append(source, xs, ys, ring, outcome);
+        if (ring - reported < ringsPerReport && ring < source.rings.size())
+            continue;
+        reported = ring;
+        control.report(shareOfReading + shareOfPlacing + shareOfRepair * static_cast<double>(ring) / rings);
+    }
+    polygons = std::move(outcome.polygons);
+    report->repaired = outcome.repaired;
+    warnCount(source.droppedRings + outcome.dropped, QStringLiteral("ring that encloses nothing was left out"),
+              QStringLiteral("rings that enclose nothing were left out"));
+    return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
+}
+
+bool PrescriptionLoader::chooseColumns(LoadedMap &map)
+{
+    const ColumnChoice choice(request, source, polygons);
+    map.report.columns = choice.columns();
+    for (const QString &warning : choice.warnings())
+        warn(warning);
+    if (!choice.isOk())
+        return fail(choice.error());
+    map.rateCalNames = choice.rateCalNames();
+    map.defaultRates = choice.defaultRates();
+    mappings = static_cast<size_t>(choice.columns().size());
+    rates = choice.rates();
+    return true;
+}
+
+void PrescriptionLoader::dropRecordsWithoutRate()
+{
+    const auto hasNoRate = [this](int record) {
+        const auto first = rates.begin() + static_cast<std::ptrdiff_t>(static_cast<size_t>(record) * mappings);
+        return std::all_of(first, first + static_cast<std::ptrdiff_t>(mappings),
+                           [](float rate) { return std::isnan(rate); });
+    };
+    int last = -1;
+    for (const PlanePolygon &polygon : polygons) {
+        if (polygon.record != last && hasNoRate(polygon.record))
+            ++recordsWithoutRate;
+        last = polygon.record;
+    }
+    polygons.erase(std::remove_if(polygons.begin(), polygons.end(),
+                                  [&hasNoRate](const PlanePolygon &polygon) { return hasNoRate(polygon.record); }),
+                   polygons.end());
+}
+
+void PrescriptionLoader::warnOfGaps()
+{
+    for (size_t i = 0; i < mappings; ++i) {
+        int gaps = 0;
+        int last = -1;
+        for (const PlanePolygon &polygon : polygons) {
+            if (polygon.record != last && std::isnan(rates[static_cast<size_t>(polygon.record) * mappings + i]))
+                ++gaps;
+            last = polygon.record;
+        }
+        const QString column = report->columns.at(static_cast<int>(i));
+        warnCount(gaps, QStringLiteral("record has no rate in column \"%1\"").arg(column),
+                  QStringLiteral("records have no rate in column \"%1\"").arg(column));
+    }
+}
+
+void PrescriptionLoader::countRings(LoadedMap &map) const
+{
+    std::vector<bool> isUsed(static_cast<size_t>(source.records), false);
+    for (const PlanePolygon &polygon : polygons) {
+        isUsed[static_cast<size_t>(polygon.record)] = true;
+        map.report.holes += static_cast<int>(polygon.holes.size());
+    }
+    map.report.outers = static_cast<int>(polygons.size());
+    map.report.skipped = static_cast<int>(std::count(isUsed.begin(), isUsed.end(), false));
+}
+
+void PrescriptionLoader::dropHidden()
+{
+    const auto hides = [this](int later, int earlier) {
+        for (size_t i = 0; i < mappings; ++i) {
+            if (std::isnan(rates[static_cast<size_t>(later) * mappings + i])
+                && !std::isnan(rates[static_cast<size_t>(earlier) * mappings + i]))
+                return false;
+        }
+        return true;
+    };
+    warnCount(DuplicatePolygons::drop(polygons, hides),
+              QStringLiteral("polygon is hidden under a later one of the same shape"),
+              QStringLiteral("polygons are hidden under later ones of the same shape"));
+}
+
+bool PrescriptionLoader::arrange()
+{
+    if (polygons.empty())
+        return fail(QStringLiteral("no polygon has a rate"));
+    if (control.isCancelled())
+        return fail(QStringLiteral("loading was cancelled"));
+    const int misplaced = HoleArrangement::arrange(polygons);
+    warnCount(misplaced, QStringLiteral("hole cannot be drawn as one"),
+              QStringLiteral("holes cannot be drawn as such"));
+    return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
+}
+
+void PrescriptionLoader::buildLegends(LoadedMap &map) const
+{
+    for (size_t i = 0; i < mappings; ++i) {
+        std::vector<float> column;
+        column.reserve(polygons.size());
+        for (const PlanePolygon &polygon : polygons)
+            column.push_back(rates[static_cast<size_t>(polygon.record) * mappings + i]);
+        map.report.legends.append(LegendBuilder::build(column));
+        map.report.hasSingleRates.append(LegendBuilder::hasSingleRates(map.report.legends.last(), column));
+    }
+}
+
+void PrescriptionLoader::reportCounts(LoadedMap &map)
+{
+    map.report.polygons = static_cast<int>(map.chain->size());
+    map.report.bounds = map.chain->bounds();
+    warnCount(source.emptyRecords, QStringLiteral("record without geometry was skipped"),
+              QStringLiteral("records without geometry were skipped"));
+    warnCount(source.otherRecords, QStringLiteral("record that is no polygon was skipped"),
+              QStringLiteral("records that are no polygons were skipped"));
+    warnCount(source.notFiniteRecords, QStringLiteral("record with a coordinate that is not finite was skipped"),
+              QStringLiteral("records with a coordinate that is not finite were skipped"));
+    warnCount(recordsWithoutRate, QStringLiteral("record without a rate was skipped"),
+              QStringLiteral("records without a rate were skipped"));
+    warnCount(map.report.repaired, QStringLiteral("polygon had to be repaired"),
+              QStringLiteral("polygons had to be repaired"));
+    for (const QString &warning : source.warnings)
+        warn(warning);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Backend/loadrequest.h"
+#include "loadcontrol.h"
+#include "loadedmap.h"
+#include "rawprescription.h"
+
+#include <memory>
+#include <vector>
+
+/// Turns a prescription file into a map that is ready to be published. Blocks and touches nothing that is shared, so it
+/// runs in any thread.
+class PrescriptionLoader {
+public:
+    /// `planes`: those of the published maps, oldest first; the map takes the first one that is near enough.
+    PrescriptionLoader(const LoadRequest &request, const std::vector<LocalPlane> &planes, const LoadControl &control);
+
+    /// Never null; says in its report what went wrong.
+    std::unique_ptr<LoadedMap> load();
+
+private:
+    bool loadInto(LoadedMap &map);
+    bool fail(const QString &text);
+    void warn(const QString &text);
+    void warnCount(int count, const QString &one, const QString &many);
+
+    bool checkRequest();
+    bool place(LoadedMap &map);
+    bool repairRings();
+    bool chooseColumns(LoadedMap &map);
+    void dropRecordsWithoutRate();
+    void dropHidden();
+    /// Tells of records that have a rate, but not in every column.
+    void warnOfGaps();
+    void countRings(LoadedMap &map) const;
+    bool arrange();
+    void buildLegends(LoadedMap &map) const;
+    void reportCounts(LoadedMap &map);
+
+    LoadRequest request;
+    std::vector<LocalPlane> planes;
+    const LoadControl &control;
+    LoadReport *report = nullptr;
+
+    RawPrescription source;
+    std::vector<double> xs;
+    std::vector<double> ys;
+    std::vector<PlanePolygon> polygons;
+    /// One per mapping for each record.
+    std::vector<float> rates;
+    size_t mappings = 0;
+    int recordsWithoutRate = 0;
+};

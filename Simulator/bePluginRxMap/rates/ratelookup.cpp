@@ -1,0 +1,118 @@
+#include "ratelookup.h"
+
+#include "rendererholerule.h"
+
+#include <algorithm>
+#include <boost/iterator/function_output_iterator.hpp>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+using OrvikTypes::RX_POLYGON;
+
+namespace {
+
+struct PlacedHole {
+    int outer;
+    const RX_POLYGON *hole;
+};
+
+std::vector<RingView> outerRings(const std::vector<const RX_POLYGON *> &records)
+{
+    std::vector<RingView> rings;
+    rings.reserve(records.size());
+    for (const RX_POLYGON *record : records)
+        rings.push_back({record->vertices, record->vertexCount, record->area});
+    return rings;
+}
+
+/// The holes that the renderer cuts out, sorted by the outer ring that they are cut from.
+std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &outers,
+                               const std::vector<const RX_POLYGON *> &holes)
+{
+    std::vector<PlacedHole> result;
+    if (holes.empty())
+        return result;
+    const RendererHoleRule placement(outerRings(outers));
+    for (const RX_POLYGON *hole : holes) {
+        const int outer = placement.taker(hole->vertices, hole->vertexCount, hole->area);
+        if (outer != RendererHoleRule::nowhere)
+            result.push_back({outer, hole});
+    }
+    std::stable_sort(result.begin(), result.end(),
+                     [](const PlacedHole &a, const PlacedHole &b) { return a.outer < b.outer; });
+    return result;
+}
+
+std::vector<TreeEntry> entries(const std::vector<const RX_POLYGON *> &outers)
+{
+    std::vector<TreeEntry> result;
+    result.reserve(outers.size());
+    for (const RX_POLYGON *outer : outers)
+        result.emplace_back(extentOf(outer->vertices, outer->vertexCount), static_cast<unsigned>(result.size()));
+    return result;
+}
+
+} // namespace
+
+bool RateLookup::Answer::hasRate(int mapping) const
+{
+    return mapping >= 0 && mapping < rates.size() && !std::isnan(rates.at(mapping));
+}
+
+RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount)
+    : mappings(mappingCount)
+{
+    std::vector<const RX_POLYGON *> outerRecords;
+    std::vector<const RX_POLYGON *> holeRecords;
+    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count)
+        (record->isHole ? holeRecords : outerRecords).push_back(record);
+
+    outers.reserve(outerRecords.size());
+    for (const RX_POLYGON *record : outerRecords)
+        outers.push_back({SlabIndex(record->vertices, record->vertexCount), record->rates});
+    for (const PlacedHole &hole : placed(outerRecords, holeRecords)) {
+        Outer &outer = outers[static_cast<size_t>(hole.outer)];
+        if (outer.holeCount++ == 0)
+            outer.firstHole = static_cast<unsigned>(holes.size());
+        holes.emplace_back(hole.hole->vertices, hole.hole->vertexCount);
+    }
+    tree = RingTree(entries(outerRecords));
+}
+
+bool RateLookup::covers(unsigned number, double x, double y) const
+{
+    const Outer &outer = outers[number];
+    bool inside = outer.ring.contains(x, y, SharedEdgeCrossing());
+    // The renderer fills by the odd rule over all contours of a polygon.
+    for (unsigned i = outer.firstHole; i < outer.firstHole + outer.holeCount; ++i)
+        inside ^= holes[i].contains(x, y, SharedEdgeCrossing());
+    return inside;
+}
+
+RateLookup::Answer RateLookup::ratesAt(double x, double y) const
+{
+    Answer answer;
+    if (!std::isfinite(x) || !std::isfinite(y))
+        return answer;
+    std::vector<unsigned> hits;
+    const auto keep = [this, x, y, &hits](const TreeEntry &entry) {
+        if (covers(entry.second, x, y))
+            hits.push_back(entry.second);
+    };
+    tree.query(boost::geometry::index::intersects(TreePoint(x, y)), boost::make_function_output_iterator(keep));
+    std::sort(hits.begin(), hits.end(), std::greater<unsigned>());
+
+    std::vector<float> rates(mappings, std::numeric_limits<float>::quiet_NaN());
+    bool hasAny = false;
+    for (const unsigned hit : hits) {
+        for (size_t i = 0; i < mappings; ++i) {
+            if (std::isnan(rates[i]))
+                rates[i] = outers[hit].rates[i];
+            hasAny = hasAny || !std::isnan(rates[i]);
+        }
+    }
+    if (hasAny)
+        answer.rates = QList<float>(rates.begin(), rates.end());
+    return answer;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ringtree.h"
+#include "slabindex.h"
+
+#include "Framework/rxpolygon.h"
+
+#include <QList>
+
+#include <vector>
+
+/// The rates at points of a published map; everybody who needs a rate asks this.
+///
+/// A polygon covers what the renderer fills for it: its outer ring less the holes that the renderer cuts from it. A
+/// point on an edge that two polygons share belongs to exactly one of them. Where polygons overlap, the one drawn last
+/// counts; one without a rate in a column draws nothing for that column and so leaves it to the one below.
+class RateLookup {
+public:
+    struct Answer {
+        /// One per mapping, base units; not a number where no polygon gives a rate. Empty when no polygon gives any.
+        QList<float> rates;
+        bool hasRate(int mapping) const;
+    };
+
+    /// `first` heads a chain of `count` records, which must outlive the look-up and stay as they are (but for
+    /// "drawIndex"); each has `mappings` rates.
+    RateLookup(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t mappings);
+
+    /// The answer has no rates for a point that no polygon covers, or with a coordinate that is not finite.
+    Answer ratesAt(double x, double y) const;
+
+private:
+    bool covers(unsigned outer, double x, double y) const;
+
+    struct Outer {
+        SlabIndex ring;
+        const float *rates;
+        /// The holes cut from it: holes[firstHole ... firstHole + holeCount).
+        unsigned firstHole = 0;
+        unsigned holeCount = 0;
+    };
+
+    size_t mappings;
+    std::vector<Outer> outers; ///< In the order of drawing.
+    std::vector<SlabIndex> holes;
+    RingTree tree;
+};

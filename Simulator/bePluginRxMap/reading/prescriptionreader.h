@@ -1,0 +1,47 @@
+#pragma once
+
+#include "loadcontrol.h"
+#include "rawprescription.h"
+
+#include <QStringList>
+
+#include <memory>
+
+class GDALDataset;
+class GdalSession;
+class OGRFeature;
+class OGRLayer;
+struct GDALDatasetUniquePtrDeleter;
+
+/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Blocks; use
+/// in the loading thread.
+class PrescriptionReader {
+public:
+    /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that may be a rate.
+    PrescriptionReader(const QString &path, const QStringList &columns, const LoadControl &control);
+
+    /// False when the file cannot be used; the reason, without the file's name, is then in error().
+    bool read(RawPrescription &map);
+    /// Names of all columns of the table, without its records. False like read().
+    bool readColumnNames(QStringList &names);
+    QString error() const { return reason; }
+
+private:
+    bool fail(const QString &text);
+    bool checkFile();
+    bool isShapefile() const;
+    std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
+    OGRLayer *chooseLayer(GDALDataset &dataset, RawPrescription &map);
+    bool chooseColumns(OGRLayer &layer, RawPrescription &map);
+    bool takeWantedColumns(const std::vector<SourceColumn> &table, RawPrescription &map);
+    /// Lets GDAL leave the columns alone that are not read.
+    static void skipOtherColumns(OGRLayer &layer, const RawPrescription &map);
+    void readReference(OGRLayer &layer, RawPrescription &map);
+    bool readRecords(OGRLayer &layer, RawPrescription &map);
+    void readValues(const OGRFeature &feature, RawPrescription &map);
+
+    QString path;
+    QStringList wanted;
+    const LoadControl &control;
+    QString reason;
+};

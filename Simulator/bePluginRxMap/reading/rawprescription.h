@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <ogr_spatialref.h>
+#include <vector>
+
+/// Gives a spatial reference back to GDAL, which counts its holders.
+struct SpatialReferenceRelease {
+    void operator()(OGRSpatialReference *reference) const { reference->Release(); }
+};
+using SpatialReference = std::unique_ptr<OGRSpatialReference, SpatialReferenceRelease>;
+
+/// A column of the attribute table.
+struct SourceColumn {
+    QString name;
+    /// Place among the table's fields.
+    int field = -1;
+    bool isText = false;
+    bool isInteger = false;
+    /// One per record; not a number where the table has none, or one below zero.
+    std::vector<double> values;
+    /// Text entries that are no number, and numbers that are no rate (below zero or not finite).
+    int unreadable = 0;
+};
+
+/// A ring of a record, in the file's own coordinates.
+struct SourceRing {
+    size_t first = 0; ///< Index of its first vertex in RawPrescription::xs and ys.
+    size_t count = 0;
+    int record = -1;     ///< From 0.
+    bool isHole = false; ///< Holes follow the outer ring that they belong to.
+};
+
+/// What a prescription file holds.
+struct RawPrescription {
+    std::vector<double> xs;
+    std::vector<double> ys;
+    std::vector<SourceRing> rings;
+    /// The columns that were read, in table order.
+    std::vector<SourceColumn> columns;
+    /// Names of all columns of the table.
+    QStringList columnNames;
+    /// Null when the file names no coordinate system.
+    SpatialReference reference;
+    /// Said of the file where `reference` is null.
+    QString lackOfReference = QStringLiteral("names no coordinate system");
+    int records = 0;
+    int emptyRecords = 0;     ///< Without geometry, or with rings that enclose nothing only.
+    int otherRecords = 0;     ///< Points and lines.
+    int notFiniteRecords = 0; ///< With a coordinate that is not finite.
+    int droppedRings = 0;     ///< Rings of fewer than three different vertices.
+    QStringList warnings;
+};

@@ -1,0 +1,105 @@
+#include "shapereader.h"
+
+#include "rawprescription.h"
+
+#include <cmath>
+#include <memory>
+#include <ogr_geometry.h>
+
+ShapeReader::ShapeReader(RawPrescription &map)
+    : map(map)
+{
+}
+
+void ShapeReader::read(const OGRGeometry *geometry)
+{
+    if (geometry == nullptr || geometry->IsEmpty()) {
+        ++map.emptyRecords;
+        return;
+    }
+    const size_t firstRing = map.rings.size();
+    const size_t firstVertex = map.xs.size();
+    const bool hasAreas = appendGeometry(*geometry);
+    const bool finite = isFinite(firstVertex);
+    if (hasAreas && finite && map.rings.size() > firstRing)
+        return;
+    if (!hasAreas)
+        ++map.otherRecords;
+    else if (!finite)
+        ++map.notFiniteRecords;
+    else
+        ++map.emptyRecords;
+    map.rings.resize(firstRing);
+    map.xs.resize(firstVertex);
+    map.ys.resize(firstVertex);
+}
+
+bool ShapeReader::appendGeometry(const OGRGeometry &geometry)
+{
+    const OGRwkbGeometryType kind = wkbFlatten(geometry.getGeometryType());
+    if (kind == wkbPolygon || kind == wkbTriangle) {
+        appendPolygon(*geometry.toPolygon());
+        return true;
+    }
+    if (OGR_GT_IsNonLinear(kind)) {
+        const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry());
+        return linear && !OGR_GT_IsNonLinear(linear->getGeometryType()) && appendGeometry(*linear);
+    }
+    bool hasAreas = false;
+    if (OGR_GT_IsSubClassOf(kind, wkbGeometryCollection)) {
+        for (const OGRGeometry *member : *geometry.toGeometryCollection())
+            hasAreas = appendGeometry(*member) || hasAreas;
+    } else if (OGR_GT_IsSubClassOf(kind, wkbPolyhedralSurface)) {
+        for (const OGRPolygon *face : *geometry.toPolyhedralSurface()) {
+            appendPolygon(*face);
+            hasAreas = true;
+        }
+    }
+    return hasAreas;
+}
+
+void ShapeReader::appendPolygon(const OGRPolygon &polygon)
+{
+    const int holes = polygon.getNumInteriorRings();
+    for (int i = -1; i < holes; ++i) {
+        const OGRLinearRing *ring = i < 0 ? polygon.getExteriorRing() : polygon.getInteriorRing(i);
+        const int count = ring == nullptr ? 0 : ring->getNumPoints();
+        const size_t first = map.xs.size();
+        map.xs.resize(first + count);
+        map.ys.resize(first + count);
+        if (count > 0)
+            ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
+        if (isFinite(first) && !enclosesSomething(first)) {
+            map.xs.resize(first);
+            map.ys.resize(first);
+            ++map.droppedRings;
+            if (i < 0)
+                return;
+            continue;
+        }
+        map.rings.push_back({first, static_cast<size_t>(count), map.records, i >= 0});
+    }
+}
+
+bool ShapeReader::isFinite(size_t first) const
+{
+    for (size_t i = first; i < map.xs.size(); ++i) {
+        if (!std::isfinite(map.xs[i]) || !std::isfinite(map.ys[i]))
+            return false;
+    }
+    return true;
+}
+
+bool ShapeReader::enclosesSomething(size_t first) const
+{
+    size_t second = 0;
+    for (size_t i = first + 1; i < map.xs.size(); ++i) {
+        if (map.xs[i] == map.xs[first] && map.ys[i] == map.ys[first])
+            continue;
+        if (second == 0)
+            second = i;
+        else if (map.xs[i] != map.xs[second] || map.ys[i] != map.ys[second])
+            return true;
+    }
+    return false;
+}

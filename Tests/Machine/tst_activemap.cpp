@@ -1,0 +1,113 @@
+#include "activemap.h"
+#include "machine.h"
+#include "productfile.h"
+#include "terminalhost.h"
+#include "testbase.h"
+
+#include "Framework/xyz.h"
+
+/// The map that feeds a product, and the class of a rate.
+class TestActiveMap : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRateBelongsToTheFirstClassThatIsNotBelowIt_data();
+    void aRateBelongsToTheFirstClassThatIsNotBelowIt();
+    void withoutALegendThereIsNoColour();
+    void whatIsNotDrawnIsNoClass();
+    void theMappingOfTheProductIsFound();
+    void withoutAMapNothingIsFound();
+    void theColourIsThatOfThePointThatWasQueried();
+};
+
+void TestActiveMap::aRateBelongsToTheFirstClassThatIsNotBelowIt_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("zero") << 0.0 << QColor(Qt::red);
+    QTest::newRow("between") << 5.0 << QColor(Qt::green);
+    QTest::newRow("on the limit") << 10.0 << QColor(Qt::green);
+    QTest::newRow("just above") << 10.001 << QColor(Qt::blue);
+    QTest::newRow("above all") << 99.0 << QColor(Qt::blue);
+}
+
+void TestActiveMap::aRateBelongsToTheFirstClassThatIsNotBelowIt()
+{
+    QFETCH(double, rate);
+    ActiveMap map;
+    map.legend = {{0.0, Qt::red}, {10.0, Qt::green}, {20.0, Qt::blue}};
+    QTEST(map.classColor(rate), "color");
+}
+
+void TestActiveMap::withoutALegendThereIsNoColour()
+{
+    QVERIFY(!ActiveMap().classColor(1.0).isValid());
+}
+
+void TestActiveMap::whatIsNotDrawnIsNoClass()
+{
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    LoadRequest request;
+    request.path = TerminalHost::fixture(QStringLiteral("partly-without-rate.geojson"));
+    request.columns = QStringList{"fert_rate"};
+    request.columns.append(QStringLiteral("seed_rate"));
+    request.rateCalNames = QStringList{Machine::productGroupName(1), Machine::productGroupName(2)};
+    const LoadReport report = backend.loadAndWait(request);
+    QCOMPARE(report.legends.first().size(), 3);
+    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
+    QCOMPARE(map.legend.size(), 2);
+    QCOMPARE(map.legend.last().rate, 110.0);
+    QCOMPARE(map.classColor(200.0), map.legend.last().color);
+    QVERIFY(!map.classColor(qQNaN()).isValid());
+}
+
+void TestActiveMap::theMappingOfTheProductIsFound()
+{
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    LoadRequest request;
+    request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+    request.columns = QStringList{"SEED_K_HA", "HERB_L_HA"};
+    request.rateCalNames = QStringList{Machine::productGroupName(1), Machine::productGroupName(2)};
+    QVERIFY(backend.loadAndWait(request).isOk());
+    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(2));
+    QVERIFY(map.isValid());
+    QCOMPARE(map.mapping, 1);
+    QCOMPARE(map.columnName, QStringLiteral("HERB_L_HA"));
+    QVERIFY(!map.legend.isEmpty());
+    QVERIFY(!ActiveMap::find(broker, Machine::productGroupName(3)).isValid());
+}
+
+void TestActiveMap::withoutAMapNothingIsFound()
+{
+    DataBroker broker;
+    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
+    QVERIFY(!map.isValid());
+    QVERIFY(map.groupName.isEmpty());
+    QVERIFY(!map.queriedColor(broker).isValid());
+}
+
+void TestActiveMap::theColourIsThatOfThePointThatWasQueried()
+{
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    LoadRequest request;
+    request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+    request.columns = QStringList{"SEED_K_HA"};
+    request.rateCalNames = QStringList{Machine::productGroupName(1)};
+    const LoadReport report = backend.loadAndWait(request);
+    QVERIFY(report.isOk());
+    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
+    const auto query = [&](double x) {
+        broker.setProperty(report.group.toLatin1().constData(), "queryRatesAtXYZ",
+                           QVariant::fromValue(OrvikTypes::XYZ(x, 0, 0)));
+        return map.queriedColor(broker);
+    };
+    QCOMPARE(query(-100), map.classColor(70));
+    QCOMPARE(query(100), map.classColor(90));
+    QVERIFY(!query(5000).isValid());
+}
+
+RXMAP_TEST(TestActiveMap, Core)
+#include "tst_activemap.moc"

@@ -1,0 +1,161 @@
+#include "fieldscene.h"
+#include "legendpanel.h"
+#include "paintedtexts.h"
+#include "testbase.h"
+
+#include <limits>
+
+namespace {
+
+LegendPanel::Content contentOf(const QList<double> &limits, double factor)
+{
+    LegendPanel::Content content;
+    content.factor = factor;
+    for (const double limit : limits)
+        content.classes.append({limit, Qt::green});
+    return content;
+}
+
+/// The classes of a panel as they are drawn, without its head and its rounded corners.
+QImage pictureOf(const QList<double> &limits, bool hasSingleRates)
+{
+    LegendPanel::Content content = contentOf(limits, 1.0);
+    content.hasSingleRates = hasSingleRates;
+    LegendPanel panel;
+    panel.show(content);
+    constexpr int head = 70;
+    constexpr int corner = 10;
+    return panel.grab().toImage().copy(0, head, panel.width(), panel.height() - head - corner);
+}
+
+/// Pixels from the right-most bright one to the picture's right edge.
+int clearance(const QImage &image)
+{
+    for (int x = image.width() - 1; x >= 0; --x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (qGray(image.pixel(x, y)) > 100)
+                return image.width() - 1 - x;
+        }
+    }
+    return image.width();
+}
+
+} // namespace
+
+/// The legend's texts.
+class TestLegendPanel : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void classesReadAsRangesInTheOperatorsUnit_data();
+    void classesReadAsRangesInTheOperatorsUnit();
+    void singleRatesReadAsTheRateItself_data();
+    void singleRatesReadAsTheRateItself();
+    void aSwatchShowsItsColorAsOnTheGround();
+    void longNumbersAreDrawnWhole_data();
+    void longNumbersAreDrawnWhole();
+    void theGreatestNumbersFitTheirPanel();
+    void anEmptyLegendHasNoClasses();
+};
+
+void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit_data()
+{
+    QTest::addColumn<QList<double>>("limits");
+    QTest::addColumn<double>("factor");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("with zero") << QList<double>{0.0, 49.0, 300.0} << 1.0 << QStringList{"0", "0 – 49", "49 – 300"};
+    QTest::newRow("without zero") << QList<double>{23.0, 60.0} << 1.0 << QStringList{"≤ 23", "23 – 60"};
+    QTest::newRow("converted") << QList<double>{10.0, 20.0} << 0.25 << QStringList{"≤ 2.5", "2.5 – 5"};
+    QTest::newRow("small") << QList<double>{0.0123, 0.5} << 1.0 << QStringList{"≤ 0.0123", "0.0123 – 0.5"};
+    QTest::newRow("large") << QList<double>{70000.0, 81234.5} << 1.0 << QStringList{"≤ 70000", "70000 – 81235"};
+}
+
+void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit()
+{
+    QFETCH(QList<double>, limits);
+    QFETCH(double, factor);
+    LegendPanel panel;
+    panel.show(contentOf(limits, factor));
+    QTEST(paintedTexts(panel), "texts");
+    QCOMPARE(panel.size(), panel.sizeHint());
+}
+
+void TestLegendPanel::singleRatesReadAsTheRateItself_data()
+{
+    QTest::addColumn<QList<double>>("rates");
+    QTest::addColumn<double>("factor");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("with zero") << QList<double>{0.0, 49.0, 300.0} << 1.0 << QStringList{"0", "49", "300"};
+    QTest::newRow("one rate") << QList<double>{12.5} << 1.0 << QStringList{"12.5"};
+    QTest::newRow("as exact as an answer")
+        << QList<double>{100.0 / 3, 1234.567} << 1.0 << QStringList{"33.33", "1234.57"};
+    QTest::newRow("single precision") << QList<double>{double(0.1F)} << 1.0 << QStringList{"0.1"};
+    QTest::newRow("converted") << QList<double>{10.0, 20.0} << 0.25 << QStringList{"2.5", "5"};
+    QTest::newRow("small") << QList<double>{0.0123} << 1.0 << QStringList{"0.0123"};
+    QTest::newRow("long") << QList<double>{81234567.0} << 1.0 << QStringList{"81234567"};
+    QTest::newRow("beyond reading") << QList<double>{1.236e30} << 1.0 << QStringList{"1.236e+30"};
+}
+
+void TestLegendPanel::singleRatesReadAsTheRateItself()
+{
+    QFETCH(QList<double>, rates);
+    QFETCH(double, factor);
+    LegendPanel::Content content = contentOf(rates, factor);
+    content.hasSingleRates = true;
+    LegendPanel panel;
+    panel.show(content);
+    QTEST(paintedTexts(panel), "texts");
+}
+
+void TestLegendPanel::aSwatchShowsItsColorAsOnTheGround()
+{
+    const QColor clear(0, 200, 100, 128);
+    LegendPanel::Content content;
+    content.classes = {{10.0, Qt::green}, {20.0, clear}};
+    LegendPanel panel;
+    panel.show(content);
+    const QPoint secondSwatch(30, 127);
+    QCOMPARE(panel.grab().toImage().pixelColor(secondSwatch), FieldScene::onGround(clear));
+}
+
+void TestLegendPanel::longNumbersAreDrawnWhole_data()
+{
+    QTest::addColumn<int>("digits");
+    QTest::addColumn<bool>("hasSingleRates");
+    for (int digits = 1; digits <= 12; ++digits) {
+        QTest::addRow("ranges of %d digits", digits) << digits << false;
+        QTest::addRow("rates of %d digits", digits) << digits << true;
+    }
+}
+
+void TestLegendPanel::longNumbersAreDrawnWhole()
+{
+    QFETCH(int, digits);
+    QFETCH(bool, hasSingleRates);
+    const QString stem(digits - 1, QLatin1Char('8'));
+    const QImage ends3 = pictureOf({(stem + '1').toDouble(), (stem + '3').toDouble()}, hasSingleRates);
+    const QImage ends6 = pictureOf({(stem + '1').toDouble(), (stem + '6').toDouble()}, hasSingleRates);
+    // The last digit is seen, and seen whole.
+    QVERIFY(ends3 != ends6);
+    constexpr int inset = 14;
+    QVERIFY2(clearance(ends3) > inset, qPrintable(QString::number(clearance(ends3))));
+    QVERIFY2(clearance(ends6) > inset, qPrintable(QString::number(clearance(ends6))));
+}
+
+void TestLegendPanel::theGreatestNumbersFitTheirPanel()
+{
+    const double greatest = double(std::numeric_limits<float>::max());
+    constexpr int inset = 14;
+    QVERIFY(clearance(pictureOf({greatest / 2, greatest}, false)) > inset);
+    QVERIFY(clearance(pictureOf({greatest / 2, greatest}, true)) > inset);
+}
+
+void TestLegendPanel::anEmptyLegendHasNoClasses()
+{
+    LegendPanel panel;
+    panel.show(contentOf({}, 1.0));
+    QCOMPARE(paintedTexts(panel), QStringList(QStringLiteral("No map")));
+}
+
+RXMAP_TEST(TestLegendPanel, Widgets)
+#include "tst_legendpanel.moc"

@@ -1,0 +1,135 @@
+#include "mapoverlay.h"
+#include "terminalhost.h"
+#include "terminalwindow.h"
+#include "testbase.h"
+
+namespace {
+
+/// Counts how often a widget is drawn.
+class DrawingCount : public QObject {
+public:
+    explicit DrawingCount(QWidget *widget) { widget->installEventFilter(this); }
+
+    int times = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++times;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+/// Lets everything happen that was asked for, without the passing of time: timers stand still.
+void settle()
+{
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::sendPostedEvents();
+}
+
+} // namespace
+
+/// How often the overlay is drawn for what changes on it.
+class TestMapOverlay : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void bubblesThatFollowEachOtherShareADrawing();
+    void placesOfTheVehicleShareADrawing();
+    void aMovedCameraIsDrawnAtOnce();
+    void theNewestBubbleIsTheOneThatIsDrawn();
+    void touchesOfTheTerminalShareADrawing();
+
+private:
+    QScopedPointer<MapOverlay> overlay;
+    QScopedPointer<DrawingCount> drawn;
+};
+
+void TestMapOverlay::init()
+{
+    TestBase::init();
+    overlay.reset(new MapOverlay);
+    overlay->resize(400, 300);
+    overlay->show();
+    QVERIFY(QTest::qWaitForWindowExposed(overlay.data()));
+    drawn.reset(new DrawingCount(overlay.data()));
+    // What showing it asked for may still be under way.
+    overlay->update();
+    QTRY_VERIFY(drawn->times > 0);
+    settle();
+    drawn->times = 0;
+}
+
+void TestMapOverlay::bubblesThatFollowEachOtherShareADrawing()
+{
+    for (int i = 0; i < 100; ++i) {
+        overlay->showBubble(QPointF(i, 0), QString::number(i), Qt::green);
+        settle();
+    }
+    QCOMPARE(drawn->times, 0);
+    QTRY_COMPARE(drawn->times, 1);
+    overlay->showBubble(QPointF(), QString(), QColor());
+    QTRY_COMPARE(drawn->times, 2);
+}
+
+void TestMapOverlay::placesOfTheVehicleShareADrawing()
+{
+    for (int i = 0; i < 100; ++i) {
+        overlay->setVehicle(QPointF(i, 0), 90.0);
+        settle();
+    }
+    QCOMPARE(drawn->times, 0);
+    QTRY_COMPARE(drawn->times, 1);
+}
+
+void TestMapOverlay::aMovedCameraIsDrawnAtOnce()
+{
+    for (int i = 1; i <= 5; ++i) {
+        overlay->setCamera(Camera());
+        settle();
+        QCOMPARE(drawn->times, i);
+    }
+}
+
+void TestMapOverlay::theNewestBubbleIsTheOneThatIsDrawn()
+{
+    Camera camera;
+    camera.setViewport(overlay->size());
+    overlay->setCamera(camera);
+    overlay->showBubble(QPointF(), QString(), QColor());
+    const QImage without = overlay->grab().toImage();
+    overlay->showBubble(QPointF(), QStringLiteral("Rx Rate: 1.00"), Qt::green);
+    overlay->showBubble(QPointF(), QStringLiteral("Rx Rate: 2.00"), Qt::green);
+    const QImage second = overlay->grab().toImage();
+    QVERIFY(second != without);
+    overlay->showBubble(QPointF(), QStringLiteral("Rx Rate: 1.00"), Qt::green);
+    QVERIFY(overlay->grab().toImage() != second);
+    overlay->showBubble(QPointF(), QStringLiteral("Rx Rate: 2.00"), Qt::green);
+    QCOMPARE(overlay->grab().toImage(), second);
+}
+
+void TestMapOverlay::touchesOfTheTerminalShareADrawing()
+{
+    TerminalHost host;
+    QCOMPARE(host.problem(), QString());
+    Terminal &terminal = host.terminal();
+    QVERIFY(terminal.open(TerminalHost::fixture("three-zones.geojson"), {"SEED_K_HA"}).isOk());
+    DrawingCount ofTerminal(terminal.window()->overlay());
+    terminal.refresh();
+    QTRY_VERIFY(ofTerminal.times > 0);
+    settle();
+    ofTerminal.times = 0;
+    for (int i = 0; i < 100; ++i) {
+        const QPointF point(i - 50, 0);
+        QVERIFY(terminal.mapColor(point).isValid());
+        QVERIFY(!terminal.touch(point).isEmpty());
+        settle();
+    }
+    QCOMPARE(ofTerminal.times, 0);
+    QTRY_COMPARE(ofTerminal.times, 1);
+}
+
+RXMAP_TEST(TestMapOverlay, Widgets)
+#include "tst_mapoverlay.moc"

@@ -1,0 +1,121 @@
+#include "fieldview.h"
+#include "legendpanel.h"
+#include "productfile.h"
+#include "productselector.h"
+#include "statusbar.h"
+#include "terminalwindow.h"
+#include "testbase.h"
+#include "touchbutton.h"
+
+#include <QDialog>
+#include <QSignalSpy>
+
+/// The display as a whole.
+class TestTerminalWindow : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void panelsLieOnTheDisplayAndApart();
+    void zoomButtonsBringTheFieldNearerAndFurther();
+    void theFieldButtonAsksForTheWholeField();
+    void aDialogPlacesItselfOnTheDisplayOnce();
+    void aPictureShowsTheOpenDialogWhereItIs();
+    void closingIsTold();
+
+private:
+    QScopedPointer<TerminalWindow> window;
+};
+
+void TestTerminalWindow::init()
+{
+    TestBase::init();
+    window.reset(new TerminalWindow(ProductFile::standard()));
+    window->move(40, 60);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+}
+
+void TestTerminalWindow::cleanup()
+{
+    window.reset();
+    TestBase::cleanup();
+}
+
+void TestTerminalWindow::panelsLieOnTheDisplayAndApart()
+{
+    QCOMPARE(window->size(), QSize(1280, 800));
+    QList<QWidget *> panels{window->statusBar(), window->productSelector(), window->legend()};
+    for (const char *name : {"zoomIn", "zoomOut", "showField"})
+        panels.append(window->findChild<QWidget *>(QLatin1String(name)));
+    for (int i = 0; i < panels.size(); ++i) {
+        QVERIFY(!panels.at(i)->geometry().isEmpty());
+        QVERIFY(window->rect().contains(panels.at(i)->geometry()));
+        for (int other = 0; other < i; ++other)
+            QVERIFY(!panels.at(i)->geometry().intersects(panels.at(other)->geometry()));
+    }
+    QCOMPARE(window->fieldView()->geometry().top(), window->statusBar()->geometry().bottom() + 1);
+    QCOMPARE(window->fieldView()->geometry().bottomRight(), window->rect().bottomRight());
+}
+
+void TestTerminalWindow::zoomButtonsBringTheFieldNearerAndFurther()
+{
+    const Camera &camera = window->fieldView()->camera();
+    const double distance = camera.distance();
+    QTest::mouseClick(window->findChild<TouchButton *>(QStringLiteral("zoomIn")), Qt::LeftButton);
+    QVERIFY(camera.distance() < distance);
+    QTest::mouseClick(window->findChild<TouchButton *>(QStringLiteral("zoomOut")), Qt::LeftButton);
+    QCOMPARE(camera.distance(), distance);
+}
+
+void TestTerminalWindow::theFieldButtonAsksForTheWholeField()
+{
+    QSignalSpy asked(window.data(), &TerminalWindow::frameRequested);
+    QTest::mouseClick(window->findChild<TouchButton *>(QStringLiteral("showField")), Qt::LeftButton);
+    QCOMPARE(asked.size(), 1);
+}
+
+void TestTerminalWindow::aDialogPlacesItselfOnTheDisplayOnce()
+{
+    const QPoint corner = window->mapToGlobal(QPoint(0, 0));
+    QVERIFY(!corner.isNull());
+    QDialog dialog;
+    dialog.setWindowFlags(Qt::FramelessWindowHint);
+    dialog.resize(300, 200);
+    dialog.move(240, 100);
+    dialog.show();
+    QCOMPARE(dialog.pos(), QPoint(240, 100) + corner);
+    dialog.hide();
+    dialog.show();
+    QCOMPARE(dialog.pos(), QPoint(240, 100) + corner);
+}
+
+void TestTerminalWindow::aPictureShowsTheOpenDialogWhereItIs()
+{
+    const QColor color(1, 200, 3);
+    QDialog dialog;
+    dialog.setWindowFlags(Qt::FramelessWindowHint);
+    dialog.setPalette(color);
+    dialog.resize(300, 200);
+    dialog.move(240, 100);
+    dialog.show();
+    const QImage picture = window->screenshot();
+    QCOMPARE(picture.size(), TerminalWindow::displaySize);
+    QCOMPARE(picture.pixelColor(240, 100), color);
+    QCOMPARE(picture.pixelColor(539, 299), color);
+    QVERIFY(picture.pixelColor(239, 100) != color);
+    QVERIFY(picture.pixelColor(540, 299) != color);
+    dialog.close();
+    QVERIFY(window->screenshot().pixelColor(240, 100) != color);
+}
+
+void TestTerminalWindow::closingIsTold()
+{
+    QSignalSpy closed(window.data(), &TerminalWindow::closed);
+    window->close();
+    QCOMPARE(closed.size(), 1);
+}
+
+RXMAP_TEST(TestTerminalWindow, Widgets)
+#include "tst_terminalwindow.moc"

@@ -1,0 +1,81 @@
+#include "paintedtexts.h"
+#include "testbase.h"
+#include "theme.h"
+#include "touchbutton.h"
+
+/// A flat button of the terminal's own panels.
+class TestTouchButton : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itIsBigEnoughForAGlove();
+    void itShowsItsTextAndItsNote();
+    void aTextThatIsTooLongIsShortened();
+    void colorsTellItsState();
+    void itLeavesTheKeyboardAlone();
+};
+
+namespace {
+
+/// The colour of the button's ground.
+QColor ground(TouchButton &button)
+{
+    return button.grab().toImage().pixelColor(button.width() / 2, 6);
+}
+
+} // namespace
+
+void TestTouchButton::itIsBigEnoughForAGlove()
+{
+    const QSize size = TouchButton(QStringLiteral("+")).sizeHint();
+    QVERIFY(size.width() >= Theme::touchTarget && size.height() >= Theme::touchTarget);
+}
+
+void TestTouchButton::itShowsItsTextAndItsNote()
+{
+    TouchButton button(QStringLiteral("Seed"));
+    button.resize(200, 88);
+    QCOMPARE(paintedTexts(button), QStringList{"Seed"});
+    button.setNote(QStringLiteral("Bin 1"));
+    QCOMPARE(paintedTexts(button), (QStringList{"Seed", "Bin 1"}));
+}
+
+void TestTouchButton::aTextThatIsTooLongIsShortened()
+{
+    const QString longText = QStringLiteral("A product with a very long name indeed");
+    TouchButton button(longText);
+    button.setNote(longText);
+    button.resize(100, 88);
+    const QStringList texts = paintedTexts(button);
+    QCOMPARE(texts.size(), 2);
+    for (const QString &text : texts) {
+        QVERIFY2(text.endsWith(QChar(0x2026)), qPrintable(text));
+        QVERIFY(longText.startsWith(text.chopped(1)));
+    }
+    // A text that is only a little too long is written smaller instead.
+    button.setText(QStringLiteral("Fertiliser"));
+    QCOMPARE(paintedTexts(button).first(), QStringLiteral("Fertiliser"));
+}
+
+void TestTouchButton::colorsTellItsState()
+{
+    TouchButton button(QStringLiteral("Seed"));
+    button.resize(200, 88);
+    QCOMPARE(ground(button).rgb(), Theme::button().rgb());
+    button.setCheckable(true);
+    button.setChecked(true);
+    QCOMPARE(ground(button).rgb(), Theme::accent().rgb());
+    button.setDown(true);
+    QCOMPARE(ground(button).rgb(), Theme::pressedButton().rgb());
+    button.setDown(false);
+    button.setChecked(false);
+    QCOMPARE(ground(button).rgb(), Theme::button().rgb());
+}
+
+void TestTouchButton::itLeavesTheKeyboardAlone()
+{
+    QCOMPARE(TouchButton(QStringLiteral("+")).focusPolicy(), Qt::NoFocus);
+}
+
+RXMAP_TEST(TestTouchButton, Widgets)
+#include "tst_touchbutton.moc"

@@ -1,0 +1,207 @@
+#include "scriptrunner.h"
+#include "terminalhost.h"
+#include "terminalwindow.h"
+#include "testbase.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+/// Scripts from their first line to their end, on a terminal with the plug-in.
+class TestScriptRunner : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void anUncaughtErrorNamesFileAndLine_data();
+    void anUncaughtErrorNamesFileAndLine();
+    void aMissingScriptIsNamed();
+    void onlyAPlainFileIsRunAsScript();
+    void aScriptGoesOnWhileADialogIsOpen();
+    void aDialogThatWasLeftOpenIsClosedAtTheEnd();
+    void theDialogsEditsComeThrough();
+    void screenshotsShowTheOpenDialog();
+    void aScriptThatNeverEndsCanBeInterrupted();
+    void anInterruptBeforeTheScriptRunsEndsIt();
+    void theProgramsEndInterruptsAScript_data();
+    void theProgramsEndInterruptsAScript();
+    void theProgramsEndClosesTheScriptsDialog();
+
+private:
+    QString run(const QString &program);
+
+    QScopedPointer<TerminalHost> host;
+    QScopedPointer<QTemporaryDir> folder;
+};
+
+void TestScriptRunner::init()
+{
+    TestBase::init();
+    folder.reset(new QTemporaryDir);
+    host.reset(new TerminalHost);
+    QCOMPARE(host->problem(), QString());
+}
+
+void TestScriptRunner::cleanup()
+{
+    host.reset();
+    TestBase::cleanup();
+}
+
+QString TestScriptRunner::run(const QString &program)
+{
+    return ScriptRunner(&host->terminal())
+        .evaluate(TerminalHost::scriptStart(folder->path()) + program, QStringLiteral("test.js"));
+}
+
+void TestScriptRunner::anUncaughtErrorNamesFileAndLine_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("thrown error") << "\n\nthrow new Error('broken');"
+                                  << "test.js:3: Error: broken";
+    QTest::newRow("thrown text") << "throw 'broken';"
+                                 << "test.js: Error: broken";
+    QTest::newRow("unknown name") << "var a = 1;\nnothing();"
+                                  << "test.js:2: ReferenceError: nothing is not defined";
+    QTest::newRow("syntax") << "\nvar = 3;"
+                            << "test.js:2: SyntaxError: ";
+}
+
+void TestScriptRunner::anUncaughtErrorNamesFileAndLine()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, error);
+    const QString result = ScriptRunner(&host->terminal()).evaluate(program, QStringLiteral("test.js"));
+    QVERIFY2(result.startsWith(error), qPrintable(result));
+}
+
+void TestScriptRunner::aMissingScriptIsNamed()
+{
+    const QString error = ScriptRunner(&host->terminal()).run(QStringLiteral("/no/such.js"));
+    QVERIFY2(error.startsWith(QLatin1String("/no/such.js: ")), qPrintable(error));
+}
+
+void TestScriptRunner::onlyAPlainFileIsRunAsScript()
+{
+    const QString pipe = folder->filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ScriptRunner runner(&host->terminal());
+    QCOMPARE(runner.run(QStringLiteral("/dev/null")), QStringLiteral("/dev/null: is no plain file"));
+    QCOMPARE(runner.run(folder->path()), folder->path() + QStringLiteral(": is a folder, not a file"));
+    QCOMPARE(runner.run(pipe), pipe + QStringLiteral(": is no plain file"));
+}
+
+void TestScriptRunner::aScriptGoesOnWhileADialogIsOpen()
+{
+    QCOMPARE(run("terminal.open(zones, {columns: ['SEED_K_HA']}); terminal.find('rxOptions').longTouch();"
+                 "var d = terminal.find('rxMapSettings'); same([d.visible, d.x, d.y, d.width, d.height], [true, 240, "
+                 "0, 800, 800]);"
+                 "same(terminal.find('doneButton').x, 715);"
+                 "terminal.drive(2); terminal.wait(700); same(terminal.find('lookAheadEdit').enabled, false);"
+                 "same(terminal.find('doneButton').image, 1); terminal.stop(); terminal.wait(700);"
+                 "same(terminal.find('lookAheadEdit').enabled, true);"
+                 "same(terminal.touchMap(0, 0), 'Rx Rate: 80.00');"
+                 "terminal.find('productButton1').touch(); same(terminal.find('notUnderVraLabel').visible, true);"
+                 "terminal.find('productButton0').touch(); var hidden = '';"
+                 "try { terminal.find('notUnderVraLabel').touch(); } catch (e) { hidden = e.message; }"
+                 "same(hidden, 'control \"notUnderVraLabel\" is not on the display');"
+                 "terminal.find('doneButton').touch(); same(terminal.find('rxMapSettings'), null);"
+                 "terminal.find('rxOptions').longTouch(); same(terminal.find('rxMapSettings').visible, true);"
+                 "terminal.find('doneButton').touch();"),
+             QString());
+}
+
+void TestScriptRunner::aDialogThatWasLeftOpenIsClosedAtTheEnd()
+{
+    QCOMPARE(run("terminal.open(zones); terminal.find('rxOptions').longTouch();"), QString());
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(run("terminal.find('rxOptions').longTouch(); throw new Error('left');").contains(QLatin1String("left")));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void TestScriptRunner::theDialogsEditsComeThrough()
+{
+    QCOMPARE(run("var m = terminal.open(zones, {columns: ['SEED_K_HA']}); terminal.find('rxOptions').longTouch();"
+                 "var e = terminal.find('lookAheadEdit'); e.enter('2.5'); same(e.text, '2.5');"
+                 "e.enter('3'); same(e.text, '3'); terminal.find('zeroRateShutoffBox').touch();"
+                 "same(terminal.find('zeroRateShutoffBox').image, 1);"
+                 "terminal.find('doneButton').touch(); var s = terminal.get(m.group, 'settings')[0];"
+                 "same([s.onLookAheadMs, s.zeroRateShutoff], [3000, true]);"
+                 "same(terminal.get('quillSpan', 'reInitCount'), 1);"),
+             QString());
+}
+
+void TestScriptRunner::screenshotsShowTheOpenDialog()
+{
+    QCOMPARE(run("terminal.open(zones); terminal.find('rxOptions').longTouch();"
+                 "terminal.screenshot(folder + '/open.png'); terminal.find('doneButton').touch();"
+                 "terminal.screenshot(folder + '/closed.png');"),
+             QString());
+    const QImage open(folder->filePath("open.png"));
+    const QImage closed(folder->filePath("closed.png"));
+    QCOMPARE(open.size(), TerminalWindow::displaySize);
+    QVERIFY(open.copy(240, 0, 800, 800) != closed.copy(240, 0, 800, 800));
+    QCOMPARE(open.copy(0, 0, 240, 800), closed.copy(0, 0, 240, 800));
+}
+
+void TestScriptRunner::aScriptThatNeverEndsCanBeInterrupted()
+{
+    for (const QString &program : {QStringLiteral("for (;;) {}"), QStringLiteral("terminal.wait(1e9);")}) {
+        ScriptRunner runner(&host->terminal());
+        QTimer::singleShot(200, &runner, &ScriptRunner::interrupt);
+        QCOMPARE(runner.evaluate(program, QStringLiteral("endless.js")), QStringLiteral("endless.js: interrupted"));
+    }
+}
+
+void TestScriptRunner::anInterruptBeforeTheScriptRunsEndsIt()
+{
+    ScriptRunner runner(&host->terminal());
+    runner.interrupt();
+    QCOMPARE(runner.evaluate(QStringLiteral("for (;;) {}"), QStringLiteral("endless.js")),
+             QStringLiteral("endless.js: interrupted"));
+}
+
+void TestScriptRunner::theProgramsEndInterruptsAScript_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("that computes") << QStringLiteral("for (;;) {}");
+    QTest::newRow("that waits") << QStringLiteral("terminal.wait(1e9);");
+    QTest::newRow("that calls the terminal") << QStringLiteral("for (;;) terminal.activeProduct;");
+}
+
+void TestScriptRunner::theProgramsEndInterruptsAScript()
+{
+    QFETCH(QString, program);
+    ScriptRunner runner(&host->terminal());
+    QString error;
+    QTimer::singleShot(0, this, [&] {
+        QTimer::singleShot(100, qApp, &QCoreApplication::quit);
+        error = runner.evaluate(program, QStringLiteral("endless.js"));
+    });
+    QApplication::exec();
+    QCOMPARE(error, QStringLiteral("endless.js: interrupted"));
+}
+
+void TestScriptRunner::theProgramsEndClosesTheScriptsDialog()
+{
+    QString error;
+    QTimer whenOpen;
+    connect(&whenOpen, &QTimer::timeout, qApp, [] {
+        if (QApplication::activeModalWidget() != nullptr)
+            QCoreApplication::quit();
+    });
+    QTimer::singleShot(0, this, [&] {
+        whenOpen.start(0);
+        error = run("terminal.open(zones); terminal.find('rxOptions').longTouch(); for (;;) terminal.activeProduct;");
+        whenOpen.stop();
+    });
+    QApplication::exec();
+    QCOMPARE(error, QStringLiteral("test.js: interrupted"));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+RXMAP_TEST(TestScriptRunner, Widgets)
+#include "tst_scriptrunner.moc"

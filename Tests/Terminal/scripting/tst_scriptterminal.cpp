@@ -1,0 +1,251 @@
+#include "machine.h"
+#include "scriptterminal.h"
+#include "terminalhost.h"
+#include "testbase.h"
+#include "vehicle.h"
+
+#include <QEventLoop>
+#include <QImage>
+#include <QJSEngine>
+#include <QTemporaryDir>
+#include <QThread>
+
+/// Every call of the scripts, on a terminal with the plug-in. It starts each of them without a map and with product 1.
+class TestScriptTerminal : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanupTestCase();
+    void callsDoWhatTheySay_data();
+    void callsDoWhatTheySay();
+    void failuresAreThrownWithTheirReason_data();
+    void failuresAreThrownWithTheirReason();
+    void aPictureOfTheWholeWindowIsSaved();
+    void theTerminalIsChangedOnTheUserInterfaceThread();
+    void anInterruptEndsAWait();
+
+private:
+    /// Runs a program on a thread of its own; what it throws, empty for nothing.
+    QString run(const QString &program);
+
+    QScopedPointer<TerminalHost> host;
+    QScopedPointer<QTemporaryDir> folder;
+    std::atomic<bool> isInterrupted{false};
+};
+
+void TestScriptTerminal::initTestCase()
+{
+    folder.reset(new QTemporaryDir);
+    host.reset(new TerminalHost);
+    QCOMPARE(host->problem(), QString());
+}
+
+void TestScriptTerminal::init()
+{
+    TestBase::init();
+    isInterrupted = false;
+    Terminal &terminal = host->terminal();
+    for (const LoadReport &map : terminal.backend()->maps())
+        QVERIFY(terminal.close(map.group));
+    QVERIFY(terminal.machine()->setActiveProduct(1));
+    terminal.vehicle()->stop();
+}
+
+void TestScriptTerminal::cleanupTestCase()
+{
+    host.reset();
+}
+
+QString TestScriptTerminal::run(const QString &program)
+{
+    QString thrown;
+    QEventLoop loop;
+    const QScopedPointer<QThread> thread(QThread::create([&] {
+        QJSEngine engine;
+        ScriptTerminal calls(&host->terminal(), &isInterrupted, &engine);
+        engine.globalObject().setProperty(QStringLiteral("terminal"), engine.newQObject(&calls));
+        const QJSValue result = engine.evaluate(TerminalHost::scriptStart(folder->path()) + program);
+        thrown = result.isError() ? result.toString() : QString();
+    }));
+    connect(thread.data(), &QThread::finished, &loop, &QEventLoop::quit);
+    thread->start();
+    loop.exec();
+    thread->wait();
+    return thrown;
+}
+
+void TestScriptTerminal::callsDoWhatTheySay_data()
+{
+    QTest::addColumn<QString>("program");
+    const auto row = [](const char *name, const char *program) { QTest::newRow(name) << QString::fromUtf8(program); };
+    row("open",
+        "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'HERB_L_HA']});"
+        "same(m.group, 'rxMap.three-zones.geojson'); same(m.polygons, 3); same(m.outers, 3); same(m.holes, 0);"
+        "same(m.columns, ['SEED_K_HA', 'HERB_L_HA']); same(m.repaired, 0); same(m.skipped, 0);"
+        "same(m.warnings, []); same(m.legend.map(function (c) { return c.rate; }), [70, 80, 90]);"
+        "same(/^#[0-9a-f]{6}$/.test(m.legend[0].color), true);");
+    row("open for the active product",
+        "terminal.activeProduct = 2;"
+        "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'FERT_KG_HA']});"
+        "same(m.legend[0].rate, 0); same(m.legends.length, 2);");
+    row("open with gaps in a column",
+        "var m = terminal.open(zones.replace('three-zones', 'partly-without-rate'));"
+        "same(m.legends.map(function (l) { return l.length; }), [2, 2]); same(m.legend, m.legends[0]);"
+        "terminal.set(m.group, 'rateColors', terminal.get(m.group, 'rateColors'));"
+        "same(terminal.get(m.group, 'rateColors')[0][2].color, '#00000000');");
+    row("open with products left out",
+        "['', null, undefined].forEach(function (none) {"
+        " same(terminal.open(zones, {columns: [none, 'FERT_KG_HA']}).columns, ['FERT_KG_HA']);"
+        " same(terminal.get('rxMap.three-zones.geojson', 'rateCalMappings')[0].rateCalName,"
+        " 'system.productGroup.2'); });");
+    row("open reads its options once",
+        "var reads = 0; var options = {get columns() { ++reads; return ['SEED_K_HA']; }};"
+        "terminal.open(zones, options); same(reads, 1);");
+    row("open with likely columns", "same(terminal.open(sample).columns.length, 3);");
+    row("close",
+        "var m = terminal.open(zones); terminal.close(m.group); same(terminal.groups('rxMap.*'), []);"
+        "same(terminal.bounds(), null);");
+    row("active product",
+        "same(terminal.activeProduct, 1); terminal.activeProduct = 3; same(terminal.activeProduct, 3);");
+    row("touch the map",
+        "same(terminal.touchMap(0, 0), ''); terminal.open(zones, {columns: ['SEED_K_HA']});"
+        "same(terminal.touchMap(-100, 0), 'Rx Rate: 70.00'); same(terminal.touchMap(0, 400), '');");
+    row("bounds",
+        "same(terminal.bounds(), null); terminal.open(zones); var b = terminal.bounds();"
+        "same(Math.round(b.maxX - b.minX), 300); same(Math.round(b.maxY - b.minY), 100);");
+    row("map colour",
+        "var ground = terminal.mapColor(0, 0); same(ground.length, 3);"
+        "terminal.open(zones, {columns: ['SEED_K_HA']}); var c = terminal.mapColor(0, 0);"
+        "same(JSON.stringify(c) === JSON.stringify(ground), false); terminal.touchMap(0, 0);"
+        "same(terminal.mapColor(0, 0), c); same(terminal.mapColor(0, 9999), ground);");
+    row("find",
+        "same(terminal.find('nobody'), null); var b = terminal.find('selectProduct2');"
+        "same(b.text, 'Fertiliser'); same(b.visible, true); same(b.enabled, true); same(b.image, -1);"
+        "same(b.width > 100 && b.height > 60 && b.x >= 0 && b.y >= 0, true);");
+    row("find nothing",
+        "same(terminal.find(''), null); same(terminal.find(null), null);"
+        " same(terminal.find(undefined), null);");
+    row("find what is hidden", "var e = terminal.find('guidancePage'); same(e !== null, true);");
+    row("touch", "terminal.find('selectProduct3').touch(); same(terminal.activeProduct, 3);");
+    row("a control outlives its widget",
+        "var b = terminal.find('rxOptions'); same(b.image, 1);"
+        "terminal.open(zones); same(b.image, 0);");
+    row("get",
+        "same(terminal.get('system.current.job', 'activeAAMGroupName'), 'system.aam.1');"
+        "same(terminal.get('mainGpsSolution', 'vehicleIsStopped'), true);"
+        "var m = terminal.open(zones, {columns: ['SEED_K_HA']});"
+        "same(terminal.get(m.group, 'rateCalMappings')[0].dbfColumnName, 'SEED_K_HA');"
+        "same(terminal.get(m.group, 'settings').length, 3); same(terminal.get(m.group, 'polygonCount'), 3);");
+    row("set",
+        "terminal.set('mainGpsSolution', 'position', {x: 1, y: 2});"
+        "same(terminal.get('mainGpsSolution', 'position'), {x: 1, y: 2, z: 0});"
+        "var n = terminal.get('quillSpan', 'reInitCount'); terminal.set('quillSpan', 'reInit', true);"
+        "same(terminal.get('quillSpan', 'reInitCount'), n + 1);"
+        "var m = terminal.open(zones); var s = terminal.get(m.group, 'settings'); s[1].onLookAheadMs = 750;"
+        "terminal.set(m.group, 'settings', s); same(terminal.get(m.group, 'settings')[1].onLookAheadMs, 750);");
+    row("set shows at once",
+        "var m = terminal.open(zones, {columns: ['SEED_K_HA']}); var c = terminal.mapColor(0, 0);"
+        "var l = terminal.get(m.group, 'rateColors'); l[0].forEach(function (e) { e.color = '#000000'; });"
+        "terminal.set(m.group, 'rateColors', l);"
+        "terminal.set(m.group, 'polygonCount', terminal.get(m.group, 'polygonCount'));"
+        "same(JSON.stringify(terminal.mapColor(0, 0)) === JSON.stringify(c), false);");
+    row("groups", "same(terminal.groups('system.binGroup.*').length, 3); same(terminal.groups('nothing.*'), []);");
+    row("drive and stop",
+        "terminal.drive(5); same(terminal.get('mainGpsSolution', 'vehicleIsStopped'), false);"
+        "var before = terminal.get('mainGpsSolution', 'position').y; terminal.wait(150);"
+        "same(terminal.get('mainGpsSolution', 'position').y > before, true); terminal.stop();"
+        "same(terminal.get('mainGpsSolution', 'vehicleIsStopped'), true);");
+    row("wait", "var start = Date.now(); terminal.wait(120); same(Date.now() - start >= 119, true);");
+    row("caught errors do not count",
+        "try { terminal.get('nothing', 'x'); } catch (e) { same(e instanceof Error, true); }");
+}
+
+void TestScriptTerminal::callsDoWhatTheySay()
+{
+    QFETCH(QString, program);
+    QCOMPARE(run(program), QString());
+}
+
+void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char *name, const char *program, const char *reason) {
+        QTest::newRow(name) << QString::fromUtf8(program) << QString::fromUtf8(reason);
+    };
+    row("missing file", "terminal.open('/no/such.shp');", "/no/such.shp: ");
+    row("missing column", "terminal.open(zones, {columns: ['NOPE']});", "\"NOPE\"");
+    row("columns no list", "terminal.open(zones, {columns: 'SEED_K_HA'});", "\"columns\" is no list");
+    row("column an object", "terminal.open(zones, {columns: [{a: 1}]});", "entry 1 of \"columns\" is no text");
+    row("column true", "terminal.open(zones, {columns: ['SEED_K_HA', true]});", "entry 2 of \"columns\" is no text");
+    row("column a number", "terminal.open(zones, {columns: ['', null, 7]});", "entry 3 of \"columns\" is no text");
+    row("column a list", "terminal.open(zones, {columns: [['SEED_K_HA']]});", "entry 1 of \"columns\" is no text");
+    row("endless columns", "terminal.open(zones, {columns: new Array(4294967295)});",
+        "\"columns\" has more than 16 entries");
+    row("unknown option", "terminal.open(zones, {colums: ['SEED_K_HA']});",
+        "\"colums\" is no option of open(); it knows \"columns\"");
+    row("options no object", "terminal.open(zones, ['SEED_K_HA']);", "the options of open() are no object");
+    row("options a text", "terminal.open(zones, 'SEED_K_HA');", "the options of open() are no object");
+    row("options null", "terminal.open(zones, null);", "the options of open() are no object");
+    row("no such map", "terminal.close('rxMap.nothing');", "no map \"rxMap.nothing\" is loaded");
+    row("product 0", "terminal.activeProduct = 0;", "no product 0");
+    row("product 4", "terminal.activeProduct = 4;", "no product 4");
+    row("product 1.7", "terminal.activeProduct = 1.7;", "no product 1.7");
+    row("product NaN", "terminal.activeProduct = NaN;", "no product NaN");
+    row("endless product", "terminal.activeProduct = -Infinity;", "no product -Infinity");
+    row("product beyond whole numbers", "terminal.activeProduct = 4294967297;", "no product 4294967297");
+    row("product in words", "terminal.activeProduct = 'two';", "no product two");
+    row("product true", "terminal.activeProduct = true;", "no product true");
+    row("no field point", "terminal.mapColor(NaN, 0);", "is no field point");
+    row("unknown group", "terminal.get('nothing', 'x');", "no group \"nothing\"");
+    row("unknown property", "terminal.get('quillSpan', 'x');", "group \"quillSpan\" has no property \"x\"");
+    row("set in unknown group", "terminal.set('nothing', 'x', 1);", "no group \"nothing\"");
+    row("set unknown property", "terminal.set('quillSpan', 'x', 1);", "has no property \"x\"");
+    row("set wrong type", "terminal.set('mainGpsSolution', 'position', 7);", "an object is expected");
+    row("set refused", "terminal.set('mainGpsSolution', 'speed', 'fast');", "wrong type");
+    row("set an address", "var m = terminal.open(zones); terminal.set(m.group, 'polygonBuffer', 1);", "cannot be set");
+    row("backwards", "terminal.drive(-1);", "out of range");
+    row("wait backwards", "terminal.wait(-5);", "cannot wait");
+    row("picture in no folder", "terminal.screenshot('/no/such/folder/p.png');", "/no/such/folder/p.png: ");
+    row("picture without a name", "terminal.screenshot('');", "a picture needs a file name");
+}
+
+void TestScriptTerminal::failuresAreThrownWithTheirReason()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, reason);
+    const QString error = run(program);
+    QVERIFY2(error.startsWith(QLatin1String("Error: ")), qPrintable(error));
+    QVERIFY2(error.contains(reason), qPrintable(error));
+    QVERIFY2(!error.contains(QLatin1Char('\n')), qPrintable(error));
+}
+
+void TestScriptTerminal::aPictureOfTheWholeWindowIsSaved()
+{
+    QCOMPARE(run("terminal.screenshot(folder + '/picture.png');"), QString());
+    const QImage picture(folder->filePath(QStringLiteral("picture.png")));
+    QCOMPARE(picture.size(), QSize(1280, 800));
+    QVERIFY(picture.pixel(640, 400) != picture.pixel(20, 20));
+}
+
+void TestScriptTerminal::theTerminalIsChangedOnTheUserInterfaceThread()
+{
+    QThread *ranOn = nullptr;
+    connect(
+        host->terminal().machine(), &Machine::activeProductChanged, this,
+        [&ranOn] { ranOn = QThread::currentThread(); }, Qt::DirectConnection);
+    QCOMPARE(run("terminal.activeProduct = 2;"), QString());
+    disconnect(host->terminal().machine(), nullptr, this, nullptr);
+    QCOMPARE(ranOn, thread());
+}
+
+void TestScriptTerminal::anInterruptEndsAWait()
+{
+    QTimer::singleShot(50, this, [this] { isInterrupted = true; });
+    QCOMPARE(run("terminal.wait(1e9);"), QString());
+}
+
+RXMAP_TEST(TestScriptTerminal, Widgets)
+#include "tst_scriptterminal.moc"

@@ -1,0 +1,158 @@
+#include "duplicatepolygons.h"
+#include "testbase.h"
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+PlaneRing square(double x, double y, double side)
+{
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+PlaneRing turned(PlaneRing ring)
+{
+    std::reverse(ring.begin(), ring.end());
+    std::rotate(ring.begin(), ring.begin() + 1, ring.end());
+    return ring;
+}
+
+PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<PlaneRing> &holes = {})
+{
+    PlanePolygon polygon;
+    polygon.record = record;
+    polygon.outer = outer;
+    polygon.holes = holes;
+    return polygon;
+}
+
+/// Whether two rings of different vertices are the same but for their start and direction.
+bool isSameOutline(const PlaneRing &a, PlaneRing b)
+{
+    for (int direction = 0; direction < 2; ++direction) {
+        for (size_t start = 0; start < b.size(); ++start) {
+            if (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), samePlace))
+                return true;
+            std::rotate(b.begin(), b.begin() + 1, b.end());
+        }
+        std::reverse(b.begin(), b.end());
+    }
+    return false;
+}
+
+/// What is left when each polygon without holes is compared with every later one.
+QList<int> recordsLeftByPairs(const std::vector<PlanePolygon> &polygons, bool (*hides)(int, int))
+{
+    QList<int> left;
+    for (size_t i = 0; i < polygons.size(); ++i) {
+        const bool isHidden = std::any_of(
+            polygons.begin() + static_cast<std::ptrdiff_t>(i) + 1, polygons.end(), [&](const PlanePolygon &later) {
+                return hides(later.record, polygons[i].record) && isSameOutline(polygons[i].outer, later.outer);
+            });
+        if (!isHidden)
+            left.append(polygons[i].record);
+    }
+    return left;
+}
+
+bool always(int, int)
+{
+    return true;
+}
+
+QList<int> recordsOf(const std::vector<PlanePolygon> &polygons)
+{
+    QList<int> records;
+    for (const PlanePolygon &polygon : polygons)
+        records.append(polygon.record);
+    return records;
+}
+
+} // namespace
+
+class DuplicatePolygonsTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheLastOfEqualPolygons();
+    void sees_data();
+    void sees();
+    void asksWhetherTheLaterOneMayStand();
+    void takesNegativeZeroForZero();
+    void findsWhatComparingEachPairFinds();
+};
+
+void DuplicatePolygonsTest::keepsTheLastOfEqualPolygons()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(5, 0, 9)),
+                                          polygonOf(2, square(0, 0, 9)), polygonOf(3, square(9, 9, 9)),
+                                          polygonOf(4, square(0, 0, 9))};
+    QCOMPARE(DuplicatePolygons::drop(polygons, always), 2);
+    QCOMPARE(recordsOf(polygons), QList<int>({1, 3, 4}));
+}
+
+void DuplicatePolygonsTest::sees_data()
+{
+    QTest::addColumn<int>("which");
+    QTest::addColumn<int>("dropped");
+    QTest::newRow("other start and direction") << 0 << 1;
+    QTest::newRow("holes in another order") << 1 << 1;
+    QTest::newRow("another hole") << 2 << 0;
+    QTest::newRow("the same outline through other vertices") << 3 << 0;
+}
+
+void DuplicatePolygonsTest::sees()
+{
+    QFETCH(int, which);
+    QFETCH(int, dropped);
+    const PlaneRing big = square(0, 0, 90);
+    const PlaneRing a = square(10, 10, 10);
+    const PlaneRing b = square(30, 30, 10);
+    const PlaneRing c = square(50, 50, 10);
+    const PlaneRing otherTriangle = {{0, 0}, {90, 0}, {90, 90}, {60, 120}, {0, 60}};
+    const PlaneRing triangle = {{0, 0}, {90, 0}, {90, 90}, {60, 90}, {0, 90}};
+    std::vector<PlanePolygon> pairs[] = {{polygonOf(0, big, {a}), polygonOf(1, turned(big), {turned(a)})},
+                                         {polygonOf(0, big, {a, b}), polygonOf(1, big, {b, turned(a)})},
+                                         {polygonOf(0, big, {a, b}), polygonOf(1, big, {a, c})},
+                                         {polygonOf(0, triangle), polygonOf(1, otherTriangle)}};
+    QCOMPARE(DuplicatePolygons::drop(pairs[which], always), dropped);
+    QCOMPARE(pairs[which].back().record, 1);
+}
+
+void DuplicatePolygonsTest::asksWhetherTheLaterOneMayStand()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(0, 0, 9)),
+                                          polygonOf(2, square(0, 0, 9))};
+    const int dropped =
+        DuplicatePolygons::drop(polygons, [](int later, int earlier) { return later == 2 && earlier == 0; });
+    QCOMPARE(dropped, 1);
+    QCOMPARE(recordsOf(polygons), QList<int>({1, 2}));
+}
+
+void DuplicatePolygonsTest::takesNegativeZeroForZero()
+{
+    PlaneRing other = square(0, 0, 9);
+    other.front() = {-0.0, -0.0};
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, other)};
+    QCOMPARE(DuplicatePolygons::drop(polygons, always), 1);
+}
+
+void DuplicatePolygonsTest::findsWhatComparingEachPairFinds()
+{
+    const auto hides = [](int later, int earlier) { return (later + earlier) % 3 != 0; };
+    std::mt19937 random(8);
+    for (int round = 0; round < 200; ++round) {
+        std::vector<PlanePolygon> polygons;
+        for (int record = 0; record < 40; ++record) {
+            const PlaneRing ring = square(random() % 3, random() % 3, 1 + random() % 3);
+            polygons.push_back(polygonOf(record, random() % 2 == 0 ? ring : turned(ring)));
+        }
+        const QList<int> expected = recordsLeftByPairs(polygons, hides);
+        QCOMPARE(DuplicatePolygons::drop(polygons, hides), 40 - expected.size());
+        QCOMPARE(recordsOf(polygons), expected);
+    }
+}
+
+RXMAP_TEST(DuplicatePolygonsTest, Core)
+#include "tst_duplicatepolygons.moc"

@@ -1,0 +1,135 @@
+#include "holearrangement.h"
+#include "testbase.h"
+
+namespace {
+
+PlaneRing square(double x, double y, double side)
+{
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<PlaneRing> &holes = {})
+{
+    PlanePolygon polygon;
+    polygon.record = record;
+    polygon.outer = outer;
+    polygon.holes = holes;
+    return polygon;
+}
+
+QList<int> recordsOf(const std::vector<PlanePolygon> &polygons)
+{
+    QList<int> records;
+    for (const PlanePolygon &polygon : polygons)
+        records.append(polygon.record);
+    return records;
+}
+
+size_t holesOf(const std::vector<PlanePolygon> &polygons)
+{
+    size_t holes = 0;
+    for (const PlanePolygon &polygon : polygons)
+        holes += polygon.holes.size();
+    return holes;
+}
+
+} // namespace
+
+class HoleArrangementTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leavesWhatIsRightAsItIs();
+    void drawsAnIslandBeforeWhatItLiesIn();
+    void drawsNestedIslandsFromTheInnermostOut();
+    void keepsTheOrderOfOverlappingPolygons();
+    void joinsAHoleThatIsNearlyAsLargeAsItsRing();
+    void joinsAHoleThatTouchesAnEdgeItWouldFallOutOf();
+    void leavesAHoleThatTouchesAnEdgeItLiesWithin();
+    void joinsHolesOfTwoPolygonsThatEachWouldTake();
+    void arrangesNoPolygonsAtAll();
+};
+
+void HoleArrangementTest::leavesWhatIsRightAsItIs()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {square(10, 10, 20), square(50, 50, 20)}),
+                                          polygonOf(1, square(10, 10, 20)), polygonOf(2, square(200, 0, 100))};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(recordsOf(polygons), QList<int>({0, 1, 2}));
+    QCOMPARE(holesOf(polygons), size_t(2));
+}
+
+void HoleArrangementTest::drawsAnIslandBeforeWhatItLiesIn()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200), {square(40, 40, 120)}),
+                                          polygonOf(1, square(40, 40, 120), {square(80, 80, 40)}),
+                                          polygonOf(2, square(300, 0, 10))};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(recordsOf(polygons), QList<int>({1, 0, 2}));
+    QCOMPARE(holesOf(polygons), size_t(2));
+}
+
+void HoleArrangementTest::drawsNestedIslandsFromTheInnermostOut()
+{
+    std::vector<PlanePolygon> polygons;
+    for (int i = 0; i < 6; ++i) {
+        const double inset = 20.0 * i;
+        polygons.push_back(
+            polygonOf(i, square(inset, inset, 300 - 2 * inset), {square(inset + 10, inset + 10, 280 - 2 * inset)}));
+    }
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(recordsOf(polygons), QList<int>({5, 4, 3, 2, 1, 0}));
+    QCOMPARE(holesOf(polygons), size_t(6));
+}
+
+void HoleArrangementTest::keepsTheOrderOfOverlappingPolygons()
+{
+    // The second lies on the first and would lose its hole to it; it is to stay the later one.
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200)),
+                                          polygonOf(1, square(50, 50, 100), {square(80, 80, 40)})};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
+    QCOMPARE(holesOf(polygons), size_t(0));
+    QCOMPARE(ringArea(polygons[1].outer), 10000.0 - 1600.0);
+}
+
+void HoleArrangementTest::joinsAHoleThatIsNearlyAsLargeAsItsRing()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 10), {square(0.125, 0.125, 9.75)})};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(holesOf(polygons), size_t(0));
+    QCOMPARE(ringArea(polygons[0].outer), 100.0 - 9.75 * 9.75);
+}
+
+void HoleArrangementTest::joinsAHoleThatTouchesAnEdgeItWouldFallOutOf()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {{{100, 50}, {50, 80}, {50, 20}}})};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(holesOf(polygons), size_t(0));
+}
+
+void HoleArrangementTest::leavesAHoleThatTouchesAnEdgeItLiesWithin()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {{{0, 50}, {50, 80}, {50, 20}}})};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(holesOf(polygons), size_t(1));
+}
+
+void HoleArrangementTest::joinsHolesOfTwoPolygonsThatEachWouldTake()
+{
+    std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {square(60, 60, 20)}),
+                                          polygonOf(1, square(5, 5, 100), {square(20, 20, 20)})};
+    QCOMPARE(HoleArrangement::arrange(polygons), 0);
+    QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
+    QCOMPARE(ringArea(polygons[1].outer), 9600.0);
+    QCOMPARE(polygons[0].holes.size(), size_t(1));
+}
+
+void HoleArrangementTest::arrangesNoPolygonsAtAll()
+{
+    std::vector<PlanePolygon> none;
+    QCOMPARE(HoleArrangement::arrange(none), 0);
+}
+
+RXMAP_TEST(HoleArrangementTest, Core)
+#include "tst_holearrangement.moc"

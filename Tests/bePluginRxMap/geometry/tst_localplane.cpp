@@ -1,0 +1,149 @@
+#include "gdalsession.h"
+#include "localplane.h"
+#include "testbase.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+RawPrescription mapAt(std::vector<double> xs, std::vector<double> ys, int epsg)
+{
+    RawPrescription map;
+    map.xs = std::move(xs);
+    map.ys = std::move(ys);
+    if (epsg != 0) {
+        map.reference.reset(new OGRSpatialReference);
+        map.reference->importFromEPSG(epsg);
+    }
+    return map;
+}
+
+} // namespace
+
+class LocalPlaneTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void putsItsOriginAtZero();
+    void measuresEastAndNorthInMetres();
+    void agreesWithTheGridOfAProjectedMap();
+    void takesLatitudeFirstSystemsAsFilesStoreThem();
+    void placesAMapWithoutACoordinateSystem();
+    void refusesWhatItCannotPlace_data();
+    void refusesWhatItCannotPlace();
+    void acceptsAMapOfAWholeRegion();
+    void measuresDistances();
+
+private:
+    GdalSession session;
+};
+
+void LocalPlaneTest::putsItsOriginAtZero()
+{
+    const LocalPlane plane(11.5, 48.99);
+    std::vector<double> xs, ys;
+    QString error;
+    QVERIFY(plane.project(mapAt({11.5}, {48.99}, 4326), xs, ys, error));
+    QVERIFY(std::fabs(xs[0]) < 1e-6);
+    QVERIFY(std::fabs(ys[0]) < 1e-6);
+}
+
+void LocalPlaneTest::measuresEastAndNorthInMetres()
+{
+    // One thousandth of a degree at 45 degrees north: 78.847 m along the parallel, 111.132 m along the meridian.
+    const LocalPlane plane(10.0, 45.0);
+    std::vector<double> xs, ys;
+    QString error;
+    QVERIFY(plane.project(mapAt({10.001, 10.0}, {45.0, 45.001}, 4326), xs, ys, error));
+    QVERIFY(std::fabs(xs[0] - 78.847) < 0.001);
+    QVERIFY(std::fabs(ys[0]) < 0.001);
+    QVERIFY(std::fabs(xs[1]) < 1e-6);
+    QVERIFY(std::fabs(ys[1] - 111.132) < 0.001);
+}
+
+void LocalPlaneTest::agreesWithTheGridOfAProjectedMap()
+{
+    // On the zone's middle meridian the grid's scale is 0.9996 and its north is north.
+    const RawPrescription map = mapAt({500000, 501000, 500000}, {5500000, 5500000, 5501000}, 32632);
+    GeographicExtent extent;
+    QString error;
+    QVERIFY(LocalPlane::locate(map, extent, error));
+    QVERIFY(std::fabs(extent.west - 9.0) < 1e-9);
+    const LocalPlane plane(9.0, extent.south);
+    std::vector<double> xs, ys;
+    QVERIFY(plane.project(map, xs, ys, error));
+    QVERIFY(std::fabs((xs[1] - xs[0]) * 0.9996 - 1000.0) < 0.001);
+    QVERIFY(std::fabs((ys[2] - ys[0]) * 0.9996 - 1000.0) < 0.001);
+}
+
+void LocalPlaneTest::takesLatitudeFirstSystemsAsFilesStoreThem()
+{
+    // The system's definition says latitude first; files hold the longitude as x nevertheless.
+    std::vector<double> xs, ys;
+    QString error;
+    QVERIFY(LocalPlane(10.0, 45.0).project(mapAt({10.001}, {45.0}, 4258), xs, ys, error));
+    QVERIFY(xs[0] > 78.0);
+    QVERIFY(std::fabs(ys[0]) < 0.01);
+}
+
+void LocalPlaneTest::placesAMapWithoutACoordinateSystem()
+{
+    const RawPrescription map = mapAt({11.5, 11.501}, {48.99, 48.991}, 0);
+    GeographicExtent extent;
+    QString error;
+    QVERIFY(LocalPlane::locate(map, extent, error));
+    QVERIFY(std::fabs(extent.north - 48.991) < 1e-9);
+    std::vector<double> xs, ys;
+    QVERIFY(LocalPlane(11.5, 48.99).project(map, xs, ys, error));
+    QVERIFY(std::fabs(ys[1] - 111.2) < 0.1);
+}
+
+void LocalPlaneTest::refusesWhatItCannotPlace_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("size");
+    QTest::addColumn<int>("epsg");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("metres without a coordinate system")
+        << 286571.0 << 4434961.0 << 100.0 << 0 << "names no coordinate system";
+    QTest::newRow("metres called degrees") << 286571.0 << 4434961.0 << 100.0 << 4326 << "no longitudes and latitudes";
+    QTest::newRow("half the globe") << -90.0 << -45.0 << 90.0 << 4326 << "extends over";
+    QTest::newRow("half the globe, no coordinate system") << -90.0 << -45.0 << 90.0 << 0 << "extends over";
+    QTest::newRow("beyond the projection") << 1e9 << 1e9 << 100.0 << 32632 << "cannot be projected";
+    QTest::newRow("a grid's whole world") << -5e6 << 0.0 << 9e6 << 32632 << "";
+}
+
+void LocalPlaneTest::refusesWhatItCannotPlace()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, size);
+    QFETCH(int, epsg);
+    QFETCH(QString, reason);
+    GeographicExtent extent;
+    QString error;
+    QVERIFY(!LocalPlane::locate(mapAt({x, x + size}, {y, y + size}, epsg), extent, error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY2(error.contains(reason), qPrintable(error));
+}
+
+void LocalPlaneTest::acceptsAMapOfAWholeRegion()
+{
+    GeographicExtent extent;
+    QString error;
+    QVERIFY2(LocalPlane::locate(mapAt({154040, 627168}, {4829965, 4905263}, 32635), extent, error), qPrintable(error));
+}
+
+void LocalPlaneTest::measuresDistances()
+{
+    const LocalPlane plane(10.0, 45.0);
+    QCOMPARE(plane.distanceTo(10.0, 45.0), 0.0);
+    QVERIFY(std::fabs(plane.distanceTo(10.0, 46.0) - 111195.0) < 10.0);
+    QVERIFY(std::fabs(plane.distanceTo(11.0, 45.0) - 78626.0) < 50.0);
+    QVERIFY(std::fabs(plane.distanceTo(-170.0, -45.0) - 20015115.0) < 100.0);
+}
+
+RXMAP_TEST(LocalPlaneTest, Core)
+#include "tst_localplane.moc"

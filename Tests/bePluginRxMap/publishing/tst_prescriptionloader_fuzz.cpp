@@ -1,0 +1,112 @@
+// Damaged files: whatever the bytes, a load ends with a map that holds together or with one line that says why not.
+#include "fixture.h"
+#include "layerwriter.h"
+#include "prescriptionloader.h"
+#include "testbase.h"
+
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <random>
+
+using OrvikTypes::RX_POLYGON;
+
+namespace {
+
+/// Whether the chain is as its counts say, and its rings can be drawn and asked.
+bool holdsTogether(const LoadedMap &map)
+{
+    unsigned records = 0;
+    for (const RX_POLYGON *record = map.chain->first(); record != nullptr; record = record->next, ++records) {
+        if (record->vertexCount < 3 || !(record->area > 0.0))
+            return false;
+        for (unsigned i = 0; i < record->vertexCount; ++i) {
+            if (!std::isfinite(record->vertices[i].x) || !std::isfinite(record->vertices[i].y))
+                return false;
+        }
+        map.lookup->ratesAt(record->vertices[0].x, record->vertices[0].y);
+    }
+    return records == map.chain->size() && records > 0;
+}
+
+/// Flips a few bits, cuts off the end, or doubles a part.
+QByteArray damaged(QByteArray bytes, std::mt19937 &random)
+{
+    const auto place = [&bytes, &random] { return static_cast<int>(random() % static_cast<unsigned>(bytes.size())); };
+    switch (random() % 4) {
+    case 0:
+        return bytes.left(place());
+    case 1:
+        return bytes.insert(place(), bytes.mid(place(), 20));
+    default:
+        for (unsigned i = 0; i <= random() % 4; ++i)
+            bytes[place()] = static_cast<char>(random());
+        return bytes;
+    }
+}
+
+} // namespace
+
+class PrescriptionLoaderFuzz : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survivesDamage_data();
+    void survivesDamage();
+};
+
+void PrescriptionLoaderFuzz::survivesDamage_data()
+{
+    QTest::addColumn<QByteArray>("driver");
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<int>("rounds");
+    QTest::newRow("shapes") << QByteArray("ESRI Shapefile") << "shp" << 250;
+    QTest::newRow("index") << QByteArray("ESRI Shapefile") << "shx" << 80;
+    QTest::newRow("table") << QByteArray("ESRI Shapefile") << "dbf" << 150;
+    QTest::newRow("coordinate system") << QByteArray("ESRI Shapefile") << "prj" << 40;
+    QTest::newRow("GeoJSON") << QByteArray("GeoJSON") << "geojson" << 200;
+    QTest::newRow("GeoPackage") << QByteArray("GPKG") << "gpkg" << 60;
+}
+
+void PrescriptionLoaderFuzz::survivesDamage()
+{
+    QFETCH(QByteArray, driver);
+    QFETCH(QString, extension);
+    QFETCH(int, rounds);
+    const QTemporaryDir folder;
+    const QString target = extension.size() == 3 ? QStringLiteral("map.shp") : QStringLiteral("map.") + extension;
+    LayerSketch sketch;
+    sketch.driver = driver.constData();
+    sketch.fields = {{"rate", 1.0}, {"dose", 1}};
+    for (int i = 0; i < 6; ++i)
+        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {10.0 * i, i}});
+    sketch.rows.append({QStringLiteral("POLYGON ((11 48.01, 11.01 48.01, 11.01 48.02, 11 48.02, 11 48.01), "
+                                       "(11.002 48.012, 11.008 48.012, 11.005 48.018, 11.002 48.012))"),
+                        {70.0, 7}});
+    QVERIFY(sketch.write(folder.filePath(target)));
+    const QString part = folder.filePath(QStringLiteral("map.") + extension);
+    QFile file(part);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    file.close();
+
+    std::mt19937 random(static_cast<unsigned>(whole.size()));
+    int loaded = 0;
+    for (int round = 0; round < rounds; ++round) {
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(damaged(whole, random));
+        file.close();
+        const LoadControl control;
+        const LoadRequest request = requestFor(folder.filePath(target));
+        const auto map = PrescriptionLoader(request, {}, control).load();
+        if (map->report.isOk())
+            QVERIFY(holdsTogether(*map));
+        else
+            QVERIFY(map->report.error.startsWith(request.path) && !map->report.error.contains(QLatin1Char('\n')));
+        loaded += map->report.isOk() ? 1 : 0;
+    }
+    QVERIFY(loaded < rounds);
+}
+
+RXMAP_TEST(PrescriptionLoaderFuzz, Core)
+#include "tst_prescriptionloader_fuzz.moc"

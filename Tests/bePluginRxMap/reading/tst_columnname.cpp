@@ -1,0 +1,69 @@
+#include "columnname.h"
+#include "testbase.h"
+
+Q_DECLARE_METATYPE(Amount)
+
+class ColumnNameTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsRatesFromTheRest_data();
+    void tellsRatesFromTheRest();
+    void tellsWhatIsMeasuredOut_data();
+    void tellsWhatIsMeasuredOut();
+};
+
+void ColumnNameTest::tellsRatesFromTheRest_data()
+{
+    QTest::addColumn<bool>("rate");
+    QTest::addColumn<bool>("other");
+    for (const char *name : {"RATE_kg_",       "Rate",       "target_rat", "target_rate", "TgtRate",      "Tgt_Rate_l",
+                             "dose",           "DOSE",       "DOSE_1",     "Dosis",       "RATE_l_ha",    "SEED_kg_ha",
+                             "HERB_l_ha",      "FERT_kg_ha", "FERT_KG_HA", "N_kgha",      "LimeTHa",      "UreaLbAc",
+                             "Fert_kg_per_ha", "AppRate2",   "Menge_kg_h", "Rx1",         "Aufwandmenge", "ZONE_RATE",
+                             "sollwert",       "GPA",        "a_seed_ha",  "plants_acre", "floz_per_ac",  "sds_m2",
+                             "X_kst_a",        "lperhectare"})
+        QTest::newRow(name) << true << false;
+    for (const char *name :
+         {"QT_kg",     "ID",    "OBJECTID",   "fid",        "FID_1", "AREA_HA", "area",      "Shape_Area", "Shape_Leng",
+          "perimeter", "DN",    "replicatio", "LC_CLASS_5", "X_MIN", "xmax",    "Left",      "total",      "Total_kg",
+          "zone_id",   "COUNT", "Flaeche",    "HA",         "acres", "lat",     "Longitude", "YEAR",       "elevation"})
+        QTest::newRow(name) << false << true;
+    for (const char *name : {"RATE_ID", "TOTAL_KG_HA", "target_area", "SUM_RATE"})
+        QTest::newRow(name) << true << true;
+    for (const char *name : {"Urea46", "value", "product", "Mais", "N", "strategy", "kg"})
+        QTest::newRow(name) << false << false;
+    QTest::newRow("umlaut") << false << false;
+}
+
+void ColumnNameTest::tellsRatesFromTheRest()
+{
+    QFETCH(bool, rate);
+    QFETCH(bool, other);
+    const QByteArray tag = QTest::currentDataTag();
+    const ColumnName name(tag == "umlaut" ? QString::fromUtf8("Düngung") : QString::fromLatin1(tag));
+    QCOMPARE(name.namesRate(), rate);
+    QCOMPARE(name.namesOther(), other);
+}
+
+void ColumnNameTest::tellsWhatIsMeasuredOut_data()
+{
+    QTest::addColumn<Amount>("amount");
+    for (const char *name : {"SEED_KS_HA", "rate_seeds_ac", "seed_rate", "SEED_kg_ha", "PopRate", "ksha", "Saat_Rate"})
+        QTest::newRow(name) << Amount::Count;
+    for (const char *name : {"HERB_l_ha", "HERB_L_HA", "X_lha", "X_lperhectare", "qt_acre", "gal_per_ac", "N_galperac",
+                             "dose_herb", "RateMlHa"})
+        QTest::newRow(name) << Amount::Volume;
+    for (const char *name : {"RATE_kg_", "FERT_KG_HA", "N_kgha", "LimeTHa", "UreaLbAc", "fert_rate"})
+        QTest::newRow(name) << Amount::Weight;
+    for (const char *name : {"rate", "dose", "Rx1", "target_rat", "value", ""})
+        QTest::newRow(name) << Amount::Unknown;
+}
+
+void ColumnNameTest::tellsWhatIsMeasuredOut()
+{
+    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).amount(), "amount");
+}
+
+RXMAP_TEST(ColumnNameTest, Core)
+#include "tst_columnname.moc"

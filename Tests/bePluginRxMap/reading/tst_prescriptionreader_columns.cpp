@@ -1,0 +1,152 @@
+#include "readertest.h"
+
+#include <cmath>
+
+class PrescriptionReaderColumnsTest : public ReaderTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsTextAsNumbersInTheCLocale();
+    void readsColumnNamesInTheTablesOwnCodePage();
+    void takesNegativeAndEndlessNumbersForNoRate();
+    void takesANegativeZeroForZero();
+    void readsOnlyTheWantedColumns();
+    void readsAColumnThatSharesItsName();
+    void readsShapesBesideAColumnOfTheirName();
+    void refusesAColumnThatIsNotThere();
+    void refusesAColumnThatHoldsNoNumbers_data();
+    void refusesAColumnThatHoldsNoNumbers();
+    void leavesTrueAndFalseOutOfTheLikelyColumns();
+};
+
+void PrescriptionReaderColumnsTest::readsTextAsNumbersInTheCLocale()
+{
+    const QByteArray before = setlocale(LC_ALL, nullptr);
+    setlocale(LC_ALL, "de_DE.UTF-8");
+    QLocale::setDefault(QLocale(QLocale::German));
+    const bool isRead = read(fixture("text-rates.geojson"));
+    setlocale(LC_ALL, before.constData());
+    QLocale::setDefault(QLocale::c());
+    QVERIFY(isRead);
+    QCOMPARE(map.columns.size(), size_t(1));
+    const SourceColumn &column = map.columns[0];
+    QVERIFY(column.isText);
+    QCOMPARE(column.values[0], 12.5);
+    QCOMPARE(column.values[1], 7.0);
+    QVERIFY(std::isnan(column.values[2]));
+    QVERIFY(std::isnan(column.values[3]));
+    QCOMPARE(column.unreadable, 1);
+}
+
+void PrescriptionReaderColumnsTest::readsColumnNamesInTheTablesOwnCodePage()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"D_ngung", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QFile::remove(path("a.cpg"));
+    QVERIFY(replaceIn("a.dbf", "D_ngung", "D\xfcngung"));
+    QVERIFY2(read(path("a.shp"), {QString::fromUtf8("düngung")}), qPrintable(error));
+    QCOMPARE(map.columns[0].values[0], 80.0);
+}
+
+void PrescriptionReaderColumnsTest::takesNegativeAndEndlessNumbersForNoRate()
+{
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {-9999.0}}, {squareText(11.1, 48.0, 0.001), {HUGE_VAL}}};
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QVERIFY(read(path("a.gpkg")));
+    QVERIFY(std::isnan(map.columns[0].values[0]));
+    QVERIFY(std::isnan(map.columns[0].values[1]));
+    QCOMPARE(map.columns[0].unreadable, 2);
+}
+
+void PrescriptionReaderColumnsTest::takesANegativeZeroForZero()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"rate", QStringLiteral("text")}};
+    sketch.rows = {{squareText(11.2, 48.0, 0.001), {QStringLiteral("-0.0")}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QVERIFY(read(path("a.shp")));
+    QCOMPARE(map.columns[0].values[0], 0.0);
+    QVERIFY(!std::signbit(map.columns[0].values[0]));
+}
+
+void PrescriptionReaderColumnsTest::readsOnlyTheWantedColumns()
+{
+    QVERIFY(read(fixture("three-zones.geojson"),
+                 {QStringLiteral("area_ha"), QString(), QStringLiteral("SEED_k_ha"), QStringLiteral("area_ha")}));
+    QCOMPARE(map.columns.size(), size_t(2));
+    QCOMPARE(map.columns[0].name, QStringLiteral("area_ha"));
+    QCOMPARE(map.columns[1].name, QStringLiteral("SEED_K_HA"));
+}
+
+void PrescriptionReaderColumnsTest::readsAColumnThatSharesItsName()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"RATE_A", 1.0}, {"RATE_B", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, 90.0}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QVERIFY(replaceIn("a.dbf", "RATE_B", "RATE_A"));
+    QVERIFY2(read(path("a.shp"), {QStringLiteral("RATE_A")}), qPrintable(error));
+    QCOMPARE(map.columnNames, QStringList({QStringLiteral("RATE_A"), QStringLiteral("RATE_A")}));
+    QCOMPARE(map.columns[0].values[0], 80.0);
+}
+
+void PrescriptionReaderColumnsTest::readsShapesBesideAColumnOfTheirName()
+{
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"RATE", 1.0}, {"OGR_GEOMETRY", QString()}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, QStringLiteral("cell")}}};
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QVERIFY2(read(path("a.gpkg"), {QStringLiteral("RATE")}), qPrintable(error));
+    QCOMPARE(map.rings.size(), size_t(1));
+}
+
+void PrescriptionReaderColumnsTest::refusesAColumnThatIsNotThere()
+{
+    QVERIFY(!read(fixture("three-zones.geojson"), {QStringLiteral("LIME")}));
+    QVERIFY2(error.contains(QStringLiteral("\"LIME\"")) && error.contains(QStringLiteral("FERT_KG_HA")),
+             qPrintable(error));
+}
+
+void PrescriptionReaderColumnsTest::refusesAColumnThatHoldsNoNumbers_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("a list") << QByteArray("[1.0, 2.0]");
+    QTest::newRow("true") << QByteArray("true");
+    QTest::newRow("false") << QByteArray("false");
+}
+
+void PrescriptionReaderColumnsTest::refusesAColumnThatHoldsNoNumbers()
+{
+    QFETCH(QByteArray, value);
+    LayerSketch sketch;
+    sketch.driver = "GeoJSON";
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
+    QVERIFY(sketch.write(path("a.geojson")));
+    QVERIFY(replaceIn("a.geojson", "\"rate\": 1.0", "\"rate\": " + value));
+    QVERIFY(!read(path("a.geojson"), {QStringLiteral("rate")}));
+    QCOMPARE(error, QStringLiteral("column \"rate\" holds no numbers"));
+}
+
+void PrescriptionReaderColumnsTest::leavesTrueAndFalseOutOfTheLikelyColumns()
+{
+    QFile file(path("a.geojson"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"type": "FeatureCollection", "features": [{"type": "Feature",
+        "properties": {"rate": true, "rate_b": 7.5},
+        "geometry": {"type": "Polygon", "coordinates": [[[11, 48], [11.001, 48], [11, 48.001], [11, 48]]]}}]})");
+    file.close();
+    QVERIFY2(read(path("a.geojson")), qPrintable(error));
+    QCOMPARE(map.columns.size(), size_t(1));
+    QCOMPARE(map.columns[0].name, QStringLiteral("rate_b"));
+    QCOMPARE(map.columnNames, QStringList({QStringLiteral("rate"), QStringLiteral("rate_b")}));
+}
+
+RXMAP_TEST(PrescriptionReaderColumnsTest, Core)
+#include "tst_prescriptionreader_columns.moc"

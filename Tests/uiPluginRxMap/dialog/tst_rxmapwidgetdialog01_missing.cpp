@@ -1,0 +1,208 @@
+#include "dialoghost.h"
+#include "dialogprobe.h"
+#include "testbase.h"
+
+/// The dialog where the host lacks something that it needs.
+class TestDialogMissing : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aGroupThatWasNeverWrittenGivesNoSettings();
+    void settingsComeFromTheFirstNameEvenIfItIsNoMap();
+    void missingPiecesLeaveAUsableDialog_data();
+    void missingPiecesLeaveAUsableDialog();
+};
+
+namespace {
+
+struct Opened {
+    explicit Opened(DialogHost &host)
+        : dialog(&host.broker, host.images, nullptr)
+        , probe(dialog)
+    {
+    }
+
+    RxMapWidgetDialog01 dialog;
+    DialogProbe probe;
+};
+
+/// Types and switches whatever the third product offers, and unlocks it first.
+void useEveryControl(Opened &opened)
+{
+    opened.dialog.productSelectionChanged(2);
+    opened.dialog.setControlsEnabledState(true);
+    DialogProbe::type(opened.probe.lookAheadEdit(), QStringLiteral("1.5"));
+    DialogProbe::type(opened.probe.defaultRateEdit(), QStringLiteral("12.5"));
+    DialogProbe::release(opened.probe.zeroRateShutoffBox());
+    DialogProbe::release(opened.probe.applyToAllBox());
+    DialogProbe::release(opened.probe.applyToAllBox());
+    opened.dialog.setControlsEnabledState(true);
+}
+
+void takeAway(DialogHost &host, const QString &missing)
+{
+    const auto isMissing = [&missing](const char *piece) {
+        return missing == QLatin1String("everything") || missing == QLatin1String(piece);
+    };
+    if (isMissing("map") || missing == QLatin1String("map of another class"))
+        host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    if (missing == QLatin1String("map of another class"))
+        host.broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
+    if (missing == QLatin1String("settings"))
+        host.map->setSettings({OrvikTypes::RX_SETTINGS()});
+    if (isMissing("units"))
+        host.broker.removeGroup(QStringLiteral("QmlUnitsConverter"));
+    if (isMissing("gps"))
+        host.broker.removeGroup(QStringLiteral("mainGpsSolution"));
+    if (missing == QLatin1String("node"))
+        host.products.at(2)->setPrimaryProductNodeGroup(nullptr);
+    if (missing == QLatin1String("loader"))
+        host.products.at(2)->setRxMapLoader(nullptr);
+    if (isMissing("products")) {
+        host.products.clear();
+        host.setLoaded();
+    }
+    if (isMissing("bins")) {
+        for (BinGroup *bin : qAsConst(host.bins))
+            host.broker.removeGroup(bin->name());
+    }
+    if (isMissing("images"))
+        host.images = QDir(QStringLiteral("/nowhere"));
+}
+
+} // namespace
+
+void TestDialogMissing::aGroupThatWasNeverWrittenGivesNoSettings()
+{
+    DialogHost host;
+    host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    DbGroupRxMap *group = host.host.addMap(QStringLiteral("fresh"), {1, 2, 3});
+    Opened opened(host);
+    opened.dialog.show();
+    QVERIFY(opened.probe.settings().isEmpty());
+    QCOMPARE(opened.probe.selectedProduct(), 0);
+    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("0.0"));
+    QCOMPARE(opened.probe.zeroRateShutoffBox()->currentImage(), 0);
+    QCOMPARE(opened.probe.applyToAllBox()->currentImage(), 0);
+    useEveryControl(opened);
+    QVERIFY(opened.probe.settings().isEmpty());
+    DialogProbe::release(opened.probe.doneButton());
+    QVERIFY(group->getSettings().isEmpty());
+    // The mappings do not need them.
+    QCOMPARE(group->getRateCalMappings().at(2).defaultRate, 12.5);
+    QCOMPARE(host.reInitialisations, 0);
+}
+
+void TestDialogMissing::settingsComeFromTheFirstNameEvenIfItIsNoMap()
+{
+    DialogHost host;
+    host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    host.broker.publishGroup(new BinGroup(QStringLiteral("rxMap.other")));
+    DbGroupRxMap *group = host.host.addMap(QStringLiteral("second"), {1, 2, 3});
+    OrvikTypes::RX_SETTINGS entry;
+    entry.onLookAheadMs = 2500;
+    entry.zeroRateShutoff = true;
+    const QList<OrvikTypes::RX_SETTINGS> settings{entry, entry, entry};
+    group->setSettings(settings);
+    Opened opened(host);
+    opened.dialog.show();
+    QVERIFY(opened.probe.settings().isEmpty());
+    QCOMPARE(opened.probe.lookAheadEdit()->getText(), QStringLiteral("0.0"));
+    QCOMPARE(opened.probe.mappings(), group->getRateCalMappings());
+    useEveryControl(opened);
+    DialogProbe::release(opened.probe.doneButton());
+    QCOMPARE(group->getSettings(), settings);
+    QCOMPARE(group->getRateCalMappings().at(2).defaultRate, 12.5);
+    QCOMPARE(host.reInitialisations, 0);
+}
+
+void TestDialogMissing::missingPiecesLeaveAUsableDialog_data()
+{
+    QTest::addColumn<QString>("missing");
+    QTest::addColumn<QString>("lookAhead");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("rate");
+    QTest::addColumn<bool>("settingsWritten");
+    QTest::addColumn<double>("mappingRate");
+    QTest::addColumn<double>("loaderRate");
+    const QString caption = QStringLiteral("Default Rate (kg/ha)");
+    QTest::newRow("nothing") << "nothing"
+                             << "3.0" << caption << "4" << true << 12.5 << 12.5;
+    QTest::newRow("map") << "map"
+                         << "0.0" << caption << "????" << false << 4.0 << 12.5;
+    QTest::newRow("other class") << "map of another class"
+                                 << "0.0" << caption << "????" << false << 4.0 << 12.5;
+    QTest::newRow("settings") << "settings"
+                              << "0.0" << caption << "4" << false << 12.5 << 12.5;
+    QTest::newRow("units") << "units"
+                           << "3.0"
+                           << ""
+                           << "0" << true << 4.0 << 3.0;
+    QTest::newRow("gps") << "gps"
+                         << "3.0" << caption << "4" << true << 12.5 << 12.5;
+    // No product has given its factors yet, so that what is typed counts as 0.
+    QTest::newRow("products") << "products"
+                              << "3.0"
+                              << ""
+                              << "0" << true << 0.0 << 3.0;
+    // The factors are those of the product before.
+    QTest::newRow("node") << "node"
+                          << "3.0"
+                          << ""
+                          << "4" << true << 12.5 << 12.5;
+    QTest::newRow("loader") << "loader"
+                            << "3.0" << caption << "4" << true << 12.5 << 3.0;
+    // Without bins no product is under control, so Done cancels; the master falls to the first product.
+    QTest::newRow("bins") << "bins"
+                          << "3.0" << caption << "4" << false << 4.0 << 12.5;
+    QTest::newRow("images") << "images"
+                            << "3.0" << caption << "4" << true << 12.5 << 12.5;
+    QTest::newRow("group removed") << "group removed while open"
+                                   << "3.0" << caption << "4" << false << 4.0 << 12.5;
+    QTest::newRow("everything") << "everything"
+                                << "0.0"
+                                << ""
+                                << "????" << false << 4.0 << 3.0;
+}
+
+void TestDialogMissing::missingPiecesLeaveAUsableDialog()
+{
+    QFETCH(QString, missing);
+    QFETCH(bool, settingsWritten);
+    DialogHost host;
+    // None of them as a fresh record has it.
+    auto mappings = host.map->getRateCalMappings();
+    mappings[2].defaultRate = 4.0;
+    host.map->setRateCalMappings(mappings);
+    host.loaders[2].defaultRate = 3.0;
+    takeAway(host, missing);
+    auto expected = host.map->getSettings();
+    if (settingsWritten) {
+        expected[2].onLookAheadMs = 1500;
+        for (OrvikTypes::RX_SETTINGS &entry : expected)
+            entry.zeroRateShutoff = true;
+    }
+
+    Opened opened(host);
+    opened.dialog.show();
+    if (missing == QLatin1String("group removed while open"))
+        host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    for (int product = 0; product < 3; ++product)
+        opened.dialog.productSelectionChanged(product);
+    QTEST(opened.probe.lookAheadEdit()->getText(), "lookAhead");
+    QTEST(opened.probe.defaultRateLabel()->text(), "caption");
+    QTEST(opened.probe.defaultRateEdit()->getText(), "rate");
+    // Without a bin a product is not under control; else even a rate field without a node is shown, as it is meant.
+    const bool hasBins = missing != QLatin1String("bins") && missing != QLatin1String("everything");
+    QCOMPARE(opened.probe.defaultRateEdit()->isVisible(), hasBins);
+    useEveryControl(opened);
+    QCOMPARE(messages().debugLines(), QStringList());
+    DialogProbe::release(opened.probe.doneButton());
+    QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(host.map->getSettings(), expected);
+    QTEST(host.map->getRateCalMappings().at(2).defaultRate, "mappingRate");
+    QTEST(host.loaders[2].defaultRate, "loaderRate");
+}
+
+RXMAP_TEST(TestDialogMissing, Widgets)
+#include "tst_rxmapwidgetdialog01_missing.moc"
