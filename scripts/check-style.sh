@@ -1,32 +1,18 @@
 #!/usr/bin/env bash
-# Checks the format of all sources, and has clang-tidy look at those of the plug-in and of the simulator with their
-# headers, the host interfaces' among them. Installs nothing and builds nothing.
-#   scripts/check-style.sh [PATTERN...]    clang-tidy looks at the files whose paths match
+# Checks the format of all sources; then clang-tidy looks at the sources of the plug-in and of the simulator that changed
+# since a revision (by default the last commit), with the headers that they include. Installs the two tools.
+#   scripts/check-style.sh [--format-only | REVISION]
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source scripts/install-packages.sh
 
-missing=()
-for tool in clang-format clang-tidy run-clang-tidy python3; do
-    command -v "$tool" >/dev/null || missing+=("$tool")
-done
-if ((${#missing[@]} > 0)); then
-    echo "check-style.sh: not installed: ${missing[*]}" >&2
-    exit 1
-fi
-
+install_packages clang-format
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror
+[[ "${1:-}" == --format-only ]] && exit 0
 
-# Some sources are compiled into tests once more, with a precompiled header that clang cannot read.
-[[ -f build/dev/compile_commands.json ]] || cmake --preset dev >/dev/null
-mkdir -p build/dev/style
-python3 - build/dev/compile_commands.json >build/dev/style/compile_commands.json <<'PYTHON'
-import json, os, sys
-
-with open(sys.argv[1]) as database:
-    entries = json.load(database)
-folders = tuple(os.path.join(os.getcwd(), folder, "") for folder in ("Plugins", "Simulator"))
-json.dump([entry for entry in entries
-           if entry["file"].startswith(folders) and " -o Tests/" not in entry["command"]
-           and " -o Benchmarks/" not in entry["command"]], sys.stdout)
-PYTHON
-run-clang-tidy -quiet -p build/dev/style -j "$(nproc)" -extra-arg=-Wno-unknown-warning-option "$@"
+install_packages clang-tidy
+mapfile -t changed < <(git diff --name-only --diff-filter=d "${1:-HEAD^}" -- 'Plugins/*.cpp' 'Simulator/*.cpp')
+((${#changed[@]} == 0)) && exit 0
+cmake --preset dev >/dev/null
+cmake --build --preset dev --target terminal-simulator >/dev/null # Writes the headers that moc and rcc make.
+clang-tidy --quiet -p build/dev --extra-arg=-Wno-unknown-warning-option "${changed[@]}"

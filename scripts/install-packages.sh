@@ -1,4 +1,4 @@
-# Installs the Debian packages that are missing; sourced by run.sh and test.sh.
+# Installs the Debian packages that are missing; sourced by the scripts that need them.
 # Nothing touches the network, or asks for root, when all of them are there.
 
 packages=(
@@ -9,9 +9,11 @@ packages=(
     librsvg2-bin fonts-liberation xvfb xauth x11-xkb-utils
 )
 
+# install_packages [PACKAGE...]: those named, else all that building and running take.
 install_packages() {
     local missing=() package
-    for package in "${packages[@]}"; do
+    (($# > 0)) || set -- "${packages[@]}"
+    for package in "$@"; do
         [[ "$(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null)" == ii* ]] || missing+=("$package")
     done
     ((${#missing[@]} == 0)) && return 0
