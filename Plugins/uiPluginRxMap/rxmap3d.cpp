@@ -28,14 +28,17 @@ using Legends = QList<QList<RX_RATECOLOR>>;
 
 namespace {
 
-/// The first prescription group, in the broker's order, that maps `product`; null when there is none.
-DataBrokerGroup *findRxMapGroup(const DataBroker &broker, const QString &product)
+/// The first prescription group, in the broker's order, that maps the product of `aam`; null when there is none.
+DataBrokerGroup *findRxMapGroup(const DataBroker &broker, const DbGroupAAM &aam)
 {
     const QStringList names = broker.findGroup(QStringLiteral("rxMap.*"), true, false);
     for (const QString &name : names) {
         DataBrokerGroup *group = broker.getGroup(name, false);
         // A hook may have taken the group out since the names were listed.
-        if (group != nullptr && findMapping(groupValue<Mappings>(*group, "rateCalMappings"), product) >= 0)
+        if (group == nullptr)
+            continue;
+        const auto mappings = groupValue<Mappings>(*group, "rateCalMappings");
+        if (findMapping(mappings, aam.productGroupName()) >= 0)
             return group;
     }
     return nullptr;
@@ -66,17 +69,15 @@ void RxMap3D::setAamGroup(DbGroupAAM *group)
 
 void RxMap3D::updateRxMapGroup()
 {
-    DataBrokerGroup *group = nullptr;
-    if (aamGroup != nullptr && broker != nullptr) {
-        // Reading runs the host's hooks, which may delete this or choose another product meanwhile: that choice is
-        // the newer one.
-        const QPointer<RxMap3D> self(this);
-        const DbGroupAAM *aam = aamGroup;
-        group = findRxMapGroup(*broker, aam->productGroupName());
-        if (self == nullptr || aamGroup != aam)
-            return;
-    }
-    setDbGroup(group);
+    // Reading runs the host's hooks, which may delete this or activate another product: that one is chosen for then.
+    const QPointer<RxMap3D> self(this);
+    const DbGroupAAM *aam = nullptr;
+    do {
+        aam = aamGroup;
+        DataBrokerGroup *group = aam == nullptr || broker == nullptr ? nullptr : findRxMapGroup(*broker, *aam);
+        if (self != nullptr && aamGroup == aam)
+            setDbGroup(group);
+    } while (self != nullptr && aamGroup != aam);
 }
 
 void RxMap3D::setDbGroup(DataBrokerGroup *group)
@@ -108,11 +109,13 @@ void RxMap3D::updatePolygons()
     GLUtesselator *tessellator = gluNewTess();
     if (tessellator == nullptr)
         return;
-    // The tessellator is meant to be left behind here: without a group or a product nothing is taken back.
+    // By design: without a group or a product the tessellator is left behind.
     if (rxMapGroup == nullptr || aamGroup == nullptr)
         return;
-    // Reading runs the host's hooks, which may delete this, bind another group or build the map meanwhile.
+    // Reading runs the host's hooks, which may delete this, activate another product or build the map meanwhile: that
+    // build is the newer one, and the polygons read here may be gone since.
     const QPointer<RxMap3D> self(this);
+    const unsigned int build = ++latestBuild;
     const DataBrokerGroup &group = *rxMapGroup;
     const DbGroupAAM &aam = *aamGroup;
     PolygonTessellation::registerCallbacks(tessellator);
@@ -122,9 +125,8 @@ void RxMap3D::updatePolygons()
     const auto mappings = groupValue<Mappings>(group, "rateCalMappings");
     const int mappingIndex = findMapping(mappings, aam.productGroupName());
     const auto legends = groupValue<Legends>(group, "rateColors");
-    const bool isStillBound = self != nullptr && rxMapGroup == &group && aamGroup == &aam;
-    if (isStillBound && mappingIndex >= 0 && mappingIndex < legends.size()) {
-        vertexBanks = QList<VertexBank>();
+    const bool isLatest = self != nullptr && latestBuild == build && aamGroup == &aam;
+    if (isLatest && mappingIndex >= 0 && mappingIndex < legends.size()) {
         VertexBank &bank = *addVertexBank(QStringLiteral("RxMap3D_Verts"));
         tessellateChain(bank, tessellator, RingLists(chain, count), legends.at(mappingIndex), mappingIndex);
     }

@@ -72,4 +72,5 @@ private:
     DataBrokerGroup *rxMapGroup = nullptr;
     DbGroupAAM *aamGroup = nullptr;
     QList<VertexBank> vertexBanks;
+    unsigned int latestBuild = 0; ///< Number of the build that was started last.
 };

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void theChoiceMayLoseItsProduct_data();
     void theChoiceMayLoseItsProduct();
     void theNewerChoiceStays();
+    void beforeInitTheNewerChoiceIsBoundToo_data();
+    void beforeInitTheNewerChoiceIsBoundToo();
+    void theChoiceMayLoseTheDrawable_data();
     void theChoiceMayLoseTheDrawable();
     void aMapTakenOutWhileChoosingIsSkipped();
     void aMapPublishedWhileChoosingIsNotLookedFor();
@@ -33,6 +36,8 @@ private Q_SLOTS:
     void aRebuildMayBindAnotherMap();
     void aRebuildMayLoseTheDrawable_data();
     void aRebuildMayLoseTheDrawable();
+    void aRebuildMayLoseItsPolygons_data();
+    void aRebuildMayLoseItsPolygons();
 
 private:
     /// Lets the next read of the property do something first, once.
@@ -133,10 +138,37 @@ void TestRxMap3DHooks::theNewerChoiceStays()
     QCOMPARE(RxMap3DProbe::banks(*drawable).at(0).vertices.size(), 12);
 }
 
+void TestRxMap3DHooks::beforeInitTheNewerChoiceIsBoundToo_data()
+{
+    rebuildProperties();
+    QTest::newRow("the product's name") << QByteArray("productGroupName");
+}
+
+void TestRxMap3DHooks::beforeInitTheNewerChoiceIsBoundToo()
+{
+    QFETCH(QByteArray, property);
+    RxMap3D uninitialised(&host->broker, nullptr);
+    uninitialised.setAamGroup(host->aam(1));
+    DataBrokerGroup *aam = host->aam(1);
+    onNextRead(property == "productGroupName" ? aam : firstMap, property,
+               [this, &uninitialised] { uninitialised.setAamGroup(host->aam(2)); });
+    uninitialised.updateRxMapGroup();
+    QCOMPARE(RxMap3DProbe::boundGroup(uninitialised), secondMap);
+    QCOMPARE(RxMap3DProbe::banks(uninitialised).at(0).vertices.size(), 12);
+}
+
+void TestRxMap3DHooks::theChoiceMayLoseTheDrawable_data()
+{
+    theChoiceMayLoseItsProduct_data();
+}
+
 void TestRxMap3DHooks::theChoiceMayLoseTheDrawable()
 {
+    QFETCH(bool, fromProductName);
     const QPointer<RxMap3D> watched(drawable);
-    onNextRead(firstMap, "rateCalMappings", [this] { delete std::exchange(drawable, nullptr); });
+    DataBrokerGroup *aam = host->aam(1);
+    onNextRead(fromProductName ? aam : firstMap, fromProductName ? "productGroupName" : "rateCalMappings",
+               [this] { delete std::exchange(drawable, nullptr); });
     drawable->updateRxMapGroup();
     QVERIFY(watched.isNull());
 }
@@ -214,6 +246,28 @@ void TestRxMap3DHooks::aRebuildMayLoseTheDrawable()
     onNextRead(firstMap, property, [this] { delete std::exchange(drawable, nullptr); });
     drawable->updatePolygons();
     QVERIFY(watched.isNull());
+}
+
+void TestRxMap3DHooks::aRebuildMayLoseItsPolygons_data()
+{
+    rebuildProperties();
+}
+
+void TestRxMap3DHooks::aRebuildMayLoseItsPolygons()
+{
+    QFETCH(QByteArray, property);
+    // As a back-end does: the count first, then the memory.
+    const auto withdraw = [](void *argument) {
+        auto &test = *static_cast<TestRxMap3DHooks *>(argument);
+        const HandMadeChain withdrawn = std::exchange(test.firstChain, HandMadeChain());
+        if (withdrawn.count() > 0)
+            test.firstMap->setPolygonCount(0);
+    };
+    QVERIFY(firstMap->setAfterReadHook(property, withdraw, this));
+    drawable->updatePolygons();
+    QCOMPARE(firstChain.count(), 0U);
+    QCOMPARE(RxMap3DProbe::banks(*drawable).size(), 1);
+    QVERIFY(RxMap3DProbe::banks(*drawable).at(0).vertices.isEmpty());
 }
 
 RXMAP_TEST(TestRxMap3DHooks, Widgets)
