@@ -12,12 +12,14 @@
 #include "Framework/dbgroupaam.h"
 #include "Framework/orvikdebugclass.h"
 
+#include <QOpenGLContext>
 #include <QOpenGLShader>
 #include <QOpenGLShaderProgram>
 #include <QPointer>
 
 #include <GL/glu.h>
 #include <iostream>
+#include <new>
 #include <string>
 #include <syslog.h>
 
@@ -181,9 +183,11 @@ bool RxMap3D::isInitialized() const
 void RxMap3D::init()
 {
     // Without a context there are no functions to find; a later call has another chance.
-    if (isInitialized() || QOpenGLContext::currentContext() == nullptr)
+    const QOpenGLContext *context = QOpenGLContext::currentContext();
+    if (isInitialized() || context == nullptr)
         return;
     initializeOpenGLFunctions();
+    connect(context, &QOpenGLContext::aboutToBeDestroyed, this, &RxMap3D::forgetContext, Qt::UniqueConnection);
     auto *vertexShader = new QOpenGLShader(QOpenGLShader::Vertex, this);
     auto *fragmentShader = new QOpenGLShader(QOpenGLShader::Fragment, this);
     vertexShader->compileSourceFile(QStringLiteral(":/colorpoly_vert.glsl"));
@@ -191,6 +195,17 @@ void RxMap3D::init()
     shaderProgram().addShader(vertexShader);
     shaderProgram().addShader(fragmentShader);
     shaderProgram().link();
+}
+
+// Qt frees the functions with their context, and its programs are never created a second time: the one of Object3D is
+// made anew in its place.
+void RxMap3D::forgetContext()
+{
+    QOpenGLFunctions::d_ptr = nullptr;
+    QOpenGLShaderProgram *program = &shaderProgram();
+    program->~QOpenGLShaderProgram();
+    new (program) QOpenGLShaderProgram;
+    qDeleteAll(findChildren<QOpenGLShader *>());
 }
 
 void RxMap3D::draw(QMatrix4x4 mvp)

@@ -22,7 +22,8 @@ struct RingLists;
 /// Everything runs on the user-interface thread. Of OpenGL it expects blending as the host set it and a context that
 /// is current in init() and draw(); it leaves its shader program bound and its two attribute arrays disabled, their
 /// pointers stale, takes the pending OpenGL errors, and leaves all else as it found it. Vertices are handed over from
-/// client memory: no buffer objects are made.
+/// client memory: no buffer objects are made. A context that is destroyed takes along what init() made for it: until
+/// the next init() nothing is drawn.
 class RxMap3D : public QObject, public Object3D {
     Q_OBJECT
 
@@ -63,6 +64,8 @@ private:
     void chooseColor(const QList<OrvikTypes::RX_RATECOLOR> &legend, const OrvikTypes::RX_POLYGON &polygon,
                      int mappingIndex);
     bool isInitialized() const;
+    /// Frees what init() made for a context that ends; the next init() starts anew.
+    void forgetContext();
     void drawBank(const VertexBank &bank);
     /// Writes pending OpenGL errors, found at `line` of the source, to the system log and to standard output.
     void reportErrors(int line);
