@@ -3,7 +3,7 @@
 
 #include "rxmapwidgetdialog01.h"
 
-#include "controlids.h"
+#include "rxmapsettingsrules.h"
 
 #include "Framework/databroker.h"
 #include "Framework/dbgroupqmlunitsconverter.h"
@@ -13,7 +13,33 @@
 #include "bePluginRxMap/dbgrouprxmap.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QVariant>
+
+namespace {
+
+/// Writes every group's share of the mappings, then the settings, to the first group alone. All that it needs is
+/// copied: a listener of a write may delete the dialog, and the rest is written all the same.
+void writeBack(DataBroker *broker, const QList<DbGroupRxMap *> groups,
+               const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> mappings, DbGroupRxMap *settingsGroup,
+               const QList<OrvikTypes::RX_SETTINGS> settings)
+{
+    // By design: written without a token; the plug-in holds none, so a write-protected property refuses.
+    int taken = 0;
+    for (DbGroupRxMap *group : groups) {
+        const auto held = group->getRateCalMappings();
+        group->setRateCalMappings(RxMapSettingsRules::shareOf(mappings, taken, held), nullptr);
+        taken += held.size();
+    }
+    if (settingsGroup == nullptr)
+        return;
+    const auto old = settingsGroup->getSettings();
+    settingsGroup->setSettings(settings, nullptr);
+    if (RxMapSettingsRules::needsReInit(old, settings))
+        broker->setProperty("quillSpan", "reInit", QVariant(true));
+}
+
+} // namespace
 
 RxMapWidgetDialog01::RxMapWidgetDialog01(DataBroker *broker, QDir &imageDir, QWidget *parent)
     : QDialog(parent)
@@ -95,7 +121,7 @@ QLabel *RxMapWidgetDialog01::addCaption(QString text, QPoint position, int point
     label->setAttribute(Qt::WA_TranslucentBackground);
     label->setParent(parent);
     label->setText(text);
-    // Meant to change the member: the fonts of line edits and product buttons are copied from it later.
+    // By design: the member is changed, from which the fonts of line edits and product buttons are copied later.
     dialogFont.setPointSize(pointSize);
     label->setFont(dialogFont);
     label->move(position);
@@ -180,7 +206,7 @@ OrvikButton *RxMapWidgetDialog01::addProductButton(int index, const QString &bin
     return button;
 }
 
-// There is no scrolling: with more buttons than fit, the gap turns negative and they overlap, as designed.
+// By design: there is no scrolling; with more buttons than fit, the gap turns negative and they overlap.
 void RxMapWidgetDialog01::spreadProductButtons()
 {
     if (productButtons.isEmpty())
@@ -192,7 +218,7 @@ void RxMapWidgetDialog01::spreadProductButtons()
         productButtons.at(k)->move(23, gap + k * (buttonHeight + gap));
 }
 
-// It is made last, so that it lies over the buttons' left 32 pixels; that is by design.
+// By design: it is made last, so that it lies over the buttons' left 32 pixels.
 void RxMapWidgetDialog01::addProductsCaption()
 {
     auto *caption = new QLabel(tr("P\nR\nO\nD\nU\nC\nT\nS"), this);
@@ -218,45 +244,17 @@ void RxMapWidgetDialog01::selectInitialProduct()
 
 void RxMapWidgetDialog01::doneButtonReleased(int)
 {
-    // A second touch may be on its way when the first one closes the dialog, and hides the message with it.
+    // A further touch may come while the first one is written, or be on its way when the dialog closes and hides the
+    // message.
     if (result() == QDialog::Accepted)
         return;
-    // Meant to decide by the message, whatever the button shows: they differ before the first evaluation of a product
+    const QPointer<RxMapWidgetDialog01> self(this);
+    // By design: the message decides, whatever the button shows: they differ before the first evaluation of a product
     // under control.
     if (!vehicleMovingLabel->isVisible()) {
-        writeMappings();
-        writeSettings();
+        setResult(QDialog::Accepted);
+        writeBack(broker, rxMapGroups, rateCalMappings, settingsGroup, settings);
     }
-    accept();
-}
-
-// The working list carries no group tags: each group takes as many entries as it holds now, in order. A group that grew
-// takes entries meant for the next one; that is accepted.
-void RxMapWidgetDialog01::writeMappings()
-{
-    for (DbGroupRxMap *group : qAsConst(rxMapGroups)) {
-        QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> mappings = group->getRateCalMappings();
-        for (int k = 0; k < mappings.size() && !rateCalMappings.isEmpty(); ++k)
-            mappings[k] = rateCalMappings.takeFirst();
-        // Meant without a token: the plug-in holds none, so a write-protected property refuses.
-        group->setRateCalMappings(mappings, nullptr);
-    }
-}
-
-// Only the first group receives settings.
-void RxMapWidgetDialog01::writeSettings()
-{
-    if (settingsGroup == nullptr)
-        return;
-    const QList<OrvikTypes::RX_SETTINGS> old = settingsGroup->getSettings();
-    // Meant without a token here too.
-    settingsGroup->setSettings(settings, nullptr);
-    // The group's list may have grown since the dialog was built.
-    for (int i = 0; i < qMin(old.size(), settings.size()); ++i) {
-        if (old.at(i).isMaster != settings.at(i).isMaster
-            || old.at(i).zeroRateShutoff != settings.at(i).zeroRateShutoff) {
-            broker->setProperty("quillSpan", "reInit", QVariant(true));
-            return;
-        }
-    }
+    if (self)
+        accept();
 }

@@ -23,6 +23,9 @@ class QLabel;
 /// back on Done; only the default rate goes to the product's loader as it is typed. While the vehicle moves, or is not
 /// known to stand, the controls are locked. Layout is in fixed pixels, sized to the background image. A product is
 /// named by its index from 0 throughout, the same in buttons, settings, bin groups and loaded products.
+///
+/// Every access to the broker runs the host's hooks and listeners, which may delete the dialog, select another product
+/// or press Done again: members are read before it, or after a check that the dialog still lives.
 class RxMapWidgetDialog01 : public QDialog {
     Q_OBJECT
 
@@ -55,6 +58,9 @@ public Q_SLOTS:
 private:
     friend class DialogProbe;
 
+    /// By which the value controls report.
+    enum ControlId { ApplyToAllId = 0, LookAheadId = 1, ZeroRateShutoffId = 2, DefaultRateId = 3 };
+
     void setupWindow();
     void setupControls();
     OrvikButton *addCheckBox(int id, const QPoint &position, const char *name);
@@ -66,22 +72,14 @@ private:
     void readGroups();
     void selectInitialProduct();
 
-    bool isVehicleStopped() const;
-    /// Name of the prescription group that drives the selected product; empty when none does.
-    QString rxMapGroupName() const;
+    /// Locks or unlocks the controls by what the vehicle does now.
+    void followVehicle();
     void showDefaultRate();
     /// The product has a unit, but there is no converter that tells it.
     bool lacksUnits(const ProductLineItem &product) const;
     void setProductButtonLook(int index, bool selected);
     void lookAheadEdited();
-    void zeroRateShutoffReleased();
     void defaultRateEdited();
-    /// Stores the rate (base units) with the selected product's loader and takes it into use, if it is another one.
-    void pushDefaultRate(double rate);
-    bool hasSelectedSettings() const;
-
-    void writeMappings();
-    void writeSettings();
 
     DataBroker *broker;
     DbGroupQmlUnitsConverter *unitsConverter = nullptr;
@@ -105,7 +103,7 @@ private:
     QList<DbGroupRxMap *> rxMapGroups;
     QList<OrvikTypes::RX_SETTINGS> settings;
     QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings; ///< Every group's list, in group order.
-    // Two of the sizes, and the large font, are read by nothing; they are meant to stay part of the class.
+    // By design: two of the sizes, and the large font, are read by nothing.
     int titlePointSize = 0;
     int subtitlePointSize = 0;
     int captionPointSize = 0;

@@ -1,8 +1,8 @@
 // What the dialog's controls do between construction and Done.
 
-#include "controlids.h"
 #include "ratemapping.h"
 #include "rateunits.h"
+#include "rxmapsettingsrules.h"
 #include "rxmapwidgetdialog01.h"
 
 #include "Framework/binmanager.h"
@@ -15,11 +15,13 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QTimer>
 #include <QVariant>
 
 #include <cmath>
-#include <limits>
+
+namespace Rules = RxMapSettingsRules;
 
 namespace {
 
@@ -38,19 +40,37 @@ void toggle(OrvikButton &box)
     box.setCurrentImage(box.currentImage() ^ 1);
 }
 
-int milliseconds(const QString &seconds)
-{
-    const double value = std::trunc(seconds.toDouble() * 1000.0);
-    if (std::isnan(value))
-        return 0;
-    return static_cast<int>(qBound<double>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
-}
-
 ProductLineItem *loadedProduct(int index)
 {
     const BinManager *manager = BinManager::instance(nullptr);
     const QList<QObject *> products = manager == nullptr ? QList<QObject *>() : manager->loadedFilteredProducts();
     return index >= 0 && index < products.size() ? qobject_cast<ProductLineItem *>(products.at(index)) : nullptr;
+}
+
+// By design: a rate takes effect at every keystroke, and stays when the dialog is left without saving.
+void takeIntoUse(RxMapLoader *loader, double rate)
+{
+    if (loader == nullptr || loader->defaultRate == rate)
+        return;
+    loader->defaultRate = rate;
+    loader->defaultRateChanged(rate);
+}
+
+bool isVehicleStopped(const DataBroker &broker)
+{
+    QVariant stopped;
+    return broker.getProperty("mainGpsSolution", "vehicleIsStopped", stopped) == 0 && stopped.value<bool>();
+}
+
+/// Name of the prescription group that drives the product; empty when none does.
+QString rxMapGroupName(const DataBroker &broker, int product)
+{
+    const QStringList binGroups = broker.findGroup(QStringLiteral("system.binGroup.*"), true, false);
+    if (product < 0 || product >= binGroups.size())
+        return QString();
+    QVariant name;
+    const QByteArray group = binGroups.at(product).toLatin1();
+    return broker.getProperty(group.constData(), "rxMapGroupName", name) == 0 ? name.toString() : QString();
 }
 
 } // namespace
@@ -61,16 +81,14 @@ void RxMapWidgetDialog01::productSelectionChanged(int buttonIndex)
     selectedProduct = buttonIndex;
     setProductButtonLook(selectedProduct, true);
 
-    const OrvikTypes::RX_SETTINGS entry =
-        hasSelectedSettings() ? settings.at(selectedProduct) : OrvikTypes::RX_SETTINGS();
+    const OrvikTypes::RX_SETTINGS entry = settings.value(selectedProduct);
     lookAheadEdit->setText(QString::number(entry.onLookAheadMs / 1000.0, 'f', 1));
-    bool anyMaster = false;
-    for (const OrvikTypes::RX_SETTINGS &any : qAsConst(settings))
-        anyMaster = anyMaster || any.isMaster;
-    applyToAllBox->setCurrentImage(anyMaster ? onImage : offImage);
+    applyToAllBox->setCurrentImage(Rules::hasMaster(settings) ? onImage : offImage);
     zeroRateShutoffBox->setCurrentImage(entry.zeroRateShutoff ? onImage : offImage);
+    const QPointer<RxMapWidgetDialog01> self(this);
     showDefaultRate();
-    setControlsEnabledState(isVehicleStopped());
+    if (self && selectedProduct == buttonIndex)
+        followVehicle();
 }
 
 void RxMapWidgetDialog01::setProductButtonLook(int index, bool selected)
@@ -81,22 +99,22 @@ void RxMapWidgetDialog01::setProductButtonLook(int index, bool selected)
     productButtons.at(index)->setTextColor(0, selected ? QColor(Qt::white) : QColor(129, 129, 129, 255));
 }
 
-bool RxMapWidgetDialog01::hasSelectedSettings() const
-{
-    return selectedProduct >= 0 && selectedProduct < settings.size();
-}
-
 void RxMapWidgetDialog01::showDefaultRate()
 {
-    defaultRateLabel->setText(getDefaultRateSettings());
-    const int mapping = findProductMapping(rateCalMappings, selectedProduct);
-    if (mapping < 0) {
-        defaultRateEdit->setText(QStringLiteral("????"));
-        return;
+    const QPointer<RxMapWidgetDialog01> self(this);
+    const int product = selectedProduct;
+    const int mapping = findProductMapping(rateCalMappings, product);
+    // By design: a product with a mapping is asked for its unit twice.
+    for (int asked = 0; asked < (mapping < 0 ? 1 : 2); ++asked) {
+        const QString caption = getDefaultRateSettings();
+        // A product that was selected meanwhile has been shown.
+        if (!self || selectedProduct != product)
+            return;
+        defaultRateLabel->setText(caption);
     }
-    // Asked for a second time; that is meant.
-    defaultRateLabel->setText(getDefaultRateSettings());
-    defaultRateEdit->setText(QString::number(rateCalMappings.at(mapping).defaultRate * toDisplayFactor, 'g', 6));
+    defaultRateEdit->setText(mapping < 0
+                                 ? QStringLiteral("????")
+                                 : QString::number(rateCalMappings.at(mapping).defaultRate * toDisplayFactor, 'g', 6));
 }
 
 bool RxMapWidgetDialog01::lacksUnits(const ProductLineItem &product) const
@@ -110,15 +128,19 @@ QString RxMapWidgetDialog01::getDefaultRateSettings()
     const auto *node =
         product == nullptr ? nullptr : qobject_cast<DbGroupSingleProductNode *>(product->primaryProductNodeGroup());
     if (node == nullptr || lacksUnits(*product)) {
-        // The factors are meant to stay those of the product before.
+        // By design: the factors stay those of the product before.
         defaultRateEdit->setVisible(false);
         return QString();
     }
+    const QPointer<RxMapWidgetDialog01> self(this);
+    const int shown = selectedProduct;
     const RateUnit unit = isOfKnownKind(*product) ? rateUnitOf(*product, *node, *unitsConverter) : RateUnit();
+    if (!self || selectedProduct != shown)
+        return QString();
     toDisplayFactor = unit.toDisplay;
     fromDisplayFactor = unit.fromDisplay;
     defaultRateEdit->setVisible(true);
-    // Empty brackets for a product of no known kind are meant.
+    // By design: empty brackets for a product of no known kind.
     return tr("Default Rate") + QStringLiteral(" (") + unit.text + QStringLiteral(")");
 }
 
@@ -126,18 +148,12 @@ void RxMapWidgetDialog01::setMasterProduct(int index)
 {
     for (OrvikButton *button : qAsConst(productButtons))
         button->setEnabled(true);
-    for (OrvikTypes::RX_SETTINGS &entry : settings)
-        entry.isMaster = false;
-    if (index < 0)
+    if (index < 0) {
+        settings = Rules::withoutMaster(settings);
         return;
-    const int master = index < productButtons.size() ? index : 0;
-    if (master < settings.size()) {
-        settings[master].isMaster = true;
-        const bool zeroRateShutoff = settings.at(master).zeroRateShutoff;
-        // To every product, whatever it follows: choosing a master is meant to differ here from toggling one.
-        for (OrvikTypes::RX_SETTINGS &entry : settings)
-            entry.zeroRateShutoff = zeroRateShutoff;
     }
+    const int master = index < productButtons.size() ? index : 0;
+    settings = Rules::withMaster(settings, master);
     productSelectionChanged(master);
 }
 
@@ -152,7 +168,8 @@ void RxMapWidgetDialog01::onValueChanged(int id)
         lookAheadEdited();
         break;
     case ZeroRateShutoffId:
-        zeroRateShutoffReleased();
+        toggle(*zeroRateShutoffBox);
+        settings = Rules::withShutoff(settings, selectedProduct, isOn(*zeroRateShutoffBox), isOn(*applyToAllBox));
         break;
     case DefaultRateId:
         defaultRateEdited();
@@ -164,23 +181,8 @@ void RxMapWidgetDialog01::onValueChanged(int id)
 
 void RxMapWidgetDialog01::lookAheadEdited()
 {
-    if (hasSelectedSettings())
-        settings[selectedProduct].onLookAheadMs = milliseconds(lookAheadEdit->getText());
-}
-
-void RxMapWidgetDialog01::zeroRateShutoffReleased()
-{
-    toggle(*zeroRateShutoffBox);
-    const bool shutoff = isOn(*zeroRateShutoffBox);
-    if (isOn(*applyToAllBox)) {
-        // The selected product too only when it follows the master.
-        for (OrvikTypes::RX_SETTINGS &entry : settings) {
-            if (entry.followsMaster)
-                entry.zeroRateShutoff = shutoff;
-        }
-    } else if (hasSelectedSettings()) {
-        settings[selectedProduct].zeroRateShutoff = shutoff;
-    }
+    if (selectedProduct >= 0 && selectedProduct < settings.size())
+        settings[selectedProduct].onLookAheadMs = Rules::lookAheadMs(lookAheadEdit->getText());
 }
 
 void RxMapWidgetDialog01::defaultRateEdited()
@@ -191,43 +193,22 @@ void RxMapWidgetDialog01::defaultRateEdited()
         return;
     const double typed = defaultRateEdit->getText().toDouble() * fromDisplayFactor;
     const double rate = std::isfinite(typed) ? typed : 0.0;
-    pushDefaultRate(rate);
     const int mapping = findProductMapping(rateCalMappings, selectedProduct);
-    if (mapping >= 0)
+    const QPointer<RxMapWidgetDialog01> self(this);
+    takeIntoUse(product == nullptr ? nullptr : product->rxMapLoader(), rate);
+    if (self && mapping >= 0)
         rateCalMappings[mapping].defaultRate = rate;
-}
-
-// Meant to take effect at every keystroke, and to stay when the dialog is left without saving.
-void RxMapWidgetDialog01::pushDefaultRate(double rate)
-{
-    const ProductLineItem *product = loadedProduct(selectedProduct);
-    RxMapLoader *loader = product == nullptr ? nullptr : product->rxMapLoader();
-    if (loader == nullptr || loader->defaultRate == rate)
-        return;
-    loader->defaultRate = rate;
-    loader->defaultRateChanged(rate);
-}
-
-bool RxMapWidgetDialog01::isVehicleStopped() const
-{
-    QVariant stopped;
-    return broker->getProperty("mainGpsSolution", "vehicleIsStopped", stopped) == 0 && stopped.value<bool>();
-}
-
-QString RxMapWidgetDialog01::rxMapGroupName() const
-{
-    const QStringList binGroups = broker->findGroup(QStringLiteral("system.binGroup.*"), true, false);
-    if (selectedProduct < 0 || selectedProduct >= binGroups.size())
-        return QString();
-    QVariant name;
-    const QByteArray group = binGroups.at(selectedProduct).toLatin1();
-    return broker->getProperty(group.constData(), "rxMapGroupName", name) == 0 ? name.toString() : QString();
 }
 
 void RxMapWidgetDialog01::setControlsEnabledState(bool enabled)
 {
-    const bool underVra = !rxMapGroupName().isEmpty();
-    // Under control all eight are shown, also a rate field that was hidden for want of a node; that is meant.
+    const QPointer<RxMapWidgetDialog01> self(this);
+    const int product = selectedProduct;
+    const bool underVra = !rxMapGroupName(*broker, product).isEmpty();
+    // A product that was selected meanwhile has been shown.
+    if (!self || selectedProduct != product)
+        return;
+    // By design: under control all eight are shown, also a rate field that was hidden for want of a node.
     for (QWidget *widget : {static_cast<QWidget *>(lookAheadLabel), static_cast<QWidget *>(zeroRateShutoffLabel),
                             static_cast<QWidget *>(applyToAllLabel), static_cast<QWidget *>(defaultRateLabel),
                             static_cast<QWidget *>(lookAheadEdit), static_cast<QWidget *>(applyToAllBox),
@@ -242,12 +223,22 @@ void RxMapWidgetDialog01::setControlsEnabledState(bool enabled)
         zeroRateShutoffBox->setEnabled(enabled);
         defaultRateEdit->setEnabled(enabled);
     }
-    // Else the moving message and the Done image are meant to stay as they were.
+    // By design: otherwise the moving message and the Done image stay as they were.
     update();
+}
+
+void RxMapWidgetDialog01::followVehicle()
+{
+    const QPointer<RxMapWidgetDialog01> self(this);
+    const bool isStopped = isVehicleStopped(*broker);
+    if (self)
+        setControlsEnabledState(isStopped);
 }
 
 void RxMapWidgetDialog01::testForZeroSpeed()
 {
-    setControlsEnabledState(isVehicleStopped());
-    QTimer::singleShot(pollIntervalMs, this, SLOT(testForZeroSpeed()));
+    const QPointer<RxMapWidgetDialog01> self(this);
+    followVehicle();
+    if (self)
+        QTimer::singleShot(pollIntervalMs, this, SLOT(testForZeroSpeed()));
 }

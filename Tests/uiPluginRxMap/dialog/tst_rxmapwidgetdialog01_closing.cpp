@@ -13,6 +13,9 @@ private Q_SLOTS:
     void notUnderVraFromTheStartCancels();
     void aSecondTapThatIsOnItsWayDoesNothing_data();
     void aSecondTapThatIsOnItsWayDoesNothing();
+    void aSecondTouchWhileTheFirstIsWrittenMixesNoGroups_data();
+    void aSecondTouchWhileTheFirstIsWrittenMixesNoGroups();
+    void theRestIsWrittenWhenAListenerDeletesTheDialog();
     void theEscapeKeyLeavesWithoutWriting();
     void openingAgainShowsWhatWasWritten();
     void aThousandDialogsLeaveNothingBehind();
@@ -32,6 +35,34 @@ void postTaps(const QDialog &dialog, const QWidget &button, int taps)
                                                     at, window->mapToGlobal(at), Qt::LeftButton,
                                                     press ? Qt::LeftButton : Qt::NoButton, {}));
     }
+}
+
+/// Publishes the groups a, b and c, of two mappings each, in place of the map that is there; a holds the settings.
+QList<DbGroupRxMap *> publishThreeMaps(DialogHost &host)
+{
+    host.broker.removeGroup(host.map->name());
+    QList<DbGroupRxMap *> maps;
+    for (const char *name : {"a", "b", "c"}) {
+        maps.append(host.host.addMap(QLatin1String(name), {}));
+        const QString channel = QString(QLatin1String(name)).toUpper();
+        maps.last()->setRateCalMappings(
+            {mappingFor(channel + QLatin1Char('0')), mappingFor(channel + QLatin1Char('1'))});
+    }
+    maps.first()->setSettings(host.map->getSettings());
+    return maps;
+}
+
+/// Each group's name and, in brackets, its channels.
+QString channels(const QList<DbGroupRxMap *> &maps)
+{
+    QStringList texts;
+    for (const DbGroupRxMap *map : maps) {
+        QStringList names;
+        for (const auto &mapping : map->getRateCalMappings())
+            names.append(mapping.rateCalName);
+        texts.append(map->name().mid(6) + QLatin1Char('[') + names.join(QLatin1Char(' ')) + QLatin1Char(']'));
+    }
+    return texts.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -103,6 +134,50 @@ void TestDialogClosing::aSecondTapThatIsOnItsWayDoesNothing()
     DialogProbe::release(probe->doneButton());
     QTEST(settingsWrites, "writes");
     QTEST(mappingWrites, "writes");
+}
+
+void TestDialogClosing::aSecondTouchWhileTheFirstIsWrittenMixesNoGroups_data()
+{
+    QTest::addColumn<bool>("isTouched");
+    QTest::newRow("reported at once") << false;
+    QTest::newRow("let through by an event loop") << true;
+}
+
+void TestDialogClosing::aSecondTouchWhileTheFirstIsWrittenMixesNoGroups()
+{
+    QFETCH(bool, isTouched);
+    const QList<DbGroupRxMap *> maps = publishThreeMaps(*host);
+    open();
+    int writes = 0;
+    for (DbGroupRxMap *map : maps) {
+        connect(map, &DbGroupRxMap::rateCalMappingsChanged, this, [&, isTouched] {
+            ++writes;
+            if (!isTouched) {
+                DialogProbe::release(probe->doneButton());
+            } else if (dialog->isVisible()) {
+                postTaps(*dialog, *probe->doneButton(), 1);
+                QCoreApplication::processEvents();
+            }
+        });
+    }
+    done();
+    QCOMPARE(channels(maps), QStringLiteral("a[A0 A1] b[B0 B1] c[C0 C1]"));
+    QCOMPARE(writes, 3);
+}
+
+void TestDialogClosing::theRestIsWrittenWhenAListenerDeletesTheDialog()
+{
+    const QList<DbGroupRxMap *> maps = publishThreeMaps(*host);
+    open();
+    for (auto &mapping : probe->mappings())
+        mapping.dbfColumnName = QStringLiteral("edited");
+    DialogProbe::release(probe->zeroRateShutoffBox());
+    connect(maps.first(), &DbGroupRxMap::rateCalMappingsChanged, this, [this] { dialog.reset(); });
+    dialog->doneButtonReleased(0);
+    QVERIFY(!dialog);
+    QCOMPARE(maps.last()->getRateCalMappings().last().dbfColumnName, QStringLiteral("edited"));
+    QVERIFY(maps.first()->getSettings().first().zeroRateShutoff);
+    QCOMPARE(host->reInitialisations, 1);
 }
 
 void TestDialogClosing::theEscapeKeyLeavesWithoutWriting()

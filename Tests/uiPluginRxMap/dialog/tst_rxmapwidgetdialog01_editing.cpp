@@ -8,9 +8,14 @@ private Q_SLOTS:
     void selectingAProductShowsItsValues();
     void lookAheadIsShownWithOneDecimal_data();
     void lookAheadIsShownWithOneDecimal();
-    void typedLookAheadIsStoredInMilliseconds_data();
-    void typedLookAheadIsStoredInMilliseconds();
+    void typedLookAheadIsKeptUntilDone();
     void otherIdsDoNothing();
+    void aProductSelectedWhileAnotherIsShownStays_data();
+    void aProductSelectedWhileAnotherIsShownStays();
+    void theDialogMayGoWhenALoaderTakesARate();
+
+private:
+    int readsToGo = 0;
 };
 
 void TestDialogEditing::selectingAProductShowsItsValues()
@@ -57,28 +62,12 @@ void TestDialogEditing::lookAheadIsShownWithOneDecimal()
     QCOMPARE(probe->settings().at(2).onLookAheadMs, milliseconds);
 }
 
-void TestDialogEditing::typedLookAheadIsStoredInMilliseconds_data()
+void TestDialogEditing::typedLookAheadIsKeptUntilDone()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("milliseconds");
-    QTest::newRow("two decimals") << "2.57" << 2570;
-    QTest::newRow("below a millisecond") << "0.0004" << 0;
-    QTest::newRow("truncated") << "1.9999" << 1999;
-    QTest::newRow("truncated toward zero") << "-1.9999" << -1999;
-    QTest::newRow("no number") << "abc" << 0;
-    QTest::newRow("empty") << "" << 0;
-    QTest::newRow("not a number") << "nan" << 0;
-    QTest::newRow("too small") << "-1e300" << std::numeric_limits<int>::min();
-    QTest::newRow("too large") << "1e300" << std::numeric_limits<int>::max();
-}
-
-void TestDialogEditing::typedLookAheadIsStoredInMilliseconds()
-{
-    QFETCH(QString, text);
     open();
     DialogProbe::release(probe->productButton(1));
-    DialogProbe::type(probe->lookAheadEdit(), text);
-    QTEST(probe->settings().at(1).onLookAheadMs, "milliseconds");
+    DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("2.57"));
+    QCOMPARE(probe->settings().at(1).onLookAheadMs, 2570);
     QCOMPARE(host->entry(1).onLookAheadMs, 2000);
 }
 
@@ -91,6 +80,50 @@ void TestDialogEditing::otherIdsDoNothing()
     QCOMPARE(probe->settings(), settings);
     QCOMPARE(probe->applyToAllBox()->currentImage(), 0);
     QCOMPARE(probe->zeroRateShutoffBox()->currentImage(), 0);
+}
+
+void TestDialogEditing::aProductSelectedWhileAnotherIsShownStays_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<int>("read");
+    QTest::newRow("while its unit is read again") << "QmlUnitsConverter" << QByteArray("weightRateToDisplay") << 2;
+    QTest::newRow("while its map is asked for") << "system.binGroup.2" << QByteArray("rxMapGroupName") << 1;
+}
+
+void TestDialogEditing::aProductSelectedWhileAnotherIsShownStays()
+{
+    QFETCH(QString, group);
+    QFETCH(QByteArray, property);
+    QFETCH(int, read);
+    host->bins.at(2)->setRxMapGroupName(QString());
+    auto mappings = host->map->getRateCalMappings();
+    mappings[1].defaultRate = 20.0;
+    mappings[2].defaultRate = 30.0;
+    host->map->setRateCalMappings(mappings);
+    open();
+    readsToGo = read;
+    const auto selectThird = [](void *test) {
+        auto &editing = *static_cast<TestDialogEditing *>(test);
+        if (--editing.readsToGo == 0)
+            DialogProbe::release(editing.probe->productButton(2));
+    };
+    QVERIFY(host->broker.getGroup(group, false)->setAfterReadHook(property, selectThird, this));
+    DialogProbe::release(probe->productButton(1));
+    QCOMPARE(probe->selectedProduct(), 2);
+    QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("30"));
+    QVERIFY(probe->notUnderVraLabel()->isVisible());
+}
+
+void TestDialogEditing::theDialogMayGoWhenALoaderTakesARate()
+{
+    open();
+    connect(&host->loaders.front(), &RxMapLoader::defaultRateTaken, this, [this] { dialog.reset(); });
+    dialog->onValueChanged(3);
+    QVERIFY(dialog);
+    host->loaders.front().defaultRate = 1.0;
+    dialog->onValueChanged(3);
+    QVERIFY(!dialog);
 }
 
 RXMAP_TEST(TestDialogEditing, Widgets)
