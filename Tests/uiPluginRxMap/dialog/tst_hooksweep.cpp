@@ -1,0 +1,150 @@
+#include "currentcontext.h"
+#include "dialoghost.h"
+#include "dialogprobe.h"
+#include "rxmapgraphicslist.h"
+#include "testbase.h"
+
+#include "Framework/dbgroupjob.h"
+
+#include <QPointer>
+
+/// Reads and writes of the host's properties run its hooks, validators and subscribers, and each of these may act in
+/// the middle of what the list and the dialog do: every action, at every such moment of one working day.
+class TestHookSweep : public TestBase {
+    Q_OBJECT
+
+public Q_SLOTS:
+    int moment();
+
+private Q_SLOTS:
+    void cleanup();
+    void theHostMayActAtAnyMoment_data();
+    void theHostMayActAtAnyMoment();
+
+private:
+    void prepare(int kind, const QByteArray &group, const QByteArray &property);
+    void workThroughTheDay();
+
+    CurrentContext context;
+    HandMadeChain chain;
+    QScopedPointer<DialogHost> host;
+    QPointer<RxMapGraphicsList> list;
+    QPointer<RxMapWidgetDialog01> dialog;
+    QByteArray action;
+    DataBrokerGroup *watched = nullptr;
+    int moments = 0;   ///< Accesses of the watched property so far.
+    int dueMoment = 0; ///< The one at which the host acts, from 1.
+};
+
+int TestHookSweep::moment()
+{
+    if (++moments != dueMoment)
+        return 0;
+    if (action == "delete list")
+        delete list;
+    else if (action == "delete dialog")
+        delete dialog;
+    else if (action == "remove group")
+        host->broker.removeGroup(watched->name());
+    else if (action == "press Done" && dialog)
+        dialog->doneButtonReleased(0);
+    else if (action == "switch product")
+        host->host.activateProduct(host->host.job->getActiveAAMGroupName() == MapHost::aamName(1) ? 2 : 1);
+    if (action == "switch product" && dialog)
+        dialog->productSelectionChanged(1 - DialogProbe(*dialog).selectedProduct());
+    return 0;
+}
+
+void TestHookSweep::cleanup()
+{
+    delete list;
+    delete dialog;
+    host.reset();
+}
+
+void TestHookSweep::prepare(int kind, const QByteArray &group, const QByteArray &property)
+{
+    cleanup();
+    host.reset(new DialogHost(2));
+    chain = HandMadeChain();
+    chain.addOuter(square(0, 0, 10), {1.0F, 2.0F});
+    MapHost::publish(*host->map, chain, {{10.0, QColor(255, 0, 0)}});
+    host->host.addMap(QStringLiteral("other"), {2, 3});
+    host->host.activateProduct(1);
+    host->replaceProduct(1, ProductLineItem::Volume);
+    host->setLoaded();
+    watched = group == "node" ? host->nodes.at(1) : host->broker.getGroup(QLatin1String(group), false);
+    moments = 0;
+    const auto hook = [](void *test) { static_cast<TestHookSweep *>(test)->moment(); };
+    const auto validator = [](QVariant, void *test) { return static_cast<TestHookSweep *>(test)->moment(); };
+    if (kind == 0)
+        watched->setBeforeReadHook(property, hook, this);
+    else if (kind == 1)
+        watched->setAfterReadHook(property, hook, this);
+    else if (kind == 2)
+        watched->setWriteValidator(property, validator, this);
+    else
+        watched->connectPropertySetSlot(property, this, SLOT(moment()), Qt::DirectConnection, true);
+}
+
+void TestHookSweep::workThroughTheDay()
+{
+    list = new RxMapGraphicsList(&host->broker, nullptr);
+    list->init();
+    host->host.activateProduct(2);
+    if (list)
+        list->getPointDescription(QVector3D(5, 5, 0));
+    host->map->setPolygonCount(chain.count());
+    dialog = new RxMapWidgetDialog01(&host->broker, host->images, nullptr);
+    dialog->show();
+    for (const char *name :
+         {"productButton1", "applyToAllBox", "zeroRateShutoffBox", "lookAheadEdit", "defaultRateEdit", "doneButton"}) {
+        QObject *control = dialog ? dialog->findChild<QObject *>(QLatin1String(name)) : nullptr;
+        if (auto *edit = qobject_cast<OrvikLineEdit *>(control))
+            DialogProbe::type(edit, QStringLiteral("7"));
+        else if (auto *button = qobject_cast<OrvikButton *>(control))
+            DialogProbe::release(button);
+        if (dialog)
+            dialog->testForZeroSpeed();
+    }
+}
+
+void TestHookSweep::theHostMayActAtAnyMoment_data()
+{
+    QTest::addColumn<QString>("properties");
+    QTest::newRow("system.current.job") << "activeAAMGroupName";
+    QTest::newRow("system.aam.1") << "productGroupName";
+    QTest::newRow("system.aam.2") << "productGroupName";
+    QTest::newRow("system.productGroup.2") << "rateKind";
+    QTest::newRow("QmlUnitsConverter") << "areaUnitSystem weightRateToDisplay volumeRateFromDisplay";
+    QTest::newRow("mainGpsSolution") << "vehicleIsStopped";
+    QTest::newRow("quillSpan") << "reInit";
+    QTest::newRow("system.binGroup.2") << "compositionShortName rxMapGroupName";
+    QTest::newRow("node") << "isCarrier operationalSettings switchByteCalSettings";
+    QTest::newRow("rxMap.field") << "settings rateCalMappings rateColors polygonBuffer polygonCount queryRatesAtXYZ "
+                                    "ratesAtXYZ ratesAtXYZValid";
+    QTest::newRow("rxMap.other") << "rateCalMappings";
+}
+
+void TestHookSweep::theHostMayActAtAnyMoment()
+{
+    QFETCH(QString, properties);
+    for (const QString &property : properties.split(QLatin1Char(' '))) {
+        int actions = 0;
+        for (const char *what : {"delete list", "switch product", "remove group", "press Done", "delete dialog"}) {
+            action = what;
+            for (int kind = 0; kind < 4; ++kind) {
+                for (dueMoment = 1, moments = 1; moments >= dueMoment; ++dueMoment) {
+                    prepare(kind, QTest::currentDataTag(), property.toLatin1());
+                    workThroughTheDay();
+                    actions += moments >= dueMoment ? 1 : 0;
+                    QCOMPARE(host->map->getRateCalMappings().last().rateCalName, MapHost::productGroup(2));
+                }
+            }
+        }
+        QVERIFY2(actions > 0, qPrintable(property));
+    }
+}
+
+RXMAP_TEST(TestHookSweep, Widgets)
+#include "tst_hooksweep.moc"
