@@ -29,7 +29,7 @@ RxMapGraphicsList::RxMapGraphicsList(DataBroker *broker, QObject *parent)
 {
     objects.append(rxMap3D);
     unitsConverter = findGroupOf<DbGroupQmlUnitsConverter>(broker, QStringLiteral("QmlUnitsConverter"));
-    // The placeholder is meant to stay unfilled: the list reads prescriptions by name, never through this pointer.
+    // By design: the placeholder stays unfilled; the list reads prescriptions by name, never through this pointer.
     rxMapGroup = findGroupOf<DbGroupRxMap>(broker, QStringLiteral("rxMap.%1"));
 
     DbGroupJob *job = findGroupOf<DbGroupJob>(broker, QStringLiteral("system.current.job"));
@@ -48,9 +48,11 @@ RxMapGraphicsList::~RxMapGraphicsList()
 
 void RxMapGraphicsList::init()
 {
-    for (Object3D *object : qAsConst(objects))
-        object->init();
-    rxMap3D->updateRxMapGroup();
+    const QPointer<RxMapGraphicsList> self(this);
+    for (int i = 0; self && i < objects.size(); ++i)
+        objects.at(i)->init();
+    if (self)
+        rxMap3D->updateRxMapGroup();
 }
 
 void RxMapGraphicsList::activeAamChanged(QString name)
@@ -60,13 +62,9 @@ void RxMapGraphicsList::activeAamChanged(QString name)
     DbGroupAAM *const aam = findGroupOf<DbGroupAAM>(broker, name);
     aamGroup = aam;
     rxMap3D->setAamGroup(aam);
-    if (aam == nullptr) {
-        productGroupInfo = nullptr;
-        return;
-    }
-    const QString productGroup = aam->productGroupName();
+    const QString productGroup = aam == nullptr ? QString() : aam->productGroupName();
     if (self && aamGroup == aam)
-        productGroupInfo = findGroupOf<DbGroupProductGroupInfo>(broker, productGroup);
+        productGroupInfo = aam == nullptr ? nullptr : findGroupOf<DbGroupProductGroupInfo>(broker, productGroup);
 }
 
 QString RxMapGraphicsList::getPointDescription(QVector3D point)
@@ -76,14 +74,15 @@ QString RxMapGraphicsList::getPointDescription(QVector3D point)
     // Reads and the write run the host's hooks and slots, which may replace this list: no member is touched after them.
     DataBroker *const source = broker;
     const DbGroupAAM *const aam = aamGroup;
+    DbGroupProductGroupInfo *const info = productGroupInfo;
     if (source == nullptr || aam == nullptr)
         return {};
     const QStringList names = source->findGroup(QStringLiteral("rxMap.*"), true, false);
-    const double factor = productGroupInfo == nullptr ? 1.0 : getRateConversion(productGroupInfo);
+    const double factor = info == nullptr ? 1.0 : getRateConversion(info);
     for (const QString &name : names) {
         const QByteArray group = name.toLatin1();
         const int position = mappingIndex(*source, group, *aam);
-        // The first map of the active product decides, also when its answer is not valid: later ones are not asked.
+        // By design: the first map of the active product decides, also when its answer is not valid.
         if (position >= 0)
             return describe(*source, group, position, query, factor);
     }

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aProductCanBeLostAndFoundAgain();
     void missingGroupsAreNotReported();
     void withoutABrokerAProductIsNotFollowed();
+    void theListMayGoWhileADrawableIsInitialised();
     void theListMayGoWhileItReadsAProduct();
     void theListMayGoWhileItsMapIsBound();
     void aProductActivatedWhileTheOldOneIsReadCounts();
@@ -70,6 +71,22 @@ private:
     const QString name;
     QStringList &notes;
     const RxMapGraphicsList &list;
+};
+
+/// A drawable whose initialisation ends the list.
+class EndingDrawable : public Object3D {
+public:
+    explicit EndingDrawable(RxMapGraphicsList *list)
+        : list(list)
+    {
+    }
+
+    void draw(QMatrix4x4 /*mvp*/) override { }
+    void init() override { delete list; }
+    float drawingOrder() const override { return 0.0F; }
+
+private:
+    RxMapGraphicsList *list;
 };
 
 /// What a hook needs to reach.
@@ -188,6 +205,15 @@ void TestRxMapGraphicsListLifecycle::withoutABrokerAProductIsNotFollowed()
     list.init();
     QCOMPARE(Probe::aamGroup(list), nullptr);
     QCOMPARE(Probe::productGroupInfo(list), nullptr);
+}
+
+void TestRxMapGraphicsListLifecycle::theListMayGoWhileADrawableIsInitialised()
+{
+    MapHost host;
+    const QPointer<RxMapGraphicsList> list(new RxMapGraphicsList(&host.broker, nullptr));
+    *list->drawables() += {new EndingDrawable(list), new EndingDrawable(nullptr)};
+    list->init();
+    QVERIFY(list.isNull());
 }
 
 void TestRxMapGraphicsListLifecycle::theListMayGoWhileItReadsAProduct()
