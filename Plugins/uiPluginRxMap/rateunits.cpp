@@ -31,7 +31,7 @@ const AreaRate countRate{
     &Units::getCountRateFromDisplay,
 };
 
-// Turf is meant to fall back to the ratio per gallon.
+// By design: turf falls back to the ratio per gallon.
 const AreaRate ratioRate{
     QT_TRANSLATE_NOOP3("DbGroupQmlUnitsConverter", "fl oz/gal", "fluid ounces/galon"),
     QT_TRANSLATE_NOOP3("DbGroupQmlUnitsConverter", "L/L", "liter/liter"),

@@ -160,8 +160,7 @@ void RxMap3D::tessellateChain(VertexBank &bank, GLUtesselator *tessellator, cons
 
 void RxMap3D::chooseColor(const QList<RX_RATECOLOR> &legend, const RX_POLYGON &polygon, int mappingIndex)
 {
-    // Without a legend, or without rates, the colour of the polygon before, or of the build before, is meant to carry
-    // over.
+    // By design: without a legend, or without rates, the colour of the polygon or of the build before carries over.
     if (legend.isEmpty() || polygon.rates == nullptr)
         return;
     const auto rate = static_cast<double>(polygon.rates[mappingIndex]);
@@ -242,7 +241,7 @@ void RxMap3D::reportErrors(int line)
 {
     while (glGetError() != GL_NO_ERROR) {
         ORVIK_DEBUG_CLASS::init()->lock();
-        // Reading a second time is meant: the error that the loop saw is consumed, the next pending one is reported.
+        // By design: read a second time; the error that the loop saw is consumed, the next pending one is reported.
         const GLenum code = glGetError();
         const std::string text = "ERROR: An error occurred in: OpenGL: Plugins/uiPluginRxMap/rxmap3d("
             + std::to_string(line) + ") " + std::to_string(code) + "\n";

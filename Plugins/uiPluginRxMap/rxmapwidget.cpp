@@ -42,7 +42,7 @@ RxMapWidget::~RxMapWidget() = default;
 
 void RxMapWidget::pageShown()
 {
-    // Meant to be empty: the button keeps the image that it was made with.
+    // By design: empty; the button keeps the image that it was made with.
 }
 
 void RxMapWidget::onLongTouch(int /*id*/)
@@ -67,5 +67,5 @@ void RxMapWidget::onLongTouch(int /*id*/)
 
 void RxMapWidget::onButtonReleased(int /*id*/)
 {
-    // Meant to do nothing: only a long touch opens the dialog.
+    // By design: nothing; only a long touch opens the dialog.
 }

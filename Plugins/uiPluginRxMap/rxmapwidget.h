@@ -25,6 +25,6 @@ public Q_SLOTS:
     void onButtonReleased(int id);
 
 private:
-    QFont font;             ///< The terminal's; meant to be set up though nothing draws with it.
+    QFont font;             ///< The terminal's. By design: set up though nothing draws with it.
     OrvikButtonQgw *button; ///< Child item.
 };

@@ -72,7 +72,7 @@ QStringList UiPluginRxMap::getGraphicsListNames()
 
 QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataBroker *broker)
 {
-    // Meant to come before the name is looked at: any request ends the list that exists.
+    // By design: before the name is looked at; any request ends the list that exists.
     deleteEveryList(graphicsList);
     QPointer<UiGraphicsList> made;
     if (name == graphicsListName) {
@@ -85,7 +85,7 @@ QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataB
     return made;
 }
 
-// Unlike graphics lists, earlier widgets are meant to stay; only the newest is in the map.
+// By design: unlike graphics lists, earlier widgets stay; only the newest is in the map.
 QPointer<UiGWidget> UiPluginRxMap::createUiGWidget(QString name, int x, int y, QPointF position, DataBroker *broker)
 {
     if (name != widgetName)
