@@ -13,23 +13,23 @@ const QString graphicsListName = QStringLiteral("RxMapGraphicsList");
 const QString majorVersion = QStringLiteral("1");
 const QString minorVersion = QStringLiteral("0");
 
-/// Deletes the list, and whatever list is asked for while one is being deleted.
-void deleteEveryList(QPointer<UiGraphicsList> &list)
-{
-    while (list) {
-        UiGraphicsList *last = list;
-        list.clear();
-        delete last;
-    }
-}
-
 } // namespace
 
 UiPluginRxMap::UiPluginRxMap() = default;
 
 UiPluginRxMap::~UiPluginRxMap()
 {
-    deleteEveryList(graphicsList);
+    deleteEveryList();
+}
+
+void UiPluginRxMap::deleteEveryList()
+{
+    const QPointer<UiPluginRxMap> self(this);
+    while (self && graphicsList) {
+        UiGraphicsList *last = graphicsList;
+        graphicsList.clear();
+        delete last;
+    }
 }
 
 QStringList UiPluginRxMap::getGuidancePageWidgetNames()
@@ -72,15 +72,20 @@ QStringList UiPluginRxMap::getGraphicsListNames()
 
 QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataBroker *broker)
 {
+    // Ending a list and making one run the host's code, which may delete this or ask for a list meanwhile.
+    const QPointer<UiPluginRxMap> self(this);
     // By design: before the name is looked at; any request ends the list that exists.
-    deleteEveryList(graphicsList);
-    QPointer<UiGraphicsList> made;
-    if (name == graphicsListName) {
-        made = new RxMapGraphicsList(broker, nullptr);
-        // Making one reads the broker, whose hooks may have asked for a list meanwhile.
-        deleteEveryList(graphicsList);
-        graphicsLists().insert(name, made);
+    deleteEveryList();
+    if (!self || name != graphicsListName)
+        return {};
+    QPointer<UiGraphicsList> made = new RxMapGraphicsList(broker, nullptr);
+    if (self)
+        deleteEveryList();
+    if (!self) {
+        delete made;
+        return {};
     }
+    graphicsLists().insert(name, made);
     graphicsList = made;
     return made;
 }

@@ -28,5 +28,8 @@ public:
     void getPluginVersion(unsigned long &major, unsigned long &minor) override;
 
 private:
+    /// Deletes the list, and whatever list is asked for while one is being deleted.
+    void deleteEveryList();
+
     QPointer<UiGraphicsList> graphicsList; ///< The list made last: there is at most one.
 };

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void aListAskedForWhileTheOldOneGoesIsReplaced();
     void aListAskedForWhileANewOneIsMadeIsReplaced();
     void aListAskedForWhileThePluginGoesGoesWithIt();
+    void thePluginMayGoWhileItMakesAList_data();
+    void thePluginMayGoWhileItMakesAList();
     void aFreshPluginHasNoListOfAnUnknownName();
     void theHostCanDeleteAllThatThePluginMade();
     void twoWidgetsLiveAndTheMapHoldsTheSecond();
@@ -179,6 +181,28 @@ void TestUiPluginRxMapFactories::aListAskedForWhileThePluginGoesGoesWithIt()
     delete plugin;
     QVERIFY(hasAsked);
     QVERIFY(inner.isNull());
+}
+
+void TestUiPluginRxMapFactories::thePluginMayGoWhileItMakesAList_data()
+{
+    QTest::addColumn<bool>("withTheOldList");
+    QTest::newRow("with the old list") << true;
+    QTest::newRow("while the new one reads") << false;
+}
+
+void TestUiPluginRxMapFactories::thePluginMayGoWhileItMakesAList()
+{
+    QFETCH(bool, withTheOldList);
+    MapHost host;
+    QPointer<UiPluginRxMap> plugin = new UiPluginRxMap;
+    const auto end = [](void *ended) { delete *static_cast<QPointer<UiPluginRxMap> *>(ended); };
+    if (withTheOldList)
+        connect(plugin->createUiGraphicsList(listName, &host.broker).data(), &QObject::destroyed, this,
+                [&] { end(&plugin); });
+    else
+        QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", end, &plugin));
+    QVERIFY(plugin->createUiGraphicsList(listName, &host.broker).isNull());
+    QVERIFY(plugin.isNull());
 }
 
 void TestUiPluginRxMapFactories::aFreshPluginHasNoListOfAnUnknownName()
