@@ -22,6 +22,7 @@ private Q_SLOTS:
     void theFlagIsClearedAfterTheDialogAndBeforeTheRepaint();
     void theWholeWidgetIsRepaintedAfterTheDialog();
     void closingThePageWhileTheDialogRunsIsSafe();
+    void aDialogThatIsDeletedWhileItRunsIsSafe();
     void closingThePageOverThePopupsFlagIsSafe_data();
     void closingThePageOverThePopupsFlagIsSafe();
     void withoutABrokerNothingOpens();
@@ -214,6 +215,16 @@ void TestRxMapWidgetDialog::closingThePageWhileTheDialogRunsIsSafe()
     delete page;
     QVERIFY(watch.hasOpened);
     QVERIFY(openDialog() == nullptr);
+}
+
+void TestRxMapWidgetDialog::aDialogThatIsDeletedWhileItRunsIsSafe()
+{
+    DialogHost host;
+    WidgetPage page(host);
+    const DialogWatch watch([](RxMapWidgetDialog01 *dialog) { delete dialog; });
+    page.widget.onLongTouch(0);
+    QVERIFY(watch.hasOpened);
+    QVERIFY(!page.widget.isPopupActive());
 }
 
 void TestRxMapWidgetDialog::closingThePageOverThePopupsFlagIsSafe_data()
