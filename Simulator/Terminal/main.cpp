@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "ownlooks.h"
 #include "terminalrun.h"
 
 #include <QApplication>
@@ -67,7 +68,9 @@ int main(int argc, char *argv[])
         return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
 
     int kept = 1; // The options are the program's own, Qt is to take none of them.
+    OwnLooks::fixResolution();
     QApplication application(kept, argv);
+    OwnLooks::apply();
     if (!QOpenGLContext().create())
         return complain(QStringLiteral("the display has no OpenGL"));
     const QString error = runTerminal(line.value);

@@ -13,9 +13,14 @@ constexpr int longestRunMs = 240000;
 
 } // namespace
 
-SimulatorRun runSimulator(const QStringList &arguments)
+SimulatorRun runSimulator(const QStringList &arguments, const QStringList &settings)
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QT_FONT_DPI")); // The test's own; the program has to see to it by itself.
+    for (const QString &setting : settings)
+        environment.insert(setting.section(QLatin1Char('='), 0, 0), setting.section(QLatin1Char('='), 1));
     QProcess process;
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(RXMAP_SIMULATOR), arguments);
     SimulatorRun run;
     if (!process.waitForFinished(longestRunMs))
@@ -26,13 +31,13 @@ SimulatorRun runSimulator(const QStringList &arguments)
     return run;
 }
 
-SimulatorRun runScript(const QString &script, const QStringList &arguments)
+SimulatorRun runScript(const QString &script, const QStringList &arguments, const QStringList &settings)
 {
     QTemporaryFile file(QDir::tempPath() + QStringLiteral("/rxmap-XXXXXX.js"));
     file.open();
     file.write(script.toUtf8());
     file.close();
-    return runSimulator(arguments + QStringList{QStringLiteral("--script"), file.fileName()});
+    return runSimulator(arguments + QStringList{QStringLiteral("--script"), file.fileName()}, settings);
 }
 
 SimulatorRun runOperatorScript(const QString &script, const QStringList &arguments)

@@ -10,9 +10,10 @@ struct SimulatorRun {
     QString errors;     ///< Standard error.
 };
 
-SimulatorRun runSimulator(const QStringList &arguments);
+/// `settings` are environment variables ("NAME=value") of the run, beside those of the test.
+SimulatorRun runSimulator(const QStringList &arguments, const QStringList &settings = {});
 /// Runs a script's text; `arguments` come before it.
-SimulatorRun runScript(const QString &script, const QStringList &arguments = {});
+SimulatorRun runScript(const QString &script, const QStringList &arguments = {}, const QStringList &settings = {});
 /// Runs a script after helpers.js; the sample field's file is `sample` there.
 SimulatorRun runOperatorScript(const QString &script, const QStringList &arguments = {});
 /// A file of this folder.

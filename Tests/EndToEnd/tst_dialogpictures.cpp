@@ -3,6 +3,8 @@
 #include "testbase.h"
 
 #include <QFile>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 /// The settings dialog in each of its states, as an operator sees it, beside stored pictures.
@@ -13,8 +15,12 @@ private Q_SLOTS:
     void initTestCase();
     void statesLookAsStored_data();
     void statesLookAsStored();
+    void everyDesktopShowsTheSame_data();
+    void everyDesktopShowsTheSame();
 
 private:
+    /// The settings of a desktop in dark colours and with a style of its own.
+    QStringList darkDesktop();
     /// As many as a machine may have: the product buttons overlap.
     void photographSixteenProducts();
     /// Both messages, beside a button that says Done.
@@ -102,6 +108,61 @@ void TestDialogPictures::statesLookAsStored()
     QCOMPARE(window.size(), QSize(1280, 800));
     // The dialog alone, without the map around it; less than a check mark may differ.
     const QString wrong = Picture::compare(window.copy(240, 0, 800, 800), state, 0.0003);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+QStringList TestDialogPictures::darkDesktop()
+{
+    QFile colors(folder.filePath(QStringLiteral("kdeglobals")));
+    if (!colors.open(QIODevice::WriteOnly))
+        return {};
+    for (const char *set : {"Window", "View", "Button"})
+        colors.write(QByteArray("[Colors:") + set + "]\nBackgroundNormal=20,20,20\nForegroundNormal=250,250,250\n");
+    return {QStringLiteral("XDG_CONFIG_HOME=") + folder.path(), QStringLiteral("QT_QPA_PLATFORMTHEME=kde"),
+            QStringLiteral("XDG_CURRENT_DESKTOP=KDE"), QStringLiteral("KDE_SESSION_VERSION=5"),
+            QStringLiteral("QT_STYLE_OVERRIDE=Windows")};
+}
+
+void TestDialogPictures::everyDesktopShowsTheSame_data()
+{
+    QTest::addColumn<int>("dotsPerInch");
+    QTest::addColumn<QStringList>("settings");
+    QTest::newRow("120 dpi") << 120 << QStringList{};
+    QTest::newRow("192 dpi") << 192 << QStringList{};
+    QTest::newRow("large fonts") << 96 << QStringList{QStringLiteral("QT_FONT_DPI=144")};
+    QTest::newRow("scaled") << 96
+                            << QStringList{QStringLiteral("QT_SCALE_FACTOR=1.5"),
+                                           QStringLiteral("QT_SCREEN_SCALE_FACTORS=2"),
+                                           QStringLiteral("QT_AUTO_SCREEN_SCALE_FACTOR=1")};
+    QTest::newRow("dark") << 96 << darkDesktop();
+}
+
+void TestDialogPictures::everyDesktopShowsTheSame()
+{
+    QFETCH(int, dotsPerInch);
+    QFETCH(QStringList, settings);
+    QProcess display;
+    display.start(QStringLiteral("Xvfb"),
+                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                   QStringLiteral("1400x1000x24"), QStringLiteral("-dpi"), QString::number(dotsPerInch)});
+    const auto end = qScopeGuard([&display] {
+        display.terminate();
+        display.waitForFinished();
+    });
+    QVERIFY(display.waitForReadyRead());
+    settings.append(QStringLiteral("DISPLAY=:") + QString::fromLatin1(display.readLine().trimmed()));
+    const QString file = folder.filePath(QStringLiteral("desktop.png"));
+    const QString script = QStringLiteral(R"js(
+terminal.open("%1", {columns: ["SEED_KS_HA", "FERT_KG_HA"]});
+terminal.find("rxOptions").longTouch();
+terminal.wait(100);
+terminal.screenshot("%2");
+)js");
+    const SimulatorRun run = runScript(script.arg(sampleField(), file), {}, settings);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const QImage window(file);
+    QCOMPARE(window.size(), QSize(1280, 800));
+    const QString wrong = Picture::compare(window.copy(240, 0, 800, 800), QStringLiteral("dialog-editable"), 0.0003);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 

@@ -1,5 +1,7 @@
 #include "testmain.h"
 
+#include "ownlooks.h"
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QMap>
@@ -27,7 +29,7 @@ QCoreApplication *makeApplication(TestApplication kind, int &argc, char *argv[])
     case TestApplication::Core:
         return new QCoreApplication(argc, argv);
     case TestApplication::Widgets:
-        QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+        OwnLooks::fixResolution(); // Texts are as wide in a test as on the terminal.
         return new QApplication(argc, argv);
     case TestApplication::None:
         break;

@@ -1,0 +1,45 @@
+#include "ownlooks.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace {
+
+const QColor page(244, 247, 249);
+const QColor field(255, 255, 255);
+const QColor ink(0, 0, 0);
+const QColor faintInk(110, 118, 126);
+const QColor highlight(11, 85, 144);
+
+/// Every role in every group is set: what is left out would be the desktop's.
+QPalette lightPalette()
+{
+    QPalette palette(ink, page, Qt::white, page.darker(160), page.darker(125), ink, Qt::white, field, page);
+    for (const QPalette::ColorRole role : {QPalette::Link, QPalette::LinkVisited, QPalette::Highlight})
+        palette.setColor(role, highlight);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::AlternateBase, page);
+    palette.setColor(QPalette::ToolTipBase, field);
+    palette.setColor(QPalette::ToolTipText, ink);
+    palette.setColor(QPalette::PlaceholderText, faintInk);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faintInk);
+    return palette;
+}
+
+} // namespace
+
+void OwnLooks::fixResolution()
+{
+    qputenv("QT_FONT_DPI", "96");
+    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    for (const char *scale : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"})
+        qunsetenv(scale);
+}
+
+void OwnLooks::apply()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(lightPalette());
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+/// Looks that no desktop setting changes: the display stands for a panel of 1280 × 800 pixels with light pages, on
+/// which captions are sized in points beside controls that are placed in pixels.
+namespace OwnLooks {
+
+/// Makes a point 4/3 pixels on every screen; to be called before there is an application.
+void fixResolution();
+
+/// Gives the application its style and its light palette.
+void apply();
+
+} // namespace OwnLooks
