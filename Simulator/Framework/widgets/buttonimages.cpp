@@ -1,8 +1,10 @@
 #include "buttonimages.h"
 
+#include <QBitmap>
 #include <QColor>
 #include <QPainter>
 #include <QPen>
+#include <QRegion>
 
 namespace {
 
@@ -33,11 +35,18 @@ ButtonImages::ButtonImages(const QDir &folder, const QStringList &files)
 {
     for (const QString &file : files)
         images.append(QPixmap(folder.filePath(file)));
+    const QPixmap first = images.value(0);
+    drawn = first.hasAlphaChannel() ? QRegion(first.mask()).boundingRect() : first.rect();
 }
 
 QSize ButtonImages::size() const
 {
     return images.isEmpty() ? QSize(0, 0) : images.constFirst().size();
+}
+
+QRect ButtonImages::drawnArea() const
+{
+    return drawn;
 }
 
 int ButtonImages::current() const

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPixmap>
+#include <QRect>
 #include <QSize>
 #include <QStringList>
 #include <QVector>
@@ -18,6 +19,8 @@ public:
 
     /// Size of the first image, pixels; 0 × 0 without one.
     QSize size() const;
+    /// Where the first image is not transparent, as one rectangle.
+    QRect drawnArea() const;
     int current() const;
     /// Whether another image is shown now; an index outside the list is ignored.
     bool setCurrent(int index);
@@ -26,5 +29,6 @@ public:
 
 private:
     QVector<QPixmap> images;
+    QRect drawn;
     int shown = 0;
 };

@@ -4,7 +4,7 @@
 #include "touchpress.h"
 
 #include <QEvent>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QMap>
 #include <QMetaMethod>
 #include <QMouseEvent>
@@ -18,9 +18,9 @@ struct TextItem {
     QFont font;
 };
 
-constexpr int textMargin = 12;           // pixels on either side
-constexpr qreal smallestTextShare = 0.6; // of the font size asked for
-constexpr qreal textShareStep = 0.05;
+constexpr int textMargin = 5;           // pixels on either side
+constexpr int smallestTextPercent = 50; // of the font size asked for
+constexpr int textPercentStep = 5;
 constexpr qreal dimmedTextOpacity = 0.5;
 
 QFont scaled(QFont font, qreal share)
@@ -33,13 +33,13 @@ QFont scaled(QFont font, qreal share)
 }
 
 /// The font, made smaller step by step, as far as it stays readable, until the text fits the width.
-QFont fittedFont(const QFont &font, const QString &text, int width)
+QFont fittedFont(const QFont &font, const QString &text, qreal width)
 {
     QFont fitted = font;
-    for (qreal share = 1.0; share > smallestTextShare && QFontMetrics(fitted).horizontalAdvance(text) > width;) {
-        share -= textShareStep;
-        fitted = scaled(font, share);
-    }
+    for (int percent = 100 - textPercentStep;
+         percent >= smallestTextPercent && QFontMetricsF(fitted).horizontalAdvance(text) > width;
+         percent -= textPercentStep)
+        fitted = scaled(font, percent / 100.0);
     return fitted;
 }
 
@@ -142,12 +142,13 @@ void OrvikButton::paintEvent(QPaintEvent *)
 
     if (dimmed)
         painter.setOpacity(dimmedTextOpacity);
-    const QRect area = rect().adjusted(textMargin, 0, -textMargin, 0);
+    const QRect area = d->images.drawnArea().adjusted(textMargin, 0, -textMargin, 0);
     for (const TextItem &item : qAsConst(d->texts)) {
         const QFont font = fittedFont(item.font, item.text, area.width());
         painter.setFont(font);
         painter.setPen(item.color);
-        painter.drawText(area, Qt::AlignCenter, QFontMetrics(font).elidedText(item.text, Qt::ElideRight, area.width()));
+        painter.drawText(area, Qt::AlignCenter,
+                         QFontMetricsF(font).elidedText(item.text, Qt::ElideRight, area.width()));
     }
 }
 

@@ -1,3 +1,5 @@
+#include "paintedtexts.h"
+#include "paths.h"
 #include "testbase.h"
 #include "testimages.h"
 
@@ -45,7 +47,10 @@ private Q_SLOTS:
     void replacesATextItem();
     void ignoresTheColorOfAnUnknownTextItem();
     void aTextThatIsALittleLongIsMadeSmallerAndStaysWhole();
+    void aTextThatFitsStaysWhole_data();
+    void aTextThatFitsStaysWhole();
     void aLongTextStaysOnTheButton();
+    void theTextStandsOnWhatTheImageDraws();
     void mayBeDeletedByASlot();
 
 private:
@@ -314,6 +319,27 @@ void tst_OrvikButton::aTextThatIsALittleLongIsMadeSmallerAndStaysWhole()
     QVERIFY(showsRedSquare());
 }
 
+void tst_OrvikButton::aTextThatFitsStaysWhole_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text : {"Milho", "Canola", "Water", "Inject", "Wheat", "UAN 28", "Bin16"})
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void tst_OrvikButton::aTextThatFitsStaysWhole()
+{
+    QFETCH(QString, text);
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPointSize(24);
+    button->addText(0, text, Qt::red, font);
+    QCOMPARE(paintedTexts(*button), QStringList{text});
+    // On the smaller plate of the terminal's product buttons, too.
+    const QDir images(buildPath("Simulator/Resources/images"));
+    OrvikButton product(1, images, {QStringLiteral("productButtonOff.png")}, QPoint(0, 0), window.data(), false);
+    product.addText(0, text, Qt::red, font);
+    QCOMPARE(paintedTexts(product), QStringList{text});
+}
+
 void tst_OrvikButton::aLongTextStaysOnTheButton()
 {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -327,10 +353,35 @@ void tst_OrvikButton::aLongTextStaysOnTheButton()
             if (image.pixelColor(x, y) == QColor(Qt::lightGray))
                 continue;
             ++redPixels;
-            QVERIFY2(x >= 11 && x < image.width() - 11, "the text touches the button's edge");
+            QVERIFY2(x >= 4 && x < image.width() - 4, "the text touches the button's edge");
         }
     }
     QVERIFY(redPixels > 0);
+}
+
+void tst_OrvikButton::theTextStandsOnWhatTheImageDraws()
+{
+    const QRect plate(34, 0, 60, buttonSize.height());
+    QImage image(buttonSize, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter(&image).fillRect(plate, Qt::lightGray);
+    image.save(files->directory().filePath(QStringLiteral("plate.png")));
+    OrvikButton plated(1, files->directory(), {QStringLiteral("plate.png")}, QPoint(0, 0), window.data(), false);
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(32);
+    plated.addText(0, QStringLiteral("\u25a0 in \u25a0"), Qt::red, font);
+    const QImage shown = plated.grab().toImage();
+    int left = shown.width();
+    int right = 0;
+    for (int x = 0; x < shown.width(); ++x) {
+        if (shown.pixelColor(x, buttonSize.height() / 2) == QColor(Qt::red)) {
+            left = qMin(left, x);
+            right = x;
+        }
+    }
+    QVERIFY(left < right);
+    QVERIFY(left > plate.left() && right < plate.right());
+    QVERIFY2(qAbs(left - plate.left() - (plate.right() - right)) <= 2, "the text is not in the middle of the plate");
 }
 
 void tst_OrvikButton::mayBeDeletedByASlot()

@@ -12,6 +12,10 @@ private Q_SLOTS:
     void everyImageHasItsSize();
     void imagesOfOneControlDiffer_data();
     void imagesOfOneControlDiffer();
+    void allOfAProductButtonThatIsSeenCanBeTouched_data();
+    void allOfAProductButtonThatIsSeenCanBeTouched();
+    void tenProductButtonsFitTheDialog();
+    void captionsStandOffTheProductColumn();
 };
 
 namespace {
@@ -31,8 +35,8 @@ void TestDialogImages::everyImageHasItsSize_data()
     QTest::newRow("Cancel") << QSize(80, 80);
     QTest::newRow("xBoxBg") << QSize(56, 46);
     QTest::newRow("xBoxOn") << QSize(56, 46);
-    QTest::newRow("productButtonOff") << QSize(100, 100);
-    QTest::newRow("productButtonOn") << QSize(100, 100);
+    QTest::newRow("productButtonOff") << QSize(103, 72);
+    QTest::newRow("productButtonOn") << QSize(103, 72);
     QTest::newRow("lineEditBg") << QSize(182, 56);
 }
 
@@ -59,6 +63,42 @@ void TestDialogImages::imagesOfOneControlDiffer()
     QFETCH(QString, second);
     // An operator must see which of the two is shown.
     QVERIFY(imageOf(first) != imageOf(second));
+}
+
+void TestDialogImages::allOfAProductButtonThatIsSeenCanBeTouched_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"productButtonOff", "productButtonOn"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestDialogImages::allOfAProductButtonThatIsSeenCanBeTouched()
+{
+    QFETCH(QString, name);
+    const QImage image = imageOf(name);
+    constexpr int left = 23;       // Of a button in the dialog.
+    constexpr int captionEnd = 55; // Of the vertical caption over the buttons.
+    const auto isDrawn = [&image](int x, int y) { return qAlpha(image.pixel(x, y)) > 0; };
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < captionEnd - left; ++x)
+            QVERIFY(!isDrawn(x, y));
+    }
+    QVERIFY(isDrawn(captionEnd - left, image.height() / 2));
+    QVERIFY2(isDrawn(64, 0) && isDrawn(64, image.height() - 1), "there is a margin that takes room from other buttons");
+}
+
+void TestDialogImages::tenProductButtonsFitTheDialog()
+{
+    QVERIFY(10 * imageOf(QStringLiteral("productButtonOff")).height()
+            <= imageOf(QStringLiteral("RxOptionsPopup")).height());
+}
+
+void TestDialogImages::captionsStandOffTheProductColumn()
+{
+    const QImage page = imageOf(QStringLiteral("RxOptionsPopup"));
+    constexpr int captions = 133;
+    for (int x = captions - 8; x <= captions; ++x)
+        QCOMPARE(QColor(page.pixel(x, 360)), QColor(Qt::white));
 }
 
 RXMAP_TEST(TestDialogImages, Widgets)
