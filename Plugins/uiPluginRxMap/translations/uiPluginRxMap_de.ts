@@ -177,7 +177,7 @@ E</translation>
     </message>
     <message>
         <source>Default Rate</source>
-        <translation>Standardmenge</translation>
+        <translation>Vorgabe</translation>
     </message>
 </context>
 <context>

@@ -177,7 +177,7 @@ S</translation>
     </message>
     <message>
         <source>Default Rate</source>
-        <translation>Dose par défaut</translation>
+        <translation>Dose standard</translation>
     </message>
 </context>
 <context>
