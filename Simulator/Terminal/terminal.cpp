@@ -141,10 +141,9 @@ LoadReport Terminal::open(const QString &path, const QStringList &columns)
     LoadReport refused;
     refused.path = path;
     if (columns.size() > machineModel->products().size()) {
-        refused.error = QStringLiteral("%1: %2 columns are named, but the machine has %3 products")
-                            .arg(path)
-                            .arg(columns.size())
-                            .arg(machineModel->products().size());
+        refused.error =
+            QStringLiteral("%1: %2 columns are named, but the machine has %3 products")
+                .arg(path, QString::number(columns.size()), QString::number(machineModel->products().size()));
         return refused;
     }
     LoadRequest request;

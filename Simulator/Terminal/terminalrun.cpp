@@ -102,7 +102,7 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
     for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
         const QString product = terminal.machine()->products().at(feed.key() - 1).name;
-        print(stdout, QStringLiteral("%1: product %2 (%3): %4").arg(report.path).arg(feed.key()).arg(product, *feed));
+        print(stdout, QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
     }
     if (feeds.isEmpty())
         print(stdout, QStringLiteral("%1: feeds no product").arg(report.path));

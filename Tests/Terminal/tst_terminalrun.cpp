@@ -18,6 +18,7 @@ class TestTerminalRun : public TestBase {
 private Q_SLOTS:
     void whatCannotBeDoneIsOneLine_data();
     void whatCannotBeDoneIsOneLine();
+    void namesMayHoldWhatStandsForArguments();
     void tasksAreDoneInTheirOrder();
     void aScriptThatFailsEndsTheTasks();
     void withoutATaskItRunsUntilTheDisplayIsClosed();
@@ -98,6 +99,26 @@ void TestTerminalRun::whatCannotBeDoneIsOneLine()
     QVERIFY2(!outcome.error.contains(QLatin1Char('\n')), qPrintable(outcome.error));
     QVERIFY2(!outcome.error.startsWith(QLatin1String("not understood")), qPrintable(outcome.error));
     QCOMPARE(outcome.errors, QString());
+}
+
+void TestTerminalRun::namesMayHoldWhatStandsForArguments()
+{
+    const QString name = QStringLiteral("50%1 %2 %3.geojson");
+    const QString map = folder.filePath(name);
+    QVERIFY(QFile::copy(zones(), map));
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("copy")));
+    const QString copy = folder.filePath(QStringLiteral("copy/") + name);
+    QVERIFY(QFile::copy(zones(), copy));
+    const QString script = write("print(terminal.groups('rxMap.*').join());\nthrow new Error('end');", "100%1%2.js");
+    const Outcome outcome = run({"--script", script, map, copy});
+    QVERIFY2(outcome.output.contains(copy + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")),
+             qPrintable(outcome.output));
+    QVERIFY2(outcome.output.endsWith(QStringLiteral("rxMap.%1,rxMap.%1 (2)\n").replace(QStringLiteral("%1"), name)),
+             qPrintable(outcome.output));
+    QCOMPARE(outcome.error, script + QStringLiteral(":2: Error: end"));
+    const QString refusal = run({"--columns", "SEED_K_HA,,,FERT_KG_HA", map}).error;
+    QVERIFY2(refusal.startsWith(map + QStringLiteral(": 4 columns are named, but the machine has 3")),
+             qPrintable(refusal));
 }
 
 void TestTerminalRun::tasksAreDoneInTheirOrder()

@@ -37,7 +37,7 @@ void closeDialogs()
 QString describe(const QJSValue &error, const QString &name)
 {
     const QJSValue line = error.property(QStringLiteral("lineNumber"));
-    const QString place = line.isNumber() ? QStringLiteral("%1:%2").arg(name).arg(line.toInt()) : name;
+    const QString place = line.isNumber() ? QStringLiteral("%1:%2").arg(name, QString::number(line.toInt())) : name;
     return QStringLiteral("%1: %2").arg(place, error.toString().simplified());
 }
 

@@ -42,7 +42,7 @@ QString reasonOf(int code, const QString &group, const QString &property)
     case DataBrokerGroup::ErrGroupRemoved:
         return QStringLiteral("group \"%1\" has been removed").arg(group);
     default:
-        return QStringLiteral("\"%2\" of group \"%1\" refused the value with code %3").arg(group, property).arg(code);
+        return QStringLiteral("\"%2\" of group \"%1\" refused the value with code %3").arg(group, property, QString::number(code));
     }
 }
 

@@ -142,7 +142,7 @@ QString PrescriptionBackendPrivate::freeGroupName(const QString &file) const
     const QString name = nameForGroup(QFileInfo(file).fileName());
     QString candidate = name;
     for (int i = 2; broker->getGroup(candidate, false) != nullptr; ++i)
-        candidate = QStringLiteral("%1 (%2)").arg(name).arg(i);
+        candidate = QStringLiteral("%1 (%2)").arg(name, QString::number(i));
     return candidate;
 }
 

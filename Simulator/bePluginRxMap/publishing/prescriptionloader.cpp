@@ -101,9 +101,9 @@ bool PrescriptionLoader::checkRequest()
     if (request.rateCalNames.isEmpty())
         return fail(QStringLiteral("there is no product to load it for"));
     if (request.columns.size() > request.rateCalNames.size())
-        return fail(QStringLiteral("column \"%1\" has no product: there are %2")
-                        .arg(request.columns.at(request.rateCalNames.size()))
-                        .arg(request.rateCalNames.size()));
+        return fail(
+            QStringLiteral("column \"%1\" has no product: there are %2")
+                .arg(request.columns.at(request.rateCalNames.size()), QString::number(request.rateCalNames.size())));
     const auto isEmpty = [](const QString &name) { return name.isEmpty(); };
     if (!request.columns.isEmpty() && std::all_of(request.columns.begin(), request.columns.end(), isEmpty))
         return fail(QStringLiteral("no column is named for any product"));

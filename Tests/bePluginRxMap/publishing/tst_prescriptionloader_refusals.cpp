@@ -64,8 +64,8 @@ void PrescriptionLoaderRefusalsTest::refusesARequestThatMakesNoSense_data()
     QTest::addColumn<QString>("reason");
     const QStringList products = requestFor({}).rateCalNames;
     QTest::newRow("no product") << QStringList() << QStringList() << "no product";
-    QTest::newRow("more columns than products")
-        << QStringList({"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA", "area_ha"}) << products << "\"area_ha\" has no product";
+    QTest::newRow("more columns than products") << QStringList({"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA", "%2"})
+                                                << products << "\"%2\" has no product: there are 3";
     QTest::newRow("empty columns only") << QStringList({"", ""}) << products << "no column is named";
     QTest::newRow("a column that is not there") << QStringList({"SEED_K_HA", "LIME"}) << products << "\"LIME\"";
 }
