@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "errorline.h"
 #include "ownlooks.h"
 #include "terminalrun.h"
 
@@ -8,7 +9,10 @@
 #include <QOpenGLContext>
 
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <fcntl.h>
+#include <new>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,8 +21,22 @@ namespace {
 
 int complain(const QString &reason)
 {
-    std::fprintf(stderr, "terminal-simulator: %s\n", reason.toLocal8Bit().constData());
+    writeErrorLine(QStringLiteral("terminal-simulator: ") + reason);
     return 1;
+}
+
+/// Qt's own code cannot be unwound when a script's text or list outgrows the memory; that must be a plain error, too.
+[[noreturn]] void endWithoutMemory()
+{
+    try {
+        if (const std::exception_ptr thrown = std::current_exception())
+            std::rethrow_exception(thrown);
+    } catch (const std::bad_alloc &) {
+        std::fputs("terminal-simulator: there is not enough memory\n", stderr);
+        _exit(1);
+    } catch (...) {
+    }
+    std::abort();
 }
 
 /// Qt aborts where it cannot open a display; that must be a plain error. A child process tries it, silently.
@@ -52,6 +70,7 @@ void provideRuntimeFolder()
 
 int main(int argc, char *argv[])
 {
+    std::set_terminate(endWithoutMemory);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

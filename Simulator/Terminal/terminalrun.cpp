@@ -2,6 +2,7 @@
 
 #include "columnplan.h"
 #include "commandline.h"
+#include "errorline.h"
 #include "languages.h"
 #include "machine.h"
 #include "productfile.h"
@@ -21,10 +22,10 @@ namespace {
 const char builtPluginFolder[] = "../../Plugins/uiPluginRxMap";
 const char builtImageFolder[] = "../Resources/images";
 
-void print(std::FILE *stream, const QString &line)
+void print(const QString &line)
 {
-    std::fprintf(stream, "%s\n", line.toLocal8Bit().constData());
-    std::fflush(stream);
+    std::fprintf(stdout, "%s\n", line.toLocal8Bit().constData());
+    std::fflush(stdout);
 }
 
 QDir besideProgram(const char *folder)
@@ -36,7 +37,7 @@ QString loadPlugins(Terminal &terminal, const QDir &folder)
 {
     const QStringList skipped = terminal.loadPlugins(folder, besideProgram(builtImageFolder));
     for (const QString &complaint : skipped)
-        print(stderr, complaint);
+        writeErrorLine(complaint);
     return terminal.hasPlugins() ? QString()
                                  : QStringLiteral("%1: no user-interface plug-in in this folder").arg(folder.path());
 }
@@ -60,7 +61,7 @@ QStringList withoutRepetition(const QStringList &paths)
 void printWarnings(const LoadReport &report)
 {
     for (const QString &warning : report.warnings)
-        print(stderr, warning);
+        writeErrorLine(warning);
 }
 
 QString openOne(Terminal &terminal, const QString &path, const QStringList &columns)
@@ -87,7 +88,7 @@ QString openWithColumns(Terminal &terminal, const QStringList &paths, const QStr
         return plan.error;
     for (int i = 0; i < files.size(); ++i) {
         if (plan.value.at(i).isEmpty()) {
-            print(stderr, QStringLiteral("%1: not opened, it feeds no product").arg(files.at(i).path));
+            writeErrorLine(QStringLiteral("%1: not opened, it feeds no product").arg(files.at(i).path));
             continue;
         }
         const QString error = openOne(terminal, files.at(i).path, plan.value.at(i));
@@ -102,10 +103,10 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
     for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
         const QString product = terminal.machine()->products().at(feed.key() - 1).name;
-        print(stdout, QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
+        print(QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
     }
     if (feeds.isEmpty())
-        print(stdout, QStringLiteral("%1: feeds no product").arg(report.path));
+        print(QStringLiteral("%1: feeds no product").arg(report.path));
 }
 
 /// Each file feeds the products that none before it does; once all are fed, a file takes products over.
@@ -144,8 +145,7 @@ void showFedProduct(Terminal &terminal)
 void describe(Terminal &terminal, const QPointF &point)
 {
     const QString text = terminal.touch(point);
-    print(stdout,
-          text.isEmpty() ? QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y()) : text);
+    print(text.isEmpty() ? QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y()) : text);
 }
 
 QString runScript(Terminal &terminal, const QString &path)

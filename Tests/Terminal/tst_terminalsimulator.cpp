@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aPointIsDescribedInTheOperatorsUnits();
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
+    void aScriptThatOutgrowsTheMemoryEndsWithALine();
     void brokenPluginsAreReportedAndSkipped();
     void withoutADisplayItSaysSo_data();
     void withoutADisplayItSaysSo();
@@ -68,6 +69,9 @@ void TestTerminalSimulator::badArgumentsEndWithOneLine_data()
     QTest::newRow("unknown option") << QStringList{"--colour"} << "colour";
     QTest::newRow("unknown units") << QStringList{"--units", "metres"} << "metres";
     QTest::newRow("missing prescription") << QStringList{"/no/such.shp"} << "/no/such.shp";
+    QTest::newRow("control bytes in a file")
+        << QStringList{write("{\"type\": \"FeatureCollection\", \"features\": [\x1b[31m]}", "red.geojson")} << "(?)";
+    QTest::newRow("control bytes in a name") << QStringList{"/no/such\x1b[31m\n.shp"} << "/no/such?[31m?.shp";
     QTest::newRow("bad products") << QStringList{"--products", write("[]", "empty.json")} << "empty.json";
 }
 
@@ -80,6 +84,7 @@ void TestTerminalSimulator::badArgumentsEndWithOneLine()
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
     QVERIFY2(outcome.errors.startsWith(QLatin1String("terminal-simulator: ")), qPrintable(outcome.errors));
     QVERIFY2(outcome.errors.contains(mentioned), qPrintable(outcome.errors));
+    QVERIFY(!outcome.errors.contains(QLatin1Char('\x1b')) && !outcome.errors.contains(QLatin1Char('\a')));
 }
 
 void TestTerminalSimulator::helpIsPrinted()
@@ -118,6 +123,17 @@ void TestTerminalSimulator::aScriptsResultIsTheExitStatus()
     QVERIFY2(bad.errors.contains(QLatin1String("bad.js:2: Error: no group \"x\"")), qPrintable(bad.errors));
     QCOMPARE(bad.errors.count(QLatin1Char('\n')), 1);
     QVERIFY2(bad.errors.startsWith(QLatin1String("terminal-simulator: ")), qPrintable(bad.errors));
+}
+
+void TestTerminalSimulator::aScriptThatOutgrowsTheMemoryEndsWithALine()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // The sanitizer would end the program itself; as it is, it only remarks on it.
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("allocator_may_return_null=1"));
+    const Outcome outcome = run({"--script", write("'x'.repeat(0x7fffffff);", "huge.js")}, environment);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.endsWith(QLatin1String("terminal-simulator: there is not enough memory\n")),
+             qPrintable(outcome.errors));
 }
 
 void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
