@@ -2,6 +2,7 @@
 
 #include "regularfile.h"
 #include "scriptconsole.h"
+#include "scriptprelude.h"
 #include "scriptterminal.h"
 #include "terminal.h"
 
@@ -36,8 +37,8 @@ void closeDialogs()
 
 QString describe(const QJSValue &error, const QString &name)
 {
-    const QJSValue line = error.property(QStringLiteral("lineNumber"));
-    const QString place = line.isNumber() ? QStringLiteral("%1:%2").arg(name, QString::number(line.toInt())) : name;
+    const int line = ScriptPrelude::lineOf(error);
+    const QString place = line > 0 ? QStringLiteral("%1:%2").arg(name, QString::number(line)) : name;
     return QStringLiteral("%1: %2").arg(place, error.toString().simplified());
 }
 
@@ -110,21 +111,10 @@ QString ScriptRunner::evaluateOnThread(const QString &program, const QString &na
     QJSEngine scriptEngine;
     ScriptTerminal scriptTerminal(terminal, &isInterrupted, &scriptEngine);
     ScriptConsole console(&scriptEngine);
-    QJSValue global = scriptEngine.globalObject();
-    global.setProperty(QStringLiteral("terminal"), scriptEngine.newQObject(&scriptTerminal));
-    QJSValue makePrint = scriptEngine.evaluate(
-        QStringLiteral("(function (console) { return function () { "
-                       "console.writeLine(Array.prototype.map.call(arguments, String).join(' ')); }; })"));
-    global.setProperty(QStringLiteral("print"), makePrint.call({scriptEngine.newQObject(&console)}));
+    ScriptPrelude::provide(scriptEngine, &scriptTerminal, &console);
 
     useEngine(&scriptEngine);
-    // Whatever is thrown comes out as an Error, which is how the engine tells a failure from a result; only an Error of
-    // the script's own knows its line.
-    const QString guarded =
-        QStringLiteral("try { %1\n} catch (thrown) { if (!(thrown instanceof Error)) {"
-                       " thrown = new Error(String(thrown)); thrown.lineNumber = null; } throw thrown; }")
-            .arg(program);
-    const QJSValue result = scriptEngine.evaluate(guarded, name);
+    const QJSValue result = scriptEngine.evaluate(ScriptPrelude::guarded(program), name);
     useEngine(nullptr);
     if (isInterrupted)
         return QStringLiteral("%1: interrupted").arg(name);

@@ -42,7 +42,8 @@ QString reasonOf(int code, const QString &group, const QString &property)
     case DataBrokerGroup::ErrGroupRemoved:
         return QStringLiteral("group \"%1\" has been removed").arg(group);
     default:
-        return QStringLiteral("\"%2\" of group \"%1\" refused the value with code %3").arg(group, property, QString::number(code));
+        return QStringLiteral("\"%2\" of group \"%1\" refused the value with code %3")
+            .arg(group, property, QString::number(code));
     }
 }
 
@@ -169,8 +170,18 @@ void ScriptTerminal::close(const QString &group)
         fail(QStringLiteral("no map \"%1\" is loaded").arg(group));
 }
 
+bool ScriptTerminal::isFieldPoint(double x, double y) const
+{
+    const bool isFinite = std::isfinite(x) && std::isfinite(y);
+    if (!isFinite)
+        fail(QStringLiteral("(%1, %2) is no field point").arg(x).arg(y));
+    return isFinite;
+}
+
 QString ScriptTerminal::touchMap(double x, double y)
 {
+    if (!isFieldPoint(x, y))
+        return {};
     return onGui([&] { return terminal->touch(QPointF(x, y)); });
 }
 
@@ -187,10 +198,8 @@ QJSValue ScriptTerminal::bounds()
 
 QJSValue ScriptTerminal::mapColor(double x, double y)
 {
-    if (!std::isfinite(x) || !std::isfinite(y)) {
-        fail(QStringLiteral("(%1, %2) is no field point").arg(x).arg(y));
+    if (!isFieldPoint(x, y))
         return {};
-    }
     const QColor color = onGui([&] { return terminal->mapColor(QPointF(x, y)); });
     return qjsEngine(this)->toScriptValue(QVariantList{color.red(), color.green(), color.blue()});
 }

@@ -44,6 +44,8 @@ public:
 private:
     template <typename Function> auto onGui(Function function) const;
     void fail(const QString &reason) const;
+    /// Whether both are numbers; fails otherwise.
+    bool isFieldPoint(double x, double y) const;
 
     Terminal *terminal;
     const std::atomic<bool> *isInterrupted;

@@ -198,6 +198,7 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("product beyond whole numbers", "terminal.activeProduct = 4294967297;", "no product 4294967297");
     row("product in words", "terminal.activeProduct = 'two';", "no product two");
     row("product true", "terminal.activeProduct = true;", "no product true");
+    row("no field point to touch", "terminal.touchMap('a', 0);", "is no field point");
     row("no field point", "terminal.mapColor(NaN, 0);", "is no field point");
     row("unknown group", "terminal.get('nothing', 'x');", "no group \"nothing\"");
     row("unknown property", "terminal.get('quillSpan', 'x');", "group \"quillSpan\" has no property \"x\"");
