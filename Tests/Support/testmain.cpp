@@ -23,14 +23,22 @@ QMap<QString, Entry> &entries()
     return all;
 }
 
+/// Texts are as wide in a test as on the terminal, and colours the same, whatever the desktop.
+QCoreApplication *makeGuiApplication(int &argc, char *argv[])
+{
+    OwnLooks::fixResolution();
+    auto *application = new QApplication(argc, argv);
+    OwnLooks::apply();
+    return application;
+}
+
 QCoreApplication *makeApplication(TestApplication kind, int &argc, char *argv[])
 {
     switch (kind) {
     case TestApplication::Core:
         return new QCoreApplication(argc, argv);
     case TestApplication::Widgets:
-        OwnLooks::fixResolution(); // Texts are as wide in a test as on the terminal.
-        return new QApplication(argc, argv);
+        return makeGuiApplication(argc, argv);
     case TestApplication::None:
         break;
     }
