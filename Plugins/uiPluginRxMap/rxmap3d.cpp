@@ -30,6 +30,9 @@ using Legends = QList<QList<RX_RATECOLOR>>;
 
 namespace {
 
+/// A hook that activates another product at every read would have the group chosen without end.
+constexpr int mostRounds = 4;
+
 /// The first prescription group, in the broker's order, that maps the product of `aam`; null when there is none.
 DataBrokerGroup *findRxMapGroup(const DataBroker &broker, const DbGroupAAM &aam)
 {
@@ -71,15 +74,17 @@ void RxMap3D::setAamGroup(DbGroupAAM *group)
 
 void RxMap3D::updateRxMapGroup()
 {
-    // Reading runs the host's hooks, which may delete this or activate another product: that one is chosen for then.
+    // Reading runs the host's hooks, which may delete this or activate another product: that one is chosen for then, as
+    // often as a host that comes to rest needs.
     const QPointer<RxMap3D> self(this);
-    const DbGroupAAM *aam = nullptr;
-    do {
-        aam = aamGroup;
+    for (int round = 0; round < mostRounds; ++round) {
+        const DbGroupAAM *aam = aamGroup;
         DataBrokerGroup *group = aam == nullptr || broker == nullptr ? nullptr : findRxMapGroup(*broker, *aam);
-        if (self != nullptr && aamGroup == aam)
+        if (self != nullptr && (aamGroup == aam || round + 1 == mostRounds))
             setDbGroup(group);
-    } while (self != nullptr && aamGroup != aam);
+        if (self == nullptr || aamGroup == aam)
+            return;
+    }
 }
 
 void RxMap3D::setDbGroup(DataBrokerGroup *group)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theNewerChoiceStays();
     void beforeInitTheNewerChoiceIsBoundToo_data();
     void beforeInitTheNewerChoiceIsBoundToo();
+    void aHostThatNeverComesToRestEndsTheChoice();
     void theChoiceMayLoseTheDrawable_data();
     void theChoiceMayLoseTheDrawable();
     void aMapTakenOutWhileChoosingIsSkipped();
@@ -155,6 +156,25 @@ void TestRxMap3DHooks::beforeInitTheNewerChoiceIsBoundToo()
     uninitialised.updateRxMapGroup();
     QCOMPARE(RxMap3DProbe::boundGroup(uninitialised), secondMap);
     QCOMPARE(RxMap3DProbe::banks(uninitialised).at(0).vertices.size(), 12);
+}
+
+void TestRxMap3DHooks::aHostThatNeverComesToRestEndsTheChoice()
+{
+    struct Swing {
+        MapHost *host;
+        RxMap3D drawable;
+        int product = 1;
+    } swing{host.data(), RxMap3D(&host->broker, nullptr)};
+    const auto activateTheOther = [](void *argument) {
+        auto &all = *static_cast<Swing *>(argument);
+        all.product = 3 - all.product;
+        all.drawable.setAamGroup(all.host->aam(all.product));
+    };
+    swing.drawable.setAamGroup(host->aam(1));
+    QVERIFY(firstMap->setBeforeReadHook("rateCalMappings", activateTheOther, &swing));
+    swing.drawable.updateRxMapGroup();
+    QVERIFY(RxMap3DProbe::boundGroup(swing.drawable) != nullptr);
+    QVERIFY(firstMap->setBeforeReadHook("rateCalMappings", nullptr, nullptr));
 }
 
 void TestRxMap3DHooks::theChoiceMayLoseTheDrawable_data()
