@@ -1,9 +1,9 @@
 #include "touchpress.h"
 
-TouchPress::TouchPress()
+TouchPress::TouchPress(HoldTimer *timer)
+    : holdTimer(timer)
 {
-    holdTimer.setSingleShot(true);
-    connect(&holdTimer, &QTimer::timeout, this, &TouchPress::heldLongEnough);
+    connect(timer, &HoldTimer::timeout, this, &TouchPress::heldLongEnough);
 }
 
 void TouchPress::press(Hold hold)
@@ -25,7 +25,7 @@ void TouchPress::move(bool inside)
     if (inside)
         startHold();
     else
-        holdTimer.stop();
+        holdTimer->stop();
     Q_EMIT lookChanged();
 }
 
@@ -50,14 +50,14 @@ bool TouchPress::looksPressed() const
 void TouchPress::startHold()
 {
     if (holdAction != Hold::Nothing)
-        holdTimer.start(holdAction == Hold::Repeat ? repeatDelayMs : longTouchMs);
+        holdTimer->start(holdAction == Hold::Repeat ? repeatDelayMs : longTouchMs);
 }
 
 void TouchPress::heldLongEnough()
 {
     if (holdAction == Hold::Repeat) {
         hasRepeated = true;
-        holdTimer.start(repeatIntervalMs);
+        holdTimer->start(repeatIntervalMs);
         Q_EMIT released();
         return;
     }
@@ -67,7 +67,7 @@ void TouchPress::heldLongEnough()
 
 void TouchPress::end()
 {
-    holdTimer.stop();
+    holdTimer->stop();
     if (!isDown)
         return;
     isDown = false;

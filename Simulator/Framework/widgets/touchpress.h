@@ -1,7 +1,9 @@
 #pragma once
 
+#include "holdtimer.h"
+
 #include <QObject>
-#include <QTimer>
+#include <QScopedPointer>
 
 /// One finger on one control, from touch to lift: tells a counted release from a cancelled one and from a hold.
 /// The control passes on where the finger is and draws itself pressed while looksPressed(). A slot of pressed(),
@@ -21,7 +23,8 @@ public:
     static constexpr int repeatDelayMs = 500;
     static constexpr int repeatIntervalMs = 120;
 
-    TouchPress();
+    /// Owns the timer.
+    explicit TouchPress(HoldTimer *timer = new HoldTimer);
 
     /// The finger comes down on the control.
     void press(Hold hold);
@@ -44,7 +47,7 @@ private:
     void heldLongEnough();
     void end();
 
-    QTimer holdTimer;
+    QScopedPointer<HoldTimer> holdTimer;
     Hold holdAction = Hold::Nothing;
     bool isDown = false;
     bool isInside = false;

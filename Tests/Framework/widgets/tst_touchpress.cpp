@@ -1,12 +1,36 @@
 #include "testbase.h"
 #include "touchpress.h"
 
+#include <QPointer>
 #include <QScopedPointer>
 #include <QSignalSpy>
 
+#include <limits>
+
 namespace {
 
-constexpr int slack = 60; // ms that a timer may be late
+/// Goes by a time that the test lets pass.
+class TestTimer : public HoldTimer {
+public:
+    void start(int milliseconds) override { left = milliseconds; }
+    void stop() override { left = never; }
+
+    void pass(int milliseconds)
+    {
+        const QPointer<TestTimer> self(this);
+        while (self && left <= milliseconds) {
+            milliseconds -= left;
+            left = never;
+            Q_EMIT timeout();
+        }
+        if (self && left != never)
+            left -= milliseconds;
+    }
+
+private:
+    static constexpr int never = std::numeric_limits<int>::max();
+    int left = never;
+};
 
 } // namespace
 
@@ -27,8 +51,10 @@ private Q_SLOTS:
     void aCancelledTouchReportsNothing();
     void mayBeDeletedByASlot_data();
     void mayBeDeletedByASlot();
+    void goesByTheTimeThatPasses();
 
 private:
+    TestTimer *timer = nullptr; ///< Owned by the touch.
     QScopedPointer<TouchPress> touch;
     QScopedPointer<QSignalSpy> released;
     QScopedPointer<QSignalSpy> longTouched;
@@ -37,7 +63,8 @@ private:
 void tst_TouchPress::init()
 {
     TestBase::init();
-    touch.reset(new TouchPress);
+    timer = new TestTimer;
+    touch.reset(new TouchPress(timer));
     released.reset(new QSignalSpy(touch.data(), &TouchPress::released));
     longTouched.reset(new QSignalSpy(touch.data(), &TouchPress::longTouched));
 }
@@ -100,9 +127,10 @@ void tst_TouchPress::looksPressedOnlyWhileTheFingerIsOnIt()
 void tst_TouchPress::aHoldIsALongTouchAndNoRelease()
 {
     touch->press(TouchPress::Hold::LongTouch);
-    QTest::qWait(TouchPress::longTouchMs / 2);
+    timer->pass(TouchPress::longTouchMs - 1);
     QCOMPARE(longTouched->count(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(longTouched->count(), 1, TouchPress::longTouchMs);
+    timer->pass(1);
+    QCOMPARE(longTouched->count(), 1);
     QVERIFY(!touch->looksPressed());
     touch->release(true);
     QCOMPARE(released->count(), 0);
@@ -113,18 +141,19 @@ void tst_TouchPress::aHoldStartsAnewWhenTheFingerComesBack()
 {
     touch->press(TouchPress::Hold::LongTouch);
     touch->move(false);
-    QTest::qWait(TouchPress::longTouchMs + slack);
+    timer->pass(TouchPress::longTouchMs);
     QCOMPARE(longTouched->count(), 0);
     touch->move(true);
-    QTest::qWait(TouchPress::longTouchMs / 2);
+    timer->pass(TouchPress::longTouchMs - 1);
     QCOMPARE(longTouched->count(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(longTouched->count(), 1, TouchPress::longTouchMs);
+    timer->pass(1);
+    QCOMPARE(longTouched->count(), 1);
 }
 
 void tst_TouchPress::withoutAHoldALongTouchIsARelease()
 {
     touch->press(TouchPress::Hold::Nothing);
-    QTest::qWait(TouchPress::longTouchMs + slack);
+    timer->pass(TouchPress::longTouchMs);
     touch->release(true);
     QCOMPARE(longTouched->count(), 0);
     QCOMPARE(released->count(), 1);
@@ -133,11 +162,14 @@ void tst_TouchPress::withoutAHoldALongTouchIsARelease()
 void tst_TouchPress::repeatsWhileHeld()
 {
     touch->press(TouchPress::Hold::Repeat);
-    QTRY_COMPARE_WITH_TIMEOUT(released->count(), 3, TouchPress::repeatDelayMs + 10 * TouchPress::repeatIntervalMs);
+    timer->pass(TouchPress::repeatDelayMs - 1);
+    QCOMPARE(released->count(), 0);
+    timer->pass(1 + 2 * TouchPress::repeatIntervalMs);
+    QCOMPARE(released->count(), 3);
     touch->release(true);
     QCOMPARE(released->count(), 3);
     QCOMPARE(longTouched->count(), 0);
-    QTest::qWait(2 * TouchPress::repeatIntervalMs);
+    timer->pass(2 * TouchPress::repeatIntervalMs);
     QCOMPARE(released->count(), 3);
 }
 
@@ -146,7 +178,7 @@ void tst_TouchPress::aCancelledTouchReportsNothing()
     touch->press(TouchPress::Hold::LongTouch);
     touch->cancel();
     QVERIFY(!touch->looksPressed());
-    QTest::qWait(TouchPress::longTouchMs + slack);
+    timer->pass(TouchPress::longTouchMs);
     touch->release(true);
     QCOMPARE(longTouched->count(), 0);
     QCOMPARE(released->count(), 0);
@@ -163,13 +195,24 @@ void tst_TouchPress::mayBeDeletedByASlot_data()
 void tst_TouchPress::mayBeDeletedByASlot()
 {
     QFETCH(int, hold);
-    QPointer<TouchPress> shortLived = new TouchPress;
+    auto *shortTimer = new TestTimer;
+    QPointer<TouchPress> shortLived = new TouchPress(shortTimer);
     connect(shortLived.data(), &TouchPress::released, this, [shortLived] { delete shortLived.data(); });
     connect(shortLived.data(), &TouchPress::longTouched, this, [shortLived] { delete shortLived.data(); });
     shortLived->press(TouchPress::Hold(hold));
     if (TouchPress::Hold(hold) == TouchPress::Hold::Nothing)
         shortLived->release(true);
-    QTRY_VERIFY_WITH_TIMEOUT(shortLived.isNull(), 2 * TouchPress::longTouchMs);
+    else
+        shortTimer->pass(TouchPress::longTouchMs);
+    QVERIFY(shortLived.isNull());
+}
+
+void tst_TouchPress::goesByTheTimeThatPasses()
+{
+    TouchPress real;
+    QSignalSpy heard(&real, &TouchPress::longTouched);
+    real.press(TouchPress::Hold::LongTouch);
+    QVERIFY(heard.wait(2 * TouchPress::longTouchMs));
 }
 
 RXMAP_TEST(tst_TouchPress, Core)
