@@ -8,6 +8,12 @@ set(RXMAP_DEFINITIONS QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_URL
     QT_DISABLE_DEPRECATED_BEFORE=0x050900)
 # Wherever a point is tested against an edge it must round alike, in tests too.
 set(RXMAP_ROUNDING -ffp-contract=off)
+# g++ 12 at -O2 takes two doubles that go through float and back for a vector that need not be narrowed.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fno-tree-slp-vectorize RXMAP_HAS_NO_TREE_SLP_VECTORIZE)
+if(RXMAP_HAS_NO_TREE_SLP_VECTORIZE)
+    list(APPEND RXMAP_ROUNDING -fno-tree-slp-vectorize)
+endif()
 
 add_library(rxmap_compile_options INTERFACE)
 target_compile_options(rxmap_compile_options INTERFACE ${RXMAP_ROUNDING} ${RXMAP_WARNINGS})

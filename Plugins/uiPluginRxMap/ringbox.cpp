@@ -18,6 +18,13 @@ Box emptyBox()
     return {infinity, infinity, -infinity, -infinity};
 }
 
+// Volatile, since a compiler may take the two conversions for none: g++ 12 does where it makes a vector of x and y.
+double narrowed(double coordinate)
+{
+    const volatile float narrow = static_cast<float>(coordinate);
+    return static_cast<double>(narrow);
+}
+
 void include(Box &box, const RX_POLYGONVERTEX &vertex)
 {
     box.minX = qMin(box.minX, vertex.x);
@@ -30,7 +37,7 @@ void include(Box &box, const RX_POLYGONVERTEX &vertex)
 
 RX_POLYGONVERTEX narrowed(const RX_POLYGONVERTEX &vertex)
 {
-    return {static_cast<double>(static_cast<float>(vertex.x)), static_cast<double>(static_cast<float>(vertex.y))};
+    return {narrowed(vertex.x), narrowed(vertex.y)};
 }
 
 bool boxOfOuter(const RX_POLYGON &ring, Box &box)

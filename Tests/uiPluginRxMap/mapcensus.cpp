@@ -34,7 +34,7 @@ bool areSame(const RX_POLYGONVERTEX &one, const RX_POLYGONVERTEX &other)
 
 RX_POLYGONVERTEX asFloats(const RX_POLYGONVERTEX &vertex)
 {
-    return {static_cast<double>(static_cast<float>(vertex.x)), static_cast<double>(static_cast<float>(vertex.y))};
+    return {narrowedPlainly(vertex.x), narrowedPlainly(vertex.y)};
 }
 
 bool isFinite(const RX_POLYGONVERTEX &vertex)
@@ -137,6 +137,7 @@ void MapCensus::add(HandMadeChain &chain)
     for (RX_POLYGON *polygon = chain.first(); polygon != nullptr; polygon = polygon->next)
         (polygon->isHole ? holes : outers).append(polygon);
     const QVector<QVector<int>> cut = plainPlacement(outers, holes);
+    found[PlacedByNarrowing] += cut == plainPlacement(outers, holes, [](double value) { return value; }) ? 0 : 1;
     QVector<RX_POLYGON *> left = holes;
     for (int outer = 0; outer < outers.size(); ++outer) {
         QVector<RX_POLYGON *> candidates;
@@ -197,6 +198,7 @@ QString MapCensus::shortOf(const Counts &least) const
         {HoleInOddRing, QStringLiteral("holes in odd rings")},
         {EdgeShared, QStringLiteral("shared edges")},
         {HolesThatTouch, QStringLiteral("holes that touch")},
+        {PlacedByNarrowing, QStringLiteral("maps placed by narrowing")},
     };
     QStringList parts;
     for (auto wanted = least.cbegin(); wanted != least.cend(); ++wanted) {

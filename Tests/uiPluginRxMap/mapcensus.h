@@ -18,6 +18,7 @@ public:
         HoleInOddRing,         ///< Holes cut from an outer ring that is not ordinary.
         EdgeShared,            ///< Edges that an outer ring and a hole of it have in common.
         HolesThatTouch,        ///< Pairs of holes of one outer ring that have a vertex in common.
+        PlacedByNarrowing,     ///< Maps whose holes would be placed otherwise if they were not narrowed.
     };
     using Counts = QMap<Case, int>;
 

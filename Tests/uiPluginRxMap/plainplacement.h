@@ -17,6 +17,14 @@ inline int plainVertexCount(const OrvikTypes::RX_POLYGON &ring)
     return isUsable ? static_cast<int>(ring.vertexCount) : 0;
 }
 
+/// A coordinate as it is tested, narrowed to float and widened again. Volatile: compilers have been seen to leave out
+/// the pair of conversions (g++ 12, where two coordinates become one vector), and would do so here and there alike.
+inline double narrowedPlainly(double value)
+{
+    const volatile float narrow = static_cast<float>(value);
+    return static_cast<double>(narrow);
+}
+
 /// Even-odd test from the definition: counts the edges that span the point's height and cross it right of the point.
 inline bool isInsidePlainly(const OrvikTypes::RX_POLYGONVERTEX *ring, int count, double x, double y)
 {
@@ -38,9 +46,10 @@ inline bool isInsidePlainly(const OrvikTypes::RX_POLYGONVERTEX *ring, int count,
 }
 
 /// Each hole compared with each outer ring: what any faster way must equal. One list of hole indexes per outer ring,
-/// in contour order.
+/// in contour order. `asTested` is what becomes of a hole's coordinates before they are tested.
 inline QVector<QVector<int>> plainPlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers,
-                                            const QVector<OrvikTypes::RX_POLYGON *> &holes)
+                                            const QVector<OrvikTypes::RX_POLYGON *> &holes,
+                                            double (*asTested)(double) = narrowedPlainly)
 {
     QVector<int> live;
     for (int i = 0; i < holes.size(); ++i)
@@ -54,10 +63,8 @@ inline QVector<QVector<int>> plainPlacement(const QVector<OrvikTypes::RX_POLYGON
             const int count = plainVertexCount(ring);
             bool isInside = outer->area - 10.0 > ring.area && count > 0;
             for (int i = 0; isInside && i < count; ++i) {
-                const auto x = static_cast<float>(ring.vertices[i].x);
-                const auto y = static_cast<float>(ring.vertices[i].y);
-                isInside = isInsidePlainly(outer->vertices, plainVertexCount(*outer), static_cast<double>(x),
-                                           static_cast<double>(y));
+                isInside = isInsidePlainly(outer->vertices, plainVertexCount(*outer), asTested(ring.vertices[i].x),
+                                           asTested(ring.vertices[i].y));
             }
             if (isInside) {
                 here.append(hole);

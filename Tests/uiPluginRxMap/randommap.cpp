@@ -68,6 +68,18 @@ void addRelatedRings()
          {Census::HoleInOddRing, 3}});
 }
 
+void addTouchingRings()
+{
+    const MapCensus::Counts decided{{Census::CutHole, 20}, {Census::PlacedByNarrowing, 20}};
+    add("touching", {Rings::Touching, Odd::None, 0.0, 0.0, 1.0, 1.0, true}, decided);
+    add("touching far away", {Rings::Touching, Odd::None, 0.0, 5e5, 1.0, 1.0, true}, decided);
+    add("touching and minute", {Rings::Touching, Odd::None, 0.0, 0.0, 1e-6, 1.0, true}, decided);
+    add("touching and thin", {Rings::Touching, Odd::None, 0.0, 0.0, 1.0, 1e4, true}, decided);
+    add("clustered at vertices", {Rings::Clustered, Odd::None, 0.0, 0.0, 1.0, 1.0, true},
+        {{Census::CutHole, 20}, {Census::PlacedByNarrowing, 12}});
+    add("equal copies", {Rings::Copies, Odd::None, 0.0, 0.0, 1.0, 1.0, true}, decided);
+}
+
 } // namespace
 
 RandomMap::RandomMap(const RandomKind &kind, unsigned int seed)
@@ -85,6 +97,8 @@ RandomMap::RandomMap(const RandomKind &kind, unsigned int seed)
         polygon.area = area;
         if (below(4) == 0)
             polygon.area = 100.0 * below(4);
+        if (isHole && kind.holesAreSmall)
+            polygon.area -= 20.0;
         if (kind.odd != OddNumbers::None && below(8) == 0)
             polygon.area = oddNumber();
         if (!isHole && below(8) == 0)
@@ -107,10 +121,18 @@ Ring RandomMap::nextRing(bool isHole)
     case RandomRings::Stars:
         return star().ring;
     case RandomRings::Nudged:
+    case RandomRings::Touching:
+    case RandomRings::Clustered:
         if (isHole && !models.empty())
-            return nudgedHole(models[static_cast<std::size_t>(below(static_cast<int>(models.size())))]);
+            return holeOf(models[static_cast<std::size_t>(below(static_cast<int>(models.size())))]);
         models.push_back(star());
         return models.back().ring;
+    case RandomRings::Copies:
+        if (models.empty()) {
+            models.push_back(star());
+            models.push_back({{}, touchingHole(models.front())});
+        }
+        return models[isHole ? 1 : 0].ring;
     case RandomRings::Sectors:
         if (models.empty())
             models.push_back(star());
@@ -132,7 +154,7 @@ double RandomMap::oddNumber()
     return odd[below(8)];
 }
 
-double RandomMap::coordinate(double value)
+double RandomMap::coordinate(double value) const
 {
     return kind.scale * ((kind.grid > 0.0 ? std::round(value / kind.grid) * kind.grid : value) + kind.offset);
 }
@@ -153,13 +175,42 @@ RandomMap::Star RandomMap::star()
     const double y = position(random);
     const double radius = 1.0 + below(30);
     const int vertices = 3 + below(80);
-    Star made{{coordinate(x), coordinate(y)}, {}};
+    Star made{place(x, y), {}};
     for (int i = 0; i < vertices; ++i) {
         const double angle = 6.28318530717958648 * i / vertices;
         const double reach = radius * (0.8 + 0.02 * below(10));
-        made.ring.push_back({coordinate(x + reach * std::cos(angle)), coordinate(y + reach * std::sin(angle))});
+        made.ring.push_back(place(x + reach * std::cos(angle), y + reach * std::sin(angle)));
     }
     return made;
+}
+
+Ring RandomMap::holeOf(const Star &outer)
+{
+    if (kind.rings == RandomRings::Nudged)
+        return nudgedHole(outer);
+    return kind.rings == RandomRings::Clustered ? clusteredHole(outer) : touchingHole(outer);
+}
+
+// Few vertices, lest narrowing puts one of those that lie on the ring outside of it nearly always.
+Ring RandomMap::touchingHole(const Star &outer)
+{
+    Ring hole;
+    const int vertices = static_cast<int>(outer.ring.size());
+    for (int i = 0, from = below(vertices); i < 4; ++i) {
+        const RX_POLYGONVERTEX &vertex = outer.ring[static_cast<std::size_t>((from + i * vertices / 4) % vertices)];
+        hole.push_back(between(outer.centre, vertex, below(2) == 0 ? 1.0 : 0.5));
+    }
+    return hole;
+}
+
+Ring RandomMap::clusteredHole(const Star &outer)
+{
+    const RX_POLYGONVERTEX &shared = outer.ring[static_cast<std::size_t>(below(static_cast<int>(outer.ring.size())))];
+    const double share = 0.01 * (1 + below(5));
+    Ring hole;
+    for (const RX_POLYGONVERTEX &vertex : outer.ring)
+        hole.push_back(between(shared, vertex, share));
+    return hole;
 }
 
 // A smaller star of as many vertices, about two of which are the outer ring's own or in the middle of its edges. Those
@@ -224,4 +275,5 @@ void addRandomKinds()
     QTest::addColumn<MapCensus::Counts>("least");
     addSingleRings();
     addRelatedRings();
+    addTouchingRings();
 }

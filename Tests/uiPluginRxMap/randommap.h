@@ -8,10 +8,13 @@
 
 /// What the rings of a random map are.
 enum class RandomRings {
-    Tangles, ///< A few vertices anywhere.
-    Stars,   ///< Many vertices around a centre, so that rings lie inside one another.
-    Nudged,  ///< Stars; holes are drawn from outer rings, their vertices beside a line by less than a float tells.
-    Sectors, ///< Pieces of one star in three sizes: they share edges, vertices and the centre.
+    Tangles,   ///< A few vertices anywhere.
+    Stars,     ///< Many vertices around a centre, so that rings lie inside one another.
+    Nudged,    ///< Stars; holes are drawn from outer rings, their vertices beside a line by less than a float tells.
+    Sectors,   ///< Pieces of one star in three sizes: they share edges, vertices and the centre.
+    Touching,  ///< Stars; holes are drawn from outer rings and have about half of their vertices.
+    Clustered, ///< Stars; holes are small and similar to an outer ring, with one of its vertices.
+    Copies,    ///< Outer rings all equal; holes too, and as in Touching.
 };
 
 /// Where there are NaN, infinities, huge and tiny numbers among the coordinates.
@@ -24,6 +27,8 @@ struct RandomKind {
     double grid = 0.0;   ///< Coordinates are multiples of this; 0: any.
     double offset = 0.0; ///< Far from the origin, narrowing to float moves vertices.
     double scale = 1.0;
+    double flatness = 1.0;      ///< Divides heights.
+    bool holesAreSmall = false; ///< All are said to be so much smaller than they are that any outer ring may take them.
 };
 
 Q_DECLARE_METATYPE(RandomKind)
@@ -45,13 +50,20 @@ private:
     };
 
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned int>(limit)); }
-    double coordinate(double value);
+    double coordinate(double value) const;
+    OrvikTypes::RX_POLYGONVERTEX place(double x, double y) const
+    {
+        return {coordinate(x), coordinate(y / kind.flatness)};
+    }
     double oddNumber();
     float rate();
     Ring nextRing(bool isHole);
     Ring tangle();
     Star star();
+    Ring holeOf(const Star &outer);
     Ring nudgedHole(const Star &outer);
+    Ring touchingHole(const Star &outer);
+    Ring clusteredHole(const Star &outer);
     OrvikTypes::RX_POLYGONVERTEX nudged(const OrvikTypes::RX_POLYGONVERTEX &vertex);
     Ring sector(const Star &whole);
     void spoil(Ring &ring);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void aCrossingBeyondTheRingStillCounts();
     void minuteHeightsArePlacedAsPlainly();
     void holeCoordinatesAreNarrowedToFloat();
+    void aSideThatNarrowingMovesInsideIsInside();
 };
 
 namespace {
@@ -223,6 +224,15 @@ void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
     chain.addOuter(square(16777216.5, 0, 10));
     chain.addHole({{16777217, 2}, {16777220, 2}, {16777220, 4}});
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{}}));
+}
+
+void TestHolePlacement::aSideThatNarrowingMovesInsideIsInside()
+{
+    // On the right edge is outside; but 100.1 narrows to a little less, left of it.
+    HandMadeChain chain;
+    chain.addOuter(square(0.1, 0.1, 100.0));
+    chain.addHole({{90.0, 40.0}, {100.1, 40.0}, {100.1, 50.0}, {90.0, 50.0}});
+    QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{0}}));
 }
 
 RXMAP_TEST(TestHolePlacement, None)

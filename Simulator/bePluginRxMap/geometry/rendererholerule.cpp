@@ -7,9 +7,11 @@ namespace {
 /// How much larger than a hole an outer ring must be to have it cut out, square metres.
 constexpr double leastDifference = 10.0;
 
+// Volatile, since a compiler may take the two conversions for none: g++ 12 does where it makes a vector of x and y.
 double narrowed(double value)
 {
-    return static_cast<double>(static_cast<float>(value));
+    const volatile float narrow = static_cast<float>(value);
+    return static_cast<double>(narrow);
 }
 
 std::vector<TreeEntry> entries(const std::vector<RingView> &outers)

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void takesNoRingThatIsTooLittleLarger();
     void takesNoRingThatAVertexLiesOutsideOf();
     void looksAtTheVerticesAsSingleNumbers();
+    void takesAHoleThatSingleNumbersMoveInside();
     void takesNoHoleWithoutVertices();
 };
 
@@ -82,6 +83,15 @@ void RendererHoleRuleTest::looksAtTheVerticesAsSingleNumbers()
     QCOMPARE(takers.taker(hole.data(), hole.size(), 10.0), int(RendererHoleRule::nowhere));
     const PlaneRing other = {{16777218, 10}, {16777220, 10}, {16777220, 20}};
     QCOMPARE(takers.taker(other.data(), other.size(), 10.0), 0);
+}
+
+void RendererHoleRuleTest::takesAHoleThatSingleNumbersMoveInside()
+{
+    // On the right edge is outside; the single number for 100.1 is a little less.
+    const std::vector<PlaneRing> rings = {square(0.1, 0.1, 100)};
+    const RendererHoleRule takers(outersOf(rings));
+    const PlaneRing hole = {{90, 40}, {100.1, 40}, {100.1, 50}, {90, 50}};
+    QCOMPARE(takers.taker(hole.data(), hole.size(), 100.0), 0);
 }
 
 void RendererHoleRuleTest::takesNoHoleWithoutVertices()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void aMapOfHolesAloneDrawsNothingAndMarksThem();
+    void aHoleThatNarrowingMovesInsideIsCut();
     void crossingRingsAreNotDrawnAndHarmNoOther_data();
     void crossingRingsAreNotDrawnAndHarmNoOther();
     void aVertexThatIsNoPlaceIsLeftOut_data();
@@ -79,6 +80,16 @@ void TestRxMap3DPolygons::aMapOfHolesAloneDrawsNothingAndMarksThem()
     QCOMPARE(RecordingGlu::count(QStringLiteral("gluTessBeginPolygon")), 0);
     for (unsigned int i = 0; i < chain.count(); ++i)
         QCOMPARE(chain.at(i).drawIndex, -1);
+}
+
+void TestRxMap3DPolygons::aHoleThatNarrowingMovesInsideIsCut()
+{
+    chain.addOuter(square(0.1, 0.1, 100.0), {5.0F});
+    // 100.1 narrows to a little less, left of the right edge.
+    chain.addHole({{90.0, 40.0}, {100.1, 40.0}, {100.1, 50.0}, {90.0, 50.0}}).drawIndex = 7;
+    rebuild(redAndGreen);
+    QCOMPARE(RecordingGlu::count(QStringLiteral("gluTessBeginContour")), 2);
+    QCOMPARE(chain.at(1).drawIndex, 7);
 }
 
 void TestRxMap3DPolygons::crossingRingsAreNotDrawnAndHarmNoOther_data()
