@@ -1,22 +1,25 @@
 #include "baretessellation.h"
 
 #include "holeplacement.h"
+#include "ringbox.h"
 #include "ringlists.h"
 #include "ringtest.h"
 #include "tesscallbacks.h"
 
 #include <GL/glu.h>
+#include <algorithm>
+#include <utility>
 
 using OrvikTypes::RX_POLYGON;
 
 namespace {
 
-bool contains(const RX_POLYGON &outer, const RX_POLYGON &hole)
+/// Whether all narrowed vertices of the hole are inside the outer ring, by one of the two tests edge by edge.
+template <typename Test> bool contains(const RX_POLYGON &outer, const RX_POLYGON &hole, Test isInside)
 {
     for (int i = 0; i < vertexCount(hole); ++i) {
-        const auto x = static_cast<float>(hole.vertices[i].x);
-        const auto y = static_cast<float>(hole.vertices[i].y);
-        if (!isInsideRing(outer.vertices, vertexCount(outer), static_cast<double>(x), static_cast<double>(y)))
+        const OrvikTypes::RX_POLYGONVERTEX point = narrowed(hole.vertices[i]);
+        if (!isInside(outer.vertices, vertexCount(outer), point.x, point.y))
             return false;
     }
     return vertexCount(hole) > 0;
@@ -75,13 +78,40 @@ Placement plainPlacement(RX_POLYGON *chain, unsigned int count)
         const QVector<RX_POLYGON *> snapshot = holes;
         int position = 0;
         for (RX_POLYGON *hole : snapshot) {
-            if (!(outer->area - 10.0 > hole->area) || !contains(*outer, *hole)) {
+            if (!(outer->area - 10.0 > hole->area) || !contains(*outer, *hole, isInsideRing)) {
                 ++position;
                 continue;
             }
             here.push_back(hole);
             holes.removeAt(position);
         }
+        placement.push_back(std::move(here));
+    }
+    return placement;
+}
+
+Placement edgePlacement(RX_POLYGON *chain, unsigned int count)
+{
+    const RingLists rings(chain, count);
+    std::vector<std::pair<Box, RX_POLYGON *>> live;
+    for (RX_POLYGON *hole : rings.holes) {
+        live.push_back({{}, hole});
+        boxOfHole(*hole, live.back().first);
+    }
+    Placement placement;
+    for (const RX_POLYGON *outer : rings.outers) {
+        Box box{};
+        boxOfOuter(*outer, box);
+        std::vector<RX_POLYGON *> here;
+        const auto isTaken = [outer, &box, &here](const std::pair<Box, RX_POLYGON *> &entry) {
+            const RX_POLYGON &hole = *entry.second;
+            if (!(outer->area - 10.0 > hole.area) || !box.contains(entry.first)
+                || !contains(*outer, hole, isInsideOrdinaryRing))
+                return false;
+            here.push_back(entry.second);
+            return true;
+        };
+        live.erase(std::remove_if(live.begin(), live.end(), isTaken), live.end());
         placement.push_back(std::move(here));
     }
     return placement;

@@ -15,6 +15,9 @@ using Placement = std::vector<std::vector<OrvikTypes::RX_POLYGON *>>;
 /// Each hole compared with each outer ring, as hole placement is defined.
 Placement plainPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 
+/// The same, but a hole is compared only with those outer rings whose box holds it.
+Placement edgePlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
+
 /// The same, found as the plug-in finds it.
 Placement fastPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 

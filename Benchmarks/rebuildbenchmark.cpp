@@ -1,5 +1,7 @@
-// A rebuild of the whole map, beside what GLU takes anyway and beside hole placement as it is defined.
+// A rebuild of the whole map, beside what GLU takes anyway and beside hole placement as it is defined; and placing
+// alone, beside testing every edge.
 
+#include "awkwardmaps.h"
 #include "baretessellation.h"
 #include "benchmarkhost.h"
 #include "realmaps.h"
@@ -58,6 +60,17 @@ void plainRebuild(benchmark::State &state, const NamedMap &kind)
     describe(state, map);
 }
 
+void awkwardPlacement(benchmark::State &state, const MapKind &kind, int rings)
+{
+    BenchmarkMap map = kind.make(rings);
+    if (fastPlacement(map.chain(), map.count()) != edgePlacement(map.chain(), map.count()))
+        state.SkipWithError("the two ways place holes differently");
+    compareSideBySide(
+        state, "over_edges", [&map] { benchmark::DoNotOptimize(fastPlacement(map.chain(), map.count())); },
+        [&map] { benchmark::DoNotOptimize(edgePlacement(map.chain(), map.count())); });
+    describe(state, map);
+}
+
 const bool areMapsAdded = [] {
     for (const NamedMap &map : allMaps()) {
         benchmark::RegisterBenchmark(("Rebuild/" + map.name).c_str(), rebuild, map)->UseManualTime()->Iterations(21);
@@ -66,6 +79,12 @@ const bool areMapsAdded = [] {
         benchmark::RegisterBenchmark(("PlainRebuild/" + map.name).c_str(), plainRebuild, map)
             ->UseManualTime()
             ->Iterations(3);
+    }
+    for (const MapKind &kind : awkwardKinds()) {
+        for (const int rings : {500, 2000}) {
+            const std::string name = kind.name + "/" + std::to_string(rings);
+            benchmark::RegisterBenchmark(name.c_str(), awkwardPlacement, kind, rings)->UseManualTime()->Iterations(11);
+        }
     }
     return true;
 }();

@@ -1,7 +1,5 @@
 #include "boxindex.h"
 
-#include "placementcost.h"
-
 #include <QtGlobal>
 
 #include <algorithm>
@@ -52,7 +50,8 @@ BoxIndex::BoxIndex(QVector<BoxEntry> entries)
     }
 }
 
-// Boxes that lie near each other come to lie in one node: sorted into columns by x, in each column by y.
+// Sort-tile-recursive packing (Leutenegger, Lopez, Edgington 1997): boxes that lie near each other come to lie in one
+// node, sorted into columns by x, in each column by y.
 void BoxIndex::packLeaves(QVector<BoxEntry> &entries)
 {
     std::sort(entries.begin(), entries.end(),
@@ -73,12 +72,10 @@ void BoxIndex::packLeaves(QVector<BoxEntry> &entries)
     QVector<Node> leaves;
     leaves.reserve(entries.size());
     leafIds.reserve(entries.size());
-    leafPoints.reserve(entries.size());
     for (const BoxEntry &entry : qAsConst(entries)) {
         leafOfId[entry.id] = leaves.size();
         leaves.append({entry.box, entry.area, 1});
         leafIds.append(entry.id);
-        leafPoints.append(entry.points);
     }
     levels.append(leaves);
 }
@@ -92,13 +89,12 @@ void BoxIndex::find(const Box &box, double area, QVector<BoxEntry> &found) const
 
 void BoxIndex::findBelow(int level, int node, const Box &box, double area, QVector<BoxEntry> &found) const
 {
-    countBoxVisit();
     const Node &here = levels.at(level).at(node);
     if (here.left == 0 || here.smallestArea >= area || !box.touches(here.box))
         return;
     if (level == 0) {
         if (box.contains(here.box))
-            found.append({here.box, here.smallestArea, leafIds.at(node), leafPoints.at(node)});
+            found.append({here.box, here.smallestArea, leafIds.at(node)});
         return;
     }
     const int end = qMin((node + 1) * fanOut, levels.at(level - 1).size());

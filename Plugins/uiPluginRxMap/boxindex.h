@@ -25,12 +25,12 @@ struct BoxEntry {
     Box box;     ///< Finite.
     double area; ///< Not NaN.
     int id;      ///< Tells the boxes of an index apart; 0 or above.
-    int points;  ///< Vertices of the ring; carried for whoever finds the box.
 };
 
 Q_DECLARE_TYPEINFO(BoxEntry, Q_PRIMITIVE_TYPE);
 
-/// A packed tree of boxes that finds those inside a given one, and from which boxes are taken as they are used up.
+/// A packed R-tree (Guttman 1984) of boxes that finds those inside a given one, and from which boxes are taken as they
+/// are used up.
 class BoxIndex {
 public:
     explicit BoxIndex(QVector<BoxEntry> entries);
@@ -53,6 +53,5 @@ private:
 
     QVector<QVector<Node>> levels; ///< From the leaves up; node n has the nodes n * fanOut ... below it.
     QVector<int> leafIds;
-    QVector<int> leafPoints;
     QVector<int> leafOfId;
 };

@@ -2,7 +2,6 @@
 
 #include "boxindex.h"
 #include "outerring.h"
-#include "placementcost.h"
 #include "ringbox.h"
 #include "ringtest.h"
 
@@ -37,9 +36,8 @@ public:
             return;
         }
         for (int hole = 0; hole < holes.size(); ++hole) {
-            countBoxVisit();
             if (!taken.at(hole) && limit > holes.at(hole)->area)
-                found.append({{}, holes.at(hole)->area, hole, vertexCount(*holes.at(hole))});
+                found.append({{}, holes.at(hole)->area, hole});
         }
     }
 
@@ -60,7 +58,7 @@ private:
             smallestArea = std::min(smallestArea, ring.area);
             if (vertexCount(ring) == 0 || std::isnan(ring.area) || !boxOfHole(ring, box))
                 continue;
-            entries.append({box, ring.area, hole, vertexCount(ring)});
+            entries.append({box, ring.area, hole});
             isIndexed[hole] = true;
         }
         return entries;
@@ -89,13 +87,9 @@ HolePlacement::HolePlacement(const QVector<RX_POLYGON *> &outers, const QVector<
             continue;
         OuterRing outer(*outers.at(i));
         live.collect(outer, limit, placed, found);
-        qint64 points = 0;
-        for (const BoxEntry &entry : qAsConst(found))
-            points += entry.points;
-        outer.prepareFor(points);
         int last = -1;
         for (const BoxEntry &entry : qAsConst(found)) {
-            if (!outer.contains(*holes.at(entry.id), entry.box))
+            if (!outer.contains(*holes.at(entry.id)))
                 continue;
             (last < 0 ? first[i] : next[last]) = entry.id;
             last = entry.id;

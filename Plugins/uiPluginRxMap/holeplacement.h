@@ -9,7 +9,7 @@
 /// inside no outer ring, is placed nowhere. The rings are not owned and may not change meanwhile.
 ///
 /// Comparing each hole with each outer ring would cost seconds on maps with tens of thousands of rings; a tree of
-/// boxes and a raster leave out only comparisons whose result is known.
+/// boxes and rows of edges leave out only comparisons whose result is known.
 class HolePlacement {
 public:
     HolePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers, const QVector<OrvikTypes::RX_POLYGON *> &holes);

@@ -3,18 +3,18 @@
 #include "ringbox.h"
 #include "ringtest.h"
 
+#include <QtGlobal>
+
+#include <cmath>
+#include <numeric>
+
 using OrvikTypes::RX_POLYGON;
 using OrvikTypes::RX_POLYGONVERTEX;
 
 namespace {
 
-/// Rings with fewer vertices are tested faster edge by edge.
-constexpr int smallestRastered = 16;
-/// Likewise all rings that fewer points are tested against.
-constexpr qint64 fewestRasteredPoints = 48;
-
-/// Beyond so many points the cells take no more of them into account.
-constexpr qint64 mostCellsForPoints = 100000000;
+/// Testing so many points edge by edge takes about as long as listing the edges.
+constexpr int pointsWorthListing = 8;
 
 } // namespace
 
@@ -25,17 +25,8 @@ OuterRing::OuterRing(const RX_POLYGON &ring)
 {
 }
 
-void OuterRing::prepareFor(qint64 points)
+bool OuterRing::contains(const RX_POLYGON &hole)
 {
-    if (ordinary && count >= smallestRastered && points >= fewestRasteredPoints)
-        raster.reset(new RingRaster(vertices, count, static_cast<int>(qMin(points, mostCellsForPoints))));
-}
-
-bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)
-{
-    // One point, whichever, answers for all of a box that no edge comes near.
-    if (raster && raster->isClear(holeBox))
-        return raster->isInside(holeBox.minX, holeBox.minY);
     const int points = vertexCount(hole);
     for (int i = 0; i < points; ++i) {
         const RX_POLYGONVERTEX point = narrowed(hole.vertices[i]);
@@ -47,7 +38,49 @@ bool OuterRing::contains(const RX_POLYGON &hole, const Box &holeBox)
 
 bool OuterRing::isInside(double x, double y)
 {
-    if (raster)
-        return raster->isInside(x, y);
-    return ordinary ? isInsideOrdinaryRing(vertices, count, x, y) : isInsideRing(vertices, count, x, y);
+    if (!ordinary)
+        return isInsideRing(vertices, count, x, y);
+    if (testedPoints < pointsWorthListing && ++testedPoints == pointsWorthListing)
+        listEdges();
+    if (rowStart.isEmpty())
+        return isInsideOrdinaryRing(vertices, count, x, y);
+    const int row = rowOf(y);
+    const int *end = rowEdges.constData() + rowStart.at(row + 1);
+    bool inside = false;
+    for (const int *edge = rowEdges.constData() + rowStart.at(row); edge != end; ++edge)
+        inside ^= ordinaryEdgeToggles(startOf(*edge), vertices[*edge], x, y);
+    return inside;
+}
+
+// Rows of the mean edge's height: twice as many entries as edges at most. An edge is listed in the rows of its ends and
+// all between them, so that a height that it spans is in one of its rows: rowOf() never falls as its argument rises.
+void OuterRing::listEdges()
+{
+    double climb = 0.0;
+    for (int edge = 0; edge < count; ++edge)
+        climb += std::fabs(vertices[edge].y - startOf(edge).y);
+    const double height = outerBox.maxY - outerBox.minY;
+    const int rows = climb > 0.0 ? static_cast<int>(height / climb * count) : 0;
+    if (rows < 2)
+        return;
+    rowsPerMetre = rows / height;
+    rowStart.fill(0, rows + 1);
+    const auto forEachRow = [this](int edge, auto &&visit) {
+        const int from = rowOf(startOf(edge).y);
+        const int to = rowOf(vertices[edge].y);
+        for (int row = qMin(from, to); row <= qMax(from, to); ++row)
+            visit(row);
+    };
+    for (int edge = 0; edge < count; ++edge)
+        forEachRow(edge, [this](int row) { ++rowStart[row]; });
+    // Now where each row's edges end; the start, once all of them are in.
+    std::partial_sum(rowStart.cbegin(), rowStart.cend(), rowStart.begin());
+    rowEdges.resize(rowStart.constLast());
+    for (int edge = 0; edge < count; ++edge)
+        forEachRow(edge, [this, edge](int row) { rowEdges[--rowStart[row]] = edge; });
+}
+
+int OuterRing::rowOf(double y) const
+{
+    return static_cast<int>(qBound(0.0, (y - outerBox.minY) * rowsPerMetre, rowStart.size() - 2.0));
 }

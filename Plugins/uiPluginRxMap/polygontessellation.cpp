@@ -13,16 +13,25 @@ template <typename Callback> void registerCallback(GLUtesselator *tessellator, G
     gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
 }
 
-/// Empties `list`. Room beyond a kibibyte goes too: when such a large block is asked for anew, glibc joins the small
+/// Empties `list`. The room of a large one goes too: when such a large block is asked for anew, glibc joins the small
 /// ones freed before, so that what the tessellator makes for the next polygon lies in a row. Large polygons gain much
 /// by it (docs/measurements.md); small ones would only pay.
 void emptyOut(QVector<RXVERT *> &list)
 {
     constexpr int mostKept = 128;
-    if (list.capacity() > mostKept)
+    if (list.size() > mostKept)
         list = QVector<RXVERT *>();
     else
         list.resize(0);
+}
+
+/// For all triangles of a polygon at once. What there was goes first: at this time memory is used most.
+void makeRoom(int vertices)
+{
+    if (vList.capacity() >= vertices)
+        return;
+    vList = QVector<Vertex>();
+    vList.reserve(vertices);
 }
 
 } // namespace
@@ -42,10 +51,9 @@ void PolygonTessellation::registerCallbacks(GLUtesselator *tessellator)
     registerCallback(tessellator, GLU_TESS_END, tessEndCB);
 }
 
-void PolygonTessellation::beginPolygon(const QColor &color, int vertices, int triangleCount)
+void PolygonTessellation::beginPolygon(const QColor &color)
 {
-    coordList.reserve(vertices);
-    vList.reserve(3 * triangleCount);
+    contours = 0;
     gluTessBeginPolygon(tessellator, nullptr);
     // What an invalid colour reads as; Qt may leave the arguments untouched for one.
     red = green = blue = 0.0;
@@ -55,6 +63,7 @@ void PolygonTessellation::beginPolygon(const QColor &color, int vertices, int tr
 
 void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
 {
+    ++contours;
     gluTessBeginContour(tessellator);
     for (int i = 0; i < vertexCount(ring); ++i) {
         const OrvikTypes::RX_POLYGONVERTEX &from = ring.vertices[i];
@@ -73,6 +82,7 @@ void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
 
 void PolygonTessellation::endPolygon()
 {
+    makeRoom(triangleVertices(coordList.size(), 1, contours - 1));
     gluTessEndPolygon(tessellator);
     const int start = triangles.size();
     // Whole triangles come, unless one was given up half way.

@@ -23,9 +23,8 @@ public:
     /// Neither argument is owned; both outlive this object.
     PolygonTessellation(GLUtesselator *tessellator, QVector<Vertex> &triangles);
 
-    /// Starts a polygon; all its contours get `color` at half its alpha. `vertices` is the number of vertices of all of
-    /// them, `triangleCount` at least the number of triangles: room is made for both at once.
-    void beginPolygon(const QColor &color, int vertices, int triangleCount);
+    /// Starts a polygon; all its contours get `color` at half its alpha.
+    void beginPolygon(const QColor &color);
     void addContour(const OrvikTypes::RX_POLYGON &ring);
     /// Tessellates and appends the triangles, each with its winding reversed.
     void endPolygon();
@@ -35,6 +34,7 @@ private:
 
     GLUtesselator *tessellator;
     QVector<Vertex> &triangles;
+    int contours = 0;
     qreal red = 0.0;
     qreal green = 0.0;
     qreal blue = 0.0;

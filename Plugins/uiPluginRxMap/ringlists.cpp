@@ -1,5 +1,9 @@
 #include "ringlists.h"
 
+#include "ringtest.h"
+
+#include <numeric>
+
 using OrvikTypes::RX_POLYGON;
 
 namespace {
@@ -22,4 +26,11 @@ RingLists::RingLists(RX_POLYGON *chain, unsigned int published)
     polygon = chain;
     for (unsigned int left = count; polygon != nullptr && left > 0; polygon = polygon->next, --left)
         (polygon->isHole ? holes : outers).append(polygon);
+}
+
+qint64 RingLists::vertices() const
+{
+    const auto add = [](qint64 sum, const RX_POLYGON *ring) { return sum + vertexCount(*ring); };
+    return std::accumulate(holes.cbegin(), holes.cend(),
+                           std::accumulate(outers.cbegin(), outers.cend(), qint64(0), add), add);
 }

@@ -9,6 +9,9 @@ struct RingLists {
     /// Walks `published` records; a chain that ends early is taken as far as it goes.
     RingLists(OrvikTypes::RX_POLYGON *chain, unsigned int published);
 
+    /// Of all rings together.
+    qint64 vertices() const;
+
     QVector<OrvikTypes::RX_POLYGON *> outers;
     QVector<OrvikTypes::RX_POLYGON *> holes;
 };

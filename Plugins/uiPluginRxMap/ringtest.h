@@ -1,7 +1,5 @@
 #pragma once
 
-#include "placementcost.h"
-
 #include "Framework/rxpolygon.h"
 
 #include <cmath>
@@ -47,7 +45,6 @@ inline double edgeCrossing(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTyp
 inline bool edgeToggles(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double x,
                         double y)
 {
-    countEdgeTest();
     const bool spans = (i.y <= y && y < j.y) || (j.y <= y && y < i.y);
     return spans && edgeCrossing(j, i, y) > x;
 }
@@ -63,20 +60,19 @@ inline bool isInsideRing(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count
     return inside;
 }
 
-/// Whether an edge of ordinary vertices spans a height: where no number is missing, one comparison an end tells.
-inline bool ordinaryEdgeSpans(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double y)
+/// As edgeToggles(), for an edge of ordinary vertices: where no number is missing, one comparison an end tells whether
+/// it spans the height.
+inline bool ordinaryEdgeToggles(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double x,
+                                double y)
 {
-    countEdgeTest();
-    return (i.y <= y) != (j.y <= y);
+    return (i.y <= y) != (j.y <= y) && edgeCrossing(j, i, y) > x;
 }
 
 /// As isInsideRing(), faster, for a ring of ordinary vertices.
 inline bool isInsideOrdinaryRing(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count, double x, double y)
 {
     bool inside = false;
-    for (int i = 0, j = count - 1; i < count; j = i++) {
-        if (ordinaryEdgeSpans(vertices[j], vertices[i], y) && edgeCrossing(vertices[j], vertices[i], y) > x)
-            inside = !inside;
-    }
+    for (int i = 0, j = count - 1; i < count; j = i++)
+        inside ^= ordinaryEdgeToggles(vertices[j], vertices[i], x, y);
     return inside;
 }

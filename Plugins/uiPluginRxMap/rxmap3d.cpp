@@ -2,7 +2,6 @@
 
 #include "groupvalue.h"
 #include "holeplacement.h"
-#include "polygonsize.h"
 #include "polygontessellation.h"
 #include "ratemapping.h"
 #include "ringlists.h"
@@ -144,13 +143,12 @@ void RxMap3D::tessellateChain(VertexBank &bank, GLUtesselator *tessellator, cons
                               const QList<RX_RATECOLOR> &legend, int mappingIndex)
 {
     const HolePlacement placement(rings.outers, rings.holes);
-    bank.vertices.reserve(3 * triangleCount(rings, placement));
+    bank.vertices.reserve(triangleVertices(rings.vertices(), rings.outers.size(), rings.holes.size()));
     PolygonTessellation tessellation(tessellator, bank.vertices);
     for (int i = 0; i < rings.outers.size(); ++i) {
         RX_POLYGON &outer = *rings.outers.at(i);
         chooseColor(legend, outer, mappingIndex);
-        const PolygonSize size = polygonSize(rings, placement, i);
-        tessellation.beginPolygon(currentColor, size.vertices, size.triangles);
+        tessellation.beginPolygon(currentColor);
         tessellation.addContour(outer);
         for (int hole = placement.firstHole(i); hole >= 0; hole = placement.nextHole(hole))
             tessellation.addContour(*rings.holes.at(hole));

@@ -15,6 +15,14 @@ Q_DECLARE_TYPEINFO(Vertex, Q_PRIMITIVE_TYPE);
 
 static_assert(sizeof(Vertex) == 16, "OpenGL is given a stride of 16 bytes");
 
+/// Vertices of the triangles of polygons with so many vertices, outer rings and holes: n + 2h - 2 triangles for n
+/// vertices and h holes, at most that where rings do not cross. No more than a list holds, its head left free.
+inline int triangleVertices(qint64 vertices, qint64 outers, qint64 holes)
+{
+    constexpr qint64 most = (0x7FFFFFFF - 256) / static_cast<qint64>(sizeof(Vertex));
+    return static_cast<int>(qBound<qint64>(0, 3 * (vertices + 2 * holes - 2 * outers), most));
+}
+
 /// A named batch of triangles. Only `vertices` is drawn, always as triangles; the other fields describe the batch.
 struct VertexBank {
     QString name;

@@ -12,10 +12,6 @@ using OrvikTypes::RX_POLYGONVERTEX;
 
 namespace {
 
-// From so many vertices and points on a ring has a raster.
-constexpr int fewestVertices = 16;
-constexpr int fewestPoints = 48;
-
 struct Edge {
     RX_POLYGONVERTEX from;
     RX_POLYGONVERTEX to;
@@ -89,22 +85,6 @@ bool isOdd(const RX_POLYGON &hole)
                         [](const RX_POLYGONVERTEX &vertex) { return isFinite(asFloats(vertex)); });
 }
 
-/// Whether all of the hole lies in the outer ring's box.
-bool isInBox(const RX_POLYGON &outer, const RX_POLYGON &hole)
-{
-    const auto *end = outer.vertices + plainVertexCount(outer);
-    const auto byX = [](const RX_POLYGONVERTEX &a, const RX_POLYGONVERTEX &b) { return a.x < b.x; };
-    const auto byY = [](const RX_POLYGONVERTEX &a, const RX_POLYGONVERTEX &b) { return a.y < b.y; };
-    const auto [left, right] = std::minmax_element(static_cast<const RX_POLYGONVERTEX *>(outer.vertices), end, byX);
-    const auto [bottom, top] = std::minmax_element(static_cast<const RX_POLYGONVERTEX *>(outer.vertices), end, byY);
-    for (int i = 0; i < plainVertexCount(hole); ++i) {
-        const RX_POLYGONVERTEX point = asFloats(hole.vertices[i]);
-        if (!(left->x <= point.x && point.x <= right->x && bottom->y <= point.y && point.y <= top->y))
-            return false;
-    }
-    return true;
-}
-
 int sharedEdges(const RX_POLYGON &one, const RX_POLYGON &other)
 {
     int shared = 0;
@@ -159,9 +139,7 @@ void MapCensus::addOuter(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &c
 {
     if (plainVertexCount(outer) == 0)
         return;
-    int points = 0;
     for (const RX_POLYGON *hole : candidates) {
-        points += isInBox(outer, *hole) ? plainVertexCount(*hole) : 0;
         found[EdgeShared] += sharedEdges(outer, *hole);
         for (int i = 0; i < plainVertexCount(*hole); ++i) {
             if (!isOnLine(outer, asFloats(hole->vertices[i])))
@@ -170,11 +148,10 @@ void MapCensus::addOuter(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &c
             found[PointNarrowedOntoLine] += isOnLine(outer, hole->vertices[i]) ? 0 : 1;
         }
     }
-    if (!isOrdinaryRing(outer) || plainVertexCount(outer) < fewestVertices || points < fewestPoints)
+    if (!isOrdinaryRing(outer))
         return;
-    ++found[RasteredRing];
     for (const RX_POLYGON *hole : candidates)
-        found[OddHoleInRasteredRing] += isOdd(*hole) && isInsideButForOddVertices(outer, *hole) ? 1 : 0;
+        found[OddHole] += isOdd(*hole) && isInsideButForOddVertices(outer, *hole) ? 1 : 0;
 }
 
 void MapCensus::addCut(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &cut)
@@ -191,10 +168,9 @@ QString MapCensus::shortOf(const Counts &least) const
 {
     static const QMap<Case, QString> names{
         {CutHole, QStringLiteral("cut holes")},
-        {RasteredRing, QStringLiteral("rastered rings")},
         {PointOnLine, QStringLiteral("points on lines")},
         {PointNarrowedOntoLine, QStringLiteral("points narrowed onto lines")},
-        {OddHoleInRasteredRing, QStringLiteral("odd holes in rastered rings")},
+        {OddHole, QStringLiteral("odd holes")},
         {HoleInOddRing, QStringLiteral("holes in odd rings")},
         {EdgeShared, QStringLiteral("shared edges")},
         {HolesThatTouch, QStringLiteral("holes that touch")},

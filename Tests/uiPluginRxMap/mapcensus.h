@@ -10,15 +10,14 @@
 class MapCensus {
 public:
     enum Case {
-        CutHole,      ///< Holes cut from an outer ring.
-        RasteredRing, ///< Ordinary outer rings large enough for a raster, with enough points of holes in them.
-        PointOnLine,  ///< Narrowed vertices of holes exactly on a line of an outer ring that might take the hole.
+        CutHole,     ///< Holes cut from an outer ring.
+        PointOnLine, ///< Narrowed vertices of holes exactly on a line of an outer ring that might take the hole.
         PointNarrowedOntoLine, ///< Those of them that lie beside the line before narrowing.
-        OddHoleInRasteredRing, ///< Holes with a vertex that is not finite in such a ring, and all others inside it.
-        HoleInOddRing,         ///< Holes cut from an outer ring that is not ordinary.
-        EdgeShared,            ///< Edges that an outer ring and a hole of it have in common.
-        HolesThatTouch,        ///< Pairs of holes of one outer ring that have a vertex in common.
-        PlacedByNarrowing,     ///< Maps whose holes would be placed otherwise if they were not narrowed.
+        OddHole,           ///< Holes with a vertex that is not finite in an ordinary ring, and all others inside it.
+        HoleInOddRing,     ///< Holes cut from an outer ring that is not ordinary.
+        EdgeShared,        ///< Edges that an outer ring and a hole of it have in common.
+        HolesThatTouch,    ///< Pairs of holes of one outer ring that have a vertex in common.
+        PlacedByNarrowing, ///< Maps whose holes would be placed otherwise if they were not narrowed.
     };
     using Counts = QMap<Case, int>;
 

@@ -31,41 +31,31 @@ void addSingleRings()
     add("tangles on a grid", {Rings::Tangles, Odd::None, 2.0}, {{Census::CutHole, 10}, {Census::PointOnLine, 50}});
     add("tangles with odd values", {Rings::Tangles, Odd::AnyCoordinate, 1.0},
         {{Census::CutHole, 15}, {Census::HoleInOddRing, 10}});
-    add("nested", {Rings::Stars}, {{Census::CutHole, 80}, {Census::RasteredRing, 30}});
+    add("nested", {Rings::Stars}, {{Census::CutHole, 80}});
     add("nested on a grid", {Rings::Stars, Odd::None, 1.0},
-        {{Census::CutHole, 80}, {Census::RasteredRing, 30}, {Census::PointOnLine, 400}, {Census::HolesThatTouch, 15}});
-    add("nested far away", {Rings::Stars, Odd::None, 0.0, 3.3e8}, {{Census::CutHole, 60}, {Census::RasteredRing, 20}});
+        {{Census::CutHole, 80}, {Census::PointOnLine, 400}, {Census::HolesThatTouch, 15}});
+    add("nested far away", {Rings::Stars, Odd::None, 0.0, 3.3e8}, {{Census::CutHole, 60}});
     add("nested with odd values", {Rings::Stars, Odd::AnyCoordinate},
         {{Census::CutHole, 4}, {Census::HoleInOddRing, 3}});
     add("nested with few odd values", {Rings::Stars, Odd::OneVertexOfFewRings},
-        {{Census::CutHole, 70},
-         {Census::RasteredRing, 30},
-         {Census::OddHoleInRasteredRing, 5},
-         {Census::HoleInOddRing, 5}});
-    add("nested and minute", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-170},
-        {{Census::CutHole, 80}, {Census::RasteredRing, 15}});
+        {{Census::CutHole, 70}, {Census::OddHole, 5}, {Census::HoleInOddRing, 5}});
+    add("nested and minute", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-170}, {{Census::CutHole, 80}});
     add("nested and all but nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-200}, notOrdinary);
     add("nested and next to nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-300}, notOrdinary);
 }
 
 void addRelatedRings()
 {
-    const MapCensus::Counts narrowed{
-        {Census::CutHole, 120}, {Census::RasteredRing, 60}, {Census::PointNarrowedOntoLine, 150}};
+    const MapCensus::Counts narrowed{{Census::CutHole, 120}, {Census::PointNarrowedOntoLine, 150}};
     add("narrowed onto lines", {Rings::Nudged, Odd::None, 1.0}, narrowed);
     add("narrowed onto lines far away", {Rings::Nudged, Odd::None, 1.0, 1e6}, narrowed);
     add("sectors", {Rings::Sectors, Odd::None, 1.0},
         {{Census::CutHole, 100},
-         {Census::RasteredRing, 40},
          {Census::PointOnLine, 2000},
          {Census::EdgeShared, 1500},
          {Census::HolesThatTouch, 80}});
     add("sectors with few odd values", {Rings::Sectors, Odd::OneVertexOfFewRings, 1.0},
-        {{Census::CutHole, 60},
-         {Census::RasteredRing, 30},
-         {Census::EdgeShared, 1500},
-         {Census::OddHoleInRasteredRing, 4},
-         {Census::HoleInOddRing, 3}});
+        {{Census::CutHole, 60}, {Census::EdgeShared, 1500}, {Census::OddHole, 4}, {Census::HoleInOddRing, 3}});
 }
 
 void addTouchingRings()

@@ -57,25 +57,24 @@ void TestBoxIndex::withoutBoxesNothingIsFound()
 
 void TestBoxIndex::boxesThatTouchFromInsideAreFound()
 {
-    QCOMPARE(idsInside(BoxIndex({{{0, 0, 10, 10}, 1.0, 7, 4}}), {0, 0, 10, 10}, anyArea), QVector<int>{7});
+    QCOMPARE(idsInside(BoxIndex({{{0, 0, 10, 10}, 1.0, 7}}), {0, 0, 10, 10}, anyArea), QVector<int>{7});
     QVector<BoxEntry> found;
-    BoxIndex({{{1, 2, 3, 4}, 5.0, 7, 9}}).find({0, 0, 10, 10}, anyArea, found);
+    BoxIndex({{{1, 2, 3, 4}, 5.0, 7}}).find({0, 0, 10, 10}, anyArea, found);
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.at(0).area, 5.0);
-    QCOMPARE(found.at(0).points, 9);
     QVERIFY(found.at(0).box.contains({1, 2, 3, 4}) && Box({1, 2, 3, 4}).contains(found.at(0).box));
 }
 
 void TestBoxIndex::boxesThatReachOutsideAreNotFound()
 {
-    const BoxIndex index({{{0, 0, 10, 10}, 1.0, 0, 4}});
+    const BoxIndex index({{{0, 0, 10, 10}, 1.0, 0}});
     for (const Box &box : {Box{0.5, 0, 10, 10}, Box{0, 0.5, 10, 10}, Box{0, 0, 9.5, 10}, Box{0, 0, 10, 9.5}})
         QVERIFY(idsInside(index, box, anyArea).isEmpty());
 }
 
 void TestBoxIndex::onlySmallerAreasAreFound()
 {
-    const BoxIndex index({{{0, 0, 1, 1}, 5.0, 0, 4}, {{1, 1, 2, 2}, 6.0, 1, 4}});
+    const BoxIndex index({{{0, 0, 1, 1}, 5.0, 0}, {{1, 1, 2, 2}, 6.0, 1}});
     const Box all{0, 0, 10, 10};
     QCOMPARE(idsInside(index, all, 5.0), QVector<int>());
     QCOMPARE(idsInside(index, all, 5.5), QVector<int>{0});
@@ -86,7 +85,7 @@ void TestBoxIndex::aRemovedBoxIsNotFound()
 {
     QVector<BoxEntry> entries;
     for (int i = 0; i < 100; ++i)
-        entries.append({{i + 0.0, 0, i + 1.0, 1}, 1.0, i, 4});
+        entries.append({{i + 0.0, 0, i + 1.0, 1}, 1.0, i});
     BoxIndex index(entries);
     QVector<int> left;
     for (int i = 0; i < 100; ++i)
@@ -104,7 +103,8 @@ void TestBoxIndex::exactlyTheBoxesInsideAreFound_data()
     QTest::addColumn<QString>("kind");
     for (const char *kind : {"scattered", "of equal centre", "of no size", "at the limit"}) {
         for (int boxes : {1, 8, 9, 64, 65, 1000})
-            QTest::addRow("%d %s", boxes, kind) << boxes << QString::fromLatin1(kind);
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(boxes).arg(QLatin1String(kind))))
+                << boxes << QString::fromLatin1(kind);
     }
 }
 
@@ -115,7 +115,7 @@ void TestBoxIndex::exactlyTheBoxesInsideAreFound()
     std::mt19937 random(7);
     QVector<BoxEntry> all;
     for (int i = 0; i < boxes; ++i)
-        all.append({nextBox(kind, random), 1.0 + static_cast<double>(random() % 10), 3 * i, 4});
+        all.append({nextBox(kind, random), 1.0 + static_cast<double>(random() % 10), 3 * i});
     const BoxIndex index(all);
     int hits = 0;
     for (int query = 0; query < 200; ++query) {

@@ -107,7 +107,7 @@ void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut_data()
 void TestHolePlacement::aHoleWithAVertexThatIsNotFiniteIsNotCut()
 {
     QFETCH(double, coordinate);
-    // Few vertices are tested edge by edge, many by a raster.
+    // Few vertices are tested edge by edge, many against rows of edges.
     for (const int vertices : {4, 60}) {
         for (const int odd : {0, vertices / 2, vertices - 1}) {
             for (const bool isHeight : {false, true}) {

@@ -10,6 +10,7 @@ private Q_SLOTS:
     void onlyTheCountedRecordsAreTaken_data();
     void onlyTheCountedRecordsAreTaken();
     void withoutAChainThereAreNoRings();
+    void verticesOfAllRingsAreCounted();
 };
 
 void TestRingLists::outersAndHolesAreTakenApartInChainOrder()
@@ -53,6 +54,16 @@ void TestRingLists::withoutAChainThereAreNoRings()
     const RingLists rings(nullptr, 5);
     QVERIFY(rings.outers.isEmpty());
     QVERIFY(rings.holes.isEmpty());
+}
+
+void TestRingLists::verticesOfAllRingsAreCounted()
+{
+    HandMadeChain chain;
+    chain.addOuter(square(0, 0, 9));
+    chain.addHole({{1, 1}, {2, 1}, {1, 2}});
+    chain.addOuter({});
+    chain.addOuter(square(0, 0, 9)).vertexCount = 0xFFFFFFFFU; // More than a ring can have: none.
+    QCOMPARE(RingLists(chain.first(), chain.count()).vertices(), qint64(7));
 }
 
 RXMAP_TEST(TestRingLists, None)

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void theListsAreEmptyAfterwardsAndTheTrianglesKeepTheirRoom();
     void onlyTheRoomForALargePolygonsVerticesIsGivenBack();
     void aVertexThatIsNoNumberIsLeftOut();
+    void roomIsMadeForAsManyTrianglesAsRingsThatDoNotCrossHave_data();
+    void roomIsMadeForAsManyTrianglesAsRingsThatDoNotCrossHave();
 
 private:
     void tessellate(const Ring &ring, const QColor &color);
@@ -46,8 +48,7 @@ void TestPolygonTessellation::tessellate(const Ring &ring, const QColor &color)
 {
     HandMadeChain chain;
     PolygonTessellation tessellation(tessellator, triangles);
-    const auto vertices = static_cast<int>(ring.size());
-    tessellation.beginPolygon(color, vertices, vertices - 2);
+    tessellation.beginPolygon(color);
     tessellation.addContour(chain.addOuter(ring));
     tessellation.endPolygon();
 }
@@ -89,7 +90,7 @@ void TestPolygonTessellation::anInvalidColourIsBlack()
     PolygonTessellation tessellation(tessellator, triangles);
     for (const QColor &color : {QColor(255, 255, 255), QColor()}) {
         triangles.clear();
-        tessellation.beginPolygon(color, 4, 2);
+        tessellation.beginPolygon(color);
         tessellation.addContour(chain.addOuter(square(0, 0, 10)));
         tessellation.endPolygon();
     }
@@ -148,6 +149,27 @@ void TestPolygonTessellation::aVertexThatIsNoNumberIsLeftOut()
     QCOMPARE(triangles.size(), 3);
     for (const Vertex &vertex : qAsConst(triangles))
         QVERIFY(!std::isnan(vertex.x) && !std::isnan(vertex.z));
+}
+
+void TestPolygonTessellation::roomIsMadeForAsManyTrianglesAsRingsThatDoNotCrossHave_data()
+{
+    QTest::addColumn<qint64>("vertices");
+    QTest::addColumn<qint64>("outers");
+    QTest::addColumn<qint64>("holes");
+    QTest::addColumn<int>("room");
+    QTest::newRow("a square") << qint64(4) << qint64(1) << qint64(0) << 3 * 2;
+    QTest::newRow("a square with two triangles cut out") << qint64(10) << qint64(1) << qint64(2) << 3 * 12;
+    QTest::newRow("a whole map") << qint64(12) << qint64(2) << qint64(1) << 3 * 10;
+    QTest::newRow("less than a triangle") << qint64(2) << qint64(2) << qint64(0) << 0;
+    QTest::newRow("more than a list holds") << qint64(0xFFFFFFFF) << qint64(1) << qint64(0) << 134217711;
+}
+
+void TestPolygonTessellation::roomIsMadeForAsManyTrianglesAsRingsThatDoNotCrossHave()
+{
+    QFETCH(qint64, vertices);
+    QFETCH(qint64, outers);
+    QFETCH(qint64, holes);
+    QTEST(triangleVertices(vertices, outers, holes), "room");
 }
 
 RXMAP_TEST(TestPolygonTessellation, None)
