@@ -1,9 +1,9 @@
 #include "baretessellation.h"
 
-#include "holeplacement.h"
-#include "ringbox.h"
-#include "ringlists.h"
-#include "ringtest.h"
+#include "placement/holeplacement.h"
+#include "placement/ringbox.h"
+#include "placement/ringlists.h"
+#include "placement/ringtest.h"
 #include "tesscallbacks.h"
 
 #include <GL/glu.h>
@@ -67,7 +67,7 @@ void appendReversed(const QVector<Vertex> &from, QVector<Vertex> &bank)
 
 } // namespace
 
-Placement plainPlacement(RX_POLYGON *chain, unsigned int count)
+Placement referencePlacement(RX_POLYGON *chain, unsigned int count)
 {
     RingLists rings(chain, count);
     QVector<RX_POLYGON *> &holes = rings.holes;

@@ -13,7 +13,7 @@
 using Placement = std::vector<std::vector<OrvikTypes::RX_POLYGON *>>;
 
 /// Each hole compared with each outer ring, as hole placement is defined.
-Placement plainPlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
+Placement referencePlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);
 
 /// The same, but a hole is compared only with those outer rings whose box holds it.
 Placement edgePlacement(OrvikTypes::RX_POLYGON *chain, unsigned int count);

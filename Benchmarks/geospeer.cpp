@@ -1,6 +1,6 @@
 #include "geospeer.h"
 
-#include "ringtest.h"
+#include "placement/ringtest.h"
 
 #include <geos_c.h>
 #include <memory>

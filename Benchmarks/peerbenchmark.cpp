@@ -1,8 +1,7 @@
-// The same polygons cut into triangles by other libraries, for the record.
+// The same polygons cut into triangles by another library, for the record.
 
 #include "baretessellation.h"
 #include "benchmarkhost.h"
-#include "cgalpeer.h"
 #include "geospeer.h"
 #include "realmaps.h"
 #include "rxmap3d.h"
@@ -17,22 +16,17 @@ void peers(benchmark::State &state, const NamedMap &kind)
     const Placement placement = fastPlacement(map.chain(), map.count());
     std::vector<double> rebuildTimes;
     std::vector<double> geosTimes;
-    std::vector<double> cgalTimes;
     PeerResult byGeos;
-    PeerResult byCgal;
     for (auto _ : state) {
         rebuildTimes.push_back(timed([&host] { host.drawable().updatePolygons(); }));
         geosTimes.push_back(timed([&] { byGeos = triangulateWithGeos(map, placement); }));
-        cgalTimes.push_back(timed([&] { byCgal = triangulateWithCgal(map, placement); }));
         state.SetIterationTime(rebuildTimes.back());
     }
     const double rebuild = median(rebuildTimes);
     state.counters["geos_over_rebuild"] = median(geosTimes) / rebuild;
-    state.counters["cgal_over_rebuild"] = median(cgalTimes) / rebuild;
     state.counters["triangles"] = host.bankVertices() / 3;
     state.counters["geos_triangles"] = byGeos.triangles;
     state.counters["geos_refused"] = byGeos.refused;
-    state.counters["cgal_triangles"] = byCgal.triangles;
 }
 
 const bool areMapsAdded = [] {

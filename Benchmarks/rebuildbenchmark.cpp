@@ -45,7 +45,7 @@ void rebuild(benchmark::State &state, const NamedMap &kind)
     describe(state, map);
 }
 
-void plainRebuild(benchmark::State &state, const NamedMap &kind)
+void overReference(benchmark::State &state, const NamedMap &kind)
 {
     BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
@@ -53,7 +53,7 @@ void plainRebuild(benchmark::State &state, const NamedMap &kind)
     compareSideBySide(
         state, "over_fast",
         [&map, corners] {
-            const Placement placement = plainPlacement(map.chain(), map.count());
+            const Placement placement = referencePlacement(map.chain(), map.count());
             benchmark::DoNotOptimize(bareRebuild(map, placement, corners));
         },
         [&host] { host.drawable().updatePolygons(); });
@@ -76,7 +76,7 @@ const bool areMapsAdded = [] {
         benchmark::RegisterBenchmark(("Rebuild/" + map.name).c_str(), rebuild, map)->UseManualTime()->Iterations(21);
     }
     for (const NamedMap &map : manyHolesMaps()) {
-        benchmark::RegisterBenchmark(("PlainRebuild/" + map.name).c_str(), plainRebuild, map)
+        benchmark::RegisterBenchmark(("PlainRebuild/" + map.name).c_str(), overReference, map)
             ->UseManualTime()
             ->Iterations(3);
     }

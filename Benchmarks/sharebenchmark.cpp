@@ -1,9 +1,9 @@
-// The plug-in's own share of a rebuild, with GLU quiet: how its time grows, and the most memory that it takes.
+// The plug-in's own share of a rebuild, with GLU stubbed: how its time grows, and the most memory that it takes.
 
 #include "allocationmeter.h"
 #include "benchmarkhost.h"
+#include "glustub.h"
 #include "mapkinds.h"
-#include "quietglu.h"
 #include "realmaps.h"
 #include "rxmap3d.h"
 #include "sidebyside.h"
@@ -53,7 +53,7 @@ void growthOfShare(benchmark::State &state, const MapKind &kind)
     BenchmarkMap many = kind.make(manyRings);
     BenchmarkHost fewHost(few);
     BenchmarkHost manyHost(many);
-    const QuietGlu quiet;
+    const GluStub stub;
     std::vector<double> fewTimes;
     std::vector<double> manyTimes;
     for (auto _ : state) {
@@ -75,7 +75,7 @@ void peakMemory(benchmark::State &state, const NamedMap &kind)
     BenchmarkMap map = kind.make();
     BenchmarkHost host(map);
     const double bank = static_cast<double>(host.bankVertices() * sizeof(Vertex));
-    const QuietGlu quiet;
+    const GluStub stub;
     std::size_t peak = 0;
     for (auto _ : state) {
         host.drawable().setDbGroup(nullptr);
@@ -85,8 +85,8 @@ void peakMemory(benchmark::State &state, const NamedMap &kind)
         host.drawable().setDbGroup(&host.group());
         peak = meter.peak();
     }
-    const auto largest = static_cast<double>(quiet.largestPolygonVertices() * sizeof(RXVERT)
-                                             + 3 * quiet.largestPolygonTriangles() * sizeof(Vertex));
+    const auto largest = static_cast<double>(stub.largestPolygonVertices() * sizeof(RXVERT)
+                                             + 3 * stub.largestPolygonTriangles() * sizeof(Vertex));
     state.counters["over_bank"] = static_cast<double>(peak) / (bank + largest);
     state.counters["peak_bytes"] = static_cast<double>(peak);
     state.counters["bank_bytes"] = bank;

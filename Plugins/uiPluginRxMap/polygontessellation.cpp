@@ -1,6 +1,6 @@
 #include "polygontessellation.h"
 
-#include "ringtest.h"
+#include "placement/ringtest.h"
 #include "tesscallbacks.h"
 
 #include <GL/glu.h>

@@ -1,11 +1,11 @@
 #include "rxmap3d.h"
 
 #include "groupvalue.h"
-#include "holeplacement.h"
+#include "placement/holeplacement.h"
+#include "placement/ringlists.h"
+#include "placement/ringtest.h"
 #include "polygontessellation.h"
 #include "ratemapping.h"
-#include "ringlists.h"
-#include "ringtest.h"
 
 #include "Framework/databroker.h"
 #include "Framework/dbgroupaam.h"

@@ -1,7 +1,7 @@
 #include "allocationmeter.h"
+#include "glustub.h"
 #include "maphost.h"
 #include "mapkinds.h"
-#include "quietglu.h"
 #include "rxmap3dprobe.h"
 #include "tesscallbacks.h"
 #include "testbase.h"
@@ -80,13 +80,13 @@ void TestRebuildCost::littleMemoryIsTakenBesideTheBank()
     QFETCH(int, kind);
     BenchmarkMap map = mapOf(kind);
     Drawn drawn(map);
-    const QuietGlu quiet;
+    const GluStub stub;
     drawn.forget();
     const AllocationMeter meter;
     drawn.rebuild();
     const auto peak = static_cast<double>(meter.peak());
-    const auto largest = static_cast<double>(quiet.largestPolygonVertices() * sizeof(RXVERT)
-                                             + 3 * quiet.largestPolygonTriangles() * sizeof(Vertex));
+    const auto largest = static_cast<double>(stub.largestPolygonVertices() * sizeof(RXVERT)
+                                             + 3 * stub.largestPolygonTriangles() * sizeof(Vertex));
     const double needed = static_cast<double>(drawn.bankBytes()) + largest;
     QVERIFY(peak >= static_cast<double>(drawn.bankBytes()));
     QVERIFY2(peak <= 1.15 * needed, qPrintable(QStringLiteral("%1 of %2 bytes").arg(peak).arg(needed)));
@@ -102,12 +102,12 @@ void TestRebuildCost::gluIsCalledOnceForEachPolygonContourAndVertex()
     QFETCH(int, kind);
     BenchmarkMap map = mapOf(kind);
     Drawn drawn(map);
-    const QuietGlu quiet;
+    const GluStub stub;
     drawn.rebuild();
-    QCOMPARE(quiet.polygons(), std::size_t(map.outers()));
+    QCOMPARE(stub.polygons(), std::size_t(map.outers()));
     // Every hole of these maps lies in an outer ring.
-    QCOMPARE(quiet.contours(), std::size_t(map.count()));
-    QCOMPARE(quiet.vertices(), map.vertices());
+    QCOMPARE(stub.contours(), std::size_t(map.count()));
+    QCOMPARE(stub.vertices(), map.vertices());
 }
 
 void TestRebuildCost::nothingIsLeftBetweenRebuilds()

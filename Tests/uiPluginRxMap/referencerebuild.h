@@ -11,12 +11,12 @@
 /// A rebuild of the map as it is defined, step by step and with nothing of the drawable's own: each hole compared with
 /// each outer ring, vertices taken as GLU emits them, each triangle turned round. What a faster way must equal to the
 /// last bit.
-struct PlainRebuild {
+struct ReferenceRebuild {
     QVector<Vertex> vertices;
     QVector<int> drawIndexes; ///< One for each record of the chain, in order.
     QColor carriedOver;       ///< The colour of the last polygon.
 };
 
 /// `carriedOver`: the colour of the polygon before the first. Writes nothing into the records.
-PlainRebuild rebuildPlainly(OrvikTypes::RX_POLYGON *chain, unsigned int count,
-                            const QList<OrvikTypes::RX_RATECOLOR> &legend, QColor carriedOver = QColor());
+ReferenceRebuild referenceRebuild(OrvikTypes::RX_POLYGON *chain, unsigned int count,
+                                  const QList<OrvikTypes::RX_RATECOLOR> &legend, QColor carriedOver = QColor());

@@ -5,12 +5,12 @@
 /// While one of these lives, GLU's tessellator does no work: a polygon is answered with as many triangles as its
 /// contours have when they do not cross, of any of its vertices. What a rebuild then takes is the plug-in's own share.
 /// Memory for the tessellator itself is GLU's, and is never metered.
-class QuietGlu {
+class GluStub {
 public:
-    QuietGlu();
-    ~QuietGlu();
-    QuietGlu(const QuietGlu &) = delete;
-    QuietGlu &operator=(const QuietGlu &) = delete;
+    GluStub();
+    ~GluStub();
+    GluStub(const GluStub &) = delete;
+    GluStub &operator=(const GluStub &) = delete;
 
     /// What it was asked since it was made.
     std::size_t polygons() const;

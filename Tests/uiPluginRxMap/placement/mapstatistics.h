@@ -6,8 +6,8 @@
 #include <QString>
 #include <QVector>
 
-/// Counts in maps the cases that make placing holes hard, each found by plain comparison.
-class MapCensus {
+/// Counts in maps the cases that make placing holes hard, each found by comparing each with each.
+class MapStatistics {
 public:
     enum Case {
         CutHole,     ///< Holes cut from an outer ring.
@@ -32,4 +32,4 @@ private:
     Counts found;
 };
 
-Q_DECLARE_METATYPE(MapCensus::Counts)
+Q_DECLARE_METATYPE(MapStatistics::Counts)

@@ -1,4 +1,4 @@
-#include "boxindex.h"
+#include "placement/boxindex.h"
 #include "testbase.h"
 
 #include <algorithm>

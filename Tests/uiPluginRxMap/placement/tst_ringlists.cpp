@@ -1,5 +1,5 @@
 #include "maphost.h"
-#include "ringlists.h"
+#include "placement/ringlists.h"
 #include "testbase.h"
 
 class TestRingLists : public TestBase {

@@ -1,6 +1,6 @@
-#include "mapcensus.h"
+#include "mapstatistics.h"
 
-#include "plainplacement.h"
+#include "referenceplacement.h"
 
 #include <QStringList>
 
@@ -19,7 +19,7 @@ struct Edge {
 
 Edge edgeOf(const RX_POLYGON &ring, int index)
 {
-    const int count = plainVertexCount(ring);
+    const int count = referenceVertexCount(ring);
     return {ring.vertices[(index + count - 1) % count], ring.vertices[index]};
 }
 
@@ -30,7 +30,7 @@ bool areSame(const RX_POLYGONVERTEX &one, const RX_POLYGONVERTEX &other)
 
 RX_POLYGONVERTEX asFloats(const RX_POLYGONVERTEX &vertex)
 {
-    return {narrowedPlainly(vertex.x), narrowedPlainly(vertex.y)};
+    return {referenceNarrowed(vertex.x), referenceNarrowed(vertex.y)};
 }
 
 bool isFinite(const RX_POLYGONVERTEX &vertex)
@@ -40,7 +40,7 @@ bool isFinite(const RX_POLYGONVERTEX &vertex)
 
 bool isOrdinaryRing(const RX_POLYGON &ring)
 {
-    return std::all_of(ring.vertices, ring.vertices + plainVertexCount(ring), [](const RX_POLYGONVERTEX &vertex) {
+    return std::all_of(ring.vertices, ring.vertices + referenceVertexCount(ring), [](const RX_POLYGONVERTEX &vertex) {
         const double height = std::fabs(vertex.y);
         return std::fabs(vertex.x) <= 1e100 && height <= 1e100 && (height == 0.0 || height >= 1e-180);
     });
@@ -48,7 +48,7 @@ bool isOrdinaryRing(const RX_POLYGON &ring)
 
 bool isOnLine(const RX_POLYGON &ring, const RX_POLYGONVERTEX &point)
 {
-    for (int i = 0; i < plainVertexCount(ring); ++i) {
+    for (int i = 0; i < referenceVertexCount(ring); ++i) {
         const Edge edge = edgeOf(ring, i);
         if (point.y < std::min(edge.from.y, edge.to.y) || point.y > std::max(edge.from.y, edge.to.y))
             continue;
@@ -68,11 +68,11 @@ bool isOnLine(const RX_POLYGON &ring, const RX_POLYGONVERTEX &point)
 bool isInsideButForOddVertices(const RX_POLYGON &outer, const RX_POLYGON &hole)
 {
     int inside = 0;
-    for (int i = 0; i < plainVertexCount(hole); ++i) {
+    for (int i = 0; i < referenceVertexCount(hole); ++i) {
         const RX_POLYGONVERTEX point = asFloats(hole.vertices[i]);
         if (!isFinite(point))
             continue;
-        if (!isInsidePlainly(outer.vertices, plainVertexCount(outer), point.x, point.y))
+        if (!referenceIsInside(outer.vertices, referenceVertexCount(outer), point.x, point.y))
             return false;
         ++inside;
     }
@@ -81,16 +81,16 @@ bool isInsideButForOddVertices(const RX_POLYGON &outer, const RX_POLYGON &hole)
 
 bool isOdd(const RX_POLYGON &hole)
 {
-    return !std::all_of(hole.vertices, hole.vertices + plainVertexCount(hole),
+    return !std::all_of(hole.vertices, hole.vertices + referenceVertexCount(hole),
                         [](const RX_POLYGONVERTEX &vertex) { return isFinite(asFloats(vertex)); });
 }
 
 int sharedEdges(const RX_POLYGON &one, const RX_POLYGON &other)
 {
     int shared = 0;
-    for (int i = 0; i < plainVertexCount(one); ++i) {
+    for (int i = 0; i < referenceVertexCount(one); ++i) {
         const Edge edge = edgeOf(one, i);
-        for (int j = 0; j < plainVertexCount(other); ++j) {
+        for (int j = 0; j < referenceVertexCount(other); ++j) {
             const Edge second = edgeOf(other, j);
             const bool isSame = (areSame(edge.from, second.from) && areSame(edge.to, second.to))
                 || (areSame(edge.from, second.to) && areSame(edge.to, second.from));
@@ -102,27 +102,28 @@ int sharedEdges(const RX_POLYGON &one, const RX_POLYGON &other)
 
 bool shareVertex(const RX_POLYGON &one, const RX_POLYGON &other)
 {
-    return std::any_of(one.vertices, one.vertices + plainVertexCount(one), [&other](const RX_POLYGONVERTEX &vertex) {
-        return std::any_of(other.vertices, other.vertices + plainVertexCount(other),
-                           [&vertex](const RX_POLYGONVERTEX &second) { return areSame(vertex, second); });
-    });
+    return std::any_of(
+        one.vertices, one.vertices + referenceVertexCount(one), [&other](const RX_POLYGONVERTEX &vertex) {
+            return std::any_of(other.vertices, other.vertices + referenceVertexCount(other),
+                               [&vertex](const RX_POLYGONVERTEX &second) { return areSame(vertex, second); });
+        });
 }
 
 } // namespace
 
-void MapCensus::add(HandMadeChain &chain)
+void MapStatistics::add(HandMadeChain &chain)
 {
     QVector<RX_POLYGON *> outers;
     QVector<RX_POLYGON *> holes;
     for (RX_POLYGON *polygon = chain.first(); polygon != nullptr; polygon = polygon->next)
         (polygon->isHole ? holes : outers).append(polygon);
-    const QVector<QVector<int>> cut = plainPlacement(outers, holes);
-    found[PlacedByNarrowing] += cut == plainPlacement(outers, holes, [](double value) { return value; }) ? 0 : 1;
+    const QVector<QVector<int>> cut = referencePlacement(outers, holes);
+    found[PlacedByNarrowing] += cut == referencePlacement(outers, holes, [](double value) { return value; }) ? 0 : 1;
     QVector<RX_POLYGON *> left = holes;
     for (int outer = 0; outer < outers.size(); ++outer) {
         QVector<RX_POLYGON *> candidates;
         for (RX_POLYGON *hole : qAsConst(left)) {
-            if (outers.at(outer)->area - 10.0 > hole->area && plainVertexCount(*hole) > 0)
+            if (outers.at(outer)->area - 10.0 > hole->area && referenceVertexCount(*hole) > 0)
                 candidates.append(hole);
         }
         addOuter(*outers.at(outer), candidates);
@@ -135,13 +136,13 @@ void MapCensus::add(HandMadeChain &chain)
     }
 }
 
-void MapCensus::addOuter(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &candidates)
+void MapStatistics::addOuter(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &candidates)
 {
-    if (plainVertexCount(outer) == 0)
+    if (referenceVertexCount(outer) == 0)
         return;
     for (const RX_POLYGON *hole : candidates) {
         found[EdgeShared] += sharedEdges(outer, *hole);
-        for (int i = 0; i < plainVertexCount(*hole); ++i) {
+        for (int i = 0; i < referenceVertexCount(*hole); ++i) {
             if (!isOnLine(outer, asFloats(hole->vertices[i])))
                 continue;
             ++found[PointOnLine];
@@ -154,7 +155,7 @@ void MapCensus::addOuter(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &c
         found[OddHole] += isOdd(*hole) && isInsideButForOddVertices(outer, *hole) ? 1 : 0;
 }
 
-void MapCensus::addCut(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &cut)
+void MapStatistics::addCut(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &cut)
 {
     found[CutHole] += cut.size();
     found[HoleInOddRing] += isOrdinaryRing(outer) ? 0 : cut.size();
@@ -164,7 +165,7 @@ void MapCensus::addCut(const RX_POLYGON &outer, const QVector<RX_POLYGON *> &cut
     }
 }
 
-QString MapCensus::shortOf(const Counts &least) const
+QString MapStatistics::shortOf(const Counts &least) const
 {
     static const QMap<Case, QString> names{
         {CutHole, QStringLiteral("cut holes")},

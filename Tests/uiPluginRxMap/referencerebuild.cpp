@@ -1,6 +1,6 @@
-#include "plainrebuild.h"
+#include "referencerebuild.h"
 
-#include "plainplacement.h"
+#include "referenceplacement.h"
 
 #include <GL/glu.h>
 #include <cmath>
@@ -49,7 +49,7 @@ quint32 packed(const QColor &color)
 void addContour(GLUtesselator *tessellator, const RX_POLYGON &ring, std::deque<Location> &locations)
 {
     gluTessBeginContour(tessellator);
-    for (int i = 0; i < plainVertexCount(ring); ++i) {
+    for (int i = 0; i < referenceVertexCount(ring); ++i) {
         const double x = ring.vertices[i].x;
         const double y = ring.vertices[i].y;
         // The tessellator crashes on NaN; such vertices are left out.
@@ -89,8 +89,8 @@ QVector<Vertex> tessellate(const RX_POLYGON &outer, const QVector<RX_POLYGON *> 
 
 } // namespace
 
-PlainRebuild rebuildPlainly(RX_POLYGON *chain, unsigned int count, const QList<OrvikTypes::RX_RATECOLOR> &legend,
-                            QColor carriedOver)
+ReferenceRebuild referenceRebuild(RX_POLYGON *chain, unsigned int count, const QList<OrvikTypes::RX_RATECOLOR> &legend,
+                                  QColor carriedOver)
 {
     QVector<RX_POLYGON *> outers;
     QVector<RX_POLYGON *> holes;
@@ -99,10 +99,10 @@ PlainRebuild rebuildPlainly(RX_POLYGON *chain, unsigned int count, const QList<O
         (polygon->isHole ? holes : outers).append(polygon);
         records.append(polygon);
     }
-    PlainRebuild made;
+    ReferenceRebuild made;
     for (const RX_POLYGON *record : qAsConst(records))
         made.drawIndexes.append(record->drawIndex);
-    const QVector<QVector<int>> cut = plainPlacement(outers, holes);
+    const QVector<QVector<int>> cut = referencePlacement(outers, holes);
     QVector<RX_POLYGON *> unplaced = holes;
     for (int outer = 0; outer < outers.size(); ++outer) {
         const RX_POLYGON &polygon = *outers.at(outer);

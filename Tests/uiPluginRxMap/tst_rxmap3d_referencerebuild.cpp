@@ -1,8 +1,8 @@
-#include "mapcensus.h"
 #include "maphost.h"
+#include "mapstatistics.h"
 #include "paths.h"
-#include "plainrebuild.h"
 #include "randommap.h"
+#include "referencerebuild.h"
 #include "rxmap3dprobe.h"
 #include "testbase.h"
 #include "wholeprescription.h"
@@ -14,7 +14,7 @@
 using OrvikTypes::RX_POLYGON;
 
 /// What is built, compared bit for bit with a rebuild as it is defined.
-class TestRxMap3DPlainRebuild : public TestBase {
+class TestRxMap3DReferenceRebuild : public TestBase {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -43,8 +43,8 @@ Legend legendNumber(unsigned int number)
     return QVector<Legend>{legend(), few, mixed, {}}.at(static_cast<int>(number % 4));
 }
 
-/// The difference between what the group's map was built to and the plain rebuild; empty where there is none.
-QString difference(const RxMap3D &map, const PlainRebuild &expected, const RX_POLYGON *record)
+/// The difference between what the group's map was built to and the reference; empty where there is none.
+QString difference(const RxMap3D &map, const ReferenceRebuild &expected, const RX_POLYGON *record)
 {
     if (RxMap3DProbe::banks(map).size() != 1)
         return QStringLiteral("%1 banks").arg(RxMap3DProbe::banks(map).size());
@@ -86,7 +86,7 @@ Drawn fewestDrawn(const RandomKind &kind)
 class Bound {
 public:
     Bound()
-        : group(host.addMap(QStringLiteral("plain"), {1}))
+        : group(host.addMap(QStringLiteral("random"), {1}))
         , map(&host.broker, nullptr)
     {
         map.setAamGroup(host.aam(1));
@@ -95,8 +95,8 @@ public:
 
     QString differenceOf(HandMadeChain &chain, const Legend &legend)
     {
-        const PlainRebuild expected =
-            rebuildPlainly(chain.first(), chain.count(), legend, RxMap3DProbe::currentColor(map));
+        const ReferenceRebuild expected =
+            referenceRebuild(chain.first(), chain.count(), legend, RxMap3DProbe::currentColor(map));
         MapHost::publish(*group, chain, legend);
         const QString found = difference(map, expected, chain.first());
         // Of the built bank, not of the expected one: the two are the same wherever nothing was found.
@@ -122,34 +122,34 @@ private:
 
 } // namespace
 
-void TestRxMap3DPlainRebuild::randomMaps_data()
+void TestRxMap3DReferenceRebuild::randomMaps_data()
 {
     addRandomKinds();
 }
 
-void TestRxMap3DPlainRebuild::randomMaps()
+void TestRxMap3DReferenceRebuild::randomMaps()
 {
     QFETCH(RandomKind, kind);
-    QFETCH(MapCensus::Counts, least);
+    QFETCH(MapStatistics::Counts, least);
     Bound bound;
-    MapCensus census;
+    MapStatistics statistics;
     for (unsigned int seed = 1; seed <= 200; ++seed) {
         RandomMap random(kind, seed);
         if (seed <= countedMaps)
-            census.add(random.chain);
+            statistics.add(random.chain);
         for (unsigned int i = 0; i < random.chain.count(); ++i)
             random.chain.at(i).drawIndex = 1000 + static_cast<int>(i);
         const QString found = bound.differenceOf(random.chain, legendNumber(seed));
         QVERIFY2(found.isEmpty(), qPrintable(QStringLiteral("map %1: %2").arg(seed).arg(found)));
     }
-    const QString missing = census.shortOf(least);
+    const QString missing = statistics.shortOf(least);
     QVERIFY2(missing.isEmpty(), qPrintable(missing));
     const Drawn fewest = fewestDrawn(kind);
     QVERIFY2(bound.drawn.maps >= fewest.maps, qPrintable(QString::number(bound.drawn.maps)));
     QVERIFY2(bound.drawn.coloured >= fewest.coloured, qPrintable(QString::number(bound.drawn.coloured)));
 }
 
-void TestRxMap3DPlainRebuild::cellsThatShareEdges()
+void TestRxMap3DReferenceRebuild::cellsThatShareEdges()
 {
     HandMadeChain chain;
     for (int i = 0; i < 400; ++i)
@@ -160,7 +160,7 @@ void TestRxMap3DPlainRebuild::cellsThatShareEdges()
 
 // The first holes touch each other and the ring along whole edges and at corners, the others lie exactly on lines of
 // vertices; the outer rings have equal areas.
-void TestRxMap3DPlainRebuild::holesThatTouch()
+void TestRxMap3DReferenceRebuild::holesThatTouch()
 {
     HandMadeChain chain;
     chain.addOuter(square(0, 0, 100));
@@ -173,7 +173,7 @@ void TestRxMap3DPlainRebuild::holesThatTouch()
     QCOMPARE(bound.differenceOf(chain, legend()), QString());
 }
 
-void TestRxMap3DPlainRebuild::wholePrescriptions_data()
+void TestRxMap3DReferenceRebuild::wholePrescriptions_data()
 {
     QTest::addColumn<QString>("path");
     WholePrescription::addRows(sourcePath("Tests/fixtures"));
@@ -182,7 +182,7 @@ void TestRxMap3DPlainRebuild::wholePrescriptions_data()
         WholePrescription::addRows(realData(QString()));
 }
 
-void TestRxMap3DPlainRebuild::wholePrescriptions()
+void TestRxMap3DReferenceRebuild::wholePrescriptions()
 {
     QFETCH(QString, path);
     WholePrescription prescription(path);
@@ -190,11 +190,11 @@ void TestRxMap3DPlainRebuild::wholePrescriptions()
 
     RxMap3D map(&prescription.host.broker, nullptr);
     map.setAamGroup(prescription.host.aam(1));
-    const PlainRebuild expected = rebuildPlainly(prescription.chain(), prescription.group()->getPolygonCount(),
-                                                 prescription.group()->getRateColors().at(0));
+    const ReferenceRebuild expected = referenceRebuild(prescription.chain(), prescription.group()->getPolygonCount(),
+                                                       prescription.group()->getRateColors().at(0));
     map.updateRxMapGroup();
     QCOMPARE(difference(map, expected, prescription.chain()), QString());
 }
 
-RXMAP_TEST(TestRxMap3DPlainRebuild, Widgets)
-#include "tst_rxmap3d_plainrebuild.moc"
+RXMAP_TEST(TestRxMap3DReferenceRebuild, Widgets)
+#include "tst_rxmap3d_referencerebuild.moc"

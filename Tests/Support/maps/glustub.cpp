@@ -1,4 +1,4 @@
-#include "quietglu.h"
+#include "glustub.h"
 
 #include "allocationmeter.h"
 
@@ -16,7 +16,7 @@ struct Count {
     std::size_t triangles = 0;
 };
 
-bool isQuiet = false;
+bool isStubbed = false;
 Count polygon;
 Count all;
 Count largest;
@@ -52,39 +52,39 @@ void countPolygon()
 
 } // namespace
 
-QuietGlu::QuietGlu()
+GluStub::GluStub()
 {
-    isQuiet = true;
+    isStubbed = true;
     all = Count();
     largest = Count();
 }
 
-QuietGlu::~QuietGlu()
+GluStub::~GluStub()
 {
-    isQuiet = false;
+    isStubbed = false;
 }
 
-std::size_t QuietGlu::polygons() const
+std::size_t GluStub::polygons() const
 {
     return all.polygons;
 }
 
-std::size_t QuietGlu::contours() const
+std::size_t GluStub::contours() const
 {
     return all.contours;
 }
 
-std::size_t QuietGlu::vertices() const
+std::size_t GluStub::vertices() const
 {
     return all.vertices;
 }
 
-std::size_t QuietGlu::largestPolygonVertices() const
+std::size_t GluStub::largestPolygonVertices() const
 {
     return largest.vertices;
 }
 
-std::size_t QuietGlu::largestPolygonTriangles() const
+std::size_t GluStub::largestPolygonTriangles() const
 {
     return largest.triangles;
 }
@@ -117,14 +117,14 @@ void gluTessBeginPolygon(GLUtesselator *tess, GLvoid *data)
 {
     static const auto original = real(&gluTessBeginPolygon, "gluTessBeginPolygon");
     polygon = Count();
-    if (!isQuiet)
+    if (!isStubbed)
         original(tess, data);
 }
 
 void gluTessBeginContour(GLUtesselator *tess)
 {
     static const auto original = real(&gluTessBeginContour, "gluTessBeginContour");
-    if (isQuiet)
+    if (isStubbed)
         ++polygon.contours;
     else
         original(tess);
@@ -133,7 +133,7 @@ void gluTessBeginContour(GLUtesselator *tess)
 void gluTessVertex(GLUtesselator *tess, GLdouble *location, GLvoid *data)
 {
     static const auto original = real(&gluTessVertex, "gluTessVertex");
-    if (isQuiet)
+    if (isStubbed)
         ++polygon.vertices;
     else
         original(tess, location, data);
@@ -142,14 +142,14 @@ void gluTessVertex(GLUtesselator *tess, GLdouble *location, GLvoid *data)
 void gluTessEndContour(GLUtesselator *tess)
 {
     static const auto original = real(&gluTessEndContour, "gluTessEndContour");
-    if (!isQuiet)
+    if (!isStubbed)
         original(tess);
 }
 
 void gluTessEndPolygon(GLUtesselator *tess)
 {
     static const auto original = real(&gluTessEndPolygon, "gluTessEndPolygon");
-    if (!isQuiet) {
+    if (!isStubbed) {
         original(tess);
         return;
     }

@@ -1,5 +1,5 @@
 #include "maphost.h"
-#include "ringbox.h"
+#include "placement/ringbox.h"
 #include "testbase.h"
 
 #include <cmath>

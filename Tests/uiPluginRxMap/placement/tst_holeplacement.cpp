@@ -1,6 +1,6 @@
 #include "handmadechain.h"
 #include "placedholes.h"
-#include "plainplacement.h"
+#include "referenceplacement.h"
 #include "testbase.h"
 
 #include <cmath>
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void outersWithImpossibleVertexCountsDisturbNoOther_data();
     void outersWithImpossibleVertexCountsDisturbNoOther();
     void aCrossingBeyondTheRingStillCounts();
-    void minuteHeightsArePlacedAsPlainly();
+    void minuteHeightsArePlacedAsByTheReference();
     void holeCoordinatesAreNarrowedToFloat();
     void aSideThatNarrowingMovesInsideIsInside();
 };
@@ -203,7 +203,7 @@ void TestHolePlacement::aCrossingBeyondTheRingStillCounts()
     QCOMPARE(placed(split(chain)), (QVector<QVector<int>>{{0}}));
 }
 
-void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
+void TestHolePlacement::minuteHeightsArePlacedAsByTheReference()
 {
     // Heights below the smallest normal number: the edge arithmetic underflows.
     HandMadeChain chain;
@@ -214,7 +214,7 @@ void TestHolePlacement::minuteHeightsArePlacedAsPlainly()
         .area = 1e6;
     chain.addHole({{static_cast<double>(-7.8006251e-06F), 0.0}}).area = 1.0;
     const RingLists rings = split(chain);
-    QCOMPARE(placed(rings), plainPlacement(rings.outers, rings.holes));
+    QCOMPARE(placed(rings), referencePlacement(rings.outers, rings.holes));
 }
 
 void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()

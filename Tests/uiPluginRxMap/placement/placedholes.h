@@ -1,8 +1,8 @@
 #pragma once
 
 #include "handmadechain.h"
-#include "holeplacement.h"
-#include "ringlists.h"
+#include "placement/holeplacement.h"
+#include "placement/ringlists.h"
 
 #include <QVector>
 

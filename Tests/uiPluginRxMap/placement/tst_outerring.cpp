@@ -1,5 +1,5 @@
 #include "maphost.h"
-#include "outerring.h"
+#include "placement/outerring.h"
 #include "testbase.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "handmadechain.h"
-#include "mapcensus.h"
+#include "mapstatistics.h"
 
 #include <random>
 #include <vector>
@@ -73,6 +73,6 @@ private:
     std::vector<Star> models; ///< What further rings are made from.
 };
 
-/// Adds a row for every sort of trouble that rings can make: a RandomKind "kind", and MapCensus::Counts "least" of what
-/// its first countedMaps maps hold.
+/// Adds a row for every sort of trouble that rings can make: a RandomKind "kind", and MapStatistics::Counts "least" of
+/// what its first countedMaps maps hold.
 void addRandomKinds();

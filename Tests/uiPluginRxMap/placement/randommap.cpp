@@ -17,56 +17,60 @@ RX_POLYGONVERTEX between(const RX_POLYGONVERTEX &from, const RX_POLYGONVERTEX &t
 
 using Rings = RandomRings;
 using Odd = OddNumbers;
-using Census = MapCensus;
+using Statistics = MapStatistics;
 
-void add(const char *name, const RandomKind &kind, const MapCensus::Counts &least)
+void add(const char *name, const RandomKind &kind, const MapStatistics::Counts &least)
 {
     QTest::newRow(name) << kind << least;
 }
 
 void addSingleRings()
 {
-    const MapCensus::Counts notOrdinary{{Census::CutHole, 80}, {Census::HoleInOddRing, 80}};
-    add("tangles", {Rings::Tangles}, {{Census::CutHole, 10}});
-    add("tangles on a grid", {Rings::Tangles, Odd::None, 2.0}, {{Census::CutHole, 10}, {Census::PointOnLine, 50}});
+    const MapStatistics::Counts notOrdinary{{Statistics::CutHole, 80}, {Statistics::HoleInOddRing, 80}};
+    add("tangles", {Rings::Tangles}, {{Statistics::CutHole, 10}});
+    add("tangles on a grid", {Rings::Tangles, Odd::None, 2.0},
+        {{Statistics::CutHole, 10}, {Statistics::PointOnLine, 50}});
     add("tangles with odd values", {Rings::Tangles, Odd::AnyCoordinate, 1.0},
-        {{Census::CutHole, 15}, {Census::HoleInOddRing, 10}});
-    add("nested", {Rings::Stars}, {{Census::CutHole, 80}});
+        {{Statistics::CutHole, 15}, {Statistics::HoleInOddRing, 10}});
+    add("nested", {Rings::Stars}, {{Statistics::CutHole, 80}});
     add("nested on a grid", {Rings::Stars, Odd::None, 1.0},
-        {{Census::CutHole, 80}, {Census::PointOnLine, 400}, {Census::HolesThatTouch, 15}});
-    add("nested far away", {Rings::Stars, Odd::None, 0.0, 3.3e8}, {{Census::CutHole, 60}});
+        {{Statistics::CutHole, 80}, {Statistics::PointOnLine, 400}, {Statistics::HolesThatTouch, 15}});
+    add("nested far away", {Rings::Stars, Odd::None, 0.0, 3.3e8}, {{Statistics::CutHole, 60}});
     add("nested with odd values", {Rings::Stars, Odd::AnyCoordinate},
-        {{Census::CutHole, 4}, {Census::HoleInOddRing, 3}});
+        {{Statistics::CutHole, 4}, {Statistics::HoleInOddRing, 3}});
     add("nested with few odd values", {Rings::Stars, Odd::OneVertexOfFewRings},
-        {{Census::CutHole, 70}, {Census::OddHole, 5}, {Census::HoleInOddRing, 5}});
-    add("nested and minute", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-170}, {{Census::CutHole, 80}});
+        {{Statistics::CutHole, 70}, {Statistics::OddHole, 5}, {Statistics::HoleInOddRing, 5}});
+    add("nested and minute", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-170}, {{Statistics::CutHole, 80}});
     add("nested and all but nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-200}, notOrdinary);
     add("nested and next to nothing", {Rings::Stars, Odd::None, 0.0, 0.0, 1e-300}, notOrdinary);
 }
 
 void addRelatedRings()
 {
-    const MapCensus::Counts narrowed{{Census::CutHole, 120}, {Census::PointNarrowedOntoLine, 150}};
+    const MapStatistics::Counts narrowed{{Statistics::CutHole, 120}, {Statistics::PointNarrowedOntoLine, 150}};
     add("narrowed onto lines", {Rings::Nudged, Odd::None, 1.0}, narrowed);
     add("narrowed onto lines far away", {Rings::Nudged, Odd::None, 1.0, 1e6}, narrowed);
     add("sectors", {Rings::Sectors, Odd::None, 1.0},
-        {{Census::CutHole, 100},
-         {Census::PointOnLine, 2000},
-         {Census::EdgeShared, 1500},
-         {Census::HolesThatTouch, 80}});
+        {{Statistics::CutHole, 100},
+         {Statistics::PointOnLine, 2000},
+         {Statistics::EdgeShared, 1500},
+         {Statistics::HolesThatTouch, 80}});
     add("sectors with few odd values", {Rings::Sectors, Odd::OneVertexOfFewRings, 1.0},
-        {{Census::CutHole, 60}, {Census::EdgeShared, 1500}, {Census::OddHole, 4}, {Census::HoleInOddRing, 3}});
+        {{Statistics::CutHole, 60},
+         {Statistics::EdgeShared, 1500},
+         {Statistics::OddHole, 4},
+         {Statistics::HoleInOddRing, 3}});
 }
 
 void addTouchingRings()
 {
-    const MapCensus::Counts decided{{Census::CutHole, 20}, {Census::PlacedByNarrowing, 20}};
+    const MapStatistics::Counts decided{{Statistics::CutHole, 20}, {Statistics::PlacedByNarrowing, 20}};
     add("touching", {Rings::Touching, Odd::None, 0.0, 0.0, 1.0, 1.0, true}, decided);
     add("touching far away", {Rings::Touching, Odd::None, 0.0, 5e5, 1.0, 1.0, true}, decided);
     add("touching and minute", {Rings::Touching, Odd::None, 0.0, 0.0, 1e-6, 1.0, true}, decided);
     add("touching and thin", {Rings::Touching, Odd::None, 0.0, 0.0, 1.0, 1e4, true}, decided);
     add("clustered at vertices", {Rings::Clustered, Odd::None, 0.0, 0.0, 1.0, 1.0, true},
-        {{Census::CutHole, 20}, {Census::PlacedByNarrowing, 12}});
+        {{Statistics::CutHole, 20}, {Statistics::PlacedByNarrowing, 12}});
     add("equal copies", {Rings::Copies, Odd::None, 0.0, 0.0, 1.0, 1.0, true}, decided);
 }
 
@@ -262,7 +266,7 @@ void RandomMap::spoil(Ring &ring)
 void addRandomKinds()
 {
     QTest::addColumn<RandomKind>("kind");
-    QTest::addColumn<MapCensus::Counts>("least");
+    QTest::addColumn<MapStatistics::Counts>("least");
     addSingleRings();
     addRelatedRings();
     addTouchingRings();

@@ -10,7 +10,7 @@
 // not repeat itself in the other.
 
 /// Vertices of a ring; none without a vertex array, nor when the count does not fit an int.
-inline int plainVertexCount(const OrvikTypes::RX_POLYGON &ring)
+inline int referenceVertexCount(const OrvikTypes::RX_POLYGON &ring)
 {
     const bool isUsable =
         ring.vertices != nullptr && ring.vertexCount <= static_cast<quint32>(std::numeric_limits<int>::max());
@@ -19,14 +19,14 @@ inline int plainVertexCount(const OrvikTypes::RX_POLYGON &ring)
 
 /// A coordinate as it is tested, narrowed to float and widened again. Volatile: compilers have been seen to leave out
 /// the pair of conversions (g++ 12, where two coordinates become one vector), and would do so here and there alike.
-inline double narrowedPlainly(double value)
+inline double referenceNarrowed(double value)
 {
     const volatile float narrow = static_cast<float>(value);
     return static_cast<double>(narrow);
 }
 
 /// Even-odd test from the definition: counts the edges that span the point's height and cross it right of the point.
-inline bool isInsidePlainly(const OrvikTypes::RX_POLYGONVERTEX *ring, int count, double x, double y)
+inline bool referenceIsInside(const OrvikTypes::RX_POLYGONVERTEX *ring, int count, double x, double y)
 {
     int crossings = 0;
     for (int i = 0; i < count; ++i) {
@@ -47,9 +47,9 @@ inline bool isInsidePlainly(const OrvikTypes::RX_POLYGONVERTEX *ring, int count,
 
 /// Each hole compared with each outer ring: what any faster way must equal. One list of hole indexes per outer ring,
 /// in contour order. `asTested` is what becomes of a hole's coordinates before they are tested.
-inline QVector<QVector<int>> plainPlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers,
-                                            const QVector<OrvikTypes::RX_POLYGON *> &holes,
-                                            double (*asTested)(double) = narrowedPlainly)
+inline QVector<QVector<int>> referencePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers,
+                                                const QVector<OrvikTypes::RX_POLYGON *> &holes,
+                                                double (*asTested)(double) = referenceNarrowed)
 {
     QVector<int> live;
     for (int i = 0; i < holes.size(); ++i)
@@ -60,11 +60,11 @@ inline QVector<QVector<int>> plainPlacement(const QVector<OrvikTypes::RX_POLYGON
         const QVector<int> snapshot = live;
         for (int hole : snapshot) {
             const OrvikTypes::RX_POLYGON &ring = *holes.at(hole);
-            const int count = plainVertexCount(ring);
+            const int count = referenceVertexCount(ring);
             bool isInside = outer->area - 10.0 > ring.area && count > 0;
             for (int i = 0; isInside && i < count; ++i) {
-                isInside = isInsidePlainly(outer->vertices, plainVertexCount(*outer), asTested(ring.vertices[i].x),
-                                           asTested(ring.vertices[i].y));
+                isInside = referenceIsInside(outer->vertices, referenceVertexCount(*outer),
+                                             asTested(ring.vertices[i].x), asTested(ring.vertices[i].y));
             }
             if (isInside) {
                 here.append(hole);
