@@ -18,8 +18,8 @@ template <typename Callback> void registerCallback(GLUtesselator *tessellator, G
 /// by it (docs/measurements.md); small ones would only pay.
 void emptyOut(QVector<RXVERT *> &list)
 {
-    constexpr int mostKept = 128;
-    if (list.size() > mostKept)
+    constexpr int maxKept = 128;
+    if (list.size() > maxKept)
         list = QVector<RXVERT *>();
     else
         list.resize(0);

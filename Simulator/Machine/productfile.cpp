@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int shortNameLength = 5;
-constexpr int mostBins = 99;
+constexpr int maxBins = 99;
 
 const QMap<QString, Product::Kind> &kinds()
 {
@@ -65,7 +65,7 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
         product.kind = *kind;
     } else if (plain == QLatin1String("bin")) {
         const double bin = value.toDouble(-1.0);
-        if (bin < 1.0 || bin > mostBins || bin != std::floor(bin))
+        if (bin < 1.0 || bin > maxBins || bin != std::floor(bin))
             return complaint(QStringLiteral("a whole number from 1 to 99"));
         product.bin = int(bin);
     } else if (plain == QLatin1String("defaultrate")) {
@@ -146,9 +146,9 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
     if (!list.isArray())
         return failure(QStringLiteral("holds no list of products"));
     const QJsonArray entries = list.toArray();
-    if (entries.isEmpty() || entries.size() > mostProducts)
+    if (entries.isEmpty() || entries.size() > maxProducts)
         return failure(
-            QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(mostProducts));
+            QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(maxProducts));
 
     Products products;
     for (int i = 0; i < entries.size(); ++i) {

@@ -9,7 +9,7 @@
 /// Keys are read without regard to case, blanks, hyphens and underscores.
 class ProductFile {
 public:
-    static constexpr int mostProducts = 16;
+    static constexpr int maxProducts = 16;
 
     /// An error names the file and, where there is one, the product's number.
     static Result<Products> read(const QString &path);

@@ -37,7 +37,7 @@ void Vehicle::setArea(const QRectF &newArea)
 
 bool Vehicle::drive(double metresPerSecond)
 {
-    if (!(metresPerSecond >= 0.0) || metresPerSecond > mostSpeed)
+    if (!(metresPerSecond >= 0.0) || metresPerSecond > maxSpeed)
         return false;
     advance();
     speed = metresPerSecond;

@@ -14,14 +14,14 @@ class Vehicle : public QObject {
 
 public:
     /// Metres per second; a road speed that no implement exceeds.
-    static constexpr double mostSpeed = 40.0;
+    static constexpr double maxSpeed = 40.0;
 
     /// Neither `solution` nor `clock` is owned; both outlive the vehicle.
     Vehicle(DbGroupGpsSolution *solution, const SimulationClock *clock, QObject *parent = nullptr);
 
     /// Puts a standing vehicle at the middle of the area's south border (metres of the local plane).
     void setArea(const QRectF &area);
-    /// Metres per second from 0 (stops) to mostSpeed; false, and nothing changes, for any other number.
+    /// Metres per second from 0 (stops) to maxSpeed; false, and nothing changes, for any other number.
     bool drive(double metresPerSecond);
     void stop();
     /// Moves the vehicle by the time that has passed on the clock.

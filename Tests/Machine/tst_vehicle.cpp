@@ -112,7 +112,7 @@ void TestVehicle::speedsOutOfRangeAreRefused_data()
 {
     QTest::addColumn<double>("speed");
     QTest::newRow("backwards") << -1.0;
-    QTest::newRow("too fast") << Vehicle::mostSpeed + 0.1;
+    QTest::newRow("too fast") << Vehicle::maxSpeed + 0.1;
     QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
 }

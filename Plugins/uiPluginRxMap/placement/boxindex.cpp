@@ -43,7 +43,7 @@ BoxIndex::BoxIndex(QVector<BoxEntry> entries)
             }
             Node &node = level.last();
             include(node.box, below.at(i).box);
-            node.smallestArea = qMin(node.smallestArea, below.at(i).smallestArea);
+            node.minArea = qMin(node.minArea, below.at(i).minArea);
             node.left += below.at(i).left;
         }
         levels.append(level);
@@ -65,10 +65,10 @@ void BoxIndex::packLeaves(QVector<BoxEntry> &entries)
                   [](const BoxEntry &a, const BoxEntry &b) { return centreY(a) < centreY(b); });
     }
 
-    int largestId = -1;
+    int maxId = -1;
     for (const BoxEntry &entry : qAsConst(entries))
-        largestId = qMax(largestId, entry.id);
-    leafOfId.fill(-1, largestId + 1);
+        maxId = qMax(maxId, entry.id);
+    leafOfId.fill(-1, maxId + 1);
     QVector<Node> leaves;
     leaves.reserve(entries.size());
     leafIds.reserve(entries.size());
@@ -90,11 +90,11 @@ void BoxIndex::find(const Box &box, double area, QVector<BoxEntry> &found) const
 void BoxIndex::findBelow(int level, int node, const Box &box, double area, QVector<BoxEntry> &found) const
 {
     const Node &here = levels.at(level).at(node);
-    if (here.left == 0 || here.smallestArea >= area || !box.touches(here.box))
+    if (here.left == 0 || here.minArea >= area || !box.touches(here.box))
         return;
     if (level == 0) {
         if (box.contains(here.box))
-            found.append({here.box, here.smallestArea, leafIds.at(node)});
+            found.append({here.box, here.minArea, leafIds.at(node)});
         return;
     }
     const int end = qMin((node + 1) * fanOut, levels.at(level - 1).size());

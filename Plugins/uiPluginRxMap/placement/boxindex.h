@@ -44,7 +44,7 @@ private:
     /// What is known of everything below a node; a node without boxes left is passed over.
     struct Node {
         Box box;
-        double smallestArea;
+        double minArea;
         int left;
     };
 

@@ -24,7 +24,7 @@ public:
     }
 
     /// Whether any hole's area is below `limit`.
-    bool anyBelow(double limit) const { return limit > smallestArea; }
+    bool anyBelow(double limit) const { return limit > minArea; }
 
     /// In rising order, all holes that may be inside the ring, of an area below `limit`. `taken` tells which are gone.
     void collect(const OuterRing &outer, double limit, const QVector<bool> &taken, QVector<BoxEntry> &found) const
@@ -55,7 +55,7 @@ private:
         for (int hole = 0; hole < holes.size(); ++hole) {
             const RX_POLYGON &ring = *holes.at(hole);
             Box box;
-            smallestArea = std::min(smallestArea, ring.area);
+            minArea = std::min(minArea, ring.area);
             if (vertexCount(ring) == 0 || std::isnan(ring.area) || !boxOfHole(ring, box))
                 continue;
             entries.append({box, ring.area, hole});
@@ -65,7 +65,7 @@ private:
     }
 
     const QVector<RX_POLYGON *> &holes;
-    double smallestArea = std::numeric_limits<double>::infinity();
+    double minArea = std::numeric_limits<double>::infinity();
     QVector<bool> isIndexed;
     BoxIndex index;
 };

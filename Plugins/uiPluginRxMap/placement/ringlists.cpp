@@ -9,13 +9,13 @@ using OrvikTypes::RX_POLYGON;
 namespace {
 
 /// No list holds more pointers, nor memory that many records; a chain that runs in a circle would go on.
-constexpr unsigned int mostRings = 0x7FFFFF00U / sizeof(RX_POLYGON *);
+constexpr unsigned int maxRings = 0x7FFFFF00U / sizeof(RX_POLYGON *);
 
 } // namespace
 
 RingLists::RingLists(RX_POLYGON *chain, unsigned int published)
 {
-    const unsigned int count = qMin(published, mostRings);
+    const unsigned int count = qMin(published, maxRings);
     int holeCount = 0;
     int outerCount = 0;
     RX_POLYGON *polygon = chain;

@@ -7,15 +7,14 @@
 
 /// Coordinates up to the one cannot overflow in the edge arithmetic; heights from the other on lose less to underflow
 /// than crossingMargin() allows for.
-constexpr double largestOrdinary = 1e100;
-constexpr double smallestOrdinary = 1e-180;
+constexpr double maxOrdinary = 1e100;
+constexpr double minOrdinary = 1e-180;
 
 /// Whether crossingMargin() holds for edges that end at this vertex; false for NaN.
 inline bool isOrdinary(const OrvikTypes::RX_POLYGONVERTEX &vertex)
 {
     const double height = std::fabs(vertex.y);
-    return std::fabs(vertex.x) <= largestOrdinary
-        && (height == 0.0 || (height >= smallestOrdinary && height <= largestOrdinary));
+    return std::fabs(vertex.x) <= maxOrdinary && (height == 0.0 || (height >= minOrdinary && height <= maxOrdinary));
 }
 
 /// How far, metres, the crossing that edgeToggles() computes can lie beside its edge, for a ring of ordinary vertices
@@ -23,7 +22,7 @@ inline bool isOrdinary(const OrvikTypes::RX_POLYGONVERTEX &vertex)
 inline double crossingMargin(double leftmost, double rightmost)
 {
     return 16.0 * std::numeric_limits<double>::epsilon() * (std::fabs(leftmost) + std::fabs(rightmost))
-        + 1.0 / largestOrdinary;
+        + 1.0 / maxOrdinary;
 }
 
 /// Vertices of a ring; none for a ring without a vertex array or with more than an int counts.

@@ -7,7 +7,7 @@
 namespace {
 
 /// More digits than a double holds mean nothing, and their powers of ten would overflow.
-constexpr unsigned int mostDigits = 15;
+constexpr unsigned int maxDigits = 15;
 
 /// Rounding of decimal fractions must not refuse a limit itself.
 constexpr double relativeTolerance = 1e-12;
@@ -16,8 +16,8 @@ constexpr double relativeTolerance = 1e-12;
 
 void NumericEntry::setSizeLimits(unsigned int integerDigits, unsigned int decimals)
 {
-    const unsigned int digits = qMin(integerDigits, mostDigits);
-    const unsigned int places = qMin(decimals, mostDigits);
+    const unsigned int digits = qMin(integerDigits, maxDigits);
+    const unsigned int places = qMin(decimals, maxDigits);
     setRange(0.0, std::pow(10.0, int(digits)) - std::pow(10.0, -int(places)), places);
 }
 
@@ -26,15 +26,15 @@ void NumericEntry::setRange(double minimum, double maximum, unsigned int decimal
     isLimited = true;
     rangeMinimum = minimum;
     rangeMaximum = maximum;
-    decimalLimit = qMin(decimals, mostDigits);
+    decimalLimit = qMin(decimals, maxDigits);
 }
 
 QString NumericEntry::limitsText() const
 {
     if (!isLimited)
         return QString();
-    return QString::number(rangeMinimum, 'g', int(mostDigits)) + QStringLiteral(" \u2013 ")
-        + QString::number(rangeMaximum, 'g', int(mostDigits));
+    return QString::number(rangeMinimum, 'g', int(maxDigits)) + QStringLiteral(" \u2013 ")
+        + QString::number(rangeMaximum, 'g', int(maxDigits));
 }
 
 bool NumericEntry::takesPoint() const
@@ -124,11 +124,11 @@ bool NumericEntry::fits(const QString &candidate) const
 /// Whether a whole number, as it stands or with further digits and decimals typed after it, comes to lie in the range.
 bool NumericEntry::canReachRange(double magnitude, double smallest, double largest) const
 {
-    const double mostDecimals = 1.0 - std::pow(10.0, -int(decimalLimit));
+    const double maxDecimals = 1.0 - std::pow(10.0, -int(decimalLimit));
     double span = 1.0;
     double lowest = magnitude;
     while (lowest <= largest) {
-        if (lowest + (span - 1.0) + mostDecimals >= smallest)
+        if (lowest + (span - 1.0) + maxDecimals >= smallest)
             return true;
         if (magnitude == 0.0)
             return false; // a digit after a lone zero takes the zero's place

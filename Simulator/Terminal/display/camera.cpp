@@ -42,7 +42,7 @@ void Camera::setTarget(const QPointF &field)
 
 void Camera::setDistance(double metres)
 {
-    range = std::clamp(metres, leastDistance, mostDistance);
+    range = std::clamp(metres, minDistance, maxDistance);
 }
 
 void Camera::frame(const QRectF &field, const QRectF &free)

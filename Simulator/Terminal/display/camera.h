@@ -13,8 +13,8 @@ class Camera {
 public:
     /// Height of the map plane in the view's world (metres, up).
     static constexpr double planeHeight = -4.99;
-    static constexpr double leastDistance = 8.0;
-    static constexpr double mostDistance = 5.0e6;
+    static constexpr double minDistance = 8.0;
+    static constexpr double maxDistance = 5.0e6;
 
     QSizeF viewport() const { return view; }
     /// Pixels; an empty size is ignored.

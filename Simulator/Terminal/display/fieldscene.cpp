@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double leastGridPixels = 22.0;
+constexpr double minGridPixels = 22.0;
 
 /// The least of 1, 2, 5, 10, 20, ... that is not below `least`.
 double roundSpacing(double least)
@@ -119,6 +119,6 @@ void FieldScene::fitGrid(const Camera &camera)
     const QPointF farLeft = camera.fieldPoint({0.0, 0.0}).value_or(camera.target());
     const QPointF farRight = camera.fieldPoint({width, 0.0}).value_or(camera.target());
     const QPointF near = camera.fieldPoint({width / 2.0, height}).value_or(camera.target());
-    const double spacing = roundSpacing(leastGridPixels * camera.metresPerPixel(camera.target()));
+    const double spacing = roundSpacing(minGridPixels * camera.metresPerPixel(camera.target()));
     grid.setRegion(QRectF(farLeft.x(), near.y(), farRight.x() - farLeft.x(), farLeft.y() - near.y()), spacing);
 }

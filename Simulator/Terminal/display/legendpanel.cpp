@@ -16,18 +16,18 @@ constexpr int rowHeight = 38;
 constexpr int swatchHeight = 28;
 constexpr int panelWidth = 212;
 constexpr int textLeft = swatchHeight + 22;
-constexpr int largestText = 20;
-constexpr int smallestText = 14;
+constexpr int maxText = 20;
+constexpr int minText = 14;
 const QString rangeDash = QStringLiteral(" \u2013 ");
 
 /// A number with at least three significant digits and at least `decimals` decimals, without zeros at its end; no
 /// exponent while it is short enough to be read.
 QString numberText(double value, int decimals)
 {
-    constexpr double mostReadable = 1e12;
+    constexpr double maxReadable = 1e12;
     if (value == 0.0)
         return QStringLiteral("0");
-    if (std::fabs(value) >= mostReadable)
+    if (std::fabs(value) >= maxReadable)
         return QString::number(value, 'g', 4);
     const int digits = int(std::floor(std::log10(std::fabs(value)))) + 1;
     QString text = QString::number(value, 'f', std::clamp(3 - digits, decimals, 4));
@@ -87,12 +87,12 @@ QString LegendPanel::classText(int index) const
 
 QFont LegendPanel::fittingFont(int width) const
 {
-    int pixels = largestText;
+    int pixels = maxText;
     for (const QString &text : texts) {
-        const int needed = QFontMetrics(Theme::font(largestText, true)).horizontalAdvance(text);
-        pixels = std::min(pixels, needed > width ? largestText * width / needed : largestText);
+        const int needed = QFontMetrics(Theme::font(maxText, true)).horizontalAdvance(text);
+        pixels = std::min(pixels, needed > width ? maxText * width / needed : maxText);
     }
-    return Theme::font(std::max(pixels, smallestText), true);
+    return Theme::font(std::max(pixels, minText), true);
 }
 
 QSize LegendPanel::sizeHint() const

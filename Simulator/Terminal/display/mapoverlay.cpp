@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double mostScalePixels = 200.0;
+constexpr double maxScalePixels = 200.0;
 constexpr double metresPerFoot = 0.3048;
 constexpr double feetPerMile = 5280.0;
 
@@ -111,7 +111,7 @@ void MapOverlay::drawScaleBar(QPainter &painter) const
     const double perPixel = camera.metresPerPixel(camera.target()) / unit;
     if (!(perPixel > 0.0))
         return;
-    double most = mostScalePixels * perPixel;
+    double most = maxScalePixels * perPixel;
     const bool isLong = !isMetric && most >= feetPerMile;
     most = isLong ? most / feetPerMile : most;
     const double length = roundLength(most);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int headingHeight = 40;
 constexpr int gap = 8;
-constexpr int mostInColumn = 8;
+constexpr int maxInColumn = 8;
 constexpr int tallestButton = 88;
 
 } // namespace
@@ -21,7 +21,7 @@ ProductSelector::ProductSelector(const Products &products, QWidget *parent)
     : QWidget(parent)
     , buttons(new QButtonGroup(this))
 {
-    const bool isNarrow = products.size() > mostInColumn;
+    const bool isNarrow = products.size() > maxInColumn;
     for (int number = 1; number <= products.size(); ++number) {
         const Product &product = products.at(number - 1);
         auto *button = new TouchButton(isNarrow ? product.shortName : product.name, this);
@@ -42,7 +42,7 @@ void ProductSelector::setActiveProduct(int number)
 
 int ProductSelector::columns() const
 {
-    return buttons->buttons().size() > mostInColumn ? 2 : 1;
+    return buttons->buttons().size() > maxInColumn ? 2 : 1;
 }
 
 int ProductSelector::rows() const

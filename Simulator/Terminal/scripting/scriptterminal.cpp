@@ -77,9 +77,9 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 Result<QStringList> namesIn(const QJSValue &list)
 {
     const quint32 count = list.property(QStringLiteral("length")).toUInt();
-    if (count > quint32(ProductFile::mostProducts))
+    if (count > quint32(ProductFile::maxProducts))
         return Result<QStringList>::failure(
-            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::mostProducts));
+            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::maxProducts));
     QStringList names;
     for (quint32 i = 0; i < count; ++i) {
         const QJSValue entry = list.property(i);

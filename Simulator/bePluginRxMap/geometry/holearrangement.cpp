@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int mostRounds = 8;
+constexpr int maxRounds = 8;
 
 /// Whether every vertex of `inner` lies in `outer` or on it.
 bool liesIn(const PlaneRing &inner, const PlaneRing &outer)
@@ -44,7 +44,7 @@ int HoleArrangement::arrange(std::vector<PlanePolygon> &polygons)
     if (!hasHoles)
         return 0;
     HoleArrangement arrangement(polygons);
-    for (int i = 0; i < mostRounds && !arrangement.round(); ++i) { }
+    for (int i = 0; i < maxRounds && !arrangement.round(); ++i) { }
     return arrangement.misplaced();
 }
 

@@ -12,7 +12,7 @@ struct Way {
 };
 
 /// Ways that are tried before a hole is given up.
-constexpr size_t mostWays = 2000;
+constexpr size_t maxWays = 2000;
 
 struct Box {
     double west = std::numeric_limits<double>::infinity();
@@ -82,7 +82,7 @@ std::vector<Way> ways(const PlaneRing &outer, const PlaneRing &hole)
     result.reserve(outer.size());
     for (size_t i = 0; i < outer.size(); ++i)
         result.push_back({box.squaredDistance(outer[i]), i, 0});
-    const auto end = result.begin() + static_cast<std::ptrdiff_t>(std::min(mostWays, result.size()));
+    const auto end = result.begin() + static_cast<std::ptrdiff_t>(std::min(maxWays, result.size()));
     std::partial_sort(result.begin(), end, result.end(), isShorter);
     result.erase(end, result.end());
     for (Way &way : result)

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double greatestError = 1e-5;
+constexpr double maxError = 1e-5;
 
 template <std::size_t size> using Square = std::array<std::array<double, size>, size>;
 
@@ -117,13 +117,13 @@ void ProjectionApproximation::apply(std::size_t count, double *xs, double *ys) c
     std::copy_n(lastYs.begin(), count - whole, ys + whole);
 }
 
-bool ProjectionApproximation::fit(const Exact &exact, double leastX, double greatestX, double leastY, double greatestY)
+bool ProjectionApproximation::fit(const Exact &exact, double minX, double maxX, double minY, double maxY)
 {
     constexpr double thinnest = 1e-9;
-    middleX = 0.5 * (leastX + greatestX);
-    middleY = 0.5 * (leastY + greatestY);
-    halfWidth = std::max(thinnest, 0.5 * (greatestX - leastX));
-    halfHeight = std::max(thinnest, 0.5 * (greatestY - leastY));
+    middleX = 0.5 * (minX + maxX);
+    middleY = 0.5 * (minY + maxY);
+    halfWidth = std::max(thinnest, 0.5 * (maxX - minX));
+    halfHeight = std::max(thinnest, 0.5 * (maxY - minY));
     const std::array<double, size> places = nodes<size>();
     Coefficients xs;
     Coefficients ys;
@@ -157,8 +157,7 @@ bool ProjectionApproximation::isGoodEnough(const Exact &exact) const
     exact(xs.size(), exactXs.data(), exactYs.data());
     apply(xs.size(), xs.data(), ys.data());
     for (std::size_t i = 0; i < xs.size(); ++i) {
-        const bool isNear =
-            std::fabs(xs[i] - exactXs[i]) <= greatestError && std::fabs(ys[i] - exactYs[i]) <= greatestError;
+        const bool isNear = std::fabs(xs[i] - exactXs[i]) <= maxError && std::fabs(ys[i] - exactYs[i]) <= maxError;
         if (!isNear)
             return false;
     }

@@ -13,7 +13,7 @@ public:
 
     /// Fits the polynomials to the extent. False when they would be off by more than a hundredth of a millimetre
     /// somewhere, which is judged at places between those that they go through; then they are not to be used.
-    bool fit(const Exact &exact, double leastX, double greatestX, double leastY, double greatestY);
+    bool fit(const Exact &exact, double minX, double maxX, double minY, double maxY);
     /// Projects a place of the extent.
     void apply(double &x, double &y) const { apply(1, &x, &y); }
     /// Projects `count` places of the extent in their arrays.

@@ -5,7 +5,7 @@
 namespace {
 
 /// How much larger than a hole an outer ring must be to have it cut out, square metres.
-constexpr double leastDifference = 10.0;
+constexpr double minDifference = 10.0;
 
 // Volatile, since a compiler may take the two conversions for none: g++ 12 does where it makes a vector of x and y.
 double narrowed(double value)
@@ -51,7 +51,7 @@ std::vector<unsigned> RendererHoleRule::candidates(const PlaneVertex *hole, size
 
 bool RendererHoleRule::takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const
 {
-    if (!(outers[outer].area - leastDifference > area))
+    if (!(outers[outer].area - minDifference > area))
         return false;
     return std::all_of(hole, hole + count, [this, outer](const PlaneVertex &vertex) {
         return indexes[outer].contains(narrowed(vertex.x), narrowed(vertex.y), RendererCrossing());

@@ -23,8 +23,8 @@ std::vector<float> sortedFinite(const std::vector<float> &rates)
 double roundest(double low, double high)
 {
     const int decade = static_cast<int>(std::ceil(std::log10(high)));
-    constexpr int mostDigits = 9;
-    for (int exponent = decade; exponent > decade - mostDigits; --exponent) {
+    constexpr int maxDigits = 9;
+    for (int exponent = decade; exponent > decade - maxDigits; --exponent) {
         for (const double digit : {5.0, 2.0, 1.0}) {
             const double step = digit * std::pow(10.0, exponent);
             const double candidate = std::ceil(low / step) * step;
@@ -80,7 +80,7 @@ std::vector<double> LegendBuilder::limits(const std::vector<float> &sortedRates)
 {
     std::vector<float> unique = sortedRates;
     unique.erase(std::unique(unique.begin(), unique.end()), unique.end());
-    if (unique.size() <= mostClasses)
+    if (unique.size() <= maxClasses)
         return std::vector<double>(unique.begin(), unique.end());
 
     std::vector<double> result;
@@ -89,7 +89,7 @@ std::vector<double> LegendBuilder::limits(const std::vector<float> &sortedRates)
         others.erase(others.begin(), std::upper_bound(others.begin(), others.end(), 0.0F));
         result.push_back(0.0);
     }
-    appendQuantiles(others, mostClasses - result.size(), result);
+    appendQuantiles(others, maxClasses - result.size(), result);
     dropEmptyClasses(sortedRates, result);
     return result;
 }

@@ -12,9 +12,9 @@
 /// number too, so a rate that equals a limit is in that limit's class.
 class LegendBuilder {
 public:
-    static constexpr int mostClasses = 7;
+    static constexpr int maxClasses = 7;
 
-    /// The classes, limits ascending, the last one holding the greatest rate; at most mostClasses. Few different rates
+    /// The classes, limits ascending, the last one holding the greatest rate; at most maxClasses. Few different rates
     /// have a class each, many are split into classes of about equally many polygons at round limits. Zero has a class
     /// and a colour of its own. Rates that are not finite have no class; where there are any, one more entry follows,
     /// fully transparent, with the limit of the entry before it: a reader that finds no class for such a rate takes the

@@ -13,8 +13,8 @@ struct Lch {
     double hueDegrees;
 };
 
-constexpr Lch leastRate = {0.34, 0.15, 275.0};
-constexpr Lch greatestRate = {0.90, 0.16, 103.0};
+constexpr Lch minRate = {0.34, 0.15, 275.0};
+constexpr Lch maxRate = {0.90, 0.16, 103.0};
 
 double gammaEncoded(double linear)
 {
@@ -47,9 +47,9 @@ QColor RateRamp::color(double position)
     const double t = std::min(1.0, std::max(0.0, position));
     const auto between = [t](double from, double to) { return from + t * (to - from); };
     // Screens show less chroma in the teal middle than at either end.
-    const double chroma = between(leastRate.chroma, greatestRate.chroma) - 0.05 * std::sin(t * std::acos(-1.0));
-    return fromOklab({between(leastRate.lightness, greatestRate.lightness), chroma,
-                      between(leastRate.hueDegrees, greatestRate.hueDegrees)});
+    const double chroma = between(minRate.chroma, maxRate.chroma) - 0.05 * std::sin(t * std::acos(-1.0));
+    return fromOklab(
+        {between(minRate.lightness, maxRate.lightness), chroma, between(minRate.hueDegrees, maxRate.hueDegrees)});
 }
 
 QColor RateRamp::zeroColor()

@@ -16,16 +16,16 @@ bool hasRates(const SourceColumn &column)
 /// total at one rate.
 bool isProportionalToArea(const SourceColumn &column, const std::vector<double> &areas)
 {
-    double leastArea = HUGE_VAL, greatestArea = 0.0, leastRatio = HUGE_VAL, greatestRatio = 0.0;
+    double minArea = HUGE_VAL, maxArea = 0.0, minRatio = HUGE_VAL, maxRatio = 0.0;
     for (size_t i = 0; i < areas.size(); ++i) {
         if (!(areas[i] > 0.0) || !std::isfinite(column.values[i]))
             continue;
-        leastArea = std::min(leastArea, areas[i]);
-        greatestArea = std::max(greatestArea, areas[i]);
-        leastRatio = std::min(leastRatio, column.values[i] / areas[i]);
-        greatestRatio = std::max(greatestRatio, column.values[i] / areas[i]);
+        minArea = std::min(minArea, areas[i]);
+        maxArea = std::max(maxArea, areas[i]);
+        minRatio = std::min(minRatio, column.values[i] / areas[i]);
+        maxRatio = std::max(maxRatio, column.values[i] / areas[i]);
     }
-    return greatestArea > 1.1 * leastArea && greatestRatio < 1.02 * leastRatio;
+    return maxArea > 1.1 * minArea && maxRatio < 1.02 * minRatio;
 }
 
 /// Whether the values number the records: whole, each one more than the one before.

@@ -151,9 +151,9 @@ void TestCamera::theDistanceStaysWithinItsLimits()
 {
     Camera eye = camera();
     eye.zoom(1e9, QPointF(640, 372));
-    QCOMPARE(eye.distance(), Camera::leastDistance);
+    QCOMPARE(eye.distance(), Camera::minDistance);
     eye.zoom(1e-12, QPointF(640, 372));
-    QCOMPARE(eye.distance(), Camera::mostDistance);
+    QCOMPARE(eye.distance(), Camera::maxDistance);
 }
 
 void TestCamera::metresPerPixelAgreeWithTheProjection()

@@ -80,7 +80,7 @@ void LegendBuilderTest::givesZeroAClassAndColourOfItsOwn()
     const Legend many = LegendBuilder::build(rates);
     QCOMPARE(many.first().rate, 0.0);
     QCOMPARE(many.first().color, RateRamp::zeroColor());
-    QVERIFY(many.size() <= LegendBuilder::mostClasses);
+    QVERIFY(many.size() <= LegendBuilder::maxClasses);
     QCOMPARE(classOf(many, 1.0F), 1);
 }
 
@@ -102,7 +102,7 @@ void LegendBuilderTest::splitsManyRatesAtRoundNumbers()
     QFETCH(double, greatest);
     QFETCH(int, digits);
     const Legend legend = LegendBuilder::build(spread(500, least, greatest));
-    QCOMPARE(legend.size(), LegendBuilder::mostClasses);
+    QCOMPARE(legend.size(), LegendBuilder::maxClasses);
     for (int i = 0; i + 1 < legend.size(); ++i) {
         const QString text = QString::number(legend.at(i).rate, 'g', digits);
         QCOMPARE(static_cast<float>(text.toDouble()), static_cast<float>(legend.at(i).rate));
@@ -202,7 +202,7 @@ void LegendBuilderTest::keepsItsPromisesForRandomColumns()
                                 : isTied && random() % 5 != 0 ? common
                                                               : static_cast<float>(values(random)));
         const Legend legend = LegendBuilder::build(rates);
-        QVERIFY(!legend.isEmpty() && legend.size() <= LegendBuilder::mostClasses);
+        QVERIFY(!legend.isEmpty() && legend.size() <= LegendBuilder::maxClasses);
         QVector<int> counts(legend.size(), 0);
         for (const float rate : rates) {
             const int number = classOf(legend, rate);
