@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -16,7 +17,8 @@ std::uint64_t bitsOf(double value)
     return bits;
 }
 
-/// Spreads the bits of a number over all of it (multiplications by odd constants, each followed by a fold).
+/// Multiplicative hash of a number: odd factors (the second is 2^64 over the golden ratio), each after a shift that
+/// folds the upper bits into the lower.
 std::uint64_t mixed(std::uint64_t value)
 {
     value = (value ^ (value >> 32U)) * 0xd6e8feb86659fd93U;
@@ -24,19 +26,18 @@ std::uint64_t mixed(std::uint64_t value)
     return value ^ (value >> 32U);
 }
 
-/// Equal for equal polygons, and seldom for others. A sum over the vertices, so that neither the start nor the
-/// direction of a ring, nor the order of the holes, matters.
-std::uint64_t likenessOf(const PlanePolygon &polygon)
+/// A sum over the vertices, so that neither the start nor the direction of a ring, nor the order of the holes, matters.
+std::uint64_t hashOf(const PlanePolygon &polygon)
 {
-    const auto likenessOfRing = [](const PlaneRing &ring) {
+    const auto hashOfRing = [](const PlaneRing &ring) {
         std::uint64_t sum = ring.size();
         for (const PlaneVertex &vertex : ring)
             sum += mixed(bitsOf(vertex.x) + 3 * mixed(bitsOf(vertex.y)));
         return sum;
     };
-    std::uint64_t sum = likenessOfRing(polygon.outer);
+    std::uint64_t sum = hashOfRing(polygon.outer);
     for (const PlaneRing &hole : polygon.holes)
-        sum += mixed(likenessOfRing(hole));
+        sum += mixed(hashOfRing(hole));
     return mixed(sum);
 }
 
@@ -55,8 +56,8 @@ bool isSameRing(const PlaneRing &a, const PlaneRing &b)
     return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), samePlace);
 }
 
-/// The same ring for all rings that differ in start and direction only.
-PlaneRing standardised(PlaneRing ring)
+/// Canonical form: the same for all rings that differ in start and direction only.
+PlaneRing canonical(PlaneRing ring)
 {
     if (signedArea(ring) < 0.0)
         std::reverse(ring.begin(), ring.end());
@@ -64,80 +65,52 @@ PlaneRing standardised(PlaneRing ring)
     return ring;
 }
 
-std::vector<PlaneRing> standardised(const std::vector<PlaneRing> &rings)
+/// Canonical form of all holes of a polygon, whatever their order.
+std::vector<PlaneRing> canonical(const std::vector<PlaneRing> &rings)
 {
     std::vector<PlaneRing> result;
     result.reserve(rings.size());
     for (const PlaneRing &ring : rings)
-        result.push_back(standardised(ring));
+        result.push_back(canonical(ring));
     std::sort(result.begin(), result.end(), isRingBefore);
     return result;
 }
 
 bool isSamePolygon(const PlanePolygon &a, const PlanePolygon &b)
 {
-    if (!isSameRing(standardised(a.outer), standardised(b.outer)))
+    if (!isSameRing(canonical(a.outer), canonical(b.outer)))
         return false;
-    const std::vector<PlaneRing> holesOfA = standardised(a.holes);
-    const std::vector<PlaneRing> holesOfB = standardised(b.holes);
+    const std::vector<PlaneRing> holesOfA = canonical(a.holes);
+    const std::vector<PlaneRing> holesOfB = canonical(b.holes);
     return std::equal(holesOfA.begin(), holesOfA.end(), holesOfB.begin(), holesOfB.end(), isSameRing);
 }
 
-/// Polygons by their likeness: a hash table of lists, each with the polygon added last in front.
-class LikenessTable {
-public:
-    explicit LikenessTable(size_t polygons)
-        : next(polygons, none)
-        , likenesses(polygons, 0)
-    {
-        size_t lists = 1;
-        while (lists < 2 * polygons)
-            lists *= 2;
-        first.assign(lists, none);
-    }
-
-    /// Adds the polygon in that place of the list of polygons.
-    void add(size_t place, std::uint64_t likeness)
-    {
-        unsigned &head = first[likeness & (first.size() - 1)];
-        likenesses[place] = likeness;
-        next[place] = head;
-        head = static_cast<unsigned>(place);
-    }
-
-    /// Whether `test` is true for the place of any polygon of that likeness.
-    template <typename Test> bool anyOf(std::uint64_t likeness, Test test) const
-    {
-        for (unsigned place = first[likeness & (first.size() - 1)]; place != none; place = next[place]) {
-            if (likenesses[place] == likeness && test(place))
-                return true;
-        }
-        return false;
-    }
-
-private:
-    static constexpr unsigned none = ~0U;
-
-    std::vector<unsigned> first;
-    std::vector<unsigned> next;
-    std::vector<std::uint64_t> likenesses;
-};
+/// Hash and place of each polygon; equal hashes stand together, in the order of their places.
+std::vector<std::pair<std::uint64_t, size_t>> sortedHashes(const std::vector<PlanePolygon> &polygons)
+{
+    std::vector<std::pair<std::uint64_t, size_t>> hashes;
+    hashes.reserve(polygons.size());
+    for (const PlanePolygon &polygon : polygons)
+        hashes.emplace_back(hashOf(polygon), hashes.size());
+    std::sort(hashes.begin(), hashes.end());
+    return hashes;
+}
 
 } // namespace
 
 int DuplicatePolygons::drop(std::vector<PlanePolygon> &polygons, const std::function<bool(int, int)> &hides)
 {
-    LikenessTable later(polygons.size());
+    const std::vector<std::pair<std::uint64_t, size_t>> hashes = sortedHashes(polygons);
     std::vector<size_t> hidden;
-    for (size_t i = polygons.size(); i-- > 0;) {
-        const PlanePolygon &earlier = polygons[i];
-        const std::uint64_t likeness = likenessOf(earlier);
-        const bool isHidden = later.anyOf(likeness, [&](unsigned place) {
-            return hides(polygons[place].record, earlier.record) && isSamePolygon(earlier, polygons[place]);
-        });
-        if (isHidden)
-            hidden.push_back(i);
-        later.add(i, likeness);
+    for (auto earlier = hashes.begin(); earlier != hashes.end(); ++earlier) {
+        const PlanePolygon &polygon = polygons[earlier->second];
+        for (auto later = earlier + 1; later != hashes.end() && later->first == earlier->first; ++later) {
+            const PlanePolygon &other = polygons[later->second];
+            if (hides(other.record, polygon.record) && isSamePolygon(polygon, other)) {
+                hidden.push_back(earlier->second);
+                break;
+            }
+        }
     }
     for (const size_t place : hidden)
         polygons[place].outer.clear();

@@ -1,7 +1,6 @@
 #include "legendbuilder.h"
 
 #include "rateramp.h"
-#include "ratesort.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +14,7 @@ std::vector<float> sortedFinite(const std::vector<float> &rates)
     sorted.reserve(rates.size());
     std::copy_if(rates.begin(), rates.end(), std::back_inserter(sorted),
                  [](float rate) { return std::isfinite(rate); });
-    RateSort::sort(sorted);
+    std::sort(sorted.begin(), sorted.end());
     return sorted;
 }
 
