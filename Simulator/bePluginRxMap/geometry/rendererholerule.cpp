@@ -14,12 +14,12 @@ double narrowed(double value)
     return static_cast<double>(narrow);
 }
 
-std::vector<TreeEntry> entries(const std::vector<RingView> &outers)
+std::vector<RingExtent> extentsOf(const std::vector<RingView> &outers)
 {
-    std::vector<TreeEntry> result;
+    std::vector<RingExtent> result;
     result.reserve(outers.size());
     for (const RingView &outer : outers)
-        result.emplace_back(extentOf(outer.vertices, outer.count), static_cast<unsigned>(result.size()));
+        result.push_back(RingExtent::of(outer.vertices, outer.count));
     return result;
 }
 
@@ -27,24 +27,21 @@ std::vector<TreeEntry> entries(const std::vector<RingView> &outers)
 
 RendererHoleRule::RendererHoleRule(std::vector<RingView> outerRings)
     : outers(std::move(outerRings))
-    , tree(entries(outers))
+    , tree(extentsOf(outers))
 {
     indexes.reserve(outers.size());
     for (const RingView &outer : outers)
         indexes.emplace_back(outer.vertices, outer.count);
 }
 
-std::vector<unsigned> RendererHoleRule::candidates(const PlaneVertex *hole, size_t count) const
+RingTree::Places RendererHoleRule::candidates(const PlaneVertex *hole, size_t count) const
 {
-    std::vector<unsigned> result;
     if (count == 0)
-        return result;
-    TreeBox box;
-    boost::geometry::assign_inverse(box);
+        return {};
+    RingExtent extent;
     for (size_t i = 0; i < count; ++i)
-        boost::geometry::expand(box, TreePoint(narrowed(hole[i].x), narrowed(hole[i].y)));
-    for (auto found = tree.qbegin(boost::geometry::index::covers(box)); found != tree.qend(); ++found)
-        result.push_back(found->second);
+        extent.include(narrowed(hole[i].x), narrowed(hole[i].y));
+    RingTree::Places result = tree.covering(extent);
     std::sort(result.begin(), result.end());
     return result;
 }

@@ -22,7 +22,7 @@ public:
     int taker(const PlaneVertex *hole, size_t count, double area) const;
 
 private:
-    std::vector<unsigned> candidates(const PlaneVertex *hole, size_t count) const;
+    RingTree::Places candidates(const PlaneVertex *hole, size_t count) const;
     bool takes(unsigned outer, const PlaneVertex *hole, size_t count, double area) const;
 
     std::vector<RingView> outers;

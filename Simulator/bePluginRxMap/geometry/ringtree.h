@@ -2,29 +2,40 @@
 
 #include "planering.h"
 
-#include <boost/geometry/algorithms/assign.hpp>
-#include <boost/geometry/algorithms/covered_by.hpp>
-#include <boost/geometry/algorithms/expand.hpp>
-#include <boost/geometry/algorithms/intersects.hpp>
-#include <boost/geometry/geometries/box.hpp>
-#include <boost/geometry/geometries/point_xy.hpp>
-#include <boost/geometry/index/rtree.hpp>
+#include <QVarLengthArray>
+
 #include <cstddef>
-#include <utility>
+#include <limits>
+#include <memory>
+#include <vector>
 
-using TreePoint = boost::geometry::model::d2::point_xy<double>;
-using TreeBox = boost::geometry::model::box<TreePoint>;
-/// The extent of a ring, and its place in some list.
-using TreeEntry = std::pair<TreeBox, unsigned>;
-/// Built from all entries at once, which packs them.
-using RingTree = boost::geometry::index::rtree<TreeEntry, boost::geometry::index::rstar<16>>;
+/// The least upright rectangle around a ring, metres; inside out for a ring without vertices.
+struct RingExtent {
+    double minX = std::numeric_limits<double>::max();
+    double minY = std::numeric_limits<double>::max();
+    double maxX = std::numeric_limits<double>::lowest();
+    double maxY = std::numeric_limits<double>::lowest();
 
-/// Extent of a ring; an inside-out box for a ring without vertices.
-inline TreeBox extentOf(const PlaneVertex *vertices, size_t count)
-{
-    TreeBox box;
-    boost::geometry::assign_inverse(box);
-    for (size_t i = 0; i < count; ++i)
-        boost::geometry::expand(box, TreePoint(vertices[i].x, vertices[i].y));
-    return box;
-}
+    bool isEmpty() const { return minX > maxX || minY > maxY; }
+    void include(double x, double y);
+    static RingExtent of(const PlaneVertex *vertices, size_t count);
+};
+
+/// Finds rings by their extents: an R-tree (Guttman 1984) that is packed, since all extents are there when it is built.
+class RingTree {
+public:
+    /// Places of rings in the list that the tree was built from, in no order.
+    using Places = QVarLengthArray<unsigned, 16>;
+
+    explicit RingTree(const std::vector<RingExtent> &extents);
+    ~RingTree();
+
+    /// The rings whose extent holds the point; its border belongs to it.
+    Places holding(double x, double y) const;
+    /// The rings whose extent covers `extent`, which is not empty, borders included.
+    Places covering(const RingExtent &extent) const;
+
+private:
+    class Boxes;
+    std::unique_ptr<const Boxes> boxes;
+};

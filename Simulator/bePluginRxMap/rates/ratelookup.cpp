@@ -3,7 +3,6 @@
 #include "rendererholerule.h"
 
 #include <algorithm>
-#include <boost/iterator/function_output_iterator.hpp>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -44,12 +43,23 @@ std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &outers,
     return result;
 }
 
-std::vector<TreeEntry> entries(const std::vector<const RX_POLYGON *> &outers)
+/// The outer rings or the holes of a chain, in its order.
+std::vector<const RX_POLYGON *> ringsOf(const RX_POLYGON *first, unsigned count, bool holes)
 {
-    std::vector<TreeEntry> result;
-    result.reserve(outers.size());
-    for (const RX_POLYGON *outer : outers)
-        result.emplace_back(extentOf(outer->vertices, outer->vertexCount), static_cast<unsigned>(result.size()));
+    std::vector<const RX_POLYGON *> result;
+    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
+        if (record->isHole == holes)
+            result.push_back(record);
+    }
+    return result;
+}
+
+std::vector<RingExtent> extentsOf(const std::vector<const RX_POLYGON *> &rings)
+{
+    std::vector<RingExtent> result;
+    result.reserve(rings.size());
+    for (const RX_POLYGON *ring : rings)
+        result.push_back(RingExtent::of(ring->vertices, ring->vertexCount));
     return result;
 }
 
@@ -62,29 +72,25 @@ bool RateLookup::Answer::hasRate(int mapping) const
 
 RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount)
     : mappings(mappingCount)
+    , tree(extentsOf(ringsOf(first, count, false)))
 {
-    std::vector<const RX_POLYGON *> outerRecords;
-    std::vector<const RX_POLYGON *> holeRecords;
-    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count)
-        (record->isHole ? holeRecords : outerRecords).push_back(record);
-
+    const std::vector<const RX_POLYGON *> outerRecords = ringsOf(first, count, false);
     outers.reserve(outerRecords.size());
     for (const RX_POLYGON *record : outerRecords)
         outers.push_back({SlabIndex(record->vertices, record->vertexCount), record->rates});
-    for (const PlacedHole &hole : placed(outerRecords, holeRecords)) {
+    for (const PlacedHole &hole : placed(outerRecords, ringsOf(first, count, true))) {
         Outer &outer = outers[static_cast<size_t>(hole.outer)];
         if (outer.holeCount++ == 0)
             outer.firstHole = static_cast<unsigned>(holes.size());
         holes.emplace_back(hole.hole->vertices, hole.hole->vertexCount);
     }
-    tree = RingTree(entries(outerRecords));
 }
 
 bool RateLookup::covers(unsigned number, double x, double y) const
 {
     const Outer &outer = outers[number];
     bool inside = outer.ring.contains(x, y, SharedEdgeCrossing());
-    // The renderer fills by the odd rule over all contours of a polygon.
+    // The renderer fills by the even-odd rule over all contours of a polygon.
     for (unsigned i = outer.firstHole; i < outer.firstHole + outer.holeCount; ++i)
         inside ^= holes[i].contains(x, y, SharedEdgeCrossing());
     return inside;
@@ -95,20 +101,17 @@ RateLookup::Answer RateLookup::ratesAt(double x, double y) const
     Answer answer;
     if (!std::isfinite(x) || !std::isfinite(y))
         return answer;
-    std::vector<unsigned> hits;
-    const auto keep = [this, x, y, &hits](const TreeEntry &entry) {
-        if (covers(entry.second, x, y))
-            hits.push_back(entry.second);
-    };
-    tree.query(boost::geometry::index::intersects(TreePoint(x, y)), boost::make_function_output_iterator(keep));
-    std::sort(hits.begin(), hits.end(), std::greater<unsigned>());
+    RingTree::Places hits = tree.holding(x, y);
+    const auto isMissed = [this, x, y](unsigned outer) { return !covers(outer, x, y); };
+    const auto end = std::remove_if(hits.begin(), hits.end(), isMissed);
+    std::sort(hits.begin(), end, std::greater<unsigned>());
 
     std::vector<float> rates(mappings, std::numeric_limits<float>::quiet_NaN());
     bool hasAny = false;
-    for (const unsigned hit : hits) {
+    for (auto hit = hits.begin(); hit != end; ++hit) {
         for (size_t i = 0; i < mappings; ++i) {
             if (std::isnan(rates[i]))
-                rates[i] = outers[hit].rates[i];
+                rates[i] = outers[*hit].rates[i];
             hasAny = hasAny || !std::isnan(rates[i]);
         }
     }

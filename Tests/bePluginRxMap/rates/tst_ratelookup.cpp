@@ -198,7 +198,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
     // Each cell alone, so that one can count how many of them take a point.
     std::deque<RateLookup> cells;
-    std::vector<TreeEntry> extents;
+    std::vector<RingExtent> extents;
     std::vector<PlaneVertex> points;
     std::mt19937 random(23);
     for (const RX_POLYGON *record = map->chain->first(); record != nullptr;) {
@@ -206,7 +206,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
         unsigned records = 1;
         for (record = record->next; record != nullptr && record->isHole; record = record->next)
             ++records;
-        extents.emplace_back(extentOf(outer->vertices, outer->vertexCount), static_cast<unsigned>(cells.size()));
+        extents.push_back(RingExtent::of(outer->vertices, outer->vertexCount));
         cells.emplace_back(outer, records, map->chain->mappings());
         for (unsigned i = 0; i < outer->vertexCount; ++i) {
             const PlaneVertex &a = outer->vertices[i];
@@ -223,9 +223,8 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
         const PlaneVertex point = points[k];
         int takers = 0;
         float rate = std::nanf("");
-        for (auto hit = tree.qbegin(boost::geometry::index::intersects(TreePoint(point.x, point.y)));
-             hit != tree.qend(); ++hit) {
-            const RateLookup::Answer answer = cells[hit->second].ratesAt(point.x, point.y);
+        for (const unsigned cell : tree.holding(point.x, point.y)) {
+            const RateLookup::Answer answer = cells[cell].ratesAt(point.x, point.y);
             if (answer.rates.isEmpty())
                 continue;
             ++takers;
