@@ -38,7 +38,7 @@ class Cells {
 public:
     Cells()
         : map(gridMap("cells-100k", 317))
-        , lookup(map.chain(), map.count(), 1)
+        , lookup(map.chain(), map.count(), 1, {})
     {
         std::vector<Entry> entries;
         for (const OrvikTypes::RX_POLYGON *cell = map.chain(); cell != nullptr; cell = cell->next) {

@@ -3,7 +3,6 @@
 #include "columnchoice.h"
 #include "duplicatepolygons.h"
 #include "gdalsession.h"
-#include "holearrangement.h"
 #include "legendbuilder.h"
 #include "prescriptionreader.h"
 #include "ringrepair.h"
@@ -86,8 +85,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     warnOfGaps();
     if (!arrange())
         return false;
-    map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
-    map.lookup = std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), mappings);
+    makeChain(map);
     buildLegends(map);
     reportCounts(map);
     control.report(1.0);
@@ -248,10 +246,16 @@ bool PrescriptionLoader::arrange()
         return fail(QStringLiteral("no polygon has a rate"));
     if (control.isCancelled())
         return fail(QStringLiteral("loading was cancelled"));
-    const int misplaced = HoleArrangement::arrange(polygons);
-    warnCount(misplaced, QStringLiteral("hole cannot be drawn as one"),
+    arrangement = HoleArrangement::arrange(polygons);
+    warnCount(arrangement.misplaced, QStringLiteral("hole cannot be drawn as one"),
               QStringLiteral("holes cannot be drawn as such"));
     return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
+}
+
+void PrescriptionLoader::makeChain(LoadedMap &map) const
+{
+    map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
+    map.lookup = std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), mappings, arrangement.takers);
 }
 
 void PrescriptionLoader::buildLegends(LoadedMap &map) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/loadrequest.h"
+#include "holearrangement.h"
 #include "loadcontrol.h"
 #include "loadedmap.h"
 #include "rawprescription.h"
@@ -34,6 +35,7 @@ private:
     void warnOfGaps();
     void countRings(LoadedMap &map) const;
     bool arrange();
+    void makeChain(LoadedMap &map) const;
     void buildLegends(LoadedMap &map) const;
     void reportCounts(LoadedMap &map);
 
@@ -46,6 +48,7 @@ private:
     std::vector<double> xs;
     std::vector<double> ys;
     std::vector<PlanePolygon> polygons;
+    HoleArrangement arrangement;
     /// One per mapping for each record.
     std::vector<float> rates;
     size_t mappings = 0;

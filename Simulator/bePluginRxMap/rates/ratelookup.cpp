@@ -16,27 +16,13 @@ struct PlacedHole {
     const RX_POLYGON *hole;
 };
 
-std::vector<RingView> outerRings(const std::vector<const RX_POLYGON *> &records)
-{
-    std::vector<RingView> rings;
-    rings.reserve(records.size());
-    for (const RX_POLYGON *record : records)
-        rings.push_back({record->vertices, record->vertexCount, record->area});
-    return rings;
-}
-
 /// The holes that the renderer cuts out, sorted by the outer ring that they are cut from.
-std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &outers,
-                               const std::vector<const RX_POLYGON *> &holes)
+std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &holes, const std::vector<int> &takers)
 {
     std::vector<PlacedHole> result;
-    if (holes.empty())
-        return result;
-    const RendererHoleRule placement(outerRings(outers));
-    for (const RX_POLYGON *hole : holes) {
-        const int outer = placement.taker(hole->vertices, hole->vertexCount, hole->area);
-        if (outer != RendererHoleRule::nowhere)
-            result.push_back({outer, hole});
+    for (size_t i = 0; i < holes.size(); ++i) {
+        if (takers[i] != RendererHoleRule::nowhere)
+            result.push_back({takers[i], holes[i]});
     }
     std::stable_sort(result.begin(), result.end(),
                      [](const PlacedHole &a, const PlacedHole &b) { return a.outer < b.outer; });
@@ -70,7 +56,7 @@ bool RateLookup::Answer::hasRate(int mapping) const
     return mapping >= 0 && mapping < rates.size() && !std::isnan(rates.at(mapping));
 }
 
-RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount)
+RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount, const std::vector<int> &takers)
     : mappings(mappingCount)
     , tree(extentsOf(ringsOf(first, count, false)))
 {
@@ -78,7 +64,7 @@ RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCo
     outers.reserve(outerRecords.size());
     for (const RX_POLYGON *record : outerRecords)
         outers.push_back({SlabIndex(record->vertices, record->vertexCount), record->rates});
-    for (const PlacedHole &hole : placed(outerRecords, ringsOf(first, count, true))) {
+    for (const PlacedHole &hole : placed(ringsOf(first, count, true), takers)) {
         Outer &outer = outers[static_cast<size_t>(hole.outer)];
         if (outer.holeCount++ == 0)
             outer.firstHole = static_cast<unsigned>(holes.size());

@@ -23,8 +23,9 @@ public:
     };
 
     /// `first` heads a chain of `count` records, which must outlive the look-up and stay as they are (but for
-    /// "drawIndex"); each has `mappings` rates.
-    RateLookup(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t mappings);
+    /// "drawIndex"); each has `mappings` rates. `takers` says for each hole of the chain which of its outer rings, from
+    /// 0, the hole is cut from, RendererHoleRule::nowhere for none.
+    RateLookup(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t mappings, const std::vector<int> &takers);
 
     /// The answer has no rates for a point that no polygon covers, or with a coordinate that is not finite.
     Answer ratesAt(double x, double y) const;

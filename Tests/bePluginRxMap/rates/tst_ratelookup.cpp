@@ -133,18 +133,18 @@ void RateLookupTest::looksBeneathAPolygonWithoutRate()
     RX_POLYGON chain[2] = {{100.0, 0, square, 4, rates, false, nullptr},
                            {100.0, 0, square, 4, rates + 2, false, nullptr}};
     chain[0].next = &chain[1];
-    const RateLookup both(chain, 2, 2);
+    const RateLookup both(chain, 2, 2, {});
     QCOMPARE(both.ratesAt(5.0, 5.0).rates, QList<float>({5.0F, 2.0F}));
-    const RateLookup upper(chain + 1, 1, 2);
+    const RateLookup upper(chain + 1, 1, 2, {});
     QVERIFY(upper.ratesAt(5.0, 5.0).hasRate(0));
     QVERIFY(!upper.ratesAt(5.0, 5.0).hasRate(1));
     rates[2] = rates[3];
-    QVERIFY(RateLookup(chain + 1, 1, 2).ratesAt(5.0, 5.0).rates.isEmpty());
+    QVERIFY(RateLookup(chain + 1, 1, 2, {}).ratesAt(5.0, 5.0).rates.isEmpty());
 }
 
 void RateLookupTest::answersNothingForAnEmptyMap()
 {
-    QVERIFY(RateLookup(nullptr, 0, 1).ratesAt(0.0, 0.0).rates.isEmpty());
+    QVERIFY(RateLookup(nullptr, 0, 1, {}).ratesAt(0.0, 0.0).rates.isEmpty());
 }
 
 void RateLookupTest::agreesWithLookingAtEveryRing_data()
@@ -207,7 +207,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
         for (record = record->next; record != nullptr && record->isHole; record = record->next)
             ++records;
         extents.push_back(RingExtent::of(outer->vertices, outer->vertexCount));
-        cells.emplace_back(outer, records, map->chain->mappings());
+        cells.emplace_back(outer, records, map->chain->mappings(), std::vector<int>(records - 1, 0));
         for (unsigned i = 0; i < outer->vertexCount; ++i) {
             const PlaneVertex &a = outer->vertices[i];
             const PlaneVertex &b = outer->vertices[(i + 1) % outer->vertexCount];
