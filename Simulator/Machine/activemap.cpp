@@ -35,14 +35,6 @@ QColor ActiveMap::classColor(double rate) const
     return legend.isEmpty() ? QColor() : legend.last().color;
 }
 
-QColor ActiveMap::queriedColor(const DataBroker &broker) const
-{
-    if (!isValid() || !read<bool>(broker, groupName, "ratesAtXYZValid"))
-        return {};
-    const auto rates = read<QList<float>>(broker, groupName, "ratesAtXYZ");
-    return mapping < rates.size() ? classColor(double(rates.at(mapping))) : QColor();
-}
-
 ActiveMap ActiveMap::find(const DataBroker &broker, const QString &rateCalName)
 {
     const QStringList groups = broker.findGroup(QStringLiteral("rxMap.*"), true, false);

@@ -23,8 +23,6 @@ struct ActiveMap {
     static QList<OrvikTypes::RX_RATECOLOR> drawnClasses(QList<OrvikTypes::RX_RATECOLOR> legend);
     /// Colour of the legend class that holds `rate` (base units); invalid without a legend, and where there is no rate.
     QColor classColor(double rate) const;
-    /// The colour of the class at the point that was queried last in the map's group; invalid when it has no rate.
-    QColor queriedColor(const DataBroker &broker) const;
 
     /// The first published map with a mapping for that rate channel.
     static ActiveMap find(const DataBroker &broker, const QString &rateCalName);

@@ -8,6 +8,7 @@
 #include "mapoverlay.h"
 #include "pluginscanner.h"
 #include "productselector.h"
+#include "querylistener.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
 #include "vehicle.h"
@@ -230,18 +231,27 @@ QMap<int, QString> Terminal::columnsOf(const QString &group) const
     return columns;
 }
 
+TouchAnswer Terminal::answerAt(const QPointF &field) const
+{
+    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct()));
+    const QueryListener query(dataBroker, map);
+    TouchAnswer answer;
+    for (const QPointer<UiGraphicsList> &list : graphicsLists) {
+        if (list)
+            answer.text += list->getPointDescription(QVector3D(float(field.x()), float(field.y()), 0.0F));
+    }
+    answer.text = answer.text.trimmed();
+    if (!answer.text.isEmpty())
+        answer.color = map.classColor(query.rate());
+    return answer;
+}
+
 QString Terminal::touch(const QPointF &field)
 {
-    QString text;
-    for (const QPointer<UiGraphicsList> &list : qAsConst(graphicsLists)) {
-        if (list)
-            text += list->getPointDescription(QVector3D(float(field.x()), float(field.y()), 0.0F));
-    }
-    text = text.trimmed();
-    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct()));
-    const QColor color = text.isEmpty() ? QColor() : map.queriedColor(dataBroker);
-    display->overlay()->showBubble(field, text, color.isValid() ? FieldScene::onGround(color) : QColor());
-    return text;
+    const TouchAnswer answer = answerAt(field);
+    display->overlay()->showBubble(field, answer.text,
+                                   answer.color.isValid() ? FieldScene::onGround(answer.color) : QColor());
+    return answer.text;
 }
 
 std::optional<QRectF> Terminal::bounds() const
@@ -323,7 +333,7 @@ void Terminal::redrawMap()
 
 void Terminal::watchGroup(const QString &name)
 {
-    // The plug-in rebuilds its drawing on every set of the count; that the display must be drawn anew is the host's
+    // The plug-in rebuilds its drawing on every set of the count; that the display must be drawn again is the host's
     // part.
     if (DataBrokerGroup *group = dataBroker.getGroup(name, false))
         group->connectPropertySetSlot("polygonCount", this, SLOT(redrawMap()), Qt::UniqueConnection, false);

@@ -5,6 +5,7 @@
 #include "repaintthrottle.h"
 #include "result.h"
 #include "simulationclock.h"
+#include "touchanswer.h"
 #include "unitsystem.h"
 
 #include "Framework/databroker.h"
@@ -67,8 +68,9 @@ public:
     /// The columns of a map that feed products now, by product number (from 1).
     QMap<int, QString> columnsOf(const QString &group) const;
 
-    /// Touches the ground at a field point (metres): the bubble there says what the graphics lists say. The text
-    /// shown, empty when they say nothing.
+    /// What the graphics lists say at a field point (metres).
+    TouchAnswer answerAt(const QPointF &field) const;
+    /// Touches the ground at a field point (metres): a bubble there shows the answer. Returns its text.
     QString touch(const QPointF &field);
     /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
     /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
@@ -77,7 +79,7 @@ public:
     QColor mapColor(const QPointF &field);
     /// Saves the display as it is seen; the reason when it cannot.
     QString saveScreenshot(const QString &path);
-    /// Draws anew: something may look different.
+    /// Draws again: something may look different.
     void refresh();
 
 private Q_SLOTS:

@@ -1,7 +1,5 @@
-#include "activemap.h"
 #include "fieldscene.h"
 #include "fieldview.h"
-#include "machine.h"
 #include "simulatorrun.h"
 #include "terminalhost.h"
 #include "terminalwindow.h"
@@ -45,7 +43,6 @@ class CloseLook {
 public:
     explicit CloseLook(Terminal &terminal)
         : terminal(terminal)
-        , map(ActiveMap::find(*terminal.broker(), Machine::productGroupName(terminal.machine()->activeProduct())))
     {
     }
 
@@ -63,8 +60,8 @@ public:
 private:
     QColor answeredAt(const QPointF &point) const
     {
-        return terminal.touch(point).isEmpty() ? FieldScene::groundColor()
-                                               : FieldScene::onGround(map.queriedColor(*terminal.broker()));
+        const QColor color = terminal.answerAt(point).color;
+        return color.isValid() ? FieldScene::onGround(color) : FieldScene::groundColor();
     }
 
     void compareAt(const QPointF &point)
@@ -97,7 +94,6 @@ private:
     }
 
     Terminal &terminal;
-    ActiveMap map;
 };
 
 QRectF boundsOf(const OrvikTypes::RX_POLYGON &polygon)

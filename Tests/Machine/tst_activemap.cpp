@@ -4,8 +4,6 @@
 #include "terminalhost.h"
 #include "testbase.h"
 
-#include "Framework/xyz.h"
-
 /// The map that feeds a product, and the class of a rate.
 class TestActiveMap : public TestBase {
     Q_OBJECT
@@ -17,7 +15,6 @@ private Q_SLOTS:
     void whatIsNotDrawnIsNoClass();
     void theMappingOfTheProductIsFound();
     void withoutAMapNothingIsFound();
-    void theColourIsThatOfThePointThatWasQueried();
 };
 
 void TestActiveMap::aRateBelongsToTheFirstClassThatIsNotBelowIt_data()
@@ -85,28 +82,6 @@ void TestActiveMap::withoutAMapNothingIsFound()
     const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
     QVERIFY(!map.isValid());
     QVERIFY(map.groupName.isEmpty());
-    QVERIFY(!map.queriedColor(broker).isValid());
-}
-
-void TestActiveMap::theColourIsThatOfThePointThatWasQueried()
-{
-    DataBroker broker;
-    PrescriptionBackend backend(&broker);
-    LoadRequest request;
-    request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
-    request.columns = QStringList{"SEED_K_HA"};
-    request.rateCalNames = QStringList{Machine::productGroupName(1)};
-    const LoadReport report = backend.loadAndWait(request);
-    QVERIFY(report.isOk());
-    const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
-    const auto query = [&](double x) {
-        broker.setProperty(report.group.toLatin1().constData(), "queryRatesAtXYZ",
-                           QVariant::fromValue(OrvikTypes::XYZ(x, 0, 0)));
-        return map.queriedColor(broker);
-    };
-    QCOMPARE(query(-100), map.classColor(70));
-    QCOMPARE(query(100), map.classColor(90));
-    QVERIFY(!query(5000).isValid());
 }
 
 RXMAP_TEST(TestActiveMap, Core)

@@ -56,8 +56,6 @@ private:
     static constexpr int blendTolerance = 2;
 
     static bool isNear(const QColor &a, const QColor &b);
-    /// Touches the point; the colour of its answer's class, invalid where there is no answer.
-    QColor answered(const ActiveMap &map, const QPointF &point);
     /// What the legend says below its product, unit and column.
     QStringList classesShown();
     /// What the bubbles on the map say.
@@ -68,12 +66,6 @@ bool TestTerminalDrawing::isNear(const QColor &a, const QColor &b)
 {
     return std::abs(a.red() - b.red()) <= blendTolerance && std::abs(a.green() - b.green()) <= blendTolerance
         && std::abs(a.blue() - b.blue()) <= blendTolerance;
-}
-
-QColor TestTerminalDrawing::answered(const ActiveMap &map, const QPointF &point)
-{
-    const QString text = terminal().touch(point);
-    return text.isEmpty() ? QColor() : map.queriedColor(*terminal().broker());
 }
 
 QStringList TestTerminalDrawing::classesShown()
@@ -117,7 +109,7 @@ void TestTerminalDrawing::everyClassOfTheLegendIsSeenHalfTransparentOverTheGroun
     const QRectF area = terminal().bounds().value();
     for (double x = area.left() + 3.0; x < area.right(); x += 7.0) {
         for (double y = area.top() + 3.0; y < area.bottom(); y += 7.0) {
-            const QColor expected = answered(map, QPointF(x, y));
+            const QColor expected = terminal().answerAt(QPointF(x, y)).color;
             if (expected.isValid() && isNear(terminal().mapColor(QPointF(x, y)), FieldScene::onGround(expected)))
                 ++seen[expected.name()];
         }
@@ -151,9 +143,8 @@ void TestTerminalDrawing::whatIsDrawnIsWhatIsAnswered()
     QFETCH(QString, column);
     const LoadReport report = terminal().open(file, {column});
     QVERIFY2(report.isOk(), qPrintable(report.error));
-    const ActiveMap map = ActiveMap::find(*terminal().broker(), Machine::productGroupName(1));
     const auto colorOf = [&](const QPointF &point) {
-        const QColor color = answered(map, point);
+        const QColor color = terminal().answerAt(point).color;
         return color.isValid() ? FieldScene::onGround(color) : FieldScene::groundColor();
     };
     const QRectF area = terminal().bounds().value();

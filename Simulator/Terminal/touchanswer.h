@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+/// What a touch on the ground is answered.
+struct TouchAnswer {
+    /// What the graphics lists say; empty when they say nothing.
+    QString text;
+    /// Colour of the legend class that holds the active product's rate in that same answer; invalid without a rate.
+    QColor color;
+};
