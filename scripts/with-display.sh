@@ -33,7 +33,7 @@ with_virtual_display() {
     trap 'stop_virtual_display; kill -TERM $$' TERM
     while [[ ! -s "$announced" ]] && kill -0 "$server" 2>/dev/null; do sleep 0.05; done
     if [[ -s "$announced" ]]; then
-        # In the background, so that a signal is heeded at once; such a command loses its standard input otherwise.
+        # In the background, so that a signal is handled at once; such a command loses its standard input otherwise.
         env -u WAYLAND_DISPLAY DISPLAY=":$(<"$announced")" QT_QPA_PLATFORM=xcb "$@" <&0 &
         client=$!
         wait "$client" || status=$?

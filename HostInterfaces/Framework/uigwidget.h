@@ -33,7 +33,7 @@ public:
     /// Called by the page when it comes into view.
     virtual void pageShown();
 
-    // The order of the virtual operations is part of the binary interface; hence the changes of access.
+    // The order of the virtual operations is part of the binary interface; that is why the access changes.
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;

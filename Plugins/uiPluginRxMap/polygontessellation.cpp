@@ -13,7 +13,7 @@ template <typename Callback> void registerCallback(GLUtesselator *tessellator, G
     gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
 }
 
-/// Empties `list`. The room of a large one goes too: when such a large block is asked for anew, glibc joins the small
+/// Empties `list`. The room of a large one goes too: when such a large block is asked for again, glibc joins the small
 /// ones freed before, so that what the tessellator makes for the next polygon lies in a row. Large polygons gain much
 /// by it (docs/measurements.md); small ones would only pay.
 void emptyOut(QVector<RXVERT *> &list)

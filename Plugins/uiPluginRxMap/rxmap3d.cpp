@@ -200,7 +200,7 @@ void RxMap3D::init()
 }
 
 // Qt frees the functions with their context, and its programs are never created a second time: the one of Object3D is
-// made anew in its place.
+// made again in its place.
 void RxMap3D::forgetContext()
 {
     QOpenGLFunctions::d_ptr = nullptr;

@@ -38,7 +38,7 @@ public:
     void setAamGroup(DbGroupAAM *group);
     /// Binds the first prescription group, in the broker's order, that maps the active product.
     void updateRxMapGroup();
-    /// Binds `group` (null: none) and builds the map anew.
+    /// Binds `group` (null: none) and builds the map again.
     void setDbGroup(DataBrokerGroup *group);
     /// Even-odd test of the point (x, y) against a ring of `count` vertices; half-open, so that a point on an edge
     /// shared by two rings is inside one of them. Offered to others: hole placement decides alike by itself.
@@ -64,7 +64,7 @@ private:
     void chooseColor(const QList<OrvikTypes::RX_RATECOLOR> &legend, const OrvikTypes::RX_POLYGON &polygon,
                      int mappingIndex);
     bool isInitialized() const;
-    /// Frees what init() made for a context that ends; the next init() starts anew.
+    /// Frees what init() made for a context that ends; the next init() starts again.
     void forgetContext();
     void drawBank(const VertexBank &bank);
     /// Writes pending OpenGL errors, found at `line` of the source, to the system log and to standard output.

@@ -25,7 +25,7 @@ int lookAheadMs(const QString &seconds);
 /// What a group that holds `held` is to hold: as many entries of `working`, from `first` on, as there are; then its
 /// own.
 Mappings shareOf(const Mappings &working, int first, Mappings held);
-/// Whether the rate controllers have to start anew when `settings` replace `old`: a master or a shut-off changes.
+/// Whether the rate controllers have to start again when `settings` replace `old`: a master or a shut-off changes.
 bool needsReInit(const Settings &old, const Settings &settings);
 
 } // namespace RxMapSettingsRules

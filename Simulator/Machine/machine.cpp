@@ -167,7 +167,7 @@ void Machine::followMaps()
             : QString();
         bins.at(number - 1)->internalSetRxMapGroupName(feeding);
     }
-    // Plug-ins look for a product's map only when the job names its application map anew.
+    // Plug-ins look for a product's map only when the job names its application map again.
     announceActiveProduct();
     Q_EMIT mapsChanged();
 }

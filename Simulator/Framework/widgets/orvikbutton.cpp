@@ -18,8 +18,8 @@ struct TextItem {
     QFont font;
 };
 
-constexpr int textMargin = 5;           // pixels on either side
-constexpr int smallestTextPercent = 50; // of the font size asked for
+constexpr int textMargin = 5;      // pixels on either side
+constexpr int minTextPercent = 50; // of the font size asked for
 constexpr int textPercentStep = 5;
 constexpr qreal dimmedTextOpacity = 0.5;
 
@@ -37,8 +37,7 @@ QFont fittedFont(const QFont &font, const QString &text, qreal width)
 {
     QFont fitted = font;
     for (int percent = 100 - textPercentStep;
-         percent >= smallestTextPercent && QFontMetricsF(fitted).horizontalAdvance(text) > width;
-         percent -= textPercentStep)
+         percent >= minTextPercent && QFontMetricsF(fitted).horizontalAdvance(text) > width; percent -= textPercentStep)
         fitted = scaled(font, percent / 100.0);
     return fitted;
 }

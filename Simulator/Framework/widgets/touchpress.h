@@ -28,7 +28,7 @@ public:
 
     /// The finger comes down on the control.
     void press(Hold hold);
-    /// The finger moves, now over the control or not. The time of a hold starts anew when it comes back.
+    /// The finger moves, now over the control or not. The time of a hold starts again when it comes back.
     void move(bool inside);
     /// The finger is lifted, over the control or not; outside it the touch is cancelled.
     void release(bool inside);

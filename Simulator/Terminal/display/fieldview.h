@@ -29,7 +29,7 @@ public:
     /// What is drawn at a field point: ground and maps, without the host's drawing aids. The pixel is the one of the
     /// view as it looks now; a point outside of it is looked at by a camera moved there. Black without OpenGL.
     QColor colorAt(const QPointF &field);
-    /// Colours are read anew by the next colorAt(): something that is drawn has changed.
+    /// Colours are read again by the next colorAt(): something that is drawn has changed.
     void forgetColors();
 
 Q_SIGNALS:

@@ -19,7 +19,7 @@ public:
 
     /// The page's widgets come from these plug-ins (not owned; call clear() before they go).
     void setPlugins(const QList<UiPluginInterface *> &plugins, DataBroker *broker);
-    /// Builds the page anew, as a host does when it shows it; widgets look at the published groups only when they are
+    /// Builds the page again, as a host does when it shows it; widgets look at the published groups only when they are
     /// made. While a popup is open this waits until it has closed.
     void rebuild();
     /// Has the plug-ins delete every widget of the page; a popup of theirs counts as closed.

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// Draws a widget anew for changes that may come faster than anybody can see: those within a frame share its drawing.
+/// Draws a widget again for changes that may come faster than anybody can see: those within a frame share its drawing.
 class RepaintThrottle {
 public:
     /// `widget` is not owned and outlives this object.

@@ -12,7 +12,7 @@
 namespace {
 
 // Longer than any control takes to tell a long touch from a short one, milliseconds.
-constexpr int longestHold = 2500;
+constexpr int maxHold = 2500;
 constexpr int holdPoll = 20;
 
 } // namespace
@@ -115,7 +115,7 @@ void ScriptControl::longTouch()
     }
     QElapsedTimer held;
     held.start();
-    while (held.elapsed() < longestHold && !runOnUiThread(gui, [&watch] { return watch->isOver(); }))
+    while (held.elapsed() < maxHold && !runOnUiThread(gui, [&watch] { return watch->isOver(); }))
         QThread::msleep(holdPoll);
     runOnUiThread(gui, [&spot] {
         UiDriver::release(spot);

@@ -5,7 +5,7 @@
 #include <QString>
 
 /// A control of the display as a script sees it. It lives on the script's thread and asks the user-interface thread
-/// for everything. A control that went away is looked up anew by its name.
+/// for everything. A control that went away is looked up again by its name.
 class ScriptControl : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString text READ text)

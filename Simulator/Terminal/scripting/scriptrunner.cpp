@@ -20,7 +20,7 @@ namespace {
 /// How long calls of a script that is being ended wait for their answer at most, milliseconds.
 constexpr unsigned long answerSlice = 10;
 
-/// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, for ever.
+/// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, without end.
 void closeDialogs()
 {
     while (QWidget *popup = QApplication::activePopupWidget())

@@ -9,6 +9,7 @@
 
 namespace {
 
+/// Mean radius of the WGS 84 ellipsoid, (2a + b) / 3, metres.
 constexpr double earthRadius = 6371008.8;
 /// Beyond this a plane is no picture of the earth any more, and no machine drives that far.
 constexpr double widestMap = 1.0e6;
@@ -47,19 +48,19 @@ SpatialReference sourceReference(const RawPrescription &map)
 }
 
 struct Range {
-    double least = 0.0;
-    double greatest = 0.0;
+    double min = 0.0;
+    double max = 0.0;
 };
 
 Range rangeOf(const std::vector<double> &values)
 {
-    const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
-    return {*least, *greatest};
+    const auto [min, max] = std::minmax_element(values.begin(), values.end());
+    return {*min, *max};
 }
 
 bool areDegrees(const Range &x, const Range &y)
 {
-    return x.least >= -180.0 && x.greatest <= 180.0 && y.least >= -90.0 && y.greatest <= 90.0;
+    return x.min >= -180.0 && x.max <= 180.0 && y.min >= -90.0 && y.max <= 90.0;
 }
 
 /// Longitudes and latitudes of places along the edges of the extent. False when any of them has none.
@@ -69,8 +70,8 @@ bool edgePlaces(const SpatialReference &source, const Range &x, const Range &y, 
     constexpr int steps = 8;
     for (int i = 0; i <= steps; ++i) {
         for (int k = 0; k <= steps; ++k) {
-            longitudes.push_back(x.least + (x.greatest - x.least) * i / steps);
-            latitudes.push_back(y.least + (y.greatest - y.least) * k / steps);
+            longitudes.push_back(x.min + (x.max - x.min) * i / steps);
+            latitudes.push_back(y.min + (y.max - y.min) * k / steps);
         }
     }
     const SpatialReference world = worldReference();
@@ -93,11 +94,12 @@ LocalPlane::LocalPlane(double longitude, double latitude)
 
 double LocalPlane::distanceTo(double longitude, double latitude) const
 {
+    // The haversine formula.
     const double halfNorth = std::sin(0.5 * radians(latitude - originLatitude));
     const double halfEast = std::sin(0.5 * radians(longitude - originLongitude));
-    const double chord =
+    const double haversine =
         halfNorth * halfNorth + std::cos(radians(originLatitude)) * std::cos(radians(latitude)) * halfEast * halfEast;
-    return 2.0 * earthRadius * std::asin(std::min(1.0, std::sqrt(chord)));
+    return 2.0 * earthRadius * std::asin(std::min(1.0, std::sqrt(haversine)));
 }
 
 bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QString &error)
@@ -120,7 +122,7 @@ bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QS
     }
     const Range longitude = rangeOf(longitudes);
     const Range latitude = rangeOf(latitudes);
-    extent = {longitude.least, latitude.least, longitude.greatest, latitude.greatest};
+    extent = {longitude.min, latitude.min, longitude.max, latitude.max};
     const double height = earthRadius * radians(extent.north - extent.south);
     const double nearestEquator =
         extent.south <= 0.0 && extent.north >= 0.0 ? 0.0 : std::min(std::fabs(extent.south), std::fabs(extent.north));
@@ -156,7 +158,7 @@ bool LocalPlane::project(const RawPrescription &map, std::vector<double> &xs, st
     const Range x = rangeOf(xs);
     const Range y = rangeOf(ys);
     ProjectionApproximation smooth;
-    if (xs.size() > fewVertices && smooth.fit(exact, x.least, x.greatest, y.least, y.greatest)) {
+    if (xs.size() > fewVertices && smooth.fit(exact, x.min, x.max, y.min, y.max)) {
         smooth.apply(xs.size(), xs.data(), ys.data());
         return true;
     }

@@ -24,7 +24,7 @@ public:
 
     double longitude() const { return originLongitude; }
     double latitude() const { return originLatitude; }
-    /// Distance of a place from the origin along the earth, metres.
+    /// Distance of a place from the origin along a sphere of the earth's mean radius, metres.
     double distanceTo(double longitude, double latitude) const;
 
     /// Where the coordinates lie on the earth. Empty `reference`: they are taken as WGS 84 longitudes and latitudes if

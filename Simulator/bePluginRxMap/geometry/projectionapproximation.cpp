@@ -10,8 +10,9 @@ constexpr double maxError = 1e-5;
 
 template <std::size_t size> using Square = std::array<std::array<double, size>, size>;
 
-/// Places from -1 to 1 at which a polynomial fits a smooth curve evenly well all the way.
-template <std::size_t size> std::array<double, size> nodes()
+/// Chebyshev nodes: the zeros of the Chebyshev polynomial of that degree. A polynomial through a smooth function's
+/// values there comes near the best one of its degree, without the swings near the ends that evenly spaced nodes give.
+template <std::size_t size> std::array<double, size> chebyshevNodes()
 {
     std::array<double, size> result;
     for (std::size_t i = 0; i < size; ++i)
@@ -19,12 +20,13 @@ template <std::size_t size> std::array<double, size> nodes()
     return result;
 }
 
-/// Turns values at the nodes into the coefficients of the powers: the inverse of the matrix of the nodes' powers.
+/// Turns values at the nodes into the coefficients of the powers: the inverse of the nodes' Vandermonde matrix, by
+/// Gauss-Jordan elimination with partial pivoting.
 template <std::size_t size> Square<size> powersFromValues()
 {
     Square<size> left = {};
     Square<size> right = {};
-    const std::array<double, size> places = nodes<size>();
+    const std::array<double, size> places = chebyshevNodes<size>();
     for (std::size_t i = 0; i < size; ++i) {
         right[i][i] = 1.0;
         for (std::size_t k = 0; k < size; ++k)
@@ -74,6 +76,7 @@ template <std::size_t size> Square<size> coefficients(const Square<size> &powers
 ProjectionApproximation::Block ProjectionApproximation::values(const Coefficients &coefficients, const Block &us,
                                                                const Block &vs)
 {
+    // Horner's method in both directions.
     Block result = {};
     for (std::size_t i = size; i-- > 0;) {
         Block row;
@@ -119,12 +122,12 @@ void ProjectionApproximation::apply(std::size_t count, double *xs, double *ys) c
 
 bool ProjectionApproximation::fit(const Exact &exact, double minX, double maxX, double minY, double maxY)
 {
-    constexpr double thinnest = 1e-9;
+    constexpr double minHalfWidth = 1e-9;
     middleX = 0.5 * (minX + maxX);
     middleY = 0.5 * (minY + maxY);
-    halfWidth = std::max(thinnest, 0.5 * (maxX - minX));
-    halfHeight = std::max(thinnest, 0.5 * (maxY - minY));
-    const std::array<double, size> places = nodes<size>();
+    halfWidth = std::max(minHalfWidth, 0.5 * (maxX - minX));
+    halfHeight = std::max(minHalfWidth, 0.5 * (maxY - minY));
+    const std::array<double, size> places = chebyshevNodes<size>();
     Coefficients xs;
     Coefficients ys;
     for (std::size_t i = 0; i < size; ++i) {

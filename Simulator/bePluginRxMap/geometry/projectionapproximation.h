@@ -4,8 +4,9 @@
 #include <cstddef>
 #include <functional>
 
-/// Stands in for a map projection over the small piece of the earth that a prescription covers: two polynomials through
-/// exactly projected places, which take a fraction of the projection's time for each vertex.
+/// Stands in for a map projection over the small piece of the earth that a prescription covers: two polynomials of
+/// degree five in either direction, through exactly projected Chebyshev nodes, which take a fraction of the
+/// projection's time for each vertex.
 class ProjectionApproximation {
 public:
     /// Projects `count` places in their arrays; the exact projection.

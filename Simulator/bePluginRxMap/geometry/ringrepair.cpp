@@ -12,10 +12,10 @@ constexpr int singleBits = 24;
 /// Rings up to this length are looked at edge by edge, without GEOS.
 constexpr size_t shortRing = 12;
 
-double gridFor(double farthest)
+double gridFor(double maxCoordinate)
 {
     int bits = 0;
-    std::frexp(farthest, &bits);
+    std::frexp(maxCoordinate, &bits);
     return std::ldexp(1.0, std::max(finestGrid, bits - singleBits));
 }
 
@@ -40,8 +40,8 @@ PlaneRing fileRing(const RawPrescription &map, const SourceRing &ring)
 
 } // namespace
 
-RingRepair::RingRepair(double farthest)
-    : gridSize(gridFor(farthest))
+RingRepair::RingRepair(double maxCoordinate)
+    : gridSize(gridFor(maxCoordinate))
 {
 }
 

@@ -22,8 +22,8 @@ public:
         int dropped = 0;
     };
 
-    /// `farthest`: greatest absolute coordinate of the map, metres.
-    explicit RingRepair(double farthest);
+    /// `maxCoordinate`: greatest absolute coordinate of the map, metres.
+    explicit RingRepair(double maxCoordinate);
 
     double grid() const { return gridSize; }
     /// `xs` and `ys` are the map's coordinates in metres, in the order of the file's own ones, which are in `map`.

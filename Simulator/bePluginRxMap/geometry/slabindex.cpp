@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr size_t shortestSlabbedRing = 48;
+constexpr size_t minVerticesForSlabs = 48;
 constexpr size_t edgesPerSlab = 4;
 
 } // namespace
@@ -13,28 +13,28 @@ constexpr size_t edgesPerSlab = 4;
 SlabIndex::SlabIndex(const PlaneVertex *ringVertices, size_t vertexCount)
     : vertices(ringVertices)
     , count(vertexCount)
-    , lowest(std::numeric_limits<double>::infinity())
-    , highest(-std::numeric_limits<double>::infinity())
+    , minY(std::numeric_limits<double>::infinity())
+    , maxY(-std::numeric_limits<double>::infinity())
 {
     for (size_t i = 0; i < count; ++i) {
-        lowest = std::min(lowest, vertices[i].y);
-        highest = std::max(highest, vertices[i].y);
+        minY = std::min(minY, vertices[i].y);
+        maxY = std::max(maxY, vertices[i].y);
     }
-    if (count >= shortestSlabbedRing && highest > lowest)
+    if (count >= minVerticesForSlabs && maxY > minY)
         buildSlabs();
 }
 
 size_t SlabIndex::slabOf(double y) const
 {
     const size_t last = slabs->starts.size() - 2;
-    return std::min(last, static_cast<size_t>((y - lowest) * slabs->perMetre));
+    return std::min(last, static_cast<size_t>((y - minY) * slabs->perMetre));
 }
 
 void SlabIndex::buildSlabs()
 {
     const size_t slabCount = count / edgesPerSlab;
     slabs = std::make_unique<Slabs>();
-    slabs->perMetre = static_cast<double>(slabCount) / (highest - lowest);
+    slabs->perMetre = static_cast<double>(slabCount) / (maxY - minY);
     std::vector<size_t> &starts = slabs->starts;
     starts.assign(slabCount + 1, 0);
     const auto forEachSlab = [this](size_t i, auto visit) {

@@ -6,9 +6,9 @@
 #include <memory>
 #include <vector>
 
-/// Whether the ray from (x, y) towards greater x crosses the edge from `from` to `to`, reckoned step by step as the
-/// renderer does when it decides whether a hole's vertex lies in an outer ring: the lower end belongs to the edge, the
-/// upper one does not, level edges never count.
+/// Whether the ray from (x, y) towards greater x crosses the edge from `from` to `to`, computed step by step as the
+/// renderer does when it decides whether a hole's vertex lies in an outer ring. Edges are half-open: the lower end
+/// belongs to the edge, the upper one does not, level edges never count.
 struct RendererCrossing {
     bool operator()(const PlaneVertex &from, const PlaneVertex &to, double x, double y) const
     {
@@ -17,7 +17,7 @@ struct RendererCrossing {
     }
 };
 
-/// The same rule, always reckoned from the edge's lower end: two neighbours that run through a shared edge in opposite
+/// The same rule, always computed from the edge's lower end: two neighbours that run through a shared edge in opposite
 /// directions come to the same result, so a point on the edge belongs to exactly one of them.
 struct SharedEdgeCrossing {
     bool operator()(const PlaneVertex &from, const PlaneVertex &to, double x, double y) const
@@ -26,8 +26,8 @@ struct SharedEdgeCrossing {
     }
 };
 
-/// Even-odd test of points in one ring. Long rings are cut into level slabs, so that a test looks at the edges of one
-/// slab only. The vertices are not copied and must outlive the index.
+/// Tests points against one ring by the even-odd rule (ray casting). Long rings are cut into level slabs, so that a
+/// test looks at the edges of one slab only. The vertices are not copied and must outlive the index.
 class SlabIndex {
 public:
     SlabIndex(const PlaneVertex *vertices, size_t count);
@@ -35,7 +35,7 @@ public:
     /// False for a ring without vertices, and for a point that is not a number.
     template <typename Crossing> bool contains(double x, double y, Crossing crosses) const
     {
-        if (!(y >= lowest && y <= highest))
+        if (!(y >= minY && y <= maxY))
             return false;
         bool inside = false;
         if (!slabs) {
@@ -64,8 +64,8 @@ private:
 
     const PlaneVertex *vertices;
     size_t count;
-    double lowest;
-    double highest;
+    double minY;
+    double maxY;
     /// Null for short rings, of which a map may have very many.
     std::unique_ptr<Slabs> slabs;
 };

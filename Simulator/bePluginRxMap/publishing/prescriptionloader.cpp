@@ -14,7 +14,7 @@
 namespace {
 
 /// Maps that lie farther apart do not share a plane: it would be too far from level under one of them.
-constexpr double farthestOnOnePlane = 20000.0;
+constexpr double maxDistanceOnOnePlane = 20000.0;
 
 constexpr double shareOfReading = 0.6;
 constexpr double shareOfPlacing = 0.1;
@@ -125,7 +125,7 @@ bool PrescriptionLoader::place(LoadedMap &map)
     const double longitude = 0.5 * (extent.west + extent.east);
     const double latitude = 0.5 * (extent.south + extent.north);
     const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
-        return plane.distanceTo(longitude, latitude) <= farthestOnOnePlane;
+        return plane.distanceTo(longitude, latitude) <= maxDistanceOnOnePlane;
     });
     map.plane = near == planes.end() ? LocalPlane(longitude, latitude) : *near;
     if (near == planes.end() && !planes.empty())
@@ -140,12 +140,12 @@ bool PrescriptionLoader::place(LoadedMap &map)
 
 bool PrescriptionLoader::repairRings()
 {
-    double farthest = 1.0;
+    double maxCoordinate = 1.0;
     for (size_t i = 0; i < xs.size(); ++i) {
         if (std::isfinite(xs[i]) && std::isfinite(ys[i]))
-            farthest = std::max({farthest, std::fabs(xs[i]), std::fabs(ys[i])});
+            maxCoordinate = std::max({maxCoordinate, std::fabs(xs[i]), std::fabs(ys[i])});
     }
-    const RingRepair repair(farthest);
+    const RingRepair repair(maxCoordinate);
     RingRepair::Outcome outcome;
     outcome.polygons.reserve(source.rings.size());
     const double rings = static_cast<double>(source.rings.size());

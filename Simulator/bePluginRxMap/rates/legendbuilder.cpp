@@ -46,17 +46,17 @@ void appendQuantiles(const std::vector<float> &sorted, size_t classes, std::vect
     const size_t size = sorted.size();
     // A limit may move by a quarter of a class to become rounder.
     const size_t slack = size / (4 * classes);
-    const double greatest = sorted.back();
+    const double maxRate = sorted.back();
     for (size_t k = 1; k < classes; ++k) {
         const size_t quantile = size * k / classes;
         const double limit = widened(
             roundest(sorted[quantile - std::min(slack, quantile)], sorted[std::min(size - 1, quantile + slack)]));
-        if ((limits.empty() || limit > limits.back()) && limit < greatest)
+        if ((limits.empty() || limit > limits.back()) && limit < maxRate)
             limits.push_back(limit);
     }
     constexpr double headroom = 1.05;
-    const double last = widened(roundest(greatest, greatest * headroom));
-    limits.push_back(std::isfinite(last) && last >= greatest ? last : greatest);
+    const double last = widened(roundest(maxRate, maxRate * headroom));
+    limits.push_back(std::isfinite(last) && last >= maxRate ? last : maxRate);
 }
 
 /// Drops the limits of classes that hold none of `sorted`.

@@ -22,7 +22,7 @@ public:
         bool hasRate(int mapping) const;
     };
 
-    /// `first` heads a chain of `count` records, which must outlive the look-up and stay as they are (but for
+    /// `first` heads a chain of `count` records, which must outlive the look-up and stay as they are (except for
     /// "drawIndex"); each has `mappings` rates. `takers` says for each hole of the chain which of its outer rings, from
     /// 0, the hole is cut from, RendererHoleRule::nowhere for none.
     RateLookup(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t mappings, const std::vector<int> &takers);

@@ -1,5 +1,5 @@
-// The ramp is a path through the Oklab colour space, in which equal steps look equal: lightness and hue change evenly
-// from one end to the other.
+// The ramp is a path through the Oklab colour space (Björn Ottosson, "A perceptual color space for image processing",
+// 2020), in which equal steps look equal: lightness and hue change evenly from one end to the other.
 #include "rateramp.h"
 
 #include <algorithm>
@@ -16,6 +16,7 @@ struct Lch {
 constexpr Lch minRate = {0.34, 0.15, 275.0};
 constexpr Lch maxRate = {0.90, 0.16, 103.0};
 
+/// The transfer function of sRGB (IEC 61966-2-1).
 double gammaEncoded(double linear)
 {
     const double clipped = std::min(1.0, std::max(0.0, linear));
@@ -27,6 +28,7 @@ double cube(double value)
     return value * value * value;
 }
 
+/// From Oklab by the inverse matrices that Ottosson gives: to cone responses, cubed, then to linear sRGB.
 QColor fromOklab(const Lch &color)
 {
     const double hue = color.hueDegrees * std::acos(-1.0) / 180.0;

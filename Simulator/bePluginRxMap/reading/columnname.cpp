@@ -8,7 +8,7 @@
 namespace {
 
 /// Longest name that an attribute table of a Shapefile holds.
-constexpr int longestTableName = 10;
+constexpr int maxTableName = 10;
 
 QSet<QString> wordSet(const char *text)
 {
@@ -102,7 +102,7 @@ bool isIn(const QSet<QString> &words, const QString &word)
 } // namespace
 
 ColumnName::ColumnName(const QString &name)
-    : mayBeCut(name.size() >= longestTableName)
+    : mayBeCut(name.size() >= maxTableName)
 {
     QString word;
     for (int i = 0; i <= name.size(); ++i) {

@@ -89,7 +89,7 @@ bool PrescriptionReader::checkFile()
         return fail(QStringLiteral("there is no such file"));
     if (info.isDir())
         return fail(QStringLiteral("is a folder, not a file"));
-    // A pipe would be waited on for ever.
+    // A pipe would be waited on without end.
     if (!info.isFile())
         return fail(QStringLiteral("is no plain file"));
     if (!isShapefile())

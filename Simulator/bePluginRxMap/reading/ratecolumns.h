@@ -15,7 +15,8 @@ public:
     /// Place of the column called `wanted`, else of the first whose name differs in case only; -1 when there is none.
     static int find(const QStringList &names, const QString &wanted);
     /// Places, in table order, of the likely rate columns of `map.columns`. A column whose name says
-    /// that it is a rate outdoes all that only could be one by their content. `recordAreas`: square metres per record.
+    /// that it is a rate comes before all that could be one by their content only. `recordAreas`: square metres per
+    /// record.
     static std::vector<int> mostLikely(const RawPrescription &map, const std::vector<double> &recordAreas);
     /// What to say of a file in which mostLikely() finds no column.
     static QString reasonForNone(const RawPrescription &map);

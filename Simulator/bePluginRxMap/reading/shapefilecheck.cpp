@@ -21,7 +21,7 @@ QString partPath(const QString &shapePath, const QString &extension)
     return {};
 }
 
-/// A pipe in place of a part would be waited on for ever.
+/// A pipe in place of a part would be waited on without end.
 QString partsProblem(const QString &shapePath)
 {
     for (const char *extension : {"shx", "dbf", "prj", "cpg"}) {

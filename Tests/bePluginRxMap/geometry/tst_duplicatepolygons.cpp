@@ -27,7 +27,7 @@ PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<Pla
     return polygon;
 }
 
-/// Whether two rings of different vertices are the same but for their start and direction.
+/// Whether two rings of different vertices are the same except for their start and direction.
 bool isSameOutline(const PlaneRing &a, PlaneRing b)
 {
     for (int direction = 0; direction < 2; ++direction) {

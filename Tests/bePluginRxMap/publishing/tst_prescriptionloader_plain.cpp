@@ -67,7 +67,7 @@ bool isSameRing(const PlaneRing &a, const PlaneRing &b)
     return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), samePlace);
 }
 
-/// Whether the rings are the same but for their start and direction.
+/// Whether the rings are the same except for their start and direction.
 bool isSameOutline(const PlaneRing &a, PlaneRing b)
 {
     if (a.size() != b.size() || ringArea(a) != ringArea(b))

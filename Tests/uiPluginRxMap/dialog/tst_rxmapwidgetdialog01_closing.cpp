@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Touches the button as often as that before the program comes to heed the first touch.
+/// Touches the button as often as that before the program handles the first touch.
 void postTaps(const QDialog &dialog, const QWidget &button, int taps)
 {
     QWindow *window = dialog.windowHandle();

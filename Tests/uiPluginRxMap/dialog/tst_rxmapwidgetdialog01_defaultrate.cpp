@@ -115,7 +115,7 @@ void TestDialogDefaultRate::theDefaultRateCaptionNamesTheUnit()
     QFETCH(int, pressureUnit);
     QFETCH(bool, isCarrier);
     host->replaceProduct(1, static_cast<ProductLineItem::Basis>(basis));
-    // Every node says ratio: only volume products heed it, and no carrier does.
+    // Every node says ratio: only volume products follow it, and no carrier does.
     host->nodes.at(1)->setOperationalSettings(OrvikTypes::SPN_OperationalSetStruct(true));
     host->nodes.at(1)->setIsCarrier(isCarrier);
     host->setLoaded();

@@ -185,7 +185,7 @@ Ring RandomMap::holeOf(const Star &outer)
     return kind.rings == RandomRings::Clustered ? clusteredHole(outer) : touchingHole(outer);
 }
 
-// Few vertices, lest narrowing puts one of those that lie on the ring outside of it nearly always.
+// Few vertices: of many that lie on the ring, narrowing would nearly always put one outside of it.
 Ring RandomMap::touchingHole(const Star &outer)
 {
     Ring hole;
