@@ -111,6 +111,7 @@ VertexBank *RxMap3D::addVertexBank(QString name)
 
 void RxMap3D::updatePolygons()
 {
+    const unsigned int build = ++latestBuild;
     vertexBanks = QList<VertexBank>();
     GLUtesselator *tessellator = gluNewTess();
     if (tessellator == nullptr)
@@ -118,10 +119,9 @@ void RxMap3D::updatePolygons()
     // By design: without a group or a product the tessellator is left behind.
     if (rxMapGroup == nullptr || aamGroup == nullptr)
         return;
-    // Reading runs the host's hooks, which may delete this, activate another product or build the map meanwhile: that
-    // build is the newer one, and the polygons read here may be gone since.
+    // Reading runs the host's hooks, which may delete this, activate another product, or build or unbind the map
+    // meanwhile: that build is the newer one, and the polygons read here may be gone since.
     const QPointer<RxMap3D> self(this);
-    const unsigned int build = ++latestBuild;
     const DataBrokerGroup &group = *rxMapGroup;
     const DbGroupAAM &aam = *aamGroup;
     PolygonTessellation::registerCallbacks(tessellator);

@@ -75,5 +75,5 @@ private:
     DataBrokerGroup *rxMapGroup = nullptr;
     DbGroupAAM *aamGroup = nullptr;
     QList<VertexBank> vertexBanks;
-    unsigned int latestBuild = 0; ///< Number of the build that was started last.
+    unsigned int latestBuild = 0; ///< Number of the build that was started last, with or without a group.
 };

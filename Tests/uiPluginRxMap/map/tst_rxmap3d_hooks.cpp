@@ -35,6 +35,8 @@ private Q_SLOTS:
     void aRebuildWithinARebuildLeavesOneBank();
     void aRebuildMayBindAnotherMap_data();
     void aRebuildMayBindAnotherMap();
+    void aRebuildMayLoseItsMap_data();
+    void aRebuildMayLoseItsMap();
     void aRebuildMayLoseTheDrawable_data();
     void aRebuildMayLoseTheDrawable();
     void aRebuildMayLoseItsPolygons_data();
@@ -252,6 +254,24 @@ void TestRxMap3DHooks::aRebuildMayBindAnotherMap()
     QCOMPARE(RxMap3DProbe::boundGroup(*drawable), secondMap);
     QCOMPARE(RxMap3DProbe::banks(*drawable).size(), 1);
     QCOMPARE(RxMap3DProbe::banks(*drawable).at(0).vertices.size(), 12);
+}
+
+void TestRxMap3DHooks::aRebuildMayLoseItsMap_data()
+{
+    rebuildProperties();
+}
+
+void TestRxMap3DHooks::aRebuildMayLoseItsMap()
+{
+    QFETCH(QByteArray, property);
+    onNextRead(firstMap, property, [this] {
+        host->broker.removeGroup(QStringLiteral("rxMap.first"));
+        drawable->setAamGroup(host->aam(1));
+        firstChain = HandMadeChain();
+    });
+    drawable->updatePolygons();
+    QCOMPARE(RxMap3DProbe::boundGroup(*drawable), nullptr);
+    QVERIFY(RxMap3DProbe::banks(*drawable).isEmpty());
 }
 
 void TestRxMap3DHooks::aRebuildMayLoseTheDrawable_data()
