@@ -12,8 +12,6 @@
 #include "Framework/xyz.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
-#include <QPointer>
-
 namespace {
 
 template <typename Group> Group *findGroupOf(const DataBroker *broker, const QString &name)
@@ -51,7 +49,7 @@ void RxMapGraphicsList::init()
     const QPointer<RxMapGraphicsList> self(this);
     for (int i = 0; self && i < objects.size(); ++i)
         objects.at(i)->init();
-    if (self)
+    if (self && rxMap3D)
         rxMap3D->updateRxMapGroup();
 }
 
@@ -61,7 +59,8 @@ void RxMapGraphicsList::activeAamChanged(QString name)
     const QPointer<RxMapGraphicsList> self(this);
     DbGroupAAM *const aam = findGroupOf<DbGroupAAM>(broker, name);
     aamGroup = aam;
-    rxMap3D->setAamGroup(aam);
+    if (rxMap3D)
+        rxMap3D->setAamGroup(aam);
     const QString productGroup = aam == nullptr ? QString() : aam->productGroupName();
     if (self && aamGroup == aam)
         productGroupInfo = aam == nullptr ? nullptr : findGroupOf<DbGroupProductGroupInfo>(broker, productGroup);

@@ -2,6 +2,8 @@
 
 #include "Framework/uigraphicslist.h"
 
+#include <QPointer>
+
 class DbGroupAAM;
 class DbGroupProductGroupInfo;
 class DbGroupQmlUnitsConverter;
@@ -40,5 +42,5 @@ private:
     DbGroupAAM *aamGroup = nullptr;
     DbGroupProductGroupInfo *productGroupInfo = nullptr;
     DbGroupQmlUnitsConverter *unitsConverter = nullptr;
-    RxMap3D *rxMap3D = nullptr;
+    QPointer<RxMap3D> rxMap3D; ///< Null once it is deleted, while the list goes.
 };

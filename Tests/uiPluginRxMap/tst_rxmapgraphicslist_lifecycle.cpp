@@ -30,6 +30,7 @@ private Q_SLOTS:
     void theListMayGoWhileItReadsAProduct();
     void theListMayGoWhileItsMapIsBound();
     void aProductActivatedWhileTheOldOneIsReadCounts();
+    void aProductMayBeActivatedWhileTheListGoes();
     void theListMayGoWhileItReadsAMap();
     void theProductMayGoWhileAMapIsRead();
     void ratesAndValidityOfOtherTypesAreConverted_data();
@@ -253,6 +254,22 @@ void TestRxMapGraphicsListLifecycle::aProductActivatedWhileTheOldOneIsReadCounts
     reach.host.activateProduct(1);
     QCOMPARE(Probe::aamGroup(*list), reach.host.aam(2));
     QCOMPARE(Probe::productGroupInfo(*list)->name(), MapHost::productGroup(2));
+}
+
+void TestRxMapGraphicsListLifecycle::aProductMayBeActivatedWhileTheListGoes()
+{
+    MapHost host;
+    host.addMap(QStringLiteral("field"), {1});
+    const CurrentContext current;
+    auto *list = new RxMapGraphicsList(&host.broker, nullptr);
+    list->init();
+    bool isActivated = false;
+    connect(Probe::map(*list), &QObject::destroyed, this, [&] {
+        host.activateProduct(1);
+        isActivated = Probe::aamGroup(*list) == host.aam(1);
+    });
+    delete list;
+    QVERIFY(isActivated);
 }
 
 void TestRxMapGraphicsListLifecycle::theListMayGoWhileItReadsAMap()
