@@ -19,17 +19,18 @@ UiPluginRxMap::UiPluginRxMap() = default;
 
 UiPluginRxMap::~UiPluginRxMap()
 {
-    deleteEveryList();
+    deleteList();
 }
 
-void UiPluginRxMap::deleteEveryList()
+void UiPluginRxMap::deleteList()
 {
     const QPointer<UiPluginRxMap> self(this);
-    while (self && graphicsList) {
-        UiGraphicsList *last = graphicsList;
-        graphicsList.clear();
-        delete last;
-    }
+    UiGraphicsList *last = graphicsList;
+    graphicsList.clear();
+    isDeletingList = true;
+    delete last;
+    if (self)
+        isDeletingList = false;
 }
 
 QStringList UiPluginRxMap::getGuidancePageWidgetNames()
@@ -74,13 +75,15 @@ QPointer<UiGraphicsList> UiPluginRxMap::createUiGraphicsList(QString name, DataB
 {
     // Ending a list and making one run the host's code, which may delete this or ask for a list meanwhile.
     const QPointer<UiPluginRxMap> self(this);
+    if (isDeletingList)
+        return {};
     // By design: before the name is looked at; any request ends the list that exists.
-    deleteEveryList();
+    deleteList();
     if (!self || name != graphicsListName)
         return {};
     QPointer<UiGraphicsList> made = new RxMapGraphicsList(broker, nullptr);
     if (self)
-        deleteEveryList();
+        deleteList();
     if (!self) {
         delete made;
         return {};

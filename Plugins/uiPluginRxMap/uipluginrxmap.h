@@ -28,8 +28,8 @@ public:
     void getPluginVersion(unsigned long &major, unsigned long &minor) override;
 
 private:
-    /// Deletes the list, and whatever list is asked for while one is being deleted.
-    void deleteEveryList();
+    void deleteList();
 
     QPointer<UiGraphicsList> graphicsList; ///< The list made last: there is at most one.
+    bool isDeletingList = false;           ///< Meanwhile none is made: it would go at once.
 };
