@@ -70,7 +70,7 @@ void PolygonTessellation::addContour(const OrvikTypes::RX_POLYGON &ring)
         // The tessellator crashes on NaN.
         if (std::isnan(from.x) || std::isnan(from.y))
             continue;
-        // Half the alpha is meant: the ground shows through every polygon.
+        // By design: half the alpha, so that the ground shows through every polygon.
         auto *vertex = new RXVERT{from.x, static_cast<double>(mapHeight), -from.y, red, green, blue, 0.5 * alpha};
         const auto position = static_cast<quintptr>(coordList.size());
         coordList.append(vertex);
@@ -90,7 +90,7 @@ void PolygonTessellation::endPolygon()
     triangles.resize(start + emitted);
     const Vertex *from = vList.constData();
     Vertex *to = triangles.data() + start;
-    // Taking each triangle backwards reverses its winding; that is meant.
+    // By design: each triangle is taken backwards, which reverses its winding.
     for (int i = 0; i < emitted; i += 3) {
         to[i] = from[i + 2];
         to[i + 1] = from[i + 1];

@@ -8,8 +8,8 @@
 struct Vertex;
 class GLUtesselator;
 
-/// Height at which the map lies in the view, metres; also its place among the host's drawables. The two are meant to be
-/// the same number.
+/// Height at which the map lies in the view, metres; also its place among the host's drawables.
+/// By design: the two are the same number.
 constexpr float mapHeight = -4.99F;
 
 /// Tessellates one polygon after the other with one GLU tessellator and appends their triangles to a bank.

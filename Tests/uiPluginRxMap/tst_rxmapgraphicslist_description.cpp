@@ -29,8 +29,7 @@ private Q_SLOTS:
     void withoutMapsTheTextIsEmpty();
     void thePointIsWidenedAndWrittenBeforeTheAnswerIsRead();
     void theFactorIsTakenBeforeTheMapIsAsked();
-    void answersOfOtherTypesAreConverted_data();
-    void answersOfOtherTypesAreConverted();
+    void ratesThatDoNotConvertGiveNothing();
     void groupNamesArePassedAsLatin1();
     void theTextIsTranslatedInTheListsContext();
     void aMapMayReplaceTheListWhileItAnswers();
@@ -208,22 +207,14 @@ void TestRxMapGraphicsListDescription::theFactorIsTakenBeforeTheMapIsAsked()
     QCOMPARE(list.getPointDescription({}), QStringLiteral("Rx Rate: 3.00\n\n"));
 }
 
-void TestRxMapGraphicsListDescription::answersOfOtherTypesAreConverted_data()
+void TestRxMapGraphicsListDescription::ratesThatDoNotConvertGiveNothing()
 {
-    QTest::addColumn<QString>("valid");
-    QTest::newRow("text true, rates of another type") << "true";
-    QTest::newRow("text false") << "false";
-}
-
-void TestRxMapGraphicsListDescription::answersOfOtherTypesAreConverted()
-{
-    QFETCH(QString, valid);
     MapHost host;
     host.activateProduct(1);
     auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));
     group->setRateCalMappings({mappingFor(MapHost::productGroup(1))});
     group->setRatesAtXYZ(QStringLiteral("7"));
-    group->setRatesAtXYZValid(valid);
+    group->setRatesAtXYZValid(QStringLiteral("true"));
     host.broker.publishGroup(group);
     RxMapGraphicsList list(&host.broker, nullptr);
     // A text is no list of rates, so there is no entry at the mapping's position.

@@ -33,8 +33,8 @@ private Q_SLOTS:
     void aProductMayBeActivatedWhileTheListGoes();
     void theListMayGoWhileItReadsAMap();
     void theProductMayGoWhileAMapIsRead();
-    void ratesAndValidityOfOtherTypesAreConverted_data();
-    void ratesAndValidityOfOtherTypesAreConverted();
+    void validityOfAnotherTypeIsConverted_data();
+    void validityOfAnotherTypeIsConverted();
 };
 
 namespace {
@@ -308,7 +308,7 @@ void TestRxMapGraphicsListLifecycle::theProductMayGoWhileAMapIsRead()
     QVERIFY(list.getPointDescription({}).isEmpty());
 }
 
-void TestRxMapGraphicsListLifecycle::ratesAndValidityOfOtherTypesAreConverted_data()
+void TestRxMapGraphicsListLifecycle::validityOfAnotherTypeIsConverted_data()
 {
     QTest::addColumn<QString>("valid");
     QTest::addColumn<QString>("text");
@@ -318,7 +318,7 @@ void TestRxMapGraphicsListLifecycle::ratesAndValidityOfOtherTypesAreConverted_da
                            << "";
 }
 
-void TestRxMapGraphicsListLifecycle::ratesAndValidityOfOtherTypesAreConverted()
+void TestRxMapGraphicsListLifecycle::validityOfAnotherTypeIsConverted()
 {
     QFETCH(QString, valid);
     MapHost host;

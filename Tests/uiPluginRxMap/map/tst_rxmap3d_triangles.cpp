@@ -222,7 +222,7 @@ static void addShape(HandMadeChain &chain, const QString &shape, double &expecte
         for (int i = 0; i < 20; ++i)
             hole(circle(-190 + 20 * i, 10.0 * (i % 5), 5, 17));
     } else if (shape == QLatin1String("hole that touches at a corner")) {
-        // Upper right corner of the hole on the diagonal edge of the outer ring is not inside; the lower left is.
+        // Its left and lower sides lie on the ring's own, which count as inside.
         outer(square(0, 0, 10));
         hole(square(0, 0, 3));
     } else if (shape == QLatin1String("ring of two")) {
