@@ -33,6 +33,7 @@ RxMapGraphicsList::RxMapGraphicsList(DataBroker *broker, QObject *parent)
     DbGroupJob *job = findGroupOf<DbGroupJob>(broker, QStringLiteral("system.current.job"));
     if (job == nullptr)
         return;
+    // By design: taken up before it is followed; a product that a hook activates meanwhile is not heard.
     activeAamChanged(job->getActiveAAMGroupName());
     job->connectPropertySetSlot("activeAAMGroupName", this, SLOT(activeAamChanged(QString)), Qt::UniqueConnection,
                                 true);

@@ -28,7 +28,7 @@ private Q_SLOTS:
     void withoutAnActiveAamTheTextIsEmpty();
     void withoutMapsTheTextIsEmpty();
     void thePointIsWidenedAndWrittenBeforeTheAnswerIsRead();
-    void theFactorIsTakenBeforeTheMapIsAsked();
+    void theFactorIsTakenBeforeMapsAreRead();
     void ratesThatDoNotConvertGiveNothing();
     void groupNamesArePassedAsLatin1();
     void theTextIsTranslatedInTheListsContext();
@@ -197,12 +197,15 @@ void TestRxMapGraphicsListDescription::thePointIsWidenedAndWrittenBeforeTheAnswe
     QCOMPARE(order, (QStringList{"query", "rates", "valid"}));
 }
 
-void TestRxMapGraphicsListDescription::theFactorIsTakenBeforeTheMapIsAsked()
+void TestRxMapGraphicsListDescription::theFactorIsTakenBeforeMapsAreRead()
 {
     MapHost host;
     host.activateProduct(1);
     DbGroupRxMap *group = addAnsweringMap(host, QStringLiteral("field"), {3.0F}, true);
-    connect(group, &DbGroupRxMap::queryRatesAtXYZChanged, this, [&host] { host.units->setWeightRateToDisplay(100.0); });
+    const auto changeUnits = [](void *argument) {
+        static_cast<DbGroupQmlUnitsConverter *>(argument)->setWeightRateToDisplay(100.0);
+    };
+    QVERIFY(group->setBeforeReadHook("rateCalMappings", changeUnits, host.units));
     RxMapGraphicsList list(&host.broker, nullptr);
     QCOMPARE(list.getPointDescription({}), QStringLiteral("Rx Rate: 3.00\n\n"));
 }

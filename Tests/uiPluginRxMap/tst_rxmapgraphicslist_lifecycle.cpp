@@ -30,6 +30,7 @@ private Q_SLOTS:
     void theListMayGoWhileItReadsAProduct();
     void theListMayGoWhileItsMapIsBound();
     void aProductActivatedWhileTheOldOneIsReadCounts();
+    void aProductActivatedWhileTheListIsMadeIsNotHeard();
     void aProductMayBeActivatedWhileTheListGoes();
     void theListMayGoWhileItReadsAMap();
     void theProductMayGoWhileAMapIsRead();
@@ -110,6 +111,13 @@ void deleteList(void *argument)
     auto &reach = *static_cast<Reach *>(argument);
     if (reach.takeTurn())
         delete reach.list;
+}
+
+void activateOther(void *argument)
+{
+    auto &reach = *static_cast<Reach *>(argument);
+    if (reach.takeTurn())
+        reach.host.activateProduct(2);
 }
 
 } // namespace
@@ -244,16 +252,22 @@ void TestRxMapGraphicsListLifecycle::aProductActivatedWhileTheOldOneIsReadCounts
 {
     Reach reach;
     const QScopedPointer<RxMapGraphicsList> list(new RxMapGraphicsList(&reach.host.broker, nullptr));
-    const auto activateOther = [](void *argument) {
-        auto &other = *static_cast<Reach *>(argument);
-        if (other.takeTurn())
-            other.host.activateProduct(2);
-    };
     QVERIFY(reach.host.aam(1)->setBeforeReadHook("productGroupName", activateOther, &reach));
     reach.isDue = true;
     reach.host.activateProduct(1);
     QCOMPARE(Probe::aamGroup(*list), reach.host.aam(2));
     QCOMPARE(Probe::productGroupInfo(*list)->name(), MapHost::productGroup(2));
+}
+
+void TestRxMapGraphicsListLifecycle::aProductActivatedWhileTheListIsMadeIsNotHeard()
+{
+    Reach reach;
+    reach.host.activateProduct(1);
+    QVERIFY(reach.host.aam(1)->setBeforeReadHook("productGroupName", activateOther, &reach));
+    reach.isDue = true;
+    const RxMapGraphicsList list(&reach.host.broker, nullptr);
+    QVERIFY(!reach.isDue);
+    QCOMPARE(Probe::aamGroup(list), reach.host.aam(1));
 }
 
 void TestRxMapGraphicsListLifecycle::aProductMayBeActivatedWhileTheListGoes()

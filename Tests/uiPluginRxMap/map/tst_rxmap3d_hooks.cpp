@@ -35,6 +35,7 @@ private Q_SLOTS:
     void aRebuildWithinARebuildLeavesOneBank();
     void aRebuildMayBindAnotherMap_data();
     void aRebuildMayBindAnotherMap();
+    void aMapThatGrowsWhileItIsBoundIsBuiltAnew();
     void aRebuildMayLoseItsMap_data();
     void aRebuildMayLoseItsMap();
     void aRebuildMayLoseTheDrawable_data();
@@ -252,6 +253,18 @@ void TestRxMap3DHooks::aRebuildMayBindAnotherMap()
     onNextRead(firstMap, property, [this] { drawable->setAamGroup(host->aam(2)); });
     drawable->updatePolygons();
     QCOMPARE(RxMap3DProbe::boundGroup(*drawable), secondMap);
+    QCOMPARE(RxMap3DProbe::banks(*drawable).size(), 1);
+    QCOMPARE(RxMap3DProbe::banks(*drawable).at(0).vertices.size(), 12);
+}
+
+void TestRxMap3DHooks::aMapThatGrowsWhileItIsBoundIsBuiltAnew()
+{
+    drawable->setDbGroup(nullptr);
+    onNextRead(firstMap, "rateColors", [this] {
+        firstChain.addOuter(square(20, 0, 10));
+        firstMap->setPolygonCount(firstChain.count());
+    });
+    drawable->setDbGroup(firstMap);
     QCOMPARE(RxMap3DProbe::banks(*drawable).size(), 1);
     QCOMPARE(RxMap3DProbe::banks(*drawable).at(0).vertices.size(), 12);
 }
