@@ -57,7 +57,11 @@ RxMap3D::RxMap3D(DataBroker *broker, QObject *parent)
     updateRxMapGroup();
 }
 
-RxMap3D::~RxMap3D() = default;
+RxMap3D::~RxMap3D()
+{
+    // Qt calls slots made of a member function to the end, also when only the QObject is left to be called.
+    QObject::disconnect(contextEnd);
+}
 
 float RxMap3D::drawingOrder() const
 {
@@ -189,7 +193,7 @@ void RxMap3D::init()
     if (isInitialized() || context == nullptr)
         return;
     initializeOpenGLFunctions();
-    connect(context, &QOpenGLContext::aboutToBeDestroyed, this, &RxMap3D::forgetContext, Qt::UniqueConnection);
+    contextEnd = connect(context, &QOpenGLContext::aboutToBeDestroyed, this, &RxMap3D::forgetContext);
     auto *vertexShader = new QOpenGLShader(QOpenGLShader::Vertex, this);
     auto *fragmentShader = new QOpenGLShader(QOpenGLShader::Fragment, this);
     vertexShader->compileSourceFile(QStringLiteral(":/colorpoly_vert.glsl"));
@@ -204,6 +208,7 @@ void RxMap3D::init()
 // made again in its place.
 void RxMap3D::forgetContext()
 {
+    QObject::disconnect(contextEnd);
     QOpenGLFunctions::d_ptr = nullptr;
     QOpenGLShaderProgram *program = &shaderProgram();
     program->~QOpenGLShaderProgram();

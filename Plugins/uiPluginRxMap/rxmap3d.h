@@ -75,5 +75,6 @@ private:
     DataBrokerGroup *rxMapGroup = nullptr;
     DbGroupAAM *aamGroup = nullptr;
     QList<VertexBank> vertexBanks;
-    unsigned int latestBuild = 0; ///< Number of the build that was started last, with or without a group.
+    QMetaObject::Connection contextEnd; ///< To the context that init() was called in.
+    unsigned int latestBuild = 0;       ///< Number of the build that was started last, with or without a group.
 };

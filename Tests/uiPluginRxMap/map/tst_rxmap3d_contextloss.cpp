@@ -12,6 +12,7 @@ private Q_SLOTS:
     void inAContextOfItsOwnTheMapIsDrawnAgain_data();
     void inAContextOfItsOwnTheMapIsDrawnAgain();
     void whatOneContextHeldIsFreedForThoseThatShareWithIt();
+    void aContextMayEndWithTheMap();
 
 private:
     /// Ends the context, and makes its successor current.
@@ -88,6 +89,14 @@ void TestRxMap3DContextLoss::whatOneContextHeldIsFreedForThoseThatShareWithIt()
     lose();
     QVERIFY(sharing.makeCurrent(&surface));
     QVERIFY(!sharing.functions()->glIsProgram(static_cast<GLuint>(program)));
+}
+
+void TestRxMap3DContextLoss::aContextMayEndWithTheMap()
+{
+    map->init();
+    connect(map.data(), &QObject::destroyed, this, [this] { lose(); });
+    map.reset();
+    QVERIFY(context.isNull());
 }
 
 RXMAP_TEST(TestRxMap3DContextLoss, Widgets)
