@@ -1,5 +1,7 @@
 #include "dialogtest.h"
 
+#include <limits>
+
 /// What the dialog's controls do between construction and Done.
 class TestDialogEditing : public DialogTest {
     Q_OBJECT
@@ -10,6 +12,8 @@ private Q_SLOTS:
     void lookAheadIsShownWithOneDecimal();
     void typedLookAheadIsKeptUntilDone();
     void otherIdsDoNothing();
+    void aProductThatIsNotThereChangesNothing_data();
+    void aProductThatIsNotThereChangesNothing();
     void aProductSelectedWhileAnotherIsShownStays_data();
     void aProductSelectedWhileAnotherIsShownStays();
     void theDialogMayGoWhenALoaderTakesARate();
@@ -80,6 +84,33 @@ void TestDialogEditing::otherIdsDoNothing()
     QCOMPARE(probe->settings(), settings);
     QCOMPARE(probe->applyToAllBox()->currentImage(), 0);
     QCOMPARE(probe->zeroRateShutoffBox()->currentImage(), 0);
+}
+
+void TestDialogEditing::aProductThatIsNotThereChangesNothing_data()
+{
+    QTest::addColumn<int>("product");
+    QTest::newRow("before the first") << -1;
+    QTest::newRow("beyond the last") << 3;
+    QTest::newRow("largest") << std::numeric_limits<int>::max();
+}
+
+void TestDialogEditing::aProductThatIsNotThereChangesNothing()
+{
+    QFETCH(int, product);
+    open();
+    const auto settings = probe->settings();
+    const auto mappings = probe->mappings();
+    dialog->productSelectionChanged(product);
+    QVERIFY(probe->notUnderVraLabel()->isVisible());
+    QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("0.0"));
+    QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("????"));
+    DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("9.0"));
+    DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("7"));
+    DialogProbe::release(probe->zeroRateShutoffBox());
+    QCOMPARE(probe->settings(), settings);
+    QCOMPARE(probe->mappings(), mappings);
+    DialogProbe::release(probe->productButton(1));
+    QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("2.0"));
 }
 
 void TestDialogEditing::aProductSelectedWhileAnotherIsShownStays_data()
