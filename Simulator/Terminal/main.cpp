@@ -1,5 +1,5 @@
 #include "commandline.h"
-#include "errorline.h"
+#include "consoleline.h"
 #include "ownlooks.h"
 #include "terminalrun.h"
 

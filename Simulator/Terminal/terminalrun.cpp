@@ -2,7 +2,7 @@
 
 #include "columnplan.h"
 #include "commandline.h"
-#include "errorline.h"
+#include "consoleline.h"
 #include "languages.h"
 #include "machine.h"
 #include "productfile.h"
@@ -14,19 +14,12 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
 // Where the build leaves the plug-in and the images, seen from the program.
 const char builtPluginFolder[] = "../../Plugins/uiPluginRxMap";
 const char builtImageFolder[] = "../Resources/images";
-
-void print(const QString &line)
-{
-    std::fprintf(stdout, "%s\n", line.toLocal8Bit().constData());
-    std::fflush(stdout);
-}
 
 QDir besideProgram(const char *folder)
 {
@@ -103,10 +96,11 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
     for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
         const QString product = terminal.machine()->products().at(feed.key() - 1).name;
-        print(QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
+        writeOutputLine(
+            QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
     }
     if (feeds.isEmpty())
-        print(QStringLiteral("%1: feeds no product").arg(report.path));
+        writeOutputLine(QStringLiteral("%1: feeds no product").arg(report.path));
 }
 
 /// Each file feeds the products that none before it does; once all are fed, a file takes products over.
@@ -145,7 +139,8 @@ void showFedProduct(Terminal &terminal)
 void describe(Terminal &terminal, const QPointF &point)
 {
     const QString text = terminal.touch(point);
-    print(text.isEmpty() ? QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y()) : text);
+    writeOutputLine(text.isEmpty() ? QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y())
+                                   : text);
 }
 
 QString runScript(Terminal &terminal, const QString &path)

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void badArgumentsEndWithOneLine();
     void helpIsPrinted();
     void aPointIsDescribedInTheOperatorsUnits();
+    void aFilesControlBytesStayOffTheOutput();
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
     void aScriptThatOutgrowsTheMemoryEndsWithALine();
@@ -102,6 +103,18 @@ void TestTerminalSimulator::aPointIsDescribedInTheOperatorsUnits()
     QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
     QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 28.33\n"));
     QCOMPARE(outcome.errors, QString());
+}
+
+void TestTerminalSimulator::aFilesControlBytesStayOffTheOutput()
+{
+    const QString path = folder.filePath(QStringLiteral("two\nlines\x1b[31m.geojson"));
+    QVERIFY(QFile::copy(zones(), path));
+    const Outcome outcome = run({"--describe", "-100,0", path});
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    for (const QString &line : outcome.output.chopped(1).split(QLatin1Char('\n')))
+        QVERIFY2(line.contains(QLatin1String("two?lines?[31m.geojson: product"))
+                     || line.startsWith(QLatin1String("Rx Rate: ")),
+                 qPrintable(line));
 }
 
 void TestTerminalSimulator::aPictureIsSaved()

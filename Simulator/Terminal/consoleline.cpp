@@ -1,0 +1,29 @@
+#include "consoleline.h"
+
+#include <QString>
+
+#include <cstdio>
+
+namespace {
+
+void writeLine(std::FILE *stream, QString line)
+{
+    for (QChar &letter : line) {
+        if (letter.category() == QChar::Other_Control)
+            letter = QLatin1Char('?');
+    }
+    std::fprintf(stream, "%s\n", line.toLocal8Bit().constData());
+    std::fflush(stream);
+}
+
+} // namespace
+
+void writeOutputLine(const QString &line)
+{
+    writeLine(stdout, line);
+}
+
+void writeErrorLine(const QString &line)
+{
+    writeLine(stderr, line);
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+class QString;
+
+// Both write a line at once. It stays one line, and leaves the shell's window as it is, whatever bytes a file or a
+// library brought into it: control characters are written as question marks.
+
+/// On standard output.
+void writeOutputLine(const QString &line);
+/// On standard error.
+void writeErrorLine(const QString &line);
