@@ -25,7 +25,8 @@ class QLabel;
 /// named by its index from 0 throughout, the same in buttons, settings, bin groups and loaded products.
 ///
 /// Every access to the broker runs the host's hooks and listeners, which may delete the dialog, select another product
-/// or press Done again: members are read before it, or after a check that the dialog still lives.
+/// or press Done again: members are read before it, or after a check that the dialog still lives. Only the constructor
+/// takes it that nobody reaches a dialog that is not made yet.
 class RxMapWidgetDialog01 : public QDialog {
     Q_OBJECT
 
@@ -40,7 +41,7 @@ public:
     void setupSidebar();
     /// Takes the display factors of the selected product and shows its default-rate field; hides the field, and
     /// keeps the factors, when no product is loaded there, it has no usable node, or its kind needs a units converter
-    /// that is missing. Returns the field's caption, empty when hidden.
+    /// that is missing. Returns the field's caption; empty when hidden, or when another product was selected meanwhile.
     QString getDefaultRateSettings();
     /// Makes `index` the only master and selects it; a negative index clears the master.
     void setMasterProduct(int index);
