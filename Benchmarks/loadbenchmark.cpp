@@ -109,8 +109,8 @@ public:
     explicit Loading(const QString &file)
     {
         request.path = file;
-        request.rateCalNames =
-            QStringList({QStringLiteral("product1"), QStringLiteral("product2"), QStringLiteral("product3")});
+        for (int i = 1; i <= 3; ++i)
+            request.products.append({QString(), QStringLiteral("product%1").arg(i)});
         tick.setTimerType(Qt::PreciseTimer);
         QObject::connect(&tick, &QTimer::timeout, [this] { noteAnswer(); });
     }

@@ -24,7 +24,7 @@ BenchmarkMap published(const std::string &name, const QString &path)
     PrescriptionBackend backend(&broker);
     LoadRequest request;
     request.path = path;
-    request.rateCalNames = QStringList{QStringLiteral("product.1")};
+    request.products = {{QString(), QStringLiteral("product.1")}};
     // Without rates in it, but full of rings: any numeric column will do.
     if (path.endsWith(QLatin1String("parcels.shp")))
         request.columns = QStringList{QStringLiteral("AREA_HA")};

@@ -69,6 +69,7 @@ Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Product
                  QObject *parent)
     : QObject(parent)
     , broker(broker)
+    , backend(backend)
     , allProducts(products)
     , units(units)
 {
@@ -87,6 +88,17 @@ Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Product
     BinManager::instance(broker)->setLoadedProducts(items);
     connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
     announceActiveProduct();
+}
+
+QList<MachineProduct> Machine::loadedProducts() const
+{
+    QList<MachineProduct> loaded;
+    for (int number = 1; number <= allProducts.size(); ++number) {
+        const Product &product = allProducts.at(number - 1);
+        loaded.append({product.name, productGroupName(number), rateKindOf(product),
+                       backend->loader(number - 1)->defaultRate, product.underVra, false});
+    }
+    return loaded;
 }
 
 QString Machine::productGroupName(int number)

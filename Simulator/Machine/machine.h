@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Backend/machineproduct.h"
 #include "product.h"
 #include "unitsystem.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -24,6 +26,8 @@ public:
             QObject *parent = nullptr);
 
     const Products &products() const { return allProducts; }
+    /// The products as a load takes them, with the default rates in use, which the operator may have changed.
+    QList<MachineProduct> loadedProducts() const;
     UnitSystem unitSystem() const { return units; }
     /// Also the product's rate channel (rate-cal name).
     static QString productGroupName(int number);
@@ -48,6 +52,7 @@ private:
     void followMaps();
 
     DataBroker *broker;
+    PrescriptionBackend *backend;
     Products allProducts;
     UnitSystem units;
     int active = 1;

@@ -33,19 +33,13 @@ static void initialiseResources()
 
 namespace {
 
-Amount amountOf(const Product &product)
+/// The report of a file that is not opened, since other ones have all columns that are wanted.
+LoadReport unused(const QString &path)
 {
-    switch (product.kind) {
-    case Product::Kind::Count:
-        return Amount::Count;
-    case Product::Kind::Volume:
-    case Product::Kind::Injection:
-        return Amount::Volume;
-    case Product::Kind::Weight:
-        return Amount::Weight;
-    default:
-        return Amount::Unknown;
-    }
+    LoadReport report;
+    report.path = path;
+    report.warnings.append(QStringLiteral("%1: not opened, it feeds no product").arg(path));
+    return report;
 }
 
 } // namespace
@@ -137,82 +131,34 @@ bool Terminal::show()
 
 LoadReport Terminal::open(const QString &path, const QStringList &columns)
 {
-    if (columns.isEmpty())
-        return openFor(path, productsUnderVra());
-    LoadReport refused;
-    refused.path = path;
-    if (columns.size() > machineModel->products().size()) {
-        refused.error =
-            QStringLiteral("%1: %2 columns are named, but the machine has %3 products")
-                .arg(path, QString::number(columns.size()), QString::number(machineModel->products().size()));
-        return refused;
-    }
-    LoadRequest request;
-    request.path = path;
-    request.columns = columns;
-    const QStringList leftOut = leaveOutUndriven(request);
-    if (!leftOut.isEmpty() && request.columns.join(QString()).isEmpty()) {
-        refused.error = leftOut.first();
-        return refused;
-    }
-    QList<int> numbers;
-    for (int number = 1; number <= columns.size(); ++number)
-        numbers.append(number);
-    LoadReport report = load(request, numbers);
-    if (report.isOk())
-        report.warnings = leftOut + report.warnings;
-    return report;
+    return prescriptions->loadAndWait({path, columns, machineModel->loadedProducts()});
 }
 
-QStringList Terminal::leaveOutUndriven(LoadRequest &request) const
+QList<LoadReport> Terminal::openTogether(const QStringList &paths, const QStringList &columns)
 {
-    QStringList leftOut;
-    for (int i = 0; i < request.columns.size(); ++i) {
-        const Product &product = machineModel->products().at(i);
-        if (product.underVra || request.columns.at(i).isEmpty())
-            continue;
-        leftOut.append(QStringLiteral("%1: column \"%2\" is left out, product %3 (%4) takes no prescription")
-                           .arg(request.path, request.columns.at(i), QString::number(i + 1), product.name));
-        request.columns[i].clear();
+    QList<LoadReport> reports;
+    const ColumnShares shares = PrescriptionBackend::shareColumns(paths, columns);
+    if (!shares.isOk()) {
+        reports.append(LoadReport());
+        reports.last().error = shares.error;
     }
-    return leftOut;
-}
-
-LoadReport Terminal::openFor(const QString &path, const QList<int> &productNumbers)
-{
-    LoadRequest request;
-    request.path = path;
-    return load(request, productNumbers);
-}
-
-LoadReport Terminal::load(LoadRequest request, const QList<int> &productNumbers)
-{
-    const Products &products = machineModel->products();
-    for (const int number : productNumbers) {
-        request.rateCalNames.append(Machine::productGroupName(number));
-        request.amounts.append(amountOf(products.at(number - 1)));
-        // The rate in use, which the operator may have changed.
-        request.defaultRates.append(prescriptions->loader(number - 1)->defaultRate);
+    QList<int> fed;
+    for (int i = 0; i < shares.columns.size(); ++i) {
+        LoadRequest request{paths.at(i), shares.columns.at(i), machineModel->loadedProducts()};
+        for (const int number : qAsConst(fed))
+            request.products[number - 1].isFed = true;
+        const bool isUnused = !columns.isEmpty() && request.columns.isEmpty();
+        reports.append(isUnused ? unused(request.path) : prescriptions->loadAndWait(request));
+        if (!reports.last().isOk())
+            return reports;
+        fed.append(columnsOf(reports.last().group).keys());
     }
-    for (const Product &product : products)
-        request.productNames.append(product.name);
-    return prescriptions->loadAndWait(request);
+    return reports;
 }
 
 bool Terminal::close(const QString &group)
 {
     return prescriptions->unload(group);
-}
-
-QList<int> Terminal::productsUnderVra() const
-{
-    QList<int> numbers;
-    const Products &products = machineModel->products();
-    for (int i = 0; i < products.size(); ++i) {
-        if (products.at(i).underVra)
-            numbers.append(i + 1);
-    }
-    return numbers;
 }
 
 QString Terminal::activeColumn() const

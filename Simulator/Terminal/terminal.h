@@ -55,12 +55,12 @@ public:
     /// leaves its product out, and so does a product that no prescription may drive, with a warning. Without columns
     /// the most likely ones feed the products that a prescription may drive.
     LoadReport open(const QString &path, const QStringList &columns);
-    /// The same, with the most likely columns for the products of these numbers (from 1).
-    LoadReport openFor(const QString &path, const QList<int> &productNumbers);
+    /// The same for several files at once, up to the first one that cannot be loaded: each product takes its column
+    /// from the first file that has it. Without columns each file feeds the products that none before it does; once all
+    /// are fed, a file takes products over. A file that is to feed nothing is not opened: its report names no group.
+    QList<LoadReport> openTogether(const QStringList &paths, const QStringList &columns);
     /// False when there is no such map.
     bool close(const QString &group);
-    /// Numbers from 1 of all products that a prescription may drive.
-    QList<int> productsUnderVra() const;
 
     /// The prescription column that feeds the active product; empty when none does.
     QString activeColumn() const;
@@ -87,9 +87,6 @@ private Q_SLOTS:
 
 private:
     void watchGroup(const QString &name);
-    LoadReport load(LoadRequest request, const QList<int> &productNumbers);
-    /// Clears the columns of products that no prescription may drive; a line for each.
-    QStringList leaveOutUndriven(LoadRequest &request) const;
     void connectDisplay();
     void installGraphicsLists();
     void followMaps();

@@ -1,6 +1,5 @@
 #include "terminalrun.h"
 
-#include "columnplan.h"
 #include "commandline.h"
 #include "consoleline.h"
 #include "languages.h"
@@ -50,47 +49,6 @@ QStringList withoutRepetition(const QStringList &paths)
     return files;
 }
 
-/// What a load left out or took for granted.
-void printWarnings(const LoadReport &report)
-{
-    for (const QString &warning : report.warnings)
-        writeErrorLine(warning);
-}
-
-QString openOne(Terminal &terminal, const QString &path, const QStringList &columns)
-{
-    const LoadReport report = terminal.open(path, columns);
-    if (report.isOk())
-        printWarnings(report);
-    return report.error;
-}
-
-QString openWithColumns(Terminal &terminal, const QStringList &paths, const QStringList &columns)
-{
-    if (paths.size() == 1)
-        return openOne(terminal, paths.first(), columns);
-    QList<ColumnPlan::File> files;
-    for (const QString &path : paths) {
-        const ColumnSearch search = PrescriptionBackend::findColumns(path, columns);
-        if (!search.isOk())
-            return search.error;
-        files.append({path, search.found});
-    }
-    const Result<QList<QStringList>> plan = ColumnPlan::distribute(files, columns);
-    if (!plan.isOk())
-        return plan.error;
-    for (int i = 0; i < files.size(); ++i) {
-        if (plan.value.at(i).isEmpty()) {
-            writeErrorLine(QStringLiteral("%1: not opened, it feeds no product").arg(files.at(i).path));
-            continue;
-        }
-        const QString error = openOne(terminal, files.at(i).path, plan.value.at(i));
-        if (!error.isEmpty())
-            return error;
-    }
-    return {};
-}
-
 void printFeeds(const Terminal &terminal, const LoadReport &report)
 {
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
@@ -103,23 +61,19 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
         writeOutputLine(QStringLiteral("%1: feeds no product").arg(report.path));
 }
 
-/// Each file feeds the products that none before it does; once all are fed, a file takes products over.
-QString openLikely(Terminal &terminal, const QStringList &paths)
+QString openAll(Terminal &terminal, const QStringList &paths, const QStringList &columns)
 {
-    QList<int> unfed = terminal.productsUnderVra();
-    QList<LoadReport> reports;
-    for (const QString &path : paths) {
-        const LoadReport report = terminal.openFor(path, unfed.isEmpty() ? terminal.productsUnderVra() : unfed);
+    const QList<LoadReport> reports = terminal.openTogether(paths, columns);
+    for (const LoadReport &report : reports) {
         if (!report.isOk())
             return report.error;
-        printWarnings(report);
-        const QList<int> fed = terminal.columnsOf(report.group).keys();
-        for (const int product : fed)
-            unfed.removeAll(product);
-        reports.append(report);
+        for (const QString &warning : report.warnings)
+            writeErrorLine(warning);
     }
-    for (const LoadReport &report : qAsConst(reports))
-        printFeeds(terminal, report);
+    for (const LoadReport &report : reports) {
+        if (columns.isEmpty())
+            printFeeds(terminal, report);
+    }
     return {};
 }
 
@@ -188,7 +142,7 @@ QString runTerminal(const CommandLine &line)
         error = QStringLiteral("the display has no OpenGL");
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty())
-        error = line.columns.isEmpty() ? openLikely(terminal, files) : openWithColumns(terminal, files, line.columns);
+        error = openAll(terminal, files, line.columns);
     if (!error.isEmpty())
         return error;
     showFedProduct(terminal);

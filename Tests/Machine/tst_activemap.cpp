@@ -49,7 +49,7 @@ void TestActiveMap::whatIsNotDrawnIsNoClass()
     request.path = TerminalHost::fixture(QStringLiteral("partly-without-rate.geojson"));
     request.columns = QStringList{"fert_rate"};
     request.columns.append(QStringLiteral("seed_rate"));
-    request.rateCalNames = QStringList{Machine::productGroupName(1), Machine::productGroupName(2)};
+    request.products = {{QString(), Machine::productGroupName(1)}, {QString(), Machine::productGroupName(2)}};
     const LoadReport report = backend.loadAndWait(request);
     QCOMPARE(report.legends.first().size(), 3);
     const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(1));
@@ -66,7 +66,7 @@ void TestActiveMap::theMappingOfTheProductIsFound()
     LoadRequest request;
     request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
     request.columns = QStringList{"SEED_K_HA", "HERB_L_HA"};
-    request.rateCalNames = QStringList{Machine::productGroupName(1), Machine::productGroupName(2)};
+    request.products = {{QString(), Machine::productGroupName(1)}, {QString(), Machine::productGroupName(2)}};
     QVERIFY(backend.loadAndWait(request).isOk());
     const ActiveMap map = ActiveMap::find(broker, Machine::productGroupName(2));
     QVERIFY(map.isValid());

@@ -81,7 +81,7 @@ LoadReport TestMachine::load(const QString &file, int product, const QString &co
     LoadRequest request;
     request.path = TerminalHost::fixture(file);
     request.columns = QStringList{column};
-    request.rateCalNames = QStringList{Machine::productGroupName(product)};
+    request.products = {{QString(), Machine::productGroupName(product)}};
     return backend->loadAndWait(request);
 }
 

@@ -33,7 +33,7 @@ void TestQueryListener::init()
     LoadRequest request;
     request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
     request.columns = QStringList{"SEED_K_HA"};
-    request.rateCalNames = QStringList{Machine::productGroupName(1)};
+    request.products = {{QString(), Machine::productGroupName(1)}};
     report = backend.loadAndWait(request);
     QVERIFY(report.isOk());
     map = ActiveMap::find(broker, Machine::productGroupName(1));

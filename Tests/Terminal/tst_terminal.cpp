@@ -30,7 +30,7 @@ void TestTerminal::twoMapsFeedTwoProducts()
 {
     const LoadReport zones = open("three-zones.geojson", {"SEED_K_HA"});
     QVERIFY(zones.isOk());
-    const LoadReport overlap = terminal().openFor(TerminalHost::fixture("overlap.geojson"), {2});
+    const LoadReport overlap = open("overlap.geojson", {QString(), "rate"});
     QVERIFY2(overlap.isOk(), qPrintable(overlap.error));
     QCOMPARE(terminal().columnsOf(zones.group).keys(), QList<int>{1});
     QCOMPARE(terminal().columnsOf(overlap.group).keys(), QList<int>{2});
@@ -45,7 +45,7 @@ void TestTerminal::theNewestMapTakesAProductOverAndGivesItBack()
     const LoadReport zones = open("three-zones.geojson", {"SEED_K_HA"});
     QVERIFY(zones.isOk());
     const QColor before = terminal().mapColor(QPointF(-100, 0));
-    const LoadReport overlap = terminal().openFor(TerminalHost::fixture("overlap.geojson"), {1});
+    const LoadReport overlap = open("overlap.geojson", {"rate"});
     QVERIFY(overlap.isOk());
     QCOMPARE(terminal().columnsOf(zones.group).size(), 0);
     QCOMPARE(terminal().columnsOf(overlap.group).size(), 1);
@@ -132,7 +132,7 @@ void TestTerminal::boundsAreThoseOfEverythingLoaded()
     const QRectF bounds = terminal().bounds().value();
     QVERIFY(std::abs(bounds.width() - 300.0) < 1.0);
     QVERIFY(std::abs(bounds.height() - 100.0) < 1.0);
-    const LoadReport other = terminal().openFor(TerminalHost::fixture("overlap.geojson"), {2});
+    const LoadReport other = open("overlap.geojson", {QString(), "rate"});
     QVERIFY(terminal().bounds()->contains(bounds));
     QVERIFY(terminal().bounds()->contains(other.bounds));
 }

@@ -10,7 +10,7 @@ WholePrescription::WholePrescription(const QString &path)
 {
     LoadRequest request;
     request.path = path;
-    request.rateCalNames = QStringList{MapHost::productGroup(1)};
+    request.products = {{QString(), MapHost::productGroup(1)}};
     // Without rates in it, but full of rings: any numeric column will do.
     if (path.endsWith(QLatin1String("parcels.shp")))
         request.columns = QStringList{QStringLiteral("AREA_HA")};

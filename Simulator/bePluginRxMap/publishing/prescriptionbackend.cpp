@@ -1,8 +1,8 @@
 #include "Backend/prescriptionbackend.h"
 
+#include "columnpolicy.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionreader.h"
-#include "ratecolumns.h"
 
 #include <QEventLoop>
 
@@ -17,21 +17,25 @@ PrescriptionBackend::PrescriptionBackend(DataBroker *broker, QObject *parent)
 
 PrescriptionBackend::~PrescriptionBackend() = default;
 
-ColumnSearch PrescriptionBackend::findColumns(const QString &path, const QStringList &wanted)
+ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const QStringList &columns)
 {
-    ColumnSearch search;
-    QStringList names;
-    const LoadControl control;
-    PrescriptionReader reader(path, {}, control);
-    if (!reader.readColumnNames(names)) {
-        search.error = QStringLiteral("%1: %2").arg(path, reader.error());
-        return search;
+    ColumnShares shares;
+    if (columns.isEmpty() || paths.size() == 1) {
+        for (int i = 0; i < paths.size(); ++i)
+            shares.columns.append(columns);
+        return shares;
     }
-    for (const QString &name : wanted) {
-        if (RateColumns::find(names, name) >= 0)
-            search.found.append(name);
+    QList<ColumnPolicy::File> files;
+    for (int i = 0; i < paths.size() && shares.isOk(); ++i) {
+        const QString &path = paths.at(i);
+        const LoadControl control;
+        PrescriptionReader reader(path, {}, control);
+        ColumnPolicy::File file{path, {}};
+        if (!reader.readColumnNames(file.columns))
+            shares.error = QStringLiteral("%1: %2").arg(path, reader.error());
+        files.append(file);
     }
-    return search;
+    return shares.isOk() ? ColumnPolicy::share(files, columns) : shares;
 }
 
 void PrescriptionBackend::load(const LoadRequest &request)

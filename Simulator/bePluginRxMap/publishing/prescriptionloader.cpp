@@ -1,6 +1,5 @@
 #include "prescriptionloader.h"
 
-#include "columnchoice.h"
 #include "duplicatepolygons.h"
 #include "gdalsession.h"
 #include "legendbuilder.h"
@@ -26,6 +25,7 @@ constexpr size_t ringsPerReport = 256;
 PrescriptionLoader::PrescriptionLoader(const LoadRequest &loadRequest, const std::vector<LocalPlane> &knownPlanes,
                                        const LoadControl &loadControl)
     : request(loadRequest)
+    , policy(loadRequest.products, loadRequest.columns)
     , planes(knownPlanes)
     , control(loadControl)
 {
@@ -53,7 +53,8 @@ std::unique_ptr<LoadedMap> PrescriptionLoader::load()
     auto map = std::make_unique<LoadedMap>();
     report = &map->report;
     report->path = request.path;
-    map->productNames = request.productNames.isEmpty() ? request.rateCalNames : request.productNames;
+    for (const MachineProduct &product : request.products)
+        map->productNames.append(product.name.isEmpty() ? product.rateCalName : product.name);
     try {
         if (!loadInto(*map)) {
             map->chain.reset();
@@ -72,9 +73,13 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     const GdalSession session;
     LoadControl reading = control;
     reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
-    PrescriptionReader reader(request.path, request.columns, reading);
-    if (!checkRequest())
-        return false;
+    if (control.isCancelled())
+        return fail(QStringLiteral("loading was cancelled"));
+    if (!policy.refusal().isEmpty())
+        return fail(policy.refusal());
+    for (const QString &warning : policy.warnings())
+        warn(warning);
+    PrescriptionReader reader(request.path, policy.named(), reading);
     if (!reader.read(source))
         return fail(reader.error());
     if (!place(map) || !repairRings() || !chooseColumns(map))
@@ -89,22 +94,6 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     buildLegends(map);
     reportCounts(map);
     control.report(1.0);
-    return true;
-}
-
-bool PrescriptionLoader::checkRequest()
-{
-    if (control.isCancelled())
-        return fail(QStringLiteral("loading was cancelled"));
-    if (request.rateCalNames.isEmpty())
-        return fail(QStringLiteral("there is no product to load it for"));
-    if (request.columns.size() > request.rateCalNames.size())
-        return fail(
-            QStringLiteral("column \"%1\" has no product: there are %2")
-                .arg(request.columns.at(request.rateCalNames.size()), QString::number(request.rateCalNames.size())));
-    const auto isEmpty = [](const QString &name) { return name.isEmpty(); };
-    if (!request.columns.isEmpty() && std::all_of(request.columns.begin(), request.columns.end(), isEmpty))
-        return fail(QStringLiteral("no column is named for any product"));
     return true;
 }
 
@@ -167,44 +156,41 @@ bool PrescriptionLoader::repairRings()
 
 bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 {
-    const ColumnChoice choice(request, source, polygons);
-    map.report.columns = choice.columns();
-    for (const QString &warning : choice.warnings())
+    const ColumnPolicy::Decision decision = policy.decide(source, polygons);
+    for (const QString &warning : decision.warnings)
         warn(warning);
-    if (!choice.isOk())
-        return fail(choice.error());
-    map.rateCalNames = choice.rateCalNames();
-    map.defaultRates = choice.defaultRates();
-    mappings = static_cast<size_t>(choice.columns().size());
-    rates = choice.rates();
+    if (!decision.error.isEmpty())
+        return fail(decision.error);
+    for (const ColumnPolicy::Feed &feed : decision.feeds) {
+        const MachineProduct &product = request.products.at(feed.product);
+        map.report.columns.append(source.columns[static_cast<size_t>(feed.column)].name);
+        map.rateCalNames.append(product.rateCalName);
+        map.defaultRates.append(product.defaultRate);
+    }
+    rates = RateTable(source, decision.feeds);
     return true;
 }
 
 void PrescriptionLoader::dropRecordsWithoutRate()
 {
-    const auto hasNoRate = [this](int record) {
-        const auto first = rates.begin() + static_cast<std::ptrdiff_t>(static_cast<size_t>(record) * mappings);
-        return std::all_of(first, first + static_cast<std::ptrdiff_t>(mappings),
-                           [](float rate) { return std::isnan(rate); });
-    };
     int last = -1;
     for (const PlanePolygon &polygon : polygons) {
-        if (polygon.record != last && hasNoRate(polygon.record))
+        if (polygon.record != last && rates.hasNone(polygon.record))
             ++recordsWithoutRate;
         last = polygon.record;
     }
     polygons.erase(std::remove_if(polygons.begin(), polygons.end(),
-                                  [&hasNoRate](const PlanePolygon &polygon) { return hasNoRate(polygon.record); }),
+                                  [this](const PlanePolygon &polygon) { return rates.hasNone(polygon.record); }),
                    polygons.end());
 }
 
 void PrescriptionLoader::warnOfGaps()
 {
-    for (size_t i = 0; i < mappings; ++i) {
+    for (size_t i = 0; i < rates.mappings(); ++i) {
         int gaps = 0;
         int last = -1;
         for (const PlanePolygon &polygon : polygons) {
-            if (polygon.record != last && std::isnan(rates[static_cast<size_t>(polygon.record) * mappings + i]))
+            if (polygon.record != last && std::isnan(rates.at(polygon.record, i)))
                 ++gaps;
             last = polygon.record;
         }
@@ -228,9 +214,8 @@ void PrescriptionLoader::countRings(LoadedMap &map) const
 void PrescriptionLoader::dropHidden()
 {
     const auto hides = [this](int later, int earlier) {
-        for (size_t i = 0; i < mappings; ++i) {
-            if (std::isnan(rates[static_cast<size_t>(later) * mappings + i])
-                && !std::isnan(rates[static_cast<size_t>(earlier) * mappings + i]))
+        for (size_t i = 0; i < rates.mappings(); ++i) {
+            if (std::isnan(rates.at(later, i)) && !std::isnan(rates.at(earlier, i)))
                 return false;
         }
         return true;
@@ -254,17 +239,18 @@ bool PrescriptionLoader::arrange()
 
 void PrescriptionLoader::makeChain(LoadedMap &map) const
 {
-    map.chain = std::make_unique<PolygonChain>(polygons, rates, mappings);
-    map.lookup = std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), mappings, arrangement.takers);
+    map.chain = std::make_unique<PolygonChain>(polygons, rates.values(), rates.mappings());
+    map.lookup =
+        std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), rates.mappings(), arrangement.takers);
 }
 
 void PrescriptionLoader::buildLegends(LoadedMap &map) const
 {
-    for (size_t i = 0; i < mappings; ++i) {
+    for (size_t i = 0; i < rates.mappings(); ++i) {
         std::vector<float> column;
         column.reserve(polygons.size());
         for (const PlanePolygon &polygon : polygons)
-            column.push_back(rates[static_cast<size_t>(polygon.record) * mappings + i]);
+            column.push_back(rates.at(polygon.record, i));
         map.report.legends.append(LegendBuilder::build(column));
         map.report.hasSingleRates.append(LegendBuilder::hasSingleRates(map.report.legends.last(), column));
     }

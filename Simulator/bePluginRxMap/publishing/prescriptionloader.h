@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Backend/loadrequest.h"
+#include "columnpolicy.h"
 #include "holearrangement.h"
 #include "loadcontrol.h"
 #include "loadedmap.h"
+#include "ratetable.h"
 #include "rawprescription.h"
 
 #include <memory>
@@ -25,7 +27,6 @@ private:
     void warn(const QString &text);
     void warnCount(int count, const QString &one, const QString &many);
 
-    bool checkRequest();
     bool place(LoadedMap &map);
     bool repairRings();
     bool chooseColumns(LoadedMap &map);
@@ -40,6 +41,7 @@ private:
     void reportCounts(LoadedMap &map);
 
     LoadRequest request;
+    ColumnPolicy policy;
     std::vector<LocalPlane> planes;
     const LoadControl &control;
     LoadReport *report = nullptr;
@@ -49,8 +51,6 @@ private:
     std::vector<double> ys;
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;
-    /// One per mapping for each record.
-    std::vector<float> rates;
-    size_t mappings = 0;
+    RateTable rates;
     int recordsWithoutRate = 0;
 };

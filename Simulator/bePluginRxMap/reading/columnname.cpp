@@ -25,7 +25,7 @@ const QSet<QString> &rateWords()
 }
 
 struct AmountWords {
-    Amount amount;
+    ProductLineItem::Basis basis;
     QSet<QString> units;
     QSet<QString> products;
 };
@@ -33,11 +33,11 @@ struct AmountWords {
 const QVector<AmountWords> &amountWords()
 {
     static const QVector<AmountWords> words = {
-        {Amount::Count, wordSet("seeds sds s k ks ksds plants pl st korn kst ct"),
+        {ProductLineItem::Count, wordSet("seeds sds s k ks ksds plants pl st korn kst ct"),
          wordSet("seed seeding sow saat saatgut samen semence semilla semente population pop")},
-        {Amount::Volume, wordSet("l lt ltr liter litre ml gal floz pt qt"),
+        {ProductLineItem::Volume, wordSet("l lt ltr liter litre ml gal floz pt qt"),
          wordSet("herb herbicide fung fungicide insect spray liquid herbizid water")},
-        {Amount::Weight, wordSet("kg g t to lb lbs oz"),
+        {ProductLineItem::Weight, wordSet("kg g t to lb lbs oz"),
          wordSet("fert fertiliser fertilizer duenger dunger engrais fertilizante adubo urea lime kalk")},
     };
     return words;
@@ -149,21 +149,21 @@ QString ColumnName::unit() const
     return words.isEmpty() ? QString() : words.last();
 }
 
-Amount ColumnName::amount() const
+ProductLineItem::Basis ColumnName::basis() const
 {
     // Seed is sown by weight, too: its name says more than its unit.
     for (const AmountWords &known : amountWords()) {
         const bool isNamed = std::any_of(words.begin(), words.end(),
                                          [&known](const QString &word) { return isIn(known.products, word); });
         if (isNamed)
-            return known.amount;
+            return known.basis;
     }
     const QString measure = unit();
     for (const AmountWords &known : amountWords()) {
         if (known.units.contains(measure))
-            return known.amount;
+            return known.basis;
     }
-    return Amount::Unknown;
+    return ProductLineItem::None;
 }
 
 bool ColumnName::namesRate() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/amount.h"
+#include "Framework/productlineitem.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,7 +16,7 @@ public:
     /// Names what no rate is: an identifier, size, total, extent, place.
     bool namesOther() const;
     /// What a word for the product, else the rate's unit, says is measured out.
-    Amount amount() const;
+    ProductLineItem::Basis basis() const;
 
 private:
     bool namesUnitPerArea() const;

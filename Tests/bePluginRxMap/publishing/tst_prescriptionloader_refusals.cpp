@@ -7,8 +7,7 @@ class PrescriptionLoaderRefusalsTest : public LoaderTest {
 private Q_SLOTS:
     void saysWhyItCannotLoad_data();
     void saysWhyItCannotLoad();
-    void refusesARequestThatMakesNoSense_data();
-    void refusesARequestThatMakesNoSense();
+    void refusesColumnsThatCanFeedNothing();
     void refusesATruncatedShapefile();
     void refusesShapefilesWhosePartsDoNotFit();
     void countsWhatItSkipsButRefusesWhenNothingIsLeft();
@@ -57,27 +56,12 @@ void PrescriptionLoaderRefusalsTest::saysWhyItCannotLoad()
     QVERIFY(!map->report.error.contains(QLatin1Char('\n')));
 }
 
-void PrescriptionLoaderRefusalsTest::refusesARequestThatMakesNoSense_data()
+void PrescriptionLoaderRefusalsTest::refusesColumnsThatCanFeedNothing()
 {
-    QTest::addColumn<QStringList>("columns");
-    QTest::addColumn<QStringList>("products");
-    QTest::addColumn<QString>("reason");
-    const QStringList products = requestFor({}).rateCalNames;
-    QTest::newRow("no product") << QStringList() << QStringList() << "no product";
-    QTest::newRow("more columns than products") << QStringList({"SEED_K_HA", "FERT_KG_HA", "HERB_L_HA", "%2"})
-                                                << products << "\"%2\" has no product: there are 3";
-    QTest::newRow("empty columns only") << QStringList({"", ""}) << products << "no column is named";
-    QTest::newRow("a column that is not there") << QStringList({"SEED_K_HA", "LIME"}) << products << "\"LIME\"";
-}
-
-void PrescriptionLoaderRefusalsTest::refusesARequestThatMakesNoSense()
-{
-    QFETCH(QStringList, columns);
-    QFETCH(QStringList, products);
-    QFETCH(QString, reason);
-    LoadRequest request = requestFor(fixture("three-zones.geojson"), columns);
-    request.rateCalNames = products;
-    QVERIFY2(load(request)->report.error.contains(reason), qPrintable(load(request)->report.error));
+    const QString path = fixture("three-zones.geojson");
+    QCOMPARE(load(path, {"", ""})->report.error, path + QStringLiteral(": no column is named for any product"));
+    const QString error = load(path, {"SEED_K_HA", "LIME"})->report.error;
+    QVERIFY2(error.contains(QLatin1String("\"LIME\"")), qPrintable(error));
 }
 
 void PrescriptionLoaderRefusalsTest::refusesATruncatedShapefile()

@@ -17,9 +17,12 @@ inline LoadRequest requestFor(const QString &path, const QStringList &columns = 
     LoadRequest request;
     request.path = path;
     request.columns = columns;
-    request.rateCalNames =
-        QStringList({QStringLiteral("product1"), QStringLiteral("product2"), QStringLiteral("product3")});
-    request.productNames = QStringList({QStringLiteral("Seed"), QStringLiteral("Fertiliser"), QStringLiteral("Spray")});
-    request.defaultRates = {1.0, 2.0, 3.0};
+    for (const char *name : {"Seed", "Fertiliser", "Spray"}) {
+        MachineProduct product;
+        product.name = QString::fromLatin1(name);
+        product.rateCalName = QStringLiteral("product%1").arg(request.products.size() + 1);
+        product.defaultRate = request.products.size() + 1.0;
+        request.products.append(product);
+    }
     return request;
 }

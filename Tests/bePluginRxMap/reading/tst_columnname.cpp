@@ -1,7 +1,7 @@
 #include "columnname.h"
 #include "testbase.h"
 
-Q_DECLARE_METATYPE(Amount)
+Q_DECLARE_METATYPE(ProductLineItem::Basis)
 
 class ColumnNameTest : public TestBase {
     Q_OBJECT
@@ -48,21 +48,21 @@ void ColumnNameTest::tellsRatesFromTheRest()
 
 void ColumnNameTest::tellsWhatIsMeasuredOut_data()
 {
-    QTest::addColumn<Amount>("amount");
+    QTest::addColumn<ProductLineItem::Basis>("basis");
     for (const char *name : {"SEED_KS_HA", "rate_seeds_ac", "seed_rate", "SEED_kg_ha", "PopRate", "ksha", "Saat_Rate"})
-        QTest::newRow(name) << Amount::Count;
+        QTest::newRow(name) << ProductLineItem::Count;
     for (const char *name : {"HERB_l_ha", "HERB_L_HA", "X_lha", "X_lperhectare", "qt_acre", "gal_per_ac", "N_galperac",
                              "dose_herb", "RateMlHa"})
-        QTest::newRow(name) << Amount::Volume;
+        QTest::newRow(name) << ProductLineItem::Volume;
     for (const char *name : {"RATE_kg_", "FERT_KG_HA", "N_kgha", "LimeTHa", "UreaLbAc", "fert_rate"})
-        QTest::newRow(name) << Amount::Weight;
+        QTest::newRow(name) << ProductLineItem::Weight;
     for (const char *name : {"rate", "dose", "Rx1", "target_rat", "value", ""})
-        QTest::newRow(name) << Amount::Unknown;
+        QTest::newRow(name) << ProductLineItem::None;
 }
 
 void ColumnNameTest::tellsWhatIsMeasuredOut()
 {
-    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).amount(), "amount");
+    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).basis(), "basis");
 }
 
 RXMAP_TEST(ColumnNameTest, Core)

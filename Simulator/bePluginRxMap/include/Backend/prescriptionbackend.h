@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/columnsearch.h"
+#include "Backend/columnshares.h"
 #include "Backend/loadreport.h"
 #include "Backend/loadrequest.h"
 
@@ -26,8 +26,9 @@ public:
     /// Cancels what is loading and unloads every map.
     ~PrescriptionBackend() override;
 
-    /// Looks columns up in a file, by the names under which load() would take them. Reads the table's head only.
-    static ColumnSearch findColumns(const QString &path, const QStringList &wanted);
+    /// Which of several files feeds which product, when `columns` (of products 1, 2, ...) are named for all of them
+    /// together. Reads the tables' heads only.
+    static ColumnShares shareColumns(const QStringList &paths, const QStringList &columns);
 
     /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
     void load(const LoadRequest &request);

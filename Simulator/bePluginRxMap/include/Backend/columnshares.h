@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// What each one of several files is to feed, when columns are named for all of them together.
+struct ColumnShares {
+    /// For each file the columns of products 1, 2, ..., as in LoadRequest; empty for a file that feeds none. None on
+    /// failure.
+    QList<QStringList> columns;
+    /// One line that names the file and the reason; empty on success.
+    QString error;
+
+    bool isOk() const { return error.isEmpty(); }
+};

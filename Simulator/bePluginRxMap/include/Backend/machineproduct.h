@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Framework/dbgroupproductgroupinfo.h"
+
+#include <QString>
+
+/// What a load has to know of one product of the machine.
+struct MachineProduct {
+    QString name;
+    /// Name of its product group, which is also its rate channel.
+    QString rateCalName;
+    DbGroupProductGroupInfo::RateKind kind = DbGroupProductGroupInfo::UnknownRate;
+    /// The rate in use where the prescription gives none, base units.
+    double defaultRate = 0.0;
+    /// Whether a prescription may drive it.
+    bool isDriven = true;
+    /// Whether another one of the files that are opened together feeds it. Likely columns go to the other products
+    /// first.
+    bool isFed = false;
+};
