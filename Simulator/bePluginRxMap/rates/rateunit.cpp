@@ -1,0 +1,237 @@
+#include "rateunit.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+using Words = QStringList;
+
+QSet<QString> wordSet(const char *text)
+{
+    const QStringList words = QString::fromLatin1(text).split(QLatin1Char(' '));
+    return QSet<QString>(words.begin(), words.end());
+}
+
+bool isPer(const QString &word)
+{
+    static const QSet<QString> words = wordSet("per p por par pro je");
+    return words.contains(word);
+}
+
+/// What may stand between amount and area: "kg N/ha".
+bool isSubstance(const QString &word)
+{
+    static const QSet<QString> words =
+        wordSet("n p k s b ca mg zn mn p2o5 k2o so3 mgo cao ai ae prod product produkt seeds seed plants");
+    return words.contains(word);
+}
+
+/// Takes the unit that begins at `place`, of as many words as possible; null, and nothing taken, when none does.
+template <typename Unit> const Unit *take(const QHash<QString, const Unit *> &units, const Words &words, int &place)
+{
+    constexpr int mostWords = 3;
+    for (int count = std::min(mostWords, words.size() - place); count > 0; --count) {
+        const auto found = units.constFind(words.mid(place, count).join(QString()));
+        if (found == units.constEnd())
+            continue;
+        place += count;
+        return *found;
+    }
+    return nullptr;
+}
+
+/// Units per area in one word: "kgha", "galperac", "lpha".
+QHash<QString, RateUnit> joinedUnits()
+{
+    QHash<QString, RateUnit> joined{{QStringLiteral("gpa"), {UnitTable::amount("gal"), UnitTable::area("ac")}}};
+    static const QSet<QString> areaWords = wordSet("ha hectare hectares ac acre acres m2 daa ft2 1000ft2");
+    const auto &amounts = UnitTable::amountsBySpelling();
+    const auto &areas = UnitTable::areasBySpelling();
+    for (auto amount = amounts.begin(); amount != amounts.end(); ++amount) {
+        for (auto area = areas.begin(); area != areas.end(); ++area) {
+            // The others are too short, or too rare, to be told from other words.
+            if (!areaWords.contains(area.key()) || amount.key() == QLatin1String("s"))
+                continue;
+            const RateUnit unit(*amount, *area);
+            for (const char *link : {"", "p", "per"})
+                joined.insert(amount.key() + QLatin1String(link) + area.key(), unit);
+        }
+    }
+    return joined;
+}
+
+const AreaUnit *cutArea(const QString &word)
+{
+    for (const char *whole : {"hectare", "acre"}) {
+        if (QLatin1String(whole).startsWith(word))
+            return UnitTable::areasBySpelling().value(QLatin1String(whole));
+    }
+    return nullptr;
+}
+
+/// Takes the unit per area that begins at `place`; not known, and nothing taken, when none does.
+RateUnit takeUnit(const Words &words, int &place, bool isCut)
+{
+    static const QHash<QString, RateUnit> joined = joinedUnits();
+    if (joined.contains(words.at(place)))
+        return joined.value(words.at(place++));
+    int next = place;
+    const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
+    if (amount == nullptr)
+        return {};
+    if (next + 1 < words.size() && amount->basis != ProductLineItem::Count && isSubstance(words.at(next)))
+        ++next;
+    if (next + 1 < words.size() && isPer(words.at(next)))
+        ++next;
+    const bool isLast = next == words.size() - 1;
+    const AreaUnit *area = nullptr;
+    // A lone "a" is short for an acre, but where metric units stand before it.
+    if (isLast && words.at(next) == QLatin1String("a") && (amount->isCustomary || isCut))
+        area = UnitTable::area("ac");
+    else if (next < words.size())
+        area = take(UnitTable::areasBySpelling(), words, next);
+    if (area == nullptr && isLast && isCut)
+        area = cutArea(words.at(next));
+    if (area == nullptr)
+        return {};
+    place = isLast ? words.size() : next;
+    return {amount, area};
+}
+
+} // namespace
+
+RateUnit::RateUnit(const AmountUnit *amountUnit, const AreaUnit *areaUnit)
+    : amount(areaUnit == nullptr ? nullptr : amountUnit)
+    , area(amountUnit == nullptr ? nullptr : areaUnit)
+{
+    // Where land is measured in metric units, so are tons.
+    static const AmountUnit *const shortTon = UnitTable::amount("ton");
+    static const QSet<QString> customaryAreas = wordSet("ac ft2");
+    if (amount == shortTon && isKnown() && !customaryAreas.contains(QLatin1String(area->symbol))
+        && qstrcmp(area->symbol, "1000 ft2") != 0)
+        amount = UnitTable::amount("t");
+}
+
+QStringList RateUnit::wordsOf(const QString &text)
+{
+    QString plain = text;
+    for (const auto &[letter, spelled] : {std::pair(u'ä', "ae"), std::pair(u'ö', "oe"), std::pair(u'ü', "ue"),
+                                          std::pair(u'Ä', "Ae"), std::pair(u'Ö', "Oe"), std::pair(u'Ü', "Ue")})
+        plain.replace(QChar(letter), QLatin1String(spelled));
+    plain = plain.normalized(QString::NormalizationForm_KD);
+    QStringList words;
+    QString word;
+    QChar before;
+    for (int i = 0; i <= plain.size(); ++i) {
+        const QChar letter = i < plain.size() ? plain.at(i) : QChar(QLatin1Char(' '));
+        if (letter.isMark())
+            continue;
+        // A lone letter belongs to what follows: "mL".
+        const bool isHump = letter.isUpper() && before.isLower() && word.size() > 1;
+        if ((!letter.isLetterOrNumber() || isHump) && !word.isEmpty()) {
+            words.append(word.toLower());
+            word.clear();
+        }
+        if (letter.isLetterOrNumber())
+            word.append(letter);
+        before = letter;
+    }
+    return words;
+}
+
+RateUnit RateUnit::fromText(const QString &text)
+{
+    const Words words = wordsOf(text.toLower());
+    int place = 0;
+    const RateUnit unit = words.isEmpty() ? RateUnit() : takeUnit(words, place, false);
+    return place == words.size() ? unit : RateUnit();
+}
+
+RateUnit RateUnit::find(const QStringList &words, bool isCut)
+{
+    for (int place = 0; place < words.size(); ++place) {
+        // "SEED_HA" may be in any unit per hectare.
+        if (words.at(place) == QLatin1String("seed"))
+            continue;
+        int next = place;
+        const RateUnit unit = takeUnit(words, next, isCut);
+        if (unit.isKnown())
+            return unit;
+    }
+    return {};
+}
+
+RateUnit RateUnit::findAmount(const QStringList &words)
+{
+    for (int place = words.size() - 1; place >= 0; --place) {
+        int next = place;
+        const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
+        // Counts are named by what is counted, too, which is no unit then.
+        if (amount != nullptr && amount->basis != ProductLineItem::Count)
+            return {amount, UnitTable::area(amount->isCustomary ? "ac" : "ha")};
+    }
+    return {};
+}
+
+QString RateUnit::text() const
+{
+    return isKnown() ? QLatin1String(amount->symbol) + QLatin1Char('/') + QLatin1String(area->symbol) : QString();
+}
+
+RateUnit RateUnit::of(Kind kind) const
+{
+    static const AmountUnit *const ounce = UnitTable::amount("oz");
+    const bool isLiquid = kind == DbGroupProductGroupInfo::VolumeRate || kind == DbGroupProductGroupInfo::InjectionRate;
+    return isLiquid && isKnown() && amount == ounce ? RateUnit(UnitTable::amount("fl oz"), area) : *this;
+}
+
+bool RateUnit::fits(Kind kind) const
+{
+    const ProductLineItem::Basis measured = of(kind).basis();
+    switch (kind) {
+    case DbGroupProductGroupInfo::UnknownRate:
+        return true;
+    case DbGroupProductGroupInfo::CountRate:
+        return !isKnown() || measured == ProductLineItem::Count;
+    case DbGroupProductGroupInfo::VolumeRate:
+    case DbGroupProductGroupInfo::InjectionRate:
+        return !isKnown() || measured == ProductLineItem::Volume;
+    case DbGroupProductGroupInfo::WeightRate:
+        return !isKnown() || measured == ProductLineItem::Weight;
+    default:
+        return !isKnown();
+    }
+}
+
+double RateUnit::factorTo(Kind kind) const
+{
+    const RateUnit unit = of(kind);
+    if (!isKnown() || !fits(kind))
+        return 1.0;
+    constexpr double millilitresPerLitre = 1000.0;
+    const double amounts = kind == DbGroupProductGroupInfo::InjectionRate ? unit.amount->factor * millilitresPerLitre
+                                                                          : unit.amount->factor;
+    return amounts / unit.area->hectares;
+}
+
+QString RateUnit::baseText(Kind kind)
+{
+    switch (kind) {
+    case DbGroupProductGroupInfo::CountRate:
+        return QStringLiteral("1000/ha");
+    case DbGroupProductGroupInfo::RatioRate:
+        return QStringLiteral("L/L");
+    case DbGroupProductGroupInfo::InjectionRate:
+        return QStringLiteral("mL/ha");
+    case DbGroupProductGroupInfo::VolumeRate:
+        return QStringLiteral("L/ha");
+    case DbGroupProductGroupInfo::WeightRate:
+        return QStringLiteral("kg/ha");
+    case DbGroupProductGroupInfo::PressureRate:
+        return QStringLiteral("kPa");
+    default:
+        return {};
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "unittable.h"
+
+#include "Framework/dbgroupproductgroupinfo.h"
+
+#include <QString>
+#include <QStringList>
+
+/// A unit in which a file writes rates: an amount per area.
+class RateUnit {
+public:
+    using Kind = DbGroupProductGroupInfo::RateKind;
+
+    /// Not known.
+    RateUnit() = default;
+    /// Both units of the table, or none.
+    RateUnit(const AmountUnit *amount, const AreaUnit *area);
+
+    /// The unit that a text is: "l/ha", "lbs per acre", "kg N/ha", "GPA". Not known when it is none.
+    static RateUnit fromText(const QString &text);
+    /// The unit within a name's words (small letters). `isCut`: the last word may lack its end.
+    static RateUnit find(const QStringList &words, bool isCut);
+    /// An amount alone among a name's words, per acre or hectare as it is commonly used.
+    static RateUnit findAmount(const QStringList &words);
+    /// Small words of a text, as the units' spellings have them: split at everything but letters and digits, and where
+    /// small letters meet capitals; without accents.
+    static QStringList wordsOf(const QString &text);
+
+    bool isKnown() const { return amount != nullptr; }
+    /// "lb/ac"; empty when it is not known.
+    QString text() const;
+    ProductLineItem::Basis basis() const { return isKnown() ? amount->basis : ProductLineItem::None; }
+
+    /// Whether rates of such a product can be written in it. A unit that is not known may be any.
+    bool fits(Kind kind) const;
+    /// The same unit as a product of that kind is measured in it: ounces of a liquid are fluid ounces.
+    RateUnit of(Kind kind) const;
+    /// Multiplies rates to the base unit of the kind, which the unit fits; 1 when either is not known.
+    double factorTo(Kind kind) const;
+    /// "kg/ha"; empty for an unknown kind.
+    static QString baseText(Kind kind);
+
+private:
+    const AmountUnit *amount = nullptr;
+    const AreaUnit *area = nullptr;
+};
