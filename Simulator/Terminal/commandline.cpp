@@ -10,6 +10,7 @@
 namespace {
 
 const QString columnsOption = QStringLiteral("columns");
+const QString sourceUnitsOption = QStringLiteral("source-units");
 const QString productsOption = QStringLiteral("products");
 const QString unitsOption = QStringLiteral("units");
 const QString languageOption = QStringLiteral("language");
@@ -28,6 +29,10 @@ void declareOptions(QCommandLineParser &parser)
                                  QStringLiteral("[PRESCRIPTION...]"));
     parser.addOptions({
         {columnsOption, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
+         QStringLiteral("A,B,...")},
+        {sourceUnitsOption,
+         QStringLiteral("units of the columns of products 1, 2, ...: lb/ac, gal/ac, seeds/m2, t/ha, ... (default: what "
+                        "the file says)"),
          QStringLiteral("A,B,...")},
         {productsOption, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
         {unitsOption, QStringLiteral("the operator's unit system: us, metric (default) or turf"),
@@ -70,12 +75,48 @@ QString readDescribe(const QString &text, CommandLine &line)
     return {};
 }
 
+/// The entries of a list, quoted as in CSV (RFC 4180): an entry in quotes may hold commas, and quotes that are doubled.
+/// Nothing where a quote is left open.
+std::optional<QStringList> entriesOf(const QString &text)
+{
+    const QChar quote = QLatin1Char('"');
+    QStringList entries{QString()};
+    bool isQuoted = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar letter = text.at(i);
+        const bool isDoubled = isQuoted && letter == quote && i + 1 < text.size() && text.at(i + 1) == quote;
+        if (letter == QLatin1Char(',') && !isQuoted) {
+            entries.append(QString());
+            continue;
+        }
+        if (letter == quote && !isDoubled)
+            isQuoted = !isQuoted;
+        else
+            entries.last().append(letter);
+        i += isDoubled ? 1 : 0;
+    }
+    for (QString &entry : entries)
+        entry = entry.trimmed();
+    return isQuoted ? std::nullopt : std::optional(entries);
+}
+
 QString readColumns(const QString &text, CommandLine &line)
 {
-    for (const QString &column : text.split(QLatin1Char(',')))
-        line.columns.append(column.trimmed());
+    const std::optional<QStringList> entries = entriesOf(text);
+    if (!entries)
+        return QStringLiteral("--columns %1: a quote is left open").arg(text);
+    line.columns = *entries;
     if (line.columns.join(QString()).isEmpty())
         return QStringLiteral("--columns %1: names no column").arg(text);
+    return {};
+}
+
+QString readSourceUnits(const QString &text, CommandLine &line)
+{
+    for (const QString &unit : text.split(QLatin1Char(',')))
+        line.sourceUnits.append(unit.trimmed());
+    if (line.sourceUnits.join(QString()).isEmpty())
+        return QStringLiteral("--source-units %1: names no unit").arg(text);
     return {};
 }
 
@@ -93,8 +134,8 @@ QString requireFolder(const QString &option, const QString &path)
 /// An option that is given more than once, or without a value, is a mistake that must not pass silently.
 QString checkValues(const QCommandLineParser &parser)
 {
-    for (const QString &option : {columnsOption, productsOption, unitsOption, languageOption, pluginDirOption,
-                                  describeOption, screenshotOption, scriptOption}) {
+    for (const QString &option : {columnsOption, sourceUnitsOption, productsOption, unitsOption, languageOption,
+                                  pluginDirOption, describeOption, screenshotOption, scriptOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -114,6 +155,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = readColumns(parser.value(columnsOption), line);
     if (error.isEmpty() && parser.isSet(describeOption))
         error = readDescribe(parser.value(describeOption), line);
+    if (error.isEmpty() && parser.isSet(sourceUnitsOption))
+        error = readSourceUnits(parser.value(sourceUnitsOption), line);
     if (error.isEmpty() && parser.isSet(productsOption))
         error = requireFile(productsOption, parser.value(productsOption));
     if (error.isEmpty() && parser.isSet(scriptOption))
@@ -122,6 +165,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = requireFolder(pluginDirOption, parser.value(pluginDirOption));
     if (error.isEmpty() && parser.isSet(columnsOption) && parser.positionalArguments().isEmpty())
         error = QStringLiteral("--columns needs a prescription to take them from");
+    if (error.isEmpty() && parser.isSet(sourceUnitsOption) && parser.positionalArguments().isEmpty())
+        error = QStringLiteral("--source-units needs a prescription to read in them");
     return error;
 }
 

@@ -14,6 +14,8 @@ struct CommandLine {
     QStringList prescriptions;
     /// Rate columns of products 1, 2, ...; empty: the most likely ones.
     QStringList columns;
+    /// Units of the columns that feed products 1, 2, ...; an empty one is left to the file.
+    QStringList sourceUnits;
     QString productFile;
     UnitSystem units = UnitSystem::Metric;
     QString language;

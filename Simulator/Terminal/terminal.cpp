@@ -129,12 +129,12 @@ bool Terminal::show()
     return display->fieldView()->isValid();
 }
 
-LoadReport Terminal::open(const QString &path, const QStringList &columns)
+LoadReport Terminal::open(const QString &path, const QStringList &columns, const QStringList &units)
 {
-    return prescriptions->loadAndWait({path, columns, machineModel->loadedProducts()});
+    return prescriptions->loadAndWait({path, columns, units, machineModel->loadedProducts()});
 }
 
-QList<LoadReport> Terminal::openTogether(const QStringList &paths, const QStringList &columns)
+QList<LoadReport> Terminal::openTogether(const QStringList &paths, const QStringList &columns, const QStringList &units)
 {
     QList<LoadReport> reports;
     const ColumnShares shares = PrescriptionBackend::shareColumns(paths, columns);
@@ -144,7 +144,7 @@ QList<LoadReport> Terminal::openTogether(const QStringList &paths, const QString
     }
     QList<int> fed;
     for (int i = 0; i < shares.columns.size(); ++i) {
-        LoadRequest request{paths.at(i), shares.columns.at(i), machineModel->loadedProducts()};
+        LoadRequest request{paths.at(i), shares.columns.at(i), units, machineModel->loadedProducts()};
         for (const int number : qAsConst(fed))
             request.products[number - 1].isFed = true;
         const bool isUnused = !columns.isEmpty() && request.columns.isEmpty();

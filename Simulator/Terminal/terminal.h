@@ -53,12 +53,13 @@ public:
 
     /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
     /// leaves its product out, and so does a product that no prescription may drive, with a warning. Without columns
-    /// the most likely ones feed the products that a prescription may drive.
-    LoadReport open(const QString &path, const QStringList &columns);
+    /// the most likely ones feed the products that a prescription may drive. `units`: of the columns that feed
+    /// products 1, 2, ...; empty and missing ones are left to the file.
+    LoadReport open(const QString &path, const QStringList &columns, const QStringList &units = {});
     /// The same for several files at once, up to the first one that cannot be loaded: each product takes its column
     /// from the first file that has it. Without columns each file feeds the products that none before it does; once all
     /// are fed, a file takes products over. A file that is to feed nothing is not opened: its report names no group.
-    QList<LoadReport> openTogether(const QStringList &paths, const QStringList &columns);
+    QList<LoadReport> openTogether(const QStringList &paths, const QStringList &columns, const QStringList &units = {});
     /// False when there is no such map.
     bool close(const QString &group);
 

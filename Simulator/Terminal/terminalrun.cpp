@@ -49,21 +49,46 @@ QStringList withoutRepetition(const QStringList &paths)
     return files;
 }
 
+/// "lb/ac, from the name".
+QString unitText(const RateSource &source)
+{
+    switch (source.unitFrom) {
+    case RateSource::UnitFrom::Operator:
+        return source.unit + QStringLiteral(", named by the operator");
+    case RateSource::UnitFrom::Format:
+        return source.unit + QStringLiteral(", from the format");
+    case RateSource::UnitFrom::Column:
+        return source.unit + QStringLiteral(", from the column beside it");
+    case RateSource::UnitFrom::Text:
+        return source.unit + QStringLiteral(", from its texts");
+    case RateSource::UnitFrom::Name:
+        return source.unit + QStringLiteral(", from the name");
+    case RateSource::UnitFrom::Assumed:
+        break;
+    }
+    return source.unit.isEmpty() ? QStringLiteral("unit not known")
+                                 : QStringLiteral("unit not known, taken as ") + source.unit;
+}
+
+/// What feeds which product in the end: a later file may have taken a product over.
 void printFeeds(const Terminal &terminal, const LoadReport &report)
 {
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
     for (auto feed = feeds.begin(); feed != feeds.end(); ++feed) {
         const QString product = terminal.machine()->products().at(feed.key() - 1).name;
-        writeOutputLine(
-            QStringLiteral("%1: product %2 (%3): %4").arg(report.path, QString::number(feed.key()), product, *feed));
+        const auto source = std::find_if(report.sources.begin(), report.sources.end(),
+                                         [&feed](const RateSource &any) { return any.product == feed.key(); });
+        const QString unit = source == report.sources.end() ? QString() : unitText(*source);
+        writeOutputLine(QStringLiteral("%1: product %2 (%3): %4 (%5)")
+                            .arg(report.path, QString::number(feed.key()), product, *feed, unit));
     }
     if (feeds.isEmpty())
         writeOutputLine(QStringLiteral("%1: feeds no product").arg(report.path));
 }
 
-QString openAll(Terminal &terminal, const QStringList &paths, const QStringList &columns)
+QString openAll(Terminal &terminal, const QStringList &paths, const CommandLine &line)
 {
-    const QList<LoadReport> reports = terminal.openTogether(paths, columns);
+    const QList<LoadReport> reports = terminal.openTogether(paths, line.columns, line.sourceUnits);
     for (const LoadReport &report : reports) {
         if (!report.isOk())
             return report.error;
@@ -71,7 +96,7 @@ QString openAll(Terminal &terminal, const QStringList &paths, const QStringList 
             writeErrorLine(warning);
     }
     for (const LoadReport &report : reports) {
-        if (columns.isEmpty())
+        if (!report.group.isEmpty())
             printFeeds(terminal, report);
     }
     return {};
@@ -142,7 +167,7 @@ QString runTerminal(const CommandLine &line)
         error = QStringLiteral("the display has no OpenGL");
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty())
-        error = openAll(terminal, files, line.columns);
+        error = openAll(terminal, files, line);
     if (!error.isEmpty())
         return error;
     showFedProduct(terminal);

@@ -20,7 +20,8 @@ private Q_SLOTS:
     void unitSystemsAreKnownByName();
     void aPointSouthWestOfTheOriginIsAPoint_data();
     void aPointSouthWestOfTheOriginIsAPoint();
-    void columnsMayLeaveAProductOut();
+    void columnsAreListedAsInCsv_data();
+    void columnsAreListedAsInCsv();
     void theHelpTellsWhatHoldsWithoutAnOption_data();
     void theHelpTellsWhatHoldsWithoutAnOption();
 
@@ -54,6 +55,9 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("missing plug-in folder") << QStringList{"--plugin-dir", "/no/such"} << "/no/such";
     QTest::newRow("option twice") << QStringList{"--units", "us", "--units", "turf"} << "more than once";
     QTest::newRow("no column") << QStringList{"--columns", ",", "map.shp"} << "--columns";
+    QTest::newRow("open quote") << QStringList{"--columns", "\"A,B", "map.shp"} << "a quote is left open";
+    QTest::newRow("no unit") << QStringList{"--source-units", ",", "map.shp"} << "--source-units";
+    QTest::newRow("units of nothing") << QStringList{"--source-units", "kg/ha"} << "--source-units";
     QTest::newRow("columns of nothing") << QStringList{"--columns", "RATE"} << "--columns";
     QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
 }
@@ -93,11 +97,13 @@ void TestCommandLine::everyOptionIsRead()
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
-    const Result<CommandLine> line = parse({"--columns", "A, B", "--products", products, "--units=us", "--language",
-                                            "de", "--plugin-dir", folder.path(), "--describe", "1.5,2", "--screenshot",
-                                            "map.png", "--script", script, "one.shp", "two.gpkg"});
+    const Result<CommandLine> line =
+        parse({"--columns", "A, B", "--source-units", ",lb/ac", "--products", products, "--units=us", "--language",
+               "de", "--plugin-dir", folder.path(), "--describe", "1.5,2", "--screenshot", "map.png", "--script",
+               script, "one.shp", "two.gpkg"});
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QCOMPARE(line.value.columns, QStringList({"A", "B"}));
+    QCOMPARE(line.value.sourceUnits, QStringList({QString(), "lb/ac"}));
     QCOMPARE(line.value.productFile, products);
     QCOMPARE(line.value.units, UnitSystem::Us);
     QCOMPARE(line.value.language, QStringLiteral("de"));
@@ -150,11 +156,19 @@ void TestCommandLine::aPointSouthWestOfTheOriginIsAPoint()
     QCOMPARE(line.value.describe.value(), QPointF(-10.5, -20));
 }
 
-void TestCommandLine::columnsMayLeaveAProductOut()
+void TestCommandLine::columnsAreListedAsInCsv_data()
 {
-    const Result<CommandLine> line = parse({"--columns", ",B", "map.shp"});
-    QVERIFY(line.isOk());
-    QCOMPARE(line.value.columns, QStringList({QString(), "B"}));
+    QTest::addColumn<QStringList>("columns");
+    QTest::newRow(",B") << QStringList{QString(), "B"};
+    QTest::newRow(R"("Rate, kg/ha",B)") << QStringList{"Rate, kg/ha", "B"};
+    QTest::newRow(R"("a ""b""", "c")") << QStringList{R"(a "b")", "c"};
+}
+
+void TestCommandLine::columnsAreListedAsInCsv()
+{
+    const Result<CommandLine> line = parse({"--columns", QString::fromLatin1(QTest::currentDataTag()), "map.shp"});
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QTEST(line.value.columns, "columns");
 }
 
 void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption_data()

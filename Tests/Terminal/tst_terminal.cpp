@@ -1,5 +1,8 @@
 #include "fieldscene.h"
+#include "layerwriter.h"
+#include "legendpanel.h"
 #include "machine.h"
+#include "paintedtexts.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
 
@@ -8,6 +11,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+
+Q_DECLARE_METATYPE(UnitSystem)
 
 /// The terminal with the plug-in: maps come, feed products and go.
 class TestTerminal : public TerminalTest {
@@ -21,6 +26,8 @@ private Q_SLOTS:
     void aBadFileLeavesTheMapAsItWas();
     void moreColumnsThanProductsAreRefused();
     void theThreeUnitSystemsAgree();
+    void ratesInTheOperatorsUnitAreTheFilesNumbers_data();
+    void ratesInTheOperatorsUnitAreTheFilesNumbers();
     void boundsAreThoseOfEverythingLoaded();
     void aPictureThatCannotBeSavedIsReported();
     void twoTerminalsMayFollowEachOther();
@@ -123,6 +130,55 @@ void TestTerminal::theThreeUnitSystemsAgree()
         QCOMPARE(terminal().touch(QPointF(100, 0)),
                  QStringLiteral("Rx Rate: ") + QString::number(90.0 * *entry, 'f', 2));
     }
+}
+
+void TestTerminal::ratesInTheOperatorsUnitAreTheFilesNumbers_data()
+{
+    QTest::addColumn<int>("product");
+    QTest::addColumn<UnitSystem>("system");
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("legend");
+    const auto row = [](const char *unit, int product, UnitSystem system, double rate, const char *shown,
+                        const char *legend) {
+        QTest::newRow(unit) << product << system << rate << QString::fromLatin1(shown) << QString::fromLatin1(legend);
+    };
+    row("lb/ac", 2, UnitSystem::Us, 100.5, "100.50", "100.5");
+    row("lb/1000 ft2", 2, UnitSystem::Turf, 4.07, "4.07", "4.07");
+    row("kg/ha", 2, UnitSystem::Metric, 112.64, "112.64", "112.64");
+    row("dt/ha", 2, UnitSystem::Metric, 1.25, "125.00", "125");
+    row("gal/ac", 3, UnitSystem::Us, 15.35, "15.35", "15.35");
+    row("fl oz/ac", 3, UnitSystem::Us, 64.0, "0.50", "0.5");
+    row("L/ha", 3, UnitSystem::Metric, 0.07, "0.07", "0.07");
+    row("seeds/ac", 1, UnitSystem::Us, 32150.0, "32.15", "32.15");
+    row("1000/ac", 1, UnitSystem::Us, 32.1, "32.10", "32.1");
+    row("seeds/m2", 1, UnitSystem::Metric, 310.5, "3105.00", "3105");
+}
+
+void TestTerminal::ratesInTheOperatorsUnitAreTheFilesNumbers()
+{
+    QFETCH(int, product);
+    QFETCH(UnitSystem, system);
+    QFETCH(double, rate);
+    QFETCH(QString, shown);
+    QFETCH(QString, legend);
+    host.reset();
+    host.reset(new TerminalHost(system));
+    LayerSketch sketch;
+    sketch.driver = "GeoJSON";
+    sketch.fields = {{"dose", 1.0}, {"unit", QStringLiteral("text")}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {rate, QString::fromLatin1(QTest::currentDataTag())}}};
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.geojson"));
+    QVERIFY(sketch.write(path));
+    const LoadReport report = terminal().open(path, {});
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(report.sources.first().product, product);
+    terminal().machine()->setActiveProduct(product);
+    QCOMPARE(terminal().touch(report.bounds.center()), QStringLiteral("Rx Rate: ") + shown);
+    const QStringList texts = paintedTexts(*terminal().window()->legend());
+    QVERIFY2(texts.contains(legend), qPrintable(texts.join(QLatin1Char('|'))));
 }
 
 void TestTerminal::boundsAreThoseOfEverythingLoaded()

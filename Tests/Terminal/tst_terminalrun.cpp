@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void theFirstProductWithAMapIsShown();
     void aFileThatIsToFeedNothingIsNotOpened();
     void theColumnsThatFeedInTheEndAreReported();
+    void theUnitOfTheFileIsTold_data();
+    void theUnitOfTheFileIsTold();
     void whatALoadCountsIsTold_data();
     void whatALoadCountsIsTold();
     void aProductThatNoPrescriptionDrivesIsFedByNone();
@@ -39,6 +42,8 @@ private:
     struct Outcome {
         QString error;
         QString output;
+        /// The output without the lines that say what feeds which product.
+        QString answer;
         QString errors;
     };
 
@@ -53,12 +58,15 @@ TestTerminalRun::Outcome TestTerminalRun::run(const QStringList &arguments)
 {
     const Result<CommandLine> line = CommandLine::parse(QStringList(QStringLiteral("terminal-simulator")) + arguments);
     if (!line.isOk())
-        return {QStringLiteral("not understood: ") + line.error, {}, {}};
+        return {QStringLiteral("not understood: ") + line.error, {}, {}, {}};
     Outcome outcome;
     const StreamCapture output(stdout);
     const StreamCapture errors(stderr);
     outcome.error = runTerminal(line.value);
     outcome.output = output.written();
+    static const QRegularExpression feeds(QStringLiteral("^.*: product \\d+ \\(.*\\n"),
+                                          QRegularExpression::MultilineOption);
+    outcome.answer = QString(outcome.output).remove(feeds);
     outcome.errors = errors.written();
     return outcome;
 }
@@ -84,6 +92,7 @@ void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
                                        << "NOPE";
     QTest::newRow("more columns than products")
         << QStringList{"--columns", "SEED_K_HA,,,FERT_KG_HA", zones()} << "4 columns";
+    QTest::newRow("no such unit") << QStringList{"--source-units", "bags", zones()} << "\"bags\" is no unit of a rate";
     QTest::newRow("no plug-in") << QStringList{"--plugin-dir", folder.path()} << folder.path();
     QTest::newRow("unknown language") << QStringList{"--language", "xx"} << "xx";
     QTest::newRow("picture in no folder")
@@ -111,8 +120,9 @@ void TestTerminalRun::namesMayHoldWhatStandsForArguments()
     QVERIFY(QFile::copy(zones(), copy));
     const QString script = write("print(terminal.groups('rxMap.*').join());\nthrow new Error('end');", "100%1%2.js");
     const Outcome outcome = run({"--script", script, map, copy});
-    QVERIFY2(outcome.output.contains(copy + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")),
-             qPrintable(outcome.output));
+    QVERIFY2(
+        outcome.output.contains(copy + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA (kg/ha, from the name)\n")),
+        qPrintable(outcome.output));
     QVERIFY2(outcome.output.endsWith(QStringLiteral("rxMap.%1,rxMap.%1 (2)\n").replace(QStringLiteral("%1"), name)),
              qPrintable(outcome.output));
     QCOMPARE(outcome.error, script + QStringLiteral(":2: Error: end"));
@@ -129,7 +139,7 @@ void TestTerminalRun::tasksAreDoneInTheirOrder()
     const Outcome outcome =
         run({"--columns", "SEED_K_HA", "--script", script, "--screenshot", picture, "--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 80.00\n1\n"));
+    QCOMPARE(outcome.answer, QStringLiteral("Rx Rate: 80.00\n1\n"));
     QCOMPARE(QImage(picture).size(), QSize(1280, 800));
     // The script has taken the map away before the picture was taken.
     const QString before = folder.filePath(QStringLiteral("before.png"));
@@ -209,7 +219,7 @@ void TestTerminalRun::aPointIsDescribed()
     QFETCH(QString, line);
     const Outcome outcome = run({"--describe", point, "--units", units, "--columns", "SEED_K_HA", zones()});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.output, line + QLatin1Char('\n'));
+    QCOMPARE(outcome.answer, line + QLatin1Char('\n'));
 }
 
 void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
@@ -220,7 +230,7 @@ void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
     const Outcome outcome = run({"--columns", "RATE,FERT_KG_HA", "--script", script, zones(),
                                  TerminalHost::fixture(QStringLiteral("overlap.geojson"))});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.output, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
+    QCOMPARE(outcome.answer, QStringLiteral("rxMap.overlap.geojson rxMap.three-zones.geojson\n"));
 }
 
 void TestTerminalRun::theFirstProductWithAMapIsShown()
@@ -228,8 +238,8 @@ void TestTerminalRun::theFirstProductWithAMapIsShown()
     const Outcome second = run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--describe", "-100,0", zones()});
     QCOMPARE(second.error, QString());
     const Outcome first = run({"--columns", "FERT_KG_HA", "--describe", "-100,0", zones()});
-    QVERIFY2(second.output.startsWith(QLatin1String("Rx Rate: ")), qPrintable(second.output));
-    QCOMPARE(second.output, first.output);
+    QVERIFY2(second.answer.startsWith(QLatin1String("Rx Rate: ")), qPrintable(second.answer));
+    QCOMPARE(second.answer, first.answer);
 }
 
 void TestTerminalRun::aFileThatIsToFeedNothingIsNotOpened()
@@ -240,7 +250,7 @@ void TestTerminalRun::aFileThatIsToFeedNothingIsNotOpened()
     const QString other = TerminalHost::fixture(QStringLiteral("overlap.geojson"));
     const Outcome outcome = run({"--columns", "SEED_K_HA", "--script", script, zones(), other});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.output, QStringLiteral("rxMap.three-zones.geojson rxMap.three-zones.geojson\n"));
+    QCOMPARE(outcome.answer, QStringLiteral("rxMap.three-zones.geojson rxMap.three-zones.geojson\n"));
     QCOMPARE(outcome.errors, other + QStringLiteral(": not opened, it feeds no product\n"));
 }
 
@@ -250,8 +260,36 @@ void TestTerminalRun::theColumnsThatFeedInTheEndAreReported()
     const Outcome outcome = run({"--describe", "-1000,0", zones(), other});
     QCOMPARE(outcome.error, QString());
     QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
-    QVERIFY(outcome.output.contains(zones() + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA\n")));
-    QVERIFY(outcome.output.contains(other + QStringLiteral(": product 1 (Seed): rate\n")));
+    QVERIFY(outcome.output.contains(zones()
+                                    + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA (kg/ha, from the name)\n")));
+    QVERIFY(outcome.output.contains(other
+                                    + QStringLiteral(": product 1 (Seed): rate (unit not known, taken as 1000/ha)\n")));
+}
+
+void TestTerminalRun::theUnitOfTheFileIsTold_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00\n"
+                                 << "SEED_K_HA (1000/ha, from the name)";
+    QTest::newRow("by the operator") << QStringList{"--columns", "SEED_K_HA", "--source-units", "seeds/m2"}
+                                     << "Rx Rate: 800.00\n"
+                                     << "SEED_K_HA (seeds/m2, named by the operator)";
+    QTest::newRow("by the operator, for a likely column")
+        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68\n"
+        << "SEED_K_HA (1000/ac, named by the operator)";
+}
+
+void TestTerminalRun::theUnitOfTheFileIsTold()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, told);
+    const Outcome outcome = run(options + QStringList{"--describe", "0,0", zones()});
+    QCOMPARE(outcome.error, QString());
+    QTEST(outcome.answer, "answer");
+    QVERIFY2(outcome.output.startsWith(zones() + QStringLiteral(": product 1 (Seed): ") + told + QLatin1Char('\n')),
+             qPrintable(outcome.output));
 }
 
 void TestTerminalRun::whatALoadCountsIsTold_data()
@@ -260,7 +298,7 @@ void TestTerminalRun::whatALoadCountsIsTold_data()
     QTest::newRow("likely columns") << QStringList{};
     QTest::newRow("a column by name") << QStringList{"--columns", "Rate"};
     QTest::newRow("a column by name, two files")
-        << QStringList{"--columns", "Rate,SEED_K_HA", TerminalHost::fixture("three-zones.geojson")};
+        << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")};
 }
 
 void TestTerminalRun::whatALoadCountsIsTold()
@@ -273,7 +311,8 @@ void TestTerminalRun::whatALoadCountsIsTold()
     lines.sort();
     QCOMPARE(lines,
              QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
-                          path + QStringLiteral(": 2 records without a rate were skipped")}));
+                          path + QStringLiteral(": 2 records without a rate were skipped"),
+                          path + QStringLiteral(": the unit of column \"Rate\" is not known, taken as 1000/ha")}));
 }
 
 void TestTerminalRun::aProductThatNoPrescriptionDrivesIsFedByNone()
@@ -286,7 +325,7 @@ void TestTerminalRun::aProductThatNoPrescriptionDrivesIsFedByNone()
     const Outcome some =
         run({"--products", products, "--columns", "FERT_KG_HA,HERB_L_HA", "--script", script, zones()});
     QCOMPARE(some.error, QString());
-    QCOMPARE(some.output, QStringLiteral("1\n"));
+    QCOMPARE(some.answer, QStringLiteral("1\n"));
     const QString reason =
         zones() + QStringLiteral(": column \"HERB_L_HA\" is left out, product 2 (Water) takes no prescription");
     QCOMPARE(some.errors, reason + QLatin1Char('\n'));
@@ -298,13 +337,17 @@ void TestTerminalRun::productsComeFromAFile()
 {
     const QString products =
         write(R"([{"name": "Lime", "kind": "weight"}, {"name": "Water", "kind": "volume", "underVra": false},
-                    {"name": "Urea", "kind": "weight"}])",
+                    {"name": "Spray", "kind": "volume"}])",
               "machine.json");
     const Outcome outcome = run({"--products", products, "--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
     QVERIFY2(outcome.output.contains(QLatin1String("product 1 (Lime)")), qPrintable(outcome.output));
     QVERIFY(!outcome.output.contains(QLatin1String("Water")));
-    QVERIFY(outcome.output.contains(QLatin1String("product 3 (Urea)")));
+    QCOMPARE(
+        outcome.errors,
+        zones()
+            + QStringLiteral(": no product that a prescription may drive fits the unit of \"SEED_K_HA\" (1000/ha)\n"));
+    QVERIFY(outcome.output.contains(QLatin1String("product 3 (Spray)")));
 }
 
 RXMAP_TEST(TestTerminalRun, Widgets)

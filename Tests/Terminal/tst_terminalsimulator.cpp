@@ -92,8 +92,8 @@ void TestTerminalSimulator::helpIsPrinted()
 {
     const Outcome outcome = run({"--help"});
     QCOMPARE(outcome.status, 0);
-    for (const char *option : {"--columns", "--products", "--units", "--language", "--plugin-dir", "--describe",
-                               "--screenshot", "--script", "PRESCRIPTION"})
+    for (const char *option : {"--columns", "--source-units", "--products", "--units", "--language", "--plugin-dir",
+                               "--describe", "--screenshot", "--script", "PRESCRIPTION"})
         QVERIFY2(outcome.output.contains(QLatin1String(option)), option);
 }
 
@@ -101,7 +101,7 @@ void TestTerminalSimulator::aPointIsDescribedInTheOperatorsUnits()
 {
     const Outcome outcome = run({"--describe", "-100,0", "--units", "us", "--columns", "SEED_K_HA", zones()});
     QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 28.33\n"));
+    QVERIFY2(outcome.output.endsWith(QLatin1String("\nRx Rate: 28.33\n")), qPrintable(outcome.output));
     QCOMPARE(outcome.errors, QString());
 }
 
@@ -161,7 +161,7 @@ void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
     const Outcome outcome =
         run({"--plugin-dir", plugins.path(), "--columns", "SEED_K_HA", "--describe", "0,0", zones()});
     QCOMPARE(outcome.status, 0);
-    QCOMPARE(outcome.output, QStringLiteral("Rx Rate: 80.00\n"));
+    QVERIFY2(outcome.output.endsWith(QLatin1String("\nRx Rate: 80.00\n")), qPrintable(outcome.output));
     QCOMPARE(outcome.errors, QStringLiteral("libbroken.so: is no shared library\n"));
 }
 
@@ -212,7 +212,7 @@ void TestTerminalSimulator::itSpeaksTheOperatorsLanguage()
     const Outcome german = run({"--language", "de", "--columns", "SEED_K_HA", "--describe", "0,0", zones()});
     QVERIFY2(german.status == 0, qPrintable(german.errors));
     QVERIFY2(german.output.endsWith(QLatin1String(" 80.00\n")), qPrintable(german.output));
-    QVERIFY(german.output != QLatin1String("Rx Rate: 80.00\n"));
+    QVERIFY2(!german.output.contains(QLatin1String("Rx Rate")), qPrintable(german.output));
 }
 
 RXMAP_TEST(TestTerminalSimulator, Core)

@@ -3,8 +3,7 @@
 #include "activemap.h"
 #include "fieldview.h"
 #include "machine.h"
-#include "productfile.h"
-#include "result.h"
+#include "openoptions.h"
 #include "runonuithread.h"
 #include "scriptcontrol.h"
 #include "scriptvalue.h"
@@ -17,7 +16,6 @@
 
 #include <QElapsedTimer>
 #include <QJSEngine>
-#include <QJSValueIterator>
 #include <QMetaProperty>
 #include <QThread>
 
@@ -55,60 +53,54 @@ QVariantList plainLegend(const QList<OrvikTypes::RX_RATECOLOR> &legend)
         .toList();
 }
 
+QString unitFromText(RateSource::UnitFrom from)
+{
+    switch (from) {
+    case RateSource::UnitFrom::Operator:
+        return QStringLiteral("operator");
+    case RateSource::UnitFrom::Format:
+        return QStringLiteral("format");
+    case RateSource::UnitFrom::Column:
+        return QStringLiteral("column");
+    case RateSource::UnitFrom::Text:
+        return QStringLiteral("text");
+    case RateSource::UnitFrom::Name:
+        return QStringLiteral("name");
+    case RateSource::UnitFrom::Assumed:
+        break;
+    }
+    return QStringLiteral("assumed");
+}
+
+QVariantMap describe(const RateSource &source)
+{
+    return {{QStringLiteral("column"), source.column},
+            {QStringLiteral("unit"), source.unit},
+            {QStringLiteral("unitFrom"), unitFromText(source.unitFrom)},
+            {QStringLiteral("product"), source.product},
+            {QStringLiteral("sure"), source.isSure}};
+}
+
 /// The legend of the active product's column, else of the first one.
 QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 {
     QVariantList legends;
     for (const QList<OrvikTypes::RX_RATECOLOR> &legend : report.legends)
         legends.append(QVariant(plainLegend(ActiveMap::drawnClasses(legend))));
+    QVariantList sources;
+    for (const RateSource &source : report.sources)
+        sources.append(describe(source));
     return {{QStringLiteral("group"), report.group},
             {QStringLiteral("polygons"), report.polygons},
             {QStringLiteral("outers"), report.outers},
             {QStringLiteral("holes"), report.holes},
             {QStringLiteral("columns"), report.columns},
+            {QStringLiteral("sources"), sources},
             {QStringLiteral("legend"), legends.value(std::max(0, report.columns.indexOf(activeColumn)))},
             {QStringLiteral("legends"), legends},
             {QStringLiteral("repaired"), report.repaired},
             {QStringLiteral("skipped"), report.skipped},
             {QStringLiteral("warnings"), report.warnings}};
-}
-
-/// The columns that a list of a script names; null and undefined leave a product out, as an empty text does.
-Result<QStringList> namesIn(const QJSValue &list)
-{
-    const quint32 count = list.property(QStringLiteral("length")).toUInt();
-    if (count > quint32(ProductFile::maxProducts))
-        return Result<QStringList>::failure(
-            QStringLiteral("\"columns\" has more than %1 entries").arg(ProductFile::maxProducts));
-    QStringList names;
-    for (quint32 i = 0; i < count; ++i) {
-        const QJSValue entry = list.property(i);
-        const bool isLeftOut = entry.isNull() || entry.isUndefined();
-        if (!entry.isString() && !isLeftOut)
-            return Result<QStringList>::failure(QStringLiteral("entry %1 of \"columns\" is no text").arg(i + 1));
-        names.append(isLeftOut ? QString() : entry.toString());
-    }
-    return {names, {}};
-}
-
-/// The columns that the options of open() name.
-Result<QStringList> columnsIn(const QJSValue &options)
-{
-    const QString columns = QStringLiteral("columns");
-    if (options.isUndefined())
-        return {};
-    if (!options.isObject() || options.isArray())
-        return Result<QStringList>::failure(QStringLiteral("the options of open() are no object"));
-    QJSValueIterator option(options);
-    while (option.next()) {
-        if (option.name() != columns)
-            return Result<QStringList>::failure(
-                QStringLiteral("\"%1\" is no option of open(); it knows \"columns\"").arg(option.name()));
-    }
-    const QJSValue value = options.property(columns);
-    if (value.isUndefined())
-        return {};
-    return value.isArray() ? namesIn(value) : Result<QStringList>::failure(QStringLiteral("\"columns\" is no list"));
 }
 
 } // namespace
@@ -145,14 +137,14 @@ void ScriptTerminal::setActiveProduct(const QJSValue &number)
 
 QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)
 {
-    const Result<QStringList> columns = columnsIn(options);
-    if (!columns.isOk()) {
-        fail(columns.error);
+    const Result<OpenOptions> read = OpenOptions::read(options);
+    if (!read.isOk()) {
+        fail(read.error);
         return {};
     }
     QVariantMap description;
     const QString error = onGui([&] {
-        const LoadReport report = terminal->open(path, columns.value);
+        const LoadReport report = terminal->open(path, read.value.columns, read.value.units);
         if (report.isOk())
             description = describe(report, terminal->activeColumn());
         return report.error;

@@ -29,7 +29,7 @@ ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const Q
     for (int i = 0; i < paths.size() && shares.isOk(); ++i) {
         const QString &path = paths.at(i);
         const LoadControl control;
-        PrescriptionReader reader(path, {}, control);
+        PrescriptionReader reader(path, {}, ColumnPolicy::isWorthReading, control);
         ColumnPolicy::File file{path, {}};
         if (!reader.readColumnNames(file.columns))
             shares.error = QStringLiteral("%1: %2").arg(path, reader.error());

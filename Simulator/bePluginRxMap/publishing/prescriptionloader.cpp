@@ -25,7 +25,7 @@ constexpr size_t ringsPerReport = 256;
 PrescriptionLoader::PrescriptionLoader(const LoadRequest &loadRequest, const std::vector<LocalPlane> &knownPlanes,
                                        const LoadControl &loadControl)
     : request(loadRequest)
-    , policy(loadRequest.products, loadRequest.columns)
+    , policy(loadRequest.products, loadRequest.columns, loadRequest.units)
     , planes(knownPlanes)
     , control(loadControl)
 {
@@ -79,7 +79,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
         return fail(policy.refusal());
     for (const QString &warning : policy.warnings())
         warn(warning);
-    PrescriptionReader reader(request.path, policy.named(), reading);
+    PrescriptionReader reader(request.path, policy.named(), ColumnPolicy::isWorthReading, reading);
     if (!reader.read(source))
         return fail(reader.error());
     if (!place(map) || !repairRings() || !chooseColumns(map))
@@ -161,6 +161,7 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
         warn(warning);
     if (!decision.error.isEmpty())
         return fail(decision.error);
+    map.report.sources = decision.sources;
     for (const ColumnPolicy::Feed &feed : decision.feeds) {
         const MachineProduct &product = request.products.at(feed.product);
         map.report.columns.append(source.columns[static_cast<size_t>(feed.column)].name);

@@ -33,6 +33,28 @@ bool isCounting(const SourceColumn &column)
     return true;
 }
 
+/// Whether the values are whole numbers of which no two are the same, so many that they must be the records' own.
+bool areNumbers(const SourceColumn &column)
+{
+    constexpr size_t mostRates = 20;
+    std::vector<double> sorted = column.values;
+    const bool areWhole =
+        std::all_of(sorted.begin(), sorted.end(), [](double value) { return value == std::floor(value); });
+    if (!areWhole || sorted.size() < 3)
+        return false;
+    std::sort(sorted.begin(), sorted.end());
+    const bool isAnyTwice = std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end();
+    const bool hasNoGap = sorted.back() - sorted.front() + 1.0 == static_cast<double>(sorted.size());
+    return !isAnyTwice && (hasNoGap || sorted.size() > mostRates);
+}
+
+bool areYears(const SourceColumn &column)
+{
+    return std::all_of(column.values.begin(), column.values.end(), [](double value) {
+        return std::isnan(value) || (value == std::floor(value) && value >= 1950.0 && value < 2100.0);
+    });
+}
+
 bool isAllZero(const SourceColumn &column)
 {
     return std::none_of(column.values.begin(), column.values.end(), [](double value) { return value > 0.0; });
@@ -61,6 +83,13 @@ bool ColumnContent::hasRates(const SourceColumn &column)
 bool ColumnContent::mayBeRates(const SourceColumn &column, const RawPrescription &map,
                                const std::vector<double> &recordAreas)
 {
-    return !column.isText && !column.isInteger && !isAllZero(column) && !isCounting(column)
-        && !isProportionalToArea(column, recordAreas) && !isPlace(column, map.xs) && !isPlace(column, map.ys);
+    return !column.isText && !isAllZero(column) && !isCounting(column) && !(column.isInteger && areNumbers(column))
+        && !areYears(column) && !isProportionalToArea(column, recordAreas) && !isPlace(column, map.xs)
+        && !isPlace(column, map.ys);
+}
+
+bool ColumnContent::areEqual(const SourceColumn &one, const SourceColumn &other)
+{
+    return std::equal(one.values.begin(), one.values.end(), other.values.begin(), other.values.end(),
+                      [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); });
 }

@@ -2,7 +2,8 @@
 
 #include "columncontent.h"
 #include "columnname.h"
-#include "ratecolumns.h"
+#include "likelycolumns.h"
+#include "tablecolumns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,80 +26,40 @@ ProductLineItem::Basis basisOf(DbGroupProductGroupInfo::RateKind kind)
 }
 
 /// Whether the column's name says that it is measured out as the product is.
-bool suits(const SourceColumn &column, const MachineProduct &product)
+bool suits(const LikelyColumn &column, const MachineProduct &product)
 {
-    const ProductLineItem::Basis basis = ColumnName(column.name).basis();
-    return basis != ProductLineItem::None && basis == basisOf(product.kind);
+    return column.basis != ProductLineItem::None && column.basis == basisOf(product.kind);
 }
+
+/// Longer lists than this are not told.
+constexpr int maxTold = 10;
 
 bool areEmpty(const QStringList &names)
 {
     return names.join(QString()).isEmpty();
 }
 
-/// Square metres of each record.
-std::vector<double> recordAreas(const RawPrescription &source, const std::vector<PlanePolygon> &polygons)
+/// Says which of the column's entries are no rates, or may mean something else.
+void tellEntries(const SourceColumn &column, ColumnPolicy::Decision &decision)
 {
-    std::vector<double> areas(static_cast<size_t>(source.records), 0.0);
-    for (const PlanePolygon &polygon : polygons) {
-        double &area = areas[static_cast<size_t>(polygon.record)];
-        area += ringArea(polygon.outer);
-        for (const PlaneRing &hole : polygon.holes)
-            area -= ringArea(hole);
-    }
-    return areas;
-}
-
-/// Places, in table order, of the columns that most likely hold rates.
-std::vector<int> likelyColumns(const RawPrescription &source, const std::vector<double> &areas)
-{
-    std::vector<int> named;
-    std::vector<int> possible;
-    for (size_t i = 0; i < source.columns.size(); ++i) {
-        const SourceColumn &column = source.columns[i];
-        if (!RateColumns::isWorthReading(column) || !ColumnContent::hasRates(column))
-            continue;
-        if (ColumnName(column.name).namesRate())
-            named.push_back(static_cast<int>(i));
-        else if (ColumnContent::mayBeRates(column, source, areas))
-            possible.push_back(static_cast<int>(i));
-    }
-    return named.empty() ? possible : named;
-}
-
-QString reasonForNone(const RawPrescription &source)
-{
-    QStringList empty;
-    for (const SourceColumn &column : source.columns) {
-        if (RateColumns::isWorthReading(column) && ColumnName(column.name).namesRate()
-            && !ColumnContent::hasRates(column))
-            empty.append(column.name);
-    }
-    if (!empty.isEmpty())
-        return QStringLiteral("holds no rates: no record has one in %1").arg(empty.join(QStringLiteral(", ")));
-    const QString columns =
-        source.columnNames.isEmpty() ? QStringLiteral("none") : source.columnNames.join(QStringLiteral(", "));
-    return QStringLiteral("has no column that looks like a rate; name one (its columns: %1)").arg(columns);
-}
-
-void checkRates(const SourceColumn &column, ColumnPolicy::Decision &decision)
-{
-    if (!ColumnContent::hasRates(column))
-        decision.error = QStringLiteral("column \"%1\" holds no rates").arg(column.name);
-    else if (column.unreadable == 1)
+    if (column.unreadable == 1)
         decision.warnings.append(
             QStringLiteral("1 entry of column \"%1\" is no rate and was left out").arg(column.name));
     else if (column.unreadable > 1)
         decision.warnings.append(QStringLiteral("%1 entries of column \"%2\" are no rates and were left out")
-                                     .arg(column.unreadable)
-                                     .arg(column.name));
+                                     .arg(QString::number(column.unreadable), column.name));
+    if (!column.ambiguous.isEmpty())
+        decision.warnings.append(QStringLiteral("the comma in \"%1\" of column \"%2\" is taken to set off decimals")
+                                     .arg(column.ambiguous, column.name));
 }
 
 } // namespace
 
-ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const QStringList &namedColumns)
+ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const QStringList &namedColumns,
+                           const QStringList &units)
     : products(machineProducts)
     , names(namedColumns)
+    , operatorUnits(static_cast<size_t>(machineProducts.size()))
 {
     const bool isAnyDriven =
         std::any_of(products.begin(), products.end(), [](const MachineProduct &product) { return product.isDriven; });
@@ -112,6 +73,28 @@ ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const Q
         reason = QStringLiteral("no column is named for any product");
     else
         leaveOutUndriven();
+    if (reason.isEmpty())
+        readUnits(units);
+}
+
+bool ColumnPolicy::isWorthReading(const SourceColumn &column)
+{
+    const ColumnName name(column.name);
+    return !name.namesOther() && (name.namesRate() || !column.isText);
+}
+
+void ColumnPolicy::readUnits(const QStringList &texts)
+{
+    if (texts.size() > products.size())
+        reason = QStringLiteral("%1 units are named, but the machine has %2 products")
+                     .arg(texts.size())
+                     .arg(products.size());
+    for (int i = 0; i < texts.size() && reason.isEmpty(); ++i) {
+        RateUnit &unit = operatorUnits[static_cast<size_t>(i)];
+        unit = RateUnit::fromText(texts.at(i));
+        if (!unit.isKnown() && !texts.at(i).isEmpty())
+            reason = QStringLiteral("\"%1\" is no unit of a rate").arg(texts.at(i));
+    }
 }
 
 void ColumnPolicy::leaveOutUndriven()
@@ -132,62 +115,121 @@ ColumnPolicy::Decision ColumnPolicy::decide(const RawPrescription &source,
                                             const std::vector<PlanePolygon> &polygons) const
 {
     Decision decision;
-    decision.feeds = names.isEmpty() ? feedLikely(source, polygons) : feedNamed(source);
-    if (decision.feeds.empty())
-        decision.error = reasonForNone(source);
-    for (size_t i = 0; i < decision.feeds.size() && decision.error.isEmpty(); ++i)
-        checkRates(source.columns[static_cast<size_t>(decision.feeds[i].column)], decision);
+    const ColumnUnits units(source);
+    if (names.isEmpty())
+        decideLikely(source, LikelyColumns(source, polygons, units), decision);
+    else
+        decision.feeds = feedNamed(source);
+    for (Feed &feed : decision.feeds) {
+        const SourceColumn &column = source.columns[static_cast<size_t>(feed.column)];
+        if (!ColumnContent::hasRates(column)) {
+            decision.error = QStringLiteral("column \"%1\" holds no rates").arg(column.name);
+            break;
+        }
+        tellEntries(column, decision);
+        describe(column, units.of(feed.column), feed, decision);
+    }
     return decision;
+}
+
+void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColumns &likely, Decision &decision) const
+{
+    std::vector<int> driven;
+    std::vector<int> waiting;
+    for (int product = 0; product < products.size(); ++product) {
+        if (!products.at(product).isDriven)
+            continue;
+        driven.push_back(product);
+        if (!products.at(product).isFed)
+            waiting.push_back(product);
+    }
+    decision.feeds = feedLikely(likely.columns(), waiting);
+    if (decision.feeds.empty())
+        decision.feeds = feedLikely(likely.columns(), driven);
+    QStringList unfit;
+    for (const LikelyColumn &column : likely.columns()) {
+        const bool fitsAny =
+            std::any_of(driven.begin(), driven.end(), [&](int product) { return fits(column, product); });
+        if (!fitsAny)
+            unfit.append(QStringLiteral("\"%1\" (%2)")
+                             .arg(source.columns[static_cast<size_t>(column.place)].name, column.unit.unit.text()));
+    }
+    const QString line = QStringLiteral("no product that a prescription may drive fits the unit of %1")
+                             .arg(QStringList(unfit.mid(0, maxTold)).join(QStringLiteral(", ")));
+    if (likely.columns().empty())
+        decision.error = likely.reasonForNone();
+    else if (decision.feeds.empty())
+        decision.error = line;
+    else if (!unfit.isEmpty())
+        decision.warnings.append(line);
+}
+
+bool ColumnPolicy::fits(const LikelyColumn &column, int product) const
+{
+    // Who names a unit has asked for it.
+    return operatorUnits[static_cast<size_t>(product)].isKnown() || column.unit.unit.fits(products.at(product).kind);
+}
+
+void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &feed, Decision &decision) const
+{
+    const MachineProduct &product = products.at(feed.product);
+    const RateUnit &named = operatorUnits[static_cast<size_t>(feed.product)];
+    if (named.isKnown())
+        unit = {named, RateSource::UnitFrom::Operator, {}};
+    unit.unit = unit.unit.of(product.kind);
+    const QString base = RateUnit::baseText(product.kind);
+    feed.factor = unit.unit.factorTo(product.kind);
+    RateSource told{column.name, unit.unit.isKnown() ? unit.unit.text() : base, unit.from, feed.product + 1, true};
+    told.isSure = !names.isEmpty() || ColumnName(column.name).namesRate();
+    decision.sources.append(told);
+    const auto warn = [&decision](const QString &text) { decision.warnings.append(text); };
+    if (!told.isSure)
+        warn(QStringLiteral("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
+    if (!unit.unknownText.isEmpty())
+        warn(
+            QStringLiteral("\"%1\", given for column \"%2\", is no unit of a rate").arg(unit.unknownText, column.name));
+    if (!unit.unit.isKnown() && !base.isEmpty())
+        warn(QStringLiteral("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));
+    else if (!unit.unit.fits(product.kind))
+        warn(QStringLiteral("column \"%1\" is in %2, which does not fit product %3 (%4); taken as %5")
+                 .arg(column.name, unit.unit.text(), QString::number(told.product), product.name, base));
 }
 
 std::vector<ColumnPolicy::Feed> ColumnPolicy::feedNamed(const RawPrescription &source) const
 {
-    QStringList read;
-    for (const SourceColumn &column : source.columns)
-        read.append(column.name);
     std::vector<Feed> feeds;
     for (int product = 0; product < names.size(); ++product) {
         if (names.at(product).isEmpty())
             continue;
-        const int inTable = RateColumns::find(source.columnNames, names.at(product));
-        feeds.push_back({product, read.indexOf(source.columnNames.value(inTable))});
+        const int field = TableColumns::find(source.columnNames, names.at(product));
+        const auto column = std::find_if(source.columns.begin(), source.columns.end(),
+                                         [field](const SourceColumn &candidate) { return candidate.field == field; });
+        feeds.push_back({product, static_cast<int>(column - source.columns.begin())});
     }
     return feeds;
 }
 
-std::vector<int> ColumnPolicy::waitingProducts() const
+std::vector<ColumnPolicy::Feed> ColumnPolicy::feedLikely(std::vector<LikelyColumn> columns,
+                                                         const std::vector<int> &candidates) const
 {
-    std::vector<int> waiting;
-    std::vector<int> driven;
-    for (int i = 0; i < products.size(); ++i) {
-        if (!products.at(i).isDriven)
-            continue;
-        driven.push_back(i);
-        if (!products.at(i).isFed)
-            waiting.push_back(i);
-    }
-    return waiting.empty() ? driven : waiting;
-}
-
-std::vector<ColumnPolicy::Feed> ColumnPolicy::feedLikely(const RawPrescription &source,
-                                                         const std::vector<PlanePolygon> &polygons) const
-{
-    std::vector<int> columns = likelyColumns(source, recordAreas(source, polygons));
     std::vector<Feed> feeds;
-    std::vector<int> left;
-    for (const int product : waitingProducts()) {
-        const auto suiting = std::find_if(columns.begin(), columns.end(), [&](int column) {
-            return suits(source.columns[static_cast<size_t>(column)], products.at(product));
+    const auto feedFirst = [&](int product, const auto &isWanted) {
+        const auto column = std::find_if(columns.begin(), columns.end(), [&](const LikelyColumn &candidate) {
+            return fits(candidate, product) && isWanted(candidate);
         });
-        if (suiting == columns.end()) {
+        if (column == columns.end())
+            return false;
+        feeds.push_back({product, column->place});
+        columns.erase(column);
+        return true;
+    };
+    std::vector<int> left;
+    for (const int product : candidates) {
+        if (!feedFirst(product, [&](const LikelyColumn &column) { return suits(column, products.at(product)); }))
             left.push_back(product);
-            continue;
-        }
-        feeds.push_back({product, *suiting});
-        columns.erase(suiting);
     }
-    for (size_t i = 0; i < std::min(left.size(), columns.size()); ++i)
-        feeds.push_back({left[i], columns[i]});
+    for (const int product : left)
+        feedFirst(product, [](const LikelyColumn &) { return true; });
     std::sort(feeds.begin(), feeds.end(), [](const Feed &a, const Feed &b) { return a.product < b.product; });
     return feeds;
 }
@@ -202,7 +244,7 @@ ColumnShares ColumnPolicy::share(const QList<File> &files, const QStringList &na
         if (column.isEmpty())
             continue;
         const auto file = std::find_if(files.begin(), files.end(), [&column](const File &candidate) {
-            return RateColumns::find(candidate.columns, column) >= 0;
+            return TableColumns::find(candidate.columns, column) >= 0;
         });
         if (file == files.end()) {
             QStringList paths;

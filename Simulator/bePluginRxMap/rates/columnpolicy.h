@@ -2,6 +2,8 @@
 
 #include "Backend/columnshares.h"
 #include "Backend/machineproduct.h"
+#include "Backend/ratesource.h"
+#include "likelycolumns.h"
 #include "planering.h"
 #include "rawprescription.h"
 
@@ -14,21 +16,26 @@
 /// Decides which rate column feeds which product, and what is to be said of it.
 ///
 /// Columns that the operator names feed the products that they are named for. Otherwise the columns whose names say
-/// that they hold rates are taken, and where none does, those that could by their content; each product takes the
-/// first one whose name suits it, then those that found none take what is left, in table order. No column feeds a
-/// product that no prescription may drive.
+/// that they hold rates are taken, else those that could by their content, else whole numbers that could; of a target
+/// and what was applied, or of equal columns, one. Each product takes the first one whose name suits it, then those
+/// that found none take what is left, in table order; a column whose unit does not fit a product never feeds it
+/// unasked. No column feeds a product that no prescription may drive.
 class ColumnPolicy {
 public:
     /// One column that feeds one product; one column may feed several.
     struct Feed {
         int product; ///< From 0.
         int column;  ///< Place in RawPrescription::columns.
+        /// From the column's unit to the product's base unit.
+        double factor = 1.0;
     };
 
     struct Decision {
         /// In product order.
         std::vector<Feed> feeds;
-        /// What was left out of the columns, without the file's name.
+        /// One per feed.
+        QList<RateSource> sources;
+        /// What was left out of the columns or taken for granted, without the file's name.
         QStringList warnings;
         /// Why nothing can be fed, without the file's name; empty when it can.
         QString error;
@@ -41,8 +48,12 @@ public:
     };
 
     /// `named`: columns for products 1, 2, ...; an empty name leaves its product out, an empty list leaves the choice
-    /// to the policy.
-    ColumnPolicy(const QList<MachineProduct> &products, const QStringList &named);
+    /// to the policy. `units`: of the columns that feed products 1, 2, ...; empty and missing ones are left to the
+    /// file.
+    ColumnPolicy(const QList<MachineProduct> &products, const QStringList &named, const QStringList &units = {});
+
+    /// Whether the column's name and type leave it possible that it holds rates.
+    static bool isWorthReading(const SourceColumn &column);
 
     /// Why the named columns cannot feed these products, whatever the file holds; empty when they may.
     const QString &refusal() const { return reason; }
@@ -61,13 +72,18 @@ public:
 
 private:
     void leaveOutUndriven();
+    void readUnits(const QStringList &texts);
+    void decideLikely(const RawPrescription &source, const LikelyColumns &likely, Decision &decision) const;
+    bool fits(const LikelyColumn &column, int product) const;
+    /// What is said of a feed, and its factor.
+    void describe(const SourceColumn &column, ColumnUnit unit, Feed &feed, Decision &decision) const;
     std::vector<Feed> feedNamed(const RawPrescription &source) const;
-    std::vector<Feed> feedLikely(const RawPrescription &source, const std::vector<PlanePolygon> &polygons) const;
-    /// Numbers from 0 of the products that likely columns may feed.
-    std::vector<int> waitingProducts() const;
+    /// Hands the columns out to products (numbers from 0).
+    std::vector<Feed> feedLikely(std::vector<LikelyColumn> columns, const std::vector<int> &candidates) const;
 
     QList<MachineProduct> products;
     QStringList names;
+    std::vector<RateUnit> operatorUnits; ///< One per product.
     QString reason;
     QStringList remarks;
 };

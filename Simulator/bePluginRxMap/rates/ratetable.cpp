@@ -18,9 +18,11 @@ RateTable::RateTable(const RawPrescription &source, const std::vector<ColumnPoli
     , count(feeds.size())
 {
     for (size_t i = 0; i < count; ++i) {
+        // Converted before it is narrowed, so that it stays exact to the last digit shown.
+        const double factor = feeds[i].factor;
         const std::vector<double> &values = source.columns[static_cast<size_t>(feeds[i].column)].values;
         for (size_t record = 0; record < values.size(); ++record)
-            rates[record * count + i] = narrow(values[record]);
+            rates[record * count + i] = narrow(factor * values[record]);
     }
 }
 

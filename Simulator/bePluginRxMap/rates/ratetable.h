@@ -9,7 +9,7 @@
 class RateTable {
 public:
     RateTable() = default;
-    /// One mapping per feed.
+    /// One mapping per feed, in the base units of the products.
     RateTable(const RawPrescription &source, const std::vector<ColumnPolicy::Feed> &feeds);
 
     size_t mappings() const { return count; }

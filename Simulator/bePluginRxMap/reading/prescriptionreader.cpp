@@ -1,9 +1,10 @@
 #include "prescriptionreader.h"
 
 #include "gdalsession.h"
-#include "ratecolumns.h"
 #include "shapefilecheck.h"
 #include "shapereader.h"
+#include "tablecolumns.h"
+#include "textrate.h"
 
 #include <QFileInfo>
 
@@ -23,13 +24,30 @@ bool isRate(double value)
     return std::isfinite(value) && value >= 0.0;
 }
 
-/// Numbers that stand as text are written with a point, whatever the terminal's language.
-double numberFromText(const char *text, bool &isNumber)
+/// The number that stands as text; not a number, and counted, where it is in another unit than those before.
+double readText(const OGRFeature &feature, SourceColumn &column)
 {
-    const QString trimmed = QString::fromUtf8(text).trimmed();
-    const double value = trimmed.toDouble(&isNumber);
-    isNumber = isNumber || trimmed.isEmpty();
-    return trimmed.isEmpty() ? notANumber : value;
+    const QString text = QString::fromUtf8(feature.GetFieldAsString(column.field));
+    const TextRate rate = TextRate::parse(text);
+    if (column.unit.isEmpty())
+        column.unit = rate.unit;
+    if (!rate.isReadable || (!rate.unit.isEmpty() && rate.unit != column.unit)) {
+        ++column.unreadable;
+        return notANumber;
+    }
+    if (rate.isAmbiguous && column.ambiguous.isEmpty())
+        column.ambiguous = text.trimmed();
+    return rate.value;
+}
+
+void compareText(const OGRFeature &feature, TextColumn &column)
+{
+    if (column.isMixed)
+        return;
+    const QString text = QString::fromUtf8(feature.GetFieldAsString(column.field)).trimmed();
+    if (column.text.isEmpty())
+        column.text = text;
+    column.isMixed = !text.isEmpty() && text != column.text;
 }
 
 /// Makes room for that many records of one cell each. Files may promise more than they hold, so there is a limit.
@@ -67,10 +85,11 @@ std::vector<SourceColumn> tableColumns(OGRFeatureDefn &definition, QStringList &
 
 } // namespace
 
-PrescriptionReader::PrescriptionReader(const QString &filePath, const QStringList &columns,
+PrescriptionReader::PrescriptionReader(const QString &filePath, const QStringList &columns, ColumnFilter columnFilter,
                                        const LoadControl &loadControl)
     : path(filePath)
     , wanted(columns)
+    , isWorthReading(columnFilter)
     , control(loadControl)
 {
     wanted.removeAll(QString());
@@ -172,17 +191,21 @@ OGRLayer *PrescriptionReader::chooseLayer(GDALDataset &dataset, RawPrescription 
 bool PrescriptionReader::chooseColumns(OGRLayer &layer, RawPrescription &map)
 {
     const std::vector<SourceColumn> table = tableColumns(*layer.GetLayerDefn(), map.columnNames);
+    for (const SourceColumn &column : table) {
+        if (column.isText)
+            map.texts.push_back({column.name, column.field, {}, false});
+    }
     if (!wanted.isEmpty())
         return takeWantedColumns(table, map);
-    std::copy_if(table.begin(), table.end(), std::back_inserter(map.columns), RateColumns::isWorthReading);
+    std::copy_if(table.begin(), table.end(), std::back_inserter(map.columns), isWorthReading);
     return true;
 }
 
 bool PrescriptionReader::takeWantedColumns(const std::vector<SourceColumn> &table, RawPrescription &map)
 {
-    QStringList taken;
+    QVector<int> taken;
     for (const QString &name : wanted) {
-        const int place = RateColumns::find(map.columnNames, name);
+        const int place = TableColumns::find(map.columnNames, name);
         if (place < 0)
             return fail(QStringLiteral("has no column \"%1\"; it has %2")
                             .arg(name, map.columnNames.join(QStringLiteral(", "))));
@@ -190,9 +213,9 @@ bool PrescriptionReader::takeWantedColumns(const std::vector<SourceColumn> &tabl
             std::find_if(table.begin(), table.end(), [place](const auto &c) { return c.field == place; });
         if (column == table.end())
             return fail(QStringLiteral("column \"%1\" holds no numbers").arg(map.columnNames.at(place)));
-        if (!taken.contains(column->name))
+        if (!taken.contains(place))
             map.columns.push_back(*column);
-        taken.append(column->name);
+        taken.append(place);
     }
     return true;
 }
@@ -209,7 +232,9 @@ void PrescriptionReader::skipOtherColumns(OGRLayer &layer, const RawPrescription
         const bool isOwnName = definition.GetFieldIndex(name) == i && !STARTS_WITH_CI(name, "OGR_");
         const bool isRead = std::any_of(map.columns.begin(), map.columns.end(),
                                         [i](const SourceColumn &column) { return column.field == i; });
-        if (isOwnName && !isRead)
+        const bool isText = std::any_of(map.texts.begin(), map.texts.end(),
+                                        [i](const TextColumn &column) { return column.field == i; });
+        if (isOwnName && !isRead && !isText)
             others.AddString(name);
     }
     layer.SetIgnoredFields(const_cast<const char **>(others.List()));
@@ -250,16 +275,14 @@ void PrescriptionReader::readValues(const OGRFeature &feature, RawPrescription &
 {
     for (SourceColumn &column : map.columns) {
         double value = notANumber;
-        bool isNumber = true;
         if (feature.IsFieldSetAndNotNull(column.field)) {
-            if (column.isText)
-                value = numberFromText(feature.GetFieldAsString(column.field), isNumber);
-            else
-                value = feature.GetFieldAsDouble(column.field);
-            if (!isNumber || (!isRate(value) && !(column.isText && std::isnan(value))))
+            value = column.isText ? readText(feature, column) : feature.GetFieldAsDouble(column.field);
+            if (!isRate(value) && !(column.isText && std::isnan(value)))
                 ++column.unreadable;
         }
         // The sum turns a negative zero into the plain one.
-        column.values.push_back(isNumber && isRate(value) ? value + 0.0 : notANumber);
+        column.values.push_back(isRate(value) ? value + 0.0 : notANumber);
     }
+    for (TextColumn &column : map.texts)
+        compareText(feature, column);
 }

@@ -17,8 +17,12 @@ struct GDALDatasetUniquePtrDeleter;
 /// in the loading thread.
 class PrescriptionReader {
 public:
-    /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that may be a rate.
-    PrescriptionReader(const QString &path, const QStringList &columns, const LoadControl &control);
+    /// Whether a column, of which name and type are known, is worth reading.
+    using ColumnFilter = bool (*)(const SourceColumn &);
+
+    /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that is worth it.
+    PrescriptionReader(const QString &path, const QStringList &columns, ColumnFilter isWorthReading,
+                       const LoadControl &control);
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
     bool read(RawPrescription &map);
@@ -38,10 +42,11 @@ private:
     static void skipOtherColumns(OGRLayer &layer, const RawPrescription &map);
     void readReference(OGRLayer &layer, RawPrescription &map);
     bool readRecords(OGRLayer &layer, RawPrescription &map);
-    void readValues(const OGRFeature &feature, RawPrescription &map);
+    static void readValues(const OGRFeature &feature, RawPrescription &map);
 
     QString path;
     QStringList wanted;
+    ColumnFilter isWorthReading;
     const LoadControl &control;
     QString reason;
 };

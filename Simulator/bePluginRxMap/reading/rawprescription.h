@@ -22,8 +22,23 @@ struct SourceColumn {
     bool isInteger = false;
     /// One per record; not a number where the table has none, or one below zero.
     std::vector<double> values;
-    /// Text entries that are no number, and numbers that are no rate (below zero or not finite).
+    /// Text entries that are no number or in another unit than `unit`, and numbers that are no rate (below zero or not
+    /// finite).
     int unreadable = 0;
+    /// What follows the numbers that stand as text ("kg/ha"); empty when nothing does.
+    QString unit;
+    /// The first text whose comma may have been meant to set off thousands; empty when there is none.
+    QString ambiguous;
+};
+
+/// A column that holds the same text in every record that has any, such as the unit of a rate.
+struct TextColumn {
+    QString name;
+    /// Place among the table's fields.
+    int field = -1;
+    QString text;
+    /// Records differ: the text says nothing.
+    bool isMixed = false;
 };
 
 /// A ring of a record, in the file's own coordinates.
@@ -41,6 +56,8 @@ struct RawPrescription {
     std::vector<SourceRing> rings;
     /// The columns that were read, in table order.
     std::vector<SourceColumn> columns;
+    /// All columns of text, in table order.
+    std::vector<TextColumn> texts;
     /// Names of all columns of the table.
     QStringList columnNames;
     /// Null when the file names no coordinate system.

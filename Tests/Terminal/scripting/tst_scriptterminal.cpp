@@ -81,11 +81,19 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
     QTest::addColumn<QString>("program");
     const auto row = [](const char *name, const char *program) { QTest::newRow(name) << QString::fromUtf8(program); };
     row("open",
-        "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'HERB_L_HA']});"
+        "var m = terminal.open(zones, {columns: ['SEED_K_HA', '', 'HERB_L_HA']});"
         "same(m.group, 'rxMap.three-zones.geojson'); same(m.polygons, 3); same(m.outers, 3); same(m.holes, 0);"
         "same(m.columns, ['SEED_K_HA', 'HERB_L_HA']); same(m.repaired, 0); same(m.skipped, 0);"
         "same(m.warnings, []); same(m.legend.map(function (c) { return c.rate; }), [70, 80, 90]);"
         "same(/^#[0-9a-f]{6}$/.test(m.legend[0].color), true);");
+    row("open says where rates come from",
+        "var m = terminal.open(zones, {columns: ['', 'FERT_KG_HA', 'zone_id'], units: [null, 'lbs/acre']});"
+        "same(m.sources, [{column: 'FERT_KG_HA', product: 2, sure: true, unit: 'lb/ac', unitFrom: 'operator'},"
+        " {column: 'zone_id', product: 3, sure: true, unit: 'L/ha', unitFrom: 'assumed'}]);"
+        "same(m.legends[1][0].rate, 1);"
+        "same(m.warnings.length, 1);"
+        "same(terminal.open(zones).sources[0],"
+        " {column: 'SEED_K_HA', product: 1, sure: true, unit: '1000/ha', unitFrom: 'name'});");
     row("open for the active product",
         "terminal.activeProduct = 2;"
         "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'FERT_KG_HA']});"
@@ -185,7 +193,9 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("endless columns", "terminal.open(zones, {columns: new Array(4294967295)});",
         "\"columns\" has more than 16 entries");
     row("unknown option", "terminal.open(zones, {colums: ['SEED_K_HA']});",
-        "\"colums\" is no option of open(); it knows \"columns\"");
+        "\"colums\" is no option of open(); it knows \"columns\" and \"units\"");
+    row("units no list", "terminal.open(zones, {units: 'lb/ac'});", "\"units\" is no list");
+    row("unit that is none", "terminal.open(zones, {units: ['bags']});", "\"bags\" is no unit of a rate");
     row("options no object", "terminal.open(zones, ['SEED_K_HA']);", "the options of open() are no object");
     row("options a text", "terminal.open(zones, 'SEED_K_HA');", "the options of open() are no object");
     row("options null", "terminal.open(zones, null);", "the options of open() are no object");

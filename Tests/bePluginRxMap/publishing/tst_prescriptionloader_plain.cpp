@@ -1,5 +1,6 @@
 // Each step of a load that takes a shorter way, compared on whole maps with the plain way.
 
+#include "columnpolicy.h"
 #include "duplicatepolygons.h"
 #include "fixture.h"
 #include "gdalsession.h"
@@ -27,7 +28,7 @@ struct PlacedMap {
 bool place(const QString &path, PlacedMap &map, QString &error)
 {
     const LoadControl control;
-    PrescriptionReader reader(path, {}, control);
+    PrescriptionReader reader(path, {}, ColumnPolicy::isWorthReading, control);
     GeographicExtent extent;
     if (!reader.read(map.source)) {
         error = reader.error();

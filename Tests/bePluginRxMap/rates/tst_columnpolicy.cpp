@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+Q_DECLARE_METATYPE(RateSource::UnitFrom)
+
 namespace {
 
 const double none = std::nan("");
@@ -25,8 +27,10 @@ RawPrescription mapOf(std::vector<SourceColumn> columns)
     map.xs = {11.0, 12.0};
     map.ys = {48.0, 49.0};
     map.columns = std::move(columns);
-    for (const SourceColumn &entry : map.columns)
+    for (SourceColumn &entry : map.columns) {
+        entry.field = map.columnNames.size();
         map.columnNames.append(entry.name);
+    }
     return map;
 }
 
@@ -34,7 +38,7 @@ RawPrescription tableOf(const QStringList &names)
 {
     std::vector<SourceColumn> columns;
     for (const QString &name : names)
-        columns.push_back(column(name));
+        columns.push_back(column(name, {1.0, 1.0, 2.0, 3.0 + static_cast<double>(columns.size())}));
     return mapOf(std::move(columns));
 }
 
@@ -101,6 +105,17 @@ private Q_SLOTS:
     void passesOverWhatIsNoRateByItsContent_data();
     void passesOverWhatIsNoRateByItsContent();
     void knowsAColumnOfAreasByThePolygonsLessTheirHoles();
+    void takesEqualColumnsForOne();
+    void takesWholeNumbersAsALastResort_data();
+    void takesWholeNumbersAsALastResort();
+    void readsTheUnit_data();
+    void readsTheUnit();
+    void looksForUnitsBesideTheirOwnColumn();
+    void takesTheOperatorsUnit();
+    void refusesUnitsThatAreNone();
+    void saysWhatItTakesForGranted_data();
+    void saysWhatItTakesForGranted();
+    void namesColumnsThatFitNoProduct();
     void refusesColumnsWithoutRates_data();
     void refusesColumnsWithoutRates();
     void tellsOfEntriesThatAreNoRates_data();
@@ -123,11 +138,21 @@ void ColumnPolicyTest::handsColumnsOut_data()
         QTest::newRow(title) << list(table) << list(named) << list(feeds);
     };
     row("named", "HERB_L_HA zone A", "zone - herb_l_ha", "1:zone 3:HERB_L_HA");
+    row("by number", "RATE RATE", "#2 #1", "1:RATE 2:RATE");
     row("one named for two products", "zone", "zone zone", "1:zone 2:zone");
     row("in the order of the products", "SEED_ks_ha FERT_kg_ha HERB_l_ha", "", "1:SEED_ks_ha 2:FERT_kg_ha 3:HERB_l_ha");
-    row("in another order", "SEED_kg_ha HERB_l_ha FERT_kg_ha", "", "1:SEED_kg_ha 2:FERT_kg_ha 3:HERB_l_ha");
+    row("in another order", "SEED_K_ha HERB_l_ha FERT_kg_ha", "", "1:SEED_K_ha 2:FERT_kg_ha 3:HERB_l_ha");
     row("fewer columns than products", "HERB_L_HA SEED_KS_HA", "", "1:SEED_KS_HA 3:HERB_L_HA");
-    row("more columns than products", "a_l_ha b_l_ha c_l_ha d_l_ha", "", "1:b_l_ha 2:c_l_ha 3:a_l_ha");
+    row("two that suit one product", "a_l_ha b_l_ha", "", "3:a_l_ha");
+    row("more columns than products", "rate1 rate2 rate3 rate4", "", "1:rate1 2:rate2 3:rate3");
+    row("seed by weight feeds no count", "SEED_kg_ha HERB_l_ha", "", "2:SEED_kg_ha 3:HERB_l_ha");
+    row("nor does it take a place from another one", "SEED_kg_ha FERT_lb_ac", "", "2:FERT_lb_ac");
+    row("a unit that does not fit, asked for", "SEED_kg_ha", "SEED_kg_ha", "1:SEED_kg_ha");
+    row("ounces of a liquid", "Herb_oz_ac", "", "3:Herb_oz_ac");
+    row("nutrients are fertiliser", "N", "", "2:N");
+    row("nutrients by their oxide", "P2O5 rate_k_ha", "", "1:rate_k_ha");
+    row("a target before what was put out", "Applied_kg_ha Target_kg_ha", "", "2:Target_kg_ha");
+    row("what was put out, where there is no target", "Applied_kg_ha", "", "2:Applied_kg_ha");
     row("columns that suit any product", "rate1 rate2", "", "1:rate1 2:rate2");
     row("one of them suits", "rate1 rate_l_ha rate2", "", "1:rate1 2:rate2 3:rate_l_ha");
 }
@@ -144,8 +169,8 @@ void ColumnPolicyTest::feedsOnlyProductsThatAPrescriptionMayDrive()
 {
     QList<MachineProduct> products = machine();
     products[1].isDriven = false;
-    const RawPrescription map = tableOf({"SEED_KS_HA", "FERT_KG_HA"});
-    QCOMPARE(feeds(ColumnPolicy(products, {}), map), QStringList({"1:SEED_KS_HA", "3:FERT_KG_HA"}));
+    const RawPrescription map = tableOf({"SEED_KS_HA", "FERT_KG_HA", "rate"});
+    QCOMPARE(feeds(ColumnPolicy(products, {}), map), QStringList({"1:SEED_KS_HA", "3:rate"}));
     const ColumnPolicy named(products, {"SEED_KS_HA", "FERT_KG_HA"});
     QCOMPARE(feeds(named, map), QStringList("1:SEED_KS_HA"));
 }
@@ -159,6 +184,9 @@ void ColumnPolicyTest::feedsProductsFirstThatNoOtherFileFeeds()
     products[1].isFed = true;
     products[2].isDriven = false;
     QCOMPARE(feeds(ColumnPolicy(products, {}), map), QStringList({"1:rate1", "2:rate2"}));
+    // None of those that wait fits.
+    products[0].isFed = false;
+    QCOMPARE(feeds(ColumnPolicy(products, {}), tableOf({"RATE_KG_HA"})), QStringList("2:RATE_KG_HA"));
 }
 
 void ColumnPolicyTest::saysWhatItLeavesOut()
@@ -239,6 +267,184 @@ void ColumnPolicyTest::knowsAColumnOfAreasByThePolygonsLessTheirHoles()
     QCOMPARE(feeds(policy, amounts), QStringList("1:thing"));
 }
 
+void ColumnPolicyTest::takesEqualColumnsForOne()
+{
+    QCOMPARE(
+        likely({column("Rate1", {1, 2, 2, none}), column("Rate2", {1, 2, 2, none}), column("Rate3", {1, 2, 3, 4})}),
+        QStringList({"1:Rate1", "2:Rate3"}));
+    QCOMPARE(likely({column("rate_l_ha"), column("rate_kg_ha")}), QStringList({"2:rate_kg_ha", "3:rate_l_ha"}));
+}
+
+void ColumnPolicyTest::takesWholeNumbersAsALastResort_data()
+{
+    QTest::addColumn<QVector<double>>("values");
+    QTest::addColumn<bool>("isRate");
+    QTest::newRow("rates") << QVector<double>{100, 150, 150, 200} << true;
+    QTest::newRow("a rate for each record") << QVector<double>{100, 150, 120, 200} << true;
+    QTest::newRow("years") << QVector<double>{2019, 2020, 2020, 2019} << false;
+    QTest::newRow("numbers of the records in any order") << QVector<double>{2, 4, 1, 3} << false;
+}
+
+void ColumnPolicyTest::takesWholeNumbersAsALastResort()
+{
+    QFETCH(QVector<double>, values);
+    QFETCH(bool, isRate);
+    const auto whole = [&values] {
+        SourceColumn result = column("Urea", std::vector<double>(values.begin(), values.end()));
+        result.isInteger = true;
+        return result;
+    };
+    QCOMPARE(likely({whole()}), isRate ? QStringList("2:Urea") : QStringList());
+    QCOMPARE(likely({whole(), column("thing")}), QStringList("1:thing"));
+}
+
+void ColumnPolicyTest::readsTheUnit_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("behind");
+    QTest::addColumn<QString>("beside");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<RateSource::UnitFrom>("from");
+    QTest::addColumn<double>("factor");
+    using From = RateSource::UnitFrom;
+    QTest::newRow("beside") << "Rate_kg_ha"
+                            << "t/ha"
+                            << "dt/ha"
+                            << "dt/ha" << From::Column << 100.0;
+    QTest::newRow("behind") << "Rate_kg_ha"
+                            << "t/ha"
+                            << ""
+                            << "t/ha" << From::Text << 1000.0;
+    QTest::newRow("name") << "Rate_g_m2"
+                          << ""
+                          << ""
+                          << "g/m2" << From::Name << 10.0;
+    QTest::newRow("none") << "Rate"
+                          << ""
+                          << ""
+                          << "kg/ha" << From::Assumed << 1.0;
+    QTest::newRow("unknown beside") << "Rate_t_ha"
+                                    << ""
+                                    << "bags"
+                                    << "t/ha" << From::Name << 1000.0;
+    QTest::newRow("unknown behind") << "Rate"
+                                    << "bags"
+                                    << ""
+                                    << "kg/ha" << From::Assumed << 1.0;
+}
+
+void ColumnPolicyTest::readsTheUnit()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, behind);
+    QFETCH(QString, beside);
+    QFETCH(double, factor);
+    RawPrescription map = tableOf({name});
+    map.columns[0].unit = behind;
+    map.texts.push_back({QStringLiteral("Unit"), 1, beside, false});
+    map.texts.push_back({QStringLiteral("name"), 2, QStringLiteral("west"), false});
+    const auto decision =
+        ColumnPolicy({product("Urea", DbGroupProductGroupInfo::WeightRate)}, {}).decide(map, polygons());
+    QCOMPARE(decision.sources.size(), 1);
+    QCOMPARE(decision.sources.first().column, name);
+    QCOMPARE(decision.sources.first().product, 1);
+    QTEST(decision.sources.first().unit, "unit");
+    QTEST(decision.sources.first().unitFrom, "from");
+    QCOMPARE(decision.feeds.front().factor, factor);
+}
+
+void ColumnPolicyTest::looksForUnitsBesideTheirOwnColumn()
+{
+    RawPrescription map = tableOf({"Rate1", "Rate2"});
+    map.columns[0].field = 1;
+    map.columns[1].field = 3;
+    const auto units = [&map] {
+        QStringList result;
+        for (int place = 0; place < 2; ++place)
+            result.append(ColumnUnits(map).of(place).unit.text());
+        return result;
+    };
+    map.texts = {{QStringLiteral("a"), 2, QStringLiteral("l/ha"), false},
+                 {QStringLiteral("b"), 4, QStringLiteral("kg/ha"), false}};
+    QCOMPARE(units(), QStringList({"L/ha", "kg/ha"}));
+    map.texts[0].field = 0;
+    map.texts[1].field = 2;
+    QCOMPARE(units(), QStringList({"kg/ha", "kg/ha"}));
+    map.texts.pop_back();
+    QCOMPARE(units(), QStringList({"L/ha", "L/ha"}));
+    for (const char *name : {"Unit", "Rate UOM", "UNIT_1", "remark"}) {
+        map.texts[0].name = QString::fromLatin1(name);
+        QCOMPARE(units(), QStringList({"L/ha", "L/ha"}));
+    }
+    map.texts[0].name = QStringLiteral("Yield_Unit");
+    QCOMPARE(units(), QStringList({"", ""}));
+    map.texts[0].name = QStringLiteral("Unit");
+    map.texts[0].isMixed = true;
+    QCOMPARE(units(), QStringList({"", ""}));
+}
+
+void ColumnPolicyTest::takesTheOperatorsUnit()
+{
+    const RawPrescription map = tableOf({"FERT_kg_ha", "HERB_l_ha"});
+    const ColumnPolicy policy(machine(), {}, {QString(), QStringLiteral("lbs/acre")});
+    const auto decision = policy.decide(map, polygons());
+    QCOMPARE(decision.sources.size(), 2);
+    QCOMPARE(decision.sources.at(0).unit, QStringLiteral("lb/ac"));
+    QCOMPARE(decision.sources.at(0).unitFrom, RateSource::UnitFrom::Operator);
+    QCOMPARE(decision.sources.at(1).unit, QStringLiteral("L/ha"));
+    QVERIFY(std::fabs(decision.feeds.front().factor - 1.12085116) < 1e-8);
+}
+
+void ColumnPolicyTest::refusesUnitsThatAreNone()
+{
+    QCOMPARE(ColumnPolicy(machine(), {}, {"", "bags"}).refusal(), QStringLiteral("\"bags\" is no unit of a rate"));
+    QCOMPARE(ColumnPolicy(machine(), {}, {"", "", "", "kg/ha"}).refusal(),
+             QStringLiteral("4 units are named, but the machine has 3 products"));
+}
+
+void ColumnPolicyTest::saysWhatItTakesForGranted_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isNamed");
+    QTest::addColumn<QString>("beside");
+    QTest::addColumn<QStringList>("warnings");
+    const QString unknown = QStringLiteral("the unit of column \"%1\" is not known, taken as 1000/ha");
+    QTest::newRow("nothing") << "SEED_K_HA" << false << "" << QStringList();
+    QTest::newRow("unknown unit") << "rate" << false << "" << QStringList(unknown.arg("rate"));
+    QTest::newRow("unit that is none") << "rate" << false << "bags"
+                                       << QStringList({"\"bags\", given for column \"rate\", is no unit of a rate",
+                                                       unknown.arg("rate")});
+    QTest::newRow("guess") << "thing" << false << ""
+                           << QStringList({"column \"thing\" is a guess: nothing in its name says that it holds rates",
+                                           unknown.arg("thing")});
+    QTest::newRow("named") << "thing" << true << "" << QStringList(unknown.arg("thing"));
+    QTest::newRow("unit that does not fit")
+        << "SEED_kg_ha" << true << ""
+        << QStringList("column \"SEED_kg_ha\" is in kg/ha, which does not fit product 1 (Seed); taken as 1000/ha");
+}
+
+void ColumnPolicyTest::saysWhatItTakesForGranted()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isNamed);
+    QFETCH(QString, beside);
+    RawPrescription map = tableOf({name});
+    map.texts.push_back({QStringLiteral("Unit"), 1, beside, false});
+    const ColumnPolicy policy(machine().mid(0, 1), isNamed ? QStringList(name) : QStringList());
+    QTEST(policy.decide(map, polygons()).warnings, "warnings");
+}
+
+void ColumnPolicyTest::namesColumnsThatFitNoProduct()
+{
+    const QList<MachineProduct> seed = machine().mid(0, 1);
+    const QString line =
+        QStringLiteral("no product that a prescription may drive fits the unit of \"FERT_kg_ha\" (kg/ha)");
+    QCOMPARE(ColumnPolicy(seed, {}).decide(tableOf({"FERT_kg_ha"}), polygons()).error, line);
+    const auto some = ColumnPolicy(seed, {}).decide(tableOf({"FERT_kg_ha", "SEED_K_HA"}), polygons());
+    QCOMPARE(some.error, QString());
+    QCOMPARE(some.warnings, QStringList(line));
+}
+
 void ColumnPolicyTest::refusesColumnsWithoutRates_data()
 {
     QTest::addColumn<QStringList>("columns");
@@ -271,7 +477,8 @@ void ColumnPolicyTest::tellsOfEntriesThatAreNoRates()
 {
     QFETCH(int, unreadable);
     const RawPrescription map = mapOf({column("rate", {1, none, none, 1}, unreadable), column("other", anyRates, 3)});
-    QTEST(ColumnPolicy(machine(), {"rate"}).decide(map, polygons()).warnings, "warnings");
+    const QList<MachineProduct> products{product("Anything", DbGroupProductGroupInfo::UnknownRate)};
+    QTEST(ColumnPolicy(products, {"rate"}).decide(map, polygons()).warnings, "warnings");
 }
 
 void ColumnPolicyTest::sharesNamedColumnsAmongFiles_data()

@@ -8,6 +8,7 @@ class RateTableTest : public TestBase {
 
 private Q_SLOTS:
     void givesTheRatesRecordByRecord();
+    void convertsRatesBeforeItNarrowsThem();
     void takesRatesThatAreTooLargeToBePublishedForNone();
 };
 
@@ -25,6 +26,24 @@ void RateTableTest::givesTheRatesRecordByRecord()
     QVERIFY(std::isnan(table.at(1, 0)));
     QVERIFY(!table.hasNone(1));
     QVERIFY(table.hasNone(2));
+}
+
+void RateTableTest::convertsRatesBeforeItNarrowsThem()
+{
+    const double factor = 0.45359237 / 0.40468564224;
+    RawPrescription map;
+    map.records = 1000;
+    map.columns.resize(1);
+    for (int record = 0; record < map.records; ++record)
+        map.columns[0].values.push_back(0.1 * record);
+    const RateTable table(map, {{0, 0, factor}});
+    bool isAnyOther = false;
+    for (int record = 0; record < map.records; ++record) {
+        const double rate = map.columns[0].values[static_cast<size_t>(record)];
+        QVERIFY(table.at(record, 0) == static_cast<float>(rate * factor));
+        isAnyOther = isAnyOther || table.at(record, 0) != static_cast<float>(rate) * static_cast<float>(factor);
+    }
+    QVERIFY(isAnyOther);
 }
 
 void RateTableTest::takesRatesThatAreTooLargeToBePublishedForNone()

@@ -1,5 +1,7 @@
 #include "readertest.h"
 
+#include "columnpolicy.h"
+
 void ReaderTest::init()
 {
     TestBase::init();
@@ -23,7 +25,7 @@ bool ReaderTest::replaceIn(const char *name, const QByteArray &from, const QByte
 bool ReaderTest::read(const QString &file, const QStringList &columns)
 {
     const LoadControl control;
-    PrescriptionReader reader(file, columns, control);
+    PrescriptionReader reader(file, columns, ColumnPolicy::isWorthReading, control);
     const bool isRead = reader.read(map);
     error = reader.error();
     return isRead;

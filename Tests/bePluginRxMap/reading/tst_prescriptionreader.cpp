@@ -1,3 +1,4 @@
+#include "columnpolicy.h"
 #include "gdalsession.h"
 #include "readertest.h"
 
@@ -155,7 +156,7 @@ void PrescriptionReaderTest::endsWhenItIsCancelled()
     const std::atomic<bool> cancelled(true);
     LoadControl control;
     control.cancelled = &cancelled;
-    PrescriptionReader reader(fixture("three-zones.geojson"), {}, control);
+    PrescriptionReader reader(fixture("three-zones.geojson"), {}, ColumnPolicy::isWorthReading, control);
     QVERIFY(!reader.read(map));
     QVERIFY(reader.error().contains(QStringLiteral("cancelled")));
 }
@@ -170,7 +171,7 @@ void PrescriptionReaderTest::reportsProgress()
     QList<double> fractions;
     LoadControl control;
     control.progress = [&fractions](double fraction) { fractions.append(fraction); };
-    QVERIFY(PrescriptionReader(path("a.shp"), {}, control).read(map));
+    QVERIFY(PrescriptionReader(path("a.shp"), {}, ColumnPolicy::isWorthReading, control).read(map));
     QCOMPARE(fractions, QList<double>({0.256, 0.512, 0.768}));
 }
 

@@ -7,6 +7,8 @@ class PrescriptionReaderColumnsTest : public ReaderTest {
 
 private Q_SLOTS:
     void readsTextAsNumbersInTheCLocale();
+    void readsWhatFollowsTheNumbersOfAText();
+    void readsTextsThatAreTheSameInEveryRecord();
     void readsColumnNamesInTheTablesOwnCodePage();
     void takesNegativeAndEndlessNumbersForNoRate();
     void takesANegativeZeroForZero();
@@ -36,6 +38,41 @@ void PrescriptionReaderColumnsTest::readsTextAsNumbersInTheCLocale()
     QVERIFY(std::isnan(column.values[2]));
     QVERIFY(std::isnan(column.values[3]));
     QCOMPARE(column.unreadable, 1);
+}
+
+void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
+{
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"rate", QStringLiteral("text")}};
+    for (const char *text : {"80", "90,5 kg/ha", "32,000 kg/ha", "90 lb/ac"})
+        sketch.rows.append({squareText(11.0 + 0.1 * sketch.rows.size(), 48.0, 0.001), {QString::fromLatin1(text)}});
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QVERIFY2(read(path("a.gpkg")), qPrintable(error));
+    const SourceColumn &column = map.columns[0];
+    QCOMPARE(column.unit, QStringLiteral("kg/ha"));
+    QCOMPARE(column.values[0], 80.0);
+    QCOMPARE(column.values[1], 90.5);
+    QCOMPARE(column.ambiguous, QStringLiteral("32,000 kg/ha"));
+    // Another unit than that of the records before.
+    QVERIFY(std::isnan(column.values[3]));
+    QCOMPARE(column.unreadable, 1);
+}
+
+void PrescriptionReaderColumnsTest::readsTextsThatAreTheSameInEveryRecord()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"RATE", 1.0}, {"UNIT", QStringLiteral("text")}, {"NAME", QStringLiteral("text")}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, QStringLiteral("l/ha"), QStringLiteral("west")}},
+                   {squareText(11.1, 48.0, 0.001), {80.0, QVariant(), QVariant()}},
+                   {squareText(11.2, 48.0, 0.001), {90.0, QStringLiteral("l/ha"), QStringLiteral("east")}}};
+    QVERIFY(sketch.write(path("a.shp")));
+    QVERIFY2(read(path("a.shp"), {QStringLiteral("RATE")}), qPrintable(error));
+    QCOMPARE(map.texts.size(), size_t(2));
+    QCOMPARE(map.texts[0].name, QStringLiteral("UNIT"));
+    QCOMPARE(map.texts[0].text, QStringLiteral("l/ha"));
+    QVERIFY(!map.texts[0].isMixed);
+    QVERIFY(map.texts[1].isMixed);
 }
 
 void PrescriptionReaderColumnsTest::readsColumnNamesInTheTablesOwnCodePage()

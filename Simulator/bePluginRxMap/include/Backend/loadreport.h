@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/ratesource.h"
+
 #include "Framework/rxpolygon.h"
 
 #include <QList>
@@ -23,6 +25,8 @@ struct LoadReport {
     int holes = 0;
     /// The columns in mapping order.
     QStringList columns;
+    /// One per column.
+    QList<RateSource> sources;
     /// One legend per column.
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
     /// Per legend: every class holds one single rate, which is its limit.

@@ -13,6 +13,8 @@ struct LoadRequest {
     /// Rate columns; entry i feeds products[i]. An empty entry leaves that product out. An empty list lets the
     /// back-end choose the most likely columns.
     QStringList columns;
+    /// Units of the columns that feed products[i] ("lb/ac"); empty and missing ones are left to the file.
+    QStringList units;
     /// All products of the machine, in product order.
     QList<MachineProduct> products;
 };

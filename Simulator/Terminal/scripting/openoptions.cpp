@@ -1,0 +1,68 @@
+#include "openoptions.h"
+
+#include "productfile.h"
+
+#include <QJSValue>
+#include <QJSValueIterator>
+
+namespace {
+
+const QString columnsOption = QStringLiteral("columns");
+const QString unitsOption = QStringLiteral("units");
+
+/// What a list of a script names for the products; null and undefined leave a product out, as an empty text does.
+Result<QStringList> namesIn(const QJSValue &list, const QString &option)
+{
+    const quint32 count = list.property(QStringLiteral("length")).toUInt();
+    if (count > quint32(ProductFile::maxProducts))
+        return Result<QStringList>::failure(
+            QStringLiteral("\"%1\" has more than %2 entries").arg(option, QString::number(ProductFile::maxProducts)));
+    QStringList names;
+    for (quint32 i = 0; i < count; ++i) {
+        const QJSValue entry = list.property(i);
+        const bool isLeftOut = entry.isNull() || entry.isUndefined();
+        if (!entry.isString() && !isLeftOut)
+            return Result<QStringList>::failure(
+                QStringLiteral("entry %1 of \"%2\" is no text").arg(QString::number(i + 1), option));
+        names.append(isLeftOut ? QString() : entry.toString());
+    }
+    return {names, {}};
+}
+
+/// What one option of open() names; nothing without it.
+Result<QStringList> listIn(const QJSValue &options, const QString &option)
+{
+    const QJSValue value = options.property(option);
+    if (value.isUndefined())
+        return {};
+    return value.isArray() ? namesIn(value, option)
+                           : Result<QStringList>::failure(QStringLiteral("\"%1\" is no list").arg(option));
+}
+
+/// What is wrong with the options of open() as a whole.
+QString problem(const QJSValue &options)
+{
+    if (!options.isObject() || options.isArray())
+        return QStringLiteral("the options of open() are no object");
+    QJSValueIterator option(options);
+    while (option.next()) {
+        if (option.name() != columnsOption && option.name() != unitsOption)
+            return QStringLiteral("\"%1\" is no option of open(); it knows \"columns\" and \"units\"")
+                .arg(option.name());
+    }
+    return {};
+}
+
+} // namespace
+
+Result<OpenOptions> OpenOptions::read(const QJSValue &options)
+{
+    if (options.isUndefined())
+        return {};
+    const QString reason = problem(options);
+    if (!reason.isEmpty())
+        return Result<OpenOptions>::failure(reason);
+    const Result<QStringList> columns = listIn(options, columnsOption);
+    const Result<QStringList> units = listIn(options, unitsOption);
+    return {{columns.value, units.value}, columns.isOk() ? units.error : columns.error};
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Where the rates of one product come from.
+struct RateSource {
+    /// What told the unit of a column.
+    enum class UnitFrom { Operator, Format, Column, Text, Name, Assumed };
+
+    QString column;
+    /// Unit of the file, "lb/ac"; the product's base unit where the file's is not known, empty where that is not known
+    /// either.
+    QString unit;
+    UnitFrom unitFrom = UnitFrom::Assumed;
+    /// Number of the product from 1.
+    int product = 0;
+    /// Whether the operator or the column's name says that it holds rates; else it was taken by its content.
+    bool isSure = true;
+};

@@ -1,0 +1,190 @@
+#include "columnname.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+/// Longest name that an attribute table of a Shapefile holds.
+constexpr int maxTableName = 10;
+
+QSet<QString> wordSet(const char *text)
+{
+    const QStringList words = QString::fromLatin1(text).split(QLatin1Char(' '));
+    return QSet<QString>(words.begin(), words.end());
+}
+
+const QSet<QString> &rateWords()
+{
+    static const QSet<QString> words = wordSet(
+        "rate rates rat dose doses dosis dosage dosierung rx vra tgt target setpoint soll sollwert taux dosi prescr "
+        "prescription aufwand aufwandmenge ausbringmenge gabe tasa razao gpa");
+    return words;
+}
+
+struct ProductWords {
+    ProductLineItem::Basis basis;
+    QSet<QString> words;
+};
+
+const std::vector<ProductWords> &productWords()
+{
+    static const std::vector<ProductWords> words = {
+        {ProductLineItem::Count, wordSet("seed seeding sow saat saatgut samen semence semilla semente population pop")},
+        {ProductLineItem::Volume, wordSet("herb herbicide fung fungicide insect spray liquid herbizid water")},
+        {ProductLineItem::Weight,
+         wordSet("fert fertiliser fertilizer duenger dunger engrais fertilizante adubo urea lime kalk")},
+    };
+    return words;
+}
+
+const QSet<QString> &appliedWords()
+{
+    static const QSet<QString> words = wordSet("applied appl app actual act ist");
+    return words;
+}
+
+const QSet<QString> &wantedWords()
+{
+    static const QSet<QString> words = wordSet("target tgt planned plan desired prescribed set setpoint soll");
+    return words;
+}
+
+const QSet<QString> &nutrients()
+{
+    static const QSet<QString> words = wordSet("n p k p2o5 k2o");
+    return words;
+}
+
+const QSet<QString> &otherWords()
+{
+    static const QSet<QString> words = wordSet(
+        "id ids fid oid gid uid pid objectid globalid key dn area areas flaeche surface size perim perimeter length "
+        "len shape total totals tot sum summe gesamt qt qty quantity count cnt num number nr no xmin xmax ymin ymax "
+        "minx maxx miny maxy x y z lat lon lng long latitude longitude left right top bottom north south east west row "
+        "col column idx index class code kode codigo cat year jahr annee ano date time version flag status rep reps "
+        "replic replicatio replication block plot strip zone level elev elevation slope altitude moisture protein "
+        "yield yld ertrag rendement rendimiento ndvi evi savi cost price preis hectares ha ac acres field farm feld "
+        "schlag parcel soil boden sol suelo solo ph om cec ec humus clay sand silt ppm unit units uom einheit unite "
+        "unidad "
+        "unidade");
+    return words;
+}
+
+/// What says so even beside a word for a rate.
+const QSet<QString> &decisiveWords()
+{
+    static const QSet<QString> words = wordSet(
+        "id ids fid oid gid uid objectid area areas flaeche total totals tot sum summe gesamt count cnt code year "
+        "yield yld ertrag rendement rendimiento soil ppm unit units uom einheit unite unidad unidade");
+    return words;
+}
+
+/// Whether the word is one of `words`, with or without a number behind it.
+bool isIn(const QSet<QString> &words, const QString &word)
+{
+    QString letters = word;
+    while (!letters.isEmpty() && letters.back().isDigit())
+        letters.chop(1);
+    return words.contains(word) || words.contains(letters);
+}
+
+bool isRateWord(const QString &word)
+{
+    return isIn(rateWords(), word) || word.startsWith(QLatin1String("rate")) || word.endsWith(QLatin1String("rate"))
+        || word.startsWith(QLatin1String("tgt")) || word.startsWith(QLatin1String("dose"));
+}
+
+bool isNumber(const QString &word)
+{
+    return std::all_of(word.begin(), word.end(), [](QChar letter) { return letter.isDigit(); });
+}
+
+} // namespace
+
+ColumnName::ColumnName(const QString &name)
+    : words(RateUnit::wordsOf(name))
+    , mayBeCut(name.size() >= maxTableName)
+{
+}
+
+RateUnit ColumnName::unit() const
+{
+    const RateUnit perArea = RateUnit::find(words, mayBeCut);
+    return perArea.isKnown() || !hasRateWord() ? perArea : RateUnit::findAmount(words);
+}
+
+bool ColumnName::namesUnit() const
+{
+    static const QSet<QString> names = wordSet("unit units uom einheit unite unidad unidade");
+    const bool hasUnit = std::any_of(words.begin(), words.end(), [](const QString &word) { return isIn(names, word); });
+    return hasUnit && std::all_of(words.begin(), words.end(), [](const QString &word) {
+               return isIn(names, word) || isIn(wantedWords(), word) || isRateWord(word) || isNumber(word);
+           });
+}
+
+bool ColumnName::namesApplied() const
+{
+    return std::any_of(words.begin(), words.end(), [](const QString &word) { return isIn(appliedWords(), word); });
+}
+
+QString ColumnName::subject() const
+{
+    QStringList rest;
+    for (const QString &word : words) {
+        if (!rateWords().contains(word) && !wantedWords().contains(word) && !appliedWords().contains(word))
+            rest.append(word);
+    }
+    return rest.join(QLatin1Char(' '));
+}
+
+ProductLineItem::Basis ColumnName::basis() const
+{
+    // Seed is sown by weight, too: its name says more than its unit.
+    for (const ProductWords &known : productWords()) {
+        const bool isNamed =
+            std::any_of(words.begin(), words.end(), [&known](const QString &word) { return isIn(known.words, word); });
+        if (isNamed)
+            return known.basis;
+    }
+    if (unit().isKnown())
+        return unit().basis();
+    const bool isNutrient =
+        std::any_of(words.begin(), words.end(), [](const QString &word) { return nutrients().contains(word); });
+    return isNutrient ? ProductLineItem::Weight : ProductLineItem::None;
+}
+
+bool ColumnName::hasRateWord() const
+{
+    return std::any_of(words.begin(), words.end(), isRateWord);
+}
+
+bool ColumnName::endsInArea() const
+{
+    static const QSet<QString> areas = wordSet("ha ac");
+    return words.size() > 1 && areas.contains(words.last());
+}
+
+bool ColumnName::hasOtherWord() const
+{
+    // What the soil holds of a nutrient: "K_mg_kg".
+    const int milligrams = words.indexOf(QStringLiteral("mg"));
+    if (milligrams >= 0 && words.value(milligrams + 1).endsWith(QLatin1Char('g')))
+        return true;
+    const QStringList others = words.mid(0, endsInArea() ? words.size() - 1 : words.size());
+    return std::any_of(others.begin(), others.end(), [](const QString &word) { return isIn(otherWords(), word); });
+}
+
+bool ColumnName::namesRate() const
+{
+    return hasRateWord() || RateUnit::find(words, mayBeCut).isKnown() || (endsInArea() && !hasOtherWord());
+}
+
+bool ColumnName::namesOther() const
+{
+    if (!namesRate())
+        return hasOtherWord();
+    return std::any_of(words.begin(), words.end(), [](const QString &word) { return isIn(decisiveWords(), word); });
+}

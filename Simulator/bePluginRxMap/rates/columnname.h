@@ -1,0 +1,38 @@
+#pragma once
+
+#include "rateunit.h"
+
+#include <QString>
+#include <QStringList>
+
+/// What the name of a table column says about its content. Names come in any language and case, cut at ten characters,
+/// with words run together.
+class ColumnName {
+public:
+    explicit ColumnName(const QString &name);
+
+    /// Names a rate: by word ("RATE_kg_", "target_rat", "DOSE"), by unit per area ("HERB_l_ha"), or by a product and
+    /// an area ("Urea_ha").
+    bool namesRate() const;
+    /// Names what no rate is: an identifier, size, total, extent, place, yield, something found in the soil.
+    bool namesOther() const;
+    /// Names the unit of a rate that stands in another column: "Unit", "RateUOM".
+    bool namesUnit() const;
+    /// Names what was put out, not what is wanted.
+    bool namesApplied() const;
+    /// What is left of the name without its words for a rate, for what is wanted and for what was put out.
+    QString subject() const;
+    /// The unit per area; of a name that has a word for a rate, an amount alone is one, too. Not known when there is
+    /// none.
+    RateUnit unit() const;
+    /// What a word for the product, else the rate's unit, says is measured out.
+    ProductLineItem::Basis basis() const;
+
+private:
+    bool hasRateWord() const;
+    bool endsInArea() const;
+    bool hasOtherWord() const;
+
+    QStringList words;
+    bool mayBeCut;
+};

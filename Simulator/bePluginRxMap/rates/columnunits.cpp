@@ -1,0 +1,57 @@
+#include "columnunits.h"
+
+#include "columnname.h"
+
+#include <algorithm>
+
+ColumnUnits::ColumnUnits(const RawPrescription &rawPrescription)
+    : source(rawPrescription)
+{
+    for (const TextColumn &column : source.texts) {
+        if (column.isMixed || column.text.isEmpty())
+            continue;
+        const ColumnName name(column.name);
+        // The unit of a yield is none of the rates beside it.
+        if (name.namesUnit() || (!name.namesOther() && RateUnit::fromText(column.text).isKnown()))
+            units.push_back(&column);
+    }
+    for (const SourceColumn &column : source.columns)
+        rateFields.push_back(column.field);
+    std::sort(rateFields.begin(), rateFields.end());
+}
+
+const TextColumn *ColumnUnits::unitsBeside(int field) const
+{
+    const auto isBefore = [](const TextColumn *unit, int place) { return unit->field < place; };
+    const auto behind = std::lower_bound(units.begin(), units.end(), field, isBefore);
+    const auto next = std::upper_bound(rateFields.begin(), rateFields.end(), field);
+    if (behind != units.end() && (next == rateFields.end() || (*behind)->field < *next))
+        return *behind;
+    const auto last = std::lower_bound(rateFields.begin(), rateFields.end(), field);
+    if (behind != units.begin() && (last == rateFields.begin() || (*std::prev(behind))->field > *std::prev(last)))
+        return *std::prev(behind);
+    return units.size() == 1 ? units.front() : nullptr;
+}
+
+ColumnUnit ColumnUnits::of(int place) const
+{
+    const SourceColumn &column = source.columns[static_cast<size_t>(place)];
+    ColumnUnit result;
+    const auto take = [&result](const RateUnit &unit, RateSource::UnitFrom from) {
+        result.unit = unit;
+        result.from = unit.isKnown() ? from : RateSource::UnitFrom::Assumed;
+        return unit.isKnown();
+    };
+    if (const TextColumn *beside = unitsBeside(column.field)) {
+        if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column))
+            return result;
+        result.unknownText = beside->text;
+    }
+    if (!column.unit.isEmpty()) {
+        if (take(RateUnit::fromText(column.unit), RateSource::UnitFrom::Text))
+            return result;
+        result.unknownText = column.unit;
+    }
+    take(ColumnName(column.name).unit(), RateSource::UnitFrom::Name);
+    return result;
+}

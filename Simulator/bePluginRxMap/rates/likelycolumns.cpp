@@ -1,0 +1,100 @@
+#include "likelycolumns.h"
+
+#include "columncontent.h"
+#include "columnname.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/// Square metres of each record.
+std::vector<double> recordAreas(const RawPrescription &source, const std::vector<PlanePolygon> &polygons)
+{
+    std::vector<double> areas(static_cast<size_t>(source.records), 0.0);
+    for (const PlanePolygon &polygon : polygons) {
+        double &area = areas[static_cast<size_t>(polygon.record)];
+        area += ringArea(polygon.outer);
+        for (const PlaneRing &hole : polygon.holes)
+            area -= ringArea(hole);
+    }
+    return areas;
+}
+
+uint contentHash(const SourceColumn &column)
+{
+    return qHashRange(column.values.begin(), column.values.end());
+}
+
+bool mayBeOne(const RateUnit &one, const RateUnit &other)
+{
+    return !one.isKnown() || !other.isKnown() || one.text() == other.text();
+}
+
+} // namespace
+
+LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::vector<PlanePolygon> &polygons,
+                             const ColumnUnits &units)
+    : source(rawPrescription)
+{
+    std::vector<int> places = candidates(recordAreas(source, polygons));
+    // What is wanted goes before what was put out.
+    std::stable_partition(places.begin(), places.end(),
+                          [this](int place) { return !ColumnName(column(place).name).namesApplied(); });
+    QSet<QString> subjects;
+    QMultiHash<uint, LikelyColumn> byContent;
+    for (const int place : places) {
+        const ColumnName name(column(place).name);
+        const LikelyColumn candidate{place, units.of(place), name.basis()};
+        const uint content = contentHash(column(place));
+        const QList<LikelyColumn> alike = byContent.values(content);
+        const bool isRepetition = (name.namesApplied() && subjects.contains(name.subject()))
+            || std::any_of(alike.begin(), alike.end(), [&](const LikelyColumn &before) {
+                                      return mayBeOne(before.unit.unit, candidate.unit.unit)
+                                          && ColumnContent::areEqual(column(before.place), column(place));
+                                  });
+        if (isRepetition)
+            continue;
+        likely.push_back(candidate);
+        subjects.insert(name.subject());
+        byContent.insert(content, candidate);
+    }
+    std::sort(likely.begin(), likely.end(),
+              [](const LikelyColumn &a, const LikelyColumn &b) { return a.place < b.place; });
+}
+
+std::vector<int> LikelyColumns::candidates(const std::vector<double> &areas) const
+{
+    std::vector<int> named;
+    std::vector<int> real;
+    std::vector<int> whole;
+    for (int place = 0; place < static_cast<int>(source.columns.size()); ++place) {
+        const ColumnName name(column(place).name);
+        if (name.namesOther() || !ColumnContent::hasRates(column(place)))
+            continue;
+        if (name.namesRate())
+            named.push_back(place);
+        else if (ColumnContent::mayBeRates(column(place), source, areas))
+            (column(place).isInteger ? whole : real).push_back(place);
+    }
+    if (!named.empty())
+        return named;
+    return real.empty() ? whole : real;
+}
+
+QString LikelyColumns::reasonForNone() const
+{
+    QStringList empty;
+    for (const SourceColumn &candidate : source.columns) {
+        const ColumnName name(candidate.name);
+        if (!name.namesOther() && name.namesRate() && !ColumnContent::hasRates(candidate))
+            empty.append(candidate.name);
+    }
+    if (!empty.isEmpty())
+        return QStringLiteral("holds no rates: no record has one in %1").arg(empty.join(QStringLiteral(", ")));
+    const QString columns =
+        source.columnNames.isEmpty() ? QStringLiteral("none") : source.columnNames.join(QStringLiteral(", "));
+    return QStringLiteral("has no column that looks like a rate; name one (its columns: %1)").arg(columns);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "columnunits.h"
+#include "planering.h"
+#include "rawprescription.h"
+
+#include <QString>
+
+#include <vector>
+
+/// A column that most likely holds rates.
+struct LikelyColumn {
+    int place; ///< In RawPrescription::columns.
+    ColumnUnit unit;
+    /// What its name says is measured out.
+    ProductLineItem::Basis basis;
+};
+
+/// The columns of a table that most likely hold rates: those whose names say so, else real numbers that could by their
+/// content, else whole numbers that could.
+class LikelyColumns {
+public:
+    /// `polygons`: those of the map, which say how large its records are. `source` is not owned and outlives this.
+    LikelyColumns(const RawPrescription &source, const std::vector<PlanePolygon> &polygons, const ColumnUnits &units);
+
+    /// In table order. One of each group of equal columns; none that holds what was put out where
+    /// there is one with what was wanted.
+    const std::vector<LikelyColumn> &columns() const { return likely; }
+    /// What to say of a table that has none.
+    QString reasonForNone() const;
+
+private:
+    /// Places of the columns before the ones that repeat others are left out.
+    std::vector<int> candidates(const std::vector<double> &areas) const;
+    const SourceColumn &column(int place) const { return source.columns[static_cast<size_t>(place)]; }
+
+    const RawPrescription &source;
+    std::vector<LikelyColumn> likely;
+};
