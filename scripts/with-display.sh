@@ -27,7 +27,7 @@ stop_virtual_display() {
 with_virtual_display() {
     local announced server client="" status=0
     announced="$(mktemp)"
-    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$announced" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp -noreset 3>"$announced" >/dev/null 2>&1 &
     server=$!
     trap 'stop_virtual_display; kill -INT $$' INT
     trap 'stop_virtual_display; kill -TERM $$' TERM

@@ -144,7 +144,8 @@ void TestDialogPictures::everyDesktopShowsTheSame()
     QProcess display;
     display.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                   QStringLiteral("1400x1000x24"), QStringLiteral("-dpi"), QString::number(dotsPerInch)});
+                   QStringLiteral("1400x1000x24"), QStringLiteral("-noreset"), QStringLiteral("-dpi"),
+                   QString::number(dotsPerInch)});
     const auto end = qScopeGuard([&display] {
         display.terminate();
         display.waitForFinished();

@@ -1,6 +1,6 @@
 #include "Framework/databrokergroup.h"
 
-#include "Conversion/valueconversion.h"
+#include "Variants/valueconversion.h"
 #include "databrokergroupprivate.h"
 #include "debugline.h"
 #include "writeoutcome.h"

@@ -1,4 +1,4 @@
-#include "Conversion/valueconversion.h"
+#include "Variants/valueconversion.h"
 
 #include <QMetaType>
 

@@ -1,6 +1,6 @@
 #include "scriptvalue.h"
 
-#include "Conversion/valueconversion.h"
+#include "Variants/valueconversion.h"
 
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxpolygon.h"
