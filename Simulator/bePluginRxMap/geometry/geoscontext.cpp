@@ -1,5 +1,7 @@
 #include "geoscontext.h"
 
+#include "coveredfaces.h"
+
 namespace {
 
 void dropMessage(const char *, void *) { }
@@ -78,18 +80,44 @@ std::vector<PlanePolygon> GeosContext::polygons(const Geometry &geometry, int re
     return result;
 }
 
+GeosContext::Geometry GeosContext::collection(int type, std::vector<Geometry> members) const
+{
+    std::vector<GEOSGeometry *> released;
+    for (Geometry &member : members) {
+        if (member)
+            released.push_back(member.release());
+    }
+    return owned(GEOSGeom_createCollection_r(handle, type, released.data(), static_cast<unsigned>(released.size())));
+}
+
+std::vector<PlanePolygon> GeosContext::facesOf(const PlaneRing &ring) const
+{
+    const Geometry line = owned(closedRing(ring));
+    const Geometry noded = owned(line ? GEOSUnaryUnion_r(handle, line.get()) : nullptr);
+    const GEOSGeometry *const lines = noded.get();
+    return polygons(owned(noded ? GEOSPolygonize_r(handle, &lines, 1) : nullptr), 0);
+}
+
 GeosContext::Geometry GeosContext::validArea(const PlaneRing &ring) const
 {
-    const Geometry rough = polygon(ring, {});
-    const Geometry valid = owned(rough ? GEOSMakeValid_r(handle, rough.get()) : nullptr);
-    // A repair leaves lines where a ring ran back over itself; only areas count.
-    std::vector<GEOSGeometry *> areas;
-    for (const PlanePolygon &part : polygons(valid, 0)) {
-        if (GEOSGeometry *area = polygon(part.outer, part.holes).release())
-            areas.push_back(area);
+    // GEOS's own repair peels a tangle off layer by layer, with an overlay for each. Lines where the ring ran back over
+    // itself enclose no face.
+    const std::vector<PlanePolygon> faces = facesOf(ring);
+    std::vector<Geometry> areas;
+    for (const std::vector<size_t> &group : CoveredFaces::groups(faces)) {
+        std::vector<Geometry> parts;
+        for (const size_t face : group)
+            parts.push_back(polygon(faces[face].outer, faces[face].holes));
+        if (parts.size() == 1) {
+            areas.push_back(std::move(parts.front()));
+            continue;
+        }
+        const Geometry touching = collection(GEOS_GEOMETRYCOLLECTION, std::move(parts));
+        const Geometry joined = owned(touching ? GEOSUnaryUnion_r(handle, touching.get()) : nullptr);
+        for (const PlanePolygon &part : polygons(joined, 0))
+            areas.push_back(polygon(part.outer, part.holes));
     }
-    return owned(
-        GEOSGeom_createCollection_r(handle, GEOS_MULTIPOLYGON, areas.data(), static_cast<unsigned>(areas.size())));
+    return collection(GEOS_MULTIPOLYGON, std::move(areas));
 }
 
 GeosContext::Geometry GeosContext::repaired(const PlanePolygon &polygon, double grid) const
@@ -97,13 +125,10 @@ GeosContext::Geometry GeosContext::repaired(const PlanePolygon &polygon, double 
     const Geometry outer = validArea(polygon.outer);
     if (!outer || polygon.holes.empty())
         return owned(outer ? GEOSGeom_setPrecision_r(handle, outer.get(), grid, 0) : nullptr);
-    std::vector<GEOSGeometry *> areas;
-    for (const PlaneRing &hole : polygon.holes) {
-        if (GEOSGeometry *area = validArea(hole).release())
-            areas.push_back(area);
-    }
-    const Geometry holes = owned(GEOSGeom_createCollection_r(handle, GEOS_GEOMETRYCOLLECTION, areas.data(),
-                                                             static_cast<unsigned>(areas.size())));
+    std::vector<Geometry> areas;
+    for (const PlaneRing &hole : polygon.holes)
+        areas.push_back(validArea(hole));
+    const Geometry holes = collection(GEOS_GEOMETRYCOLLECTION, std::move(areas));
     const Geometry cut = owned(holes ? GEOSUnaryUnion_r(handle, holes.get()) : nullptr);
     return difference(outer, cut, grid);
 }

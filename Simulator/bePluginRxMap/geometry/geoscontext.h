@@ -34,6 +34,10 @@ public:
 private:
     Q_DISABLE_COPY(GeosContext)
 
+    /// Null members are left out.
+    Geometry collection(int type, std::vector<Geometry> members) const;
+    /// The faces that the ring's edges, divided where they meet, enclose.
+    std::vector<PlanePolygon> facesOf(const PlaneRing &ring) const;
     Geometry validArea(const PlaneRing &ring) const;
     GEOSGeometry *closedRing(const PlaneRing &ring) const;
     PlaneRing openRing(const GEOSGeometry *ring) const;

@@ -1,5 +1,7 @@
 #include "ringrepair.h"
 
+#include "ringcrossings.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -99,6 +101,8 @@ size_t RingRepair::append(const RawPrescription &map, const std::vector<double> 
         ++outcome.dropped;
     else if ((isShort && isSimpleRing(polygon.outer)) || geos.isValid(geos.polygon(polygon.outer, polygon.holes)))
         outcome.polygons.push_back(std::move(polygon));
+    else if (RingCrossings::count(polygon, mostCrossings) > mostCrossings)
+        outcome.tangled.push_back(polygon.record);
     else {
         if (!isValidInFile(map, firstRing, end))
             ++outcome.repaired;

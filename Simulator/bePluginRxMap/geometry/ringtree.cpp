@@ -86,3 +86,8 @@ RingTree::Places RingTree::covering(const RingExtent &extent) const
 {
     return boxes->that(index::covers(boxOf(extent)));
 }
+
+RingTree::Places RingTree::meeting(const RingExtent &extent) const
+{
+    return boxes->that(index::intersects(boxOf(extent)));
+}

@@ -34,6 +34,8 @@ public:
     Places holding(double x, double y) const;
     /// The rings whose extent covers `extent`, which is not empty, borders included.
     Places covering(const RingExtent &extent) const;
+    /// The rings whose extent shares a point with `extent`, which is not empty.
+    Places meeting(const RingExtent &extent) const;
 
 private:
     class Boxes;

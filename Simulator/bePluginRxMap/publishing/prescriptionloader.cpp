@@ -2,6 +2,7 @@
 
 #include "duplicatepolygons.h"
 #include "gdalsession.h"
+#include "geosinterrupt.h"
 #include "legendbuilder.h"
 #include "prescriptionreader.h"
 #include "ringrepair.h"
@@ -19,6 +20,12 @@ constexpr double shareOfReading = 0.6;
 constexpr double shareOfPlacing = 0.1;
 constexpr double shareOfRepair = 0.2;
 constexpr size_t ringsPerReport = 256;
+
+QString tangleText(int record)
+{
+    return QStringLiteral("record %1 was left out, its rings cross each other or themselves more than %2 times")
+        .arg(QString::number(record), QString::number(RingRepair::mostCrossings));
+}
 
 } // namespace
 
@@ -71,6 +78,7 @@ std::unique_ptr<LoadedMap> PrescriptionLoader::load()
 bool PrescriptionLoader::loadInto(LoadedMap &map)
 {
     const GdalSession session;
+    const GeosInterrupt interrupt(control.cancelled);
     LoadControl reading = control;
     reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
     if (control.isCancelled())
@@ -139,9 +147,9 @@ bool PrescriptionLoader::repairRings()
     outcome.polygons.reserve(source.rings.size());
     const double rings = static_cast<double>(source.rings.size());
     for (size_t ring = 0, reported = 0; ring < source.rings.size();) {
+        ring = repair.append(source, xs, ys, ring, outcome);
         if (control.isCancelled())
             return fail(QStringLiteral("loading was cancelled"));
-        ring = repair.append(source, xs, ys, ring, outcome);
         if (ring - reported < ringsPerReport && ring < source.rings.size())
             continue;
         reported = ring;
@@ -151,6 +159,10 @@ bool PrescriptionLoader::repairRings()
     report->repaired = outcome.repaired;
     warnCount(source.droppedRings + outcome.dropped, QStringLiteral("ring that encloses nothing was left out"),
               QStringLiteral("rings that enclose nothing were left out"));
+    for (const int record : outcome.tangled)
+        warn(tangleText(record));
+    if (polygons.empty() && !outcome.tangled.empty())
+        return fail(tangleText(outcome.tangled.front()));
     return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
 }
 

@@ -1,6 +1,7 @@
 #include "backendtest.h"
 #include "layerwriter.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void reportsProgressAndAnswersWhileABigMapLoads();
     void cancelsWhatRunsAndWhatWaits();
     void cancelsALoadThatWaitsToBePublished();
+    void cancelsTheRepairOfATangleAtOnce();
     void isDestroyedWhileItLoads();
     void letsAListenerDestroyIt();
     void givesALoadUpWhenTheProgramEnds_data();
@@ -119,6 +121,25 @@ void PrescriptionBackendLoadingTest::cancelsALoadThatWaitsToBePublished()
     QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
     QVERIFY(backend->maps().isEmpty());
     QVERIFY(broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty());
+}
+
+void PrescriptionBackendLoadingTest::cancelsTheRepairOfATangleAtOnce()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{scribbleText(1000), {1.0}}};
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("tangle.shp"));
+    QVERIFY(sketch.write(path));
+    QElapsedTimer sinceCancel;
+    QTimer::singleShot(500, backend.data(), [this, &sinceCancel] {
+        QVERIFY(backend->isLoading());
+        sinceCancel.start();
+        backend->cancel();
+    });
+    const LoadReport report = backend->loadAndWait(requestFor(path));
+    QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
+    QVERIFY2(sinceCancel.elapsed() < 1000, qPrintable(QString::number(sinceCancel.elapsed())));
 }
 
 void PrescriptionBackendLoadingTest::isDestroyedWhileItLoads()

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void refusesATruncatedShapefile();
     void refusesShapefilesWhosePartsDoNotFit();
     void countsWhatItSkipsButRefusesWhenNothingIsLeft();
+    void namesTheRecordOfATangleThatItLeavesOut();
 };
 
 void PrescriptionLoaderRefusalsTest::saysWhyItCannotLoad_data()
@@ -125,6 +126,24 @@ void PrescriptionLoaderRefusalsTest::countsWhatItSkipsButRefusesWhenNothingIsLef
         QVERIFY2(warnings.contains(QLatin1String(text)), qPrintable(warnings));
     sketch.rows.removeFirst();
     QVERIFY(!load(write(sketch, "a.geojson"))->report.isOk());
+}
+
+void PrescriptionLoaderRefusalsTest::namesTheRecordOfATangleThatItLeavesOut()
+{
+    const QString tangle = scribbleText(2500);
+    LayerSketch sketch;
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}, {tangle, {2.0}}};
+    const auto map = load(write(sketch, "a.shp"));
+    QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
+    QCOMPARE(map->report.outers, 1);
+    QCOMPARE(map->report.skipped, 1);
+    QCOMPARE(map->report.warnings.size(), 1);
+    QVERIFY2(map->report.warnings.first().contains(QStringLiteral("a.shp: record 1 was left out, its rings cross")),
+             qPrintable(map->report.warnings.first()));
+    sketch.rows.removeFirst();
+    const QString error = load(write(sketch, "a.shp"))->report.error;
+    QVERIFY2(error.contains(QStringLiteral("a.shp: record 0 was left out, its rings cross")), qPrintable(error));
 }
 
 RXMAP_TEST(PrescriptionLoaderRefusalsTest, Core)

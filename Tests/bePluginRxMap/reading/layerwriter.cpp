@@ -2,8 +2,11 @@
 
 #include "gdalsession.h"
 
+#include <QStringList>
+
 #include <memory>
 #include <ogrsf_frmts.h>
+#include <random>
 
 namespace {
 
@@ -76,4 +79,17 @@ QString squareText(double x, double y, double side)
         .arg(y, 0, 'f', 9)
         .arg(x + side, 0, 'f', 9)
         .arg(y + side, 0, 'f', 9);
+}
+
+QString scribbleText(int count)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> place(0.0, 0.01);
+    QStringList corners;
+    for (int i = 0; i < count; ++i) {
+        const double x = 11.0 + place(random);
+        corners.append(QStringLiteral("%1 %2").arg(x, 0, 'f', 9).arg(48.0 + place(random), 0, 'f', 9));
+    }
+    corners.append(corners.first());
+    return QStringLiteral("POLYGON ((%1))").arg(corners.join(QLatin1Char(',')));
 }

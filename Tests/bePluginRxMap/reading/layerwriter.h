@@ -31,3 +31,6 @@ struct LayerSketch {
 
 /// Well-known text of a square with its lower left corner at (x, y).
 QString squareText(double x, double y, double side);
+
+/// Well-known text of a ring of `count` vertices anywhere in a square of a kilometre, the same each time.
+QString scribbleText(int count);

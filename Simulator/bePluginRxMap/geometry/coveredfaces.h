@@ -1,0 +1,23 @@
+#pragma once
+
+#include "planering.h"
+
+#include <cstddef>
+#include <vector>
+
+/// Which of the faces that a tangled ring divides the plane into it covers by the even-odd rule: those that an odd
+/// number of edges parts from the outside. Found by breadth-first search from the outside over the faces' shared edges.
+/// An edge that the ring runs along more than once parts its faces once, as in GEOS's own repair.
+class CoveredFaces {
+public:
+    /// `faces`: of a noded line work, so that two of them share whole edges or none. Returns their places in the list,
+    /// those together that share an edge; most often each is alone.
+    static std::vector<std::vector<size_t>> groups(const std::vector<PlanePolygon> &faces);
+
+private:
+    /// For each face the faces beyond its edges.
+    using Neighbours = std::vector<std::vector<size_t>>;
+
+    static Neighbours neighboursOf(const std::vector<PlanePolygon> &faces, std::vector<bool> &isOutermost);
+    static std::vector<bool> oddDepths(const Neighbours &neighbours, const std::vector<bool> &isOutermost);
+};

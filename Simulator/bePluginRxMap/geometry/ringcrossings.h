@@ -1,0 +1,15 @@
+#pragma once
+
+#include "planering.h"
+
+#include <cstddef>
+
+/// Counts where the rings of a polygon cross, touch or run along each other or themselves, so that nobody starts a
+/// repair that the memory is too small for.
+namespace RingCrossings {
+
+/// Pairs of edges that meet elsewhere than at a vertex of both; stops counting behind `limit`, and when GeosInterrupt
+/// asks for it. For vertices on the plane's grid.
+size_t count(const PlanePolygon &polygon, size_t limit);
+
+} // namespace RingCrossings
