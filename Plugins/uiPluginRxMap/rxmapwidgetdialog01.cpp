@@ -70,6 +70,9 @@ void RxMapWidgetDialog01::setupWindow()
     auto *background = new OrvikImage(0, imageDir, QStringLiteral("RxOptionsPopup.png"), QPoint(0, 0), this);
     resize(background->width(), background->height());
     screenSize = broker->getSize();
+    // Without its picture the dialog has no size; it would never come up then, and neither Done nor Escape could end it.
+    if (size().isEmpty())
+        resize(screenSize.expandedTo(QSize(1, 1)));
     move((screenSize.width() - width()) / 2, (screenSize.height() - height()) / 2);
 
     const QStringList doneImages{QStringLiteral("doneButton.png"), QStringLiteral("Cancel.png")};

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void settingsComeFromTheFirstNameEvenIfItIsNoMap();
     void missingPiecesLeaveAUsableDialog_data();
     void missingPiecesLeaveAUsableDialog();
+    void withoutAPictureItIsSeenAndCanBeLeft();
 };
 
 namespace {
@@ -202,6 +203,24 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog()
     QCOMPARE(host.map->getSettings(), expected);
     QTEST(host.map->getRateCalMappings().at(2).defaultRate, "mappingRate");
     QTEST(host.loaders[2].defaultRate, "loaderRate");
+}
+
+void TestDialogMissing::withoutAPictureItIsSeenAndCanBeLeft()
+{
+    DialogHost host;
+    host.images = QDir(QStringLiteral("/no/such/images"));
+    Opened opened(host);
+    bool wasSeen = false;
+    QTimer::singleShot(0, &opened.dialog, [&] {
+        wasSeen = QTest::qWaitForWindowExposed(&opened.dialog);
+        if (wasSeen)
+            QTest::keyClick(opened.dialog.windowHandle(), Qt::Key_Escape);
+    });
+    // So that the test ends also where the key does not end the dialog.
+    QTimer::singleShot(10000, &opened.dialog, &QDialog::accept);
+    QCOMPARE(opened.dialog.exec(), int(QDialog::Rejected));
+    QVERIFY(wasSeen);
+    QVERIFY(opened.dialog.rect().contains(opened.probe.doneButton()->pos()));
 }
 
 RXMAP_TEST(TestDialogMissing, Widgets)
