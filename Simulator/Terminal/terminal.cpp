@@ -12,6 +12,7 @@
 #include "statusbar.h"
 #include "terminalwindow.h"
 #include "vehicle.h"
+#include "wholefile.h"
 
 #include "Framework/dbgroupproductgroupinfo.h"
 #include "Framework/uigraphicslist.h"
@@ -19,8 +20,8 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFileInfo>
-#include <QImageWriter>
 #include <QVector3D>
 
 #include <algorithm>
@@ -225,8 +226,10 @@ QColor Terminal::mapColor(const QPointF &field)
 
 QString Terminal::saveScreenshot(const QString &path)
 {
-    QImageWriter writer(path, "png");
-    return writer.write(display->screenshot()) ? QString() : QStringLiteral("%1: %2").arg(path, writer.errorString());
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    display->screenshot().save(&buffer, "png");
+    return writeWholeFile(path, picture);
 }
 
 void Terminal::followMaps()
