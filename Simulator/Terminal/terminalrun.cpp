@@ -4,6 +4,7 @@
 #include "consoleline.h"
 #include "languages.h"
 #include "machine.h"
+#include "neededimages.h"
 #include "productfile.h"
 #include "scriptrunner.h"
 #include "terminal.h"
@@ -158,6 +159,8 @@ QString runTerminal(const CommandLine &line)
     }
     const QDir pluginFolder = line.pluginDir.isEmpty() ? besideProgram(builtPluginFolder) : QDir(line.pluginDir);
     QString error = line.language.isEmpty() ? QString() : Languages::install(line.language, pluginFolder);
+    if (error.isEmpty())
+        error = NeededImages::problem(besideProgram(builtImageFolder));
     if (!error.isEmpty())
         return error;
 
