@@ -1,12 +1,12 @@
 #include "commandline.h"
 #include "consoleline.h"
+#include "openglcheck.h"
 #include "ownlooks.h"
 #include "terminalrun.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QOpenGLContext>
 
 #include <cstdio>
 #include <cstdlib>
@@ -90,8 +90,9 @@ int main(int argc, char *argv[])
     OwnLooks::fixResolution();
     QApplication application(kept, argv);
     OwnLooks::apply();
-    if (!QOpenGLContext().create())
-        return complain(QStringLiteral("the display has no OpenGL"));
+    const QString lack = OpenGlCheck::problem();
+    if (!lack.isEmpty())
+        return complain(lack);
     const QString error = runTerminal(line.value);
     return error.isEmpty() ? 0 : complain(error);
 }
