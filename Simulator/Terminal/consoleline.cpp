@@ -1,7 +1,5 @@
 #include "consoleline.h"
 
-#include <QString>
-
 #include <cstdio>
 
 namespace {
@@ -26,4 +24,10 @@ void writeOutputLine(const QString &line)
 void writeErrorLine(const QString &line)
 {
     writeLine(stderr, line);
+}
+
+QString outputProblem()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? QString()
+                                                                : QStringLiteral("standard output cannot be written");
 }

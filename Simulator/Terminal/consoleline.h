@@ -1,6 +1,6 @@
 #pragma once
 
-class QString;
+#include <QString>
 
 // Both write a line at once. It stays one line, and leaves the shell's window as it is, whatever bytes a file or a
 // library brought into it: control characters are written as question marks.
@@ -9,3 +9,5 @@ class QString;
 void writeOutputLine(const QString &line);
 /// On standard error.
 void writeErrorLine(const QString &line);
+/// Empty, or why not everything that was printed could be written.
+QString outputProblem();

@@ -66,10 +66,30 @@ void provideRuntimeFolder()
                 QFile::encodeName(QDir::temp().filePath(QStringLiteral("runtime-%1").arg(getuid()))));
 }
 
+/// Where the shell closed a standard stream, the display's socket would take its place, and what is printed would go to
+/// the display.
+void reserveStandardStreams()
+{
+    int opened = 0;
+    do
+        opened = open("/dev/null", O_RDWR);
+    while (opened >= 0 && opened <= STDERR_FILENO);
+    if (opened >= 0)
+        close(opened);
+}
+
+/// Nobody may take for complete what could not be printed.
+int end(const QString &error)
+{
+    const QString problem = error.isEmpty() ? outputProblem() : error;
+    return problem.isEmpty() ? 0 : complain(problem);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    reserveStandardStreams();
     std::set_terminate(endWithoutMemory);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -80,7 +100,7 @@ int main(int argc, char *argv[])
     if (line.value.wantsHelp) {
         const QCoreApplication named(argc, argv);
         std::fputs(CommandLine::helpText().toLocal8Bit().constData(), stdout);
-        return 0;
+        return end({});
     }
     provideRuntimeFolder();
     if (!canOpenDisplay(argv[0]))
@@ -91,8 +111,5 @@ int main(int argc, char *argv[])
     QApplication application(kept, argv);
     OwnLooks::apply();
     const QString lack = OpenGlCheck::problem();
-    if (!lack.isEmpty())
-        return complain(lack);
-    const QString error = runTerminal(line.value);
-    return error.isEmpty() ? 0 : complain(error);
+    return end(lack.isEmpty() ? runTerminal(line.value) : lack);
 }

@@ -119,8 +119,11 @@ void showFedProduct(Terminal &terminal)
 void describe(Terminal &terminal, const QPointF &point)
 {
     const QString text = terminal.touch(point);
-    writeOutputLine(text.isEmpty() ? QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y())
-                                   : text);
+    if (text.isEmpty())
+        writeOutputLine(QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y()));
+    else
+        for (const QString &line : text.split(QLatin1Char('\n')))
+            writeOutputLine(line);
 }
 
 QString runScript(Terminal &terminal, const QString &path)

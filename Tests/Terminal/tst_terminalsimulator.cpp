@@ -25,6 +25,14 @@ private Q_SLOTS:
     void withoutADisplayItSaysSo();
     void withoutOpenGlItSaysSo();
     void itSpeaksTheOperatorsLanguage();
+    void aMissingImageIsNamed();
+    void itRunsWithClosedStreams_data();
+    void itRunsWithClosedStreams();
+    void aFullDiskLeavesThePictureBefore();
+    void outputIntoAFullDeviceIsAnError_data();
+    void outputIntoAFullDeviceIsAnError();
+    void aDriverWithoutShadersIsNamed_data();
+    void aDriverWithoutShadersIsNamed();
 
 private:
     struct Outcome {
@@ -33,11 +41,14 @@ private:
         QString errors;
     };
 
+    static Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment);
     static Outcome run(const QStringList &arguments, const QProcessEnvironment &environment);
     static Outcome run(const QStringList &arguments)
     {
         return run(arguments, QProcessEnvironment::systemEnvironment());
     }
+    /// The program with its arguments behind it as a shell's "$@".
+    static Outcome runInShell(const QString &line, const QStringList &arguments);
     static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
     QString write(const QByteArray &content, const QString &name);
 
@@ -47,9 +58,23 @@ private:
 TestTerminalSimulator::Outcome TestTerminalSimulator::run(const QStringList &arguments,
                                                           const QProcessEnvironment &environment)
 {
+    return run(QStringLiteral(RXMAP_PROGRAM), arguments, environment);
+}
+
+TestTerminalSimulator::Outcome TestTerminalSimulator::runInShell(const QString &line, const QStringList &arguments)
+{
+    return run(QStringLiteral("/bin/sh"),
+               QStringList({QStringLiteral("-c"), line, QStringLiteral("sh"), QStringLiteral(RXMAP_PROGRAM)})
+                   + arguments,
+               QProcessEnvironment::systemEnvironment());
+}
+
+TestTerminalSimulator::Outcome TestTerminalSimulator::run(const QString &program, const QStringList &arguments,
+                                                          const QProcessEnvironment &environment)
+{
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(RXMAP_PROGRAM), arguments);
+    process.start(program, arguments);
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, QString(),
                 QStringLiteral("did not end by itself: ") + QString::fromUtf8(process.readAllStandardError())};
@@ -213,6 +238,126 @@ void TestTerminalSimulator::itSpeaksTheOperatorsLanguage()
     QVERIFY2(german.status == 0, qPrintable(german.errors));
     QVERIFY2(german.output.endsWith(QLatin1String(" 80.00\n")), qPrintable(german.output));
     QVERIFY2(!german.output.contains(QLatin1String("Rx Rate")), qPrintable(german.output));
+}
+
+void TestTerminalSimulator::aMissingImageIsNamed()
+{
+    // The program finds everything from where it lies.
+    const QTemporaryDir build;
+    const QDir root(build.path());
+    QVERIFY(root.mkpath(QStringLiteral("Simulator/Terminal"))
+            && root.mkpath(QStringLiteral("Simulator/Resources/images")));
+    const QString program = root.filePath(QStringLiteral("Simulator/Terminal/terminal-simulator"));
+    QVERIFY(QFile::copy(QStringLiteral(RXMAP_PROGRAM), program));
+    for (const char *part : {"Plugins", "Simulator/Framework", "Simulator/bePluginRxMap"})
+        QVERIFY(QFile::link(buildPath(part), root.filePath(QLatin1String(part))));
+    const QStringList images = QDir(buildPath("Simulator/Resources/images")).entryList({QStringLiteral("*.png")});
+    for (const QString &image : images)
+        QVERIFY(QFile::copy(buildPath("Simulator/Resources/images/") + image,
+                            root.filePath(QStringLiteral("Simulator/Resources/images/") + image)));
+    const QStringList describe = {"--columns", "SEED_K_HA", "--describe", "0,0", zones()};
+    const auto here = [&] { return run(program, describe, QProcessEnvironment::systemEnvironment()); };
+    QCOMPARE(here().errors, QString());
+    const QString popup = root.filePath(QStringLiteral("Simulator/Resources/images/RxOptionsPopup.png"));
+    QVERIFY(QFile::remove(popup));
+    QCOMPARE(here().errors, QStringLiteral("terminal-simulator: %1: this image is missing\n").arg(popup));
+    QCOMPARE(here().status, 1);
+}
+
+void TestTerminalSimulator::itRunsWithClosedStreams_data()
+{
+    QTest::addColumn<QString>("closed");
+    QTest::newRow("input") << "<&-";
+    QTest::newRow("output") << ">&-";
+    QTest::newRow("errors") << "2>&-";
+    QTest::newRow("all") << "<&- >&- 2>&-";
+}
+
+void TestTerminalSimulator::itRunsWithClosedStreams()
+{
+    QFETCH(QString, closed);
+    const QString path = folder.filePath(QStringLiteral("closed.png"));
+    QFile::remove(path);
+    const Outcome outcome =
+        runInShell(QStringLiteral("exec timeout 60 \"$@\" ") + closed, {"--screenshot", path, zones()});
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    QCOMPARE(QImage(path).size(), QSize(1280, 800));
+}
+
+void TestTerminalSimulator::aFullDiskLeavesThePictureBefore()
+{
+    const QTemporaryDir pictures;
+    const QString path = write("before", "map.png");
+    const QString target = QDir(pictures.path()).filePath(QStringLiteral("map.png"));
+    for (const bool wasThere : {false, true}) {
+        QCOMPARE(wasThere, wasThere && QFile::copy(path, target));
+        const Outcome outcome = runInShell(QStringLiteral("trap '' XFSZ; ulimit -f 16; exec \"$@\""),
+                                           {"--screenshot", target, "--columns", "SEED_K_HA", zones()});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.startsWith(QStringLiteral("terminal-simulator: %1: ").arg(target)),
+                 qPrintable(outcome.errors));
+        QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+        QCOMPARE(QDir(pictures.path()).entryList(QDir::Files | QDir::Hidden).size(), wasThere ? 1 : 0);
+    }
+    QFile kept(target);
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("before"));
+}
+
+void TestTerminalSimulator::outputIntoAFullDeviceIsAnError_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("redirection");
+    QTest::addColumn<QString>("subject");
+    QTest::newRow("a point") << QStringList{"--columns", "SEED_K_HA", "--describe", "0,0", zones()} << ">/dev/full"
+                             << "standard output";
+    QTest::newRow("what a script prints") << QStringList{"--script", write("print('a');", "print.js")} << ">/dev/full"
+                                          << "standard output";
+    QTest::newRow("help") << QStringList{"--help"} << ">/dev/full"
+                          << "standard output";
+    QTest::newRow("a picture") << QStringList{"--screenshot", "/dev/full", zones()} << ""
+                               << "/dev/full: ";
+}
+
+void TestTerminalSimulator::outputIntoAFullDeviceIsAnError()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, redirection);
+    QFETCH(QString, subject);
+    const Outcome outcome = runInShell(QStringLiteral("exec \"$@\" ") + redirection, arguments);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.startsWith(QLatin1String("terminal-simulator: ") + subject), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+    QVERIFY(!QFileInfo(QStringLiteral("/dev/full")).isFile());
+}
+
+void TestTerminalSimulator::aDriverWithoutShadersIsNamed_data()
+{
+    QTest::addColumn<QString>("without");
+    QTest::addColumn<QString>("lack");
+    QTest::newRow("vertex shaders") << "-GL_ARB_vertex_shader"
+                                    << "shaders";
+    QTest::newRow("fragment shaders") << "-GL_ARB_fragment_shader"
+                                      << "shaders";
+    QTest::newRow("framebuffer objects") << "-GL_ARB_framebuffer_object -GL_EXT_framebuffer_object"
+                                         << "framebuffer objects";
+}
+
+void TestTerminalSimulator::aDriverWithoutShadersIsNamed()
+{
+    QFETCH(QString, without);
+    QFETCH(QString, lack);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("MESA_EXTENSION_OVERRIDE"), without);
+    const QString path = folder.filePath(QStringLiteral("poor.png"));
+    QFile::remove(path);
+    const Outcome outcome = run({"--screenshot", path, zones()}, environment);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.startsWith(QLatin1String("terminal-simulator: the display's OpenGL")),
+             qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(lack), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+    QVERIFY(!QFile::exists(path));
 }
 
 RXMAP_TEST(TestTerminalSimulator, Core)
