@@ -18,6 +18,10 @@ endif()
 add_library(rxmap_compile_options INTERFACE)
 target_compile_options(rxmap_compile_options INTERFACE ${RXMAP_ROUNDING} ${RXMAP_WARNINGS})
 target_compile_definitions(rxmap_compile_options INTERFACE ${RXMAP_DEFINITIONS})
+# What ships ends at an overflow instead of going on, and nobody can redirect a call between libraries.
+target_compile_options(rxmap_compile_options INTERFACE
+    $<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
+target_link_options(rxmap_compile_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
 if(RXMAP_SANITIZE)
     target_compile_options(rxmap_compile_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1 -O1)
