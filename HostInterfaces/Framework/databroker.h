@@ -50,8 +50,8 @@ public:
     /// published already, ErrGroupRemoved for one that was taken out before, ErrUnknownGroup for null; the caller then
     /// keeps ownership.
     int publishGroup(DataBrokerGroup *group);
-    /// Takes the group out: it is marked as removed, announces it, and stays alive until the broker is destroyed.
-    /// Success or ErrUnknownGroup.
+    /// Takes the group out: it is marked as removed, announces it, and stays alive until the broker is destroyed or
+    /// whoever published it deletes it. Success or ErrUnknownGroup.
     int removeGroup(const QString &name);
 
 Q_SIGNALS:

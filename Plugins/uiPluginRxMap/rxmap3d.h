@@ -2,16 +2,17 @@
 
 #include "vertexbank.h"
 
+#include "Framework/databrokergroup.h"
 #include "Framework/object3d.h"
 #include "Framework/rxpolygon.h"
 
 #include <QColor>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class DataBroker;
-class DataBrokerGroup;
 class DbGroupAAM;
 class GLUtesselator;
 struct RingLists;
@@ -72,7 +73,7 @@ private:
 
     QColor currentColor; ///< Colour of the polygon being tessellated; survives polygons and rebuilds.
     DataBroker *broker;
-    DataBrokerGroup *rxMapGroup = nullptr;
+    QPointer<DataBrokerGroup> rxMapGroup; ///< A host may delete it one day after it took it out.
     DbGroupAAM *aamGroup = nullptr;
     QList<VertexBank> vertexBanks;
     QMetaObject::Connection contextEnd; ///< To the context that init() was called in.

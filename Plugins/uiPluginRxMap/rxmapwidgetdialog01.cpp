@@ -20,13 +20,16 @@ namespace {
 
 /// Writes every group's share of the mappings, then the settings, to the first group alone. All that it needs is
 /// copied: a listener of a write may delete the dialog, and the rest is written all the same.
-void writeBack(DataBroker *broker, const QList<DbGroupRxMap *> groups,
-               const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> mappings, DbGroupRxMap *settingsGroup,
-               const QList<OrvikTypes::RX_SETTINGS> settings)
+void writeBack(DataBroker *broker, const QList<QPointer<DbGroupRxMap>> groups,
+               const QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> mappings,
+               const QPointer<DbGroupRxMap> settingsGroup, const QList<OrvikTypes::RX_SETTINGS> settings)
 {
     // By design: written without a token; the plug-in holds none, so a write-protected property refuses.
     int taken = 0;
-    for (DbGroupRxMap *group : groups) {
+    for (const QPointer<DbGroupRxMap> &group : groups) {
+        // How many of the mappings were a deleted group's nobody knows any more.
+        if (group.isNull())
+            break;
         const auto held = group->getRateCalMappings();
         group->setRateCalMappings(RxMapSettingsRules::shareOf(mappings, taken, held), nullptr);
         taken += held.size();
@@ -70,7 +73,8 @@ void RxMapWidgetDialog01::setupWindow()
     auto *background = new OrvikImage(0, imageDir, QStringLiteral("RxOptionsPopup.png"), QPoint(0, 0), this);
     resize(background->width(), background->height());
     screenSize = broker->getSize();
-    // Without its picture the dialog has no size; it would never come up then, and neither Done nor Escape could end it.
+    // Without its picture the dialog has no size; it would never come up then, and neither Done nor Escape could end
+    // it.
     if (size().isEmpty())
         resize(screenSize.expandedTo(QSize(1, 1)));
     move((screenSize.width() - width()) / 2, (screenSize.height() - height()) / 2);

@@ -2,16 +2,17 @@
 
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxsettings.h"
+#include "bePluginRxMap/dbgrouprxmap.h"
 
 #include <QDialog>
 #include <QDir>
 #include <QFont>
 #include <QList>
+#include <QPointer>
 #include <QSize>
 
 class DataBroker;
 class DbGroupQmlUnitsConverter;
-class DbGroupRxMap;
 class OrvikButton;
 class OrvikLineEdit;
 class ProductLineItem;
@@ -100,8 +101,8 @@ private:
     QLabel *applyToAllLabel = nullptr;
     QLabel *defaultRateLabel = nullptr;
     int selectedProduct = 0;
-    DbGroupRxMap *settingsGroup = nullptr;
-    QList<DbGroupRxMap *> rxMapGroups;
+    QPointer<DbGroupRxMap> settingsGroup;
+    QList<QPointer<DbGroupRxMap>> rxMapGroups;
     QList<OrvikTypes::RX_SETTINGS> settings;
     QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings; ///< Every group's list, in group order.
     // By design: two of the sizes, and the large font, are read by nothing.

@@ -10,6 +10,7 @@
 #include <QSettings>
 #include <QVector>
 
+#include <algorithm>
 #include <mutex>
 #include <shared_mutex>
 
@@ -66,8 +67,22 @@ public:
             && latestPlace.value(entry.name, -1) == place;
     }
 
+    /// Forgets the groups that were deleted since. Under the lock.
+    void forgetDeleted()
+    {
+        const auto isDeleted = [](const Entry &entry) { return entry.group.isNull(); };
+        entries.erase(std::remove_if(entries.begin(), entries.end(), isDeleted), entries.end());
+        latestPlace.clear();
+        for (int place = 0; place < entries.size(); ++place)
+            latestPlace.insert(entries.at(place).name, place);
+        sizeToTidy = 2 * entries.size() + leastSizeToTidy;
+    }
+
+    static constexpr int leastSizeToTidy = 64;
+
     mutable std::shared_mutex lock;
-    /// Every group that was ever published, oldest first.
+    int sizeToTidy = leastSizeToTidy;
+    /// Every group that was ever published and still lives, oldest first, and some that were deleted.
     QVector<Entry> entries;
     /// Place of the latest entry of each name; the earlier ones have been removed.
     QHash<QString, int> latestPlace;
@@ -176,6 +191,8 @@ int DataBroker::publishGroup(DataBrokerGroup *group)
         if (isTaken || group->broker() != nullptr)
             return DataBrokerGroup::ErrNameTaken;
         group->d->broker = this;
+        if (d->entries.size() >= d->sizeToTidy)
+            d->forgetDeleted();
         d->latestPlace.insert(name, d->entries.size());
         d->entries.append({name, group, false});
     }

@@ -202,11 +202,23 @@ bool PrescriptionBackendPrivate::unload(const QString &group)
         return false;
     std::unique_ptr<PublishedMap> gone = std::move(found->map);
     entries.erase(found);
+    const QPointer<DataBrokerGroup> retired = broker->getGroup(group, false);
     // The group goes first, so that no product is ever fed by two maps.
     gone.reset();
+    retire(retired);
     shareOut({});
     Q_EMIT q->mapsChanged();
     return true;
+}
+
+void PrescriptionBackendPrivate::retire(const QPointer<DataBrokerGroup> &group)
+{
+    retiredGroups.push_back(group);
+    if (retiredGroups.size() <= PrescriptionBackend::retiredGroupsKept)
+        return;
+    const QPointer<DataBrokerGroup> oldest = retiredGroups.front();
+    retiredGroups.pop_front();
+    delete oldest;
 }
 
 QList<LoadReport> PrescriptionBackendPrivate::reports() const

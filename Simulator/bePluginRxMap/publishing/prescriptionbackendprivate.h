@@ -7,6 +7,7 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QHash>
+#include <QPointer>
 
 #include <deque>
 #include <functional>
@@ -15,6 +16,7 @@
 #include <vector>
 
 class DataBroker;
+class DataBrokerGroup;
 class PrescriptionBackend;
 
 /// The queue of loads, with the thread that works on its head, and the list of published maps.
@@ -48,6 +50,8 @@ private:
     /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.
     QStringList channelsLeft(size_t entry, const QStringList &newest) const;
     void shareOut(const QStringList &newest);
+    /// Keeps the group of an unloaded map for whoever still holds it; the one that was unloaded longest ago goes.
+    void retire(const QPointer<DataBrokerGroup> &group);
 
     PrescriptionBackend *q;
     DataBroker *broker;
@@ -55,4 +59,5 @@ private:
     std::thread worker;
     std::vector<Entry> entries; ///< In the order of loading; a later one takes over the channels of an earlier one.
     QHash<int, RxMapLoader *> loaders;
+    std::deque<QPointer<DataBrokerGroup>> retiredGroups; ///< The broker's; those of unloaded maps, oldest first.
 };

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aNamePublishedAgainMovesToTheEnd();
     void removedGroupsAreListedOnRequestOnly();
     void aRemovedGroupStaysAliveUntilTheBrokerGoes();
+    void deletedGroupsLeaveTheOthersInTheirPlaces();
     void removalIsAnnouncedOnceAfterTheGroupKnows();
     void removingAnUnknownGroupIsAnError();
     void aGroupDeletedByItsCreatorIsForgotten();
@@ -174,6 +175,25 @@ void TestDataBrokerGroups::aRemovedGroupStaysAliveUntilTheBrokerGoes()
     }
     QVERIFY(removed.isNull());
     QVERIFY(published.isNull());
+}
+
+void TestDataBrokerGroups::deletedGroupsLeaveTheOthersInTheirPlaces()
+{
+    DataBroker broker;
+    QStringList expected;
+    for (int i = 0; i < 500; ++i) {
+        auto *passing = new SampleGroup(QStringLiteral("rxMap.passing"));
+        QCOMPARE(broker.publishGroup(passing), int(DataBrokerGroup::Success));
+        broker.removeGroup(QStringLiteral("rxMap.passing"));
+        delete passing;
+        if (i % 50 == 0) {
+            expected.append(QStringLiteral("rxMap.%1").arg(1000 - i));
+            broker.publishGroup(new SampleGroup(expected.last()));
+        }
+        QCOMPARE(broker.findGroup(QStringLiteral("rxMap.*"), true, true), expected);
+    }
+    for (const QString &name : qAsConst(expected))
+        QCOMPARE(broker.getGroup(name, false)->name(), name);
 }
 
 void TestDataBrokerGroups::removalIsAnnouncedOnceAfterTheGroupKnows()

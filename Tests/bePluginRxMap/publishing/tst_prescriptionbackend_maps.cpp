@@ -51,6 +51,7 @@ class PrescriptionBackendMapsTest : public BackendTest {
     Q_OBJECT
 
 private Q_SLOTS:
+    void keepsTheGroupsOfALimitedNumberOfUnloadedMaps();
     void announcesZeroBeforeItReplacesAMap();
     void keepsWhatWasLoadedWhenALoadFails();
     void handsAProductToTheLatestMapAndBack();
@@ -196,6 +197,22 @@ void PrescriptionBackendMapsTest::replacesMapsManyTimesUnderAReader()
         QVERIFY(std::fabs(reader.area - (40000.0 - 14400.0 + 6400.0 - 1600.0 + 400.0)) < 40.0);
         QVERIFY(backend->unload(other.group));
     }
+}
+
+void PrescriptionBackendMapsTest::keepsTheGroupsOfALimitedNumberOfUnloadedMaps()
+{
+    const int kept = static_cast<int>(PrescriptionBackend::retiredGroupsKept);
+    const int loads = 2 * kept + 7;
+    QList<QPointer<DbGroupRxMap>> groups;
+    for (int i = 0; i < loads; ++i) {
+        const LoadReport report = load("three-zones.geojson");
+        groups.append(group(report.group));
+        QVERIFY(backend->unload(report.group));
+    }
+    for (int i = 0; i < loads; ++i)
+        QCOMPARE(groups.at(i).isNull(), i < loads - kept);
+    QVERIFY(groups.last()->isRemoved());
+    QCOMPARE(groups.last()->getPolygonCount(), 0U);
 }
 
 RXMAP_TEST(PrescriptionBackendMapsTest, Core)

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void missingPiecesLeaveAUsableDialog_data();
     void missingPiecesLeaveAUsableDialog();
     void withoutAPictureItIsSeenAndCanBeLeft();
+    void aGroupThatIsDeletedMeanwhileIsNotWritten();
 };
 
 namespace {
@@ -221,6 +222,18 @@ void TestDialogMissing::withoutAPictureItIsSeenAndCanBeLeft()
     QCOMPARE(opened.dialog.exec(), int(QDialog::Rejected));
     QVERIFY(wasSeen);
     QVERIFY(opened.dialog.rect().contains(opened.probe.doneButton()->pos()));
+}
+
+void TestDialogMissing::aGroupThatIsDeletedMeanwhileIsNotWritten()
+{
+    DialogHost host;
+    Opened opened(host);
+    opened.dialog.setControlsEnabledState(true);
+    DialogProbe::type(opened.probe.lookAheadEdit(), QStringLiteral("1.5"));
+    host.broker.removeGroup(QStringLiteral("rxMap.field"));
+    delete host.map;
+    opened.dialog.doneButtonReleased(0);
+    QCOMPARE(opened.dialog.result(), int(QDialog::Accepted));
 }
 
 RXMAP_TEST(TestDialogMissing, Widgets)

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QScopedPointer>
 
+#include <cstddef>
+
 class DataBroker;
 class PrescriptionBackendPrivate;
 class RxMapLoader;
@@ -39,6 +41,8 @@ public:
     void cancel();
     bool isLoading() const;
 
+    /// So many groups of unloaded maps stay callable for whoever may still hold them; earlier ones are deleted.
+    static constexpr size_t retiredGroupsKept = 64;
     /// False when there is no such group.
     bool unload(const QString &group);
     /// Reports of the published maps, oldest first.
