@@ -25,6 +25,7 @@ private Q_SLOTS:
     void propertiesOfOtherTypesAreConverted();
     void propertiesThatDoNotConvertLeaveAnEmptyMap();
     void aGroupWithoutPolygonCountIsReportedOnceAndDrawsNothing();
+    void aGroupThatTheHostDeletedIsLetGo();
     void withoutABrokerNothingIsBound();
     void castingByNameAnswersBothBases();
 };
@@ -194,6 +195,21 @@ void TestRxMap3DBinding::aGroupWithoutPolygonCountIsReportedOnceAndDrawsNothing(
     QVERIFY(RxMap3DProbe::banks(map).isEmpty());
     QCOMPARE(messages().debugLines().filter(QStringLiteral("connectPropertySetSlot")).size(), 1);
     map.setDbGroup(nullptr);
+}
+
+void TestRxMap3DBinding::aGroupThatTheHostDeletedIsLetGo()
+{
+    MapHost host;
+    RxMap3D map(&host.broker, nullptr);
+    map.setAamGroup(host.aam(1));
+    auto *group = new DbGroupAAM(QStringLiteral("rxMap.other"));
+    host.broker.publishGroup(group);
+    map.setDbGroup(group);
+    messages().clear();
+    host.broker.removeGroup(QStringLiteral("rxMap.other"));
+    delete group;
+    map.setDbGroup(nullptr);
+    QCOMPARE(RxMap3DProbe::boundGroup(map), nullptr);
 }
 
 void TestRxMap3DBinding::withoutABrokerNothingIsBound()
