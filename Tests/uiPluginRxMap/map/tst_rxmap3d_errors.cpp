@@ -74,15 +74,29 @@ private:
 
 } // namespace
 
+static void enterLogLine(int priority, const char *format, va_list arguments)
+{
+    char text[1024];
+    std::vsnprintf(text, sizeof text, format, arguments);
+    enter(QStringLiteral("log: %1 %2 %3").arg(priority).arg(QLatin1String(format), QLatin1String(text)));
+}
+
 // Stands in for the C library's system log in this program.
 extern "C" void syslog(int priority, const char *format, ...)
 {
-    char text[1024];
     va_list arguments;
     va_start(arguments, format);
-    std::vsnprintf(text, sizeof text, format, arguments);
+    enterLogLine(priority, format, arguments);
     va_end(arguments);
-    enter(QStringLiteral("log: %1 %2 %3").arg(priority).arg(QLatin1String(format), QLatin1String(text)));
+}
+
+// What the log is called in a build with checked library functions.
+extern "C" void __syslog_chk(int priority, int /*flag*/, const char *format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    enterLogLine(priority, format, arguments);
+    va_end(arguments);
 }
 
 /// How pending OpenGL errors are reported after each draw call.
