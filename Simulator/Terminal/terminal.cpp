@@ -9,6 +9,7 @@
 #include "pluginscanner.h"
 #include "productselector.h"
 #include "querylistener.h"
+#include "simulation.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
 #include "vehicle.h"
@@ -50,7 +51,7 @@ Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
     , dataBroker(QString(), TerminalWindow::displaySize)
     , prescriptions(new PrescriptionBackend(&dataBroker))
     , machineModel(new Machine(&dataBroker, prescriptions.data(), products, units))
-    , vehicleModel(new Vehicle(machineModel->gpsSolution(), &clock))
+    , simulated(new Simulation(machineModel->gpsSolution(), &clock))
     , display(new TerminalWindow(products))
     , viewPace(display->fieldView())
 {
@@ -87,12 +88,17 @@ void Terminal::connectDisplay()
         framedBounds = QRectF();
         frameField();
     });
-    connect(vehicleModel.data(), &Vehicle::moved, this, &Terminal::showVehicle);
+    connect(vehicle(), &Vehicle::moved, this, &Terminal::showVehicle);
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
         display->statusBar()->setProgress(QFileInfo(path).fileName(), fraction);
     });
     connect(prescriptions.data(), &PrescriptionBackend::finished, this,
             [this] { display->statusBar()->setProgress(QString(), 0.0); });
+}
+
+Vehicle *Terminal::vehicle() const
+{
+    return simulated->vehicle();
 }
 
 QStringList Terminal::loadPlugins(const QDir &folder, const QDir &images)
@@ -290,8 +296,8 @@ void Terminal::watchGroup(const QString &name)
 
 void Terminal::showVehicle()
 {
-    display->overlay()->setVehicle(vehicleModel->position(), vehicleModel->heading());
-    display->statusBar()->setSpeed(vehicleModel->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
+    display->overlay()->setVehicle(vehicle()->position(), vehicle()->heading());
+    display->statusBar()->setSpeed(vehicle()->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
 }
 
 void Terminal::frameField()
@@ -300,6 +306,6 @@ void Terminal::frameField()
     if (!all || *all == framedBounds)
         return;
     framedBounds = *all;
-    vehicleModel->setArea(*all);
+    vehicle()->setArea(*all);
     display->fieldView()->frame(*all);
 }

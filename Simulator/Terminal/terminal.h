@@ -23,6 +23,7 @@
 
 struct ActiveMap;
 class Machine;
+class Simulation;
 class TerminalWindow;
 class UiGraphicsList;
 class UiPluginInterface;
@@ -48,7 +49,8 @@ public:
     DataBroker *broker() { return &dataBroker; }
     PrescriptionBackend *backend() const { return prescriptions.data(); }
     Machine *machine() const { return machineModel.data(); }
-    Vehicle *vehicle() const { return vehicleModel.data(); }
+    Simulation *simulation() const { return simulated.data(); }
+    Vehicle *vehicle() const;
     TerminalWindow *window() const { return display.data(); }
 
     /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
@@ -101,7 +103,7 @@ private:
     RealClock clock;
     QScopedPointer<PrescriptionBackend> prescriptions;
     QScopedPointer<Machine> machineModel;
-    QScopedPointer<Vehicle> vehicleModel;
+    QScopedPointer<Simulation> simulated;
     QScopedPointer<TerminalWindow> display;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;

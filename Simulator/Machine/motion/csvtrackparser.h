@@ -1,0 +1,26 @@
+#pragma once
+
+#include "trackparser.h"
+
+#include <QByteArrayList>
+
+#include <optional>
+
+/// Comma-separated values under a head that names them: "time" (seconds, or ISO 8601), "x" and "y" (metres of the local
+/// plane) or "lon" and "lat" (degrees), and if at hand "heading" (degrees) and "speed" (metres per second).
+class CsvTrackParser : public TrackParser {
+public:
+    QString read(const QByteArray &line, std::vector<TrackPoint> &points) override;
+    void finish(std::vector<TrackPoint> &) override { }
+
+private:
+    QString readHead(const QByteArrayList &names);
+
+    bool hasHead = false;
+    int time = -1;
+    int x = -1;
+    int y = -1;
+    int heading = -1;
+    int speed = -1;
+    bool isInDegrees = false;
+};

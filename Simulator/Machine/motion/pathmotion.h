@@ -1,0 +1,20 @@
+#pragma once
+
+#include "drivepath.h"
+#include "motion.h"
+
+/// Along a path, stopping at its end.
+class PathMotion : public Motion {
+public:
+    explicit PathMotion(DrivePath path)
+        : path(std::move(path))
+    {
+    }
+
+    Mode mode() const override { return Mode::Swaths; }
+    void advance(MotionState &state, double seconds, double wanted, const SpeedRamp &ramp) override;
+
+private:
+    DrivePath path;
+    double driven = 0.0;
+};

@@ -1,0 +1,51 @@
+#include "trackmotion.h"
+
+#include <cmath>
+
+TrackMotion::TrackMotion(std::unique_ptr<TrackReader> read, double antennaOffset)
+    : track(std::move(read))
+    , antennaOffset(antennaOffset)
+{
+    if (track->next(from))
+        goesOn = track->next(to);
+    time = from.time;
+}
+
+void TrackMotion::advance(MotionState &state, double seconds, double wanted, const SpeedRamp &)
+{
+    if (wanted <= 0.0) {
+        state.speed = 0.0;
+        state.isWorking = false;
+        return;
+    }
+    time += seconds;
+    while (goesOn && to.time <= time) {
+        from = to;
+        goesOn = track->next(to);
+    }
+    place(state);
+}
+
+void TrackMotion::place(MotionState &state) const
+{
+    state.isOver = !goesOn;
+    state.hasFix = from.hasFix;
+    state.speed = state.isOver ? 0.0 : from.speed.value_or(state.speed);
+    QPointF antenna = state.pose.place + antennaOffset * state.pose.forward();
+    if (from.hasFix)
+        antenna = from.place;
+    if (from.heading)
+        state.pose.heading = *from.heading;
+    if (goesOn && from.hasFix && to.hasFix && to.time > from.time) {
+        constexpr double noMove = 0.02; // Metres; less says nothing about where the machine looks.
+        const QPointF way = to.place - from.place;
+        const double length = std::hypot(way.x(), way.y());
+        antenna += (time - from.time) / (to.time - from.time) * way;
+        if (!from.heading && length > noMove)
+            state.pose.heading = headingOf(way);
+        if (!from.speed)
+            state.speed = length / (to.time - from.time);
+    }
+    state.pose.place = antenna - antennaOffset * state.pose.forward();
+    state.isWorking = state.speed > 0.0;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QPointF>
+
+#include <optional>
+
+/// One entry of a recorded track.
+struct TrackPoint {
+    /// Seconds; never before the entry before.
+    double time = 0.0;
+    /// Degrees of longitude and latitude, or metres of the local plane, as the track has them.
+    QPointF place;
+    bool isInDegrees = false;
+    /// False: the receiver had no position then, and `place` is none.
+    bool hasFix = true;
+    /// Radians clockwise from north.
+    std::optional<double> heading;
+    /// Metres per second, from 0.
+    std::optional<double> speed;
+};

@@ -1,0 +1,145 @@
+#include "trackreader.h"
+
+#include "csvtrackparser.h"
+#include "nmeaparser.h"
+#include "regularfile.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr qint64 longestLine = 1000;
+/// Metres per second; who is faster has jumped.
+constexpr double fastest = 100.0;
+
+} // namespace
+
+TrackReader::TrackReader(const QString &path, const FieldPlane *plane)
+    : file(path)
+    , plane(plane)
+{
+    problem = regularFileProblem(path);
+    if (problem.isEmpty() && !file.open(QIODevice::ReadOnly))
+        problem = file.errorString();
+    if (!problem.isEmpty())
+        problem = QStringLiteral("%1: %2").arg(path, problem);
+}
+
+TrackReader::~TrackReader() = default;
+
+Result<TrackReader::Summary> TrackReader::check(const QString &path, const FieldPlane *plane)
+{
+    TrackReader reader(path, plane);
+    if (!reader.error().isEmpty())
+        return Result<Summary>::failure(reader.error());
+    TrackPoint point;
+    bool hasPlace = false;
+    while (reader.next(point))
+        hasPlace = hasPlace || point.hasFix;
+    if (hasPlace)
+        return {reader.told, {}};
+    return Result<Summary>::failure(reader.told.firstBad.isEmpty()
+                                        ? QStringLiteral("%1: holds no position").arg(path)
+                                        : QStringLiteral("%1: holds no position; %2").arg(path, reader.told.firstBad));
+}
+
+bool TrackReader::readLine(QByteArray &line)
+{
+    line = file.readLine(longestLine);
+    if (line.isEmpty())
+        return false;
+    ++lineNumber;
+    bool isTooLong = false;
+    while (!line.endsWith('\n') && !file.atEnd()) {
+        isTooLong = true;
+        line = file.readLine(longestLine);
+        if (line.isEmpty())
+            break;
+    }
+    if (isTooLong) {
+        complain(QStringLiteral("is longer than %1 characters").arg(longestLine));
+        line.clear();
+    }
+    line = line.trimmed();
+    return true;
+}
+
+void TrackReader::complain(const QString &reason)
+{
+    if (told.badLines++ == 0)
+        told.firstBad = QStringLiteral("line %1: %2").arg(lineNumber).arg(reason);
+}
+
+QString TrackReader::misfit(TrackPoint &point)
+{
+    if (lastTime && point.time < *lastTime)
+        return QStringLiteral("goes back in time");
+    if (!point.hasFix)
+        return {};
+    if (point.isInDegrees) {
+        const auto place = plane != nullptr ? plane->toField(point.place) : std::nullopt;
+        if (!place)
+            return plane != nullptr ? QStringLiteral("lies off the field's plane")
+                                    : QStringLiteral("is in degrees, and no field is loaded to place them");
+        point.place = *place;
+        point.isInDegrees = false;
+    }
+    if (!lastPlaced)
+        return {};
+    const QPointF moved = point.place - lastPlaced->place;
+    const double far = std::hypot(moved.x(), moved.y());
+    return far > fastest * (point.time - lastPlaced->time) ? QStringLiteral("jumps by %1 m").arg(far, 0, 'f', 0)
+                                                           : QString();
+}
+
+bool TrackReader::takeWaiting(TrackPoint &point)
+{
+    while (nextWaiting < waiting.size()) {
+        point = waiting[nextWaiting++];
+        const QString complaint = misfit(point);
+        if (!complaint.isEmpty()) {
+            complain(complaint);
+            continue;
+        }
+        if (told.points++ == 0)
+            firstTime = point.time;
+        lastTime = point.time;
+        told.seconds = point.time - firstTime;
+        if (point.hasFix)
+            lastPlaced = point;
+        return true;
+    }
+    waiting.clear();
+    nextWaiting = 0;
+    return false;
+}
+
+bool TrackReader::readOn()
+{
+    QByteArray line;
+    if (!readLine(line)) {
+        if (parser)
+            parser->finish(waiting);
+        return !waiting.empty();
+    }
+    if (line.isEmpty())
+        return true;
+    if (!parser)
+        parser = line.startsWith('$') ? std::unique_ptr<TrackParser>(std::make_unique<NmeaParser>())
+                                      : std::make_unique<CsvTrackParser>();
+    const QString complaint = parser->read(line, waiting);
+    if (!complaint.isEmpty())
+        complain(complaint);
+    return true;
+}
+
+bool TrackReader::next(TrackPoint &point)
+{
+    if (!problem.isEmpty())
+        return false;
+    do {
+        if (takeWaiting(point))
+            return true;
+    } while (readOn());
+    return false;
+}

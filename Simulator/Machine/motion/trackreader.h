@@ -1,0 +1,59 @@
+#pragma once
+
+#include "fieldplane.h"
+#include "result.h"
+#include "trackparser.h"
+
+#include <QFile>
+
+#include <memory>
+
+/// A recorded track, read entry by entry as it is needed, so that its length takes no memory: NMEA 0183, or
+/// comma-separated values. What cannot be read, goes back in time or jumps is left out and counted.
+class TrackReader {
+public:
+    /// What was read so far.
+    struct Summary {
+        qint64 points = 0;
+        qint64 badLines = 0;
+        /// "line 7: its checksum is wrong"; empty without bad lines.
+        QString firstBad;
+        /// Seconds from the first entry to the last.
+        double seconds = 0.0;
+    };
+
+    /// Reads the track once, to know that it can be replayed. `plane` takes its degrees to the field; null where no
+    /// field is loaded, for a track in metres alone.
+    static Result<Summary> check(const QString &path, const FieldPlane *plane);
+
+    /// `plane` as above; not owned.
+    TrackReader(const QString &path, const FieldPlane *plane);
+    ~TrackReader();
+
+    /// The next good entry, its place in metres of the plane; false at the end.
+    bool next(TrackPoint &point);
+    const Summary &summary() const { return told; }
+    /// Why the file cannot be read; empty when it can.
+    QString error() const { return problem; }
+
+private:
+    bool takeWaiting(TrackPoint &point);
+    /// Reads one more line; false when the file is at its end.
+    bool readOn();
+    bool readLine(QByteArray &line);
+    void complain(const QString &reason);
+    /// Why an entry cannot follow the last good one; empty when it can.
+    QString misfit(TrackPoint &point);
+
+    QFile file;
+    const FieldPlane *plane;
+    std::unique_ptr<TrackParser> parser;
+    std::vector<TrackPoint> waiting;
+    size_t nextWaiting = 0;
+    std::optional<TrackPoint> lastPlaced;
+    double firstTime = 0.0;
+    std::optional<double> lastTime;
+    qint64 lineNumber = 0;
+    QString problem;
+    Summary told;
+};

@@ -1,0 +1,67 @@
+#include "dbgroupgpssolution.h"
+#include "simulation.h"
+#include "testbase.h"
+#include "vehicle.h"
+
+/// Simulated time.
+class TestSimulation : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void timePassesInTenthsOfSeconds();
+    void theWallsTimePassesByItsFactor();
+    void factorsOutOfRangeAreRefused();
+};
+
+namespace {
+
+class HandClock : public SimulationClock {
+public:
+    qint64 now() const override { return time; }
+    qint64 time = 5000;
+};
+
+} // namespace
+
+void TestSimulation::timePassesInTenthsOfSeconds()
+{
+    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
+    Simulation simulation(&group, nullptr);
+    QSignalSpy steps(&simulation, &Simulation::stepped);
+    simulation.vehicle()->drive(2.0);
+    simulation.run(1.25);
+    QCOMPARE(steps.size(), 12);
+    QCOMPARE(simulation.vehicle()->position().y(), 2.4);
+    simulation.run(0.05);
+    QCOMPARE(simulation.seconds(), 1.3);
+}
+
+void TestSimulation::theWallsTimePassesByItsFactor()
+{
+    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
+    HandClock wall;
+    Simulation simulation(&group, &wall);
+    wall.time += 300;
+    simulation.catchUp();
+    QCOMPARE(simulation.seconds(), 0.3);
+    QVERIFY(simulation.setTimeFactor(50.0));
+    wall.time += 100;
+    simulation.catchUp();
+    QCOMPARE(simulation.seconds(), 5.3);
+    QVERIFY(simulation.setTimeFactor(0.0));
+    wall.time += 1000;
+    simulation.catchUp();
+    QCOMPARE(simulation.seconds(), 5.3);
+}
+
+void TestSimulation::factorsOutOfRangeAreRefused()
+{
+    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
+    Simulation simulation(&group, nullptr);
+    for (const double factor : {-0.1, 50.1, qQNaN()})
+        QVERIFY(!simulation.setTimeFactor(factor));
+    QCOMPARE(simulation.timeFactor(), 1.0);
+}
+
+RXMAP_TEST(TestSimulation, Core)
+#include "tst_simulation.moc"
