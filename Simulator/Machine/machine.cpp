@@ -69,7 +69,7 @@ Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Product
                  QObject *parent)
     : QObject(parent)
     , broker(broker)
-    , backend(backend)
+    , prescriptions(backend)
     , allProducts(products)
     , units(units)
 {
@@ -96,7 +96,7 @@ QList<MachineProduct> Machine::loadedProducts() const
     for (int number = 1; number <= allProducts.size(); ++number) {
         const Product &product = allProducts.at(number - 1);
         loaded.append({product.name, productGroupName(number), rateKindOf(product),
-                       backend->loader(number - 1)->defaultRate, product.underVra, false});
+                       prescriptions->loader(number - 1)->defaultRate, product.underVra, false});
     }
     return loaded;
 }
@@ -127,7 +127,8 @@ void Machine::publishTerminal()
     broker->publishGroup(job);
     gps = new DbGroupGpsSolution(QStringLiteral("mainGpsSolution"));
     broker->publishGroup(gps);
-    broker->publishGroup(new DbGroupQuillSpan(QStringLiteral("quillSpan")));
+    span = new DbGroupQuillSpan(QStringLiteral("quillSpan"));
+    broker->publishGroup(span);
 }
 
 void Machine::publishProduct(int number)

@@ -13,6 +13,7 @@ class DataBroker;
 class DbGroupBin;
 class DbGroupGpsSolution;
 class DbGroupJob;
+class DbGroupQuillSpan;
 class PrescriptionBackend;
 
 /// The machine as the broker shows it: units, job, products with their bins, nodes and application maps, position and
@@ -39,6 +40,9 @@ public:
     bool setActiveProduct(int number);
 
     DbGroupGpsSolution *gpsSolution() const { return gps; }
+    DbGroupQuillSpan *quillSpan() const { return span; }
+    DataBroker *dataBroker() const { return broker; }
+    PrescriptionBackend *backend() const { return prescriptions; }
 
 Q_SIGNALS:
     void activeProductChanged(int number);
@@ -52,11 +56,12 @@ private:
     void followMaps();
 
     DataBroker *broker;
-    PrescriptionBackend *backend;
+    PrescriptionBackend *prescriptions;
     Products allProducts;
     UnitSystem units;
     int active = 1;
     DbGroupJob *job = nullptr;
     DbGroupGpsSolution *gps = nullptr;
+    DbGroupQuillSpan *span = nullptr;
     QVector<DbGroupBin *> bins;
 };

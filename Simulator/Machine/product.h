@@ -1,5 +1,7 @@
 #pragma once
 
+#include "actuatorsettings.h"
+
 #include <QList>
 #include <QString>
 
@@ -20,7 +22,10 @@ struct Product {
     bool underVra = true;
     /// The product's node carries the tank mix itself.
     bool isCarrier = false;
+    ActuatorSettings actuator;
 
+    /// What meters a product of that kind when nothing else is said.
+    static ActuatorSettings usualActuator(Kind kind);
     /// The kind by which the rate is counted: what a carrier node meters is a plain volume.
     Kind rateKind() const
     {

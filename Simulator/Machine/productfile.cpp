@@ -9,6 +9,7 @@
 #include <QMap>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -22,6 +23,19 @@ const QMap<QString, Product::Kind> &kinds()
         {QStringLiteral("pressure"), Product::Kind::Pressure}, {QStringLiteral("ratio"), Product::Kind::Ratio},
         {QStringLiteral("unknown"), Product::Kind::Unknown},   {QStringLiteral("volume"), Product::Kind::Volume},
         {QStringLiteral("weight"), Product::Kind::Weight},
+    };
+    return table;
+}
+
+constexpr double longestTime = 60.0; // Seconds.
+
+const QMap<QString, double ActuatorSettings::*> &actuatorFields()
+{
+    static const QMap<QString, double ActuatorSettings::*> table = {
+        {QStringLiteral("deadtime"), &ActuatorSettings::deadTime},
+        {QStringLiteral("timeconstant"), &ActuatorSettings::timeConstant},
+        {QStringLiteral("minrate"), &ActuatorSettings::minRate},
+        {QStringLiteral("maxrate"), &ActuatorSettings::maxRate},
     };
     return table;
 }
@@ -78,9 +92,69 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
             return complaint(QStringLiteral("true or false"));
         (plain == QLatin1String("undervra") ? product.underVra : product.isCarrier) = value.toBool();
     } else {
-        return QStringLiteral("unknown key \"%1\"").arg(key);
+        const auto field = actuatorFields().constFind(plain);
+        if (field == actuatorFields().constEnd())
+            return QStringLiteral("unknown key \"%1\"").arg(key);
+        const double number = value.toDouble(-1.0);
+        if (!(number >= 0.0))
+            return complaint(QStringLiteral("a number from 0"));
+        product.actuator.*field.value() = number;
     }
     return {};
+}
+
+/// What the file leaves open is usual for the kind; the reason when the rates contradict each other.
+QString completeActuator(Product &product)
+{
+    const ActuatorSettings usual = Product::usualActuator(product.kind);
+    for (double ActuatorSettings::*field : actuatorFields()) {
+        if (std::isnan(product.actuator.*field))
+            product.actuator.*field = usual.*field;
+    }
+    const ActuatorSettings &set = product.actuator;
+    if (set.deadTime > longestTime || set.timeConstant > longestTime)
+        return QStringLiteral("a dead time or time constant is longer than %1 s").arg(longestTime);
+    return set.minRate <= set.maxRate
+        ? QString()
+        : QStringLiteral("its minimum rate of %1 is above its maximum of %2").arg(set.minRate).arg(set.maxRate);
+}
+
+struct SizeField {
+    double MachineSize::*field;
+    double least;
+    double most;
+};
+
+const QMap<QString, SizeField> &sizeFields()
+{
+    static const QMap<QString, SizeField> table = {
+        {QStringLiteral("width"), {&MachineSize::width, 0.5, 200.0}},
+        {QStringLiteral("antennaoffset"), {&MachineSize::antennaOffset, -20.0, 20.0}},
+        {QStringLiteral("minradius"), {&MachineSize::minRadius, 0.1, 200.0}},
+        {QStringLiteral("acceleration"), {&MachineSize::acceleration, 0.05, 20.0}},
+    };
+    return table;
+}
+
+Result<MachineSize> readSize(const QJsonObject &object)
+{
+    MachineSize size;
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const QString plain = plainKey(entry.key());
+        if (plain == QLatin1String("products"))
+            continue;
+        const auto field = sizeFields().constFind(plain);
+        if (field == sizeFields().constEnd())
+            return Result<MachineSize>::failure(QStringLiteral("unknown key \"%1\"").arg(entry.key()));
+        const double number = entry.value().toDouble(std::nan(""));
+        if (!(number >= field->least && number <= field->most))
+            return Result<MachineSize>::failure(QStringLiteral("\"%1\" is %2; a number from %3 to %4 is wanted")
+                                                    .arg(entry.key(), written(entry.value()))
+                                                    .arg(field->least)
+                                                    .arg(field->most));
+        size.*field->field = number;
+    }
+    return {size, {}};
 }
 
 Result<Product> readProduct(const QJsonValue &value, int number)
@@ -88,8 +162,10 @@ Result<Product> readProduct(const QJsonValue &value, int number)
     if (!value.isObject())
         return Result<Product>::failure(
             QStringLiteral("is %1; an object with \"name\" and \"kind\" is wanted").arg(written(value)));
+    constexpr double open = std::numeric_limits<double>::quiet_NaN();
     Product product;
     product.bin = number;
+    product.actuator = {open, open, open, open};
     bool hasKind = false;
     const QJsonObject object = value.toObject();
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
@@ -104,7 +180,8 @@ Result<Product> readProduct(const QJsonValue &value, int number)
         return Result<Product>::failure(QStringLiteral("has no \"kind\""));
     if (product.shortName.isEmpty())
         product.shortName = product.name.left(shortNameLength).trimmed();
-    return {product, {}};
+    const QString problem = completeActuator(product);
+    return problem.isEmpty() ? Result<Product>{product, {}} : Result<Product>::failure(problem);
 }
 
 Product standardProduct(int bin, const QString &name, const QString &shortName, Product::Kind kind, double defaultRate)
@@ -115,26 +192,27 @@ Product standardProduct(int bin, const QString &name, const QString &shortName, 
     product.kind = kind;
     product.bin = bin;
     product.defaultRate = defaultRate;
+    product.actuator = Product::usualActuator(kind);
     return product;
 }
 
 } // namespace
 
-Result<Products> ProductFile::read(const QString &path)
+Result<MachineSetup> ProductFile::read(const QString &path)
 {
     const QString problem = regularFileProblem(path);
     if (!problem.isEmpty())
-        return Result<Products>::failure(QStringLiteral("%1: %2").arg(path, problem));
+        return Result<MachineSetup>::failure(QStringLiteral("%1: %2").arg(path, problem));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Result<Products>::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        return Result<MachineSetup>::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
     return parse(file.readAll(), path);
 }
 
-Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
+Result<MachineSetup> ProductFile::parse(const QByteArray &json, const QString &name)
 {
     const auto failure = [&name](const QString &reason) {
-        return Result<Products>::failure(QStringLiteral("%1: %2").arg(name, reason));
+        return Result<MachineSetup>::failure(QStringLiteral("%1: %2").arg(name, reason));
     };
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
@@ -150,6 +228,9 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
         return failure(
             QStringLiteral("describes %1 products; a machine has 1 to %2").arg(entries.size()).arg(maxProducts));
 
+    const Result<MachineSize> size = readSize(document.object());
+    if (!size.isOk())
+        return failure(size.error);
     Products products;
     for (int i = 0; i < entries.size(); ++i) {
         const Result<Product> product = readProduct(entries.at(i), i + 1);
@@ -157,7 +238,7 @@ Result<Products> ProductFile::parse(const QByteArray &json, const QString &name)
             return failure(QStringLiteral("product %1: %2").arg(i + 1).arg(product.error));
         products.append(product.value);
     }
-    return {products, {}};
+    return {{size.value, products}, {}};
 }
 
 Products ProductFile::standard()

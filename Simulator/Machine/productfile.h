@@ -1,20 +1,29 @@
 #pragma once
 
+#include "machinesize.h"
 #include "product.h"
 #include "result.h"
 
-/// The machine's products as a JSON file: a list (or an object with a list "products") of objects with "name", "kind"
-/// (count, ratio, injection, volume, weight, pressure, unknown) and optionally "shortName", "bin" (from 1; the
-/// product's own number), "defaultRate" (base units; 0), "underVra" (true) and "isCarrier" (false).
+/// A machine as a file describes it.
+struct MachineSetup {
+    MachineSize size;
+    Products products;
+};
+
+/// The machine as a JSON file: a list of products, or an object with a list "products" and optionally "width",
+/// "antennaOffset", "minRadius" (metres) and "acceleration" (metres per second squared). A product is an object with
+/// "name", "kind" (count, ratio, injection, volume, weight, pressure, unknown) and optionally "shortName", "bin" (from
+/// 1; the product's own number), "defaultRate" (base units; 0), "underVra" (true), "isCarrier" (false), "deadTime",
+/// "timeConstant" (seconds), "minRate" and "maxRate" (base units; these four as usual for the kind).
 /// Keys are read without regard to case, blanks, hyphens and underscores.
 class ProductFile {
 public:
     static constexpr int maxProducts = 16;
 
     /// An error names the file and, where there is one, the product's number.
-    static Result<Products> read(const QString &path);
+    static Result<MachineSetup> read(const QString &path);
     /// The same from the file's content; `name` stands for the file in errors.
-    static Result<Products> parse(const QByteArray &json, const QString &name);
+    static Result<MachineSetup> parse(const QByteArray &json, const QString &name);
     /// The machine when no file describes one: seed, fertiliser and crop protection.
     static Products standard();
 };

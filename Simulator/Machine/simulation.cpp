@@ -1,17 +1,28 @@
 #include "simulation.h"
 
+#include "machine.h"
+#include "ratecontroller.h"
 #include "vehicle.h"
 
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 
-Simulation::Simulation(DbGroupGpsSolution *solution, const SimulationClock *wall, QObject *parent)
+Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *parent)
     : QObject(parent)
+    , machineModel(machine)
     , wall(wall)
     , lastWall(wall != nullptr ? wall->now() : 0)
-    , machine(new Vehicle(solution, &clock))
+    , vehicleModel(new Vehicle(machine->gpsSolution(), &clock))
+    , rateController(new RateController(machine))
+    , meanRates(size_t(machine->products().size()))
 {
+    for (const Product &product : machine->products())
+        actuators.emplace_back(product.actuator);
+    // At once, so that nobody sees commands of a map that is gone.
+    connect(machine, &Machine::mapsChanged, this, &Simulation::updateCommands);
+    updateCommands();
     if (wall == nullptr)
         return;
     auto *timer = new QTimer(this);
@@ -23,7 +34,7 @@ Simulation::~Simulation() = default;
 
 bool Simulation::setTimeFactor(double newFactor)
 {
-    if (!(newFactor >= 0.0) || newFactor > mostTimeFactor)
+    if (!(newFactor >= 0.0) || newFactor > maxTimeFactor)
         return false;
     catchUp();
     factor = newFactor;
@@ -32,9 +43,29 @@ bool Simulation::setTimeFactor(double newFactor)
 
 void Simulation::step()
 {
+    // A command holds from one step to the next.
+    for (size_t i = 0; i < actuators.size(); ++i)
+        meanRates[i] = actuators[i].step(rateController->command(int(i) + 1), stepMs / 1000.0);
     clock.time += stepMs;
-    machine->advance();
+    const QPointF before = vehicleModel->position();
+    vehicleModel->advance();
+    const QPointF moved = vehicleModel->position() - before;
+    if (vehicleModel->isWorking())
+        worked += std::hypot(moved.x(), moved.y()) * vehicleModel->size().width;
+    updateCommands();
     Q_EMIT stepped();
+}
+
+void Simulation::updateCommands()
+{
+    rateController->update(
+        {vehicleModel->pose(), vehicleModel->currentSpeed(), vehicleModel->hasPosition(), seconds()});
+}
+
+Simulation::Rates Simulation::rates(int number) const
+{
+    const auto index = size_t(number - 1);
+    return {rateController->command(number), actuators.at(index).applied(), meanRates.at(index)};
 }
 
 void Simulation::run(double seconds)
@@ -48,9 +79,9 @@ void Simulation::catchUp()
     if (wall == nullptr)
         return;
     // What a terminal that was busy for long has missed is not made up for.
-    constexpr qint64 mostMissed = 2000;
+    constexpr qint64 maxMissed = 2000;
     const qint64 now = wall->now();
-    const qint64 passed = std::min(now - lastWall, mostMissed);
+    const qint64 passed = std::min(now - lastWall, maxMissed);
     lastWall = now;
     run(factor * double(passed) / 1000.0);
 }

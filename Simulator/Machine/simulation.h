@@ -1,11 +1,15 @@
 #pragma once
 
+#include "actuator.h"
 #include "simulationclock.h"
 
 #include <QObject>
 #include <QScopedPointer>
 
-class DbGroupGpsSolution;
+#include <vector>
+
+class Machine;
+class RateController;
 class Vehicle;
 
 /// Lets the machine's time pass, in steps of a tenth of a second: with the wall's clock, slower or faster, or at once.
@@ -14,18 +18,38 @@ class Simulation : public QObject {
 
 public:
     static constexpr int stepMs = 100;
-    static constexpr double mostTimeFactor = 50.0;
+    static constexpr double maxTimeFactor = 50.0;
 
-    /// `solution` and `wall` are not owned and outlive the simulation. Without `wall` time passes in run() and step()
+    /// How a product is metered at the end of a step, base units.
+    struct Rates {
+        RateCommand command;
+        double applied = 0.0;
+        /// Of the last step.
+        double meanApplied = 0.0;
+    };
+
+    /// `machine` and `wall` are not owned and outlive the simulation. Without `wall` time passes in run() and step()
     /// alone.
-    Simulation(DbGroupGpsSolution *solution, const SimulationClock *wall, QObject *parent = nullptr);
+    Simulation(Machine *machine, const SimulationClock *wall, QObject *parent = nullptr);
     ~Simulation() override;
 
-    Vehicle *vehicle() const { return machine.data(); }
+    Machine *machine() const { return machineModel; }
+    Vehicle *vehicle() const { return vehicleModel.data(); }
+    RateController *controller() const { return rateController.data(); }
+    /// Square metres that the implement passed over while it was down.
+    double workedArea() const { return worked; }
+    /// Of a product, by number from 1.
+    Rates rates(int number) const;
+    /// What the product's metering makes of a command in the end, base units.
+    double target(int number, const RateCommand &command) const
+    {
+        return actuators.at(size_t(number - 1)).target(command);
+    }
+
     /// Seconds since it began.
     double seconds() const { return double(clock.now()) / 1000.0; }
 
-    /// Seconds that pass in one of the wall's, from 0 (pause) to mostTimeFactor; false, and nothing changes, for any
+    /// Seconds that pass in one of the wall's, from 0 (pause) to maxTimeFactor; false, and nothing changes, for any
     /// other number.
     bool setTimeFactor(double factor);
     double timeFactor() const { return factor; }
@@ -48,11 +72,18 @@ private:
         qint64 time = 0;
     };
 
+    void updateCommands();
+
+    Machine *machineModel;
     Clock clock;
     const SimulationClock *wall;
     qint64 lastWall = 0;
     double factor = 1.0;
     /// Milliseconds that are to pass and make no step yet.
     double due = 0.0;
-    QScopedPointer<Vehicle> machine;
+    double worked = 0.0;
+    QScopedPointer<Vehicle> vehicleModel;
+    QScopedPointer<RateController> rateController;
+    std::vector<Actuator> actuators;
+    std::vector<double> meanRates;
 };

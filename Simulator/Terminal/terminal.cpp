@@ -47,15 +47,21 @@ LoadReport unused(const QString &path)
 } // namespace
 
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
+    : Terminal(MachineSetup{{}, products}, units, parent)
+{
+}
+
+Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     : QObject(parent)
     , dataBroker(QString(), TerminalWindow::displaySize)
     , prescriptions(new PrescriptionBackend(&dataBroker))
-    , machineModel(new Machine(&dataBroker, prescriptions.data(), products, units))
-    , simulated(new Simulation(machineModel->gpsSolution(), &clock))
-    , display(new TerminalWindow(products))
+    , machineModel(new Machine(&dataBroker, prescriptions.data(), setup.products, units))
+    , simulated(new Simulation(machineModel.data(), &clock))
+    , display(new TerminalWindow(setup.products))
     , viewPace(display->fieldView())
 {
     initialiseResources();
+    vehicle()->setSize(setup.size);
     connectDisplay();
     showLegend();
     showVehicle();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
-#include "product.h"
+#include "productfile.h"
 #include "repaintthrottle.h"
 #include "result.h"
 #include "simulationclock.h"
@@ -36,6 +36,7 @@ class Terminal : public QObject {
 
 public:
     explicit Terminal(const Products &products, UnitSystem units, QObject *parent = nullptr);
+    explicit Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent = nullptr);
     /// Plug-ins, maps and groups go, in this order.
     ~Terminal() override;
 

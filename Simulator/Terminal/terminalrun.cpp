@@ -153,12 +153,12 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
 
 QString runTerminal(const CommandLine &line)
 {
-    Products products = ProductFile::standard();
+    MachineSetup setup{{}, ProductFile::standard()};
     if (!line.productFile.isEmpty()) {
-        const Result<Products> read = ProductFile::read(line.productFile);
+        const Result<MachineSetup> read = ProductFile::read(line.productFile);
         if (!read.isOk())
             return read.error;
-        products = read.value;
+        setup = read.value;
     }
     const QDir pluginFolder = line.pluginDir.isEmpty() ? besideProgram(builtPluginFolder) : QDir(line.pluginDir);
     QString error = line.language.isEmpty() ? QString() : Languages::install(line.language, pluginFolder);
@@ -167,7 +167,7 @@ QString runTerminal(const CommandLine &line)
     if (!error.isEmpty())
         return error;
 
-    Terminal terminal(products, line.units);
+    Terminal terminal(setup, line.units);
     error = loadPlugins(terminal, pluginFolder);
     if (error.isEmpty() && !terminal.show())
         error = QStringLiteral("the display has no OpenGL");

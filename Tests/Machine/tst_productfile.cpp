@@ -75,6 +75,19 @@ void TestProductFile::badFilesAreRefusedInOneLine_data()
                                          << "\"underVra\" is 1; true or false is wanted";
     QTest::newRow("unknown key") << QByteArray(R"([{"name": "A", "kind": "count", "colour": "red"}])")
                                  << "unknown key \"colour\"";
+    QTest::newRow("least rate above the greatest")
+        << QByteArray(R"([{"name": "A", "kind": "count", "minRate": 30, "maxRate": 20}])")
+        << "product 1: its minimum rate of 30 is above its maximum of 20";
+    QTest::newRow("dead time below zero") << QByteArray(R"([{"name": "A", "kind": "count", "deadTime": -1}])")
+                                          << "\"deadTime\" is -1; a number from 0 is wanted";
+    QTest::newRow("endless time constant")
+        << QByteArray(R"([{"name": "A", "kind": "count", "timeConstant": 1e9}])") << "is longer than 60 s";
+    QTest::newRow("no width") << QByteArray(R"({"width": 0, "products": [{"name": "A", "kind": "count"}]})")
+                              << "\"width\" is 0; a number from 0.5 to 200 is wanted";
+    QTest::newRow("no radius") << QByteArray(R"({"minRadius": 0, "products": [{"name": "A", "kind": "count"}]})")
+                               << "\"minRadius\" is 0; a number from 0.1 to 200 is wanted";
+    QTest::newRow("unknown key of the machine")
+        << QByteArray(R"({"wheels": 4, "products": [{"name": "A", "kind": "count"}]})") << "unknown key \"wheels\"";
     QTest::newRow("second product") << QByteArray(R"([{"name": "A", "kind": "count"}, {"name": "B", "kind": "x"}])")
                                     << "product 2: \"kind\" is \"x\"; ";
 }
@@ -83,7 +96,7 @@ void TestProductFile::badFilesAreRefusedInOneLine()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, mentioned);
-    const Result<Products> result = ProductFile::parse(json, QStringLiteral("machine.json"));
+    const Result<MachineSetup> result = ProductFile::parse(json, QStringLiteral("machine.json"));
     QVERIFY(!result.isOk());
     QVERIFY2(result.error.startsWith(QLatin1String("machine.json: ")), qPrintable(result.error));
     QVERIFY2(result.error.contains(mentioned), qPrintable(result.error));
@@ -92,12 +105,21 @@ void TestProductFile::badFilesAreRefusedInOneLine()
 
 void TestProductFile::everyFieldIsRead()
 {
-    const Result<Products> result = ProductFile::parse(
-        R"({"products": [{"name": "Growth regulator", "shortName": "GR", "kind": "injection", "bin": 4,
+    const Result<MachineSetup> result = ProductFile::parse(
+        R"({"width": 24, "antennaOffset": -1.5, "minRadius": 7, "acceleration": 0.8,
+            "products": [{"deadTime": 0.7, "timeConstant": 0.9, "minRate": 3, "maxRate": 30, "name": "Growth regulator", "shortName": "GR", "kind": "injection", "bin": 4,
             "defaultRate": 12.5, "underVra": false, "isCarrier": true}]})",
         QStringLiteral("machine.json"));
     QVERIFY2(result.isOk(), qPrintable(result.error));
-    const Product product = result.value.first();
+    QCOMPARE(result.value.size.width, 24.0);
+    QCOMPARE(result.value.size.antennaOffset, -1.5);
+    QCOMPARE(result.value.size.minRadius, 7.0);
+    QCOMPARE(result.value.size.acceleration, 0.8);
+    const Product product = result.value.products.first();
+    QCOMPARE(product.actuator.deadTime, 0.7);
+    QCOMPARE(product.actuator.timeConstant, 0.9);
+    QCOMPARE(product.actuator.minRate, 3.0);
+    QCOMPARE(product.actuator.maxRate, 30.0);
     QCOMPARE(product.name, QStringLiteral("Growth regulator"));
     QCOMPARE(product.shortName, QStringLiteral("GR"));
     QVERIFY(product.kind == Product::Kind::Injection);
@@ -109,15 +131,16 @@ void TestProductFile::everyFieldIsRead()
 
 void TestProductFile::onlyNameAndKindAreNeeded()
 {
-    const Result<Products> result = ProductFile::parse(
+    const Result<MachineSetup> result = ProductFile::parse(
         R"([{"name": "Seed", "kind": "count"}, {"name": "Fertiliser", "kind": "weight"}])", QStringLiteral("f"));
     QVERIFY2(result.isOk(), qPrintable(result.error));
-    const Product second = result.value.at(1);
+    const Product second = result.value.products.at(1);
     QCOMPARE(second.shortName, QStringLiteral("Ferti"));
     QCOMPARE(second.bin, 2);
     QCOMPARE(second.defaultRate, 0.0);
     QVERIFY(second.underVra);
     QVERIFY(!second.isCarrier);
+    QCOMPARE(second.actuator.deadTime, Product::usualActuator(Product::Kind::Weight).deadTime);
 }
 
 void TestProductFile::everyKindIsKnown_data()
@@ -137,35 +160,35 @@ void TestProductFile::everyKindIsKnown()
 {
     QFETCH(int, kind);
     const QByteArray json = QByteArray(R"([{"name": "A", "kind": ")") + QTest::currentDataTag() + "\"}]";
-    const Result<Products> result = ProductFile::parse(json, QStringLiteral("f"));
+    const Result<MachineSetup> result = ProductFile::parse(json, QStringLiteral("f"));
     QVERIFY2(result.isOk(), qPrintable(result.error));
-    QCOMPARE(int(result.value.first().kind), kind);
+    QCOMPARE(int(result.value.products.first().kind), kind);
 }
 
 void TestProductFile::keysAreReadHoweverTheyAreWritten()
 {
-    const Result<Products> result = ProductFile::parse(
+    const Result<MachineSetup> result = ProductFile::parse(
         R"([{"Name": "A", "KIND": "volume", "default rate": 3}, {"name": "B", "kind": "volume", "default_rate": 4}])",
         QStringLiteral("f"));
     QVERIFY2(result.isOk(), qPrintable(result.error));
-    QCOMPARE(result.value.at(0).defaultRate, 3.0);
-    QCOMPARE(result.value.at(1).defaultRate, 4.0);
+    QCOMPARE(result.value.products.at(0).defaultRate, 3.0);
+    QCOMPARE(result.value.products.at(1).defaultRate, 4.0);
 }
 
 void TestProductFile::aListNeedsNoObjectAroundIt()
 {
-    QCOMPARE(ProductFile::parse(products(2), QStringLiteral("f")).value.size(), 2);
-    QCOMPARE(ProductFile::parse("{\"products\": " + products(2) + "}", QStringLiteral("f")).value.size(), 2);
+    QCOMPARE(ProductFile::parse(products(2), QStringLiteral("f")).value.products.size(), 2);
+    QCOMPARE(ProductFile::parse("{\"products\": " + products(2) + "}", QStringLiteral("f")).value.products.size(), 2);
 }
 
 void TestProductFile::sixteenProductsAreTaken()
 {
-    QCOMPARE(ProductFile::parse(products(16), QStringLiteral("f")).value.size(), 16);
+    QCOMPARE(ProductFile::parse(products(16), QStringLiteral("f")).value.products.size(), 16);
 }
 
 void TestProductFile::aMissingFileIsNamed()
 {
-    const Result<Products> result = ProductFile::read(QStringLiteral("/no/such/machine.json"));
+    const Result<MachineSetup> result = ProductFile::read(QStringLiteral("/no/such/machine.json"));
     QVERIFY2(result.error.startsWith(QLatin1String("/no/such/machine.json: ")), qPrintable(result.error));
 }
 

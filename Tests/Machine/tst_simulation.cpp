@@ -1,5 +1,4 @@
-#include "dbgroupgpssolution.h"
-#include "simulation.h"
+#include "machinebench.h"
 #include "testbase.h"
 #include "vehicle.h"
 
@@ -25,8 +24,8 @@ public:
 
 void TestSimulation::timePassesInTenthsOfSeconds()
 {
-    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
-    Simulation simulation(&group, nullptr);
+    MachineBench bench;
+    Simulation &simulation = bench.simulation;
     QSignalSpy steps(&simulation, &Simulation::stepped);
     simulation.vehicle()->drive(2.0);
     simulation.run(1.25);
@@ -38,9 +37,9 @@ void TestSimulation::timePassesInTenthsOfSeconds()
 
 void TestSimulation::theWallsTimePassesByItsFactor()
 {
-    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
+    MachineBench bench;
     HandClock wall;
-    Simulation simulation(&group, &wall);
+    Simulation simulation(&bench.machine, &wall);
     wall.time += 300;
     simulation.catchUp();
     QCOMPARE(simulation.seconds(), 0.3);
@@ -56,8 +55,8 @@ void TestSimulation::theWallsTimePassesByItsFactor()
 
 void TestSimulation::factorsOutOfRangeAreRefused()
 {
-    DbGroupGpsSolution group(QStringLiteral("mainGpsSolution"));
-    Simulation simulation(&group, nullptr);
+    MachineBench bench;
+    Simulation &simulation = bench.simulation;
     for (const double factor : {-0.1, 50.1, qQNaN()})
         QVERIFY(!simulation.setTimeFactor(factor));
     QCOMPARE(simulation.timeFactor(), 1.0);

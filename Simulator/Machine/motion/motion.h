@@ -2,6 +2,8 @@
 
 #include "pose.h"
 
+#include <QString>
+
 class SpeedRamp;
 
 /// How the vehicle stands at a moment.
@@ -24,6 +26,8 @@ public:
     enum class Mode { Shuttle, Swaths, Hand, Replay };
 
     virtual ~Motion() = default;
+    /// As scripts name it.
+    static QString modeName(Mode mode);
     virtual Mode mode() const = 0;
     /// Takes a new wanted speed (metres per second) at once, where the way of moving knows no ramp.
     virtual void want(MotionState &, double) { }

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int mostSwaths = 20000;
+constexpr int maxSwaths = 20000;
 
 double length(const QPointF &vector)
 {
@@ -22,11 +22,11 @@ QString optionProblem(const SwathOptions &options)
             .arg(value)
             .arg(QLatin1String(range));
     };
-    if (!(options.width >= SwathOptions::leastWidth && options.width <= SwathOptions::mostWidth))
+    if (!(options.width >= SwathOptions::minWidth && options.width <= SwathOptions::maxWidth))
         return outOf("a working width", options.width, "0.5 to 200 m");
-    if (!(options.minRadius > 0.0 && options.minRadius <= SwathOptions::mostWidth))
+    if (!(options.minRadius > 0.0 && options.minRadius <= SwathOptions::maxWidth))
         return outOf("a turning radius", options.minRadius, "above 0, up to 200 m");
-    if (options.headlands < 0 || options.headlands > SwathOptions::mostHeadlands)
+    if (options.headlands < 0 || options.headlands > SwathOptions::maxHeadlands)
         return outOf("a number of headlands", options.headlands, "0 to 20");
     if (options.angle && !std::isfinite(*options.angle))
         return outOf("an angle", *options.angle, "degrees");
@@ -105,7 +105,7 @@ Result<DrivePath> driveSwaths(const FieldArea &field, double heading, const Swat
     const FieldArea::Span across = field.acrossExtent(heading);
     // What reaches less than a centimetre into one more swath is not worth it.
     const double count = std::max(1.0, std::ceil((across.length() - 0.01) / options.width));
-    if (count > mostSwaths)
+    if (count > maxSwaths)
         return Result<DrivePath>::failure(
             QStringLiteral("the field is too wide for swaths of %1 m").arg(options.width));
     const auto strips = field.strips(heading, across.from, options.width, static_cast<int>(count));

@@ -8,9 +8,9 @@
 
 /// How a field is to be driven.
 struct SwathOptions {
-    static constexpr double leastWidth = 0.5;
-    static constexpr double mostWidth = 200.0;
-    static constexpr int mostHeadlands = 20;
+    static constexpr double minWidth = 0.5;
+    static constexpr double maxWidth = 200.0;
+    static constexpr int maxHeadlands = 20;
 
     /// Degrees clockwise from north; nothing: along the field's longest side.
     std::optional<double> angle;

@@ -14,7 +14,7 @@ constexpr double fastest = 100.0;
 
 } // namespace
 
-TrackReader::TrackReader(const QString &path, const FieldPlane *plane)
+TrackReader::TrackReader(const QString &path, const std::shared_ptr<const FieldPlane> &plane)
     : file(path)
     , plane(plane)
 {
@@ -27,7 +27,7 @@ TrackReader::TrackReader(const QString &path, const FieldPlane *plane)
 
 TrackReader::~TrackReader() = default;
 
-Result<TrackReader::Summary> TrackReader::check(const QString &path, const FieldPlane *plane)
+Result<TrackReader::Summary> TrackReader::check(const QString &path, const std::shared_ptr<const FieldPlane> &plane)
 {
     TrackReader reader(path, plane);
     if (!reader.error().isEmpty())

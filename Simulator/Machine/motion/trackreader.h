@@ -24,10 +24,10 @@ public:
 
     /// Reads the track once, to know that it can be replayed. `plane` takes its degrees to the field; null where no
     /// field is loaded, for a track in metres alone.
-    static Result<Summary> check(const QString &path, const FieldPlane *plane);
+    static Result<Summary> check(const QString &path, const std::shared_ptr<const FieldPlane> &plane);
 
-    /// `plane` as above; not owned.
-    TrackReader(const QString &path, const FieldPlane *plane);
+    /// `plane` as above.
+    TrackReader(const QString &path, const std::shared_ptr<const FieldPlane> &plane);
     ~TrackReader();
 
     /// The next good entry, its place in metres of the plane; false at the end.
@@ -46,7 +46,7 @@ private:
     QString misfit(TrackPoint &point);
 
     QFile file;
-    const FieldPlane *plane;
+    std::shared_ptr<const FieldPlane> plane;
     std::unique_ptr<TrackParser> parser;
     std::vector<TrackPoint> waiting;
     size_t nextWaiting = 0;

@@ -28,7 +28,7 @@ private:
     }
 
     QTemporaryDir folder;
-    FieldPlane plane{QPointF(9.0, 50.0)};
+    const std::shared_ptr<const FieldPlane> plane = std::make_shared<FieldPlane>(QPointF(9.0, 50.0));
 };
 
 void TestTrackReader::init()
@@ -59,7 +59,7 @@ void TestTrackReader::sentencesOfOneTimeMakeOneEntry()
               + withChecksum("GPRMC,120000.00,A,5000.000,N,00900.000,E,5.0,90.0,010126,,") + "$GPGSV,3,1,11\n"
               + withChecksum("GNGGA,120001.00,5000.006,N,00900.000,E,1,08,1.0,100,M,47,M,,")
               + withChecksum("GNVTG,45.0,T,,M,10.0,N,18.5,K") + withChecksum("GPGGA,120002.00,,,,,0,00,,,M,,M,,")),
-        &plane);
+        plane);
     TrackPoint point;
     QVERIFY(reader.next(point));
     QCOMPARE(point.time, 43200.0);
@@ -79,7 +79,7 @@ void TestTrackReader::sentencesOfOneTimeMakeOneEntry()
 
 void TestTrackReader::aTrackGoesOnOverMidnight()
 {
-    TrackReader reader(write(position("235959", "00.000") + position("000001", "00.001")), &plane);
+    TrackReader reader(write(position("235959", "00.000") + position("000001", "00.001")), plane);
     TrackPoint first;
     TrackPoint second;
     QVERIFY(reader.next(first) && reader.next(second));
@@ -136,7 +136,7 @@ void TestTrackReader::badLinesAreLeftOutAndCounted()
     QFETCH(QByteArray, track);
     QFETCH(int, points);
     QFETCH(QString, complaint);
-    const Result<TrackReader::Summary> summary = TrackReader::check(write(track), &plane);
+    const Result<TrackReader::Summary> summary = TrackReader::check(write(track), plane);
     QVERIFY2(summary.isOk(), qPrintable(summary.error));
     QCOMPARE(summary.value.points, qint64(points));
     QCOMPARE(summary.value.firstBad, complaint);
@@ -148,7 +148,8 @@ void TestTrackReader::aTrackWithoutPositionsIsRefused_data()
     QTest::addColumn<QByteArray>("track");
     QTest::addColumn<QString>("reason");
     QTest::newRow("empty") << QByteArray() << ": holds no position";
-    QTest::newRow("no fix ever") << QByteArray("$GPGGA,120000,,,,,0\n$GPRMC,120001,V,,,,,,,\n") << ": holds no position";
+    QTest::newRow("no fix ever") << QByteArray("$GPGGA,120000,,,,,0\n$GPRMC,120001,V,,,,,,,\n")
+                                 << ": holds no position";
     QTest::newRow("another table") << QByteArray("a,b\n1,2\n")
                                    << ": holds no position; line 1: is no head with \"time\"";
     QTest::newRow("no text") << QByteArray(3000, '\xff') << ": holds no position; line 1: is longer than 1000";
@@ -158,10 +159,10 @@ void TestTrackReader::aTrackWithoutPositionsIsRefused()
 {
     QFETCH(QByteArray, track);
     QFETCH(QString, reason);
-    const Result<TrackReader::Summary> summary = TrackReader::check(write(track), &plane);
+    const Result<TrackReader::Summary> summary = TrackReader::check(write(track), plane);
     QVERIFY(!summary.isOk());
     QVERIFY2(summary.error.contains(reason), qPrintable(summary.error));
-    QVERIFY(!TrackReader::check(folder.filePath(QStringLiteral("none")), &plane).isOk());
+    QVERIFY(!TrackReader::check(folder.filePath(QStringLiteral("none")), plane).isOk());
     const auto inDegrees = TrackReader::check(write("time,lon,lat\n0,9,50\n"), nullptr);
     QVERIFY2(inDegrees.error.endsWith(QLatin1String("no field is loaded to place them")), qPrintable(inDegrees.error));
 }

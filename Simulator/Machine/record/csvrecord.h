@@ -1,0 +1,26 @@
+#pragma once
+
+#include "recordwriter.h"
+
+#include <QFile>
+
+/// A record as comma-separated values, one row a step.
+class CsvRecord : public RecordWriter {
+public:
+    /// Null, with the reason in `error`, when the file cannot be written.
+    static std::shared_ptr<RecordWriter> create(const QString &path, int products, QString &error);
+    ~CsvRecord() override;
+
+protected:
+    QString add(const RecordEntry &entry) override;
+    QString keep() override;
+    void close() override;
+
+private:
+    explicit CsvRecord(const QString &path);
+
+    QFile file;
+    QByteArray waiting;
+    /// Bytes that are whole rows.
+    qint64 kept = 0;
+};

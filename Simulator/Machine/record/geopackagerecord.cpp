@@ -1,0 +1,163 @@
+#include "geopackagerecord.h"
+
+#include "fieldplane.h"
+
+#include <QFile>
+
+#include <cmath>
+#include <cpl_conv.h>
+#include <cpl_error.h>
+#include <ogrsf_frmts.h>
+
+namespace {
+
+constexpr int fixedFields = 5;
+constexpr int fieldsOfProduct = 4;
+
+/// Keeps GDAL's own remarks off the terminal; what failed shows in results.
+class QuietGdal {
+public:
+    QuietGdal() { CPLPushErrorHandler(CPLQuietErrorHandler); }
+    ~QuietGdal() { CPLPopErrorHandler(); }
+    Q_DISABLE_COPY(QuietGdal)
+
+    /// What GDAL said last, one line.
+    static QString reason()
+    {
+        const QString said = QString::fromUtf8(CPLGetLastErrorMsg()).simplified();
+        return said.isEmpty() ? QStringLiteral("it cannot be written") : said;
+    }
+};
+
+OGRPolygon strip(const RecordEntry &from, const RecordEntry &to)
+{
+    const QPointF beside = 0.5 * from.width * from.pose.rightward();
+    const QPointF besideNext = 0.5 * to.width * to.pose.rightward();
+    OGRLinearRing ring;
+    for (const QPointF &corner : {from.pose.place - beside, from.pose.place + beside, to.pose.place + besideNext,
+                                  to.pose.place - besideNext, from.pose.place - beside})
+        ring.addPoint(corner.x(), corner.y());
+    OGRPolygon polygon;
+    polygon.addRing(&ring);
+    polygon.flattenTo2D();
+    return polygon;
+}
+
+} // namespace
+
+GeoPackageRecord::GeoPackageRecord(const QString &path)
+    : RecordWriter(path)
+{
+}
+
+GeoPackageRecord::~GeoPackageRecord()
+{
+    finish();
+}
+
+std::shared_ptr<RecordWriter> GeoPackageRecord::create(const QString &path, int products, const QPointF &origin,
+                                                       QString &error)
+{
+    const QuietGdal quiet;
+    const std::shared_ptr<GeoPackageRecord> record(new GeoPackageRecord(path));
+    CPLErrorReset();
+    error = record->begin(products, origin);
+    return record;
+}
+
+QString GeoPackageRecord::begin(int products, const QPointF &origin)
+{
+    RegisterOGRGeoPackage();
+    // A crash of the program must not cost more than the last second; one of the computer may.
+    CPLSetConfigOption("OGR_SQLITE_SYNCHRONOUS", "OFF");
+    if (QFile::exists(path) && !QFile::remove(path))
+        return QStringLiteral("it is there and cannot be replaced");
+    GDALDriver *driver = GetGDALDriverManager()->GetDriverByName("GPKG");
+    file = driver != nullptr ? driver->Create(QFile::encodeName(path).constData(), 0, 0, 0, GDT_Unknown, nullptr)
+                             : nullptr;
+    const QString plane = FieldPlane::definition(origin);
+    const bool isReady = file != nullptr && addLayer("points", wkbPoint, products, plane, points)
+        && addLayer("strips", wkbPolygon, products, plane, strips) && file->StartTransaction() == OGRERR_NONE;
+    return isReady ? QString() : QuietGdal::reason();
+}
+
+bool GeoPackageRecord::addLayer(const char *name, int geometry, int products, const QString &plane, OGRLayer *&layer)
+{
+    OGRSpatialReference reference;
+    reference.importFromProj4(plane.toLatin1().constData());
+    layer = file->CreateLayer(name, &reference, OGRwkbGeometryType(geometry), nullptr);
+    const auto addField = [layer](const QByteArray &field, OGRFieldType type) {
+        OGRFieldDefn definition(field.constData(), type);
+        return layer->CreateField(&definition) == OGRERR_NONE;
+    };
+    bool isMade = layer != nullptr;
+    for (const char *field : {"time", "heading", "speed", "width"})
+        isMade = isMade && addField(field, OFTReal);
+    isMade = isMade && addField("working", OFTInteger);
+    for (int number = 1; number <= products; ++number) {
+        const QByteArray behind = "_" + QByteArray::number(number);
+        for (const char *field : {"prescribed", "commanded", "applied"})
+            isMade = isMade && addField(field + behind, OFTReal);
+        isMade = isMade && addField("source" + behind, OFTString);
+    }
+    return isMade;
+}
+
+bool GeoPackageRecord::writeStep(OGRLayer *layer, OGRGeometry &geometry, const RecordEntry &entry)
+{
+    OGRFeature feature(layer->GetLayerDefn());
+    feature.SetGeometry(&geometry);
+    feature.SetField(0, entry.time);
+    feature.SetField(1, entry.pose.degrees());
+    feature.SetField(2, entry.speed);
+    feature.SetField(3, entry.width);
+    feature.SetField(4, entry.isWorking ? 1 : 0);
+    int field = fixedFields;
+    for (const RecordEntry::Channel &channel : entry.channels) {
+        if (!std::isnan(channel.command.prescribed))
+            feature.SetField(field, channel.command.prescribed);
+        feature.SetField(field + 1, channel.command.commanded);
+        feature.SetField(field + 2, channel.applied);
+        feature.SetField(field + 3, sourceName(channel.command.source));
+        field += fieldsOfProduct;
+    }
+    return layer->CreateFeature(&feature) == OGRERR_NONE;
+}
+
+QString GeoPackageRecord::add(const RecordEntry &entry)
+{
+    const QuietGdal quiet;
+    OGRPoint point(entry.pose.place.x(), entry.pose.place.y());
+    bool isWritten = writeStep(points, point, entry);
+    if (isWritten && entry.isWorking && hasFormer) {
+        OGRPolygon passed = strip(former, entry);
+        isWritten = writeStep(strips, passed, entry);
+    }
+    former = entry;
+    hasFormer = true;
+    if (isWritten)
+        return {};
+    const QString reason = QuietGdal::reason();
+    file->RollbackTransaction();
+    return reason;
+}
+
+QString GeoPackageRecord::keep()
+{
+    if (file == nullptr)
+        return {};
+    const QuietGdal quiet;
+    if (file->CommitTransaction() == OGRERR_NONE && file->StartTransaction() == OGRERR_NONE)
+        return {};
+    const QString reason = QuietGdal::reason();
+    file->RollbackTransaction();
+    return reason;
+}
+
+void GeoPackageRecord::close()
+{
+    const QuietGdal quiet;
+    if (file != nullptr)
+        GDALClose(file);
+    file = nullptr;
+}

@@ -1,0 +1,50 @@
+#include "recorder.h"
+
+#include "machine.h"
+#include "simulation.h"
+#include "vehicle.h"
+
+Recorder::Recorder(Simulation *simulation, QObject *parent)
+    : QObject(parent)
+    , simulation(simulation)
+{
+    connect(simulation, &Simulation::stepped, this, &Recorder::record);
+}
+
+QString Recorder::start(const QString &path, const QPointF &origin)
+{
+    const auto opened = RecordWriter::open(path, simulation->machine()->products().size(), origin);
+    if (opened.isOk())
+        writer = opened.value;
+    return opened.error;
+}
+
+QString Recorder::stop()
+{
+    if (!writer)
+        return {};
+    writer->finish();
+    const QString error = writer->error();
+    writer.reset();
+    return error;
+}
+
+void Recorder::record()
+{
+    if (!isRecording())
+        return;
+    const Vehicle &vehicle = *simulation->vehicle();
+    RecordEntry entry;
+    entry.time = simulation->seconds();
+    entry.pose = vehicle.pose();
+    entry.speed = vehicle.currentSpeed();
+    entry.isWorking = vehicle.isWorking();
+    entry.width = vehicle.size().width;
+    for (int number = 1; number <= simulation->machine()->products().size(); ++number) {
+        const Simulation::Rates rates = simulation->rates(number);
+        entry.channels.push_back({rates.command, rates.applied});
+    }
+    writer->write(entry);
+    if (!writer->error().isEmpty())
+        Q_EMIT failed(writer->error());
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "recordwriter.h"
+
+#include <QObject>
+
+class Simulation;
+
+/// Writes what the simulation does, step by step, until the file is closed or full.
+class Recorder : public QObject {
+    Q_OBJECT
+
+public:
+    /// `simulation` is not owned and outlives the recorder.
+    explicit Recorder(Simulation *simulation, QObject *parent = nullptr);
+
+    /// Starts a record (see RecordWriter::open) in place of the one that is being written. The reason when it cannot,
+    /// and what was being written goes on.
+    QString start(const QString &path, const QPointF &origin);
+    /// Ends the record; why it had ended before, empty when all is written.
+    QString stop();
+    bool isRecording() const { return writer != nullptr && writer->error().isEmpty(); }
+
+Q_SIGNALS:
+    /// The record had to end; one line with the file's name.
+    void failed(const QString &reason);
+
+private:
+    void record();
+
+    Simulation *simulation;
+    std::shared_ptr<RecordWriter> writer;
+};

@@ -1,0 +1,58 @@
+#include "recordwriter.h"
+
+#include "csvrecord.h"
+#include "geopackagerecord.h"
+
+#include <QFileInfo>
+
+namespace {
+
+/// What a crash may cost: a second.
+constexpr int stepsToKeep = 10;
+
+} // namespace
+
+Result<std::shared_ptr<RecordWriter>> RecordWriter::open(const QString &path, int products, const QPointF &origin)
+{
+    using Opened = Result<std::shared_ptr<RecordWriter>>;
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    QString error;
+    std::shared_ptr<RecordWriter> writer;
+    if (suffix == QLatin1String("csv"))
+        writer = CsvRecord::create(path, products, error);
+    else if (suffix == QLatin1String("gpkg"))
+        writer = GeoPackageRecord::create(path, products, origin, error);
+    else
+        error = QStringLiteral("a record is a .csv or .gpkg file");
+    return error.isEmpty() ? Opened{writer, {}} : Opened::failure(QStringLiteral("%1: %2").arg(path, error));
+}
+
+void RecordWriter::take(const QString &reason)
+{
+    if (reason.isEmpty())
+        return;
+    problem = QStringLiteral("%1: the record ends early: %2").arg(path, reason);
+    isOpen = false;
+    close();
+}
+
+void RecordWriter::write(const RecordEntry &entry)
+{
+    if (!isOpen)
+        return;
+    take(add(entry));
+    if (!isOpen || ++loose < stepsToKeep)
+        return;
+    loose = 0;
+    take(keep());
+}
+
+void RecordWriter::finish()
+{
+    if (!isOpen)
+        return;
+    take(keep());
+    if (isOpen)
+        close();
+    isOpen = false;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "recordentry.h"
+#include "result.h"
+
+#include <QPointF>
+#include <QString>
+
+#include <memory>
+
+/// A file that takes a drive, step by step.
+class RecordWriter {
+public:
+    virtual ~RecordWriter() = default;
+
+    /// A .csv or .gpkg for so many products, in place of a file of that name; `origin` (degrees) is where the local
+    /// plane touches the earth. The reason when it cannot be written.
+    static Result<std::shared_ptr<RecordWriter>> open(const QString &path, int products, const QPointF &origin);
+
+    /// Adds a step. After a failure nothing is written any more.
+    void write(const RecordEntry &entry);
+    /// Writes what is still held back; nothing can be written after.
+    void finish();
+    /// Why writing ended before its time, one line with the file's name; empty while all is well.
+    QString error() const { return problem; }
+
+protected:
+    explicit RecordWriter(const QString &path)
+        : path(path)
+    {
+    }
+
+    /// Adds a step to what the next keep() makes safe; the reason when it cannot.
+    virtual QString add(const RecordEntry &entry) = 0;
+    /// Makes what was added safe, or takes it back; the reason when it had to be taken back.
+    virtual QString keep() = 0;
+    virtual void close() = 0;
+
+    const QString path;
+
+private:
+    void take(const QString &reason);
+
+    /// Steps that are not safe yet.
+    int loose = 0;
+    bool isOpen = true;
+    QString problem;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+/// Finds out for one product how early or late its rate changed at the borders that the implement crossed.
+///
+/// A change's moment is that of the sharp step from the rate wanted before the border to the one wanted after it that
+/// would have applied the same amount between the middles to the neighbouring borders, or within `reach` seconds where
+/// these are farther.
+class BorderWatch {
+public:
+    static constexpr double reach = 10.0;
+
+    /// Positive: late.
+    struct Lateness {
+        double metres = 0.0;
+        double seconds = 0.0;
+    };
+
+    /// The implement went down; `time` (seconds) and `way` (metres) go on over the whole drive. `target`: the rate that
+    /// is wanted on the ground there.
+    void begin(double time, double way, double target);
+    /// Adds a step that ended then, in which `mean` was applied.
+    void step(double time, double way, double mean);
+    /// Within the step that is added next the rate wanted on the ground changed.
+    void border(double time, double way, double target);
+    /// The implement went up.
+    void end();
+
+    const std::vector<Lateness> &changes() const { return found; }
+    /// The middle one of each; zero when there are no changes.
+    Lateness median() const;
+
+private:
+    /// A moment, and what had been applied since the implement went down.
+    struct Sample {
+        double time;
+        double way;
+        double overTime;
+        double overWay;
+    };
+    struct Border {
+        double time;
+        double way;
+        double before;
+        double after;
+    };
+
+    Sample at(double time) const;
+    void settle(double until);
+
+    std::vector<Lateness> found;
+    std::deque<Sample> samples;
+    std::deque<Border> borders;
+    double formerBorder = 0.0;
+    double target = 0.0;
+};

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "borderwatch.h"
+#include "ratecommand.h"
+
+#include <QObject>
+#include <QPointF>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+class Simulation;
+
+/// Adds up what a drive did against what was prescribed. Areas are square metres, amounts a product's base unit times
+/// hectares.
+class DriveTally : public QObject {
+    Q_OBJECT
+
+public:
+    /// Ground of one prescribed rate.
+    struct RateClass {
+        double area = 0.0;
+        double planned = 0.0;
+        double applied = 0.0;
+    };
+    struct ProductTally {
+        /// By prescribed rate. What was worked where no rate is prescribed stands apart: nothing is planned there.
+        std::map<double, RateClass> classes;
+        RateClass unprescribed;
+        BorderWatch borders;
+    };
+
+    /// What is counted beside the lateness of changes.
+    enum class Ground { Counted, LeftOut };
+
+    /// `simulation` is not owned and outlives the tally. It counts from now on.
+    explicit DriveTally(Simulation *simulation, Ground ground = Ground::Counted, QObject *parent = nullptr);
+
+    /// Counts no more.
+    void end();
+
+    double seconds() const { return lastTime - firstTime; }
+    double distance() const { return way; }
+    double workedArea() const { return area; }
+    const std::vector<ProductTally> &products() const { return tallies; }
+
+private:
+    void count();
+    void beginSwath(const QPointF &place, double wayThere);
+    void countGround(double length);
+    void countBorders(const QPointF &from, const QPointF &to, double length);
+    std::vector<double> targetsAt(const QPointF &place) const;
+
+    Simulation *simulation;
+    Ground ground;
+    std::vector<ProductTally> tallies;
+    /// The rates wanted on the ground at the end of the last step, by product.
+    std::vector<double> targets;
+    QPointF lastPlace;
+    bool wasWorking = false;
+    double firstTime;
+    double lastTime;
+    double way = 0.0;
+    double area = 0.0;
+};

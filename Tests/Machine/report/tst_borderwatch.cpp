@@ -1,0 +1,92 @@
+#include "borderwatch.h"
+#include "testbase.h"
+
+#include <cmath>
+
+/// How early or late a rate changes.
+class TestBorderWatch : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLagIsAsLateAsTheStepOfTheSameAmount_data();
+    void aLagIsAsLateAsTheStepOfTheSameAmount();
+    void neighbouringBordersShareTheWayBetweenThem();
+    void theMedianIsTheMiddle();
+};
+
+void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount_data()
+{
+    QTest::addColumn<double>("begin");
+    QTest::addColumn<double>("timeConstant");
+    // A first-order lag that begins then is as late as a step one time constant later.
+    QTest::newRow("sharp") << 0.0 << 0.0;
+    QTest::newRow("early") << -1.3 << 0.0;
+    QTest::newRow("lag") << 0.0 << 0.8;
+    QTest::newRow("dead time and lag") << 0.6 << 0.8;
+    QTest::newRow("ahead and lag") << -1.0 << 0.8;
+}
+
+void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount()
+{
+    QFETCH(double, begin);
+    QFETCH(double, timeConstant);
+    constexpr double speed = 3.0;
+    const double border = 20.03;
+    // The integral of the rate from 100 to 60 since then.
+    const auto amount = [&](double time) {
+        const double late = std::max(0.0, time - border - begin);
+        const double lag = timeConstant > 0.0 ? timeConstant * (1.0 - std::exp(-late / timeConstant)) : 0.0;
+        return 100.0 * time - 40.0 * (late - lag);
+    };
+    BorderWatch watch;
+    watch.begin(0.0, 0.0, 100.0);
+    for (int step = 1; step <= 400; ++step) {
+        const double time = 0.1 * step;
+        if (time > border && time - 0.1 <= border)
+            watch.border(border, speed * border, 60.0);
+        watch.step(time, speed * time, (amount(time) - amount(time - 0.1)) / 0.1);
+    }
+    watch.end();
+    QCOMPARE(watch.changes().size(), size_t(1));
+    const double expected = begin + timeConstant;
+    QVERIFY2(std::fabs(watch.median().seconds - expected) < 1e-4, qPrintable(QString::number(watch.median().seconds)));
+    QVERIFY(std::fabs(watch.median().metres - speed * expected) < 3e-4);
+}
+
+void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
+{
+    // 50, from 5.5 s on 80, from 9.5 s on 50 again, each half a second late; then the implement goes up.
+    BorderWatch watch;
+    watch.begin(0.0, 0.0, 50.0);
+    for (int step = 1; step <= 120; ++step) {
+        if (step == 51)
+            watch.border(5.0, 10.0, 80.0);
+        if (step == 91)
+            watch.border(9.0, 18.0, 50.0);
+        watch.step(0.1 * step, 0.2 * step, step > 55 && step <= 95 ? 80.0 : 50.0);
+    }
+    watch.end();
+    QCOMPARE(watch.changes().size(), size_t(2));
+    for (const BorderWatch::Lateness &change : watch.changes()) {
+        QVERIFY2(std::fabs(change.seconds - 0.5) < 1e-9, qPrintable(QString::number(change.seconds)));
+        QVERIFY(std::fabs(change.metres - 1.0) < 1e-9);
+    }
+}
+
+void TestBorderWatch::theMedianIsTheMiddle()
+{
+    BorderWatch watch;
+    QCOMPARE(watch.median().seconds, 0.0);
+    for (const double late : {0.4, 0.1, 0.9, 0.3}) {
+        watch.begin(0.0, 0.0, 10.0);
+        watch.step(2.0, 2.0, 10.0);
+        watch.border(2.0, 2.0, 20.0);
+        watch.step(2.0 + late, 2.0 + late, 10.0);
+        watch.step(4.0, 4.0, 20.0);
+        watch.end();
+    }
+    QVERIFY(std::fabs(watch.median().seconds - 0.35) < 1e-12);
+}
+
+RXMAP_TEST(TestBorderWatch, None)
+#include "tst_borderwatch.moc"
