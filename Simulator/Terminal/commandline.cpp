@@ -18,6 +18,9 @@ const QString pluginDirOption = QStringLiteral("plugin-dir");
 const QString describeOption = QStringLiteral("describe");
 const QString screenshotOption = QStringLiteral("screenshot");
 const QString scriptOption = QStringLiteral("script");
+const QString driveOption = QStringLiteral("drive");
+const QString recordOption = QStringLiteral("record");
+const QString tuneOption = QStringLiteral("tune");
 const QString helpOption = QStringLiteral("help");
 
 void declareOptions(QCommandLineParser &parser)
@@ -45,6 +48,10 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("X,Y")},
         {screenshotOption, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
         {scriptOption, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
+        {driveOption, QStringLiteral("drive the whole field without a display, write what came of it and exit"),
+         QStringLiteral("REPORT.json")},
+        {recordOption, QStringLiteral("with --drive: record every step (.csv or .gpkg)"), QStringLiteral("FILE")},
+        {tuneOption, QStringLiteral("with --drive: look for the look-ahead that puts changes nearest to the borders")},
         {{QStringLiteral("h"), helpOption}, QStringLiteral("show this help")},
     });
 }
@@ -134,8 +141,9 @@ QString requireFolder(const QString &option, const QString &path)
 /// An option that is given more than once, or without a value, is a mistake that must not pass silently.
 QString checkValues(const QCommandLineParser &parser)
 {
-    for (const QString &option : {columnsOption, sourceUnitsOption, productsOption, unitsOption, languageOption,
-                                  pluginDirOption, describeOption, screenshotOption, scriptOption}) {
+    for (const QString &option :
+         {columnsOption, sourceUnitsOption, productsOption, unitsOption, languageOption, pluginDirOption,
+          describeOption, screenshotOption, scriptOption, driveOption, recordOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -144,6 +152,25 @@ QString checkValues(const QCommandLineParser &parser)
             return QStringLiteral("--%1 has an empty value").arg(option);
     }
     return {};
+}
+
+QString checkDrive(const QCommandLineParser &parser)
+{
+    if (!parser.isSet(driveOption)) {
+        for (const QString &option : {recordOption, tuneOption}) {
+            if (parser.isSet(option))
+                return QStringLiteral("--%1 needs --drive").arg(option);
+        }
+        return {};
+    }
+    for (const QString &option : {describeOption, screenshotOption, scriptOption}) {
+        if (parser.isSet(option))
+            return QStringLiteral("--drive does not go with --%1").arg(option);
+    }
+    const QString report = parser.value(driveOption);
+    if (!report.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
+        return QStringLiteral("--drive %1: a report is a .json file").arg(report);
+    return parser.positionalArguments().isEmpty() ? QStringLiteral("--drive needs a prescription to drive") : QString();
 }
 
 QString readOptions(const QCommandLineParser &parser, CommandLine &line)
@@ -163,6 +190,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = requireFile(scriptOption, parser.value(scriptOption));
     if (error.isEmpty() && parser.isSet(pluginDirOption))
         error = requireFolder(pluginDirOption, parser.value(pluginDirOption));
+    if (error.isEmpty())
+        error = checkDrive(parser);
     if (error.isEmpty() && parser.isSet(columnsOption) && parser.positionalArguments().isEmpty())
         error = QStringLiteral("--columns needs a prescription to take them from");
     if (error.isEmpty() && parser.isSet(sourceUnitsOption) && parser.positionalArguments().isEmpty())
@@ -192,6 +221,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     line.pluginDir = parser.value(pluginDirOption);
     line.screenshot = parser.value(screenshotOption);
     line.script = parser.value(scriptOption);
+    line.drive = parser.value(driveOption);
+    line.record = parser.value(recordOption);
+    line.tune = parser.isSet(tuneOption);
     line.wantsHelp = parser.isSet(helpOption);
     return {line, {}};
 }

@@ -24,6 +24,12 @@ struct CommandLine {
     std::optional<QPointF> describe;
     QString screenshot;
     QString script;
+    /// Report of a drive over the whole field; empty: none.
+    QString drive;
+    /// Record of that drive.
+    QString record;
+    /// The drive also looks for the best look-ahead times.
+    bool tune = false;
     bool wantsHelp = false;
 
     /// `arguments` begin with the program's name.

@@ -103,13 +103,16 @@ int main(int argc, char *argv[])
         return end({});
     }
     provideRuntimeFolder();
-    if (!canOpenDisplay(argv[0]))
+    const bool isShown = line.value.drive.isEmpty();
+    if (!isShown)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!canOpenDisplay(argv[0]))
         return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
 
     int kept = 1; // The options are the program's own, Qt is to take none of them.
     OwnLooks::fixResolution();
     QApplication application(kept, argv);
     OwnLooks::apply();
-    const QString lack = OpenGlCheck::problem();
+    const QString lack = isShown ? OpenGlCheck::problem() : QString();
     return end(lack.isEmpty() ? runTerminal(line.value) : lack);
 }

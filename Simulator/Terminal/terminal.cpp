@@ -9,6 +9,7 @@
 #include "pluginscanner.h"
 #include "productselector.h"
 #include "querylistener.h"
+#include "recorder.h"
 #include "simulation.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
@@ -57,6 +58,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , prescriptions(new PrescriptionBackend(&dataBroker))
     , machineModel(new Machine(&dataBroker, prescriptions.data(), setup.products, units))
     , simulated(new Simulation(machineModel.data(), &clock))
+    , driveRecorder(new Recorder(simulated.data()))
     , display(new TerminalWindow(setup.products))
     , viewPace(display->fieldView())
 {

@@ -23,6 +23,7 @@
 
 struct ActiveMap;
 class Machine;
+class Recorder;
 class Simulation;
 class TerminalWindow;
 class UiGraphicsList;
@@ -52,6 +53,7 @@ public:
     Machine *machine() const { return machineModel.data(); }
     Simulation *simulation() const { return simulated.data(); }
     Vehicle *vehicle() const;
+    Recorder *recorder() const { return driveRecorder.data(); }
     TerminalWindow *window() const { return display.data(); }
 
     /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
@@ -105,6 +107,7 @@ private:
     QScopedPointer<PrescriptionBackend> prescriptions;
     QScopedPointer<Machine> machineModel;
     QScopedPointer<Simulation> simulated;
+    QScopedPointer<Recorder> driveRecorder;
     QScopedPointer<TerminalWindow> display;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;

@@ -2,11 +2,14 @@
 
 #include "commandline.h"
 #include "consoleline.h"
+#include "headlessdrive.h"
 #include "languages.h"
 #include "machine.h"
 #include "neededimages.h"
 #include "productfile.h"
+#include "recorder.h"
 #include "scriptrunner.h"
+#include "simulation.h"
 #include "terminal.h"
 #include "terminalwindow.h"
 
@@ -128,6 +131,7 @@ void describe(Terminal &terminal, const QPointF &point)
 
 QString runScript(Terminal &terminal, const QString &path)
 {
+    QObject::connect(terminal.recorder(), &Recorder::failed, writeErrorLine);
     ScriptRunner runner(&terminal);
     QObject::connect(terminal.window(), &TerminalWindow::closed, &runner, &ScriptRunner::interrupt);
     return runner.run(path);
@@ -168,8 +172,13 @@ QString runTerminal(const CommandLine &line)
         return error;
 
     Terminal terminal(setup, line.units);
-    error = loadPlugins(terminal, pluginFolder);
-    if (error.isEmpty() && !terminal.show())
+    const bool isShown = line.drive.isEmpty();
+    // No time passes but what is driven: each drive begins at the same moment.
+    if (!isShown)
+        terminal.simulation()->setTimeFactor(0.0);
+    if (isShown)
+        error = loadPlugins(terminal, pluginFolder);
+    if (error.isEmpty() && isShown && !terminal.show())
         error = QStringLiteral("the display has no OpenGL");
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty())
@@ -177,5 +186,5 @@ QString runTerminal(const CommandLine &line)
     if (!error.isEmpty())
         return error;
     showFedProduct(terminal);
-    return runTasks(terminal, line);
+    return isShown ? runTasks(terminal, line) : runDrive(terminal, line);
 }

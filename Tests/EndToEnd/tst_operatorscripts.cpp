@@ -2,6 +2,8 @@
 #include "simulatorrun.h"
 #include "testbase.h"
 
+#include <QTemporaryDir>
+
 /// What an operator does, from the outside: the built simulator with the loaded plug-in, driven by scripts.
 class TestOperatorScripts : public TestBase {
     Q_OBJECT
@@ -12,6 +14,7 @@ private Q_SLOTS:
     void aTouchTellsTheRateInEveryUnitSystem();
     void aNewMapIsShownAtOnce();
     void aFailedLoadLeavesEverythingAsItWas();
+    void theLookAheadIsSeenInTheRates();
 
 private:
     /// Runs a script that uses check(condition, text); everything it complains of fails the test.
@@ -105,6 +108,17 @@ same(terminal.groups("rxMap.*"), [first.group], "groups");
 same(terminal.get(first.group, "polygonCount"), before, "polygons");
 print("finished");
 )js"));
+}
+
+void TestOperatorScripts::theLookAheadIsSeenInTheRates()
+{
+    const QTemporaryDir folder;
+    runChecked(QStringLiteral("var zones = \"%1\"; var folder = \"%2\";\n")
+                   .arg(sourcePath("Tests/fixtures/three-zones.geojson"), folder.path())
+               + scriptText(QStringLiteral("look-ahead.js")));
+    QFile record(folder.filePath(QStringLiteral("rest.csv")));
+    QVERIFY(record.open(QIODevice::ReadOnly));
+    QCOMPARE(record.readAll().count('\n'), 201);
 }
 
 RXMAP_TEST(TestOperatorScripts, Widgets)

@@ -59,6 +59,13 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("no unit") << QStringList{"--source-units", ",", "map.shp"} << "--source-units";
     QTest::newRow("units of nothing") << QStringList{"--source-units", "kg/ha"} << "--source-units";
     QTest::newRow("columns of nothing") << QStringList{"--columns", "RATE"} << "--columns";
+    QTest::newRow("record without drive") << QStringList{"--record", "a.csv", "map.shp"} << "--record needs --drive";
+    QTest::newRow("tuning without drive") << QStringList{"--tune", "map.shp"} << "--tune needs --drive";
+    QTest::newRow("drive of nothing") << QStringList{"--drive", "a.json"} << "--drive needs a prescription";
+    QTest::newRow("drive and point") << QStringList{"--drive", "a.json", "--describe", "1,2", "map.shp"}
+                                     << "--drive does not go with --describe";
+    QTest::newRow("report of another kind")
+        << QStringList{"--drive", "a.pdf", "map.shp"} << "--drive a.pdf: a report is a .json file";
     QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
 }
 

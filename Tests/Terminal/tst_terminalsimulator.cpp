@@ -4,7 +4,11 @@
 
 #include <QFileInfo>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 /// The program as it is started from a shell.
@@ -33,6 +37,9 @@ private Q_SLOTS:
     void outputIntoAFullDeviceIsAnError();
     void aDriverWithoutShadersIsNamed_data();
     void aDriverWithoutShadersIsNamed();
+    void aFieldIsDrivenWithoutADisplay();
+    void whatCannotBeDrivenEndsWithOneLine_data();
+    void whatCannotBeDrivenEndsWithOneLine();
 
 private:
     struct Outcome {
@@ -49,6 +56,15 @@ private:
     }
     /// The program with its arguments behind it as a shell's "$@".
     static Outcome runInShell(const QString &line, const QStringList &arguments);
+    static QProcessEnvironment withoutDisplay()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("DISPLAY"));
+        // Qt's platform for no display keeps its screen; only whole call stacks show the leak check that it is its.
+        environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                           environment.value(QStringLiteral("ASAN_OPTIONS")) + ":fast_unwind_on_malloc=0");
+        return environment;
+    }
     static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
     QString write(const QByteArray &content, const QString &name);
 
@@ -358,6 +374,64 @@ void TestTerminalSimulator::aDriverWithoutShadersIsNamed()
     QVERIFY2(outcome.errors.contains(lack), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFile::exists(path));
+}
+
+void TestTerminalSimulator::aFieldIsDrivenWithoutADisplay()
+{
+    const QProcessEnvironment environment = withoutDisplay();
+    QByteArray records[2];
+    for (QByteArray &record : records) {
+        const QString report = folder.filePath(QStringLiteral("report.json"));
+        const QString recordPath = folder.filePath(QStringLiteral("drive.csv"));
+        const Outcome outcome =
+            run({"--drive", report, "--tune", "--record", recordPath, "--columns", "SEED_K_HA", zones()}, environment);
+        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+        QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("tuning: \\d0 %, about \\d+ s left"))),
+                 qPrintable(outcome.output));
+        QFile file(report);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QJsonObject all = QJsonDocument::fromJson(file.readAll()).object();
+        QCOMPARE(all.value(QStringLiteral("file")).toString(), zones());
+        const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
+        QCOMPARE(seed.value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 16);
+        // Dead time and time constant of the standard machine's seed, within a step.
+        QVERIFY(std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
+        QFile rows(recordPath);
+        QVERIFY(rows.open(QIODevice::ReadOnly));
+        record = rows.readAll();
+    }
+    QVERIFY(records[0].count('\n') > 5000);
+    QCOMPARE(records[0], records[1]);
+}
+
+void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const QString report = folder.filePath(QStringLiteral("report-of-nothing.json"));
+    const auto products = [this](const char *name, const QByteArray &machine) {
+        return write("{" + machine + R"(, "products": [{"name": "A", "kind": "count"}]})", QLatin1String(name));
+    };
+    QTest::newRow("field narrower than the machine")
+        << QStringList{"--drive", report, "--products", products("wide.json", R"("width": 150)")}
+        << zones() + ": the field is 100.0 m wide, narrower than the machine's 150 m";
+    QTest::newRow("no width") << QStringList{"--drive", report, "--products", products("none.json", R"("width": 0)")}
+                              << folder.filePath(QStringLiteral("none.json"))
+            + ": \"width\" is 0; a number from 0.5 to 200 is wanted";
+    QTest::newRow("report nowhere") << QStringList{"--drive", "/nowhere/a.json"} << "/nowhere/a.json: ";
+    QTest::newRow("record nowhere") << QStringList{"--drive", report, "--record", "/nowhere/a.csv"}
+                                    << "/nowhere/a.csv: No such file or directory";
+}
+
+void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    const Outcome outcome = run(arguments + QStringList{"--columns", "SEED_K_HA", zones()}, withoutDisplay());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.startsWith("terminal-simulator: " + reason), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count('\n'), 1);
+    QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
 }
 
 RXMAP_TEST(TestTerminalSimulator, Core)

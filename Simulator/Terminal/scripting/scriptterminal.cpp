@@ -4,13 +4,11 @@
 #include "fieldview.h"
 #include "machine.h"
 #include "openoptions.h"
-#include "runonuithread.h"
 #include "scriptcontrol.h"
 #include "scriptvalue.h"
 #include "terminal.h"
 #include "terminalwindow.h"
 #include "uidriver.h"
-#include "vehicle.h"
 
 #include "Framework/databrokergroup.h"
 
@@ -106,20 +104,8 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 } // namespace
 
 ScriptTerminal::ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent)
-    : QObject(parent)
-    , terminal(terminal)
-    , isInterrupted(isInterrupted)
+    : ScriptDriving(terminal, isInterrupted, parent)
 {
-}
-
-template <typename Function> auto ScriptTerminal::onGui(Function function) const
-{
-    return runOnUiThread(terminal, function);
-}
-
-void ScriptTerminal::fail(const QString &reason) const
-{
-    qjsEngine(this)->throwError(reason);
 }
 
 QJSValue ScriptTerminal::activeProduct() const
@@ -243,17 +229,6 @@ void ScriptTerminal::set(const QString &group, const QString &property, const QJ
 QStringList ScriptTerminal::groups(const QString &pattern)
 {
     return onGui([&] { return terminal->broker()->findGroup(pattern, true, false); });
-}
-
-void ScriptTerminal::drive(double metresPerSecond)
-{
-    if (!onGui([&] { return terminal->vehicle()->drive(metresPerSecond); }))
-        fail(QStringLiteral("a speed of %1 m/s is out of range").arg(metresPerSecond));
-}
-
-void ScriptTerminal::stop()
-{
-    drive(0.0);
 }
 
 void ScriptTerminal::wait(double milliseconds)

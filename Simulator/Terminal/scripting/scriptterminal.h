@@ -1,17 +1,12 @@
 #pragma once
 
-#include <QJSValue>
-#include <QObject>
-#include <QString>
+#include "scriptdriving.h"
+
 #include <QStringList>
-
-#include <atomic>
-
-class Terminal;
 
 /// The script's object `terminal`. It lives on the script's thread; every call runs on the user-interface thread, from
 /// whichever event loop turns there, and throws a script error with the reason when it fails.
-class ScriptTerminal : public QObject {
+class ScriptTerminal : public ScriptDriving {
     Q_OBJECT
     /// The active product's number, from 1.
     Q_PROPERTY(QJSValue activeProduct READ activeProduct WRITE setActiveProduct)
@@ -36,17 +31,10 @@ public:
     Q_INVOKABLE QJSValue get(const QString &group, const QString &property);
     Q_INVOKABLE void set(const QString &group, const QString &property, const QJSValue &value);
     Q_INVOKABLE QStringList groups(const QString &pattern);
-    Q_INVOKABLE void drive(double metresPerSecond);
-    Q_INVOKABLE void stop();
     Q_INVOKABLE void wait(double milliseconds);
     Q_INVOKABLE void screenshot(const QString &path);
 
 private:
-    template <typename Function> auto onGui(Function function) const;
-    void fail(const QString &reason) const;
     /// Whether both are numbers; fails otherwise.
     bool isFieldPoint(double x, double y) const;
-
-    Terminal *terminal;
-    const std::atomic<bool> *isInterrupted;
 };

@@ -1,5 +1,6 @@
 #include "machine.h"
 #include "scriptterminal.h"
+#include "simulation.h"
 #include "terminalhost.h"
 #include "testbase.h"
 #include "vehicle.h"
@@ -51,6 +52,9 @@ void TestScriptTerminal::init()
         QVERIFY(terminal.close(map.group));
     QVERIFY(terminal.machine()->setActiveProduct(1));
     terminal.vehicle()->stop();
+    terminal.vehicle()->setSize(MachineSize());
+    terminal.vehicle()->shuttle();
+    QVERIFY(terminal.simulation()->setTimeFactor(1.0));
 }
 
 void TestScriptTerminal::cleanupTestCase()
@@ -165,6 +169,34 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
         "var before = terminal.get('mainGpsSolution', 'position').y; terminal.wait(150);"
         "same(terminal.get('mainGpsSolution', 'position').y > before, true); terminal.stop();"
         "same(terminal.get('mainGpsSolution', 'vehicleIsStopped'), true);");
+    row("follow swaths",
+        "terminal.machine.timeFactor = 0; terminal.open(zones, {columns: ['SEED_K_HA']});"
+        "var length = terminal.follow({kind: 'swaths', width: 20, angle: 90}); same(length > 5 * 300, true);"
+        "var m = terminal.machine; same(m.mode, 'swaths'); same(m.timeFactor, 0); same(m.arrived, false);"
+        "same(Math.round(m.x), -150); same(m.heading, 90); same(m.speed, 0);"
+        "var before = m.worked; terminal.drive(4); terminal.run(10); same(Math.round(1e6 * m.speed), 4e6);"
+        "same(Math.round(m.x), -118); same(Math.round(m.worked - before), 32 * 20);"
+        "terminal.run(1000); same(m.arrived, true); same(m.speed, 0);");
+    row("follow with headlands",
+        "terminal.open(zones, {columns: ['SEED_K_HA']});"
+        "var plain = terminal.follow({kind: 'swaths'});"
+        "same(terminal.follow({kind: 'swaths', headlands: 1}) !== plain, true);");
+    row("drive by hand",
+        "terminal.machine.timeFactor = 0; terminal.follow({kind: 'hand'}); same(terminal.machine.mode, 'hand');"
+        "terminal.steer(0.1); terminal.drive(2); terminal.run(5); same(terminal.machine.heading > 30, true);"
+        "terminal.drive(-2); terminal.run(5); same(terminal.machine.speed, -2);");
+    row("rates",
+        "terminal.machine.timeFactor = 0; terminal.open(zones, {columns: ['SEED_K_HA']});"
+        "same(terminal.rates(1).source, 'stopped'); same(terminal.rates(2).source, 'notControlled');"
+        "same(terminal.rates(2).prescribed, null);"
+        "terminal.follow({kind: 'swaths', angle: 90}); terminal.drive(3); terminal.run(10);"
+        "var r = terminal.rates(1); same(r.prescribed, 70); same(r.commanded, 70); same(Math.round(r.applied), 70);"
+        "same(r.source, 'prescription'); same(r.unit, 'k/ha');"
+        "terminal.signal(false); terminal.run(2.5); same(terminal.rates(1).source, 'noPosition');"
+        "terminal.signal(true); terminal.run(0.1); same(terminal.rates(1).source, 'prescription');");
+    row("record",
+        "terminal.record(folder + '/drive.csv'); terminal.run(1); terminal.record('');"
+        "terminal.record(folder + '/drive.gpkg'); terminal.run(1); terminal.record('');");
     row("wait", "var start = Date.now(); terminal.wait(120); same(Date.now() - start >= 119, true);");
     row("caught errors do not count",
         "try { terminal.get('nothing', 'x'); } catch (e) { same(e instanceof Error, true); }");
@@ -200,6 +232,24 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("options a text", "terminal.open(zones, 'SEED_K_HA');", "the options of open() are no object");
     row("options null", "terminal.open(zones, null);", "the options of open() are no object");
     row("no such map", "terminal.close('rxMap.nothing');", "no map \"rxMap.nothing\" is loaded");
+    row("no way to move", "terminal.follow({kind: 'fly'});", "\"kind\" is \"swaths\" or \"hand\"");
+    row("unknown option of follow", "terminal.follow({kind: 'swaths', wide: 3});", "\"wide\" is no option of follow()");
+    row("width in words", "terminal.open(zones); terminal.follow({kind: 'swaths', width: 'wide'});",
+        "\"width\" is no number");
+    row("no width", "terminal.open(zones); terminal.follow({kind: 'swaths', width: 0});",
+        "a working width of 0 is out of range (0.5 to 200 m)");
+    row("half a headland", "terminal.open(zones); terminal.follow({kind: 'swaths', headlands: 0.5});",
+        "\"headlands\" is no whole number");
+    row("field too narrow", "terminal.open(zones); terminal.follow({kind: 'swaths', width: 150});",
+        "the field is 100.0 m wide, narrower than the machine's 150 m");
+    row("no field", "terminal.follow({kind: 'swaths'});", "there is no field to drive");
+    row("tight turn", "terminal.steer(1);", "tighter than the machine can turn");
+    row("no track", "terminal.replay('/no/such.nmea');", "/no/such.nmea: there is no such file");
+    row("a track that is none", "terminal.replay(zones);", "holds no position; line 1: is no head");
+    row("rates of no product", "terminal.rates(4);", "no product 4");
+    row("record nowhere", "terminal.record('/nowhere/a.csv');", "/nowhere/a.csv: No such file or directory");
+    row("run backwards", "terminal.run(-1);", "cannot run -1 s");
+    row("time factor", "terminal.machine.timeFactor = 51;", "a time factor of 51 is out of range (0 to 50)");
     row("product 0", "terminal.activeProduct = 0;", "no product 0");
     row("product 4", "terminal.activeProduct = 4;", "no product 4");
     row("product 1.7", "terminal.activeProduct = 1.7;", "no product 1.7");
