@@ -36,7 +36,9 @@ bool Simulation::setTimeFactor(double newFactor)
 {
     if (!(newFactor >= 0.0) || newFactor > maxTimeFactor)
         return false;
-    catchUp();
+    // What has passed since the last step passes unseen, so that a simulation that is paused at once begins at zero.
+    if (wall != nullptr)
+        lastWall = wall->now();
     factor = newFactor;
     return true;
 }

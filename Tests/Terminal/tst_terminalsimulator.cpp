@@ -383,10 +383,14 @@ void TestTerminalSimulator::aFieldIsDrivenWithoutADisplay()
     for (QByteArray &record : records) {
         const QString report = folder.filePath(QStringLiteral("report.json"));
         const QString recordPath = folder.filePath(QStringLiteral("drive.csv"));
-        const Outcome outcome =
-            run({"--drive", report, "--tune", "--record", recordPath, "--columns", "SEED_K_HA", zones()}, environment);
+        // Tuning leaves the drive that is recorded as it is.
+        QStringList arguments{"--drive", report, "--record", recordPath, "--columns", "SEED_K_HA", zones()};
+        const bool isTuned = &record == &records[0];
+        if (isTuned)
+            arguments.prepend("--tune");
+        const Outcome outcome = run(arguments, environment);
         QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-        QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("tuning: \\d0 %, about \\d+ s left"))),
+        QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("driving: \\d0 %, about \\d+ s left"))),
                  qPrintable(outcome.output));
         QFile file(report);
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -395,7 +399,7 @@ void TestTerminalSimulator::aFieldIsDrivenWithoutADisplay()
         const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
         QCOMPARE(seed.value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 16);
         // Dead time and time constant of the standard machine's seed, within a step.
-        QVERIFY(std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
+        QVERIFY(!isTuned || std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
         QFile rows(recordPath);
         QVERIFY(rows.open(QIODevice::ReadOnly));
         record = rows.readAll();
