@@ -1,5 +1,6 @@
 #include "commandline.h"
 #include "consoleline.h"
+#include "displayprobe.h"
 #include "openglcheck.h"
 #include "ownlooks.h"
 #include "terminalrun.h"
@@ -12,9 +13,8 @@
 #include <cstdlib>
 #include <exception>
 #include <fcntl.h>
+#include <memory>
 #include <new>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -37,25 +37,6 @@ int complain(const QString &reason)
     } catch (...) {
     }
     std::abort();
-}
-
-/// Qt aborts where it cannot open a display; that must be a plain error. A child process tries it, silently.
-bool canOpenDisplay(char *program)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit noCore = {0, 0};
-        setrlimit(RLIMIT_CORE, &noCore);
-        const int nowhere = open("/dev/null", O_WRONLY);
-        dup2(nowhere, STDOUT_FILENO);
-        dup2(nowhere, STDERR_FILENO);
-        int kept = 1;
-        const QGuiApplication application(kept, &program);
-        _exit(0);
-    }
-    int status = 0;
-    // Where no process can be made, the display is taken for granted.
-    return child < 0 || (waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
 /// Without a login there is no run-time folder, and Qt remarks on it; errors are to stand alone.
@@ -104,14 +85,18 @@ int main(int argc, char *argv[])
     }
     provideRuntimeFolder();
     const bool isShown = line.value.drive.isEmpty();
-    if (!isShown)
+    std::unique_ptr<DisplayProbe> probe;
+    if (isShown)
+        probe.reset(new DisplayProbe(argv[0]));
+    else
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    else if (!canOpenDisplay(argv[0]))
+    if (probe && !probe->canOpen())
         return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
 
     int kept = 1; // The options are the program's own, Qt is to take none of them.
     OwnLooks::fixResolution();
     QApplication application(kept, argv);
+    probe.reset();
     OwnLooks::apply();
     const QString lack = isShown ? OpenGlCheck::problem() : QString();
     return end(lack.isEmpty() ? runTerminal(line.value) : lack);
