@@ -2,12 +2,18 @@
 
 #include "theme.h"
 
+#include <QAbstractButton>
+#include <QEvent>
+#include <QHBoxLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace {
 
 constexpr double kilometresPerHour = 3.6;
 constexpr double milesPerHour = 3.6 / 1.609344;
+constexpr int sideMargin = 20;
 constexpr int speedWidth = 190;
 constexpr int progressWidth = 360;
 
@@ -15,10 +21,39 @@ constexpr int progressWidth = 360;
 
 StatusBar::StatusBar(QWidget *parent)
     : QWidget(parent)
+    , buttons(new QHBoxLayout(this))
 {
     setObjectName(QStringLiteral("statusBar"));
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->setSpacing(Theme::margin / 2);
+    buttons->addStretch();
     setMaps({});
     setSpeed(0.0, true);
+}
+
+void StatusBar::addButton(QAbstractButton *button)
+{
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    buttons->insertWidget(buttons->count() - 1, button);
+}
+
+int StatusBar::textLeft() const
+{
+    int left = sideMargin;
+    for (int i = 0; i < buttons->count(); ++i) {
+        const QWidget *button = buttons->itemAt(i)->widget();
+        if (button != nullptr && !button->isHidden())
+            left = std::max(left, button->geometry().right() + 1 + Theme::margin);
+    }
+    return left;
+}
+
+bool StatusBar::event(QEvent *event)
+{
+    // The texts move when a button comes or goes.
+    if (event->type() == QEvent::LayoutRequest)
+        update();
+    return QWidget::event(event);
 }
 
 void StatusBar::setMaps(const QStringList &names)
@@ -47,7 +82,7 @@ void StatusBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), QColor(Theme::panel().rgb()));
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRect inner = rect().adjusted(20, 0, -20, 0);
+    const QRect inner(QPoint(textLeft(), 0), QPoint(width() - sideMargin - 1, height() - 1));
 
     const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
     painter.setFont(Theme::font(22, true));

@@ -4,13 +4,18 @@
 #include <QStringList>
 #include <QWidget>
 
-/// The line along the top: loaded maps, progress of what is loading, and how the vehicle moves.
+class QAbstractButton;
+class QHBoxLayout;
+
+/// The line along the top: buttons, loaded maps, progress of what is loading, and how the vehicle moves.
 class StatusBar : public QWidget {
     Q_OBJECT
 
 public:
     explicit StatusBar(QWidget *parent = nullptr);
 
+    /// Puts a button, which becomes the bar's, behind those at its left end. One that is hidden takes no room.
+    void addButton(QAbstractButton *button);
     /// File names of the loaded maps, oldest first.
     void setMaps(const QStringList &names);
     /// Metres per second; 0 reads as stopped.
@@ -19,9 +24,14 @@ public:
     void setProgress(const QString &file, double fraction);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Where the texts begin: behind the last button that is seen.
+    int textLeft() const;
+
+    QHBoxLayout *buttons;
     QString maps;
     QString speed;
     bool isMoving = false;

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int statusHeight = 56;
+constexpr int statusHeight = Theme::touchTarget;
 constexpr int selectorWidth = 212;
 constexpr double zoomStep = 1.5;
 const char placedProperty[] = "rxmapPlacedOnDisplay";

@@ -2,6 +2,7 @@
 #include "statusbar.h"
 #include "testbase.h"
 #include "theme.h"
+#include "touchbutton.h"
 
 /// The line along the top of the display.
 class TestStatusBar : public TestBase {
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void aMovingVehiclesSpeedStandsOut();
     void aLoadShowsItsFileWhileItRuns();
     void theProgressBarGrowsWithTheLoad();
+    void buttonsStandBeforeTheTexts();
 
 private:
     /// Pixels of that colour in a picture of the bar.
@@ -29,7 +31,7 @@ void TestStatusBar::init()
 {
     TestBase::init();
     bar.reset(new StatusBar);
-    bar->resize(1280, 56);
+    bar->resize(1280, 72);
 }
 
 int TestStatusBar::pixelsOf(const QColor &color)
@@ -120,6 +122,35 @@ void TestStatusBar::theProgressBarGrowsWithTheLoad()
     QCOMPARE(pixels.at(6), pixels.at(5));
     // Quarter by quarter the same.
     QCOMPARE(pixels.at(4) - pixels.at(3), pixels.at(3) - pixels.at(2));
+}
+
+void TestStatusBar::buttonsStandBeforeTheTexts()
+{
+    const auto mapTextLeft = [this] {
+        bar->setMaps({QStringLiteral("field.shp")});
+        const QImage picture = bar->grab(QRect(0, 20, 600, 32)).toImage();
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                if (picture.pixelColor(x, y) == Theme::text())
+                    return x;
+            }
+        }
+        return -1;
+    };
+    const int alone = mapTextLeft();
+    auto *first = new TouchButton(QString());
+    auto *second = new TouchButton(QString());
+    for (TouchButton *button : {first, second})
+        bar->addButton(button);
+    bar->show();
+    for (const TouchButton *button : {first, second})
+        QVERIFY(button->width() >= Theme::touchTarget && button->height() >= Theme::touchTarget);
+    QVERIFY(second->x() > first->geometry().right());
+    QVERIFY(mapTextLeft() > second->geometry().right());
+    second->hide();
+    QTRY_VERIFY(mapTextLeft() < second->x() + second->width());
+    first->hide();
+    QTRY_COMPARE(mapTextLeft(), alone);
 }
 
 RXMAP_TEST(TestStatusBar, Widgets)
