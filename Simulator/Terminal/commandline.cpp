@@ -11,6 +11,8 @@ namespace {
 
 const QString columnsOption = QStringLiteral("columns");
 const QString sourceUnitsOption = QStringLiteral("source-units");
+const QString layerOption = QStringLiteral("layer");
+const QString taskOption = QStringLiteral("task");
 const QString productsOption = QStringLiteral("products");
 const QString unitsOption = QStringLiteral("units");
 const QString languageOption = QStringLiteral("language");
@@ -37,6 +39,10 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("units of the columns of products 1, 2, ...: lb/ac, gal/ac, seeds/m2, t/ha, ... (default: what "
                         "the file says)"),
          QStringLiteral("A,B,...")},
+        {layerOption, QStringLiteral("which layer of a file that has several (default: the first that will do)"),
+         QStringLiteral("NAME")},
+        {taskOption, QStringLiteral("which task of a file that has several (default: the first that will do)"),
+         QStringLiteral("NAME")},
         {productsOption, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
         {unitsOption, QStringLiteral("the operator's unit system: us, metric (default) or turf"),
          QStringLiteral("SYSTEM")},
@@ -142,8 +148,8 @@ QString requireFolder(const QString &option, const QString &path)
 QString checkValues(const QCommandLineParser &parser)
 {
     for (const QString &option :
-         {columnsOption, sourceUnitsOption, productsOption, unitsOption, languageOption, pluginDirOption,
-          describeOption, screenshotOption, scriptOption, driveOption, recordOption}) {
+         {columnsOption, sourceUnitsOption, layerOption, taskOption, productsOption, unitsOption, languageOption,
+          pluginDirOption, describeOption, screenshotOption, scriptOption, driveOption, recordOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -173,6 +179,22 @@ QString checkDrive(const QCommandLineParser &parser)
     return parser.positionalArguments().isEmpty() ? QStringLiteral("--drive needs a prescription to drive") : QString();
 }
 
+/// What says how prescriptions are read needs one.
+QString checkPrescription(const QCommandLineParser &parser)
+{
+    if (!parser.positionalArguments().isEmpty())
+        return {};
+    if (parser.isSet(columnsOption))
+        return QStringLiteral("--columns needs a prescription to take them from");
+    if (parser.isSet(sourceUnitsOption))
+        return QStringLiteral("--source-units needs a prescription to read in them");
+    for (const QString &option : {layerOption, taskOption}) {
+        if (parser.isSet(option))
+            return QStringLiteral("--%1 needs a prescription to take it from").arg(option);
+    }
+    return {};
+}
+
 QString readOptions(const QCommandLineParser &parser, CommandLine &line)
 {
     QString error = checkValues(parser);
@@ -192,10 +214,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = requireFolder(pluginDirOption, parser.value(pluginDirOption));
     if (error.isEmpty())
         error = checkDrive(parser);
-    if (error.isEmpty() && parser.isSet(columnsOption) && parser.positionalArguments().isEmpty())
-        error = QStringLiteral("--columns needs a prescription to take them from");
-    if (error.isEmpty() && parser.isSet(sourceUnitsOption) && parser.positionalArguments().isEmpty())
-        error = QStringLiteral("--source-units needs a prescription to read in them");
+    if (error.isEmpty())
+        error = checkPrescription(parser);
     return error;
 }
 
@@ -216,6 +236,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     if (!error.isEmpty())
         return Result<CommandLine>::failure(error);
     line.prescriptions = parser.positionalArguments();
+    line.layer = parser.value(layerOption);
+    line.task = parser.value(taskOption);
     line.productFile = parser.value(productsOption);
     line.language = parser.value(languageOption);
     line.pluginDir = parser.value(pluginDirOption);

@@ -16,6 +16,9 @@ struct CommandLine {
     QStringList columns;
     /// Units of the columns that feed products 1, 2, ...; an empty one is left to the file.
     QStringList sourceUnits;
+    /// Which layer and which task of the prescriptions; empty: the first that will do.
+    QString layer;
+    QString task;
     QString productFile;
     UnitSystem units = UnitSystem::Metric;
     QString language;

@@ -144,29 +144,25 @@ bool Terminal::show()
     return display->fieldView()->isValid();
 }
 
-LoadReport Terminal::open(const QString &path, const QStringList &columns, const QStringList &units)
-{
-    return prescriptions->loadAndWait({path, columns, units, machineModel->loadedProducts()});
-}
-
-QList<LoadReport> Terminal::openTogether(const QStringList &paths, const QStringList &columns, const QStringList &units)
+QList<LoadReport> Terminal::open(const OpenRequest &request)
 {
     QList<LoadReport> reports;
-    const ColumnShares shares = PrescriptionBackend::shareColumns(paths, columns);
+    LoadRequest load{{}, request.columns, request.units, machineModel->loadedProducts(), request.layer, request.task};
+    const ColumnShares shares = PrescriptionBackend::shareColumns(request.paths, load);
     if (!shares.isOk()) {
         reports.append(LoadReport());
         reports.last().error = shares.error;
     }
-    QList<int> fed;
     for (int i = 0; i < shares.columns.size(); ++i) {
-        LoadRequest request{paths.at(i), shares.columns.at(i), units, machineModel->loadedProducts()};
-        for (const int number : qAsConst(fed))
-            request.products[number - 1].isFed = true;
-        const bool isUnused = !columns.isEmpty() && request.columns.isEmpty();
-        reports.append(isUnused ? unused(request.path) : prescriptions->loadAndWait(request));
+        load.path = request.paths.at(i);
+        load.columns = shares.columns.at(i);
+        const bool isUnused = !request.columns.isEmpty() && load.columns.isEmpty();
+        reports.append(isUnused ? unused(load.path) : prescriptions->loadAndWait(load));
         if (!reports.last().isOk())
             return reports;
-        fed.append(columnsOf(reports.last().group).keys());
+        const QList<int> fed = columnsOf(reports.last().group).keys();
+        for (const int number : fed)
+            load.products[number - 1].isFed = true;
     }
     return reports;
 }

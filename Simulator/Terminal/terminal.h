@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
+#include "openrequest.h"
 #include "productfile.h"
 #include "repaintthrottle.h"
 #include "result.h"
@@ -56,15 +57,12 @@ public:
     Recorder *recorder() const { return driveRecorder.data(); }
     TerminalWindow *window() const { return display.data(); }
 
-    /// Loads a prescription and waits for it, with the display alive. `columns` feed products 1, 2, ...; an empty name
-    /// leaves its product out, and so does a product that no prescription may drive, with a warning. Without columns
-    /// the most likely ones feed the products that a prescription may drive. `units`: of the columns that feed
-    /// products 1, 2, ...; empty and missing ones are left to the file.
-    LoadReport open(const QString &path, const QStringList &columns, const QStringList &units = {});
-    /// The same for several files at once, up to the first one that cannot be loaded: each product takes its column
-    /// from the first file that has it. Without columns each file feeds the products that none before it does; once all
-    /// are fed, a file takes products over. A file that is to feed nothing is not opened: its report names no group.
-    QList<LoadReport> openTogether(const QStringList &paths, const QStringList &columns, const QStringList &units = {});
+    /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
+    /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
+    /// column from the first file that has it. Without columns the most likely ones of each file feed the products that
+    /// none before it does; once all are fed, a file takes products over. A file that is to feed nothing is not opened:
+    /// its report names no group.
+    QList<LoadReport> open(const OpenRequest &request);
     /// False when there is no such map.
     bool close(const QString &group);
 

@@ -92,7 +92,7 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
 
 QString openAll(Terminal &terminal, const QStringList &paths, const CommandLine &line)
 {
-    const QList<LoadReport> reports = terminal.openTogether(paths, line.columns, line.sourceUnits);
+    const QList<LoadReport> reports = terminal.open({paths, line.columns, line.sourceUnits, line.layer, line.task});
     for (const LoadReport &report : reports) {
         if (!report.isOk())
             return report.error;

@@ -146,7 +146,9 @@ void TestDrawnIsAnswered::aMapTooWideForOneLookAgreesUpClose()
     TerminalHost host;
     QCOMPARE(host.problem(), QString());
     const LoadReport report =
-        host.terminal().open(realData(QStringLiteral("parcels-holes/parcels.shp")), {QStringLiteral("AREA_HA")});
+        host.terminal()
+            .open({{realData(QStringLiteral("parcels-holes/parcels.shp"))}, {QStringLiteral("AREA_HA")}})
+            .first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     auto *group = qobject_cast<DbGroupRxMap *>(host.terminal().broker()->getGroup(report.group, false));
     QVERIFY(group);

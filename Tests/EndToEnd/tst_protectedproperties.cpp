@@ -56,7 +56,7 @@ void TestProtectedProperties::init()
     host.reset(new TerminalHost);
     QCOMPARE(host->problem(), QString());
     const LoadReport report =
-        host->terminal().open(TerminalHost::fixture("three-zones.geojson"), {"SEED_K_HA", "FERT_KG_HA"});
+        host->terminal().open({{TerminalHost::fixture("three-zones.geojson")}, {"SEED_K_HA", "FERT_KG_HA"}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     map = qobject_cast<DbGroupRxMap *>(host->terminal().broker()->getGroup(report.group, false));
     QVERIFY(map != nullptr);

@@ -15,5 +15,5 @@ void TerminalTest::cleanup()
 
 LoadReport TerminalTest::open(const QString &file, const QStringList &columns)
 {
-    return terminal().open(TerminalHost::fixture(file), columns);
+    return terminal().open({{TerminalHost::fixture(file)}, columns}).first();
 }

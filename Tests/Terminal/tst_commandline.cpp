@@ -58,6 +58,8 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("open quote") << QStringList{"--columns", "\"A,B", "map.shp"} << "a quote is left open";
     QTest::newRow("no unit") << QStringList{"--source-units", ",", "map.shp"} << "--source-units";
     QTest::newRow("units of nothing") << QStringList{"--source-units", "kg/ha"} << "--source-units";
+    QTest::newRow("layer of nothing") << QStringList{"--layer", "north"} << "--layer needs a prescription";
+    QTest::newRow("no task") << QStringList{"--task", "", "map.shp"} << "--task has an empty value";
     QTest::newRow("columns of nothing") << QStringList{"--columns", "RATE"} << "--columns";
     QTest::newRow("record without drive") << QStringList{"--record", "a.csv", "map.shp"} << "--record needs --drive";
     QTest::newRow("tuning without drive") << QStringList{"--tune", "map.shp"} << "--tune needs --drive";
@@ -105,12 +107,15 @@ void TestCommandLine::everyOptionIsRead()
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
     const Result<CommandLine> line =
-        parse({"--columns", "A, B", "--source-units", ",lb/ac", "--products", products, "--units=us", "--language",
-               "de", "--plugin-dir", folder.path(), "--describe", "1.5,2", "--screenshot", "map.png", "--script",
-               script, "one.shp", "two.gpkg"});
+        parse({"--columns", "A, B",         "--source-units", ",lb/ac",     "--layer",    "north",
+               "--task",    "spring",       "--products",     products,     "--units=us", "--language",
+               "de",        "--plugin-dir", folder.path(),    "--describe", "1.5,2",      "--screenshot",
+               "map.png",   "--script",     script,           "one.shp",    "two.gpkg"});
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QCOMPARE(line.value.columns, QStringList({"A", "B"}));
     QCOMPARE(line.value.sourceUnits, QStringList({QString(), "lb/ac"}));
+    QCOMPARE(line.value.layer, QStringLiteral("north"));
+    QCOMPARE(line.value.task, QStringLiteral("spring"));
     QCOMPARE(line.value.productFile, products);
     QCOMPARE(line.value.units, UnitSystem::Us);
     QCOMPARE(line.value.language, QStringLiteral("de"));

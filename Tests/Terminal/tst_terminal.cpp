@@ -83,7 +83,7 @@ void TestTerminal::farMapsAreFramedOneByOne()
     far.close();
     QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
     const QRectF near = terminal().bounds().value();
-    const LoadReport report = terminal().open(far.fileName(), {QString(), QStringLiteral("rate")});
+    const LoadReport report = terminal().open({{far.fileName()}, {QString(), QStringLiteral("rate")}}).first();
     QVERIFY(report.isOk());
     QVERIFY(report.warnings.join(QLatin1Char(' ')).contains(QStringLiteral("30 km")));
     QCOMPARE(terminal().bounds().value(), near);
@@ -102,7 +102,7 @@ void TestTerminal::aBadFileLeavesTheMapAsItWas()
     QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
     const QColor before = terminal().mapColor(QPointF(0, 0));
     for (const QString &path : {QStringLiteral("/no/such.shp"), TerminalHost::fixture("README.md")}) {
-        const LoadReport report = terminal().open(path, {});
+        const LoadReport report = terminal().open({{path}}).first();
         QVERIFY(!report.isOk());
         QVERIFY2(report.error.contains(path), qPrintable(report.error));
     }
@@ -171,7 +171,7 @@ void TestTerminal::ratesInTheOperatorsUnitAreTheFilesNumbers()
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("map.geojson"));
     QVERIFY(sketch.write(path));
-    const LoadReport report = terminal().open(path, {});
+    const LoadReport report = terminal().open({{path}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QCOMPARE(report.warnings, QStringList());
     QCOMPARE(report.sources.first().product, product);

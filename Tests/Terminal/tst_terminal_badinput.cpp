@@ -122,7 +122,7 @@ void TestTerminalBadInput::init()
     TestBase::init();
     host.reset(new TerminalHost);
     QCOMPARE(host->problem(), QString());
-    QVERIFY(host->terminal().open(TerminalHost::fixture("three-zones.geojson"), {"SEED_K_HA"}).isOk());
+    QVERIFY(host->terminal().open({{TerminalHost::fixture("three-zones.geojson")}, {"SEED_K_HA"}}).first().isOk());
     before = host->terminal().mapColor(QPointF(0, 0));
     QVERIFY(before != FieldScene::groundColor());
 }
@@ -183,7 +183,7 @@ void TestTerminalBadInput::whatIsRefusedLeavesTheMapBefore()
     QFETCH(QStringList, columns);
     QFETCH(QString, reason);
     QVERIFY(!path.isEmpty());
-    const LoadReport report = host->terminal().open(path, columns);
+    const LoadReport report = host->terminal().open({{path}, columns}).first();
     QVERIFY(!report.isOk());
     QVERIFY2(report.error.startsWith(path + QStringLiteral(": ")), qPrintable(report.error));
     QVERIFY2(report.error.contains(reason), qPrintable(report.error));
@@ -211,7 +211,7 @@ void TestTerminalBadInput::whatIsCountedLeavesTheMapBefore()
     QFETCH(QString, reason);
     QVERIFY(!path.isEmpty());
     // It feeds the second product only.
-    const LoadReport report = host->terminal().open(path, {QString(), "RATE"});
+    const LoadReport report = host->terminal().open({{path}, {QString(), "RATE"}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QCOMPARE(report.outers, 3);
     QVERIFY2(report.warnings.filter(path).filter(reason).size() == 1, qPrintable(report.warnings.join('\n')));

@@ -100,7 +100,8 @@ void TestTerminalDrawing::everyClassOfTheLegendIsSeenHalfTransparentOverTheGroun
 void TestTerminalDrawing::everyClassOfTheLegendIsSeenHalfTransparentOverTheGround()
 {
     QFETCH(int, product);
-    const LoadReport report = terminal().open(TerminalHost::sampleField(), {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"});
+    const LoadReport report =
+        terminal().open({{TerminalHost::sampleField()}, {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QVERIFY(terminal().machine()->setActiveProduct(product));
     const ActiveMap map = ActiveMap::find(*terminal().broker(), Machine::productGroupName(product));
@@ -141,7 +142,7 @@ void TestTerminalDrawing::whatIsDrawnIsWhatIsAnswered()
 {
     QFETCH(QString, file);
     QFETCH(QString, column);
-    const LoadReport report = terminal().open(file, {column});
+    const LoadReport report = terminal().open({{file}, {column}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     const auto colorOf = [&](const QPointF &point) {
         const QColor color = terminal().answerAt(point).color;
@@ -189,7 +190,7 @@ void TestTerminalDrawing::theLegendNamesRatesOrRangesAsTheMapHasThem()
     QCOMPARE(classesShown(), (QStringList{"0", "120.5", "150"}));
     // Another file feeds the first product now, with more rates than the legend has classes.
     QTemporaryDir folder;
-    QVERIFY2(terminal().open(writeRow(folder, 12), {"RATE"}).isOk(), "twelve rates");
+    QVERIFY2(terminal().open({{writeRow(folder, 12)}, {"RATE"}}).first().isOk(), "twelve rates");
     QVERIFY(terminal().machine()->setActiveProduct(1));
     QCOMPARE(classesShown().size(), 7);
     QVERIFY(classesShown().first().startsWith(QStringLiteral("\u2264 ")));

@@ -29,7 +29,8 @@ void TestTerminalPictures::theMapLooksAsStored()
     TerminalHost host;
     QCOMPARE(host.problem(), QString());
     Terminal &terminal = host.terminal();
-    const LoadReport report = terminal.open(TerminalHost::sampleField(), {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"});
+    const LoadReport report =
+        terminal.open({{TerminalHost::sampleField()}, {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     terminal.machine()->setActiveProduct(product);
     terminal.touch(QPointF(-100, 60));

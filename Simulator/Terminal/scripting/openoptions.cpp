@@ -9,6 +9,8 @@ namespace {
 
 const QString columnsOption = QStringLiteral("columns");
 const QString unitsOption = QStringLiteral("units");
+const QString layerOption = QStringLiteral("layer");
+const QString taskOption = QStringLiteral("task");
 
 /// What a list of a script names for the products; null and undefined leave a product out, as an empty text does.
 Result<QStringList> namesIn(const QJSValue &list, const QString &option)
@@ -39,30 +41,47 @@ Result<QStringList> listIn(const QJSValue &options, const QString &option)
                            : Result<QStringList>::failure(QStringLiteral("\"%1\" is no list").arg(option));
 }
 
+/// A text that one option of open() gives; an empty one without it.
+Result<QString> textIn(const QJSValue &options, const QString &option)
+{
+    const QJSValue value = options.property(option);
+    if (value.isUndefined())
+        return {};
+    return value.isString() ? Result<QString>{value.toString(), {}}
+                            : Result<QString>::failure(QStringLiteral("\"%1\" is no text").arg(option));
+}
+
 /// What is wrong with the options of open() as a whole.
 QString problem(const QJSValue &options)
 {
     if (!options.isObject() || options.isArray())
         return QStringLiteral("the options of open() are no object");
+    const QStringList known{columnsOption, unitsOption, layerOption, taskOption};
     QJSValueIterator option(options);
     while (option.next()) {
-        if (option.name() != columnsOption && option.name() != unitsOption)
-            return QStringLiteral("\"%1\" is no option of open(); it knows \"columns\" and \"units\"")
-                .arg(option.name());
+        if (!known.contains(option.name()))
+            return QStringLiteral("\"%1\" is no option of open(); it knows %2")
+                .arg(option.name(), known.join(QStringLiteral(", ")));
     }
     return {};
 }
 
 } // namespace
 
-Result<OpenOptions> OpenOptions::read(const QJSValue &options)
+Result<OpenRequest> OpenOptions::read(const QString &path, const QJSValue &options)
 {
     if (options.isUndefined())
-        return {};
+        return {{{path}}, {}};
     const QString reason = problem(options);
     if (!reason.isEmpty())
-        return Result<OpenOptions>::failure(reason);
+        return Result<OpenRequest>::failure(reason);
     const Result<QStringList> columns = listIn(options, columnsOption);
     const Result<QStringList> units = listIn(options, unitsOption);
-    return {{columns.value, units.value}, columns.isOk() ? units.error : columns.error};
+    const Result<QString> layer = textIn(options, layerOption);
+    const Result<QString> task = textIn(options, taskOption);
+    for (const QString &error : {columns.error, units.error, layer.error, task.error}) {
+        if (!error.isEmpty())
+            return Result<OpenRequest>::failure(error);
+    }
+    return {{{path}, columns.value, units.value, layer.value, task.value}, {}};
 }

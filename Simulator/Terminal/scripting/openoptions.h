@@ -1,18 +1,14 @@
 #pragma once
 
+#include "openrequest.h"
 #include "result.h"
-
-#include <QStringList>
 
 class QJSValue;
 
-/// The options of a script's open(): {columns: [...], units: [...]}.
-struct OpenOptions {
-    /// Columns of products 1, 2, ...; an empty one leaves its product out.
-    QStringList columns;
-    /// Units of the columns that feed products 1, 2, ...; an empty one is left to the file.
-    QStringList units;
-
-    /// Reads each option once; an option that is not known, or no list of texts, is an error.
-    static Result<OpenOptions> read(const QJSValue &options);
+/// The options of a script's open(): {columns: [...], units: [...], layer, task}.
+class OpenOptions {
+public:
+    /// What is asked for with the file of that path. Reads each option once; an option that is not known, or no list of
+    /// texts or text, is an error.
+    static Result<OpenRequest> read(const QString &path, const QJSValue &options);
 };

@@ -123,14 +123,14 @@ void ScriptTerminal::setActiveProduct(const QJSValue &number)
 
 QJSValue ScriptTerminal::open(const QString &path, const QJSValue &options)
 {
-    const Result<OpenOptions> read = OpenOptions::read(options);
+    const Result<OpenRequest> read = OpenOptions::read(path, options);
     if (!read.isOk()) {
         fail(read.error);
         return {};
     }
     QVariantMap description;
     const QString error = onGui([&] {
-        const LoadReport report = terminal->open(path, read.value.columns, read.value.units);
+        const LoadReport report = terminal->open(read.value).first();
         if (report.isOk())
             description = describe(report, terminal->activeColumn());
         return report.error;

@@ -17,25 +17,25 @@ PrescriptionBackend::PrescriptionBackend(DataBroker *broker, QObject *parent)
 
 PrescriptionBackend::~PrescriptionBackend() = default;
 
-ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const QStringList &columns)
+ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const LoadRequest &request)
 {
     ColumnShares shares;
-    if (columns.isEmpty() || paths.size() == 1) {
+    if (request.columns.isEmpty() || paths.size() == 1) {
         for (int i = 0; i < paths.size(); ++i)
-            shares.columns.append(columns);
+            shares.columns.append(request.columns);
         return shares;
     }
     QList<ColumnPolicy::File> files;
     for (int i = 0; i < paths.size() && shares.isOk(); ++i) {
         const QString &path = paths.at(i);
         const LoadControl control;
-        PrescriptionReader reader(path, {}, ColumnPolicy::isWorthReading, control);
+        PrescriptionReader reader({path, {}, request.layer, request.task}, ColumnPolicy::isWorthReading, control);
         ColumnPolicy::File file{path, {}};
         if (!reader.readColumnNames(file.columns))
             shares.error = QStringLiteral("%1: %2").arg(path, reader.error());
         files.append(file);
     }
-    return shares.isOk() ? ColumnPolicy::share(files, columns) : shares;
+    return shares.isOk() ? ColumnPolicy::share(files, request.columns) : shares;
 }
 
 void PrescriptionBackend::load(const LoadRequest &request)

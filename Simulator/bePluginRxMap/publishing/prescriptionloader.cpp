@@ -87,9 +87,14 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
         return fail(policy.refusal());
     for (const QString &warning : policy.warnings())
         warn(warning);
-    PrescriptionReader reader(request.path, policy.named(), ColumnPolicy::isWorthReading, reading);
+    PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, ColumnPolicy::isWorthReading,
+                              reading);
     if (!reader.read(source))
         return fail(reader.error());
+    report->layer = source.layer;
+    report->layers = source.layers;
+    report->task = source.task;
+    report->tasks = source.tasks;
     if (!place(map) || !repairRings() || !chooseColumns(map))
         return false;
     dropRecordsWithoutRate();

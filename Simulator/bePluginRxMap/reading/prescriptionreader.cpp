@@ -83,12 +83,21 @@ std::vector<SourceColumn> tableColumns(OGRFeatureDefn &definition, QStringList &
     return columns;
 }
 
+bool mayHoldPolygons(OGRLayer &layer)
+{
+    const OGRwkbGeometryType kind = wkbFlatten(layer.GetGeomType());
+    return OGR_GT_IsSubClassOf(kind, wkbSurface) || OGR_GT_IsSubClassOf(kind, wkbMultiSurface) || kind == wkbUnknown
+        || kind == wkbGeometryCollection;
+}
+
 } // namespace
 
-PrescriptionReader::PrescriptionReader(const QString &filePath, const QStringList &columns, ColumnFilter columnFilter,
+PrescriptionReader::PrescriptionReader(const ReadRequest &request, ColumnFilter columnFilter,
                                        const LoadControl &loadControl)
-    : path(filePath)
-    , wanted(columns)
+    : path(request.path)
+    , wanted(request.columns)
+    , wantedLayer(request.layer)
+    , wantedTask(request.task)
     , isWorthReading(columnFilter)
     , control(loadControl)
 {
@@ -117,6 +126,11 @@ bool PrescriptionReader::checkFile()
     return problem.isEmpty() || fail(problem);
 }
 
+bool PrescriptionReader::checkTask()
+{
+    return wantedTask.isEmpty() || fail(QStringLiteral("has no task \"%1\"; it has no tasks").arg(wantedTask));
+}
+
 bool PrescriptionReader::isShapefile() const
 {
     return QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
@@ -124,7 +138,7 @@ bool PrescriptionReader::isShapefile() const
 
 bool PrescriptionReader::read(RawPrescription &map)
 {
-    if (!checkFile())
+    if (!checkFile() || !checkTask())
         return false;
     const GdalSession session;
     const GDALDatasetUniquePtr dataset = openDataset(session);
@@ -142,7 +156,7 @@ bool PrescriptionReader::read(RawPrescription &map)
 
 bool PrescriptionReader::readColumnNames(QStringList &names)
 {
-    if (!checkFile())
+    if (!checkFile() || !checkTask())
         return false;
     const GdalSession session;
     const GDALDatasetUniquePtr dataset = openDataset(session);
@@ -170,22 +184,28 @@ GDALDatasetUniquePtr PrescriptionReader::openDataset(const GdalSession &session)
 
 OGRLayer *PrescriptionReader::chooseLayer(GDALDataset &dataset, RawPrescription &map)
 {
-    OGRLayer *chosen = nullptr;
+    std::vector<OGRLayer *> layers;
     for (OGRLayer *layer : dataset.GetLayers()) {
-        const OGRwkbGeometryType kind = wkbFlatten(layer->GetGeomType());
-        const bool mayHoldPolygons = OGR_GT_IsSubClassOf(kind, wkbSurface) || OGR_GT_IsSubClassOf(kind, wkbMultiSurface)
-            || kind == wkbUnknown || kind == wkbGeometryCollection;
-        if (!mayHoldPolygons)
+        if (!mayHoldPolygons(*layer))
             continue;
-        if (chosen == nullptr)
-            chosen = layer;
-        else
-            map.warnings.append(QStringLiteral("layer \"%1\" is not loaded: only the first layer with polygons is")
-                                    .arg(QString::fromUtf8(layer->GetName())));
+        layers.push_back(layer);
+        map.layers.append(QString::fromUtf8(layer->GetName()));
     }
-    if (chosen == nullptr)
+    if (layers.empty()) {
         fail(dataset.GetLayerCount() == 0 ? QStringLiteral("holds no layer") : QStringLiteral("holds no polygons"));
-    return chosen;
+        return nullptr;
+    }
+    const int chosen = wantedLayer.isEmpty() ? 0 : map.layers.indexOf(wantedLayer);
+    if (chosen < 0) {
+        fail(QStringLiteral("has no layer \"%1\" with polygons; it has %2")
+                 .arg(wantedLayer, map.layers.join(QStringLiteral(", "))));
+        return nullptr;
+    }
+    map.layer = map.layers.at(chosen);
+    for (int i = 1; i < map.layers.size() && wantedLayer.isEmpty(); ++i)
+        map.warnings.append(
+            QStringLiteral("layer \"%1\" is not loaded: only the first layer with polygons is").arg(map.layers.at(i)));
+    return layers[static_cast<size_t>(chosen)];
 }
 
 bool PrescriptionReader::chooseColumns(OGRLayer &layer, RawPrescription &map)

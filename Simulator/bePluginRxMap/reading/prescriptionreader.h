@@ -2,8 +2,7 @@
 
 #include "loadcontrol.h"
 #include "rawprescription.h"
-
-#include <QStringList>
+#include "readrequest.h"
 
 #include <memory>
 
@@ -20,9 +19,7 @@ public:
     /// Whether a column, of which name and type are known, is worth reading.
     using ColumnFilter = bool (*)(const SourceColumn &);
 
-    /// `columns`: the names wanted; empty entries are ignored, an empty list reads every column that is worth it.
-    PrescriptionReader(const QString &path, const QStringList &columns, ColumnFilter isWorthReading,
-                       const LoadControl &control);
+    PrescriptionReader(const ReadRequest &request, ColumnFilter isWorthReading, const LoadControl &control);
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
     bool read(RawPrescription &map);
@@ -35,6 +32,7 @@ private:
     bool checkFile();
     bool isShapefile() const;
     std::unique_ptr<GDALDataset, GDALDatasetUniquePtrDeleter> openDataset(const GdalSession &session);
+    bool checkTask();
     OGRLayer *chooseLayer(GDALDataset &dataset, RawPrescription &map);
     bool chooseColumns(OGRLayer &layer, RawPrescription &map);
     bool takeWantedColumns(const std::vector<SourceColumn> &table, RawPrescription &map);
@@ -46,6 +44,8 @@ private:
 
     QString path;
     QStringList wanted;
+    QString wantedLayer;
+    QString wantedTask;
     ColumnFilter isWorthReading;
     const LoadControl &control;
     QString reason;

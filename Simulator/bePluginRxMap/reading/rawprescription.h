@@ -54,6 +54,11 @@ struct RawPrescription {
     std::vector<double> xs;
     std::vector<double> ys;
     std::vector<SourceRing> rings;
+    /// The layer and the task that were read, and all that the file offers, as in LoadReport.
+    QString layer;
+    QString task;
+    QStringList layers;
+    QStringList tasks;
     /// The columns that were read, in table order.
     std::vector<SourceColumn> columns;
     /// All columns of text, in table order.

@@ -115,7 +115,7 @@ void TestMapOverlay::touchesOfTheTerminalShareADrawing()
     TerminalHost host;
     QCOMPARE(host.problem(), QString());
     Terminal &terminal = host.terminal();
-    QVERIFY(terminal.open(TerminalHost::fixture("three-zones.geojson"), {"SEED_K_HA"}).isOk());
+    QVERIFY(terminal.open({{TerminalHost::fixture("three-zones.geojson")}, {"SEED_K_HA"}}).first().isOk());
     DrawingCount ofTerminal(terminal.window()->overlay());
     terminal.refresh();
     QTRY_VERIFY(ofTerminal.times > 0);

@@ -115,6 +115,8 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
     row("open reads its options once",
         "var reads = 0; var options = {get columns() { ++reads; return ['SEED_K_HA']; }};"
         "terminal.open(zones, options); same(reads, 1);");
+    row("open a layer by name",
+        "same(terminal.open(zones, {layer: 'three-zones', task: ''}).columns[0], 'SEED_K_HA');");
     row("open with likely columns", "same(terminal.open(sample).columns.length, 3);");
     row("close",
         "var m = terminal.open(zones); terminal.close(m.group); same(terminal.groups('rxMap.*'), []);"
@@ -225,9 +227,12 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("endless columns", "terminal.open(zones, {columns: new Array(4294967295)});",
         "\"columns\" has more than 16 entries");
     row("unknown option", "terminal.open(zones, {colums: ['SEED_K_HA']});",
-        "\"colums\" is no option of open(); it knows \"columns\" and \"units\"");
+        "\"colums\" is no option of open(); it knows columns, units, layer, task");
     row("units no list", "terminal.open(zones, {units: 'lb/ac'});", "\"units\" is no list");
     row("unit that is none", "terminal.open(zones, {units: ['bags']});", "\"bags\" is no unit of a rate");
+    row("missing layer", "terminal.open(zones, {layer: 'north'});", "has no layer \"north\"");
+    row("missing task", "terminal.open(zones, {task: 'spring'});", "has no task \"spring\"");
+    row("layer a number", "terminal.open(zones, {layer: 1});", "\"layer\" is no text");
     row("options no object", "terminal.open(zones, ['SEED_K_HA']);", "the options of open() are no object");
     row("options a text", "terminal.open(zones, 'SEED_K_HA');", "the options of open() are no object");
     row("options null", "terminal.open(zones, null);", "the options of open() are no object");

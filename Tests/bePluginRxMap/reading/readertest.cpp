@@ -24,8 +24,14 @@ bool ReaderTest::replaceIn(const char *name, const QByteArray &from, const QByte
 
 bool ReaderTest::read(const QString &file, const QStringList &columns)
 {
+    return read(ReadRequest{file, columns});
+}
+
+bool ReaderTest::read(const ReadRequest &request)
+{
     const LoadControl control;
-    PrescriptionReader reader(file, columns, ColumnPolicy::isWorthReading, control);
+    map = RawPrescription();
+    PrescriptionReader reader(request, ColumnPolicy::isWorthReading, control);
     const bool isRead = reader.read(map);
     error = reader.error();
     return isRead;

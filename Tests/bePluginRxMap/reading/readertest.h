@@ -21,6 +21,7 @@ protected:
     bool replaceIn(const char *name, const QByteArray &from, const QByteArray &to) const;
     /// Reads into `map`; what kept it from that is then in `error`.
     bool read(const QString &file, const QStringList &columns = {});
+    bool read(const ReadRequest &request);
 
     QScopedPointer<QTemporaryDir> folder;
     RawPrescription map;

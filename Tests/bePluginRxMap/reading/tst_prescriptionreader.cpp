@@ -87,6 +87,15 @@ void PrescriptionReaderTest::takesTheFirstLayerWithPolygons()
     QCOMPARE(map.columns[0].values[0], 1.0);
     QCOMPARE(map.warnings.size(), 1);
     QVERIFY(map.warnings.first().contains(QStringLiteral("\"second\"")));
+    QCOMPARE(map.layer, QStringLiteral("first"));
+    QCOMPARE(map.layers, QStringList({"first", "second"}));
+    QVERIFY2(read(ReadRequest{path("a.gpkg"), {}, QStringLiteral("second")}), qPrintable(error));
+    QCOMPARE(map.columns[0].values[0], 2.0);
+    QVERIFY(map.warnings.isEmpty());
+    QVERIFY(!read(ReadRequest{path("a.gpkg"), {}, QStringLiteral("points")}));
+    QCOMPARE(error, QStringLiteral("has no layer \"points\" with polygons; it has first, second"));
+    QVERIFY(!read(ReadRequest{path("a.gpkg"), {}, {}, QStringLiteral("spring")}));
+    QCOMPARE(error, QStringLiteral("has no task \"spring\"; it has no tasks"));
 }
 
 void PrescriptionReaderTest::refusesFilesThatItCannotRead_data()
@@ -156,7 +165,7 @@ void PrescriptionReaderTest::endsWhenItIsCancelled()
     const std::atomic<bool> cancelled(true);
     LoadControl control;
     control.cancelled = &cancelled;
-    PrescriptionReader reader(fixture("three-zones.geojson"), {}, ColumnPolicy::isWorthReading, control);
+    PrescriptionReader reader({fixture("three-zones.geojson")}, ColumnPolicy::isWorthReading, control);
     QVERIFY(!reader.read(map));
     QVERIFY(reader.error().contains(QStringLiteral("cancelled")));
 }
@@ -171,7 +180,7 @@ void PrescriptionReaderTest::reportsProgress()
     QList<double> fractions;
     LoadControl control;
     control.progress = [&fractions](double fraction) { fractions.append(fraction); };
-    QVERIFY(PrescriptionReader(path("a.shp"), {}, ColumnPolicy::isWorthReading, control).read(map));
+    QVERIFY(PrescriptionReader({path("a.shp")}, ColumnPolicy::isWorthReading, control).read(map));
     QCOMPARE(fractions, QList<double>({0.256, 0.512, 0.768}));
 }
 

@@ -16,6 +16,12 @@ struct LoadReport {
     /// One line that names the file and the reason; empty on success.
     QString error;
     QString path;
+    /// The layer and the task that were taken, empty where the format has none.
+    QString layer;
+    QString task;
+    /// All layers with polygons, and all tasks, that the file offers, in its order.
+    QStringList layers;
+    QStringList tasks;
     /// Name of the published group, "rxMap.<file name>".
     QString group;
     int polygons = 0; ///< Records of the chain.

@@ -17,4 +17,7 @@ struct LoadRequest {
     QStringList units;
     /// All products of the machine, in product order.
     QList<MachineProduct> products;
+    /// Which one of the file's layers, or of its tasks; empty: the first that will do.
+    QString layer;
+    QString task;
 };

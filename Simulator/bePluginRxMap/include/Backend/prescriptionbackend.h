@@ -28,9 +28,9 @@ public:
     /// Cancels what is loading and unloads every map.
     ~PrescriptionBackend() override;
 
-    /// Which of several files feeds which product, when `columns` (of products 1, 2, ...) are named for all of them
-    /// together. Reads the tables' heads only.
-    static ColumnShares shareColumns(const QStringList &paths, const QStringList &columns);
+    /// Which of several files feeds which product, when the columns of `request` are named for all of them together.
+    /// Its layer and task are those of every file, its path is not looked at. Reads the tables' heads only.
+    static ColumnShares shareColumns(const QStringList &paths, const LoadRequest &request);
 
     /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
     void load(const LoadRequest &request);

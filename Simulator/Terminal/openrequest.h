@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the operator, the command line or a script asks the terminal to open.
+struct OpenRequest {
+    QStringList paths;
+    /// Columns of products 1, 2, ...; an empty name leaves its product out, an empty list takes the most likely ones.
+    QStringList columns = {};
+    /// Units of the columns that feed products 1, 2, ...; empty and missing ones are left to the file.
+    QStringList units = {};
+    /// Which layer and which task of each file; empty: the first that will do.
+    QString layer = {};
+    QString task = {};
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What is to be read of which file.
+struct ReadRequest {
+    QString path;
+    /// Names of the columns; empty entries are ignored, an empty list reads every column that is worth it.
+    QStringList columns = {};
+    /// Empty: the first that will do.
+    QString layer = {};
+    QString task = {};
+};
