@@ -98,7 +98,8 @@ std::vector<std::pair<std::uint64_t, size_t>> sortedHashes(const std::vector<Pla
 
 } // namespace
 
-int DuplicatePolygons::drop(std::vector<PlanePolygon> &polygons, const std::function<bool(int, int)> &hides)
+std::vector<PlanePolygon> DuplicatePolygons::drop(std::vector<PlanePolygon> &polygons,
+                                                  const std::function<bool(int, int)> &hides)
 {
     const std::vector<std::pair<std::uint64_t, size_t>> hashes = sortedHashes(polygons);
     std::vector<size_t> hidden;
@@ -112,11 +113,16 @@ int DuplicatePolygons::drop(std::vector<PlanePolygon> &polygons, const std::func
             }
         }
     }
-    for (const size_t place : hidden)
+    std::sort(hidden.begin(), hidden.end());
+    std::vector<PlanePolygon> dropped;
+    dropped.reserve(hidden.size());
+    for (const size_t place : hidden) {
+        dropped.push_back(std::move(polygons[place]));
         polygons[place].outer.clear();
+    }
     if (!hidden.empty())
         polygons.erase(std::remove_if(polygons.begin(), polygons.end(),
                                       [](const PlanePolygon &polygon) { return polygon.outer.empty(); }),
                        polygons.end());
-    return static_cast<int>(hidden.size());
+    return dropped;
 }

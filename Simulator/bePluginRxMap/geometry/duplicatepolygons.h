@@ -10,7 +10,8 @@
 class DuplicatePolygons {
 public:
     /// Drops each polygon of which a later one has the same rings, wherever these start and whichever way they run.
-    /// `hides(later, earlier)` (records) says whether the later one may stand for the earlier one. Returns how many
-    /// were dropped.
-    static int drop(std::vector<PlanePolygon> &polygons, const std::function<bool(int, int)> &hides);
+    /// `hides(later, earlier)` (records) says whether the later one may stand for the earlier one. Returns
+    /// those that were dropped, in their order.
+    static std::vector<PlanePolygon> drop(std::vector<PlanePolygon> &polygons,
+                                          const std::function<bool(int, int)> &hides);
 };

@@ -28,7 +28,8 @@ HoleArrangement takersBy(const RendererHoleRule &rule, const std::vector<PlanePo
     for (size_t i = 0; i < polygons.size(); ++i) {
         for (const PlaneRing &hole : polygons[i].holes) {
             arrangement.takers.push_back(rule.taker(hole.data(), hole.size(), ringArea(hole)));
-            arrangement.misplaced += arrangement.takers.back() == static_cast<int>(i) ? 0 : 1;
+            if (arrangement.takers.back() != static_cast<int>(i))
+                arrangement.misplaced.push_back(polygons[i].record);
         }
     }
     return arrangement;
@@ -117,7 +118,7 @@ HoleArrangement HoleArrangement::arrange(std::vector<PlanePolygon> &polygons)
     for (int round = 0;; ++round) {
         const RendererHoleRule rule(outersOf(polygons));
         HoleArrangement arrangement = takersBy(rule, polygons);
-        if (arrangement.misplaced == 0 || round == maxRounds
+        if (arrangement.misplaced.empty() || round == maxRounds
             || !join(polygons, joinsFor(polygons, rule, arrangement.takers)))
             return arrangement;
     }

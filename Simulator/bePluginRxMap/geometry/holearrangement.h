@@ -9,8 +9,8 @@
 struct HoleArrangement {
     /// For each hole, polygon by polygon: the place of the polygon from which it is cut, or RendererHoleRule::nowhere.
     std::vector<int> takers;
-    /// Holes that stay in the wrong place.
-    int misplaced = 0;
+    /// For each hole that stays in the wrong place its record.
+    std::vector<int> misplaced;
 
     /// Joins holes of `polygons` to their outer rings where another polygon would lose them: the hole itself, or those
     /// in which its polygon lies.

@@ -78,7 +78,7 @@ void RingRepair::appendRepaired(const PlanePolygon &polygon, Outcome &outcome) c
 {
     const std::vector<PlanePolygon> parts = geos.polygons(geos.repaired(polygon, gridSize), polygon.record);
     if (parts.empty())
-        ++outcome.dropped;
+        outcome.dropped.push_back(polygon.record);
     outcome.polygons.insert(outcome.polygons.end(), parts.begin(), parts.end());
 }
 
@@ -94,18 +94,18 @@ size_t RingRepair::append(const RawPrescription &map, const std::vector<double> 
         if (hole.size() >= 3)
             polygon.holes.push_back(std::move(hole));
         else
-            ++outcome.dropped;
+            outcome.dropped.push_back(polygon.record);
     }
     const bool isShort = polygon.holes.empty() && polygon.outer.size() <= shortRing;
     if (polygon.outer.size() < 3)
-        ++outcome.dropped;
+        outcome.dropped.push_back(polygon.record);
     else if ((isShort && isSimpleRing(polygon.outer)) || geos.isValid(geos.polygon(polygon.outer, polygon.holes)))
         outcome.polygons.push_back(std::move(polygon));
     else if (RingCrossings::count(polygon, mostCrossings) > mostCrossings)
         outcome.tangled.push_back(polygon.record);
     else {
         if (!isValidInFile(map, firstRing, end))
-            ++outcome.repaired;
+            outcome.repaired.push_back(polygon.record);
         appendRepaired(polygon, outcome);
     }
     return end;

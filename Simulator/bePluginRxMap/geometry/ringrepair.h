@@ -16,10 +16,10 @@ class RingRepair {
 public:
     struct Outcome {
         std::vector<PlanePolygon> polygons;
-        /// Polygons whose rings cross or touch themselves or each other in the file.
-        int repaired = 0;
-        /// Rings that enclose nothing on the grid, or that could not be repaired.
-        int dropped = 0;
+        /// For each polygon whose rings cross or touch themselves or each other in the file its record.
+        std::vector<int> repaired;
+        /// For each ring that encloses nothing on the grid, or that could not be repaired, its record.
+        std::vector<int> dropped;
         /// Records of the polygons that were left out because their rings meet more than `mostCrossings` times.
         std::vector<int> tangled;
     };

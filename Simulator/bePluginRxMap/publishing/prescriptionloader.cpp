@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <iterator>
 
 namespace {
 
@@ -20,6 +21,8 @@ constexpr double shareOfReading = 0.6;
 constexpr double shareOfPlacing = 0.1;
 constexpr double shareOfRepair = 0.2;
 constexpr size_t ringsPerReport = 256;
+
+using Kind = MapFinding::Kind;
 
 QString tangleText(int record)
 {
@@ -38,21 +41,20 @@ PrescriptionLoader::PrescriptionLoader(const LoadRequest &loadRequest, const std
 {
 }
 
+void PrescriptionLoader::tell(MapFinding::Kind kind, const QString &text, int record)
+{
+    MapFinding finding;
+    finding.kind = kind;
+    finding.text = text;
+    if (record >= 0)
+        finding.records.append(record);
+    findings->add(finding);
+}
+
 bool PrescriptionLoader::fail(const QString &text)
 {
     report->error = QStringLiteral("%1: %2").arg(request.path, text);
     return false;
-}
-
-void PrescriptionLoader::warn(const QString &text)
-{
-    report->warnings.append(QStringLiteral("%1: %2").arg(request.path, text));
-}
-
-void PrescriptionLoader::warnCount(int count, const QString &one, const QString &many)
-{
-    if (count > 0)
-        warn(count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(count).arg(many));
 }
 
 std::unique_ptr<LoadedMap> PrescriptionLoader::load()
@@ -60,6 +62,7 @@ std::unique_ptr<LoadedMap> PrescriptionLoader::load()
     auto map = std::make_unique<LoadedMap>();
     report = &map->report;
     report->path = request.path;
+    findings.emplace(*report);
     for (const MachineProduct &product : request.products)
         map->productNames.append(product.name.isEmpty() ? product.rateCalName : product.name);
     try {
@@ -86,7 +89,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     if (!policy.refusal().isEmpty())
         return fail(policy.refusal());
     for (const QString &warning : policy.warnings())
-        warn(warning);
+        findings->remark(warning);
     PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, ColumnPolicy::isWorthReading,
                               reading);
     if (!reader.read(source))
@@ -100,7 +103,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     dropRecordsWithoutRate();
     countRings(map);
     dropHidden();
-    warnOfGaps();
+    tellGaps();
     if (!arrange())
         return false;
     makeChain(map);
@@ -113,17 +116,17 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
 bool PrescriptionLoader::place(LoadedMap &map)
 {
     if (source.rings.empty()) {
-        if (source.otherRecords > 0)
+        if (!source.otherRecords.empty())
             return fail(QStringLiteral("holds points or lines, not polygons"));
-        return fail(source.notFiniteRecords > 0 ? QStringLiteral("holds no polygon with finite coordinates")
-                                                : QStringLiteral("holds no polygon"));
+        return fail(source.notFiniteRecords.empty() ? QStringLiteral("holds no polygon")
+                                                    : QStringLiteral("holds no polygon with finite coordinates"));
     }
     QString reason;
     GeographicExtent extent;
     if (!LocalPlane::locate(source, extent, reason))
         return fail(reason);
     if (!source.reference)
-        warn(source.lackOfReference + QStringLiteral("; taken as WGS 84"));
+        tell(Kind::ReferenceSystem, source.lackOfReference + QStringLiteral("; taken as WGS 84"));
     const double longitude = 0.5 * (extent.west + extent.east);
     const double latitude = 0.5 * (extent.south + extent.north);
     const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
@@ -131,8 +134,8 @@ bool PrescriptionLoader::place(LoadedMap &map)
     });
     map.plane = near == planes.end() ? LocalPlane(longitude, latitude) : *near;
     if (near == planes.end() && !planes.empty())
-        warn(QStringLiteral("lies %1 km from what is loaded and gets a plane of its own")
-                 .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
+        findings->remark(QStringLiteral("lies %1 km from what is loaded and gets a plane of its own")
+                             .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
     if (!map.plane.project(source, xs, ys, reason))
         return fail(reason);
     map.report.origin = QPointF(map.plane.longitude(), map.plane.latitude());
@@ -161,11 +164,17 @@ bool PrescriptionLoader::repairRings()
         control.report(shareOfReading + shareOfPlacing + shareOfRepair * static_cast<double>(ring) / rings);
     }
     polygons = std::move(outcome.polygons);
-    report->repaired = outcome.repaired;
-    warnCount(source.droppedRings + outcome.dropped, QStringLiteral("ring that encloses nothing was left out"),
-              QStringLiteral("rings that enclose nothing were left out"));
+    report->repaired = static_cast<int>(outcome.repaired.size());
+    std::vector<int> dropped = source.droppedRings;
+    dropped.insert(dropped.end(), outcome.dropped.begin(), outcome.dropped.end());
+    findings->addCounted(Kind::Skipped, dropped,
+                         {QStringLiteral("ring that encloses nothing was left out"),
+                          QStringLiteral("rings that enclose nothing were left out")});
     for (const int record : outcome.tangled)
-        warn(tangleText(record));
+        tell(Kind::Skipped, tangleText(record), record);
+    findings->addCounted(Kind::Repaired, outcome.repaired,
+                         {QStringLiteral("polygon had to be repaired"), QStringLiteral("polygons had to be repaired")},
+                         polygons);
     if (polygons.empty() && !outcome.tangled.empty())
         return fail(tangleText(outcome.tangled.front()));
     return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
@@ -174,8 +183,8 @@ bool PrescriptionLoader::repairRings()
 bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 {
     const ColumnPolicy::Decision decision = policy.decide(source, polygons);
-    for (const QString &warning : decision.warnings)
-        warn(warning);
+    for (const MapFinding &finding : decision.findings)
+        findings->add(finding);
     if (!decision.error.isEmpty())
         return fail(decision.error);
     map.report.sources = decision.sources;
@@ -191,30 +200,27 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 
 void PrescriptionLoader::dropRecordsWithoutRate()
 {
-    int last = -1;
-    for (const PlanePolygon &polygon : polygons) {
-        if (polygon.record != last && rates.hasNone(polygon.record))
-            ++recordsWithoutRate;
-        last = polygon.record;
-    }
-    polygons.erase(std::remove_if(polygons.begin(), polygons.end(),
-                                  [this](const PlanePolygon &polygon) { return rates.hasNone(polygon.record); }),
-                   polygons.end());
+    const auto first = std::stable_partition(polygons.begin(), polygons.end(), [this](const PlanePolygon &polygon) {
+        return !rates.hasNone(polygon.record);
+    });
+    withoutRate.assign(std::make_move_iterator(first), std::make_move_iterator(polygons.end()));
+    polygons.erase(first, polygons.end());
 }
 
-void PrescriptionLoader::warnOfGaps()
+void PrescriptionLoader::tellGaps()
 {
     for (size_t i = 0; i < rates.mappings(); ++i) {
-        int gaps = 0;
-        int last = -1;
+        std::vector<int> gaps;
         for (const PlanePolygon &polygon : polygons) {
-            if (polygon.record != last && std::isnan(rates.at(polygon.record, i)))
-                ++gaps;
-            last = polygon.record;
+            const bool isKnown = !gaps.empty() && gaps.back() == polygon.record;
+            if (!isKnown && std::isnan(rates.at(polygon.record, i)))
+                gaps.push_back(polygon.record);
         }
         const QString column = report->columns.at(static_cast<int>(i));
-        warnCount(gaps, QStringLiteral("record has no rate in column \"%1\"").arg(column),
-                  QStringLiteral("records have no rate in column \"%1\"").arg(column));
+        findings->addCounted(Kind::Skipped, gaps,
+                             {QStringLiteral("record has no rate in column \"%1\"").arg(column),
+                              QStringLiteral("records have no rate in column \"%1\"").arg(column)},
+                             polygons);
     }
 }
 
@@ -238,9 +244,14 @@ void PrescriptionLoader::dropHidden()
         }
         return true;
     };
-    warnCount(DuplicatePolygons::drop(polygons, hides),
-              QStringLiteral("polygon is hidden under a later one of the same shape"),
-              QStringLiteral("polygons are hidden under later ones of the same shape"));
+    std::vector<PlanePolygon> hidden = DuplicatePolygons::drop(polygons, hides);
+    std::vector<int> records;
+    for (const PlanePolygon &polygon : hidden)
+        records.push_back(polygon.record);
+    findings->addCounted(Kind::Duplicate, records,
+                         {QStringLiteral("polygon is hidden under a later one of the same shape"),
+                          QStringLiteral("polygons are hidden under later ones of the same shape")},
+                         hidden);
 }
 
 bool PrescriptionLoader::arrange()
@@ -250,8 +261,9 @@ bool PrescriptionLoader::arrange()
     if (control.isCancelled())
         return fail(QStringLiteral("loading was cancelled"));
     arrangement = HoleArrangement::arrange(polygons);
-    warnCount(arrangement.misplaced, QStringLiteral("hole cannot be drawn as one"),
-              QStringLiteral("holes cannot be drawn as such"));
+    findings->addCounted(
+        Kind::LooseHole, arrangement.misplaced,
+        {QStringLiteral("hole cannot be drawn as one"), QStringLiteral("holes cannot be drawn as such")});
     return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
 }
 
@@ -278,16 +290,24 @@ void PrescriptionLoader::reportCounts(LoadedMap &map)
 {
     map.report.polygons = static_cast<int>(map.chain->size());
     map.report.bounds = map.chain->bounds();
-    warnCount(source.emptyRecords, QStringLiteral("record without geometry was skipped"),
-              QStringLiteral("records without geometry were skipped"));
-    warnCount(source.otherRecords, QStringLiteral("record that is no polygon was skipped"),
-              QStringLiteral("records that are no polygons were skipped"));
-    warnCount(source.notFiniteRecords, QStringLiteral("record with a coordinate that is not finite was skipped"),
-              QStringLiteral("records with a coordinate that is not finite were skipped"));
-    warnCount(recordsWithoutRate, QStringLiteral("record without a rate was skipped"),
-              QStringLiteral("records without a rate were skipped"));
-    warnCount(map.report.repaired, QStringLiteral("polygon had to be repaired"),
-              QStringLiteral("polygons had to be repaired"));
+    const auto tellSkipped = [this](const std::vector<int> &records, const QString &one, const QString &many) {
+        findings->addCounted(Kind::Skipped, records, {one, many});
+    };
+    tellSkipped(source.emptyRecords, QStringLiteral("record without geometry was skipped"),
+                QStringLiteral("records without geometry were skipped"));
+    tellSkipped(source.otherRecords, QStringLiteral("record that is no polygon was skipped"),
+                QStringLiteral("records that are no polygons were skipped"));
+    tellSkipped(source.notFiniteRecords, QStringLiteral("record with a coordinate that is not finite was skipped"),
+                QStringLiteral("records with a coordinate that is not finite were skipped"));
+    std::vector<int> records;
+    for (const PlanePolygon &polygon : withoutRate) {
+        if (records.empty() || records.back() != polygon.record)
+            records.push_back(polygon.record);
+    }
+    findings->addCounted(
+        Kind::Skipped, records,
+        {QStringLiteral("record without a rate was skipped"), QStringLiteral("records without a rate were skipped")},
+        withoutRate);
     for (const QString &warning : source.warnings)
-        warn(warning);
+        findings->remark(warning);
 }

@@ -5,10 +5,12 @@
 #include "holearrangement.h"
 #include "loadcontrol.h"
 #include "loadedmap.h"
+#include "loadfindings.h"
 #include "ratetable.h"
 #include "rawprescription.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// Turns a prescription file into a map that is ready to be published. Blocks and touches nothing that is shared, so it
@@ -24,8 +26,7 @@ public:
 private:
     bool loadInto(LoadedMap &map);
     bool fail(const QString &text);
-    void warn(const QString &text);
-    void warnCount(int count, const QString &one, const QString &many);
+    void tell(MapFinding::Kind kind, const QString &text, int record = -1);
 
     bool place(LoadedMap &map);
     bool repairRings();
@@ -33,7 +34,7 @@ private:
     void dropRecordsWithoutRate();
     void dropHidden();
     /// Tells of records that have a rate, but not in every column.
-    void warnOfGaps();
+    void tellGaps();
     void countRings(LoadedMap &map) const;
     bool arrange();
     void makeChain(LoadedMap &map) const;
@@ -45,6 +46,7 @@ private:
     std::vector<LocalPlane> planes;
     const LoadControl &control;
     LoadReport *report = nullptr;
+    std::optional<LoadFindings> findings;
 
     RawPrescription source;
     std::vector<double> xs;
@@ -52,5 +54,6 @@ private:
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;
     RateTable rates;
-    int recordsWithoutRate = 0;
+    /// What has no rate in any column, and is left out.
+    std::vector<PlanePolygon> withoutRate;
 };

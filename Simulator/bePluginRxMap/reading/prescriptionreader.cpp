@@ -25,14 +25,14 @@ bool isRate(double value)
 }
 
 /// The number that stands as text; not a number, and counted, where it is in another unit than those before.
-double readText(const OGRFeature &feature, SourceColumn &column)
+double readText(const OGRFeature &feature, int record, SourceColumn &column)
 {
     const QString text = QString::fromUtf8(feature.GetFieldAsString(column.field));
     const TextRate rate = TextRate::parse(text);
     if (column.unit.isEmpty())
         column.unit = rate.unit;
     if (!rate.isReadable || (!rate.unit.isEmpty() && rate.unit != column.unit)) {
-        ++column.unreadable;
+        column.unreadable.push_back(record);
         return notANumber;
     }
     if (rate.isAmbiguous && column.ambiguous.isEmpty())
@@ -296,9 +296,9 @@ void PrescriptionReader::readValues(const OGRFeature &feature, RawPrescription &
     for (SourceColumn &column : map.columns) {
         double value = notANumber;
         if (feature.IsFieldSetAndNotNull(column.field)) {
-            value = column.isText ? readText(feature, column) : feature.GetFieldAsDouble(column.field);
+            value = column.isText ? readText(feature, map.records, column) : feature.GetFieldAsDouble(column.field);
             if (!isRate(value) && !(column.isText && std::isnan(value)))
-                ++column.unreadable;
+                column.unreadable.push_back(map.records);
         }
         // The sum turns a negative zero into the plain one.
         column.values.push_back(isRate(value) ? value + 0.0 : notANumber);

@@ -22,9 +22,9 @@ struct SourceColumn {
     bool isInteger = false;
     /// One per record; not a number where the table has none, or one below zero.
     std::vector<double> values;
-    /// Text entries that are no number or in another unit than `unit`, and numbers that are no rate (below zero or not
-    /// finite).
-    int unreadable = 0;
+    /// Records whose entry is a text that is no number or in another unit than `unit`, or a number that is no rate
+    /// (below zero or not finite).
+    std::vector<int> unreadable;
     /// What follows the numbers that stand as text ("kg/ha"); empty when nothing does.
     QString unit;
     /// The first text whose comma may have been meant to set off thousands; empty when there is none.
@@ -70,9 +70,10 @@ struct RawPrescription {
     /// Said of the file where `reference` is null.
     QString lackOfReference = QStringLiteral("names no coordinate system");
     int records = 0;
-    int emptyRecords = 0;     ///< Without geometry, or with rings that enclose nothing only.
-    int otherRecords = 0;     ///< Points and lines.
-    int notFiniteRecords = 0; ///< With a coordinate that is not finite.
-    int droppedRings = 0;     ///< Rings of fewer than three different vertices.
+    // Records that were left out, and why.
+    std::vector<int> emptyRecords;     ///< Without geometry, or with rings that enclose nothing only.
+    std::vector<int> otherRecords;     ///< Points and lines.
+    std::vector<int> notFiniteRecords; ///< With a coordinate that is not finite.
+    std::vector<int> droppedRings;     ///< For each ring of fewer than three different vertices its record.
     QStringList warnings;
 };

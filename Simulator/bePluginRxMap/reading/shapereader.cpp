@@ -14,7 +14,7 @@ ShapeReader::ShapeReader(RawPrescription &map)
 void ShapeReader::read(const OGRGeometry *geometry)
 {
     if (geometry == nullptr || geometry->IsEmpty()) {
-        ++map.emptyRecords;
+        map.emptyRecords.push_back(map.records);
         return;
     }
     const size_t firstRing = map.rings.size();
@@ -24,11 +24,11 @@ void ShapeReader::read(const OGRGeometry *geometry)
     if (hasAreas && finite && map.rings.size() > firstRing)
         return;
     if (!hasAreas)
-        ++map.otherRecords;
+        map.otherRecords.push_back(map.records);
     else if (!finite)
-        ++map.notFiniteRecords;
+        map.notFiniteRecords.push_back(map.records);
     else
-        ++map.emptyRecords;
+        map.emptyRecords.push_back(map.records);
     map.rings.resize(firstRing);
     map.xs.resize(firstVertex);
     map.ys.resize(firstVertex);
@@ -72,7 +72,7 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
         if (isFinite(first) && !enclosesSomething(first)) {
             map.xs.resize(first);
             map.ys.resize(first);
-            ++map.droppedRings;
+            map.droppedRings.push_back(map.records);
             if (i < 0)
                 return;
             continue;

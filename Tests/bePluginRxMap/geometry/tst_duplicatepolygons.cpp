@@ -88,7 +88,7 @@ void DuplicatePolygonsTest::keepsTheLastOfEqualPolygons()
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(5, 0, 9)),
                                           polygonOf(2, square(0, 0, 9)), polygonOf(3, square(9, 9, 9)),
                                           polygonOf(4, square(0, 0, 9))};
-    QCOMPARE(DuplicatePolygons::drop(polygons, always), 2);
+    QCOMPARE(int(DuplicatePolygons::drop(polygons, always).size()), 2);
     QCOMPARE(recordsOf(polygons), QList<int>({1, 3, 4}));
 }
 
@@ -116,7 +116,7 @@ void DuplicatePolygonsTest::sees()
                                          {polygonOf(0, big, {a, b}), polygonOf(1, big, {b, turned(a)})},
                                          {polygonOf(0, big, {a, b}), polygonOf(1, big, {a, c})},
                                          {polygonOf(0, triangle), polygonOf(1, otherTriangle)}};
-    QCOMPARE(DuplicatePolygons::drop(pairs[which], always), dropped);
+    QCOMPARE(int(DuplicatePolygons::drop(pairs[which], always).size()), dropped);
     QCOMPARE(pairs[which].back().record, 1);
 }
 
@@ -124,9 +124,9 @@ void DuplicatePolygonsTest::asksWhetherTheLaterOneMayStand()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, square(0, 0, 9)),
                                           polygonOf(2, square(0, 0, 9))};
-    const int dropped =
+    const std::vector<PlanePolygon> dropped =
         DuplicatePolygons::drop(polygons, [](int later, int earlier) { return later == 2 && earlier == 0; });
-    QCOMPARE(dropped, 1);
+    QCOMPARE(recordsOf(dropped), QList<int>({0}));
     QCOMPARE(recordsOf(polygons), QList<int>({1, 2}));
 }
 
@@ -135,7 +135,7 @@ void DuplicatePolygonsTest::takesNegativeZeroForZero()
     PlaneRing other = square(0, 0, 9);
     other.front() = {-0.0, -0.0};
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 9)), polygonOf(1, other)};
-    QCOMPARE(DuplicatePolygons::drop(polygons, always), 1);
+    QCOMPARE(int(DuplicatePolygons::drop(polygons, always).size()), 1);
 }
 
 void DuplicatePolygonsTest::findsWhatComparingEachPairFinds()
@@ -149,7 +149,7 @@ void DuplicatePolygonsTest::findsWhatComparingEachPairFinds()
             polygons.push_back(polygonOf(record, random() % 2 == 0 ? ring : turned(ring)));
         }
         const QList<int> expected = recordsLeftByPairs(polygons, hides);
-        QCOMPARE(DuplicatePolygons::drop(polygons, hides), 40 - expected.size());
+        QCOMPARE(int(DuplicatePolygons::drop(polygons, hides).size()), 40 - expected.size());
         QCOMPARE(recordsOf(polygons), expected);
     }
 }

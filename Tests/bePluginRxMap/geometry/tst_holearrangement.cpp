@@ -56,7 +56,7 @@ void HoleArrangementTest::leavesWhatIsRightAsItIs()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {square(10, 10, 20), square(50, 50, 20)}),
                                           polygonOf(1, square(10, 10, 20)), polygonOf(2, square(200, 0, 100))};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1, 2}));
     QCOMPARE(holesOf(polygons), size_t(2));
 }
@@ -92,7 +92,7 @@ void HoleArrangementTest::joinsTheHolesOfNestedIslands()
         polygons.push_back(
             polygonOf(i, square(inset, inset, 300 - 2 * inset), {square(inset + 5, inset + 5, 290 - 2 * inset)}));
     }
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     // Nothing lies in the innermost hole.
     QCOMPARE(holesOf(polygons), size_t(1));
     for (int i = 0; i + 1 < islands; ++i) {
@@ -106,7 +106,7 @@ void HoleArrangementTest::keepsTheOrderOfOverlappingPolygons()
     // The second lies on the first and would lose its hole to it; it is to stay the later one.
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200)),
                                           polygonOf(1, square(50, 50, 100), {square(80, 80, 40)})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
     QCOMPARE(holesOf(polygons), size_t(0));
     QCOMPARE(ringArea(polygons[1].outer), 10000.0 - 1600.0);
@@ -118,14 +118,14 @@ void HoleArrangementTest::keepsTheOrderAroundAnIsland()
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200), {square(40, 40, 100)}),
                                           polygonOf(1, square(150, 150, 100)),
                                           polygonOf(2, square(40, 40, 100), {square(60, 60, 20)})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1, 2}));
 }
 
 void HoleArrangementTest::joinsAHoleThatIsNearlyAsLargeAsItsRing()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 10), {square(0.125, 0.125, 9.75)})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(holesOf(polygons), size_t(0));
     QCOMPARE(ringArea(polygons[0].outer), 100.0 - 9.75 * 9.75);
 }
@@ -133,14 +133,14 @@ void HoleArrangementTest::joinsAHoleThatIsNearlyAsLargeAsItsRing()
 void HoleArrangementTest::joinsAHoleThatTouchesAnEdgeItWouldFallOutOf()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {{{100, 50}, {50, 80}, {50, 20}}})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(holesOf(polygons), size_t(0));
 }
 
 void HoleArrangementTest::leavesAHoleThatTouchesAnEdgeItLiesWithin()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {{{0, 50}, {50, 80}, {50, 20}}})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(holesOf(polygons), size_t(1));
 }
 
@@ -148,7 +148,7 @@ void HoleArrangementTest::joinsHolesOfTwoPolygonsThatEachWouldTake()
 {
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 100), {square(60, 60, 20)}),
                                           polygonOf(1, square(5, 5, 100), {square(20, 20, 20)})};
-    QCOMPARE(HoleArrangement::arrange(polygons).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
     QCOMPARE(ringArea(polygons[1].outer), 9600.0);
     QCOMPARE(polygons[0].holes.size(), size_t(1));
@@ -157,7 +157,7 @@ void HoleArrangementTest::joinsHolesOfTwoPolygonsThatEachWouldTake()
 void HoleArrangementTest::arrangesNoPolygonsAtAll()
 {
     std::vector<PlanePolygon> none;
-    QCOMPARE(HoleArrangement::arrange(none).misplaced, 0);
+    QVERIFY(HoleArrangement::arrange(none).misplaced.empty());
 }
 
 RXMAP_TEST(HoleArrangementTest, Core)

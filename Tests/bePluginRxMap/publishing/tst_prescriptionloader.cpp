@@ -19,6 +19,7 @@ private Q_SLOTS:
     void saysThatACoordinateSystemCannotBeRead_data();
     void saysThatACoordinateSystemCannotBeRead();
     void repairsAndCountsABrokenRing();
+    void saysWhereARepairIs();
     void skipsAndCountsRecordsWithoutRate();
     void keepsAPolygonThatHasARateInOneColumn();
     void skipsRatesTooLargeForThePublishedNumbers();
@@ -172,6 +173,18 @@ void PrescriptionLoaderTest::repairsAndCountsABrokenRing()
     QVERIFY(map->report.warnings.first().startsWith(fixture("bow-tie.geojson") + QStringLiteral(": 1 polygon had")));
 }
 
+void PrescriptionLoaderTest::saysWhereARepairIs()
+{
+    const auto map = load(fixture("bow-tie.geojson"));
+    QCOMPARE(map->report.findings.size(), 1);
+    const MapFinding &finding = map->report.findings.first();
+    QCOMPARE(finding.kind, MapFinding::Kind::Repaired);
+    QCOMPARE(map->report.warnings.first(), fixture("bow-tie.geojson: ") + finding.text);
+    QCOMPARE(finding.records, QList<int>({0}));
+    QVERIFY2(std::fabs(*finding.area / 5000.0 - 1.0) < 0.002, qPrintable(QString::number(*finding.area)));
+    QVERIFY(finding.extent.contains(*finding.place));
+}
+
 void PrescriptionLoaderTest::skipsAndCountsRecordsWithoutRate()
 {
     const auto map = load(fixture("text-rates.geojson"));
@@ -187,9 +200,9 @@ void PrescriptionLoaderTest::keepsAPolygonThatHasARateInOneColumn()
     QCOMPARE(map->report.outers, 3);
     const QString file = fixture("partly-without-rate.geojson");
     QCOMPARE(map->report.warnings,
-             QStringList({file + QStringLiteral(": 1 record has no rate in column \"seed_rate\""),
-                          file + QStringLiteral(": 1 record has no rate in column \"fert_rate\""),
-                          file + QStringLiteral(": 1 record without a rate was skipped")}));
+             QStringList({file + QStringLiteral(": 1 record has no rate in column \"seed_rate\" (record 1)"),
+                          file + QStringLiteral(": 1 record has no rate in column \"fert_rate\" (record 0)"),
+                          file + QStringLiteral(": 1 record without a rate was skipped (record 3)")}));
     const RX_POLYGON *first = map->chain->first();
     QCOMPARE(first->rates[0], 10.0F);
     QVERIFY(std::isnan(first->rates[1]));

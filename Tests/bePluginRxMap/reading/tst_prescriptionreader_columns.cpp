@@ -37,7 +37,7 @@ void PrescriptionReaderColumnsTest::readsTextAsNumbersInTheCLocale()
     QCOMPARE(column.values[1], 7.0);
     QVERIFY(std::isnan(column.values[2]));
     QVERIFY(std::isnan(column.values[3]));
-    QCOMPARE(column.unreadable, 1);
+    QCOMPARE(column.unreadable.size(), size_t(1));
 }
 
 void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
@@ -56,7 +56,7 @@ void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
     QCOMPARE(column.ambiguous, QStringLiteral("32,000 kg/ha"));
     // Another unit than that of the records before.
     QVERIFY(std::isnan(column.values[3]));
-    QCOMPARE(column.unreadable, 1);
+    QCOMPARE(column.unreadable.size(), size_t(1));
 }
 
 void PrescriptionReaderColumnsTest::readsTextsThatAreTheSameInEveryRecord()
@@ -97,7 +97,7 @@ void PrescriptionReaderColumnsTest::takesNegativeAndEndlessNumbersForNoRate()
     QVERIFY(read(path("a.gpkg")));
     QVERIFY(std::isnan(map.columns[0].values[0]));
     QVERIFY(std::isnan(map.columns[0].values[1]));
-    QCOMPARE(map.columns[0].unreadable, 2);
+    QCOMPARE(map.columns[0].unreadable.size(), size_t(2));
 }
 
 void PrescriptionReaderColumnsTest::takesANegativeZeroForZero()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/mapfinding.h"
 #include "Backend/ratesource.h"
 
 #include "Framework/rxpolygon.h"
@@ -41,8 +42,10 @@ struct LoadReport {
     int repaired = 0;
     /// Records left out: empty geometry, or no rate in any column.
     int skipped = 0;
-    /// One line each, file named.
+    /// One line each, file named: what the findings say, and remarks that are none.
     QStringList warnings;
+    /// What the load found to be wrong with the file, or took for granted.
+    QList<MapFinding> findings;
     /// Extent in the local plane, metres: left = least x, top = least y.
     QRectF bounds;
     /// Where the local plane touches the earth, degrees of longitude and latitude. Maps of one origin share a plane.

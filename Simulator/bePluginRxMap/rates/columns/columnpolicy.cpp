@@ -39,18 +39,31 @@ bool areEmpty(const QStringList &names)
     return names.join(QString()).isEmpty();
 }
 
+MapFinding finding(MapFinding::Kind kind, const QString &text)
+{
+    MapFinding result;
+    result.kind = kind;
+    result.text = text;
+    return result;
+}
+
 /// Says which of the column's entries are no rates, or may mean something else.
 void tellEntries(const SourceColumn &column, ColumnPolicy::Decision &decision)
 {
-    if (column.unreadable == 1)
-        decision.warnings.append(
-            QStringLiteral("1 entry of column \"%1\" is no rate and was left out").arg(column.name));
-    else if (column.unreadable > 1)
-        decision.warnings.append(QStringLiteral("%1 entries of column \"%2\" are no rates and were left out")
-                                     .arg(QString::number(column.unreadable), column.name));
+    const size_t count = column.unreadable.size();
+    if (count > 0) {
+        const QString text = count == 1 ? QStringLiteral("%1 entry of column \"%2\" is no rate and was left out")
+                                        : QStringLiteral("%1 entries of column \"%2\" are no rates and were left out");
+        MapFinding told = finding(MapFinding::Kind::NotANumber, text.arg(QString::number(count), column.name));
+        for (size_t i = 0; i < std::min(count, size_t(MapFinding::mostRecords)); ++i)
+            told.records.append(column.unreadable[i]);
+        decision.findings.append(told);
+    }
     if (!column.ambiguous.isEmpty())
-        decision.warnings.append(QStringLiteral("the comma in \"%1\" of column \"%2\" is taken to set off decimals")
-                                     .arg(column.ambiguous, column.name));
+        decision.findings.append(
+            finding(MapFinding::Kind::NotANumber,
+                    QStringLiteral("the comma in \"%1\" of column \"%2\" is taken to set off decimals")
+                        .arg(column.ambiguous, column.name)));
 }
 
 } // namespace
@@ -161,7 +174,7 @@ void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColum
     else if (decision.feeds.empty())
         decision.error = line;
     else if (!unfit.isEmpty())
-        decision.warnings.append(line);
+        decision.findings.append(finding(MapFinding::Kind::UnitMismatch, line));
 }
 
 bool ColumnPolicy::fits(const LikelyColumn &column, int product) const
@@ -182,16 +195,21 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     RateSource told{column.name, unit.unit.isKnown() ? unit.unit.text() : base, unit.from, feed.product + 1, true};
     told.isSure = !names.isEmpty() || ColumnName(column.name).namesRate();
     decision.sources.append(told);
-    const auto warn = [&decision](const QString &text) { decision.warnings.append(text); };
+    using Kind = MapFinding::Kind;
+    const auto tell = [&decision](Kind kind, const QString &text) { decision.findings.append(finding(kind, text)); };
     if (!told.isSure)
-        warn(QStringLiteral("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
+        tell(Kind::GuessedColumn,
+             QStringLiteral("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
     if (!unit.unknownText.isEmpty())
-        warn(
+        tell(
+            Kind::UnitUnknown,
             QStringLiteral("\"%1\", given for column \"%2\", is no unit of a rate").arg(unit.unknownText, column.name));
     if (!unit.unit.isKnown() && !base.isEmpty())
-        warn(QStringLiteral("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));
+        tell(Kind::UnitUnknown,
+             QStringLiteral("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));
     else if (!unit.unit.fits(product.kind))
-        warn(QStringLiteral("column \"%1\" is in %2, which does not fit product %3 (%4); taken as %5")
+        tell(Kind::UnitMismatch,
+             QStringLiteral("column \"%1\" is in %2, which does not fit product %3 (%4); taken as %5")
                  .arg(column.name, unit.unit.text(), QString::number(told.product), product.name, base));
 }
 

@@ -2,6 +2,7 @@
 
 #include "Backend/columnshares.h"
 #include "Backend/machineproduct.h"
+#include "Backend/mapfinding.h"
 #include "Backend/ratesource.h"
 #include "likelycolumns.h"
 #include "planering.h"
@@ -35,8 +36,8 @@ public:
         std::vector<Feed> feeds;
         /// One per feed.
         QList<RateSource> sources;
-        /// What was left out of the columns or taken for granted, without the file's name.
-        QStringList warnings;
+        /// What was left out of the columns or taken for granted.
+        QList<MapFinding> findings;
         /// Why nothing can be fed, without the file's name; empty when it can.
         QString error;
     };

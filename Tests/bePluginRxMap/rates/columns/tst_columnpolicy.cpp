@@ -4,19 +4,28 @@
 #include <cmath>
 
 Q_DECLARE_METATYPE(RateSource::UnitFrom)
+Q_DECLARE_METATYPE(MapFinding::Kind)
 
 namespace {
 
 const double none = std::nan("");
 const std::vector<double> anyRates = {5.0, 5.0, 6.0, 5.0};
 
-SourceColumn column(const QString &name, std::vector<double> values = anyRates, int unreadable = 0)
+SourceColumn column(const QString &name, std::vector<double> values = anyRates, std::vector<int> unreadable = {})
 {
     SourceColumn result;
     result.name = name;
     result.values = std::move(values);
-    result.unreadable = unreadable;
+    result.unreadable = std::move(unreadable);
     return result;
+}
+
+QStringList textsOf(const QList<MapFinding> &findings)
+{
+    QStringList texts;
+    for (const MapFinding &finding : findings)
+        texts.append(finding.text);
+    return texts;
 }
 
 /// A file of four records.
@@ -407,20 +416,27 @@ void ColumnPolicyTest::saysWhatItTakesForGranted_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isNamed");
     QTest::addColumn<QString>("beside");
-    QTest::addColumn<QStringList>("warnings");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QList<MapFinding::Kind>>("kinds");
+    using Kind = MapFinding::Kind;
+    using Kinds = QList<Kind>;
     const QString unknown = QStringLiteral("the unit of column \"%1\" is not known, taken as 1000/ha");
-    QTest::newRow("nothing") << "SEED_K_HA" << false << "" << QStringList();
-    QTest::newRow("unknown unit") << "rate" << false << "" << QStringList(unknown.arg("rate"));
+    QTest::newRow("nothing") << "SEED_K_HA" << false << "" << QStringList() << Kinds();
+    QTest::newRow("unknown unit") << "rate" << false << "" << QStringList(unknown.arg("rate"))
+                                  << Kinds{Kind::UnitUnknown};
     QTest::newRow("unit that is none") << "rate" << false << "bags"
                                        << QStringList({"\"bags\", given for column \"rate\", is no unit of a rate",
-                                                       unknown.arg("rate")});
+                                                       unknown.arg("rate")})
+                                       << Kinds{Kind::UnitUnknown, Kind::UnitUnknown};
     QTest::newRow("guess") << "thing" << false << ""
                            << QStringList({"column \"thing\" is a guess: nothing in its name says that it holds rates",
-                                           unknown.arg("thing")});
-    QTest::newRow("named") << "thing" << true << "" << QStringList(unknown.arg("thing"));
+                                           unknown.arg("thing")})
+                           << Kinds{Kind::GuessedColumn, Kind::UnitUnknown};
+    QTest::newRow("named") << "thing" << true << "" << QStringList(unknown.arg("thing")) << Kinds{Kind::UnitUnknown};
     QTest::newRow("unit that does not fit")
         << "SEED_kg_ha" << true << ""
-        << QStringList("column \"SEED_kg_ha\" is in kg/ha, which does not fit product 1 (Seed); taken as 1000/ha");
+        << QStringList("column \"SEED_kg_ha\" is in kg/ha, which does not fit product 1 (Seed); taken as 1000/ha")
+        << Kinds{Kind::UnitMismatch};
 }
 
 void ColumnPolicyTest::saysWhatItTakesForGranted()
@@ -431,7 +447,12 @@ void ColumnPolicyTest::saysWhatItTakesForGranted()
     RawPrescription map = tableOf({name});
     map.texts.push_back({QStringLiteral("Unit"), 1, beside, false});
     const ColumnPolicy policy(machine().mid(0, 1), isNamed ? QStringList(name) : QStringList());
-    QTEST(policy.decide(map, polygons()).warnings, "warnings");
+    const QList<MapFinding> findings = policy.decide(map, polygons()).findings;
+    QTEST(textsOf(findings), "texts");
+    QList<MapFinding::Kind> kinds;
+    for (const MapFinding &finding : findings)
+        kinds.append(finding.kind);
+    QTEST(kinds, "kinds");
 }
 
 void ColumnPolicyTest::namesColumnsThatFitNoProduct()
@@ -442,7 +463,8 @@ void ColumnPolicyTest::namesColumnsThatFitNoProduct()
     QCOMPARE(ColumnPolicy(seed, {}).decide(tableOf({"FERT_kg_ha"}), polygons()).error, line);
     const auto some = ColumnPolicy(seed, {}).decide(tableOf({"FERT_kg_ha", "SEED_K_HA"}), polygons());
     QCOMPARE(some.error, QString());
-    QCOMPARE(some.warnings, QStringList(line));
+    QCOMPARE(textsOf(some.findings), QStringList(line));
+    QCOMPARE(some.findings.first().kind, MapFinding::Kind::UnitMismatch);
 }
 
 void ColumnPolicyTest::refusesColumnsWithoutRates_data()
@@ -466,19 +488,26 @@ void ColumnPolicyTest::refusesColumnsWithoutRates()
 
 void ColumnPolicyTest::tellsOfEntriesThatAreNoRates_data()
 {
-    QTest::addColumn<int>("unreadable");
-    QTest::addColumn<QStringList>("warnings");
-    QTest::newRow("none") << 0 << QStringList();
-    QTest::newRow("one") << 1 << QStringList("1 entry of column \"rate\" is no rate and was left out");
-    QTest::newRow("two") << 2 << QStringList("2 entries of column \"rate\" are no rates and were left out");
+    QTest::addColumn<QList<int>>("unreadable");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("none") << QList<int>() << QStringList();
+    QTest::newRow("one") << QList<int>({1}) << QStringList("1 entry of column \"rate\" is no rate and was left out");
+    QTest::newRow("two") << QList<int>({1, 2})
+                         << QStringList("2 entries of column \"rate\" are no rates and were left out");
 }
 
 void ColumnPolicyTest::tellsOfEntriesThatAreNoRates()
 {
-    QFETCH(int, unreadable);
-    const RawPrescription map = mapOf({column("rate", {1, none, none, 1}, unreadable), column("other", anyRates, 3)});
+    QFETCH(QList<int>, unreadable);
+    const RawPrescription map = mapOf({column("rate", {1, none, none, 1}, {unreadable.begin(), unreadable.end()}),
+                                       column("other", anyRates, {0, 1, 2})});
     const QList<MachineProduct> products{product("Anything", DbGroupProductGroupInfo::UnknownRate)};
-    QTEST(ColumnPolicy(products, {"rate"}).decide(map, polygons()).warnings, "warnings");
+    const QList<MapFinding> findings = ColumnPolicy(products, {"rate"}).decide(map, polygons()).findings;
+    QTEST(textsOf(findings), "texts");
+    if (!findings.isEmpty()) {
+        QCOMPARE(findings.first().kind, MapFinding::Kind::NotANumber);
+        QCOMPARE(findings.first().records, unreadable);
+    }
 }
 
 void ColumnPolicyTest::sharesNamedColumnsAmongFiles_data()

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Backend/loadreport.h"
+#include "planering.h"
+
+#include <vector>
+
+/// Enters what a load finds into its report. Whatever is found is a warning, too, so each is worded once.
+class LoadFindings {
+public:
+    /// A count in words: "1 ring was left out", "2 rings were left out".
+    struct Words {
+        QString one;
+        QString many;
+    };
+
+    /// `report` is not owned and outlives this; it names the file.
+    explicit LoadFindings(LoadReport &report);
+
+    /// A remark on the load, not on the map.
+    void remark(const QString &text);
+    void add(const MapFinding &finding);
+    /// One finding about all of these records, which it names; nothing where there are none. A record counts as often
+    /// as it stands there. `polygons`: where the records that are polygons lie.
+    void addCounted(MapFinding::Kind kind, const std::vector<int> &records, const Words &words,
+                    const std::vector<PlanePolygon> &polygons = {});
+
+private:
+    LoadReport &report;
+};
