@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aNewMapIsShownAtOnce();
     void aFailedLoadLeavesEverythingAsItWas();
     void theLookAheadIsSeenInTheRates();
+    void masterAndShutoffAreSeenInTheRates();
 
 private:
     /// Runs a script that uses check(condition, text); everything it complains of fails the test.
@@ -119,6 +120,12 @@ void TestOperatorScripts::theLookAheadIsSeenInTheRates()
     QFile record(folder.filePath(QStringLiteral("rest.csv")));
     QVERIFY(record.open(QIODevice::ReadOnly));
     QCOMPARE(record.readAll().count('\n'), 201);
+}
+
+void TestOperatorScripts::masterAndShutoffAreSeenInTheRates()
+{
+    runChecked(QStringLiteral("var zones = \"%1\";\n").arg(sourcePath("Tests/fixtures/three-zones.geojson"))
+               + scriptText(QStringLiteral("shut-off-on-the-ground.js")));
 }
 
 RXMAP_TEST(TestOperatorScripts, Widgets)
