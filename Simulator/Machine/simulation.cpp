@@ -40,6 +40,7 @@ bool Simulation::setTimeFactor(double newFactor)
     if (wall != nullptr)
         lastWall = wall->now();
     factor = newFactor;
+    Q_EMIT timeFactorChanged(factor);
     return true;
 }
 
@@ -49,9 +50,9 @@ void Simulation::step()
     for (size_t i = 0; i < actuators.size(); ++i)
         meanRates[i] = actuators[i].step(rateController->command(int(i) + 1), stepMs / 1000.0);
     clock.time += stepMs;
-    const QPointF before = vehicleModel->position();
+    lastStart = vehicleModel->pose();
     vehicleModel->advance();
-    const QPointF moved = vehicleModel->position() - before;
+    const QPointF moved = vehicleModel->position() - lastStart.place;
     if (vehicleModel->isWorking())
         worked += std::hypot(moved.x(), moved.y()) * vehicleModel->size().width;
     updateCommands();
@@ -82,8 +83,15 @@ void Simulation::catchUp()
         return;
     // What a terminal that was busy for long has missed is not made up for.
     constexpr qint64 maxMissed = 2000;
+    constexpr qint64 maxBusy = 50;
     const qint64 now = wall->now();
     const qint64 passed = std::min(now - lastWall, maxMissed);
     lastWall = now;
-    run(factor * double(passed) / 1000.0);
+    for (due += factor * double(passed); due >= stepMs; due -= stepMs) {
+        if (wall->now() - now > maxBusy) {
+            due = 0.0;
+            return;
+        }
+        step();
+    }
 }

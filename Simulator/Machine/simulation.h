@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actuator.h"
+#include "pose.h"
 #include "simulationclock.h"
 
 #include <QObject>
@@ -38,6 +39,8 @@ public:
     RateController *controller() const { return rateController.data(); }
     /// Square metres that the implement passed over while it was down.
     double workedArea() const { return worked; }
+    /// Where the last step began; it ended where the vehicle is.
+    const Pose &stepStart() const { return lastStart; }
     /// Of a product, by number from 1.
     Rates rates(int number) const;
     /// What the product's metering makes of a command in the end, base units.
@@ -58,10 +61,12 @@ public:
     void step();
     /// Lets that time pass at once, in whole steps; what is left over counts to the next.
     void run(double seconds);
-    /// Lets the time pass that has passed on the wall.
+    /// Lets the time pass that has passed on the wall, or as much of it as can be driven in a twentieth of a second: a
+    /// factor that the computer cannot keep up with is a smaller one in effect.
     void catchUp();
 
 Q_SIGNALS:
+    void timeFactorChanged(double factor);
     /// A step has passed.
     void stepped();
 
@@ -82,6 +87,7 @@ private:
     /// Milliseconds that are to pass and make no step yet.
     double due = 0.0;
     double worked = 0.0;
+    Pose lastStart;
     QScopedPointer<Vehicle> vehicleModel;
     QScopedPointer<RateController> rateController;
     std::vector<Actuator> actuators;

@@ -9,6 +9,7 @@ class TestSimulation : public TestBase {
 private Q_SLOTS:
     void timePassesInTenthsOfSeconds();
     void theWallsTimePassesByItsFactor();
+    void whatCannotBeDrivenInTimeIsNotMadeUpFor();
     void factorsOutOfRangeAreRefused();
 };
 
@@ -53,6 +54,22 @@ void TestSimulation::theWallsTimePassesByItsFactor()
     wall.time += 1000;
     simulation.catchUp();
     QCOMPARE(simulation.seconds(), 5.3);
+}
+
+void TestSimulation::whatCannotBeDrivenInTimeIsNotMadeUpFor()
+{
+    MachineBench bench;
+    HandClock wall;
+    Simulation simulation(&bench.machine, &wall);
+    simulation.setTimeFactor(50.0);
+    // Each step takes 5 ms of the wall's, during which 2.5 simulated ones would have to be driven.
+    connect(&simulation, &Simulation::stepped, [&wall] { wall.time += 5; });
+    wall.time += 2000;
+    simulation.catchUp();
+    QCOMPARE(simulation.seconds(), 1.1);
+    QCOMPARE(wall.time, qint64(7055));
+    simulation.catchUp();
+    QCOMPARE(simulation.seconds(), 2.2);
 }
 
 void TestSimulation::factorsOutOfRangeAreRefused()
