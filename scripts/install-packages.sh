@@ -6,7 +6,7 @@ packages=(
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
     libglu1-mesa-dev libgl1-mesa-dev libgl1-mesa-dri
     libgdal-dev libgeos-dev libboost-dev
-    librsvg2-bin fonts-liberation xvfb xauth x11-xkb-utils
+    librsvg2-bin help2man fonts-liberation xvfb xauth x11-xkb-utils
 )
 
 # install_packages [PACKAGE...]: those named, else all that building and running take.

@@ -1,6 +1,9 @@
-// What the terminal does, without an operator: run from the project's root, leaves its pictures in build/demo.
+// What the terminal does, without an operator.
 
-var map = terminal.open("Simulator/Resources/sample/sample-field.shp",
+var sample = "Simulator/Resources/sample/sample-field.shp";
+var pictures = "build/demo/";
+
+var map = terminal.open(sample,
                         {columns: ["SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"]});
 print("Opened " + map.group + ": " + map.outers + " polygons with " + map.holes + " holes, columns "
       + map.columns.join(", "));
@@ -23,8 +26,8 @@ for (var product = 1; product <= map.columns.length; ++product) {
     var text = terminal.touchMap(point.x, point.y);
     print("Product " + product + " (" + map.columns[product - 1] + ") at " + point.x.toFixed(1) + ", "
           + point.y.toFixed(1) + " m: " + text);
-    terminal.screenshot("build/demo/map" + product + ".png");
-    print("Picture of the map: build/demo/map" + product + ".png");
+    terminal.screenshot(pictures + "map" + product + ".png");
+    print("Picture of the map: " + pictures + "map" + product + ".png");
 }
 
 terminal.activeProduct = 1;
@@ -32,6 +35,6 @@ var button = terminal.find("rxOptions");
 if (button === null)
     throw new Error("the guidance page has no rxOptions");
 button.longTouch();
-terminal.screenshot("build/demo/settings.png");
-print("Picture of the settings dialog: build/demo/settings.png");
+terminal.screenshot(pictures + "settings.png");
+print("Picture of the settings dialog: " + pictures + "settings.png");
 terminal.find("doneButton").touch();

@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "consoleline.h"
 #include "headlessdrive.h"
+#include "installation.h"
 #include "languages.h"
 #include "machine.h"
 #include "neededimages.h"
@@ -20,18 +21,9 @@
 
 namespace {
 
-// Where the build leaves the plug-in and the images, seen from the program.
-const char builtPluginFolder[] = "../../Plugins/uiPluginRxMap";
-const char builtImageFolder[] = "../Resources/images";
-
-QDir besideProgram(const char *folder)
-{
-    return QDir(QDir::cleanPath(QApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(folder)));
-}
-
 QString loadPlugins(Terminal &terminal, const QDir &folder)
 {
-    const QStringList skipped = terminal.loadPlugins(folder, besideProgram(builtImageFolder));
+    const QStringList skipped = terminal.loadPlugins(folder, Installation::images());
     for (const QString &complaint : skipped)
         writeErrorLine(complaint);
     return terminal.hasPlugins() ? QString()
@@ -164,10 +156,10 @@ QString runTerminal(const CommandLine &line)
             return read.error;
         setup = read.value;
     }
-    const QDir pluginFolder = line.pluginDir.isEmpty() ? besideProgram(builtPluginFolder) : QDir(line.pluginDir);
+    const QDir pluginFolder = line.pluginDir.isEmpty() ? Installation::plugins() : QDir(line.pluginDir);
     QString error = line.language.isEmpty() ? QString() : Languages::install(line.language, pluginFolder);
     if (error.isEmpty())
-        error = NeededImages::problem(besideProgram(builtImageFolder));
+        error = NeededImages::problem(Installation::images());
     if (!error.isEmpty())
         return error;
 

@@ -1,0 +1,24 @@
+#include "installation.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QDir besideProgram(const char *installed, const char *built)
+{
+    const QString program = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    const QDir folder(QDir::cleanPath(program + QLatin1String(installed)));
+    return folder.exists() ? folder : QDir(QDir::cleanPath(program + QLatin1String(built)));
+}
+
+} // namespace
+
+QDir Installation::plugins()
+{
+    return besideProgram(RXMAP_INSTALLED_PLUGINS, "../../Plugins/uiPluginRxMap");
+}
+
+QDir Installation::images()
+{
+    return besideProgram(RXMAP_INSTALLED_IMAGES, "../Resources/images");
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QDir>
+
+/// What comes with the program, where it is installed and in the build's own folder alike. Needs a QCoreApplication.
+namespace Installation {
+
+/// Where plug-ins are searched.
+QDir plugins();
+/// The images that plug-ins and widgets draw.
+QDir images();
+
+} // namespace Installation
