@@ -6,10 +6,12 @@
 #include <atomic>
 #include <functional>
 
-/// A load that waits, or runs in the loading thread.
+/// A load, or a survey, that waits or runs in the loading thread.
 struct LoadJob {
     LoadRequest request;
+    /// The file is only looked at.
+    bool isSurvey = false;
     std::atomic<bool> cancelled{false};
-    /// Called once with the outcome, on the user-interface thread. May be empty.
+    /// Called once with a load's outcome, on the user-interface thread. May be empty.
     std::function<void(const LoadReport &)> done;
 };

@@ -3,6 +3,7 @@
 #include "columnpolicy.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionreader.h"
+#include "rateunit.h"
 
 #include <QEventLoop>
 
@@ -13,6 +14,7 @@ PrescriptionBackend::PrescriptionBackend(DataBroker *broker, QObject *parent)
     , d(new PrescriptionBackendPrivate(this, broker))
 {
     qRegisterMetaType<LoadReport>();
+    qRegisterMetaType<SurveyReport>();
 }
 
 PrescriptionBackend::~PrescriptionBackend() = default;
@@ -60,6 +62,38 @@ LoadReport PrescriptionBackend::loadAndWait(const LoadRequest &request)
     // The back-end may be gone by now; nothing of it is touched any more. A load that goes on must change nothing.
     job->cancelled = true;
     return wait->outcome;
+}
+
+void PrescriptionBackend::survey(const LoadRequest &request)
+{
+    d->enqueueSurvey(request);
+}
+
+bool PrescriptionBackend::mayBePrescription(const QString &path)
+{
+    return PrescriptionReader::mayRead(path);
+}
+
+RateUnitParts PrescriptionBackend::rateUnits(DbGroupProductGroupInfo::RateKind kind)
+{
+    RateUnitParts parts;
+    for (const AmountUnit &amount : UnitTable::amounts()) {
+        const RateUnit unit(&amount, UnitTable::area("ha"));
+        // What the kind makes another unit of stands in the list itself.
+        if (unit.fits(kind) && unit.of(kind).text() == unit.text())
+            parts.amounts.append(QString::fromLatin1(amount.symbol));
+    }
+    if (parts.amounts.isEmpty() || RateUnit::baseText(kind).isEmpty())
+        return {};
+    for (const AreaUnit &area : UnitTable::areas())
+        parts.areas.append(QString::fromLatin1(area.symbol));
+    return parts;
+}
+
+double PrescriptionBackend::rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind)
+{
+    const RateUnit rateUnit = RateUnit::fromText(unit).of(kind);
+    return rateUnit.isKnown() && rateUnit.fits(kind) ? rateUnit.factorTo(kind) : 0.0;
 }
 
 void PrescriptionBackend::cancel()

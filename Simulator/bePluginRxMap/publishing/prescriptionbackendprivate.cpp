@@ -63,10 +63,23 @@ std::shared_ptr<LoadJob> PrescriptionBackendPrivate::enqueue(const LoadRequest &
     auto job = std::make_shared<LoadJob>();
     job->request = request;
     job->done = std::move(done);
+    enqueue(job);
+    return job;
+}
+
+void PrescriptionBackendPrivate::enqueueSurvey(const LoadRequest &request)
+{
+    const auto job = std::make_shared<LoadJob>();
+    job->request = {request.path, {}, {}, request.products, request.layer, request.task};
+    job->isSurvey = true;
+    enqueue(job);
+}
+
+void PrescriptionBackendPrivate::enqueue(const std::shared_ptr<LoadJob> &job)
+{
     jobs.push_back(job);
     if (jobs.size() == 1)
         startNext();
-    return job;
 }
 
 void PrescriptionBackendPrivate::cancel()
@@ -83,23 +96,42 @@ void PrescriptionBackendPrivate::startNext()
         return;
     const std::shared_ptr<LoadJob> job = jobs.front();
     const std::vector<LocalPlane> known = planes();
+    worker = std::thread([this, job, known] { work(job, known); });
+}
+
+void PrescriptionBackendPrivate::work(const std::shared_ptr<LoadJob> &job, const std::vector<LocalPlane> &known)
+{
     // The thread is joined before the back-end goes, so it may post to it as long as it runs.
-    worker = std::thread([this, job, known] {
-        double reported = -progressStep;
-        LoadControl control;
-        control.cancelled = &job->cancelled;
-        control.progress = [this, job, &reported](double fraction) {
-            if (fraction - reported < progressStep && fraction < 1.0)
-                return;
-            reported = fraction;
-            const QString path = job->request.path;
-            QMetaObject::invokeMethod(
-                q, [this, path, fraction] { Q_EMIT q->progress(path, fraction); }, Qt::QueuedConnection);
-        };
-        const std::shared_ptr<LoadedMap> map = PrescriptionLoader(job->request, known, control).load();
+    double reported = -progressStep;
+    LoadControl control;
+    control.cancelled = &job->cancelled;
+    control.progress = [this, job, &reported](double fraction) {
+        if (fraction - reported < progressStep && fraction < 1.0)
+            return;
+        reported = fraction;
+        const QString path = job->request.path;
         QMetaObject::invokeMethod(
-            q, [this, map] { finishCurrent(std::make_unique<LoadedMap>(std::move(*map))); }, Qt::QueuedConnection);
-    });
+            q, [this, path, fraction] { Q_EMIT q->progress(path, fraction); }, Qt::QueuedConnection);
+    };
+    PrescriptionLoader loader(job->request, known, control);
+    if (job->isSurvey) {
+        const SurveyReport survey = loader.survey();
+        QMetaObject::invokeMethod(
+            q, [this, survey] { finishSurvey(survey); }, Qt::QueuedConnection);
+        return;
+    }
+    const std::shared_ptr<LoadedMap> map = loader.load();
+    QMetaObject::invokeMethod(
+        q, [this, map] { finishCurrent(std::make_unique<LoadedMap>(std::move(*map))); }, Qt::QueuedConnection);
+}
+
+void PrescriptionBackendPrivate::finishSurvey(SurveyReport survey)
+{
+    if (jobs.front()->cancelled)
+        survey.error = refuse(survey.path, QStringLiteral("loading was cancelled")).error;
+    jobs.pop_front();
+    startNext();
+    Q_EMIT q->surveyed(survey);
 }
 
 void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)

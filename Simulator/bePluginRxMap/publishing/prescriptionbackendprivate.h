@@ -18,6 +18,7 @@
 class DataBroker;
 class DataBrokerGroup;
 class PrescriptionBackend;
+struct SurveyReport;
 
 /// The queue of loads, with the thread that works on its head, and the list of published maps.
 class PrescriptionBackendPrivate {
@@ -27,6 +28,7 @@ public:
 
     /// `done` is called when the load has ended, at the latest when the back-end goes.
     std::shared_ptr<LoadJob> enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done);
+    void enqueueSurvey(const LoadRequest &request);
     /// The report of a load that came to nothing.
     static LoadReport refuse(const QString &path, const QString &reason);
     void cancel();
@@ -42,8 +44,12 @@ private:
         std::unique_ptr<PublishedMap> map;
     };
 
+    void enqueue(const std::shared_ptr<LoadJob> &job);
     void startNext();
+    /// What the loading thread does.
+    void work(const std::shared_ptr<LoadJob> &job, const std::vector<LocalPlane> &known);
     void finishCurrent(std::unique_ptr<LoadedMap> map);
+    void finishSurvey(SurveyReport survey);
     LoadReport publish(std::unique_ptr<LoadedMap> map);
     std::vector<LocalPlane> planes() const;
     QString freeGroupName(const QString &file) const;

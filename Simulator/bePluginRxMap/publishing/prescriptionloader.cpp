@@ -1,10 +1,10 @@
 #include "prescriptionloader.h"
 
 #include "duplicatepolygons.h"
+#include "filesurvey.h"
 #include "gdalsession.h"
 #include "geosinterrupt.h"
 #include "legendbuilder.h"
-#include "prescriptionreader.h"
 #include "ringrepair.h"
 
 #include <algorithm>
@@ -65,40 +65,69 @@ std::unique_ptr<LoadedMap> PrescriptionLoader::load()
     findings.emplace(*report);
     for (const MachineProduct &product : request.products)
         map->productNames.append(product.name.isEmpty() ? product.rateCalName : product.name);
-    try {
-        if (!loadInto(*map)) {
-            map->chain.reset();
-            map->lookup.reset();
-        }
-    } catch (const std::exception &failure) {
+    if (!attempt([this, &map] { return loadInto(*map); })) {
         map->lookup.reset();
         map->chain.reset();
-        fail(QStringLiteral("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
     }
     return map;
+}
+
+SurveyReport PrescriptionLoader::survey()
+{
+    LoadedMap map;
+    report = &map.report;
+    report->path = request.path;
+    findings.emplace(*report);
+    SurveyReport survey;
+    survey.path = request.path;
+    attempt([this, &map, &survey] { return surveyInto(map, survey); });
+    survey.error = map.report.error;
+    survey.layer = map.report.layer;
+    survey.layers = map.report.layers;
+    survey.task = map.report.task;
+    survey.tasks = map.report.tasks;
+    return survey;
+}
+
+bool PrescriptionLoader::attempt(const std::function<bool()> &work)
+{
+    try {
+        return work();
+    } catch (const std::exception &failure) {
+        return fail(QStringLiteral("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
+    }
+}
+
+bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
+{
+    const GdalSession session;
+    const GeosInterrupt interrupt(control.cancelled);
+    if (!readPolygons(map, ColumnPolicy::isWorthReading))
+        return false;
+    QString lack = FileSurvey(source, polygons).addColumns(policy, survey);
+    if (survey.columns.isEmpty()) {
+        // Nothing in the table looks like a rate: the operator may know better.
+        source = RawPrescription();
+        if (!readPolygons(map, [](const SourceColumn &) { return true; }))
+            return false;
+        FileSurvey(source, polygons).addColumns(policy, survey);
+        for (SurveyedColumn &column : survey.columns)
+            column.product = 0;
+    }
+    if (!lack.isEmpty())
+        survey.lackOfFeeds = QStringLiteral("%1: %2").arg(request.path, lack);
+    if (survey.columns.isEmpty())
+        return fail(lack);
+    FileSurvey(source, polygons).addPicture(survey);
+    control.report(1.0);
+    return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
 }
 
 bool PrescriptionLoader::loadInto(LoadedMap &map)
 {
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
-    LoadControl reading = control;
-    reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
-    if (control.isCancelled())
-        return fail(QStringLiteral("loading was cancelled"));
-    if (!policy.refusal().isEmpty())
-        return fail(policy.refusal());
-    for (const QString &warning : policy.warnings())
-        findings->remark(warning);
-    PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, ColumnPolicy::isWorthReading,
-                              reading);
-    if (!reader.read(source))
-        return fail(reader.error());
-    report->layer = source.layer;
-    report->layers = source.layers;
-    report->task = source.task;
-    report->tasks = source.tasks;
-    if (!place(map) || !repairRings() || !chooseColumns(map))
+    if (!readPolygons(map, ColumnPolicy::isWorthReading) || !chooseColumns(map))
         return false;
     dropRecordsWithoutRate();
     countRings(map);
@@ -111,6 +140,26 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     reportCounts(map);
     control.report(1.0);
     return true;
+}
+
+bool PrescriptionLoader::readPolygons(LoadedMap &map, PrescriptionReader::ColumnFilter isWorthReading)
+{
+    LoadControl reading = control;
+    reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
+    if (control.isCancelled())
+        return fail(QStringLiteral("loading was cancelled"));
+    if (!policy.refusal().isEmpty())
+        return fail(policy.refusal());
+    for (const QString &warning : policy.warnings())
+        findings->remark(warning);
+    PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, isWorthReading, reading);
+    if (!reader.read(source))
+        return fail(reader.error());
+    report->layer = source.layer;
+    report->layers = source.layers;
+    report->task = source.task;
+    report->tasks = source.tasks;
+    return place(map) && repairRings();
 }
 
 bool PrescriptionLoader::place(LoadedMap &map)

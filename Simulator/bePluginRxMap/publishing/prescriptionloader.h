@@ -1,14 +1,17 @@
 #pragma once
 
 #include "Backend/loadrequest.h"
+#include "Backend/surveyreport.h"
 #include "columnpolicy.h"
 #include "holearrangement.h"
 #include "loadcontrol.h"
 #include "loadedmap.h"
 #include "loadfindings.h"
+#include "prescriptionreader.h"
 #include "ratetable.h"
 #include "rawprescription.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -22,9 +25,17 @@ public:
 
     /// Never null; says in its report what went wrong.
     std::unique_ptr<LoadedMap> load();
+    /// What the file holds for the operator to choose from. Of the request it takes the file, its layer and task, and
+    /// the products.
+    SurveyReport survey();
 
 private:
+    /// Runs it; false also where it ran out of memory or the like, with the reason in the report.
+    bool attempt(const std::function<bool()> &work);
     bool loadInto(LoadedMap &map);
+    bool surveyInto(LoadedMap &map, SurveyReport &survey);
+    /// Reads the file and makes polygons of it on the map's plane.
+    bool readPolygons(LoadedMap &map, PrescriptionReader::ColumnFilter isWorthReading);
     bool fail(const QString &text);
     void tell(MapFinding::Kind kind, const QString &text, int record = -1);
 

@@ -110,6 +110,13 @@ bool PrescriptionReader::fail(const QString &text)
     return false;
 }
 
+bool PrescriptionReader::mayRead(const QString &path)
+{
+    const QStringList endings{QStringLiteral("shp"), QStringLiteral("gpkg"), QStringLiteral("geojson"),
+                              QStringLiteral("json")};
+    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
 bool PrescriptionReader::checkFile()
 {
     const QFileInfo info(path);

@@ -21,6 +21,9 @@ public:
 
     PrescriptionReader(const ReadRequest &request, ColumnFilter isWorthReading, const LoadControl &control);
 
+    /// Whether a file of that name may be one.
+    static bool mayRead(const QString &path);
+
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
     bool read(RawPrescription &map);
     /// Names of all columns of the table, without its records. False like read().

@@ -3,6 +3,8 @@
 #include "Backend/columnshares.h"
 #include "Backend/loadreport.h"
 #include "Backend/loadrequest.h"
+#include "Backend/rateunitparts.h"
+#include "Backend/surveyreport.h"
 
 #include "bePluginRxMap/bepluginrxmapglobal.h"
 
@@ -37,6 +39,16 @@ public:
     /// Loads and waits, with the event loop running. A load whose wait is ended from outside, as by the program's end,
     /// is given up: the report says so.
     LoadReport loadAndWait(const LoadRequest &request);
+    /// Starts to look at a file without publishing anything; waits its turn as a load does, and surveyed() follows.
+    /// Columns and units of the request do not count.
+    void survey(const LoadRequest &request);
+    /// Whether a file of that name, or a folder with what it holds, may be a prescription.
+    static bool mayBePrescription(const QString &path);
+    /// The units in which rates of that kind are written; none for a kind that is not written as an amount per area.
+    static RateUnitParts rateUnits(DbGroupProductGroupInfo::RateKind kind);
+    /// Takes rates in that unit ("lb/ac") to the base unit of the kind; 0 where it is no unit of such rates.
+    static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
+
     /// Cancels the load in progress and those waiting; each finishes with an error that says so.
     void cancel();
     bool isLoading() const;
@@ -54,6 +66,8 @@ Q_SIGNALS:
     /// `fraction` runs from 0 to 1 within one load.
     void progress(const QString &path, double fraction);
     void finished(const LoadReport &report);
+    /// A survey has ended.
+    void surveyed(const SurveyReport &survey);
     /// The set of published maps, or what feeds which product, changed.
     void mapsChanged();
 

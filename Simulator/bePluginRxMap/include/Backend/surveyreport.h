@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Backend/ratesource.h"
+
+#include "Framework/rxpolygon.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QMetaType>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// A column of a file that may hold rates. All its rates are in the file's own unit.
+struct SurveyedColumn {
+    /// How LoadRequest::columns names it: its name, or "#" and its number where the name stands for another column.
+    QString key;
+    QString name;
+    /// "lb/ac"; empty where the file does not tell it.
+    QString unit;
+    RateSource::UnitFrom unitFrom = RateSource::UnitFrom::Assumed;
+    double leastRate = 0.0;
+    double greatestRate = 0.0;
+    /// Of the records with polygons, the share that has no rate in it, 0 to 1.
+    double shareWithoutRate = 0.0;
+    /// Whether its name says that it holds rates; else it is a guess.
+    bool isSure = false;
+    /// Number from 1 of the product that it feeds unasked; 0 for none.
+    int product = 0;
+    /// As in LoadReport.
+    QList<OrvikTypes::RX_RATECOLOR> legend;
+    bool hasSingleRates = false;
+    /// For each record the place of its class in `legend`.
+    QByteArray classes;
+};
+
+/// What a file holds, for the operator to choose from.
+struct SurveyReport {
+    /// A survey is drawn into a square of so many pixels.
+    static constexpr int pictureSide = 440;
+
+    /// One line that names the file and the reason; empty on success.
+    QString error;
+    QString path;
+    /// As in LoadReport.
+    QString layer;
+    QString task;
+    QStringList layers;
+    QStringList tasks;
+    /// All columns of the table.
+    QStringList columnNames;
+    /// Those that feed products unasked, in product order, then the others in table order.
+    QList<SurveyedColumn> columns;
+    /// Why no product can be fed unasked, in one line that names the file; empty when one can.
+    QString lackOfFeeds;
+    int polygons = 0;
+    /// A picture of the map, north up: for each pixel, line by line, the record that is seen there, -1 for none.
+    QSize pictureSize;
+    QVector<int> recordAtPixel;
+
+    bool isOk() const { return error.isEmpty(); }
+};
+
+Q_DECLARE_METATYPE(SurveyReport)

@@ -1,0 +1,255 @@
+#include "backendtest.h"
+#include "layerwriter.h"
+
+#include <QTemporaryDir>
+
+/// What a file is found to hold before it is loaded.
+class PrescriptionBackendSurveyTest : public BackendTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsWhatEachColumnHolds_data();
+    void tellsWhatEachColumnHolds();
+    void suggestsWhatALoadWouldFeed_data();
+    void suggestsWhatALoadWouldFeed();
+    void tellsAllColumnsWhereNoneLooksLikeARate();
+    void namesAColumnByItsNumberWhereItsNameStandsForAnother();
+    void tellsWhichRecordIsSeenWhere();
+    void classesEachRecord();
+    void refusesWhatALoadRefuses_data();
+    void refusesWhatALoadRefuses();
+    void publishesNothing();
+    void isCancelled();
+    void unitsAreThoseThatRatesOfTheKindAreWrittenIn_data();
+    void unitsAreThoseThatRatesOfTheKindAreWrittenIn();
+    void takesRatesToBaseUnits_data();
+    void takesRatesToBaseUnits();
+
+private:
+    SurveyReport survey(const LoadRequest &request);
+    QString write(const QList<LayerField> &fields, const QList<QVariant> &values);
+
+    QTemporaryDir folder;
+};
+
+SurveyReport PrescriptionBackendSurveyTest::survey(const LoadRequest &request)
+{
+    QSignalSpy surveyed(backend.data(), &PrescriptionBackend::surveyed);
+    backend->survey(request);
+    return surveyed.wait() ? surveyed.first().first().value<SurveyReport>() : SurveyReport();
+}
+
+QString PrescriptionBackendSurveyTest::write(const QList<LayerField> &fields, const QList<QVariant> &values)
+{
+    LayerSketch sketch;
+    sketch.fields = fields;
+    sketch.rows = {{squareText(10, 50, 0.001), values}, {squareText(10.001, 50, 0.001), values}};
+    const QString path = folder.filePath(QStringLiteral("sketch.shp"));
+    return sketch.write(path) ? path : QString();
+}
+
+void PrescriptionBackendSurveyTest::tellsWhatEachColumnHolds_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("columns");
+    QTest::newRow("units") << "three-zones.geojson"
+                           << QStringList{"SEED_K_HA [1000/ha] 70..90 0% sure", "FERT_KG_HA [kg/ha] 0..150 0% sure",
+                                          "HERB_L_HA [L/ha] 0..3 0% sure"};
+    QTest::newRow("gaps") << "partly-without-rate.geojson"
+                          << QStringList{"seed_rate [] 10..12 50% sure", "fert_rate [] 100..110 50% sure"};
+    QTest::newRow("text") << "text-rates.geojson" << QStringList{"Rate [] 7..12.5 50% sure"};
+    QTest::newRow("guesses") << "two-strips.geojson" << QStringList{"A [] 10..20 0% guess", "B [] 5..6 0% guess"};
+}
+
+void PrescriptionBackendSurveyTest::tellsWhatEachColumnHolds()
+{
+    QFETCH(QString, file);
+    const SurveyReport report = survey(requestFor(fixture(qPrintable(file))));
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QStringList told;
+    for (const SurveyedColumn &column : report.columns)
+        told.append(QStringLiteral("%1 [%2] %3..%4 %5% %6")
+                        .arg(column.name, column.unit)
+                        .arg(column.leastRate)
+                        .arg(column.greatestRate)
+                        .arg(100.0 * column.shareWithoutRate)
+                        .arg(column.isSure ? "sure" : "guess"));
+    QTEST(told, "columns");
+}
+
+void PrescriptionBackendSurveyTest::suggestsWhatALoadWouldFeed_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *file : {"three-zones.geojson", "two-strips.geojson", "partly-without-rate.geojson"})
+        QTest::newRow(file) << file;
+}
+
+void PrescriptionBackendSurveyTest::suggestsWhatALoadWouldFeed()
+{
+    QFETCH(QString, file);
+    LoadRequest request = requestFor(fixture(qPrintable(file)));
+    request.products[1].kind = DbGroupProductGroupInfo::WeightRate;
+    const LoadReport loaded = backend->loadAndWait(request);
+    const SurveyReport surveyed = survey(request);
+    QVERIFY(!loaded.sources.isEmpty());
+    for (int i = 0; i < loaded.sources.size(); ++i) {
+        QCOMPARE(surveyed.columns.at(i).name, loaded.sources.at(i).column);
+        QCOMPARE(surveyed.columns.at(i).product, loaded.sources.at(i).product);
+        QCOMPARE(surveyed.columns.at(i).unitFrom, loaded.sources.at(i).unitFrom);
+    }
+    for (int i = loaded.sources.size(); i < surveyed.columns.size(); ++i)
+        QCOMPARE(surveyed.columns.at(i).product, 0);
+}
+
+void PrescriptionBackendSurveyTest::tellsAllColumnsWhereNoneLooksLikeARate()
+{
+    const QString path = write({{"YIELD", 1.0}, {"YEAR", 1}, {"REMARK", "a"}}, {7.5, 2026, QStringLiteral("dry")});
+    const SurveyReport report = survey(requestFor(path));
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QVERIFY2(report.lackOfFeeds.contains(QStringLiteral("no column that looks like a rate")),
+             qPrintable(report.lackOfFeeds));
+    QCOMPARE(report.columns.size(), 2);
+    QCOMPARE(report.columns.at(0).name, QStringLiteral("YIELD"));
+    QCOMPARE(report.columns.at(1).name, QStringLiteral("YEAR"));
+    for (const SurveyedColumn &column : report.columns)
+        QCOMPARE(column.product, 0);
+    QCOMPARE(report.columnNames, QStringList({"YIELD", "YEAR", "REMARK"}));
+}
+
+void PrescriptionBackendSurveyTest::namesAColumnByItsNumberWhereItsNameStandsForAnother()
+{
+    LayerSketch sketch;
+    sketch.driver = "GeoJSON";
+    sketch.fields = {{"rate", 1.0}, {"RATE", 1.0}};
+    sketch.rows = {{squareText(10, 50, 0.001), {7.0, 8.0}}, {squareText(10.001, 50, 0.001), {9.0, 10.0}}};
+    const QString path = folder.filePath(QStringLiteral("twice.geojson"));
+    QVERIFY(sketch.write(path));
+    const SurveyReport report = survey(requestFor(path));
+    QCOMPARE(report.columns.size(), 2);
+    for (const SurveyedColumn &column : report.columns) {
+        const LoadReport loaded = backend->loadAndWait(requestFor(path, {column.key}));
+        QVERIFY2(loaded.isOk(), qPrintable(loaded.error));
+        QCOMPARE(loaded.legends.first().last().rate, column.greatestRate);
+    }
+}
+
+void PrescriptionBackendSurveyTest::tellsWhichRecordIsSeenWhere()
+{
+    const SurveyReport report = survey(requestFor(fixture("pond-and-island.geojson")));
+    QCOMPARE(report.polygons, 3);
+    const QSize size = report.pictureSize;
+    QCOMPARE(qMax(size.width(), size.height()), SurveyReport::pictureSide);
+    QCOMPARE(report.recordAtPixel.size(), size.width() * size.height());
+    const auto at = [&report, size](double right, double down) {
+        return report.recordAtPixel.at(int(down * size.height()) * size.width() + int(right * size.width()));
+    };
+    QCOMPARE(at(0.05, 0.05), 0);
+    QCOMPARE(at(0.32, 0.5), 1);
+    QCOMPARE(at(0.5, 0.5), 2);
+    // The pond around the island.
+    QCOMPARE(at(0.43, 0.5), -1);
+}
+
+void PrescriptionBackendSurveyTest::classesEachRecord()
+{
+    const SurveyReport report = survey(requestFor(fixture("partly-without-rate.geojson")));
+    const SurveyedColumn &seed = report.columns.first();
+    QCOMPARE(seed.classes.size(), 4);
+    QCOMPARE(seed.legend.size(), 3);
+    QVERIFY(seed.hasSingleRates);
+    QCOMPARE(seed.legend.at(seed.classes.at(0)).rate, 10.0);
+    QCOMPARE(seed.legend.at(seed.classes.at(2)).rate, 12.0);
+    for (const int record : {1, 3})
+        QCOMPARE(seed.legend.at(seed.classes.at(record)).color.alpha(), 0);
+}
+
+void PrescriptionBackendSurveyTest::refusesWhatALoadRefuses_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("missing") << fixture("no-such-file.shp");
+    QTest::newRow("no prescription") << fixture("README.md");
+    QTest::newRow("a folder") << sourcePath("Tests/fixtures");
+}
+
+void PrescriptionBackendSurveyTest::refusesWhatALoadRefuses()
+{
+    QFETCH(QString, path);
+    const LoadReport loaded = backend->loadAndWait(requestFor(path));
+    const SurveyReport surveyed = survey(requestFor(path));
+    QVERIFY(!loaded.error.isEmpty());
+    QCOMPARE(surveyed.error, loaded.error);
+    QVERIFY(surveyed.columns.isEmpty());
+}
+
+void PrescriptionBackendSurveyTest::publishesNothing()
+{
+    const LoadReport before = load("overlap.geojson");
+    QSignalSpy changed(backend.data(), &PrescriptionBackend::mapsChanged);
+    QSignalSpy finished(backend.data(), &PrescriptionBackend::finished);
+    QVERIFY(survey(requestFor(fixture("three-zones.geojson"))).isOk());
+    QVERIFY(changed.isEmpty() && finished.isEmpty());
+    QCOMPARE(backend->maps().size(), 1);
+    QCOMPARE(broker->findGroup(QStringLiteral("rxMap.*"), true, false), QStringList(before.group));
+    QVERIFY(!backend->isLoading());
+}
+
+void PrescriptionBackendSurveyTest::isCancelled()
+{
+    QSignalSpy surveyed(backend.data(), &PrescriptionBackend::surveyed);
+    backend->survey(requestFor(fixture("three-zones.geojson")));
+    backend->cancel();
+    QVERIFY(surveyed.wait());
+    const auto report = surveyed.first().first().value<SurveyReport>();
+    QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
+    QVERIFY(survey(requestFor(fixture("three-zones.geojson"))).isOk());
+}
+
+void PrescriptionBackendSurveyTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("amounts");
+    using Info = DbGroupProductGroupInfo;
+    QTest::newRow("count") << int(Info::CountRate) << "1000 seeds million";
+    QTest::newRow("weight") << int(Info::WeightRate) << "kg g mg dt t lb oz cwt ton";
+    QTest::newRow("volume") << int(Info::VolumeRate) << "L mL cL dL hL m3 gal qt pt fl oz imp gal";
+    QTest::newRow("injection") << int(Info::InjectionRate) << "L mL cL dL hL m3 gal qt pt fl oz imp gal";
+    for (const auto kind : {Info::RatioRate, Info::PressureRate, Info::UnknownRate})
+        QTest::addRow("kind %d", int(kind)) << int(kind) << "";
+}
+
+void PrescriptionBackendSurveyTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn()
+{
+    QFETCH(int, kind);
+    const auto rateKind = DbGroupProductGroupInfo::RateKind(kind);
+    const RateUnitParts parts = PrescriptionBackend::rateUnits(rateKind);
+    QTEST(parts.amounts.join(QLatin1Char(' ')), "amounts");
+    QCOMPARE(parts.areas.isEmpty(), parts.amounts.isEmpty());
+    for (const QString &amount : parts.amounts) {
+        for (const QString &area : parts.areas)
+            QVERIFY2(PrescriptionBackend::rateFactor(amount + QLatin1Char('/') + area, rateKind) > 0.0,
+                     qPrintable(amount + QLatin1Char('/') + area));
+    }
+}
+
+void PrescriptionBackendSurveyTest::takesRatesToBaseUnits_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<double>("factor");
+    using Info = DbGroupProductGroupInfo;
+    QTest::newRow("base") << "kg/ha" << int(Info::WeightRate) << 1.0;
+    QTest::newRow("lb/ac") << "lb/ac" << int(Info::WeightRate) << 0.45359237 / 0.40468564224;
+    QTest::newRow("oz of a liquid") << "oz/ac" << int(Info::VolumeRate) << 3.785411784 / 128.0 / 0.40468564224;
+    QTest::newRow("other basis") << "L/ha" << int(Info::WeightRate) << 0.0;
+    QTest::newRow("none") << "" << int(Info::WeightRate) << 0.0;
+}
+
+void PrescriptionBackendSurveyTest::takesRatesToBaseUnits()
+{
+    QFETCH(QString, unit);
+    QFETCH(int, kind);
+    QTEST(PrescriptionBackend::rateFactor(unit, DbGroupProductGroupInfo::RateKind(kind)), "factor");
+}
+
+RXMAP_TEST(PrescriptionBackendSurveyTest, Core)
+#include "tst_prescriptionbackend_survey.moc"
