@@ -29,13 +29,14 @@ public:
     }
 };
 
-OGRPolygon strip(const RecordEntry &from, const RecordEntry &to)
+/// What the implement passed over in the step.
+OGRPolygon strip(const RecordEntry &entry)
 {
-    const QPointF beside = 0.5 * from.width * from.pose.rightward();
-    const QPointF besideNext = 0.5 * to.width * to.pose.rightward();
+    const QPointF before = 0.5 * entry.width * entry.start.rightward();
+    const QPointF after = 0.5 * entry.width * entry.pose.rightward();
     OGRLinearRing ring;
-    for (const QPointF &corner : {from.pose.place - beside, from.pose.place + beside, to.pose.place + besideNext,
-                                  to.pose.place - besideNext, from.pose.place - beside})
+    for (const QPointF &corner : {entry.start.place - before, entry.start.place + before, entry.pose.place + after,
+                                  entry.pose.place - after, entry.start.place - before})
         ring.addPoint(corner.x(), corner.y());
     OGRPolygon polygon;
     polygon.addRing(&ring);
@@ -129,12 +130,10 @@ QString GeoPackageRecord::add(const RecordEntry &entry)
     const QuietGdal quiet;
     OGRPoint point(entry.pose.place.x(), entry.pose.place.y());
     bool isWritten = writeStep(points, point, entry);
-    if (isWritten && entry.isWorking && hasFormer) {
-        OGRPolygon passed = strip(former, entry);
+    if (isWritten && entry.isWorking) {
+        OGRPolygon passed = strip(entry);
         isWritten = writeStep(strips, passed, entry);
     }
-    former = entry;
-    hasFormer = true;
     if (isWritten)
         return {};
     const QString reason = QuietGdal::reason();

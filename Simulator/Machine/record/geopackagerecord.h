@@ -29,7 +29,4 @@ private:
     GDALDataset *file = nullptr;
     OGRLayer *points = nullptr;
     OGRLayer *strips = nullptr;
-    /// The step before, where the implement worked.
-    RecordEntry former;
-    bool hasFormer = false;
 };

@@ -16,8 +16,9 @@ struct RecordEntry {
 
     /// Seconds since the simulation began.
     double time = 0.0;
-    /// The implement's middle.
+    /// The implement's middle, and where it was when the step began.
     Pose pose;
+    Pose start;
     /// Metres per second; below 0 backwards.
     double speed = 0.0;
     bool isWorking = false;

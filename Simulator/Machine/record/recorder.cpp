@@ -37,6 +37,7 @@ void Recorder::record()
     RecordEntry entry;
     entry.time = simulation->seconds();
     entry.pose = vehicle.pose();
+    entry.start = simulation->stepStart();
     entry.speed = vehicle.currentSpeed();
     entry.isWorking = vehicle.isWorking();
     entry.width = vehicle.size().width;
