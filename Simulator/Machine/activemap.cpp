@@ -24,15 +24,31 @@ QList<OrvikTypes::RX_RATECOLOR> ActiveMap::drawnClasses(QList<OrvikTypes::RX_RAT
     return legend;
 }
 
-QColor ActiveMap::classColor(double rate) const
+int ActiveMap::classOf(double rate) const
 {
     if (std::isnan(rate))
-        return {};
-    for (const OrvikTypes::RX_RATECOLOR &entry : legend) {
-        if (entry.rate >= rate)
-            return entry.color;
-    }
-    return legend.isEmpty() ? QColor() : legend.last().color;
+        return -1;
+    const auto holds = [rate](const OrvikTypes::RX_RATECOLOR &entry) { return entry.rate >= rate; };
+    const auto found = std::find_if(legend.begin(), legend.end(), holds);
+    return std::min(int(found - legend.begin()), legend.size() - 1);
+}
+
+QColor ActiveMap::classColor(double rate) const
+{
+    const int place = classOf(rate);
+    return place >= 0 ? legend.at(place).color : QColor();
+}
+
+QColor ActiveMap::appliedColor(double rate, bool hasSingleRates) const
+{
+    constexpr double exactness = 0.01;
+    if (!hasSingleRates)
+        return classColor((1.0 - exactness) * rate);
+    const auto isNearer = [rate](const OrvikTypes::RX_RATECOLOR &a, const OrvikTypes::RX_RATECOLOR &b) {
+        return std::fabs(a.rate - rate) < std::fabs(b.rate - rate);
+    };
+    const auto nearest = std::min_element(legend.begin(), legend.end(), isNearer);
+    return nearest != legend.end() && !std::isnan(rate) ? nearest->color : QColor();
 }
 
 ActiveMap ActiveMap::find(const DataBroker &broker, const QString &rateCalName)

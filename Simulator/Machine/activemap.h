@@ -21,8 +21,16 @@ struct ActiveMap {
     bool isValid() const { return mapping >= 0; }
     /// A published legend without its fully transparent entries, which stand for polygons without a rate.
     static QList<OrvikTypes::RX_RATECOLOR> drawnClasses(QList<OrvikTypes::RX_RATECOLOR> legend);
+    /// Place in the legend of the class that holds `rate` (base units): the last one for what is above them all; -1
+    /// without a legend, and where there is no rate.
+    int classOf(double rate) const;
     /// Colour of the legend class that holds `rate` (base units); invalid without a legend, and where there is no rate.
     QColor classColor(double rate) const;
+
+    /// Colour of a rate as a machine applied it, which comes near the prescribed one without ever meeting it: where
+    /// each class holds one single rate that of the nearest, else that of the class that holds all but a hundredth of
+    /// it.
+    QColor appliedColor(double rate, bool hasSingleRates) const;
 
     /// The first published map with a mapping for that rate channel.
     static ActiveMap find(const DataBroker &broker, const QString &rateCalName);

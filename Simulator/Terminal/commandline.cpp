@@ -174,8 +174,9 @@ QString checkDrive(const QCommandLineParser &parser)
             return QStringLiteral("--drive does not go with --%1").arg(option);
     }
     const QString report = parser.value(driveOption);
-    if (!report.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
-        return QStringLiteral("--drive %1: a report is a .json file").arg(report);
+    if (!report.endsWith(QLatin1String(".json"), Qt::CaseInsensitive)
+        && !report.endsWith(QLatin1String(".html"), Qt::CaseInsensitive))
+        return QStringLiteral("--drive %1: a report is a .json or .html file").arg(report);
     return parser.positionalArguments().isEmpty() ? QStringLiteral("--drive needs a prescription to drive") : QString();
 }
 

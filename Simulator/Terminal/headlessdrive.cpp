@@ -3,15 +3,22 @@
 #include "Backend/prescriptionbackend.h"
 #include "commandline.h"
 #include "consoleline.h"
+#include "drivenfield.h"
 #include "drivereport.h"
 #include "fielddrive.h"
+#include "fieldraster.h"
 #include "recorder.h"
+#include "reportpage.h"
 #include "simulation.h"
 #include "terminal.h"
+#include "wholefile.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
+
+#include <memory>
 
 namespace {
 
@@ -41,11 +48,34 @@ private:
     int told = 0;
 };
 
-QString writeReport(QSaveFile &file, const QJsonObject &report)
+/// Why the file cannot be written, known before the drive; empty when it can, and nothing has been written then.
+QString writingProblem(const QString &path)
 {
-    const QByteArray json = QJsonDocument(report).toJson();
-    const bool isWritten = file.write(json) == json.size() && file.commit();
-    return isWritten ? QString() : QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
+    const QFileInfo place(path);
+    if (place.isDir())
+        return QStringLiteral("is a folder, not a file");
+    if (place.exists())
+        return place.isWritable() ? QString() : QStringLiteral("cannot be written");
+    QSaveFile probe(path);
+    return probe.open(QIODevice::WriteOnly) ? QString() : probe.errorString();
+}
+
+/// Why what the drive is to write must not be; one line with the file's name.
+QString outputProblem(const CommandLine &line)
+{
+    for (const QString &output : {line.drive, line.record}) {
+        for (const QString &prescription : line.prescriptions) {
+            if (!output.isEmpty() && QFileInfo(output) == QFileInfo(prescription))
+                return QStringLiteral("%1: is the prescription itself").arg(output);
+        }
+    }
+    const QString problem = writingProblem(line.drive);
+    return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(line.drive, problem);
+}
+
+bool isPage(const CommandLine &line)
+{
+    return line.drive.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -56,13 +86,15 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     const Result<DrivePath> path = FieldDrive::plan(*simulation, FieldDrive::usualOptions(*simulation));
     if (!path.isOk())
         return QStringLiteral("%1: %2").arg(line.prescriptions.join(QStringLiteral(", ")), path.error);
-    // Before the drive: what cannot be written is known at once.
-    QSaveFile reportFile(line.drive);
-    if (!reportFile.open(QIODevice::WriteOnly))
-        return QStringLiteral("%1: %2").arg(line.drive, reportFile.errorString());
+    const QString problem = outputProblem(line);
+    if (!problem.isEmpty())
+        return problem;
 
     FieldDrive drive(simulation, path.value);
     DriveTally tally(simulation);
+    std::unique_ptr<FieldRaster> raster;
+    if (isPage(line))
+        raster = std::make_unique<FieldRaster>(simulation, drive.workedBounds());
     Recorder recorder(simulation);
     if (!line.record.isEmpty()) {
         const QString error = recorder.start(line.record, terminal.backend()->maps().last().origin);
@@ -71,11 +103,16 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     }
     drive.run(ProgressLine("driving"));
     tally.end();
+    if (raster)
+        raster->end();
     const QString recordError = recorder.stop();
     // Afterwards, so that the drive that is reported is the same with and without.
     const std::vector<FieldDrive::Curve> curves =
         line.tune ? FieldDrive(simulation, path.value).tune(ProgressLine("tuning")) : std::vector<FieldDrive::Curve>();
     const QString files = line.prescriptions.join(QStringLiteral(", "));
-    const QString error = writeReport(reportFile, DriveReport::make(files, *terminal.machine(), tally, curves));
+    const QByteArray report = raster
+        ? ReportPage::make({files, simulation, &tally, raster.get(), curves})
+        : QJsonDocument(DriveReport::make(files, *terminal.machine(), tally, curves)).toJson();
+    const QString error = writeWholeFile(line.drive, report);
     return error.isEmpty() ? recordError : error;
 }

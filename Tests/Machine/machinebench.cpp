@@ -7,8 +7,8 @@
 
 #include <QFile>
 
-MachineBench::MachineBench(const Products &products)
-    : machine(&broker, &backend, products, UnitSystem::Metric)
+MachineBench::MachineBench(const Products &products, UnitSystem units)
+    : machine(&broker, &backend, products, units)
 {
     MachineSize size;
     size.acceleration = 1e6;

@@ -19,7 +19,7 @@ public:
         double rate;
     };
 
-    explicit MachineBench(const Products &products = ProductFile::standard());
+    explicit MachineBench(const Products &products = ProductFile::standard(), UnitSystem units = UnitSystem::Metric);
 
     /// Loads zones that feed these products; they are to lie evenly around 0, else their middle becomes it.
     LoadReport loadZones(const QList<Zone> &zones, const QList<int> &products = {1});

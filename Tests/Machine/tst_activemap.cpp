@@ -11,6 +11,8 @@ class TestActiveMap : public TestBase {
 private Q_SLOTS:
     void aRateBelongsToTheFirstClassThatIsNotBelowIt_data();
     void aRateBelongsToTheFirstClassThatIsNotBelowIt();
+    void anAppliedRateNeedsOnlyComeNear_data();
+    void anAppliedRateNeedsOnlyComeNear();
     void withoutALegendThereIsNoColour();
     void whatIsNotDrawnIsNoClass();
     void theMappingOfTheProductIsFound();
@@ -36,9 +38,35 @@ void TestActiveMap::aRateBelongsToTheFirstClassThatIsNotBelowIt()
     QTEST(map.classColor(rate), "color");
 }
 
+void TestActiveMap::anAppliedRateNeedsOnlyComeNear_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<bool>("hasSingleRates");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("a hair above a limit") << 10.0001 << false << QColor(Qt::green);
+    QTest::newRow("well above a limit") << 10.2 << false << QColor(Qt::blue);
+    QTest::newRow("a hair above a rate") << 10.0001 << true << QColor(Qt::green);
+    QTest::newRow("nearer to the rate below") << 14.9 << true << QColor(Qt::green);
+    QTest::newRow("nearer to the rate above") << 15.1 << true << QColor(Qt::blue);
+    QTest::newRow("above all") << 90.0 << true << QColor(Qt::blue);
+    QTest::newRow("no rate") << qQNaN() << true << QColor();
+    QTest::newRow("no rate in a range") << qQNaN() << false << QColor();
+}
+
+void TestActiveMap::anAppliedRateNeedsOnlyComeNear()
+{
+    QFETCH(double, rate);
+    QFETCH(bool, hasSingleRates);
+    ActiveMap map;
+    map.legend = {{0.0, Qt::red}, {10.0, Qt::green}, {20.0, Qt::blue}};
+    QTEST(map.appliedColor(rate, hasSingleRates), "color");
+}
+
 void TestActiveMap::withoutALegendThereIsNoColour()
 {
     QVERIFY(!ActiveMap().classColor(1.0).isValid());
+    QVERIFY(!ActiveMap().appliedColor(1.0, true).isValid());
+    QVERIFY(!ActiveMap().appliedColor(1.0, false).isValid());
 }
 
 void TestActiveMap::whatIsNotDrawnIsNoClass()

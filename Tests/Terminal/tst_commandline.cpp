@@ -67,7 +67,7 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("drive and point") << QStringList{"--drive", "a.json", "--describe", "1,2", "map.shp"}
                                      << "--drive does not go with --describe";
     QTest::newRow("report of another kind")
-        << QStringList{"--drive", "a.pdf", "map.shp"} << "--drive a.pdf: a report is a .json file";
+        << QStringList{"--drive", "a.pdf", "map.shp"} << "--drive a.pdf: a report is a .json or .html file";
     QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
 }
 

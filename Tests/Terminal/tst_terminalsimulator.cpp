@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aDriverWithoutShadersIsNamed_data();
     void aDriverWithoutShadersIsNamed();
     void aFieldIsDrivenWithoutADisplay();
+    void aReportIsAPageInTheChosenLanguageAndUnits();
     void whatCannotBeDrivenEndsWithOneLine_data();
     void whatCannotBeDrivenEndsWithOneLine();
 
@@ -408,11 +409,27 @@ void TestTerminalSimulator::aFieldIsDrivenWithoutADisplay()
     QCOMPARE(records[0], records[1]);
 }
 
+void TestTerminalSimulator::aReportIsAPageInTheChosenLanguageAndUnits()
+{
+    const QString path = folder.filePath(QStringLiteral("report.html"));
+    const Outcome outcome = run(
+        {"--drive", path, "--language", "de", "--units", "us", "--columns", "SEED_K_HA", zones()}, withoutDisplay());
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray page = file.readAll();
+    QVERIFY(page.startsWith("<!DOCTYPE html>") && page.endsWith("</html>\n"));
+    for (const char *text : {"Bericht einer Fahrt", "Seed (k/ac)", "Ausgebracht", "three-zones.geojson"})
+        QVERIFY2(page.contains(text), text);
+}
+
 void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
     const QString report = folder.filePath(QStringLiteral("report-of-nothing.json"));
+    const QString linkedZones = folder.filePath(QStringLiteral("zones.gpkg"));
+    QFile::link(zones(), linkedZones);
     const auto products = [this](const char *name, const QByteArray &machine) {
         return write("{" + machine + R"(, "products": [{"name": "A", "kind": "count"}]})", QLatin1String(name));
     };
@@ -423,6 +440,15 @@ void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine_data()
                               << folder.filePath(QStringLiteral("none.json"))
             + ": \"width\" is 0; a number from 0.5 to 200 is wanted";
     QTest::newRow("report nowhere") << QStringList{"--drive", "/nowhere/a.json"} << "/nowhere/a.json: ";
+    QDir(folder.path()).mkdir(QStringLiteral("folder.html"));
+    QTest::newRow("report is a folder") << QStringList{"--drive", folder.filePath(QStringLiteral("folder.html"))}
+                                        << folder.filePath(QStringLiteral("folder.html")) + ": is a folder, not a file";
+    QFile::link(QStringLiteral("/dev/full"), folder.filePath(QStringLiteral("full.html")));
+    QTest::newRow("report on a full disk")
+        << QStringList{"--drive", folder.filePath(QStringLiteral("full.html"))}
+        << folder.filePath(QStringLiteral("full.html")) + ": No space left on device";
+    QTest::newRow("record is the prescription")
+        << QStringList{"--drive", report, "--record", linkedZones} << linkedZones + ": is the prescription itself";
     QTest::newRow("record nowhere") << QStringList{"--drive", report, "--record", "/nowhere/a.csv"}
                                     << "/nowhere/a.csv: No such file or directory";
 }

@@ -47,6 +47,8 @@ public:
     const RateCommand &command(int number) const { return channels.at(size_t(number - 1)).command; }
     /// Where the product's rate was asked for last.
     QPointF askedPoint(int number) const { return channels.at(size_t(number - 1)).asked; }
+    /// The product's look-ahead time now, milliseconds.
+    int lookAheadMs(int number) const { return settings().value(number - 1).onLookAheadMs; }
     /// What would be commanded for a place if the implement were there and moved, by product.
     std::vector<RateCommand> commandsAt(const QPointF &place) const;
 

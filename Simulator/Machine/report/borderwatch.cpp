@@ -38,10 +38,10 @@ void BorderWatch::step(double time, double way, double mean)
         samples.pop_front();
 }
 
-void BorderWatch::border(double time, double way, double newTarget)
+void BorderWatch::border(double time, double way, const QPointF &place, double newTarget)
 {
     // Two borders are settled by the middle between them as soon as the step is there.
-    borders.push_back({time, way, target, newTarget});
+    borders.push_back({time, way, place, target, newTarget});
     target = newTarget;
 }
 
@@ -79,17 +79,18 @@ void BorderWatch::settle(double until)
     const auto moment = [&border, jump](double begin, double end, double amount) {
         return (amount - border.after * end + border.before * begin) / jump;
     };
-    found.push_back({moment(from.way, to.way, to.overWay - from.overWay) - border.way,
-                     moment(from.time, to.time, to.overTime - from.overTime) - border.time});
+    const Lateness late{moment(from.way, to.way, to.overWay - from.overWay) - border.way,
+                        moment(from.time, to.time, to.overTime - from.overTime) - border.time};
+    found.push_back({border.place, border.before, border.after, late});
 }
 
 BorderWatch::Lateness BorderWatch::median() const
 {
     std::vector<double> metres;
     std::vector<double> seconds;
-    for (const Lateness &change : found) {
-        metres.push_back(change.metres);
-        seconds.push_back(change.seconds);
+    for (const Change &change : found) {
+        metres.push_back(change.late.metres);
+        seconds.push_back(change.late.seconds);
     }
     return {medianOf(std::move(metres)), medianOf(std::move(seconds))};
 }

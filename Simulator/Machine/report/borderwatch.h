@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPointF>
+
 #include <deque>
 #include <vector>
 
@@ -17,18 +19,26 @@ public:
         double metres = 0.0;
         double seconds = 0.0;
     };
+    struct Change {
+        /// Where the implement's middle crossed the border.
+        QPointF place;
+        /// The rates wanted on either side.
+        double before = 0.0;
+        double after = 0.0;
+        Lateness late;
+    };
 
     /// The implement went down; `time` (seconds) and `way` (metres) go on over the whole drive. `target`: the rate that
     /// is wanted on the ground there.
     void begin(double time, double way, double target);
     /// Adds a step that ended then, in which `mean` was applied.
     void step(double time, double way, double mean);
-    /// Within the step that is added next the rate wanted on the ground changed.
-    void border(double time, double way, double target);
+    /// Within the step that is added next the rate wanted on the ground changed, at that place.
+    void border(double time, double way, const QPointF &place, double target);
     /// The implement went up.
     void end();
 
-    const std::vector<Lateness> &changes() const { return found; }
+    const std::vector<Change> &changes() const { return found; }
     /// The middle one of each; zero when there are no changes.
     Lateness median() const;
 
@@ -43,6 +53,7 @@ private:
     struct Border {
         double time;
         double way;
+        QPointF place;
         double before;
         double after;
     };
@@ -50,7 +61,7 @@ private:
     Sample at(double time) const;
     void settle(double until);
 
-    std::vector<Lateness> found;
+    std::vector<Change> found;
     std::deque<Sample> samples;
     std::deque<Border> borders;
     double formerBorder = 0.0;

@@ -17,12 +17,32 @@ constexpr double sampleWidth = 1.0;
 
 } // namespace
 
+DriveTally::RateClass &DriveTally::RateClass::operator+=(const RateClass &other)
+{
+    area += other.area;
+    planned += other.planned;
+    applied += other.applied;
+    return *this;
+}
+
+void DriveTally::ProductTally::add(double prescribed, double applied, double area)
+{
+    const double hectares = area / squareMetresOfHectare;
+    const bool isPrescribed = !std::isnan(prescribed);
+    RateClass &ground = isPrescribed ? classes[prescribed] : unprescribed;
+    ground.area += area;
+    ground.applied += applied * hectares;
+    if (!isPrescribed)
+        return;
+    ground.planned += prescribed * hectares;
+    errors.add(applied - prescribed, area);
+}
+
 DriveTally::DriveTally(Simulation *simulation, Ground ground, QObject *parent)
     : QObject(parent)
     , simulation(simulation)
     , ground(ground)
     , tallies(size_t(simulation->machine()->products().size()))
-    , lastPlace(simulation->vehicle()->position())
     , firstTime(simulation->seconds())
     , lastTime(firstTime)
 {
@@ -48,13 +68,14 @@ void DriveTally::count()
 {
     const Vehicle &vehicle = *simulation->vehicle();
     const QPointF place = vehicle.position();
-    const QPointF moved = place - lastPlace;
+    const QPointF before = simulation->stepStart().place;
+    const QPointF moved = place - before;
     const double length = std::hypot(moved.x(), moved.y());
     lastTime = simulation->seconds();
     if (vehicle.isWorking()) {
         // A swath begins on the field's edge, which is no change of rate.
         if (wasWorking)
-            countBorders(lastPlace, place, length);
+            countBorders(before, place, length);
         else
             beginSwath(place, way + length);
         if (ground == Ground::Counted)
@@ -64,7 +85,6 @@ void DriveTally::count()
             tally.borders.end();
     }
     wasWorking = vehicle.isWorking();
-    lastPlace = place;
     way += length;
 }
 
@@ -80,17 +100,13 @@ void DriveTally::countGround(double length)
     const Vehicle &vehicle = *simulation->vehicle();
     const int samples = std::max(1, int(std::ceil(vehicle.size().width / sampleWidth)));
     const double share = length * vehicle.size().width / samples;
-    const QPointF middle = 0.5 * (lastPlace + vehicle.position());
+    const QPointF middle = 0.5 * (simulation->stepStart().place + vehicle.position());
     area += length * vehicle.size().width;
     for (int sample = 0; sample < samples; ++sample) {
         const double beside = vehicle.size().width * ((sample + 0.5) / samples - 0.5);
         const auto commands = simulation->controller()->commandsAt(middle + beside * vehicle.pose().rightward());
         for (size_t i = 0; i < tallies.size(); ++i) {
-            const double prescribed = commands[i].prescribed;
-            RateClass &rateClass = std::isnan(prescribed) ? tallies[i].unprescribed : tallies[i].classes[prescribed];
-            rateClass.area += share;
-            rateClass.planned += std::isnan(prescribed) ? 0.0 : prescribed * share / squareMetresOfHectare;
-            rateClass.applied += simulation->rates(int(i) + 1).meanApplied * share / squareMetresOfHectare;
+            tallies[i].add(commands[i].prescribed, simulation->rates(int(i) + 1).meanApplied, share);
         }
     }
 }
@@ -109,7 +125,8 @@ void DriveTally::countBorders(const QPointF &from, const QPointF &to, double len
                 const double middle = 0.5 * (before + after);
                 (targetsAt(from + middle * (to - from))[i] == former[i] ? before : after) = middle;
             }
-            borders.border(lastTime - (1.0 - after) * stepTime, way + after * length, targets[i]);
+            borders.border(lastTime - (1.0 - after) * stepTime, way + after * length, from + after * (to - from),
+                           targets[i]);
         }
         borders.step(lastTime, way + length, simulation->rates(int(i) + 1).meanApplied);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "borderwatch.h"
+#include "errorhistogram.h"
 #include "ratecommand.h"
 
 #include <QObject>
@@ -23,12 +24,19 @@ public:
         double area = 0.0;
         double planned = 0.0;
         double applied = 0.0;
+
+        RateClass &operator+=(const RateClass &other);
     };
     struct ProductTally {
         /// By prescribed rate. What was worked where no rate is prescribed stands apart: nothing is planned there.
         std::map<double, RateClass> classes;
         RateClass unprescribed;
+        /// Applied minus prescribed, where a rate is prescribed.
+        ErrorHistogram errors;
         BorderWatch borders;
+
+        /// Adds ground of one prescribed rate, not a number for none, to which `applied` was applied.
+        void add(double prescribed, double applied, double area);
     };
 
     /// What is counted beside the lateness of changes.
@@ -57,7 +65,6 @@ private:
     std::vector<ProductTally> tallies;
     /// The rates wanted on the ground at the end of the last step, by product.
     std::vector<double> targets;
-    QPointF lastPlace;
     bool wasWorking = false;
     double firstTime;
     double lastTime;

@@ -96,6 +96,21 @@ FieldDrive::FieldDrive(Simulation *simulation, DrivePath path)
     simulation->vehicle()->follow(this->path);
 }
 
+QRectF FieldDrive::workedBounds() const
+{
+    // Metres; no arc leaves the chord by more than half of it.
+    constexpr double step = 2.0;
+    const double reach = 0.5 * simulation->vehicle()->size().width + step;
+    QRectF bounds;
+    for (double way = 0.0; way < path.length() + step; way += step) {
+        const DrivePath::Point point = path.at(way);
+        const QPointF place = point.pose.place;
+        if (point.isWorked)
+            bounds |= QRectF(place.x() - reach, place.y() - reach, 2.0 * reach, 2.0 * reach);
+    }
+    return bounds;
+}
+
 void FieldDrive::run(const Progress &progress)
 {
     constexpr int stepsToTell = 1000;

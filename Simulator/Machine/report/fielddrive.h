@@ -5,6 +5,8 @@
 #include "result.h"
 #include "swathplan.h"
 
+#include <QRectF>
+
 #include <functional>
 #include <map>
 #include <vector>
@@ -33,6 +35,8 @@ public:
     /// Puts the machine at the path's start. `simulation` is not owned and outlives the drive.
     FieldDrive(Simulation *simulation, DrivePath path);
 
+    /// What a machine of the simulation's size can pass over while the implement is down, metres of the local plane.
+    QRectF workedBounds() const;
     /// From the path's start to its end.
     void run(const Progress &progress = {});
     /// Drives with one look-ahead time after the other for all products, in steps near the best and coarser around:

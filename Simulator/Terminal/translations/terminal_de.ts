@@ -33,6 +33,125 @@
     </message>
 </context>
 <context>
+    <name>ProductSection</name>
+    <message>
+        <source>No prescription drives this product.</source>
+        <translation>Keine Applikationskarte steuert dieses Produkt.</translation>
+    </message>
+    <message>
+        <source>Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s</source>
+        <translation>Spalte %1; Vorausschau %2 s; Totzeit %3 s, Zeitkonstante %4 s</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Vorgegeben</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Ausgebracht</translation>
+    </message>
+    <message>
+        <source>Each picture is %1 wide; north is up.</source>
+        <translation>Jedes Bild ist %1 breit; Norden ist oben.</translation>
+    </message>
+    <message>
+        <source>Area and amount by class</source>
+        <translation>Fläche und Menge je Klasse</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Geplant</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>of the plan</source>
+        <translation>vom Plan</translation>
+    </message>
+    <message>
+        <source>No rate prescribed</source>
+        <translation>Keine Menge vorgegeben</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Error: applied minus prescribed</source>
+        <translation>Fehler: ausgebracht minus vorgegeben</translation>
+    </message>
+    <message>
+        <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
+        <translation>Um höchstens %1 neben der Vorgabe: %2 der Fläche. Außerhalb des Diagramms: %3.</translation>
+    </message>
+    <message>
+        <source>applied minus prescribed</source>
+        <translation>ausgebracht minus vorgegeben</translation>
+    </message>
+    <message>
+        <source>Early and late</source>
+        <translation>Zu früh und zu spät</translation>
+    </message>
+    <message>
+        <source>No change of rate was crossed.</source>
+        <translation>Es wurde kein Wechsel der Menge überfahren.</translation>
+    </message>
+    <message>
+        <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
+        <translation>%1 Wechsel der Menge; Median %2, %3 s. Über null ist zu spät, unter null zu früh.</translation>
+    </message>
+    <message>
+        <source>The %1 that are farthest from their borders:</source>
+        <translation>Die %1, die am weitesten neben ihren Grenzen liegen:</translation>
+    </message>
+    <message>
+        <source>East of the middle</source>
+        <translation>Östlich der Mitte</translation>
+    </message>
+    <message>
+        <source>North of the middle</source>
+        <translation>Nördlich der Mitte</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Zu spät</translation>
+    </message>
+    <message>
+        <source>Look-ahead</source>
+        <translation>Vorausschau</translation>
+    </message>
+    <message>
+        <source>A look-ahead of %1 s puts the changes nearest to the borders.</source>
+        <translation>Eine Vorausschau von %1 s bringt die Wechsel am nächsten an die Grenzen.</translation>
+    </message>
+    <message>
+        <source>look-ahead</source>
+        <translation>Vorausschau</translation>
+    </message>
+    <message>
+        <source>median lateness</source>
+        <translation>Verspätung im Median</translation>
+    </message>
+</context>
+<context>
     <name>ProductSelector</name>
     <message>
         <source>Bin %1</source>
@@ -45,6 +164,37 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUKTE</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPage</name>
+    <message>
+        <source>Report of a drive</source>
+        <translation>Bericht einer Fahrt</translation>
+    </message>
+    <message>
+        <source>Prescription</source>
+        <translation>Applikationskarte</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Area worked</source>
+        <translation>Bearbeitete Fläche</translation>
+    </message>
+    <message>
+        <source>Working width</source>
+        <translation>Arbeitsbreite</translation>
     </message>
 </context>
 <context>

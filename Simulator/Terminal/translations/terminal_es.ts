@@ -33,6 +33,125 @@
     </message>
 </context>
 <context>
+    <name>ProductSection</name>
+    <message>
+        <source>No prescription drives this product.</source>
+        <translation>Ninguna prescripción controla este producto.</translation>
+    </message>
+    <message>
+        <source>Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s</source>
+        <translation>Columna %1; anticipación %2 s; tiempo muerto %3 s, constante de tiempo %4 s</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrito</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicado</translation>
+    </message>
+    <message>
+        <source>Each picture is %1 wide; north is up.</source>
+        <translation>Cada imagen abarca %1 de ancho; el norte está arriba.</translation>
+    </message>
+    <message>
+        <source>Area and amount by class</source>
+        <translation>Superficie y cantidad por clase</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Superficie</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Previsto</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>of the plan</source>
+        <translation>de lo previsto</translation>
+    </message>
+    <message>
+        <source>No rate prescribed</source>
+        <translation>Sin dosis prescrita</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Error: applied minus prescribed</source>
+        <translation>Error: aplicado menos prescrito</translation>
+    </message>
+    <message>
+        <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
+        <translation>A no más de %1 de lo prescrito: %2 de la superficie. Fuera del gráfico: %3.</translation>
+    </message>
+    <message>
+        <source>applied minus prescribed</source>
+        <translation>aplicado menos prescrito</translation>
+    </message>
+    <message>
+        <source>Early and late</source>
+        <translation>Antes y después</translation>
+    </message>
+    <message>
+        <source>No change of rate was crossed.</source>
+        <translation>No se cruzó ningún cambio de dosis.</translation>
+    </message>
+    <message>
+        <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
+        <translation>%1 cambios de dosis; mediana %2, %3 s. Por encima de cero es tarde; por debajo, temprano.</translation>
+    </message>
+    <message>
+        <source>The %1 that are farthest from their borders:</source>
+        <translation>Los %1 más alejados de sus límites:</translation>
+    </message>
+    <message>
+        <source>East of the middle</source>
+        <translation>Al este del centro</translation>
+    </message>
+    <message>
+        <source>North of the middle</source>
+        <translation>Al norte del centro</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Retraso</translation>
+    </message>
+    <message>
+        <source>Look-ahead</source>
+        <translation>Anticipación</translation>
+    </message>
+    <message>
+        <source>A look-ahead of %1 s puts the changes nearest to the borders.</source>
+        <translation>Una anticipación de %1 s acerca más los cambios a los límites.</translation>
+    </message>
+    <message>
+        <source>look-ahead</source>
+        <translation>anticipación</translation>
+    </message>
+    <message>
+        <source>median lateness</source>
+        <translation>retraso mediano</translation>
+    </message>
+</context>
+<context>
     <name>ProductSelector</name>
     <message>
         <source>Bin %1</source>
@@ -45,6 +164,37 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUCTOS</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPage</name>
+    <message>
+        <source>Report of a drive</source>
+        <translation>Informe de un recorrido</translation>
+    </message>
+    <message>
+        <source>Prescription</source>
+        <translation>Prescripción</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Area worked</source>
+        <translation>Superficie trabajada</translation>
+    </message>
+    <message>
+        <source>Working width</source>
+        <translation>Ancho de trabajo</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,125 @@
     </message>
 </context>
 <context>
+    <name>ProductSection</name>
+    <message>
+        <source>No prescription drives this product.</source>
+        <translation>Aucune préconisation ne commande ce produit.</translation>
+    </message>
+    <message>
+        <source>Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s</source>
+        <translation>Colonne %1 ; anticipation %2 s ; temps mort %3 s, constante de temps %4 s</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Préconisé</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Appliqué</translation>
+    </message>
+    <message>
+        <source>Each picture is %1 wide; north is up.</source>
+        <translation>Chaque image fait %1 de large ; le nord est en haut.</translation>
+    </message>
+    <message>
+        <source>Area and amount by class</source>
+        <translation>Surface et quantité par classe</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Prévu</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Écart</translation>
+    </message>
+    <message>
+        <source>of the plan</source>
+        <translation>du prévu</translation>
+    </message>
+    <message>
+        <source>No rate prescribed</source>
+        <translation>Aucune dose préconisée</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Error: applied minus prescribed</source>
+        <translation>Erreur : appliqué moins préconisé</translation>
+    </message>
+    <message>
+        <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
+        <translation>À %1 au plus de la préconisation : %2 de la surface. Hors du graphique : %3.</translation>
+    </message>
+    <message>
+        <source>applied minus prescribed</source>
+        <translation>appliqué moins préconisé</translation>
+    </message>
+    <message>
+        <source>Early and late</source>
+        <translation>En avance et en retard</translation>
+    </message>
+    <message>
+        <source>No change of rate was crossed.</source>
+        <translation>Aucun changement de dose n’a été franchi.</translation>
+    </message>
+    <message>
+        <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
+        <translation>%1 changements de dose ; médiane %2, %3 s. Au-dessus de zéro : en retard ; au-dessous : en avance.</translation>
+    </message>
+    <message>
+        <source>The %1 that are farthest from their borders:</source>
+        <translation>Les %1 les plus éloignés de leurs limites :</translation>
+    </message>
+    <message>
+        <source>East of the middle</source>
+        <translation>À l’est du centre</translation>
+    </message>
+    <message>
+        <source>North of the middle</source>
+        <translation>Au nord du centre</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Retard</translation>
+    </message>
+    <message>
+        <source>Look-ahead</source>
+        <translation>Anticipation</translation>
+    </message>
+    <message>
+        <source>A look-ahead of %1 s puts the changes nearest to the borders.</source>
+        <translation>Une anticipation de %1 s place les changements au plus près des limites.</translation>
+    </message>
+    <message>
+        <source>look-ahead</source>
+        <translation>anticipation</translation>
+    </message>
+    <message>
+        <source>median lateness</source>
+        <translation>retard médian</translation>
+    </message>
+</context>
+<context>
     <name>ProductSelector</name>
     <message>
         <source>Bin %1</source>
@@ -45,6 +164,37 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUITS</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPage</name>
+    <message>
+        <source>Report of a drive</source>
+        <translation>Rapport d’un passage</translation>
+    </message>
+    <message>
+        <source>Prescription</source>
+        <translation>Préconisation</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Area worked</source>
+        <translation>Surface travaillée</translation>
+    </message>
+    <message>
+        <source>Working width</source>
+        <translation>Largeur de travail</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,125 @@
     </message>
 </context>
 <context>
+    <name>ProductSection</name>
+    <message>
+        <source>No prescription drives this product.</source>
+        <translation>Nenhuma prescrição controla este produto.</translation>
+    </message>
+    <message>
+        <source>Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s</source>
+        <translation>Coluna %1; antecipação %2 s; tempo morto %3 s, constante de tempo %4 s</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrito</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicado</translation>
+    </message>
+    <message>
+        <source>Each picture is %1 wide; north is up.</source>
+        <translation>Cada imagem tem %1 de largura; o norte está em cima.</translation>
+    </message>
+    <message>
+        <source>Area and amount by class</source>
+        <translation>Área e quantidade por classe</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Área</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Previsto</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferença</translation>
+    </message>
+    <message>
+        <source>of the plan</source>
+        <translation>do previsto</translation>
+    </message>
+    <message>
+        <source>No rate prescribed</source>
+        <translation>Sem dose prescrita</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Error: applied minus prescribed</source>
+        <translation>Erro: aplicado menos prescrito</translation>
+    </message>
+    <message>
+        <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
+        <translation>A no máximo %1 do prescrito: %2 da área. Fora do gráfico: %3.</translation>
+    </message>
+    <message>
+        <source>applied minus prescribed</source>
+        <translation>aplicado menos prescrito</translation>
+    </message>
+    <message>
+        <source>Early and late</source>
+        <translation>Antes e depois</translation>
+    </message>
+    <message>
+        <source>No change of rate was crossed.</source>
+        <translation>Nenhuma mudança de dose foi cruzada.</translation>
+    </message>
+    <message>
+        <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
+        <translation>%1 mudanças de dose; mediana %2, %3 s. Acima de zero é tarde; abaixo, cedo.</translation>
+    </message>
+    <message>
+        <source>The %1 that are farthest from their borders:</source>
+        <translation>As %1 mais distantes dos seus limites:</translation>
+    </message>
+    <message>
+        <source>East of the middle</source>
+        <translation>A leste do centro</translation>
+    </message>
+    <message>
+        <source>North of the middle</source>
+        <translation>Ao norte do centro</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Atraso</translation>
+    </message>
+    <message>
+        <source>Look-ahead</source>
+        <translation>Antecipação</translation>
+    </message>
+    <message>
+        <source>A look-ahead of %1 s puts the changes nearest to the borders.</source>
+        <translation>Uma antecipação de %1 s deixa as mudanças mais perto dos limites.</translation>
+    </message>
+    <message>
+        <source>look-ahead</source>
+        <translation>antecipação</translation>
+    </message>
+    <message>
+        <source>median lateness</source>
+        <translation>atraso mediano</translation>
+    </message>
+</context>
+<context>
     <name>ProductSelector</name>
     <message>
         <source>Bin %1</source>
@@ -45,6 +164,37 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUTOS</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPage</name>
+    <message>
+        <source>Report of a drive</source>
+        <translation>Relatório de um percurso</translation>
+    </message>
+    <message>
+        <source>Prescription</source>
+        <translation>Prescrição</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distância</translation>
+    </message>
+    <message>
+        <source>Area worked</source>
+        <translation>Área trabalhada</translation>
+    </message>
+    <message>
+        <source>Working width</source>
+        <translation>Largura de trabalho</translation>
     </message>
 </context>
 <context>

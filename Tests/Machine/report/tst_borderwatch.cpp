@@ -43,11 +43,15 @@ void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount()
     for (int step = 1; step <= 400; ++step) {
         const double time = 0.1 * step;
         if (time > border && time - 0.1 <= border)
-            watch.border(border, speed * border, 60.0);
+            watch.border(border, speed * border, {7, 8}, 60.0);
         watch.step(time, speed * time, (amount(time) - amount(time - 0.1)) / 0.1);
     }
     watch.end();
     QCOMPARE(watch.changes().size(), size_t(1));
+    const BorderWatch::Change &change = watch.changes().front();
+    QCOMPARE(change.place, QPointF(7, 8));
+    QCOMPARE(change.before, 100.0);
+    QCOMPARE(change.after, 60.0);
     const double expected = begin + timeConstant;
     QVERIFY2(std::fabs(watch.median().seconds - expected) < 1e-4, qPrintable(QString::number(watch.median().seconds)));
     QVERIFY(std::fabs(watch.median().metres - speed * expected) < 3e-4);
@@ -60,16 +64,16 @@ void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
     watch.begin(0.0, 0.0, 50.0);
     for (int step = 1; step <= 120; ++step) {
         if (step == 51)
-            watch.border(5.0, 10.0, 80.0);
+            watch.border(5.0, 10.0, {}, 80.0);
         if (step == 91)
-            watch.border(9.0, 18.0, 50.0);
+            watch.border(9.0, 18.0, {}, 50.0);
         watch.step(0.1 * step, 0.2 * step, step > 55 && step <= 95 ? 80.0 : 50.0);
     }
     watch.end();
     QCOMPARE(watch.changes().size(), size_t(2));
-    for (const BorderWatch::Lateness &change : watch.changes()) {
-        QVERIFY2(std::fabs(change.seconds - 0.5) < 1e-9, qPrintable(QString::number(change.seconds)));
-        QVERIFY(std::fabs(change.metres - 1.0) < 1e-9);
+    for (const BorderWatch::Change &change : watch.changes()) {
+        QVERIFY2(std::fabs(change.late.seconds - 0.5) < 1e-9, qPrintable(QString::number(change.late.seconds)));
+        QVERIFY(std::fabs(change.late.metres - 1.0) < 1e-9);
     }
 }
 
@@ -80,7 +84,7 @@ void TestBorderWatch::theMedianIsTheMiddle()
     for (const double late : {0.4, 0.1, 0.9, 0.3}) {
         watch.begin(0.0, 0.0, 10.0);
         watch.step(2.0, 2.0, 10.0);
-        watch.border(2.0, 2.0, 20.0);
+        watch.border(2.0, 2.0, {}, 20.0);
         watch.step(2.0 + late, 2.0 + late, 10.0);
         watch.step(4.0, 4.0, 20.0);
         watch.end();

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+
+class QXmlStreamWriter;
+struct DrivenField;
+
+/// What came of a drive as one page of HTML that needs nothing else: texts in the program's language, numbers in the
+/// operator's units. The same drive makes the same page.
+class ReportPage {
+    Q_DECLARE_TR_FUNCTIONS(ReportPage)
+
+public:
+    static QByteArray make(const DrivenField &field);
+
+private:
+    static void writeHead(QXmlStreamWriter &page);
+    static void writeSummary(QXmlStreamWriter &page, const DrivenField &field);
+};
