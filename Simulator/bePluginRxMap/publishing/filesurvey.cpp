@@ -1,7 +1,6 @@
 #include "filesurvey.h"
 
 #include "columncontent.h"
-#include "columnname.h"
 #include "legendbuilder.h"
 #include "recordpicture.h"
 #include "tablecolumns.h"
@@ -52,7 +51,7 @@ SurveyedColumn FileSurvey::describe(int place) const
     told.key = isFoundByName ? column.name : QStringLiteral("#%1").arg(column.field + 1);
     told.unit = unit.unit.text();
     told.unitFrom = unit.from;
-    told.isSure = ColumnName(column.name).namesRate();
+    told.isSure = LikelyColumns::saysRates(column);
     classify(column, told);
     return told;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/placerates.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +17,9 @@ using SpatialReference = std::unique_ptr<OGRSpatialReference, SpatialReferenceRe
 
 /// A column of the attribute table.
 struct SourceColumn {
+    /// What the format says of a column, whatever its name and content.
+    enum class Meaning { NotSaid, Rates, NoRates };
+
     QString name;
     /// Place among the table's fields.
     int field = -1;
@@ -29,6 +34,11 @@ struct SourceColumn {
     QString unit;
     /// The first text whose comma may have been meant to set off thousands; empty when there is none.
     QString ambiguous;
+    Meaning meaning = Meaning::NotSaid;
+    /// The unit that the format gives, "mm3/m2"; empty when it gives none.
+    QString formatUnit;
+    /// In the column's unit.
+    PlaceRates placeRates = {};
 };
 
 /// A column that holds the same text in every record that has any, such as the unit of a rate.
@@ -47,6 +57,14 @@ struct SourceRing {
     size_t count = 0;
     int record = -1;     ///< From 0.
     bool isHole = false; ///< Holes follow the outer ring that they belong to.
+};
+
+/// The boundary of a field, in the file's own coordinates.
+struct SourceBoundary {
+    std::vector<double> xs;
+    std::vector<double> ys;
+    /// For each ring, outer or inner, the place behind its last vertex.
+    std::vector<size_t> ends;
 };
 
 /// What a prescription file holds.
@@ -76,4 +94,6 @@ struct RawPrescription {
     std::vector<int> notFiniteRecords; ///< With a coordinate that is not finite.
     std::vector<int> droppedRings;     ///< For each ring of fewer than three different vertices its record.
     QStringList warnings;
+    /// Empty where the file has none.
+    SourceBoundary boundary;
 };

@@ -211,8 +211,8 @@ void PrescriptionBackendSurveyTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn_
     using Info = DbGroupProductGroupInfo;
     QTest::newRow("count") << int(Info::CountRate) << "1000 seeds million";
     QTest::newRow("weight") << int(Info::WeightRate) << "kg g mg dt t lb oz cwt ton";
-    QTest::newRow("volume") << int(Info::VolumeRate) << "L mL cL dL hL m3 gal qt pt fl oz imp gal";
-    QTest::newRow("injection") << int(Info::InjectionRate) << "L mL cL dL hL m3 gal qt pt fl oz imp gal";
+    QTest::newRow("volume") << int(Info::VolumeRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";
+    QTest::newRow("injection") << int(Info::InjectionRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";
     for (const auto kind : {Info::RatioRate, Info::PressureRate, Info::UnknownRate})
         QTest::addRow("kind %d", int(kind)) << int(kind) << "";
 }

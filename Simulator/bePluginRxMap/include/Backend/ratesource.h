@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/placerates.h"
+
 #include <QString>
 
 /// Where the rates of one product come from.
@@ -16,4 +18,8 @@ struct RateSource {
     int product = 0;
     /// Whether the operator or the column's name says that it holds rates; else it was taken by its content.
     bool isSure = true;
+    /// What the file gives for places without a prescription, in the product's base unit.
+    PlaceRates placeRates = {};
+    /// Unit of these, "kg/ha"; empty for a product of no known kind.
+    QString baseUnit = {};
 };

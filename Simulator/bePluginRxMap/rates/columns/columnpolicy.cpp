@@ -193,7 +193,10 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     const QString base = RateUnit::baseText(product.kind);
     feed.factor = unit.unit.factorTo(product.kind);
     RateSource told{column.name, unit.unit.isKnown() ? unit.unit.text() : base, unit.from, feed.product + 1, true};
-    told.isSure = !names.isEmpty() || ColumnName(column.name).namesRate();
+    told.isSure = !names.isEmpty() || LikelyColumns::saysRates(column);
+    told.baseUnit = base;
+    for (double PlaceRates::*rate : {&PlaceRates::outOfField, &PlaceRates::elsewhere, &PlaceRates::positionLost})
+        told.placeRates.*rate = feed.factor * column.placeRates.*rate;
     decision.sources.append(told);
     using Kind = MapFinding::Kind;
     const auto tell = [&decision](Kind kind, const QString &text) { decision.findings.append(finding(kind, text)); };

@@ -42,6 +42,12 @@ ColumnUnit ColumnUnits::of(int place) const
         result.from = unit.isKnown() ? from : RateSource::UnitFrom::Assumed;
         return unit.isKnown();
     };
+    // Nothing else tells the unit of what the format has given one.
+    if (!column.formatUnit.isEmpty()) {
+        if (!take(RateUnit::fromText(column.formatUnit), RateSource::UnitFrom::Format))
+            result.unknownText = column.formatUnit;
+        return result;
+    }
     if (const TextColumn *beside = unitsBeside(column.field)) {
         if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column))
             return result;

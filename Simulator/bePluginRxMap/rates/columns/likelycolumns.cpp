@@ -28,6 +28,19 @@ uint contentHash(const SourceColumn &column)
     return qHashRange(column.values.begin(), column.values.end());
 }
 
+/// Whether the column's format or name says that it holds no rates.
+bool saysNoRates(const SourceColumn &column)
+{
+    return column.meaning == SourceColumn::Meaning::NoRates
+        || (column.meaning == SourceColumn::Meaning::NotSaid && ColumnName(column.name).namesOther());
+}
+
+/// What is measured out: by the unit that the format gives, else by the name.
+ProductLineItem::Basis basisOf(const ColumnName &name, const ColumnUnit &unit)
+{
+    return unit.from == RateSource::UnitFrom::Format ? unit.unit.basis() : name.basis();
+}
+
 bool mayBeOne(const RateUnit &one, const RateUnit &other)
 {
     return !one.isKnown() || !other.isKnown() || one.text() == other.text();
@@ -47,7 +60,13 @@ LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::
     QMultiHash<uint, LikelyColumn> byContent;
     for (const int place : places) {
         const ColumnName name(column(place).name);
-        const LikelyColumn candidate{place, units.of(place), name.basis()};
+        const ColumnUnit unit = units.of(place);
+        const LikelyColumn candidate{place, unit, basisOf(name, unit)};
+        // A format that says what a column is means each of them, whatever its rates.
+        if (column(place).meaning == SourceColumn::Meaning::Rates) {
+            likely.push_back(candidate);
+            continue;
+        }
         const uint content = contentHash(column(place));
         const QList<LikelyColumn> alike = byContent.values(content);
         const bool isRepetition = (name.namesApplied() && subjects.contains(name.subject()))
@@ -65,16 +84,20 @@ LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::
               [](const LikelyColumn &a, const LikelyColumn &b) { return a.place < b.place; });
 }
 
+bool LikelyColumns::saysRates(const SourceColumn &column)
+{
+    return column.meaning == SourceColumn::Meaning::Rates || ColumnName(column.name).namesRate();
+}
+
 std::vector<int> LikelyColumns::candidates(const std::vector<double> &areas) const
 {
     std::vector<int> named;
     std::vector<int> real;
     std::vector<int> whole;
     for (int place = 0; place < static_cast<int>(source.columns.size()); ++place) {
-        const ColumnName name(column(place).name);
-        if (name.namesOther() || !ColumnContent::hasRates(column(place)))
+        if (saysNoRates(column(place)) || !ColumnContent::hasRates(column(place)))
             continue;
-        if (name.namesRate())
+        if (saysRates(column(place)))
             named.push_back(place);
         else if (ColumnContent::mayBeRates(column(place), source, areas))
             (column(place).isInteger ? whole : real).push_back(place);
@@ -88,8 +111,7 @@ QString LikelyColumns::reasonForNone() const
 {
     QStringList empty;
     for (const SourceColumn &candidate : source.columns) {
-        const ColumnName name(candidate.name);
-        if (!name.namesOther() && name.namesRate() && !ColumnContent::hasRates(candidate))
+        if (!saysNoRates(candidate) && saysRates(candidate) && !ColumnContent::hasRates(candidate))
             empty.append(candidate.name);
     }
     if (!empty.isEmpty())

@@ -26,6 +26,8 @@ public:
     /// In table order. One of each group of equal columns; none that holds what was put out where
     /// there is one with what was wanted.
     const std::vector<LikelyColumn> &columns() const { return likely; }
+    /// Whether the column's format or name says that it holds rates.
+    static bool saysRates(const SourceColumn &column);
     /// What to say of a table that has none.
     QString reasonForNone() const;
 

@@ -61,6 +61,7 @@ const std::vector<AmountUnit> &UnitTable::amounts()
         {"ton", Item::Weight, 2000.0 * kilogramsPerPound, true, nist, "ton tons shortton shorttons"},
         {"L", Item::Volume, 1.0, false, si, "l lt lts ltr ltrs liter liters litre litres litro litros"},
         {"mL", Item::Volume, 1e-3, false, si, "ml cc ccm cm3 milliliter millilitre mililitro mililitros"},
+        {"mm3", Item::Volume, 1e-6, false, si, "mm3"},
         {"cL", Item::Volume, 1e-2, false, si, "cl"},
         {"dL", Item::Volume, 0.1, false, si, "dl"},
         {"hL", Item::Volume, 100.0, false, si, "hl"},

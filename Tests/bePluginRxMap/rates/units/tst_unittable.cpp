@@ -36,6 +36,7 @@ void UnitTableTest::amountsHaveTheirDefinedFactors_data()
     row("ton", 907.18474);
     row("L", 1.0);
     row("mL", 0.001);
+    row("mm3", 0.000001);
     row("cL", 0.01);
     row("dL", 0.1);
     row("hL", 100.0);
