@@ -30,7 +30,7 @@ void declareOptions(QCommandLineParser &parser)
     parser.setApplicationDescription(
         QStringLiteral("Shows prescription maps as the terminal of a field computer does, with the plug-in loaded."));
     parser.addPositionalArgument(QStringLiteral("PRESCRIPTION"),
-                                 QStringLiteral("Shapefile, GeoPackage or GeoJSON to open"),
+                                 QStringLiteral("Shapefile, GeoPackage, GeoJSON or task data to open"),
                                  QStringLiteral("[PRESCRIPTION...]"));
     parser.addOptions({
         {columnsOption, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),

@@ -18,6 +18,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace {
 
@@ -66,6 +68,26 @@ QString unitText(const RateSource &source)
                                  : QStringLiteral("unit not known, taken as ") + source.unit;
 }
 
+/// "default rate 0 kg/ha (out of the field 0, elsewhere 148.15, position lost 148.15)"; empty where the file gives
+/// none.
+QString placeRatesText(const RateSource &source)
+{
+    const PlaceRates &rates = source.placeRates;
+    QStringList parts;
+    for (const auto &[name, rate] :
+         {std::pair("out of the field", rates.outOfField), std::pair("elsewhere", rates.elsewhere),
+          std::pair("position lost", rates.positionLost)}) {
+        if (!std::isnan(rate))
+            parts.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(rate));
+    }
+    if (parts.isEmpty())
+        return {};
+    const QString list = parts.join(QStringLiteral(", "));
+    return std::isnan(rates.defaultRate())
+        ? QStringLiteral("rates without a prescription in %1: %2").arg(source.baseUnit, list)
+        : QStringLiteral("default rate %1 %2 (%3)").arg(rates.defaultRate()).arg(source.baseUnit, list);
+}
+
 /// What feeds which product in the end: a later file may have taken a product over.
 void printFeeds(const Terminal &terminal, const LoadReport &report)
 {
@@ -77,6 +99,10 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
         const QString unit = source == report.sources.end() ? QString() : unitText(*source);
         writeOutputLine(QStringLiteral("%1: product %2 (%3): %4 (%5)")
                             .arg(report.path, QString::number(feed.key()), product, *feed, unit));
+        const QString rates = source == report.sources.end() ? QString() : placeRatesText(*source);
+        if (!rates.isEmpty())
+            writeOutputLine(QStringLiteral("%1: product %2 (%3): %4")
+                                .arg(report.path, QString::number(feed.key()), product, rates));
     }
     if (feeds.isEmpty())
         writeOutputLine(QStringLiteral("%1: feeds no product").arg(report.path));

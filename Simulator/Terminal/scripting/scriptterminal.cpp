@@ -72,11 +72,18 @@ QString unitFromText(RateSource::UnitFrom from)
 
 QVariantMap describe(const RateSource &source)
 {
-    return {{QStringLiteral("column"), source.column},
-            {QStringLiteral("unit"), source.unit},
-            {QStringLiteral("unitFrom"), unitFromText(source.unitFrom)},
-            {QStringLiteral("product"), source.product},
-            {QStringLiteral("sure"), source.isSure}};
+    QVariantMap described{{QStringLiteral("column"), source.column},
+                          {QStringLiteral("unit"), source.unit},
+                          {QStringLiteral("unitFrom"), unitFromText(source.unitFrom)},
+                          {QStringLiteral("product"), source.product},
+                          {QStringLiteral("sure"), source.isSure}};
+    const PlaceRates &rates = source.placeRates;
+    for (const auto &[name, rate] : {std::pair("outOfField", rates.outOfField), std::pair("elsewhere", rates.elsewhere),
+                                     std::pair("positionLost", rates.positionLost)}) {
+        if (!std::isnan(rate))
+            described.insert(QLatin1String(name), rate);
+    }
+    return described;
 }
 
 /// The legend of the active product's column, else of the first one.

@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -202,7 +203,20 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
         return refuse(report.path, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
     }
     entries.push_back(std::move(entry));
+    useDefaultRates(report);
     return report;
+}
+
+void PrescriptionBackendPrivate::useDefaultRates(const LoadReport &report)
+{
+    for (const RateSource &source : report.sources) {
+        const double rate = source.placeRates.defaultRate();
+        if (std::isnan(rate))
+            continue;
+        RxMapLoader *fed = loader(source.product - 1);
+        fed->defaultRate = rate;
+        fed->defaultRateChanged(rate);
+    }
 }
 
 QStringList PrescriptionBackendPrivate::channelsLeft(size_t place, const QStringList &newest) const

@@ -51,6 +51,8 @@ private:
     void finishCurrent(std::unique_ptr<LoadedMap> map);
     void finishSurvey(SurveyReport survey);
     LoadReport publish(std::unique_ptr<LoadedMap> map);
+    /// Where a file gives rates for places without a prescription, the products' default rates follow.
+    void useDefaultRates(const LoadReport &report);
     std::vector<LocalPlane> planes() const;
     QString freeGroupName(const QString &file) const;
     /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.

@@ -188,8 +188,31 @@ bool PrescriptionLoader::place(LoadedMap &map)
     if (!map.plane.project(source, xs, ys, reason))
         return fail(reason);
     map.report.origin = QPointF(map.plane.longitude(), map.plane.latitude());
+    placeBoundary(map);
     control.report(shareOfReading + shareOfPlacing);
     return true;
+}
+
+void PrescriptionLoader::placeBoundary(LoadedMap &map) const
+{
+    const SourceBoundary &boundary = source.boundary;
+    RawPrescription outline;
+    outline.xs = boundary.xs;
+    outline.ys = boundary.ys;
+    if (source.reference)
+        outline.reference.reset(source.reference->Clone());
+    std::vector<double> boundaryXs;
+    std::vector<double> boundaryYs;
+    QString reason;
+    if (outline.xs.empty() || !map.plane.project(outline, boundaryXs, boundaryYs, reason))
+        return;
+    size_t next = 0;
+    for (const size_t end : boundary.ends) {
+        QPolygonF ring;
+        for (; next < end; ++next)
+            ring.append(QPointF(boundaryXs[next], boundaryYs[next]));
+        map.report.boundary.append(ring);
+    }
 }
 
 bool PrescriptionLoader::repairRings()
@@ -241,7 +264,8 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
         const MachineProduct &product = request.products.at(feed.product);
         map.report.columns.append(source.columns[static_cast<size_t>(feed.column)].name);
         map.rateCalNames.append(product.rateCalName);
-        map.defaultRates.append(product.defaultRate);
+        const double given = decision.sources.at(map.defaultRates.size()).placeRates.defaultRate();
+        map.defaultRates.append(std::isnan(given) ? product.defaultRate : given);
     }
     rates = RateTable(source, decision.feeds);
     return true;

@@ -40,6 +40,7 @@ private:
     void tell(MapFinding::Kind kind, const QString &text, int record = -1);
 
     bool place(LoadedMap &map);
+    void placeBoundary(LoadedMap &map) const;
     bool repairRings();
     bool chooseColumns(LoadedMap &map);
     void dropRecordsWithoutRate();

@@ -4,6 +4,7 @@
 #include "shapefilecheck.h"
 #include "shapereader.h"
 #include "tablecolumns.h"
+#include "taskdata/taskdatareader.h"
 #include "textrate.h"
 
 #include <QFileInfo>
@@ -94,7 +95,8 @@ bool mayHoldPolygons(OGRLayer &layer)
 
 PrescriptionReader::PrescriptionReader(const ReadRequest &request, ColumnFilter columnFilter,
                                        const LoadControl &loadControl)
-    : path(request.path)
+    : asked(request)
+    , path(request.path)
     , wanted(request.columns)
     , wantedLayer(request.layer)
     , wantedTask(request.task)
@@ -114,7 +116,8 @@ bool PrescriptionReader::mayRead(const QString &path)
 {
     const QStringList endings{QStringLiteral("shp"), QStringLiteral("gpkg"), QStringLiteral("geojson"),
                               QStringLiteral("json")};
-    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive)
+        || !TaskDataFolder(path).mainFile().isEmpty();
 }
 
 bool PrescriptionReader::checkFile()
@@ -145,6 +148,9 @@ bool PrescriptionReader::isShapefile() const
 
 bool PrescriptionReader::read(RawPrescription &map)
 {
+    TaskDataReader tasks(asked, control);
+    if (tasks.isTaskData())
+        return tasks.read(map) || fail(tasks.error());
     if (!checkFile() || !checkTask())
         return false;
     const GdalSession session;
@@ -163,6 +169,9 @@ bool PrescriptionReader::read(RawPrescription &map)
 
 bool PrescriptionReader::readColumnNames(QStringList &names)
 {
+    TaskDataReader tasks(asked, control);
+    if (tasks.isTaskData())
+        return tasks.readColumnNames(names) || fail(tasks.error());
     if (!checkFile() || !checkTask())
         return false;
     const GdalSession session;

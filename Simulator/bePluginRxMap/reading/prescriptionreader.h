@@ -12,8 +12,8 @@ class OGRFeature;
 class OGRLayer;
 struct GDALDatasetUniquePtrDeleter;
 
-/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage or GeoJSON file. Blocks; use
-/// in the loading thread.
+/// Reads the polygons and the likely or wanted columns of a Shapefile, GeoPackage, GeoJSON file or task data. Blocks;
+/// use in the loading thread.
 class PrescriptionReader {
 public:
     /// Whether a column, of which name and type are known, is worth reading.
@@ -21,7 +21,7 @@ public:
 
     PrescriptionReader(const ReadRequest &request, ColumnFilter isWorthReading, const LoadControl &control);
 
-    /// Whether a file of that name may be one.
+    /// Whether the path may be that of a prescription: a file of that name, or task data.
     static bool mayRead(const QString &path);
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
@@ -45,6 +45,7 @@ private:
     bool readRecords(OGRLayer &layer, RawPrescription &map);
     static void readValues(const OGRFeature &feature, RawPrescription &map);
 
+    ReadRequest asked;
     QString path;
     QStringList wanted;
     QString wantedLayer;

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QMetaType>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
@@ -48,6 +49,8 @@ struct LoadReport {
     QList<MapFinding> findings;
     /// Extent in the local plane, metres: left = least x, top = least y.
     QRectF bounds;
+    /// The field's boundary in the local plane, metres, a ring each, holes too; empty where the file has none.
+    QList<QPolygonF> boundary;
     /// Where the local plane touches the earth, degrees of longitude and latitude. Maps of one origin share a plane.
     QPointF origin;
 
