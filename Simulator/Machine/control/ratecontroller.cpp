@@ -35,6 +35,7 @@ void RateController::findMaps()
         return qobject_cast<DbGroupRxMap *>(broker.getGroup(name, false));
     };
     answers.clear();
+    formerAnswers.clear();
     for (size_t i = 0; i < channels.size(); ++i) {
         const int number = int(i) + 1;
         const ActiveMap map = machine->products().at(int(i)).underVra
@@ -97,7 +98,10 @@ void RateController::update(const VehicleFix &fix)
         lastFix = fix;
         lastPositionTime = fix.time;
     }
-    const std::vector<Answer> former = std::exchange(answers, {});
+    // Both keep their room from step to step.
+    std::swap(answers, formerAnswers);
+    answers.clear();
+    const QPointF forward = lastFix.pose.forward();
     const QList<OrvikTypes::RX_SETTINGS> all = settings();
     for (size_t i = 0; i < channels.size(); ++i) {
         Channel &channel = channels[i];
@@ -107,8 +111,8 @@ void RateController::update(const VehicleFix &fix)
         now.hasPosition = fix.time - lastPositionTime <= positionHolds + 1e-6;
         if (now.isControlled && now.hasPosition) {
             const double ahead = lastFix.speed * double(all.value(int(i)).onLookAheadMs) / 1000.0;
-            channel.asked = lastFix.pose.place + ahead * lastFix.pose.forward();
-            now.prescribed = prescribedRate(channel, channel.asked, answers, former);
+            channel.asked = lastFix.pose.place + ahead * forward;
+            now.prescribed = prescribedRate(channel, channel.asked, answers, formerAnswers);
         }
         channel.command = now.command();
     }

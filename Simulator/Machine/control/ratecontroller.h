@@ -85,6 +85,8 @@ private:
     QPointer<DbGroupRxMap> settingsGroup;
     /// Of the last update: a machine that stands asks nothing anew.
     std::vector<Answer> answers;
+    /// Of the one before.
+    std::vector<Answer> formerAnswers;
     VehicleFix lastFix;
     double lastPositionTime = 0.0;
 };

@@ -113,9 +113,14 @@ void Vehicle::publish()
     if (hasPosition()) {
         const QPointF antenna = state.pose.place + machineSize.antennaOffset * state.pose.forward();
         solution->internalSetPosition(OrvikTypes::XYZ(antenna.x(), antenna.y(), 0.0));
-        solution->internalSetHeading(heading());
+        if (solution->getHeading() != heading())
+            solution->internalSetHeading(heading());
     }
-    solution->internalSetSpeed(std::fabs(state.speed));
-    solution->internalSetVehicleIsStopped(isStopped());
+    // A write costs more than a look, and these seldom change.
+    const double speed = std::fabs(state.speed);
+    if (solution->getSpeed() != speed)
+        solution->internalSetSpeed(speed);
+    if (solution->getVehicleIsStopped() != isStopped())
+        solution->internalSetVehicleIsStopped(isStopped());
     Q_EMIT moved();
 }

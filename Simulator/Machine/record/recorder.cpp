@@ -29,23 +29,28 @@ QString Recorder::stop()
     return error;
 }
 
+RecordEntry Recorder::entryOf(const Simulation &simulation)
+{
+    const Vehicle &vehicle = *simulation.vehicle();
+    RecordEntry entry;
+    entry.time = simulation.seconds();
+    entry.pose = vehicle.pose();
+    entry.start = simulation.stepStart();
+    entry.speed = vehicle.currentSpeed();
+    entry.isWorking = vehicle.isWorking();
+    entry.width = vehicle.size().width;
+    for (int number = 1; number <= simulation.machine()->products().size(); ++number) {
+        const Simulation::Rates rates = simulation.rates(number);
+        entry.channels.push_back({rates.command, rates.applied});
+    }
+    return entry;
+}
+
 void Recorder::record()
 {
     if (!isRecording())
         return;
-    const Vehicle &vehicle = *simulation->vehicle();
-    RecordEntry entry;
-    entry.time = simulation->seconds();
-    entry.pose = vehicle.pose();
-    entry.start = simulation->stepStart();
-    entry.speed = vehicle.currentSpeed();
-    entry.isWorking = vehicle.isWorking();
-    entry.width = vehicle.size().width;
-    for (int number = 1; number <= simulation->machine()->products().size(); ++number) {
-        const Simulation::Rates rates = simulation->rates(number);
-        entry.channels.push_back({rates.command, rates.applied});
-    }
-    writer->write(entry);
+    writer->write(entryOf(*simulation));
     if (!writer->error().isEmpty())
         Q_EMIT failed(writer->error());
 }

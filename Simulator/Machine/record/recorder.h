@@ -14,6 +14,8 @@ public:
     /// `simulation` is not owned and outlives the recorder.
     explicit Recorder(Simulation *simulation, QObject *parent = nullptr);
 
+    /// What is written of the last step.
+    static RecordEntry entryOf(const Simulation &simulation);
     /// Starts a record (see RecordWriter::open) in place of the one that is being written. The reason when it cannot,
     /// and what was being written goes on.
     QString start(const QString &path, const QPointF &origin);
