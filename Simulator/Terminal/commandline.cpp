@@ -29,9 +29,11 @@ void declareOptions(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
         QStringLiteral("Shows prescription maps as the terminal of a field computer does, with the plug-in loaded."));
-    parser.addPositionalArgument(QStringLiteral("PRESCRIPTION"),
-                                 QStringLiteral("Shapefile, GeoPackage, GeoJSON or task data to open"),
-                                 QStringLiteral("[PRESCRIPTION...]"));
+    parser.addPositionalArgument(
+        QStringLiteral("PRESCRIPTION"),
+        QStringLiteral("prescription to open: Shapefile, GeoPackage, GeoJSON, KML, FlatGeobuf, "
+                       "GML or task data"),
+        QStringLiteral("[PRESCRIPTION...]"));
     parser.addOptions({
         {columnsOption, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
          QStringLiteral("A,B,...")},

@@ -31,7 +31,8 @@ ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const L
     for (int i = 0; i < paths.size() && shares.isOk(); ++i) {
         const QString &path = paths.at(i);
         const LoadControl control;
-        PrescriptionReader reader({path, {}, request.layer, request.task}, ColumnPolicy::isWorthReading, control);
+        PrescriptionReader reader({path, request.columns, request.layer, request.task}, ColumnPolicy::chanceOf,
+                                  control);
         ColumnPolicy::File file{path, {}};
         if (!reader.readColumnNames(file.columns))
             shares.error = QStringLiteral("%1: %2").arg(path, reader.error());

@@ -102,13 +102,13 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
 {
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
-    if (!readPolygons(map, ColumnPolicy::isWorthReading))
+    if (!readPolygons(map, ColumnPolicy::chanceOf))
         return false;
     QString lack = FileSurvey(source, polygons).addColumns(policy, survey);
     if (survey.columns.isEmpty()) {
         // Nothing in the table looks like a rate: the operator may know better.
         source = RawPrescription();
-        if (!readPolygons(map, [](const SourceColumn &) { return true; }))
+        if (!readPolygons(map, [](const SourceColumn &) { return RateChance::Possible; }))
             return false;
         FileSurvey(source, polygons).addColumns(policy, survey);
         for (SurveyedColumn &column : survey.columns)
@@ -127,7 +127,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
 {
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
-    if (!readPolygons(map, ColumnPolicy::isWorthReading) || !chooseColumns(map))
+    if (!readPolygons(map, ColumnPolicy::chanceOf) || !chooseColumns(map))
         return false;
     dropRecordsWithoutRate();
     countRings(map);
@@ -142,7 +142,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
     return true;
 }
 
-bool PrescriptionLoader::readPolygons(LoadedMap &map, PrescriptionReader::ColumnFilter isWorthReading)
+bool PrescriptionLoader::readPolygons(LoadedMap &map, ColumnJudge judge)
 {
     LoadControl reading = control;
     reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
@@ -152,7 +152,7 @@ bool PrescriptionLoader::readPolygons(LoadedMap &map, PrescriptionReader::Column
         return fail(policy.refusal());
     for (const QString &warning : policy.warnings())
         findings->remark(warning);
-    PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, isWorthReading, reading);
+    PrescriptionReader reader({request.path, policy.named(), request.layer, request.task}, judge, reading);
     if (!reader.read(source))
         return fail(reader.error());
     report->layer = source.layer;

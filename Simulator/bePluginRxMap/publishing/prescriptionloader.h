@@ -35,7 +35,7 @@ private:
     bool loadInto(LoadedMap &map);
     bool surveyInto(LoadedMap &map, SurveyReport &survey);
     /// Reads the file and makes polygons of it on the map's plane.
-    bool readPolygons(LoadedMap &map, PrescriptionReader::ColumnFilter isWorthReading);
+    bool readPolygons(LoadedMap &map, ColumnJudge judge);
     bool fail(const QString &text);
     void tell(MapFinding::Kind kind, const QString &text, int record = -1);
 

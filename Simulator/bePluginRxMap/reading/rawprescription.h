@@ -41,6 +41,10 @@ struct SourceColumn {
     PlaceRates placeRates = {};
 };
 
+/// Whether a column, of which name and type are known, may hold rates, or is even called a rate.
+enum class RateChance { None, Possible, Named };
+using ColumnJudge = RateChance (*)(const SourceColumn &);
+
 /// A column that holds the same text in every record that has any, such as the unit of a rate.
 struct TextColumn {
     QString name;

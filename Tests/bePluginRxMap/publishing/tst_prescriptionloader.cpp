@@ -15,6 +15,7 @@ private Q_SLOTS:
     void loadsTheFixtures();
     void measuresAreaInSquareMetres();
     void showsTheSamePlaceWhateverTheCoordinateSystem();
+    void takesAMapWithoutACoordinateSystemAsDegrees_data();
     void takesAMapWithoutACoordinateSystemAsDegrees();
     void saysThatACoordinateSystemCannotBeRead_data();
     void saysThatACoordinateSystemCannotBeRead();
@@ -114,19 +115,54 @@ void PrescriptionLoaderTest::showsTheSamePlaceWhateverTheCoordinateSystem()
     }
 }
 
+void PrescriptionLoaderTest::takesAMapWithoutACoordinateSystemAsDegrees_data()
+{
+    QTest::addColumn<QByteArray>("driver");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("epsg");
+    QTest::addColumn<QString>("said");
+    const QString none = QStringLiteral("names no coordinate system");
+    const QString vague = QStringLiteral("its coordinate system \"%1\" does not say where on the earth it is");
+    QTest::newRow("Shapefile") << QByteArray("ESRI Shapefile") << "a.shp" << 0 << none;
+    QTest::newRow("FlatGeobuf") << QByteArray("FlatGeobuf") << "a.fgb" << 0 << none;
+    QTest::newRow("GML") << QByteArray("GML") << "a.gml" << 0 << none;
+    QTest::newRow("Shapefile of a site") << QByteArray("ESRI Shapefile") << "a.shp" << -1 << vague.arg("Site");
+    QTest::newRow("GeoPackage of a site") << QByteArray("GPKG") << "a.gpkg" << -1 << vague.arg("Site");
+    QTest::newRow("GeoPackage 0") << QByteArray("GPKG") << "a.gpkg" << 0 << vague.arg("Undefined geographic SRS");
+    QTest::newRow("GeoPackage -1") << QByteArray("GPKG") << "-1.gpkg" << 0 << vague.arg("Undefined Cartesian SRS");
+}
+
 void PrescriptionLoaderTest::takesAMapWithoutACoordinateSystemAsDegrees()
 {
+    QFETCH(QByteArray, driver);
+    QFETCH(QString, name);
+    QFETCH(int, epsg);
+    QFETCH(QString, said);
     LayerSketch sketch;
-    sketch.epsg = 0;
+    sketch.driver = driver.constData();
+    sketch.epsg = epsg;
     sketch.fields = {{"rate", 1.0}};
-    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
-    const auto map = load(write(sketch, "a.shp"));
+    const auto loadSquare = [&](const QString &square) {
+        sketch.rows = {{square, {1.0}}};
+        const QString path = write(sketch, name.toLatin1().constData());
+        if (name == QLatin1String("-1.gpkg")) {
+            const GdalSession session;
+            const GDALDatasetUniquePtr file(
+                GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+            for (const char *table : {"gpkg_contents", "gpkg_geometry_columns"})
+                file->ReleaseResultSet(
+                    file->ExecuteSQL(QByteArray("UPDATE ") + table + " SET srs_id = -1", nullptr, nullptr));
+        }
+        return load(path);
+    };
+    const auto map = loadSquare(squareText(11.0, 48.0, 0.001));
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
     QVERIFY(std::fabs(map->report.bounds.height() - 111.2) < 0.1);
-    QCOMPARE(map->report.warnings.size(), 1);
-    QVERIFY(map->report.warnings.first().contains(QStringLiteral("WGS 84")));
-    sketch.rows = {{squareText(700000.0, 5300000.0, 100.0), {1.0}}};
-    QVERIFY(load(write(sketch, "a.shp"))->report.error.contains(QStringLiteral("names no coordinate system")));
+    QCOMPARE(map->report.warnings,
+             QStringList(folder.filePath(name) + QStringLiteral(": %1; taken as WGS 84").arg(said)));
+    QCOMPARE(loadSquare(squareText(700000.0, 5300000.0, 100.0))->report.error,
+             folder.filePath(name)
+                 + QStringLiteral(": %1, and its coordinates are no longitudes and latitudes").arg(said));
 }
 
 void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead_data()

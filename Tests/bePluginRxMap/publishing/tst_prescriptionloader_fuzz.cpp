@@ -66,6 +66,10 @@ void PrescriptionLoaderFuzz::survivesDamage_data()
     QTest::newRow("coordinate system") << QByteArray("ESRI Shapefile") << "prj" << 40;
     QTest::newRow("GeoJSON") << QByteArray("GeoJSON") << "geojson" << 200;
     QTest::newRow("GeoPackage") << QByteArray("GPKG") << "gpkg" << 60;
+    QTest::newRow("GeoJSON text sequence") << QByteArray("GeoJSONSeq") << "geojsonl" << 120;
+    QTest::newRow("KML") << QByteArray("LIBKML") << "kml" << 200;
+    QTest::newRow("FlatGeobuf") << QByteArray("FlatGeobuf") << "fgb" << 200;
+    QTest::newRow("GML") << QByteArray("GML") << "gml" << 200;
 }
 
 void PrescriptionLoaderFuzz::survivesDamage()
@@ -74,7 +78,8 @@ void PrescriptionLoaderFuzz::survivesDamage()
     QFETCH(QString, extension);
     QFETCH(int, rounds);
     const QTemporaryDir folder;
-    const QString target = extension.size() == 3 ? QStringLiteral("map.shp") : QStringLiteral("map.") + extension;
+    const bool isShapefile = driver == "ESRI Shapefile";
+    const QString target = QStringLiteral("map.") + (isShapefile ? QStringLiteral("shp") : extension);
     LayerSketch sketch;
     sketch.driver = driver.constData();
     sketch.fields = {{"rate", 1.0}, {"dose", 1}};

@@ -28,7 +28,7 @@ struct PlacedMap {
 bool place(const QString &path, PlacedMap &map, QString &error)
 {
     const LoadControl control;
-    PrescriptionReader reader({path}, ColumnPolicy::isWorthReading, control);
+    PrescriptionReader reader({path}, ColumnPolicy::chanceOf, control);
     GeographicExtent extent;
     if (!reader.read(map.source)) {
         error = reader.error();

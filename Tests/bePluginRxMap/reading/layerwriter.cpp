@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <memory>
 #include <ogrsf_frmts.h>
 #include <random>
@@ -35,30 +36,27 @@ void setValues(OGRFeature &feature, const QList<QVariant> &values)
     }
 }
 
-} // namespace
-
-bool LayerSketch::write(const QString &path) const
+bool addLayer(GDALDataset &file, const LayerSketch &sketch)
 {
-    const GdalSession session;
-    GDALDriver *format = GetGDALDriverManager()->GetDriverByName(driver);
-    const GDALDatasetUniquePtr file(format->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
     OGRSpatialReference reference;
-    if (epsg != 0)
-        reference.importFromEPSG(epsg);
+    if (sketch.epsg > 0)
+        reference.importFromEPSG(sketch.epsg);
+    else
+        reference.SetLocalCS("Site");
     reference.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     OGRLayer *layer =
-        file ? file->CreateLayer("layer", epsg == 0 ? nullptr : &reference, OGRFromOGCGeomType(kind)) : nullptr;
+        file.CreateLayer(sketch.name, sketch.epsg == 0 ? nullptr : &reference, OGRFromOGCGeomType(sketch.kind));
     if (layer == nullptr)
         return false;
-    for (const LayerField &field : fields) {
+    for (const LayerField &field : sketch.fields) {
         OGRFieldDefn definition(field.name, typeOf(field.sample));
-        if (definition.GetType() == OFTReal && format->GetDescription() == QByteArray("ESRI Shapefile")) {
+        if (definition.GetType() == OFTReal && sketch.driver == QByteArray("ESRI Shapefile")) {
             definition.SetWidth(18);
             definition.SetPrecision(6);
         }
         layer->CreateField(&definition);
     }
-    for (const LayerRow &row : rows) {
+    for (const LayerRow &row : sketch.rows) {
         OGRFeature feature(layer->GetLayerDefn());
         setValues(feature, row.values);
         OGRGeometry *geometry = nullptr;
@@ -70,6 +68,23 @@ bool LayerSketch::write(const QString &path) const
             return false;
     }
     return true;
+}
+
+} // namespace
+
+bool writeLayers(const QString &path, const QList<LayerSketch> &layers)
+{
+    const GdalSession session;
+    GDALDriver *format = GetGDALDriverManager()->GetDriverByName(layers.first().driver);
+    const GDALDatasetUniquePtr file(format->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
+    return file && std::all_of(layers.begin(), layers.end(), [&file](const LayerSketch &layer) {
+               return addLayer(*file, layer);
+           });
+}
+
+bool LayerSketch::write(const QString &path) const
+{
+    return writeLayers(path, {*this});
 }
 
 QString squareText(double x, double y, double side)

@@ -16,7 +16,7 @@ struct LayerRow {
     QList<QVariant> values;
 };
 
-/// A layer for the tests to write. `driver` as GDAL names it; `epsg` 0: no coordinate system.
+/// A layer for the tests to write. `driver` as GDAL names it; `epsg` 0: no coordinate system, -1: that of a site.
 struct LayerSketch {
     const char *driver = "ESRI Shapefile";
     int epsg = 4326;
@@ -24,10 +24,14 @@ struct LayerSketch {
     QList<LayerRow> rows;
     /// Kind of geometry as well-known text, "POLYGON" by default.
     const char *kind = "POLYGON";
+    const char *name = "layer";
 
     /// False when GDAL cannot.
     bool write(const QString &path) const;
 };
+
+/// Writes a file of several layers, in the format of the first. False when GDAL cannot.
+bool writeLayers(const QString &path, const QList<LayerSketch> &layers);
 
 /// Well-known text of a square with its lower left corner at (x, y).
 QString squareText(double x, double y, double side);

@@ -31,7 +31,7 @@ bool ReaderTest::read(const ReadRequest &request)
 {
     const LoadControl control;
     map = RawPrescription();
-    PrescriptionReader reader(request, ColumnPolicy::isWorthReading, control);
+    PrescriptionReader reader(request, ColumnPolicy::chanceOf, control);
     const bool isRead = reader.read(map);
     error = reader.error();
     return isRead;

@@ -1,9 +1,8 @@
 #include "columnpolicy.h"
-#include "gdalsession.h"
 #include "readertest.h"
 
+#include <algorithm>
 #include <cmath>
-#include <ogrsf_frmts.h>
 #include <sys/stat.h>
 
 class PrescriptionReaderTest : public ReaderTest {
@@ -12,7 +11,6 @@ class PrescriptionReaderTest : public ReaderTest {
 private Q_SLOTS:
     void readsEachFormat_data();
     void readsEachFormat();
-    void takesTheFirstLayerWithPolygons();
     void refusesFilesThatItCannotRead_data();
     void refusesFilesThatItCannotRead();
     void refusesWhatIsNoPlainFile_data();
@@ -30,6 +28,10 @@ void PrescriptionReaderTest::readsEachFormat_data()
     QTest::newRow("GeoPackage") << QByteArray("GPKG") << "a.gpkg";
     QTest::newRow("GeoJSON") << QByteArray("GeoJSON") << "a.geojson";
     QTest::newRow("GeoJSON under another name") << QByteArray("GeoJSON") << "a.json";
+    QTest::newRow("GeoJSON text sequence") << QByteArray("GeoJSONSeq") << "a.geojsonl";
+    QTest::newRow("KML") << QByteArray("LIBKML") << "a.kml";
+    QTest::newRow("FlatGeobuf") << QByteArray("FlatGeobuf") << "a.fgb";
+    QTest::newRow("GML") << QByteArray("GML") << "a.gml";
 }
 
 void PrescriptionReaderTest::readsEachFormat()
@@ -51,51 +53,23 @@ void PrescriptionReaderTest::readsEachFormat()
     QCOMPARE(map.records, 2);
     QCOMPARE(map.rings.size(), size_t(2));
     QCOMPARE(map.rings[1].record, 1);
-    QCOMPARE(map.columns.size(), size_t(2));
-    QCOMPARE(map.columns[0].name, QStringLiteral("rate"));
-    QCOMPARE(map.columns[0].values[0], 12.5);
-    QVERIFY(std::isnan(map.columns[0].values[1]));
-    QVERIFY(map.columns[1].isInteger);
-    QCOMPARE(map.columns[1].values[1], 4.0);
-    QCOMPARE(map.columnNames, QStringList({QStringLiteral("rate"), QStringLiteral("product"), QStringLiteral("dose")}));
     QVERIFY(map.reference != nullptr);
-}
-
-void PrescriptionReaderTest::takesTheFirstLayerWithPolygons()
-{
-    {
-        const GdalSession session;
-        GDALDriver *format = GetGDALDriverManager()->GetDriverByName("GPKG");
-        const GDALDatasetUniquePtr file(format->Create(qPrintable(path("a.gpkg")), 0, 0, 0, GDT_Unknown, nullptr));
-        OGRSpatialReference reference;
-        reference.importFromEPSG(4326);
-        for (const char *name : {"points", "first", "second"}) {
-            const bool isPoint = QByteArray(name) == "points";
-            OGRLayer *layer = file->CreateLayer(name, &reference, isPoint ? wkbPoint : wkbPolygon);
-            OGRFieldDefn rate("rate", OFTReal);
-            layer->CreateField(&rate);
-            OGRFeature feature(layer->GetLayerDefn());
-            feature.SetField(0, QByteArray(name) == "first" ? 1.0 : 2.0);
-            OGRGeometry *geometry = nullptr;
-            OGRGeometryFactory::createFromWkt(isPoint ? "POINT (11 48)" : "POLYGON ((11 48, 12 48, 12 49, 11 48))",
-                                              nullptr, &geometry);
-            feature.SetGeometryDirectly(geometry);
-            QCOMPARE(layer->CreateFeature(&feature), OGRERR_NONE);
-        }
-    }
-    QVERIFY2(read(path("a.gpkg")), qPrintable(error));
-    QCOMPARE(map.columns[0].values[0], 1.0);
-    QCOMPARE(map.warnings.size(), 1);
-    QVERIFY(map.warnings.first().contains(QStringLiteral("\"second\"")));
-    QCOMPARE(map.layer, QStringLiteral("first"));
-    QCOMPARE(map.layers, QStringList({"first", "second"}));
-    QVERIFY2(read(ReadRequest{path("a.gpkg"), {}, QStringLiteral("second")}), qPrintable(error));
-    QCOMPARE(map.columns[0].values[0], 2.0);
-    QVERIFY(map.warnings.isEmpty());
-    QVERIFY(!read(ReadRequest{path("a.gpkg"), {}, QStringLiteral("points")}));
-    QCOMPARE(error, QStringLiteral("has no layer \"points\" with polygons; it has first, second"));
-    QVERIFY(!read(ReadRequest{path("a.gpkg"), {}, {}, QStringLiteral("spring")}));
-    QCOMPARE(error, QStringLiteral("has no task \"spring\"; it has no tasks"));
+    const auto column = [this](const char *wanted) {
+        return *std::find_if(map.columns.begin(), map.columns.end(),
+                             [wanted](const SourceColumn &any) { return any.name == QLatin1String(wanted); });
+    };
+    const SourceColumn rate = column("rate");
+    const SourceColumn dose = column("dose");
+    QVERIFY(!rate.isInteger && dose.isInteger);
+    // A spatial index puts the records in another order.
+    const size_t first = dose.values[0] == 3.0 ? 0 : 1;
+    QCOMPARE(rate.values[first], 12.5);
+    QVERIFY(std::isnan(rate.values[1 - first]));
+    QCOMPARE(dose.values[1 - first], 4.0);
+    // Some formats bring columns of their own.
+    for (const char *other : {"rate", "product", "dose"})
+        QVERIFY(map.columnNames.contains(QLatin1String(other)));
+    QCOMPARE(map.columns.size(), size_t(2));
 }
 
 void PrescriptionReaderTest::refusesFilesThatItCannotRead_data()
@@ -103,8 +77,10 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("text") << "a.geojson" << QByteArray("just some text") << "is no Shapefile, GeoPackage or GeoJSON";
-    QTest::newRow("nothing") << "a.gpkg" << QByteArray() << "is no Shapefile, GeoPackage or GeoJSON";
+    QTest::newRow("text") << "a.geojson" << QByteArray("just some text")
+                          << "is none of the formats that are read: Shapefile, GeoPackage";
+    QTest::newRow("nothing") << "a.gpkg" << QByteArray()
+                             << "is none of the formats that are read: Shapefile, GeoPackage";
     QTest::newRow("text called Shapefile") << "a.shp" << QByteArray("just some text") << "is no Shapefile";
     QTest::newRow("cut GeoJSON") << "a.geojson" << QByteArray("{\"type\": \"FeatureCollection\", \"features\": [")
                                  << "";
@@ -165,7 +141,7 @@ void PrescriptionReaderTest::endsWhenItIsCancelled()
     const std::atomic<bool> cancelled(true);
     LoadControl control;
     control.cancelled = &cancelled;
-    PrescriptionReader reader({fixture("three-zones.geojson")}, ColumnPolicy::isWorthReading, control);
+    PrescriptionReader reader({fixture("three-zones.geojson")}, ColumnPolicy::chanceOf, control);
     QVERIFY(!reader.read(map));
     QVERIFY(reader.error().contains(QStringLiteral("cancelled")));
 }
@@ -180,7 +156,7 @@ void PrescriptionReaderTest::reportsProgress()
     QList<double> fractions;
     LoadControl control;
     control.progress = [&fractions](double fraction) { fractions.append(fraction); };
-    QVERIFY(PrescriptionReader({path("a.shp")}, ColumnPolicy::isWorthReading, control).read(map));
+    QVERIFY(PrescriptionReader({path("a.shp")}, ColumnPolicy::chanceOf, control).read(map));
     QCOMPARE(fractions, QList<double>({0.256, 0.512, 0.768}));
 }
 

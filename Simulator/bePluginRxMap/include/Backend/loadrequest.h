@@ -8,7 +8,7 @@
 
 /// What to load, and for whom.
 struct LoadRequest {
-    /// A Shapefile, GeoPackage, GeoJSON file or task data.
+    /// A file of one of the formats that are read, or a folder of task data.
     QString path;
     /// Rate columns; entry i feeds products[i]. An empty entry leaves that product out. An empty list lets the
     /// back-end choose the most likely columns.

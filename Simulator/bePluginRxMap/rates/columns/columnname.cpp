@@ -69,7 +69,7 @@ const QSet<QString> &otherWords()
         "yield yld ertrag rendement rendimiento ndvi evi savi cost price preis hectares ha ac acres field farm feld "
         "schlag parcel soil boden sol suelo solo ph om cec ec humus clay sand silt ppm unit units uom einheit unite "
         "unidad "
-        "unidade");
+        "unidade tessellate extrude visibility draw");
     return words;
 }
 

@@ -90,10 +90,14 @@ ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const Q
         readUnits(units);
 }
 
-bool ColumnPolicy::isWorthReading(const SourceColumn &column)
+RateChance ColumnPolicy::chanceOf(const SourceColumn &column)
 {
     const ColumnName name(column.name);
-    return !name.namesOther() && (name.namesRate() || !column.isText);
+    if (name.namesOther())
+        return RateChance::None;
+    if (name.namesRate())
+        return RateChance::Named;
+    return column.isText ? RateChance::None : RateChance::Possible;
 }
 
 void ColumnPolicy::readUnits(const QStringList &texts)

@@ -53,8 +53,8 @@ public:
     /// file.
     ColumnPolicy(const QList<MachineProduct> &products, const QStringList &named, const QStringList &units = {});
 
-    /// Whether the column's name and type leave it possible that it holds rates.
-    static bool isWorthReading(const SourceColumn &column);
+    /// What the column's name and type say of whether it holds rates.
+    static RateChance chanceOf(const SourceColumn &column);
 
     /// Why the named columns cannot feed these products, whatever the file holds; empty when they may.
     const QString &refusal() const { return reason; }

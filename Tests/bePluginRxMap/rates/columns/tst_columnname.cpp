@@ -25,11 +25,11 @@ void ColumnNameTest::tellsRatesFromTheRest_data()
                              "X_kst_a",        "lperhectare"})
         QTest::newRow(name) << true << false;
     for (const char *name :
-         {"QT_kg",      "ID",         "OBJECTID",  "fid",       "FID_1",      "AREA_HA",    "area",
-          "Shape_Area", "Shape_Leng", "perimeter", "DN",        "replicatio", "LC_CLASS_5", "X_MIN",
-          "xmax",       "Left",       "total",     "Total_kg",  "zone_id",    "COUNT",      "Flaeche",
-          "HA",         "acres",      "lat",       "Longitude", "YEAR",       "elevation",  "K_mg_kg",
-          "P_mg_100g",  "pH",         "yield",     "P_ppm",     "soil_N",     "Einheit"})
+         {"QT_kg",      "ID",        "OBJECTID",  "fid",        "FID_1",      "AREA_HA", "area",  "Shape_Area",
+          "Shape_Leng", "perimeter", "DN",        "replicatio", "LC_CLASS_5", "X_MIN",   "xmax",  "Left",
+          "total",      "Total_kg",  "zone_id",   "COUNT",      "Flaeche",    "HA",      "acres", "lat",
+          "Longitude",  "YEAR",      "elevation", "K_mg_kg",    "P_mg_100g",  "pH",      "yield", "P_ppm",
+          "soil_N",     "Einheit",   "extrude",   "drawOrder",  "visibility"})
         QTest::newRow(name) << false << true;
     for (const char *name :
          {"RATE_ID", "TOTAL_KG_HA", "target_area", "SUM_RATE", "Ertrag_dt_ha", "Rate_Unit", "Target_Yield"})

@@ -194,7 +194,7 @@ void TaskDataReaderRefusalsTest::endsWhenItIsCancelled()
     LoadControl control;
     control.cancelled = &cancelled;
     PrescriptionReader reader(
-        {folder->path()}, [](const SourceColumn &) { return true; }, control);
+        {folder->path()}, [](const SourceColumn &) { return RateChance::Possible; }, control);
     QVERIFY(!reader.read(map));
     QCOMPARE(reader.error(), QStringLiteral("loading was cancelled"));
 }

@@ -2,8 +2,9 @@
 
 #include <QString>
 
-/// While it lives, what GDAL reports in this thread is kept here instead of being printed. The first one in the process
-/// registers the file formats that the back-end reads. Sessions of one thread nest.
+/// While it lives, what GDAL reports in this thread is kept here instead of being printed, and GDAL neither reaches for
+/// the network nor follows references out of a file. The first one in the process registers the file formats that the
+/// back-end reads. Sessions of one thread nest.
 class GdalSession {
 public:
     GdalSession();
@@ -18,4 +19,6 @@ private:
     Q_DISABLE_COPY(GdalSession)
 
     QString failure;
+    /// The thread's options before, GDAL's list; owned.
+    char **optionsBefore;
 };

@@ -1,0 +1,55 @@
+#include "gdalsession.h"
+
+#include <cpl_conv.h>
+#include <cpl_error.h>
+#include <cpl_string.h>
+#include <mutex>
+#include <ogr_srs_api.h>
+#include <ogrsf_frmts.h>
+
+namespace {
+
+void CPL_STDCALL keepReport(CPLErr severity, CPLErrorNum, const char *text)
+{
+    static_cast<GdalSession *>(CPLGetErrorHandlerUserData())->takeReport(severity, text);
+}
+
+void registerFormats()
+{
+    RegisterOGRShape();
+    RegisterOGRGeoPackage();
+    RegisterOGRGeoJSON();
+    RegisterOGRGeoJSONSeq();
+    // The other reader of KML leaves out a placemark's own data, which are the rates.
+    RegisterOGRLIBKML();
+    RegisterOGRFlatGeobuf();
+    RegisterOGRGML();
+    OSRSetPROJEnableNetwork(0);
+}
+
+} // namespace
+
+GdalSession::GdalSession()
+    : optionsBefore(CPLGetThreadLocalConfigOptions())
+{
+    CPLPushErrorHandlerEx(keepReport, this);
+    static std::once_flag registered;
+    std::call_once(registered, registerFormats);
+    CPLSetThreadLocalConfigOption("GML_SKIP_RESOLVE_ELEMS", "ALL");
+    CPLSetThreadLocalConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
+    // The other parser follows entities out of the file.
+    CPLSetThreadLocalConfigOption("GML_PARSER", "EXPAT");
+}
+
+GdalSession::~GdalSession()
+{
+    CPLSetThreadLocalConfigOptions(optionsBefore);
+    CSLDestroy(optionsBefore);
+    CPLPopErrorHandler();
+}
+
+void GdalSession::takeReport(int severity, const char *text)
+{
+    if (severity >= CE_Failure && failure.isEmpty())
+        failure = QString::fromUtf8(text).simplified();
+}

@@ -1,0 +1,94 @@
+#include "prescriptionfile.h"
+
+#include "gdalsession.h"
+#include "shapefilecheck.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cpl_string.h>
+
+namespace {
+
+const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
+const char *const otherFormats[] = {"GPKG", "GeoJSON", "GeoJSONSeq", "LIBKML", "FlatGeobuf", "GML", nullptr};
+
+/// What GDAL takes for that file: it must not begin as the names of GDAL's own file systems do.
+QByteArray nameForGdal(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath());
+    return name.startsWith("/vsi") ? "/." + name : name;
+}
+
+} // namespace
+
+PrescriptionFile::PrescriptionFile(const QString &filePath)
+    : path(filePath)
+{
+}
+
+QStringList PrescriptionFile::endings()
+{
+    return {QStringLiteral("shp"),      QStringLiteral("gpkg"),     QStringLiteral("geojson"), QStringLiteral("json"),
+            QStringLiteral("geojsonl"), QStringLiteral("geojsons"), QStringLiteral("ndjson"),  QStringLiteral("kml"),
+            QStringLiteral("fgb"),      QStringLiteral("gml")};
+}
+
+bool PrescriptionFile::fail(const QString &text)
+{
+    reason = text;
+    return false;
+}
+
+bool PrescriptionFile::isShapefile() const
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("shp"), Qt::CaseInsensitive) == 0;
+}
+
+bool PrescriptionFile::check()
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return fail(QStringLiteral("there is no such file"));
+    if (info.isDir())
+        return fail(QStringLiteral("is a folder, not a file"));
+    // A pipe would be waited on without end.
+    if (!info.isFile())
+        return fail(QStringLiteral("is no plain file"));
+    if (!isShapefile())
+        return true;
+    const QString problem = ShapefileCheck::problem(path);
+    return problem.isEmpty() || fail(problem);
+}
+
+CPLStringList PrescriptionFile::options() const
+{
+    // A format overlooks the options of the others.
+    CPLStringList options;
+    options.SetNameValue("WRITE_GFS", "NO");
+    options.SetNameValue("DOWNLOAD_SCHEMA", "NO");
+    // A database would else be opened for writing to tidy up its journal. A journal that is there holds part of the
+    // data. By design: not where the name holds a percent sign, which would be decoded.
+    if (!QFileInfo::exists(path + QStringLiteral("-wal")) && !nameForGdal(path).contains('%'))
+        options.SetNameValue("IMMUTABLE", "YES");
+    return options;
+}
+
+bool PrescriptionFile::open(const GdalSession &session)
+{
+    if (!check())
+        return false;
+    data.reset(GDALDataset::Open(nameForGdal(path).constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
+                                 isShapefile() ? shapefileOnly : otherFormats, options().List()));
+    if (data)
+        return true;
+    const QString failure = session.firstFailure();
+    return fail(failure.isEmpty() ? QStringLiteral("is none of the formats that are read: Shapefile, GeoPackage, "
+                                                   "GeoJSON (also as a text sequence), KML, FlatGeobuf, GML, task data")
+                                  : failure);
+}
+
+QString PrescriptionFile::definitionFile() const
+{
+    return isShapefile() ? ShapefileCheck::definitionFile(path) : QString();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <gdal_priv.h>
+
+class GdalSession;
+
+/// A prescription file that GDAL reads, opened. A path is the name of a file and nothing else, whatever GDAL could take
+/// it for; nothing is written beside the file. Blocks; use in the loading thread.
+class PrescriptionFile {
+public:
+    explicit PrescriptionFile(const QString &path);
+
+    /// What the names of such files end in, without the point.
+    static QStringList endings();
+    /// False when the file cannot be used; the reason, without the file's name, is then in error(). `session`: the one
+    /// that takes GDAL's reports.
+    bool open(const GdalSession &session);
+    GDALDataset &dataset() const { return *data; }
+    /// Name of the file beside it that is to define its coordinate system; empty where none says anything.
+    QString definitionFile() const;
+    QString error() const { return reason; }
+
+private:
+    bool fail(const QString &text);
+    bool check();
+    bool isShapefile() const;
+    CPLStringList options() const;
+
+    QString path;
+    GDALDatasetUniquePtr data;
+    QString reason;
+};

@@ -1,0 +1,216 @@
+#include "gdalsession.h"
+#include "layerwriter.h"
+#include "prescriptionfile.h"
+#include "testbase.h"
+
+#include <QTemporaryDir>
+
+#include <arpa/inet.h>
+#include <ogrsf_frmts.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+/// Waits for callers on a port of this computer.
+class ListeningPort {
+public:
+    ListeningPort()
+        : handle(socket(AF_INET, SOCK_STREAM, 0))
+    {
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof address;
+        auto *plain = reinterpret_cast<sockaddr *>(&address);
+        isOpen = bind(handle, plain, size) == 0 && listen(handle, 4) == 0 && getsockname(handle, plain, &size) == 0;
+    }
+    ~ListeningPort() { close(handle); }
+
+    bool isListening() const { return isOpen; }
+    int number() const { return ntohs(address.sin_port); }
+    bool hasBeenCalled() const
+    {
+        pollfd waiting{handle, POLLIN, 0};
+        return poll(&waiting, 1, 0) > 0;
+    }
+
+private:
+    Q_DISABLE_COPY(ListeningPort)
+
+    int handle;
+    sockaddr_in address{};
+    bool isOpen = false;
+};
+
+} // namespace
+
+/// How a file is opened; what is in it is a matter of those who read it.
+class PrescriptionFileTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesAPathForTheNameOfAFile_data();
+    void takesAPathForTheNameOfAFile();
+    void opensNoConnections_data();
+    void opensNoConnections();
+    void writesNothingBesideTheFile_data();
+    void writesNothingBesideTheFile();
+    void readsWhatStandsInAJournal();
+    void reachesForNoNetwork();
+
+private:
+    static LayerSketch sketch(const char *driver);
+    QString write(const char *driver, const QString &name);
+
+    QTemporaryDir folder;
+};
+
+LayerSketch PrescriptionFileTest::sketch(const char *driver)
+{
+    LayerSketch sketch;
+    sketch.driver = driver;
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
+    return sketch;
+}
+
+/// Under a plain name first: the test's own writing must not stumble over what it tests.
+QString PrescriptionFileTest::write(const char *driver, const QString &name)
+{
+    const QString plain = folder.filePath(QStringLiteral("plain.") + name.section(QLatin1Char('.'), -1));
+    const QString path = folder.filePath(name);
+    QFile::remove(path);
+    const bool isWritten = sketch(driver).write(plain) && QFile::rename(plain, path);
+    QFile::remove(folder.filePath(QStringLiteral("plain.xsd")));
+    return isWritten ? path : QString();
+}
+
+void PrescriptionFileTest::takesAPathForTheNameOfAFile_data()
+{
+    QTest::addColumn<QByteArray>("driver");
+    QTest::addColumn<QString>("name");
+    const struct Format {
+        const char *driver;
+        const char *extension;
+    } formats[] = {{"GPKG", "gpkg"},  {"GeoJSON", "geojson"}, {"GeoJSONSeq", "geojsonl"},
+                   {"LIBKML", "kml"}, {"FlatGeobuf", "fgb"},  {"GML", "gml"}};
+    for (const char *stem : {"a%41b", "a#b?c&d", "it's \"it\"", "two\nlines", "{a}b}", "a,xsd=b", "GPKG:a",
+                             "PG:dbname=a", "http:a", "D\u00fcngung", "a*", "|x", "a;b", " "}) {
+        for (const Format &format : formats)
+            QTest::addRow("%s.%s", stem, format.extension)
+                << QByteArray(format.driver)
+                << QString::fromUtf8(stem) + QLatin1Char('.') + QLatin1String(format.extension);
+    }
+}
+
+void PrescriptionFileTest::takesAPathForTheNameOfAFile()
+{
+    QFETCH(QByteArray, driver);
+    QFETCH(QString, name);
+    const QString path = write(driver.constData(), name);
+    QVERIFY(!path.isEmpty());
+    const GdalSession session;
+    PrescriptionFile file(path);
+    QVERIFY2(file.open(session), qPrintable(file.error()));
+    QCOMPARE(file.dataset().GetLayer(0)->GetFeatureCount(), GIntBig(1));
+}
+
+void PrescriptionFileTest::opensNoConnections_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *path : {"http://127.0.0.1/a.geojson", "/vsicurl/http://127.0.0.1/a.geojson", "PG:dbname=fields",
+                             "/vsimem/a.geojson", "GeoJSON:{\"type\": \"FeatureCollection\", \"features\": []}",
+                             "{\"type\": \"FeatureCollection\", \"features\": []}", "/vsizip//tmp/a.zip", ""})
+        QTest::newRow(path) << QString::fromUtf8(path);
+}
+
+void PrescriptionFileTest::opensNoConnections()
+{
+    QFETCH(QString, path);
+    const GdalSession session;
+    PrescriptionFile file(path);
+    QVERIFY(!file.open(session));
+    QCOMPARE(file.error(), QStringLiteral("there is no such file"));
+}
+
+void PrescriptionFileTest::writesNothingBesideTheFile_data()
+{
+    QTest::addColumn<QByteArray>("driver");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("GML") << QByteArray("GML") << "a.gml";
+    QTest::newRow("GeoPackage with a journal") << QByteArray("GPKG") << "journal.gpkg";
+}
+
+void PrescriptionFileTest::writesNothingBesideTheFile()
+{
+    QFETCH(QByteArray, driver);
+    QFETCH(QString, name);
+    const QString path = write(driver.constData(), name);
+    QVERIFY(!path.isEmpty());
+    if (driver == "GPKG") {
+        const GdalSession session;
+        const GDALDatasetUniquePtr written(
+            GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+        written->ReleaseResultSet(written->ExecuteSQL("PRAGMA journal_mode = WAL", nullptr, nullptr));
+    }
+    QFile content(path);
+    QVERIFY(content.open(QIODevice::ReadOnly));
+    const QByteArray before = content.readAll();
+    const QStringList files = QDir(folder.path()).entryList(QDir::Files);
+    QStringList filesMeanwhile;
+    {
+        const GdalSession session;
+        PrescriptionFile file(path);
+        QVERIFY2(file.open(session), qPrintable(file.error()));
+        QVERIFY(OGRFeatureUniquePtr(file.dataset().GetLayer(0)->GetNextFeature()));
+        filesMeanwhile = QDir(folder.path()).entryList(QDir::Files);
+    }
+    QCOMPARE(filesMeanwhile, files);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), files);
+    QVERIFY(content.seek(0));
+    QCOMPARE(content.readAll(), before);
+}
+
+void PrescriptionFileTest::readsWhatStandsInAJournal()
+{
+    const QString path = write("GPKG", QStringLiteral("open.gpkg"));
+    const GdalSession session;
+    const GDALDatasetUniquePtr written(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+    written->ReleaseResultSet(written->ExecuteSQL("PRAGMA journal_mode = WAL", nullptr, nullptr));
+    written->ReleaseResultSet(written->ExecuteSQL("UPDATE layer SET rate = 7", nullptr, nullptr));
+    QVERIFY(QFile::exists(path + QStringLiteral("-wal")));
+    PrescriptionFile file(path);
+    QVERIFY2(file.open(session), qPrintable(file.error()));
+    const OGRFeatureUniquePtr record(file.dataset().GetLayer(0)->GetNextFeature());
+    QCOMPARE(record->GetFieldAsDouble(0), 7.0);
+}
+
+void PrescriptionFileTest::reachesForNoNetwork()
+{
+    const ListeningPort port;
+    QVERIFY(port.isListening());
+    const QString path = write("GML", QStringLiteral("web.gml"));
+    QFile gml(path);
+    QVERIFY(gml.open(QIODevice::ReadWrite));
+    QByteArray text = gml.readAll();
+    const QByteArray address = "http://127.0.0.1:" + QByteArray::number(port.number());
+    text.replace("ogr:FeatureCollection", "wfs:FeatureCollection");
+    text.replace("http://ogr.maptools.org/ plain.xsd",
+                 "http://ogr.maptools.org/ " + address
+                     + "/wfs?SERVICE=WFS&amp;VERSION=1.1.0&amp;REQUEST=DescribeFeatureType&amp;TYPENAME=layer");
+    text.replace("xmlns:gml=",
+                 "xmlns:xlink=\"http://www.w3.org/1999/xlink\" xmlns:wfs=\"http://www.opengis.net/wfs\" "
+                 "xmlns:gml=");
+    text.replace("<gml:Polygon", "<gml:Polygon xlink:href=\"" + address + "/polygon.xml#a\"");
+    QVERIFY(text.contains("DescribeFeatureType"));
+    QVERIFY(gml.resize(0) && gml.seek(0) && gml.write(text) == text.size());
+    gml.close();
+    const GdalSession session;
+    PrescriptionFile file(path);
+    QVERIFY2(file.open(session), qPrintable(file.error()));
+    QVERIFY(!port.hasBeenCalled());
+}
+
+RXMAP_TEST(PrescriptionFileTest, Core)
+#include "tst_prescriptionfile.moc"
