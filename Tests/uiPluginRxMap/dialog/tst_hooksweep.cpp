@@ -24,8 +24,10 @@ private Q_SLOTS:
 private:
     void prepare(int kind, const QByteArray &group, const QByteArray &property);
     void workThroughTheDay();
+    void replaceMap();
+    void fillMap();
 
-    CurrentContext context;
+    QScopedPointer<CurrentContext> context;
     HandMadeChain chain;
     QScopedPointer<DialogHost> host;
     QPointer<RxMapGraphicsList> list;
@@ -46,6 +48,12 @@ int TestHookSweep::moment()
         delete dialog;
     else if (action == "remove group")
         host->broker.removeGroup(watched->name());
+    else if (action == "replace map")
+        replaceMap();
+    else if (action == "fill map")
+        fillMap();
+    else if (action == "lose context")
+        context.reset();
     else if (action == "press Done" && dialog)
         dialog->doneButtonReleased(0);
     else if (action == "switch product")
@@ -65,6 +73,8 @@ void TestHookSweep::cleanup()
 void TestHookSweep::prepare(int kind, const QByteArray &group, const QByteArray &property)
 {
     cleanup();
+    if (!context)
+        context.reset(new CurrentContext);
     host.reset(new DialogHost(2));
     chain = HandMadeChain();
     chain.addOuter(square(0, 0, 10), {1.0F, 2.0F});
@@ -85,6 +95,22 @@ void TestHookSweep::prepare(int kind, const QByteArray &group, const QByteArray 
         watched->setWriteValidator(property, validator, this);
     else
         watched->connectPropertySetSlot(property, this, SLOT(moment()), Qt::DirectConnection, true);
+}
+
+// The chain goes once the count is 0, as a back-end frees it.
+void TestHookSweep::fillMap()
+{
+    host->map->setPolygonCount(0);
+    chain = HandMadeChain();
+    chain.addOuter(square(5, 5, 20), {3.0F, 4.0F});
+    MapHost::publish(*host->map, chain, {{5.0, QColor(0, 255, 0)}});
+}
+
+void TestHookSweep::replaceMap()
+{
+    host->map->setPolygonCount(0);
+    host->broker.removeGroup(host->map->name());
+    host->host.addMap(QStringLiteral("field"), {1, 2});
 }
 
 void TestHookSweep::workThroughTheDay()
@@ -131,7 +157,8 @@ void TestHookSweep::theHostMayActAtAnyMoment()
     QFETCH(QString, properties);
     for (const QString &property : properties.split(QLatin1Char(' '))) {
         int actions = 0;
-        for (const char *what : {"delete list", "switch product", "remove group", "press Done", "delete dialog"}) {
+        for (const char *what : {"delete list", "switch product", "remove group", "press Done", "delete dialog",
+                                 "replace map", "fill map", "lose context"}) {
             action = what;
             for (int kind = 0; kind < 4; ++kind) {
                 for (dueMoment = 1, moments = 1; moments >= dueMoment; ++dueMoment) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "sequence.h"
+
+class HostileHost;
+
+/// A thing that a host, or its operator, does.
+struct Action {
+    const char *name;
+    int weight;      ///< How often it is drawn, relative to the others.
+    bool inDialog;   ///< Needs an open dialog.
+    bool mayIntrude; ///< Also done by hooks, validators and subscribers.
+    void (*run)(HostileHost &host, int a, int b);
+};
+
+/// Null for a name that is none.
+const Action *findAction(const QString &name);
+/// Action `number`, counted in a circle, among those that may intrude.
+const Action &intruder(int number);
+
+/// A working day of `length` steps.
+Sequence hostileSequence(unsigned int seed, int length);
+/// One settings dialog over some maps, with `length` touches of an operator, and its end.
+Sequence dialogSequence(unsigned int seed, int length);
