@@ -260,23 +260,24 @@ void Terminal::showLegend()
     const Product &product = machineModel->products().at(number - 1);
     const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
     auto *info = qobject_cast<DbGroupProductGroupInfo *>(dataBroker.getGroup(Machine::productGroupName(number), false));
-    display->legend()->show({product.name, map.columnName, map.legend, hasSingleRates(map), getRateConversion(info),
-                             rateUnit(product.rateKind(), machineModel->unitSystem())});
+    display->legend()->show({product.name, map.columnName, map.legend, reportOf(map).hasSingleRates.value(map.mapping),
+                             getRateConversion(info), rateUnit(product.rateKind(), machineModel->unitSystem())});
     display->productSelector()->setActiveProduct(number);
+    display->overlay()->setBoundary(reportOf(map).boundary);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     // Another product's map may lie elsewhere.
     frameField();
     refresh();
 }
 
-bool Terminal::hasSingleRates(const ActiveMap &map) const
+LoadReport Terminal::reportOf(const ActiveMap &map) const
 {
     const QList<LoadReport> reports = prescriptions->maps();
     for (const LoadReport &report : reports) {
         if (report.group == map.groupName)
-            return report.hasSingleRates.value(map.mapping);
+            return report;
     }
-    return false;
+    return {};
 }
 
 void Terminal::refresh()

@@ -95,8 +95,8 @@ private:
     void installGraphicsLists();
     void followMaps();
     void showLegend();
-    /// Whether each class of the map's legend holds one rate alone.
-    bool hasSingleRates(const ActiveMap &map) const;
+    /// What came of the map's load; an empty report where there is no map.
+    LoadReport reportOf(const ActiveMap &map) const;
     void showVehicle();
     void frameField();
 

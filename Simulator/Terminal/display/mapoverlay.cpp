@@ -59,6 +59,12 @@ void MapOverlay::setVehicle(const QPointF &place, double heading)
     pace.request();
 }
 
+void MapOverlay::setBoundary(const QList<QPolygonF> &rings)
+{
+    boundary = rings;
+    pace.request();
+}
+
 void MapOverlay::showBubble(const QPointF &field, const QString &newText, const QColor &color)
 {
     bubbleAt = field;
@@ -71,10 +77,24 @@ void MapOverlay::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    drawBoundary(painter);
     drawVehicle(painter);
     drawNorthArrow(painter);
     drawScaleBar(painter);
     drawBubble(painter);
+}
+
+void MapOverlay::drawBoundary(QPainter &painter) const
+{
+    painter.setPen(QPen(Theme::panel(), 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const QPolygonF &ring : boundary) {
+        for (int i = 1; i < ring.size(); ++i) {
+            const std::optional<QPointF> from = camera.project(ring.at(i - 1));
+            const std::optional<QPointF> to = camera.project(ring.at(i));
+            if (from && to)
+                painter.drawLine(*from, *to);
+        }
+    }
 }
 
 void MapOverlay::drawVehicle(QPainter &painter) const

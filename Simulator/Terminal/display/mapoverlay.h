@@ -4,14 +4,17 @@
 #include "repaintthrottle.h"
 
 #include <QColor>
+#include <QList>
 #include <QPointF>
+#include <QPolygonF>
 #include <QString>
 #include <QWidget>
 
 class QPainter;
 
-/// What lies over the map without being touched: vehicle, north arrow, scale bar and the bubble at the touched point.
-/// Drawing it draws the map below it once more, so a vehicle and bubbles that change faster than frames share one.
+/// What lies over the map without being touched: the field's boundary, vehicle, north arrow, scale bar and the bubble
+/// at the touched point. Drawing it draws the map below it once more, so a vehicle and bubbles that change faster than
+/// frames share one.
 class MapOverlay : public QWidget {
     Q_OBJECT
 
@@ -26,6 +29,8 @@ public:
     void setMetric(bool metric);
     /// `place` in metres, `heading` in degrees clockwise from north.
     void setVehicle(const QPointF &place, double heading);
+    /// The field's boundary, rings in metres; none where it is not known.
+    void setBoundary(const QList<QPolygonF> &rings);
     /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
@@ -33,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void drawBoundary(QPainter &painter) const;
     void drawVehicle(QPainter &painter) const;
     void drawNorthArrow(QPainter &painter) const;
     void drawScaleBar(QPainter &painter) const;
@@ -41,6 +47,7 @@ private:
     Camera camera;
     QRectF freeArea;
     bool isMetric = true;
+    QList<QPolygonF> boundary;
     QPointF vehicle;
     double vehicleHeading = 0.0;
     QPointF bubbleAt;

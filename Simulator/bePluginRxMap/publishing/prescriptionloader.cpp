@@ -211,6 +211,8 @@ void PrescriptionLoader::placeBoundary(LoadedMap &map) const
         QPolygonF ring;
         for (; next < end; ++next)
             ring.append(QPointF(boundaryXs[next], boundaryYs[next]));
+        if (!ring.isClosed())
+            ring.append(ring.first());
         map.report.boundary.append(ring);
     }
 }

@@ -41,11 +41,30 @@ private Q_SLOTS:
     void aMovedCameraIsDrawnAtOnce();
     void theNewestBubbleIsTheOneThatIsDrawn();
     void touchesOfTheTerminalShareADrawing();
+    void theBoundaryIsDrawnWhereItLies();
 
 private:
     QScopedPointer<MapOverlay> overlay;
     QScopedPointer<DrawingCount> drawn;
 };
+
+void TestMapOverlay::theBoundaryIsDrawnWhereItLies()
+{
+    Camera camera;
+    camera.setViewport(QSizeF(400, 300));
+    camera.frame(QRectF(-50, -50, 100, 100), QRectF(50, 50, 300, 200));
+    overlay->setCamera(camera);
+    const auto colorAt = [this, &camera](double x, double y) {
+        return overlay->grab().toImage().pixelColor(camera.project(QPointF(x, y))->toPoint());
+    };
+    const QColor before = colorAt(40, 40);
+    overlay->setBoundary({QPolygonF({{-40, -40}, {40, -40}, {40, 40}, {-40, 40}, {-40, -40}})});
+    QVERIFY(colorAt(40, 40) != before);
+    QVERIFY(colorAt(-40, 0) != before);
+    QCOMPARE(colorAt(30, 30), before);
+    overlay->setBoundary({});
+    QCOMPARE(colorAt(40, 40), before);
+}
 
 void TestMapOverlay::init()
 {

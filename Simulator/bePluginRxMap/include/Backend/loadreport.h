@@ -49,7 +49,7 @@ struct LoadReport {
     QList<MapFinding> findings;
     /// Extent in the local plane, metres: left = least x, top = least y.
     QRectF bounds;
-    /// The field's boundary in the local plane, metres, a ring each, holes too; empty where the file has none.
+    /// The field's boundary in the local plane, metres, closed rings, holes too; empty where the file has none.
     QList<QPolygonF> boundary;
     /// Where the local plane touches the earth, degrees of longitude and latitude. Maps of one origin share a plane.
     QPointF origin;

@@ -201,6 +201,8 @@ void TaskDataReader::readBoundary(RawPrescription &map) const
     }
     SourceBoundary &boundary = map.boundary;
     for (const TaskRing &ring : field->boundary) {
+        if (ring.longitudes.empty())
+            continue;
         boundary.xs.insert(boundary.xs.end(), ring.longitudes.begin(), ring.longitudes.end());
         boundary.ys.insert(boundary.ys.end(), ring.latitudes.begin(), ring.latitudes.end());
         boundary.ends.push_back(boundary.xs.size());
