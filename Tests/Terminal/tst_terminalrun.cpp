@@ -1,6 +1,7 @@
 #include "commandline.h"
 #include "paths.h"
 #include "streamcapture.h"
+#include "taskdatasketch.h"
 #include "terminalhost.h"
 #include "terminalrun.h"
 #include "testbase.h"
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void theColumnsThatFeedInTheEndAreReported();
     void theUnitOfTheFileIsTold_data();
     void theUnitOfTheFileIsTold();
+    void theRatesAroundATaskAreTold();
     void whatALoadCountsIsTold_data();
     void whatALoadCountsIsTold();
     void aProductThatNoPrescriptionDrivesIsFedByNone();
@@ -290,6 +292,25 @@ void TestTerminalRun::theUnitOfTheFileIsTold()
     QTEST(outcome.answer, "answer");
     QVERIFY2(outcome.output.startsWith(zones() + QStringLiteral(": product 1 (Seed): ") + told + QLatin1Char('\n')),
              qPrintable(outcome.output));
+}
+
+void TestTerminalRun::theRatesAroundATaskAreTold()
+{
+    using Sketch = TaskDataSketch;
+    const auto task = [](const QByteArray &name, int steps) {
+        const QByteArray zones = Sketch::zone(1, Sketch::polygon({{11.0, 48.0, 0.01}}) + Sketch::value(6, steps))
+            + Sketch::zone(2, Sketch::value(6, 14815)) + Sketch::zone(3, Sketch::value(6, 0));
+        return Sketch::task(name, zones, "H=\"2\" J=\"3\"");
+    };
+    QVERIFY(Sketch{task("TSK1", 10000) + task("TSK2", 20000)}.write(folder.path()));
+    const Outcome outcome = run({"--task", "TSK2", "--describe", "0,0", folder.path()});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.answer, QStringLiteral("Rx Rate: 200.00\n"));
+    const QString product = folder.path() + QStringLiteral(": product 2 (Fertiliser): ");
+    QCOMPARE(QString(outcome.output).remove(outcome.answer),
+             product + QStringLiteral("Setpoint Mass Per Area Application Rate (mg/m2, from the format)\n") + product
+                 + QStringLiteral("default rate 0 kg/ha (out of the field 0, elsewhere 148.15)\n"));
 }
 
 void TestTerminalRun::whatALoadCountsIsTold_data()

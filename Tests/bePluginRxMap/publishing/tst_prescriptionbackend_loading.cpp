@@ -1,5 +1,8 @@
 #include "backendtest.h"
 #include "layerwriter.h"
+#include "taskdatasketch.h"
+
+#include "bePluginRxMap/rxmaploader.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -17,6 +20,7 @@ private Q_SLOTS:
     void cancelsWhatRunsAndWhatWaits();
     void cancelsALoadThatWaitsToBePublished();
     void cancelsTheRepairOfATangleAtOnce();
+    void putsDefaultRatesOfTaskDataIntoUse();
     void isDestroyedWhileItLoads();
     void letsAListenerDestroyIt();
     void givesALoadUpWhenTheProgramEnds_data();
@@ -140,6 +144,27 @@ void PrescriptionBackendLoadingTest::cancelsTheRepairOfATangleAtOnce()
     const LoadReport report = backend->loadAndWait(requestFor(path));
     QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
     QVERIFY2(sinceCancel.elapsed() < 1000, qPrintable(QString::number(sinceCancel.elapsed())));
+}
+
+void PrescriptionBackendLoadingTest::putsDefaultRatesOfTaskDataIntoUse()
+{
+    using Sketch = TaskDataSketch;
+    const QTemporaryDir folder;
+    const QByteArray zones = Sketch::zone(1, Sketch::polygon({{11.0, 48.0, 0.01}}) + Sketch::value(6, 9))
+        + Sketch::zone(2, Sketch::value(6, 14815));
+    QVERIFY(Sketch{Sketch::task("TSK1", zones, "H=\"2\"")}.write(folder.path()));
+    LoadRequest request = requestFor(folder.path());
+    request.products[1].kind = DbGroupProductGroupInfo::WeightRate;
+    request.products.first().isDriven = false;
+    RxMapLoader *loader = backend->loader(1);
+    const QSignalSpy taken(loader, &RxMapLoader::defaultRateTaken);
+    loader->defaultRate = 150.0;
+    const LoadReport report = backend->loadAndWait(request);
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QCOMPARE(loader->defaultRate, 148.15);
+    QCOMPARE(taken.size(), 1);
+    QCOMPARE(group(report.group)->getRateCalMappings().value(0).defaultRate, 148.15);
+    QCOMPARE(backend->loader(0)->defaultRate, 0.0);
 }
 
 void PrescriptionBackendLoadingTest::isDestroyedWhileItLoads()

@@ -2,6 +2,7 @@
 #include "fixture.h"
 #include "layerwriter.h"
 #include "prescriptionloader.h"
+#include "taskdatasketch.h"
 #include "testbase.h"
 
 #include <QTemporaryDir>
@@ -53,6 +54,13 @@ class PrescriptionLoaderFuzz : public TestBase {
 private Q_SLOTS:
     void survivesDamage_data();
     void survivesDamage();
+    void survivesDamagedTaskData_data();
+    void survivesDamagedTaskData();
+
+private:
+    /// Damages `part` of the prescription in many ways, and loads it each time. Undamaged, its chain has so many
+    /// records.
+    void loadDamaged(const QString &target, const QString &part, unsigned records, int rounds);
 };
 
 void PrescriptionLoaderFuzz::survivesDamage_data()
@@ -89,19 +97,56 @@ void PrescriptionLoaderFuzz::survivesDamage()
                                        "(11.002 48.012, 11.008 48.012, 11.005 48.018, 11.002 48.012))"),
                         {70.0, 7}});
     QVERIFY(sketch.write(folder.filePath(target)));
-    const QString part = folder.filePath(QStringLiteral("map.") + extension);
+    loadDamaged(folder.filePath(target), folder.filePath(QStringLiteral("map.") + extension), 8, rounds);
+}
+
+void PrescriptionLoaderFuzz::survivesDamagedTaskData_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<int>("rounds");
+    QTest::newRow("XML") << "."
+                         << "TASKDATA.XML" << 400;
+    QTest::newRow("file that it refers to") << "."
+                                            << "TSK00001.XML" << 150;
+    QTest::newRow("grid") << "."
+                          << "GRD00001.BIN" << 60;
+    QTest::newRow("archive") << "map.zip"
+                             << "map.zip" << 150;
+}
+
+void PrescriptionLoaderFuzz::survivesDamagedTaskData()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, part);
+    QFETCH(int, rounds);
+    using Sketch = TaskDataSketch;
+    const QTemporaryDir folder;
+    const QByteArray zones = Sketch::zone(1, Sketch::value(6, 90) + Sketch::value(1, 10))
+        + Sketch::zone(2, Sketch::polygon({{11.01, 48.0, 0.001}, {11.0102, 48.0002, 0.0002}}) + Sketch::value(6, 70));
+    const QByteArray field = "<PFD A=\"PFD1\">" + Sketch::polygon({{11.0, 48.0, 0.02}}, 1) + "</PFD>\n";
+    const QByteArray other = Sketch::task("TSK2", Sketch::zone(1, Sketch::polygon({{11.0, 48.0, 0.01}})));
+    const Sketch sketch{field + Sketch::task("TSK1", Sketch::grid(3, 2, 1) + zones, "E=\"PFD1\" H=\"2\"")
+                            + "<XFR A=\"TSK00001\"/>",
+                        4,
+                        {{"GRD00001.BIN", "\1\2\1\2\1\1"}, {"TSK00001.XML", "<XFC>" + other + "</XFC>"}}};
+    QVERIFY(sketch.write(folder.path()));
+    QVERIFY(sketch.writeArchive(folder.filePath("map.zip")));
+    loadDamaged(target == "." ? folder.path() : folder.filePath(target), folder.filePath(part), 8, rounds);
+}
+
+void PrescriptionLoaderFuzz::loadDamaged(const QString &target, const QString &part, unsigned records, int rounds)
+{
     QFile file(part);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray whole = file.readAll();
     file.close();
 
-    const auto load = [path = folder.filePath(target)] {
-        return PrescriptionLoader(requestFor(path), {}, LoadControl()).load();
-    };
+    const auto load = [&target] { return PrescriptionLoader(requestFor(target), {}, LoadControl()).load(); };
     const auto undamaged = load();
     QVERIFY2(undamaged->report.isOk(), qPrintable(undamaged->report.error));
     QVERIFY(holdsTogether(*undamaged));
-    QCOMPARE(undamaged->chain->size(), 8U);
+    QCOMPARE(undamaged->chain->size(), records);
 
     std::mt19937 random(static_cast<unsigned>(whole.size()));
     int loaded = 0;
@@ -113,8 +158,7 @@ void PrescriptionLoaderFuzz::survivesDamage()
         if (map->report.isOk())
             QVERIFY(holdsTogether(*map));
         else
-            QVERIFY(map->report.error.startsWith(folder.filePath(target))
-                    && !map->report.error.contains(QLatin1Char('\n')));
+            QVERIFY(map->report.error.startsWith(target) && !map->report.error.contains(QLatin1Char('\n')));
         loaded += map->report.isOk() ? 1 : 0;
     }
     QVERIFY(loaded < rounds);
