@@ -37,7 +37,7 @@ void Vehicle::take(std::unique_ptr<Motion> way)
     state.isWorking = false;
     if (mode() != Motion::Mode::Hand)
         state.speed = 0.0;
-    motion->want(state, wantedSpeed);
+    motion->want(state, wanted);
     publish();
 }
 
@@ -68,9 +68,9 @@ bool Vehicle::steer(double curvature)
 void Vehicle::replay(std::unique_ptr<TrackReader> track)
 {
     constexpr double onItsOwn = 1.0;
-    wantedSpeed = onItsOwn;
+    wanted = onItsOwn;
     take(std::make_unique<TrackMotion>(std::move(track), machineSize.antennaOffset));
-    motion->advance(state, 0.0, wantedSpeed, SpeedRamp(machineSize.acceleration));
+    motion->advance(state, 0.0, wanted, SpeedRamp(machineSize.acceleration));
     publish();
 }
 
@@ -80,8 +80,8 @@ bool Vehicle::drive(double metresPerSecond)
     if (!(metresPerSecond >= least) || metresPerSecond > maxSpeed)
         return false;
     advance();
-    wantedSpeed = metresPerSecond;
-    motion->want(state, wantedSpeed);
+    wanted = metresPerSecond;
+    motion->want(state, wanted);
     publish();
     return true;
 }
@@ -96,9 +96,9 @@ void Vehicle::advance()
     const qint64 now = clock->now();
     const double seconds = double(now - lastAdvance) / 1000.0;
     lastAdvance = now;
-    if ((isStopped() && wantedSpeed == 0.0) || seconds <= 0.0 || state.isOver)
+    if ((isStopped() && wanted == 0.0) || seconds <= 0.0 || state.isOver)
         return;
-    motion->advance(state, seconds, wantedSpeed, SpeedRamp(machineSize.acceleration));
+    motion->advance(state, seconds, wanted, SpeedRamp(machineSize.acceleration));
     publish();
 }
 

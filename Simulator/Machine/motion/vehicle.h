@@ -49,6 +49,8 @@ public:
     /// acceleration; a track has speeds of its own, and only waits while the speed is 0.
     bool drive(double metresPerSecond);
     void stop();
+    /// What drive() was told last.
+    double wantedSpeed() const { return wanted; }
     /// Moves the vehicle by the time that has passed on the clock.
     void advance();
 
@@ -84,7 +86,7 @@ private:
     QRectF area;
     std::unique_ptr<Motion> motion;
     MotionState state;
-    double wantedSpeed = 0.0;
+    double wanted = 0.0;
     bool signalIsThere = true;
     qint64 lastAdvance;
 };

@@ -45,6 +45,8 @@ void FieldScene::initialize()
 {
     initializeOpenGLFunctions();
     grid.init();
+    for (Object3D *aid : qAsConst(aids))
+        aid->init();
     isInitialised = true;
     for (const QPointer<UiGraphicsList> &list : lists) {
         if (list)
@@ -59,7 +61,14 @@ void FieldScene::addGraphicsList(UiGraphicsList *list)
         list->init();
 }
 
-void FieldScene::draw(const Camera &camera, Aids aids)
+void FieldScene::addAid(Object3D *aid)
+{
+    aids.append(aid);
+    if (isInitialised)
+        aid->init();
+}
+
+void FieldScene::draw(const Camera &camera, Aids shown)
 {
     const QColor ground = groundColor();
     glDisable(GL_SCISSOR_TEST);
@@ -68,9 +77,10 @@ void FieldScene::draw(const Camera &camera, Aids aids)
     glClear(GL_COLOR_BUFFER_BIT);
 
     QList<Object3D *> drawables = guests();
-    if (aids == Aids::Shown) {
+    if (shown == Aids::Shown) {
         fitGrid(camera);
         drawables.prepend(&grid);
+        drawables.append(aids);
     }
     std::stable_sort(drawables.begin(), drawables.end(),
                      [](const Object3D *a, const Object3D *b) { return a->drawingOrder() < b->drawingOrder(); });

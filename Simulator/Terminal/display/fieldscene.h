@@ -9,8 +9,8 @@
 class Camera;
 class UiGraphicsList;
 
-/// What is drawn in the 3D field view: the host's grid and the drawables of every graphics list. All calls need the
-/// view's OpenGL context current, except groundColor().
+/// What is drawn in the 3D field view: the host's grid and other aids, and the drawables of every graphics list. All
+/// calls need the view's OpenGL context current, except groundColor().
 class FieldScene : protected QOpenGLFunctions {
 public:
     enum class Aids { Shown, Hidden };
@@ -24,8 +24,11 @@ public:
     void initialize();
     /// Adds a list (not owned) and initialises it, once the scene itself is.
     void addGraphicsList(UiGraphicsList *list);
+    /// Adds a drawing aid of the host's own (not owned) and initialises it, once the scene itself is.
+    void addAid(Object3D *aid);
+    void removeAid(Object3D *aid) { aids.removeAll(aid); }
     /// Draws one frame; without the aids only the ground and the guests' drawables.
-    void draw(const Camera &camera, Aids aids);
+    void draw(const Camera &camera, Aids shown);
 
 private:
     void setGuestState();
@@ -33,6 +36,7 @@ private:
     void fitGrid(const Camera &camera);
 
     GroundGrid grid;
+    QList<Object3D *> aids;
     QList<QPointer<UiGraphicsList>> lists;
     bool isInitialised = false;
 };

@@ -51,6 +51,16 @@ void FieldView::addGraphicsList(UiGraphicsList *list)
     update();
 }
 
+void FieldView::addAid(Object3D *aid)
+{
+    if (isValid())
+        makeCurrent();
+    scene.addAid(aid);
+    if (isValid())
+        doneCurrent();
+    update();
+}
+
 void FieldView::setFreeArea(const QRectF &area)
 {
     freeArea = area;
@@ -67,6 +77,14 @@ void FieldView::zoom(double factor)
 {
     framed = QRectF();
     eye.zoom(factor, freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center());
+    moveCamera();
+}
+
+void FieldView::lookAt(const QPointF &field)
+{
+    framed = QRectF();
+    eye.setTarget(field);
+    eye.pan(eye.project(field).value_or(QPointF()), freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center());
     moveCamera();
 }
 
@@ -179,6 +197,7 @@ bool FieldView::followTouch(const QTouchEvent &event)
             eye.pan((formerFirst + formerSecond) / 2.0, (first + second) / 2.0);
             eye.zoom(now / before, (first + second) / 2.0);
             moveCamera();
+            Q_EMIT movedByHand();
         }
         isPinching = event.type() != QEvent::TouchEnd;
         isPressed = false;
@@ -230,6 +249,7 @@ void FieldView::drag(const QPointF &screen)
     eye.pan(draggedTo, screen);
     draggedTo = screen;
     moveCamera();
+    Q_EMIT movedByHand();
 }
 
 void FieldView::release(const QPointF &screen)

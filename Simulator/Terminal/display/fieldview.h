@@ -19,6 +19,9 @@ public:
 
     /// Shows the drawables of `list` (not owned; it must go while the context is current, see makeCurrent()).
     void addGraphicsList(UiGraphicsList *list);
+    /// Shows a drawing aid of the host's own (not owned; to be removed before it goes).
+    void addAid(Object3D *aid);
+    void removeAid(Object3D *aid) { scene.removeAid(aid); }
     const Camera &camera() const { return eye; }
     /// The part of the view that no panel covers, pixels; what frame() fits a field into.
     void setFreeArea(const QRectF &area);
@@ -26,6 +29,8 @@ public:
     void frame(const QRectF &field);
     /// Comes nearer by `factor` towards the middle of the free area.
     void zoom(double factor);
+    /// Brings a field point into the middle of the free area, as near as before.
+    void lookAt(const QPointF &field);
     /// What is drawn at a field point: ground and maps, without the host's drawing aids. The pixel is the one of the
     /// view as it looks now; a point outside of it is looked at by a camera moved there. Black without OpenGL.
     QColor colorAt(const QPointF &field);
@@ -36,6 +41,8 @@ Q_SIGNALS:
     /// The ground was touched at a field point, metres.
     void touched(const QPointF &field);
     void cameraChanged();
+    /// The operator has dragged the view to another place.
+    void movedByHand();
 
 protected:
     void initializeGL() override;

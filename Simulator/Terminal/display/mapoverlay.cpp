@@ -65,6 +65,14 @@ void MapOverlay::setBoundary(const QList<QPolygonF> &rings)
     pace.request();
 }
 
+void MapOverlay::setLookAhead(const std::optional<QPointF> &field)
+{
+    if (lookAhead == field)
+        return;
+    lookAhead = field;
+    pace.request();
+}
+
 void MapOverlay::showBubble(const QPointF &field, const QString &newText, const QColor &color)
 {
     bubbleAt = field;
@@ -78,6 +86,7 @@ void MapOverlay::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawBoundary(painter);
+    drawLookAhead(painter);
     drawVehicle(painter);
     drawNorthArrow(painter);
     drawScaleBar(painter);
@@ -94,6 +103,21 @@ void MapOverlay::drawBoundary(QPainter &painter) const
             if (from && to)
                 painter.drawLine(*from, *to);
         }
+    }
+}
+
+void MapOverlay::drawLookAhead(QPainter &painter) const
+{
+    constexpr double radius = 9.0;
+    const std::optional<QPointF> from = camera.project(vehicle);
+    const std::optional<QPointF> to = lookAhead ? camera.project(*lookAhead) : std::nullopt;
+    if (!from || !to)
+        return;
+    painter.setBrush(Qt::NoBrush);
+    for (const QPen &pen : {QPen(Theme::textOnAccent(), 6.0), QPen(Theme::text(), 3.0)}) {
+        painter.setPen(pen);
+        painter.drawLine(*from, *to);
+        painter.drawEllipse(*to, radius, radius);
     }
 }
 

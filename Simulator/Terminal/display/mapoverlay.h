@@ -10,11 +10,13 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+
 class QPainter;
 
-/// What lies over the map without being touched: the field's boundary, vehicle, north arrow, scale bar and the bubble
-/// at the touched point. Drawing it draws the map below it once more, so a vehicle and bubbles that change faster than
-/// frames share one.
+/// What lies over the map without being touched: the field's boundary, vehicle, look-ahead point, north arrow, scale
+/// bar and the bubble at the touched point. Drawing it draws the map below it once more, so a vehicle and bubbles that
+/// change faster than frames share one.
 class MapOverlay : public QWidget {
     Q_OBJECT
 
@@ -31,6 +33,8 @@ public:
     void setVehicle(const QPointF &place, double heading);
     /// The field's boundary, rings in metres; none where it is not known.
     void setBoundary(const QList<QPolygonF> &rings);
+    /// Where the active product's rate is asked for (metres); nothing where it is not.
+    void setLookAhead(const std::optional<QPointF> &field);
     /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
@@ -39,6 +43,7 @@ protected:
 
 private:
     void drawBoundary(QPainter &painter) const;
+    void drawLookAhead(QPainter &painter) const;
     void drawVehicle(QPainter &painter) const;
     void drawNorthArrow(QPainter &painter) const;
     void drawScaleBar(QPainter &painter) const;
@@ -50,6 +55,7 @@ private:
     QList<QPolygonF> boundary;
     QPointF vehicle;
     double vehicleHeading = 0.0;
+    std::optional<QPointF> lookAhead;
     QPointF bubbleAt;
     QString text;
     QColor bubbleColor;
