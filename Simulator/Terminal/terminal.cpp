@@ -1,6 +1,7 @@
 #include "terminal.h"
 
 #include "activemap.h"
+#include "drivedisplay.h"
 #include "fieldview.h"
 #include "guidancepage.h"
 #include "legendpanel.h"
@@ -137,6 +138,8 @@ void Terminal::installGraphicsLists()
 
 bool Terminal::show()
 {
+    if (!driveDisplay)
+        driveDisplay.reset(new DriveDisplay(display.data(), simulated.data()));
     display->move(0, 0);
     display->show();
     QApplication::processEvents();

@@ -23,6 +23,7 @@
 #include <optional>
 
 struct ActiveMap;
+class DriveDisplay;
 class Machine;
 class Recorder;
 class Simulation;
@@ -56,6 +57,8 @@ public:
     Vehicle *vehicle() const;
     Recorder *recorder() const { return driveRecorder.data(); }
     TerminalWindow *window() const { return display.data(); }
+    /// Null until the display is shown.
+    DriveDisplay *driving() const { return driveDisplay.data(); }
 
     /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
     /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
@@ -107,6 +110,7 @@ private:
     QScopedPointer<Simulation> simulated;
     QScopedPointer<Recorder> driveRecorder;
     QScopedPointer<TerminalWindow> display;
+    QScopedPointer<DriveDisplay> driveDisplay;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;

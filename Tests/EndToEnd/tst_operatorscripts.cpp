@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aFailedLoadLeavesEverythingAsItWas();
     void theLookAheadIsSeenInTheRates();
     void masterAndShutoffAreSeenInTheRates();
+    void theFieldIsDrivenByTouch();
 
 private:
     /// Runs a script that uses check(condition, text); everything it complains of fails the test.
@@ -126,6 +127,11 @@ void TestOperatorScripts::masterAndShutoffAreSeenInTheRates()
 {
     runChecked(QStringLiteral("var zones = \"%1\";\n").arg(sourcePath("Tests/fixtures/three-zones.geojson"))
                + scriptText(QStringLiteral("shut-off-on-the-ground.js")));
+}
+
+void TestOperatorScripts::theFieldIsDrivenByTouch()
+{
+    runChecked(QStringLiteral("var pictures = \"\";\n") + scriptText(QStringLiteral("drive-by-touch.js")));
 }
 
 RXMAP_TEST(TestOperatorScripts, Widgets)

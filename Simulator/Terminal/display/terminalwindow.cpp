@@ -37,6 +37,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     setObjectName(QStringLiteral("terminalWindow"));
     setFixedSize(displaySize);
     addZoomButtons();
+    addDriveButton();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
     qApp->installEventFilter(this);
     connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
@@ -56,6 +57,43 @@ void TerminalWindow::addZoomButtons()
     connect(add(QStringLiteral("\u2212"), "zoomOut"), &TouchButton::clicked, view,
             [this] { view->zoom(1.0 / zoomStep); });
     connect(add(tr("Field"), "showField"), &TouchButton::clicked, this, &TerminalWindow::frameRequested);
+}
+
+void TerminalWindow::addDriveButton()
+{
+    constexpr int driveWidth = 112;
+    driveButton = new TouchButton(tr("Drive"), this);
+    driveButton->setObjectName(QStringLiteral("drive"));
+    driveButton->setCheckable(true);
+    driveButton->setFixedWidth(driveWidth);
+    driveButton->hide();
+    status->addButton(driveButton);
+    connect(driveButton, &TouchButton::toggled, this, &TerminalWindow::showDriving);
+}
+
+void TerminalWindow::setDriving(QWidget *panel, QWidget *strip)
+{
+    driveButton->setChecked(false);
+    delete drivePanel;
+    delete driveStrip;
+    drivePanel = panel;
+    driveStrip = strip;
+    for (QWidget *part : {panel, strip}) {
+        if (part == nullptr)
+            continue;
+        part->setParent(this);
+        part->hide();
+    }
+    driveButton->setVisible(panel != nullptr);
+}
+
+void TerminalWindow::showDriving(bool isShown)
+{
+    selector->setVisible(!isShown);
+    drivePanel->setVisible(isShown);
+    driveStrip->setVisible(isShown);
+    arrange();
+    Q_EMIT drivingShown(isShown);
 }
 
 void TerminalWindow::resizeEvent(QResizeEvent *)
@@ -88,6 +126,14 @@ void TerminalWindow::arrange()
 
     QRectF free(inner.left() + selectorWidth + Theme::margin, inner.top(), 0.0, inner.height());
     free.setRight(legendPanel->x() - Theme::margin);
+    if (driveButton->isChecked()) {
+        drivePanel->setGeometry(inner.left(), inner.top(), selectorWidth, inner.height());
+        const int stripRight = qMin(right, page->isVisible() ? page->x() : right) - Theme::margin / 2;
+        const int stripHeight = driveStrip->sizeHint().height();
+        driveStrip->setGeometry(int(free.left()), inner.bottom() + 1 - stripHeight, stripRight - int(free.left()),
+                                stripHeight);
+        free.setBottom(driveStrip->y() - Theme::margin);
+    }
     free.translate(0.0, -statusHeight);
     view->setFreeArea(free);
     mapOverlay->setFreeArea(free);

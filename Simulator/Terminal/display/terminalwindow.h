@@ -11,6 +11,7 @@ class LegendPanel;
 class MapOverlay;
 class ProductSelector;
 class StatusBar;
+class TouchButton;
 
 /// The terminal's display: the field view with the panels around and over it.
 class TerminalWindow : public QWidget {
@@ -30,12 +31,18 @@ public:
     StatusBar *statusBar() const { return status; }
     GuidancePage *guidancePage() const { return page; }
 
+    /// What drives the machine: `panel` takes the place of the products, and `strip` that under the map, while the
+    /// operator drives; both become the window's. Null for both takes them away again.
+    void setDriving(QWidget *panel, QWidget *strip);
+
     /// The display as it is seen, with every dialog and popup that is open over it.
     QImage screenshot();
 
 Q_SIGNALS:
     /// The field is to be seen as a whole again.
     void frameRequested();
+    /// What drives the machine was shown, or hidden.
+    void drivingShown(bool isShown);
     void closed();
 
 protected:
@@ -45,6 +52,8 @@ protected:
 
 private:
     void addZoomButtons();
+    void addDriveButton();
+    void showDriving(bool isShown);
     void arrange();
 
     FieldView *view;
@@ -54,4 +63,7 @@ private:
     LegendPanel *legendPanel;
     GuidancePage *page;
     QList<QWidget *> zoomButtons;
+    TouchButton *driveButton = nullptr;
+    QWidget *drivePanel = nullptr;
+    QWidget *driveStrip = nullptr;
 };

@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>DriveControls</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>No prescription is loaded that could be driven.</source>
+        <translation>Es ist keine Applikationskarte geladen, die gefahren werden könnte.</translation>
+    </message>
+    <message>
+        <source>The field cannot be driven: %1</source>
+        <translation>Das Feld kann nicht gefahren werden: %1</translation>
+    </message>
+    <message>
+        <source>The end of the way is reached.</source>
+        <translation>Das Ende des Weges ist erreicht.</translation>
+    </message>
+</context>
+<context>
+    <name>DrivePanel</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Halt</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Swaths</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Signal loss</source>
+        <translation>Signalverlust</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Bremse</translation>
+    </message>
+    <message>
+        <source>Throttle</source>
+        <translation>Gas</translation>
+    </message>
+    <message>
+        <source>%1× time</source>
+        <comment>pace of the simulated time</comment>
+        <translation>%1× Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>DriveStrip</name>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -167,6 +245,80 @@
     </message>
 </context>
 <context>
+    <name>RatePlot</name>
+    <message>
+        <source>−%1 s</source>
+        <translation>−%1 s</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Soll</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Ist</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
+        <source>Prescription</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Default rate</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Zero shut-off</source>
+        <translation>Nullabschaltung</translation>
+    </message>
+    <message>
+        <source>Least rate</source>
+        <translation>Mindestmenge</translation>
+    </message>
+    <message>
+        <source>No position</source>
+        <translation>Keine Position</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Steht</translation>
+    </message>
+    <message>
+        <source>Not controlled</source>
+        <translation>Nicht geregelt</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Soll</translation>
+    </message>
+    <message>
+        <source>Commanded</source>
+        <translation>Stellwert</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Ist</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -229,6 +381,10 @@
     <message>
         <source>Field</source>
         <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Fahren</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>DriveControls</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>No prescription is loaded that could be driven.</source>
+        <translation>No hay ninguna prescripción cargada que recorrer.</translation>
+    </message>
+    <message>
+        <source>The field cannot be driven: %1</source>
+        <translation>No se puede recorrer el campo: %1</translation>
+    </message>
+    <message>
+        <source>The end of the way is reached.</source>
+        <translation>Se ha llegado al final del recorrido.</translation>
+    </message>
+</context>
+<context>
+    <name>DrivePanel</name>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>Swaths</source>
+        <translation>Pasadas</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>A mano</translation>
+    </message>
+    <message>
+        <source>Signal loss</source>
+        <translation>Pérdida de señal</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Freno</translation>
+    </message>
+    <message>
+        <source>Throttle</source>
+        <translation>Gas</translation>
+    </message>
+    <message>
+        <source>%1× time</source>
+        <comment>pace of the simulated time</comment>
+        <translation>%1× tiempo</translation>
+    </message>
+</context>
+<context>
+    <name>DriveStrip</name>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -167,6 +245,80 @@
     </message>
 </context>
 <context>
+    <name>RatePlot</name>
+    <message>
+        <source>−%1 s</source>
+        <translation>−%1 s</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>ahora</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrita</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicada</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
+        <source>Prescription</source>
+        <translation>Prescripción</translation>
+    </message>
+    <message>
+        <source>Default rate</source>
+        <translation>Dosis estándar</translation>
+    </message>
+    <message>
+        <source>Zero shut-off</source>
+        <translation>Corte con cero</translation>
+    </message>
+    <message>
+        <source>Least rate</source>
+        <translation>Dosis mínima</translation>
+    </message>
+    <message>
+        <source>No position</source>
+        <translation>Sin posición</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Not controlled</source>
+        <translation>Sin control</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Producto</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrita</translation>
+    </message>
+    <message>
+        <source>Commanded</source>
+        <translation>Ordenada</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicada</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Apagado</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -229,6 +381,10 @@
     <message>
         <source>Field</source>
         <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Conducir</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>DriveControls</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>No prescription is loaded that could be driven.</source>
+        <translation>Aucune carte de préconisation à parcourir n’est chargée.</translation>
+    </message>
+    <message>
+        <source>The field cannot be driven: %1</source>
+        <translation>La parcelle ne peut pas être parcourue : %1</translation>
+    </message>
+    <message>
+        <source>The end of the way is reached.</source>
+        <translation>La fin du parcours est atteinte.</translation>
+    </message>
+</context>
+<context>
+    <name>DrivePanel</name>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Suivre</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>Swaths</source>
+        <translation>Passages</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>À la main</translation>
+    </message>
+    <message>
+        <source>Signal loss</source>
+        <translation>Perte du signal</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Frein</translation>
+    </message>
+    <message>
+        <source>Throttle</source>
+        <translation>Gaz</translation>
+    </message>
+    <message>
+        <source>%1× time</source>
+        <comment>pace of the simulated time</comment>
+        <translation>%1× temps</translation>
+    </message>
+</context>
+<context>
+    <name>DriveStrip</name>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -167,6 +245,80 @@
     </message>
 </context>
 <context>
+    <name>RatePlot</name>
+    <message>
+        <source>−%1 s</source>
+        <translation>−%1 s</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>présent</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Préconisée</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Appliquée</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
+        <source>Prescription</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Default rate</source>
+        <translation>Dose standard</translation>
+    </message>
+    <message>
+        <source>Zero shut-off</source>
+        <translation>Coupure à zéro</translation>
+    </message>
+    <message>
+        <source>Least rate</source>
+        <translation>Dose minimale</translation>
+    </message>
+    <message>
+        <source>No position</source>
+        <translation>Sans position</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>À l&apos;arrêt</translation>
+    </message>
+    <message>
+        <source>Not controlled</source>
+        <translation>Non piloté</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produit</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Préconisée</translation>
+    </message>
+    <message>
+        <source>Commanded</source>
+        <translation>Demandée</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Appliquée</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Arrêt</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -229,6 +381,10 @@
     <message>
         <source>Field</source>
         <translation>Champ</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Conduire</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>DriveControls</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 mph</source>
+        <translation>%1 mph</translation>
+    </message>
+    <message>
+        <source>No prescription is loaded that could be driven.</source>
+        <translation>Nenhuma prescrição carregada para percorrer.</translation>
+    </message>
+    <message>
+        <source>The field cannot be driven: %1</source>
+        <translation>O talhão não pode ser percorrido: %1</translation>
+    </message>
+    <message>
+        <source>The end of the way is reached.</source>
+        <translation>O fim do percurso foi alcançado.</translation>
+    </message>
+</context>
+<context>
+    <name>DrivePanel</name>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Câmera</translation>
+    </message>
+    <message>
+        <source>Swaths</source>
+        <translation>Passadas</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>À mão</translation>
+    </message>
+    <message>
+        <source>Signal loss</source>
+        <translation>Perda de sinal</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Freio</translation>
+    </message>
+    <message>
+        <source>Throttle</source>
+        <translation>Acelerar</translation>
+    </message>
+    <message>
+        <source>%1× time</source>
+        <comment>pace of the simulated time</comment>
+        <translation>%1× tempo</translation>
+    </message>
+</context>
+<context>
+    <name>DriveStrip</name>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -167,6 +245,80 @@
     </message>
 </context>
 <context>
+    <name>RatePlot</name>
+    <message>
+        <source>−%1 s</source>
+        <translation>−%1 s</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>agora</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrita</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicada</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
+        <source>Prescription</source>
+        <translation>Prescrição</translation>
+    </message>
+    <message>
+        <source>Default rate</source>
+        <translation>Dose padrão</translation>
+    </message>
+    <message>
+        <source>Zero shut-off</source>
+        <translation>Corte com zero</translation>
+    </message>
+    <message>
+        <source>Least rate</source>
+        <translation>Dose mínima</translation>
+    </message>
+    <message>
+        <source>No position</source>
+        <translation>Sem posição</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Parado</translation>
+    </message>
+    <message>
+        <source>Not controlled</source>
+        <translation>Sem controle</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produto</translation>
+    </message>
+    <message>
+        <source>Prescribed</source>
+        <translation>Prescrita</translation>
+    </message>
+    <message>
+        <source>Commanded</source>
+        <translation>Comandada</translation>
+    </message>
+    <message>
+        <source>Applied</source>
+        <translation>Aplicada</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origem</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desl.</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -229,6 +381,10 @@
     <message>
         <source>Field</source>
         <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Dirigir</translation>
     </message>
 </context>
 </TS>

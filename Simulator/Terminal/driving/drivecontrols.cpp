@@ -1,0 +1,219 @@
+#include "drivecontrols.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "fielddrive.h"
+#include "machine.h"
+#include "simulation.h"
+#include "vehicle.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double kilometreAnHour = 1.0 / 3.6; // m/s
+constexpr double mileAnHour = 0.44704;
+constexpr double mostKilometres = 40.0;
+constexpr double mostMiles = 25.0;
+constexpr std::array<double, 6> paces{1.0, 2.0, 5.0, 10.0, 20.0, 50.0};
+
+} // namespace
+
+DriveControls::DriveControls(Simulation *simulation, QObject *parent)
+    : QObject(parent)
+    , simulation(simulation)
+    , nextSpeed(FieldDrive::usualSpeed)
+{
+    connect(vehicle(), &Vehicle::moved, this, &DriveControls::changed);
+    connect(simulation, &Simulation::timeFactorChanged, this, [this](double factor) {
+        if (factor > 0.0)
+            lastPace = factor;
+        Q_EMIT changed();
+    });
+    connect(simulation->machine(), &Machine::mapsChanged, this, [this] {
+        problem.clear();
+        Q_EMIT changed();
+    });
+}
+
+Vehicle *DriveControls::vehicle() const
+{
+    return simulation->vehicle();
+}
+
+bool DriveControls::isMetric() const
+{
+    return simulation->machine()->unitSystem() == UnitSystem::Metric;
+}
+
+void DriveControls::start()
+{
+    problem.clear();
+    const bool needsWay = vehicle()->mode() == Motion::Mode::Shuttle || vehicle()->isOver();
+    if (!needsWay || planSwaths())
+        vehicle()->drive(speed());
+    Q_EMIT changed();
+}
+
+void DriveControls::stop()
+{
+    nextSpeed = speed();
+    vehicle()->stop();
+}
+
+bool DriveControls::isUnderWay() const
+{
+    return vehicle()->wantedSpeed() != 0.0 && !vehicle()->isOver();
+}
+
+double DriveControls::speed() const
+{
+    // A pedal's speed is not the one of the next start, and a track has speeds of its own.
+    const bool isGiven = !isByHand() && !isReplay() && vehicle()->wantedSpeed() > 0.0;
+    return isGiven ? vehicle()->wantedSpeed() : nextSpeed;
+}
+
+QString DriveControls::speedText() const
+{
+    return isMetric() ? tr("%1 km/h").arg(speed() / kilometreAnHour, 0, 'f', 1)
+                      : tr("%1 mph").arg(speed() / mileAnHour, 0, 'f', 1);
+}
+
+void DriveControls::faster()
+{
+    changeSpeed(1);
+}
+
+void DriveControls::slower()
+{
+    changeSpeed(-1);
+}
+
+void DriveControls::changeSpeed(int steps)
+{
+    constexpr double rounding = 1e-6;
+    const double unit = isMetric() ? kilometreAnHour : mileAnHour;
+    const double now = speed() / unit;
+    const double next = steps > 0 ? std::floor(now + rounding) + 1.0 : std::ceil(now - rounding) - 1.0;
+    nextSpeed = unit * std::clamp(next, 1.0, isMetric() ? mostKilometres : mostMiles);
+    if (vehicle()->wantedSpeed() > 0.0 && !isReplay())
+        vehicle()->drive(nextSpeed);
+    Q_EMIT changed();
+}
+
+double DriveControls::pace() const
+{
+    return isPaused() ? lastPace : simulation->timeFactor();
+}
+
+void DriveControls::paceUp()
+{
+    changePace(1);
+}
+
+void DriveControls::paceDown()
+{
+    changePace(-1);
+}
+
+void DriveControls::changePace(int steps)
+{
+    const auto above = std::upper_bound(paces.begin(), paces.end(), pace());
+    const auto from = std::lower_bound(paces.begin(), paces.end(), pace());
+    if (steps > 0)
+        lastPace = above != paces.end() ? *above : paces.back();
+    else
+        lastPace = from != paces.begin() ? *(from - 1) : paces.front();
+    if (!isPaused())
+        simulation->setTimeFactor(lastPace);
+    Q_EMIT changed();
+}
+
+bool DriveControls::isPaused() const
+{
+    return simulation->timeFactor() == 0.0;
+}
+
+void DriveControls::setPaused(bool pauses)
+{
+    simulation->setTimeFactor(pauses ? 0.0 : pace());
+}
+
+bool DriveControls::planSwaths()
+{
+    const Result<DrivePath> path = FieldDrive::plan(*simulation, FieldDrive::usualOptions(*simulation));
+    if (path.isOk())
+        vehicle()->follow(path.value);
+    else if (simulation->machine()->backend()->maps().isEmpty())
+        problem = tr("No prescription is loaded that could be driven.");
+    else
+        problem = tr("The field cannot be driven: %1").arg(path.error);
+    return path.isOk();
+}
+
+void DriveControls::takeSwaths()
+{
+    problem.clear();
+    const double wanted = std::max(0.0, vehicle()->wantedSpeed());
+    if (planSwaths())
+        vehicle()->drive(wanted);
+    Q_EMIT changed();
+}
+
+void DriveControls::takeHand()
+{
+    problem.clear();
+    vehicle()->steer(0.0);
+    Q_EMIT changed();
+}
+
+bool DriveControls::isByHand() const
+{
+    return vehicle()->mode() == Motion::Mode::Hand;
+}
+
+bool DriveControls::isReplay() const
+{
+    return vehicle()->mode() == Motion::Mode::Replay;
+}
+
+void DriveControls::pressThrottle(bool isPressed)
+{
+    if (isByHand())
+        vehicle()->drive(isPressed ? nextSpeed : vehicle()->currentSpeed());
+}
+
+void DriveControls::pressBrake(bool isPressed)
+{
+    if (!isByHand())
+        return;
+    const double backwards = -std::min(nextSpeed, Vehicle::maxReverseSpeed);
+    const double pressed = vehicle()->currentSpeed() > 0.0 ? 0.0 : backwards;
+    vehicle()->drive(isPressed ? pressed : vehicle()->currentSpeed());
+}
+
+void DriveControls::turnWheel(double turn)
+{
+    // Rounding must not make it tighter than the machine can turn.
+    constexpr double justWithin = 1.0 - 1e-9;
+    if (isByHand())
+        vehicle()->steer(justWithin * std::clamp(turn, -1.0, 1.0) / vehicle()->size().minRadius);
+}
+
+void DriveControls::setSignal(bool isThere)
+{
+    vehicle()->setSignal(isThere);
+}
+
+bool DriveControls::hasSignal() const
+{
+    return vehicle()->hasSignal();
+}
+
+QString DriveControls::message() const
+{
+    if (!problem.isEmpty())
+        return problem;
+    return vehicle()->isOver() ? tr("The end of the way is reached.") : QString();
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class Simulation;
+class Vehicle;
+
+/// What the operator does to drive, for buttons and keys alike. How the machine drives is the simulation's; kept here
+/// is what it is to do next: the speed of the next start, and the pace after a pause.
+class DriveControls : public QObject {
+    Q_OBJECT
+
+public:
+    /// `simulation` is not owned and outlives the controls.
+    explicit DriveControls(Simulation *simulation, QObject *parent = nullptr);
+
+    /// Drives at speed(): by hand, along the way that there is, else along new swaths over the loaded field.
+    void start();
+    void stop();
+    /// It is to move, and its way is not at its end.
+    bool isUnderWay() const;
+
+    /// Metres per second.
+    double speed() const;
+    /// In the operator's unit, with the unit.
+    QString speedText() const;
+    /// To the next whole number of the operator's unit, up or down.
+    void faster();
+    void slower();
+
+    /// Simulated seconds in one of the wall's while there is no pause.
+    double pace() const;
+    /// To the next of 1, 2, 5, 10, 20 and 50, up or down.
+    void paceUp();
+    void paceDown();
+    bool isPaused() const;
+    void setPaused(bool pauses);
+
+    /// Puts the machine at the beginning of swaths over the loaded field; it drives on if it is under way.
+    void takeSwaths();
+    /// Leaves the machine to pedals and wheel.
+    void takeHand();
+    bool isByHand() const;
+    bool isReplay() const;
+
+    /// By hand: speeds up, to speed() at most, while it is pressed; the machine then keeps the speed that it has.
+    void pressThrottle(bool isPressed);
+    /// By hand: slows down, or drives backwards where the machine stands.
+    void pressBrake(bool isPressed);
+    /// By hand: -1 is as far to the left as the machine can turn, 1 to the right.
+    void turnWheel(double turn);
+
+    void setSignal(bool isThere);
+    bool hasSignal() const;
+
+    /// What the operator is to know of the way: why there is none, or that it is at its end.
+    QString message() const;
+
+Q_SIGNALS:
+    /// Something that is told here may be different.
+    void changed();
+
+private:
+    Vehicle *vehicle() const;
+    bool isMetric() const;
+    void changeSpeed(int steps);
+    void changePace(int steps);
+    bool planSwaths();
+
+    Simulation *simulation;
+    double nextSpeed;
+    double lastPace = 1.0;
+    QString problem;
+};

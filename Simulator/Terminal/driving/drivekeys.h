@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+class DriveControls;
+class DrivePanel;
+class QKeyEvent;
+
+/// A keyboard's keys for driving, while the panel is on the display and no dialog over it: Space starts and stops, P
+/// pauses, plus and minus change the speed, Page up and Page down the pace, S takes swaths and H the wheel, L loses and
+/// finds the signal; by hand Up is the throttle, Down the brake, Left and Right turn the wheel as long as they are
+/// held.
+class DriveKeys : public QObject {
+    Q_OBJECT
+
+public:
+    /// Neither is owned; both outlive the keys.
+    DriveKeys(DriveControls *controls, DrivePanel *panel, QObject *parent = nullptr);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    /// False for a key that drives nothing.
+    bool press(const QKeyEvent &event);
+    bool release(const QKeyEvent &event);
+    bool pressOnce(int key);
+    bool holdPedal(int key, bool isPressed);
+
+    DriveControls *controls;
+    DrivePanel *panel;
+};

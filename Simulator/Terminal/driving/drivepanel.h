@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QList>
+#include <QTimer>
+#include <QWidget>
+
+class DriveControls;
+class QLabel;
+class TouchButton;
+class WheelBar;
+
+/// The column of buttons that drive the machine; pedals and wheel are there while it is driven by hand.
+class DrivePanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `controls` is not owned and outlives the panel's use.
+    explicit DrivePanel(DriveControls *controls, QWidget *parent = nullptr);
+
+    WheelBar *wheel() const { return wheelBar; }
+    /// Whether the button says that the camera follows the vehicle.
+    void setFollowing(bool isFollowing);
+
+Q_SIGNALS:
+    /// The operator wants the camera to follow the vehicle, or not.
+    void followWanted(bool isWanted);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    TouchButton *add(const QString &text, const char *name, bool isSwitch = false);
+    QLabel *addReadout(const char *name);
+    void addDriving();
+    void addPace();
+    void addWays();
+    void addPedals();
+    void refresh();
+
+    DriveControls *controls;
+    /// From the top; a row of three has a readout in its middle.
+    QList<QList<QWidget *>> rows;
+    TouchButton *startButton = nullptr;
+    QLabel *speed = nullptr;
+    QLabel *pace = nullptr;
+    TouchButton *pauseButton = nullptr;
+    TouchButton *followButton = nullptr;
+    TouchButton *swathsButton = nullptr;
+    TouchButton *handButton = nullptr;
+    TouchButton *signalButton = nullptr;
+    TouchButton *brake = nullptr;
+    TouchButton *throttle = nullptr;
+    WheelBar *wheelBar = nullptr;
+    QLabel *message = nullptr;
+    QTimer pause;
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class Machine;
+
+/// A product's rates in the operator's unit.
+struct ShownUnit {
+    /// Takes base units to the operator's.
+    double factor = 1.0;
+    /// As it is written behind a rate; empty for a product of unknown kind.
+    QString text;
+
+    /// Of a product of the machine, by number from 1.
+    static ShownUnit of(const Machine &machine, int number);
+    /// A rate (base units) with as many decimals as leave three digits of it, four at most.
+    QString rateText(double rate) const;
+};

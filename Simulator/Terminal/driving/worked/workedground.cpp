@@ -1,0 +1,131 @@
+#include "workedground.h"
+
+#include "machine.h"
+#include "simulation.h"
+#include "vehicle.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+WorkedGround::Strip::Corner corner(const QPointF &place)
+{
+    return {float(place.x()), float(place.y())};
+}
+
+bool isSame(const Pose &a, const Pose &b)
+{
+    return a.place.x() == b.place.x() && a.place.y() == b.place.y() && a.heading == b.heading;
+}
+
+} // namespace
+
+WorkedGround::WorkedGround(Simulation *simulation, QObject *parent)
+    : QObject(parent)
+    , simulation(simulation)
+{
+    connect(simulation, &Simulation::stepped, this, &WorkedGround::take);
+    connect(simulation->machine(), &Machine::mapsChanged, this, &WorkedGround::findLegends);
+    connect(simulation->machine(), &Machine::activeProductChanged, this, [this] { firstChanged = oldest(); });
+    findLegends();
+}
+
+void WorkedGround::findLegends()
+{
+    const Machine &machine = *simulation->machine();
+    maps.clear();
+    for (int number = 1; number <= machine.products().size(); ++number)
+        maps.push_back(ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(number)));
+    firstChanged = oldest();
+    isOpen = false;
+}
+
+QColor WorkedGround::classColor(int product, double rate) const
+{
+    constexpr double share = 0.01;
+    const ActiveMap &map = maps[size_t(product - 1)];
+    return map.legend.isEmpty() ? QColor() : map.classColor(rate - share * double(map.legend.last().rate));
+}
+
+std::vector<QColor> WorkedGround::colorsNow() const
+{
+    std::vector<QColor> now;
+    for (int product = 1; product <= int(maps.size()); ++product)
+        now.push_back(classColor(product, simulation->rates(product).meanApplied));
+    return now;
+}
+
+void WorkedGround::take()
+{
+    const Vehicle &vehicle = *simulation->vehicle();
+    const Pose &from = simulation->stepStart();
+    if (!vehicle.isWorking() || from.place == vehicle.position()) {
+        isOpen = false;
+        return;
+    }
+    std::vector<QColor> now = colorsNow();
+    const bool goesOn = isOpen && isSame(from, endPose) && vehicle.pose().heading == from.heading
+        && vehicle.size().width == width && now == colors;
+    colors = std::move(now);
+    if (!goesOn)
+        begin();
+    extend();
+    // A strip that turned within its step ends there.
+    isOpen = vehicle.pose().heading == from.heading;
+}
+
+void WorkedGround::begin()
+{
+    const size_t products = maps.size();
+    width = simulation->vehicle()->size().width;
+    length = 0.0;
+    const Pose &from = simulation->stepStart();
+    const QPointF beside = 0.5 * width * from.rightward();
+    const Strip strip{{corner(from.place - beside), corner(from.place + beside), {}, {}}};
+    const auto place = size_t(slot(next++));
+    if (place == strips.size()) {
+        strips.push_back(strip);
+        rates.resize(rates.size() + products);
+    }
+    strips[place] = strip;
+    std::fill_n(rates.begin() + std::ptrdiff_t(place * products), products, 0.0F);
+}
+
+void WorkedGround::extend()
+{
+    const qint64 newest = next - 1;
+    const Pose &pose = simulation->vehicle()->pose();
+    const QPointF beside = 0.5 * width * pose.rightward();
+    Strip &strip = strips[size_t(slot(newest))];
+    strip.corners[2] = corner(pose.place + beside);
+    strip.corners[3] = corner(pose.place - beside);
+    const QPointF way = pose.place - simulation->stepStart().place;
+    const double added = std::hypot(way.x(), way.y());
+    for (size_t i = 0; i < maps.size(); ++i) {
+        float &mean = rates[size_t(slot(newest)) * maps.size() + i];
+        const double applied = simulation->rates(int(i) + 1).meanApplied;
+        mean = float((double(mean) * length + applied * added) / (length + added));
+    }
+    length += added;
+    endPose = pose;
+    firstChanged = std::min(firstChanged, newest);
+}
+
+double WorkedGround::rate(qint64 number, int product) const
+{
+    return double(rates[size_t(slot(number)) * maps.size() + size_t(product - 1)]);
+}
+
+QColor WorkedGround::color(qint64 number) const
+{
+    const int product = simulation->machine()->activeProduct();
+    return classColor(product, rate(number, product));
+}
+
+qint64 WorkedGround::takeChanges()
+{
+    const qint64 first = std::max(firstChanged, oldest());
+    firstChanged = next;
+    return first;
+}

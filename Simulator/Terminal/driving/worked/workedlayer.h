@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Framework/object3d.h"
+
+#include <QOpenGLBuffer>
+
+class WorkedGround;
+
+/// Draws the ground that was worked over the map, in the full colours of the legend, where the map has them half: a
+/// buffer on the graphics card takes what is new and keeps the rest, 96 bytes for a strip, 6 MiB at most.
+class WorkedLayer : public Object3D {
+public:
+    /// `ground` is not owned and outlives the layer.
+    explicit WorkedLayer(WorkedGround *ground);
+
+    void init() override;
+    void draw(QMatrix4x4 mvp) override;
+    /// Above maps.
+    float drawingOrder() const override;
+
+private:
+    void upload();
+    void uploadFrom(qint64 first);
+
+    WorkedGround *ground;
+    QOpenGLBuffer buffer;
+    /// Strips that the buffer has room for.
+    int capacity = 0;
+    bool isInitialised = false;
+};

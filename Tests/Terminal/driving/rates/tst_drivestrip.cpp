@@ -1,0 +1,284 @@
+#include "drivestrip.h"
+#include "machinebench.h"
+#include "paintedtexts.h"
+#include "ratehistory.h"
+#include "rateplot.h"
+#include "ratetable.h"
+#include "testbase.h"
+#include "theme.h"
+#include "touchbutton.h"
+#include "vehicle.h"
+
+#include <cmath>
+
+/// The strip under the map: rates now, and the active product's over the last half minute.
+class TestDriveStrip : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aRowTellsRatesUnitAndSource_data();
+    void aRowTellsRatesUnitAndSource();
+    void ratesAreInTheOperatorsUnit();
+    void theActiveProductIsTheFirst();
+    void sixteenProductsArePagesOfThree();
+    void aNewLookAheadIsSeenAtTheNextStep();
+    void theHistoryIsOfTheGroundUnderTheImplement();
+    void theHistoryIsHalfAMinuteLong();
+    void thePlotShowsTheStepWhereItIsApplied();
+    void thePlotNamesItsAxes();
+    void stepsShareADrawing();
+
+private:
+    QStringList row(RateTable &table, int index);
+    /// The height (pixels from the top) of the applied rate's line above that moment, seconds before now; -1 for none.
+    static int lineAt(const QImage &plot, double secondsBack);
+
+    QScopedPointer<MachineBench> bench;
+};
+
+void TestDriveStrip::init()
+{
+    TestBase::init();
+    Products products = ProductFile::standard();
+    for (Product &product : products)
+        product.actuator = {0.0, 0.2, 10.0, 1000.0};
+    bench.reset(new MachineBench(products));
+}
+
+void TestDriveStrip::cleanup()
+{
+    bench.reset();
+    TestBase::cleanup();
+}
+
+QStringList TestDriveStrip::row(RateTable &table, int index)
+{
+    table.resize(515, 164);
+    // Behind the head's five texts.
+    return paintedTexts(table).mid(5 + 6 * index, 6);
+}
+
+void TestDriveStrip::aRowTellsRatesUnitAndSource_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("speed");
+    QTest::addColumn<bool>("hasSignal");
+    QTest::addColumn<bool>("shutoff");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("prescription") << -50.0 << 1.0 << true << false
+                                  << QStringList{"Seed", "50.0", "50.0", "50.0", "k/ha", "Prescription"};
+    QTest::newRow("default") << 500.0 << 1.0 << true << false
+                             << QStringList{"Seed", "\u2013", "80.0", "80.0", "k/ha", "Default rate"};
+    QTest::newRow("least rate") << 50.0 << 1.0 << true << false
+                                << QStringList{"Seed", "0", "0", "10.0", "k/ha", "Least rate"};
+    QTest::newRow("shut off") << 50.0 << 1.0 << true << true
+                              << QStringList{"Seed", "0", "Off", "0", "k/ha", "Zero shut-off"};
+    QTest::newRow("no position") << -50.0 << 1.0 << false << false
+                                 << QStringList{"Seed", "\u2013", "80.0", "80.0", "k/ha", "No position"};
+    QTest::newRow("stopped") << -50.0 << 0.0 << true << false
+                             << QStringList{"Seed", "50.0", "Off", "0", "k/ha", "Stopped"};
+}
+
+void TestDriveStrip::aRowTellsRatesUnitAndSource()
+{
+    QFETCH(double, x);
+    QFETCH(double, speed);
+    QFETCH(bool, hasSignal);
+    QFETCH(bool, shutoff);
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 0.0}}).isOk());
+    bench->set(1, 1000, shutoff, true);
+    bench->place({x, 0}, 0.0, speed);
+    bench->simulation.vehicle()->setSignal(hasSignal);
+    bench->simulation.run(5.0);
+    RateTable table(&bench->simulation);
+    QTEST(row(table, 0), "texts");
+    QCOMPARE(row(table, 1), (QStringList{"Fertiliser", "\u2013", "\u2013", "\u2013", "kg/ha", "Not controlled"}));
+}
+
+void TestDriveStrip::ratesAreInTheOperatorsUnit()
+{
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    Machine machine(&broker, &backend, ProductFile::standard(), UnitSystem::Us);
+    const ShownUnit unit = ShownUnit::of(machine, 2);
+    QCOMPARE(unit.text, QStringLiteral("lb/ac"));
+    // 100 kg/ha: 1 lb = 0.45359237 kg, 1 ac = 0.40468564224 ha.
+    QCOMPARE(unit.rateText(100.0), QString::number(100.0 * 0.40468564224 / 0.45359237, 'f', 1));
+    for (const auto &[rate, text] : {std::pair<double, const char *>{0.0, "0"},
+                                     {0.01234, "0.0123"},
+                                     {1.234, "1.23"},
+                                     {9.9996, "10.0"},
+                                     {0.00001, "0"},
+                                     {99.0, "99.0"},
+                                     {12345.6, "12346"}})
+        QCOMPARE(ShownUnit().rateText(rate), QLatin1String(text));
+}
+
+void TestDriveStrip::theActiveProductIsTheFirst()
+{
+    RateTable table(&bench->simulation);
+    bench->machine.setActiveProduct(3);
+    QCOMPARE(row(table, 0).first(), QStringLiteral("Herbicide"));
+    QCOMPARE(row(table, 1).first(), QStringLiteral("Seed"));
+    QCOMPARE(row(table, 2).first(), QStringLiteral("Fertiliser"));
+}
+
+void TestDriveStrip::sixteenProductsArePagesOfThree()
+{
+    Products products;
+    for (int i = 1; i <= 16; ++i) {
+        products.append(ProductFile::standard().first());
+        products.last().name = QStringLiteral("A name of many letters %1").arg(i);
+        products.last().shortName = QStringLiteral("P%1").arg(i);
+    }
+    MachineBench many(products);
+    RateHistory history(&many.simulation);
+    DriveStrip strip(&many.simulation, &history);
+    strip.resize(792, DriveStrip::usualHeight);
+    auto *page = strip.findChild<TouchButton *>(QStringLiteral("ratesPage"));
+    auto *table = strip.findChild<RateTable *>();
+    strip.show();
+    QVERIFY(page->isVisible() && page->width() >= 56 && page->height() >= 56);
+    many.machine.setActiveProduct(5);
+    QStringList seen;
+    for (int pages = 0; pages < 6; ++pages) {
+        QCOMPARE(page->text(), QStringLiteral("%1/6").arg(pages + 1));
+        seen += paintedTexts(*table).filter(QRegularExpression(QStringLiteral("^P\\d+$")));
+        QTest::mouseClick(page, Qt::LeftButton);
+    }
+    QCOMPARE(seen.size(), 16);
+    QCOMPARE(seen.mid(0, 3), (QStringList{"P5", "P1", "P2"}));
+    QCOMPARE(seen.last(), QStringLiteral("P16"));
+    QCOMPARE(page->text(), QStringLiteral("1/6"));
+    QTest::mouseClick(page, Qt::LeftButton);
+    many.machine.setActiveProduct(2);
+    QCOMPARE(page->text(), QStringLiteral("1/6"));
+}
+
+void TestDriveStrip::aNewLookAheadIsSeenAtTheNextStep()
+{
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
+    bench->set(1, 1000, false, false);
+    bench->place({-20, 0}, 90.0, 2.0);
+    bench->simulation.run(1.0);
+    RateTable table(&bench->simulation);
+    QCOMPARE(row(table, 0).at(2), QStringLiteral("50.0"));
+    bench->set(1, 15000, false, false);
+    bench->simulation.step();
+    QCOMPARE(row(table, 0).at(2), QStringLiteral("80.0"));
+}
+
+void TestDriveStrip::theHistoryIsOfTheGroundUnderTheImplement()
+{
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
+    RateHistory history(&bench->simulation);
+    bench->simulation.step();
+    QVERIFY(history.samples(1).empty());
+    history.setKept(true);
+    bench->set(1, 15000, false, false);
+    bench->place({-20, 0}, 90.0, 2.0);
+    bench->simulation.run(1.0);
+    QCOMPARE(history.samples(1).size(), size_t(10));
+    QCOMPARE(history.samples(1).back().prescribed, 50.0);
+    QVERIFY(history.samples(1).back().applied > 75.0);
+    QVERIFY(std::isnan(history.samples(2).back().prescribed));
+    history.setKept(false);
+    bench->simulation.step();
+    QVERIFY(history.samples(1).empty());
+}
+
+void TestDriveStrip::theHistoryIsHalfAMinuteLong()
+{
+    RateHistory history(&bench->simulation);
+    history.setKept(true);
+    bench->simulation.run(100.0);
+    QVERIFY2(qAbs(int(history.samples(1).size()) - 301) <= 1, qPrintable(QString::number(history.samples(1).size())));
+    QVERIFY(history.samples(1).front().time >= 70.0 - 1e-6);
+    QCOMPARE(history.samples(1).back().time, 100.0);
+}
+
+int TestDriveStrip::lineAt(const QImage &plot, double secondsBack)
+{
+    // The axes' area, see the plot's insets.
+    const double left = 62.0;
+    const double right = plot.width() - 14.0;
+    const int x = int(right - secondsBack / RateHistory::span * (right - left));
+    for (int y = 36; y < plot.height() - 24; ++y) {
+        const QColor color = plot.pixelColor(x, y);
+        if (qAbs(color.red() - Theme::accent().red()) + qAbs(color.green() - Theme::accent().green())
+                + qAbs(color.blue() - Theme::accent().blue())
+            < 60)
+            return y;
+    }
+    return -1;
+}
+
+void TestDriveStrip::thePlotShowsTheStepWhereItIsApplied()
+{
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
+    RateHistory history(&bench->simulation);
+    history.setKept(true);
+    bench->set(1, 5000, false, false);
+    bench->place({-40, 0}, 90.0, 2.0);
+    // The rate changes 5 s before the border, which is reached after 20 s.
+    bench->simulation.run(25.0);
+    RatePlot plot(&bench->machine, &history);
+    plot.resize(277, 164);
+    QImage image(plot.size(), QImage::Format_RGB32);
+    image.fill(Theme::panel());
+    plot.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    QCOMPARE(lineAt(image, 27.0), -1);
+    const int before = lineAt(image, 15.0);
+    const int after = lineAt(image, 2.0);
+    QVERIFY2(before > 0 && after > 0 && before > after + 25,
+             qPrintable(QStringLiteral("%1 %2").arg(before).arg(after)));
+    QVERIFY(qAbs(lineAt(image, 11.0) - before) <= 2);
+    QVERIFY(qAbs(lineAt(image, 8.0) - after) <= 2);
+}
+
+void TestDriveStrip::thePlotNamesItsAxes()
+{
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
+    RateHistory history(&bench->simulation);
+    history.setKept(true);
+    bench->place({-40, 0}, 90.0, 2.0);
+    bench->simulation.run(30.0);
+    RatePlot plot(&bench->machine, &history);
+    plot.resize(277, 164);
+    const QStringList texts = paintedTexts(plot);
+    for (const char *text : {"Prescribed", "Applied", "k/ha", "now", "\u221215 s", "0", "50.0", "100"})
+        QVERIFY2(texts.contains(QString::fromUtf8(text)), qPrintable(texts.join(QLatin1Char('|'))));
+    bench->machine.setActiveProduct(2);
+    QVERIFY(paintedTexts(plot).contains(QStringLiteral("kg/ha")));
+}
+
+void TestDriveStrip::stepsShareADrawing()
+{
+    RateHistory history(&bench->simulation);
+    DriveStrip strip(&bench->simulation, &history);
+    strip.resize(792, DriveStrip::usualHeight);
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    class Count : public QObject {
+    public:
+        int times = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            times += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } drawn;
+    strip.update();
+    strip.installEventFilter(&drawn);
+    QTRY_VERIFY(drawn.times > 0);
+    drawn.times = 0;
+    for (int i = 0; i < 500; ++i)
+        bench->simulation.step();
+    QTRY_VERIFY(drawn.times > 0);
+    QVERIFY2(drawn.times <= 2, qPrintable(QString::number(drawn.times)));
+}
+
+RXMAP_TEST(TestDriveStrip, Widgets)
+#include "tst_drivestrip.moc"

@@ -1,0 +1,152 @@
+#include "activemap.h"
+#include "machinebench.h"
+#include "testbase.h"
+#include "vehicle.h"
+#include "workedground.h"
+
+/// The ground that was worked.
+class TestWorkedGround : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aStraightDriveAtOneRateIsOneStrip();
+    void aNewClassAndATurnBeginStrips();
+    void whatIsNotWorkedLeavesAGap();
+    void aStripHasTheColourOfWhatWasApplied();
+    void aRateThatIsNearlyReachedHasItsClass();
+    void changesAreToldOnce();
+    void theOldestStripsMakeRoom();
+
+private:
+    ActiveMap map() { return ActiveMap::find(bench->broker, Machine::productGroupName(1)); }
+
+    QScopedPointer<MachineBench> bench;
+    QScopedPointer<WorkedGround> ground;
+};
+
+void TestWorkedGround::init()
+{
+    TestBase::init();
+    Products products = ProductFile::standard();
+    products[0].actuator = {0.0, 0.001, 0.0, 1000.0};
+    bench.reset(new MachineBench(products));
+    QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
+    bench->set(1, 0, false, false);
+    ground.reset(new WorkedGround(&bench->simulation));
+}
+
+void TestWorkedGround::cleanup()
+{
+    ground.reset();
+    bench.reset();
+    TestBase::cleanup();
+}
+
+void TestWorkedGround::aStraightDriveAtOneRateIsOneStrip()
+{
+    bench->place({-90, 0}, 90.0, 2.0);
+    bench->simulation.run(10.0);
+    QCOMPARE(ground->end(), qint64(1));
+    const WorkedGround::Strip &strip = ground->strip(0);
+    const float corners[4][2] = {{-90.0F, 6.0F}, {-90.0F, -6.0F}, {-70.0F, -6.0F}, {-70.0F, 6.0F}};
+    for (int i = 0; i < 4; ++i) {
+        QVERIFY(qAbs(strip.corners[i].x - corners[i][0]) < 1e-4F);
+        QVERIFY(qAbs(strip.corners[i].y - corners[i][1]) < 1e-4F);
+    }
+    // Before the first of a hundred steps the machine stood, and nothing was commanded.
+    QVERIFY(qAbs(ground->rate(0, 1) - 49.5) < 0.01);
+}
+
+void TestWorkedGround::aNewClassAndATurnBeginStrips()
+{
+    bench->place({-10, 0}, 90.0, 2.0);
+    bench->simulation.run(10.0);
+    QCOMPARE(ground->end(), qint64(2));
+    bench->simulation.vehicle()->steer(0.1);
+    bench->simulation.run(1.0);
+    QCOMPARE(ground->end(), qint64(12));
+    bench->simulation.vehicle()->steer(0.0);
+    bench->simulation.run(5.0);
+    QCOMPARE(ground->end(), qint64(13));
+}
+
+void TestWorkedGround::whatIsNotWorkedLeavesAGap()
+{
+    bench->place({-90, 0}, 90.0, 2.0);
+    bench->simulation.run(5.0);
+    const qint64 before = ground->end();
+    bench->simulation.vehicle()->stop();
+    bench->simulation.run(5.0);
+    QCOMPARE(ground->end(), before);
+    // A machine that is put elsewhere leaves no strip on its way there.
+    bench->place({-90, 100}, 90.0, 2.0);
+    bench->simulation.run(5.0);
+    QVERIFY(ground->end() > before);
+    for (qint64 number = before; number < ground->end(); ++number) {
+        for (const WorkedGround::Strip::Corner &corner : ground->strip(number).corners)
+            QVERIFY(corner.y > 90.0F);
+    }
+}
+
+void TestWorkedGround::aStripHasTheColourOfWhatWasApplied()
+{
+    bench->place({-10, 0}, 90.0, 2.0);
+    bench->simulation.run(10.0);
+    QCOMPARE(ground->color(0), map().classColor(50.0));
+    QCOMPARE(ground->color(1), map().classColor(80.0));
+    QVERIFY(map().classColor(50.0) != map().classColor(80.0));
+    bench->machine.setActiveProduct(2);
+    QVERIFY(!ground->color(1).isValid());
+    bench->machine.setActiveProduct(1);
+    QVERIFY(bench->backend.unload(map().groupName));
+    QVERIFY(!ground->color(1).isValid());
+}
+
+void TestWorkedGround::aRateThatIsNearlyReachedHasItsClass()
+{
+    Products products = ProductFile::standard();
+    products[0].actuator = {0.0, 1.0, 0.0, 1000.0};
+    MachineBench slow(products);
+    QVERIFY(slow.loadZones({{-100, 0, 80.0}, {0, 100, 50.0}}).isOk());
+    slow.set(1, 0, false, false);
+    WorkedGround worked(&slow.simulation);
+    slow.place({-20, 0}, 90.0, 2.0);
+    slow.simulation.run(20.0);
+    // Ten seconds after the change the rate is still a little above 50.
+    QVERIFY(slow.simulation.rates(1).applied > 50.0);
+    const ActiveMap legend = ActiveMap::find(slow.broker, Machine::productGroupName(1));
+    QCOMPARE(worked.color(worked.end() - 1), legend.classColor(50.0));
+}
+
+void TestWorkedGround::changesAreToldOnce()
+{
+    bench->place({-90, 0}, 90.0, 2.0);
+    bench->simulation.run(5.0);
+    QCOMPARE(ground->takeChanges(), qint64(0));
+    QCOMPARE(ground->takeChanges(), ground->end());
+    bench->simulation.step();
+    QCOMPARE(ground->takeChanges(), ground->end() - 1);
+    bench->machine.setActiveProduct(2);
+    QCOMPARE(ground->takeChanges(), qint64(0));
+}
+
+void TestWorkedGround::theOldestStripsMakeRoom()
+{
+    bench->place({0, 0}, 0.0, 1.0);
+    bench->simulation.vehicle()->steer(0.05);
+    constexpr int more = 10;
+    bench->simulation.run((WorkedGround::maxStrips + more) / 10.0);
+    QCOMPARE(ground->end(), qint64(WorkedGround::maxStrips + more));
+    QCOMPARE(ground->oldest(), qint64(more));
+    QCOMPARE(WorkedGround::slot(ground->end() - 1), more - 1);
+    QCOMPARE(ground->takeChanges(), ground->oldest());
+    // The newest ends where the machine is.
+    const QPointF place = bench->simulation.vehicle()->position();
+    const WorkedGround::Strip &newest = ground->strip(ground->end() - 1);
+    QVERIFY(qAbs((newest.corners[2].x + newest.corners[3].x) / 2.0F - float(place.x())) < 1e-3F);
+}
+
+RXMAP_TEST(TestWorkedGround, Core)
+#include "tst_workedground.moc"
