@@ -92,7 +92,9 @@ bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, RawPre
     constexpr size_t codes = 256;
     std::array<std::vector<double>, codes> rates;
     for (const TreatmentZone &zone : task.zones) {
-        if (zone.code >= 0 && zone.code < static_cast<int>(codes))
+        const bool isByte = zone.code >= 0 && zone.code < static_cast<int>(codes);
+        // The first one of a code counts, as everywhere.
+        if (isByte && rates[static_cast<size_t>(zone.code)].empty())
             rates[static_cast<size_t>(zone.code)] = columns.ratesOf(zone);
     }
     for (int i = 0; i < bytes.size(); ++i) {

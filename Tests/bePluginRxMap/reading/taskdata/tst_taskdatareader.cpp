@@ -77,6 +77,8 @@ void TaskDataReaderTest::readsGridsOfValues()
     QCOMPARE(map.columns.size(), size_t(2));
     QVERIFY(map.reference && map.reference->IsGeographic());
     // Row by row from the south-west: the third cell is the first one of the second row.
+    QCOMPARE(map.ys[map.rings[0].first], 48.0);
+    QCOMPARE(map.ys[map.rings[5].first], 48.002);
     const SourceRing &third = map.rings[2];
     QCOMPARE(third.record, 2);
     QCOMPARE(third.count, size_t(5));
@@ -94,7 +96,8 @@ void TaskDataReaderTest::readsGridsOfValues()
 void TaskDataReaderTest::readsGridsOfCodes()
 {
     const QByteArray zones = Sketch::zone(0, Sketch::value(litres, 100)) + Sketch::zone(200, Sketch::value(weight, 7))
-        + Sketch::zone(3, Sketch::value(weight, 0) + Sketch::value(litres, 300));
+        + Sketch::zone(3, Sketch::value(weight, 0) + Sketch::value(litres, 300))
+        + Sketch::zone(3, Sketch::value(litres, 999)); // The first one of a code counts.
     const Sketch sketch{
         Sketch::task("TSK1", zones + Sketch::grid(2, 2, 1)), 4, {{"GRD00001.BIN", QByteArray("\0\3\xc8\3", 4)}}};
     QVERIFY(sketch.write(root()));
