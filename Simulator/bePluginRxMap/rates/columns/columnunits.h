@@ -20,8 +20,8 @@ public:
     /// `source` is not owned and outlives this.
     explicit ColumnUnits(const RawPrescription &source);
 
-    /// By the format, by a column of units beside the rates, by what stands behind rates that are text, by the column's name, in this
-    /// order. `place`: in `source.columns`.
+    /// By the format, by a column of units beside the rates, by what stands behind rates that are text, by the column's
+    /// name, in this order. `place`: in `source.columns`.
     ColumnUnit of(int place) const;
 
 private:
