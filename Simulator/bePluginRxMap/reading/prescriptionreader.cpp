@@ -39,7 +39,8 @@ bool PrescriptionReader::fail(const QString &text)
 
 bool PrescriptionReader::mayRead(const QString &path)
 {
-    return PrescriptionFile::endings().contains(QFileInfo(path).suffix(), Qt::CaseInsensitive)
+    const QStringList archives{QStringLiteral("zip"), QStringLiteral("kmz")};
+    return (PrescriptionFile::endings() + archives).contains(QFileInfo(path).suffix(), Qt::CaseInsensitive)
         || !TaskDataFolder(path).mainFile().isEmpty();
 }
 

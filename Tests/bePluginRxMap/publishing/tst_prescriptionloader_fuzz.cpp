@@ -78,6 +78,7 @@ void PrescriptionLoaderFuzz::survivesDamage_data()
     QTest::newRow("KML") << QByteArray("LIBKML") << "kml" << 200;
     QTest::newRow("FlatGeobuf") << QByteArray("FlatGeobuf") << "fgb" << 200;
     QTest::newRow("GML") << QByteArray("GML") << "gml" << 200;
+    QTest::newRow("archive") << QByteArray("GeoJSON") << "zip" << 200;
 }
 
 void PrescriptionLoaderFuzz::survivesDamage()
@@ -96,7 +97,11 @@ void PrescriptionLoaderFuzz::survivesDamage()
     sketch.rows.append({QStringLiteral("POLYGON ((11 48.01, 11.01 48.01, 11.01 48.02, 11 48.02, 11 48.01), "
                                        "(11.002 48.012, 11.008 48.012, 11.005 48.018, 11.002 48.012))"),
                         {70.0, 7}});
-    QVERIFY(sketch.write(folder.filePath(target)));
+    const QString plain = QStringLiteral("map.geojson");
+    const bool isPacked = extension == QLatin1String("zip");
+    QVERIFY(sketch.write(folder.filePath(isPacked ? plain : target)));
+    if (isPacked)
+        QVERIFY(packFiles(folder.filePath(target), {{plain, folder.filePath(plain)}}));
     loadDamaged(folder.filePath(target), folder.filePath(QStringLiteral("map.") + extension), 8, rounds);
 }
 

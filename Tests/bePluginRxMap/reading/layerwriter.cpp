@@ -2,9 +2,11 @@
 
 #include "gdalsession.h"
 
+#include <QFile>
 #include <QStringList>
 
 #include <algorithm>
+#include <cpl_vsi.h>
 #include <memory>
 #include <ogrsf_frmts.h>
 #include <random>
@@ -85,6 +87,23 @@ bool writeLayers(const QString &path, const QList<LayerSketch> &layers)
 bool LayerSketch::write(const QString &path) const
 {
     return writeLayers(path, {*this});
+}
+
+bool packFiles(const QString &archive, const QList<QPair<QString, QString>> &files)
+{
+    const GdalSession session;
+    const QByteArray whole = "/vsizip/" + archive.toUtf8();
+    VSILFILE *open = VSIFOpenL(whole.constData(), "wb");
+    bool isPacked = open != nullptr;
+    for (const auto &[name, path] : files) {
+        QFile source(path);
+        const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+        VSILFILE *entry = VSIFOpenL((whole + '/' + name.toUtf8()).constData(), "wb");
+        const auto size = static_cast<size_t>(bytes.size());
+        isPacked = isPacked && entry != nullptr && VSIFWriteL(bytes.constData(), 1, size, entry) == size
+            && VSIFCloseL(entry) == 0;
+    }
+    return isPacked && VSIFCloseL(open) == 0;
 }
 
 QString squareText(double x, double y, double side)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPair>
 #include <QString>
 #include <QVariant>
 
@@ -32,6 +33,9 @@ struct LayerSketch {
 
 /// Writes a file of several layers, in the format of the first. False when GDAL cannot.
 bool writeLayers(const QString &path, const QList<LayerSketch> &layers);
+
+/// Packs files into a new archive: its names and the paths of the files. False when GDAL cannot.
+bool packFiles(const QString &archive, const QList<QPair<QString, QString>> &files);
 
 /// Well-known text of a square with its lower left corner at (x, y).
 QString squareText(double x, double y, double side);

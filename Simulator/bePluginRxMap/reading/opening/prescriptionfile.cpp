@@ -1,8 +1,10 @@
 #include "prescriptionfile.h"
 
+#include "archivedprescription.h"
 #include "gdalsession.h"
 #include "shapefilecheck.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -74,18 +76,34 @@ CPLStringList PrescriptionFile::options() const
     return options;
 }
 
+bool PrescriptionFile::unpack()
+{
+    QString inner;
+    const QString archive = ZipArchive::find(path, inner);
+    if (archive.isEmpty())
+        return true;
+    unpacked = std::make_unique<QTemporaryDir>();
+    if (!unpacked->isValid())
+        return fail(QStringLiteral("cannot be unpacked: %1").arg(unpacked->errorString()));
+    ArchivedPrescription prescription(archive, inner);
+    path = prescription.unpack(QDir(unpacked->path()));
+    return !path.isEmpty() || fail(prescription.error());
+}
+
 bool PrescriptionFile::open(const GdalSession &session)
 {
-    if (!check())
+    if (!unpack() || !check())
         return false;
     data.reset(GDALDataset::Open(nameForGdal(path).constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
                                  isShapefile() ? shapefileOnly : otherFormats, options().List()));
     if (data)
         return true;
     const QString failure = session.firstFailure();
-    return fail(failure.isEmpty() ? QStringLiteral("is none of the formats that are read: Shapefile, GeoPackage, "
-                                                   "GeoJSON (also as a text sequence), KML, FlatGeobuf, GML, task data")
-                                  : failure);
+    return fail(failure.isEmpty()
+                    ? QStringLiteral("is none of the formats that are read: Shapefile, GeoPackage, "
+                                     "GeoJSON (also as a text sequence), KML, FlatGeobuf, GML, task data, or "
+                                     "one of them in a .zip")
+                    : failure);
 }
 
 QString PrescriptionFile::definitionFile() const

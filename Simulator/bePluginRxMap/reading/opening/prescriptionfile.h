@@ -2,13 +2,16 @@
 
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <gdal_priv.h>
+#include <memory>
 
 class GdalSession;
 
-/// A prescription file that GDAL reads, opened. A path is the name of a file and nothing else, whatever GDAL could take
-/// it for; nothing is written beside the file. Blocks; use in the loading thread.
+/// A prescription file that GDAL reads, opened: a file, or one inside an archive ("fields.zip/north/rates.shp"), which
+/// is unpacked into a folder that goes with this object. A path is the name of a file and nothing else, whatever GDAL
+/// could take it for; nothing is written beside the file. Blocks; use in the loading thread.
 class PrescriptionFile {
 public:
     explicit PrescriptionFile(const QString &path);
@@ -26,10 +29,12 @@ public:
 private:
     bool fail(const QString &text);
     bool check();
+    bool unpack();
     bool isShapefile() const;
     CPLStringList options() const;
 
     QString path;
+    std::unique_ptr<QTemporaryDir> unpacked;
     GDALDatasetUniquePtr data;
     QString reason;
 };

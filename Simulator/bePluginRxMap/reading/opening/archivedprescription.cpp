@@ -1,0 +1,126 @@
+#include "archivedprescription.h"
+
+#include "prescriptionfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/// Longer lists than this are not told.
+constexpr int mostTold = 10;
+
+bool isSame(const QString &a, const QString &b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+/// What some systems put beside the files that were packed.
+bool isLitter(const ZipArchive::Entry &entry)
+{
+    return entry.name().startsWith(QLatin1Char('.')) || entry.path.startsWith(QLatin1String("__MACOSX/"));
+}
+
+QString list(const std::vector<const ZipArchive::Entry *> &entries)
+{
+    QStringList paths;
+    for (const ZipArchive::Entry *entry : entries) {
+        if (paths.size() < mostTold)
+            paths.append(entry->path);
+    }
+    const int more = static_cast<int>(entries.size()) - paths.size();
+    return paths.join(QStringLiteral(", ")) + (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString());
+}
+
+} // namespace
+
+ArchivedPrescription::ArchivedPrescription(const QString &path, const QString &innerPath)
+    : archive(path)
+    , inner(innerPath)
+{
+}
+
+bool ArchivedPrescription::fail(const QString &text)
+{
+    reason = text;
+    return false;
+}
+
+QString ArchivedPrescription::unpack(const QDir &folder)
+{
+    const ZipArchive::Entry *main = archive.open() ? choose() : nullptr;
+    if (main == nullptr) {
+        if (reason.isEmpty())
+            fail(archive.error());
+        return {};
+    }
+    const std::vector<const ZipArchive::Entry *> parts = withParts(*main);
+    qint64 size = 0;
+    for (const ZipArchive::Entry *part : parts)
+        size += part->size;
+    if (size > ZipArchive::mostBytes) {
+        fail(QStringLiteral("\"%1\" in it has more than %2 MB").arg(main->path).arg(ZipArchive::mostBytes >> 20));
+        return {};
+    }
+    const QString base = folder.filePath(QFileInfo(main->name()).completeBaseName());
+    for (const ZipArchive::Entry *part : parts) {
+        if (!write(*part, base + QLatin1Char('.') + QFileInfo(part->name()).suffix().toLower()))
+            return {};
+    }
+    return base + QLatin1Char('.') + QFileInfo(main->name()).suffix().toLower();
+}
+
+const ZipArchive::Entry *ArchivedPrescription::choose()
+{
+    const QStringList endings = PrescriptionFile::endings();
+    std::vector<const ZipArchive::Entry *> found;
+    for (const ZipArchive::Entry &entry : archive.entries()) {
+        if (isSame(entry.path, inner))
+            return &entry;
+        const bool isInside = inner.isEmpty() || entry.path.startsWith(inner + QLatin1Char('/'), Qt::CaseInsensitive);
+        if (isInside && !isLitter(entry) && endings.contains(QFileInfo(entry.name()).suffix(), Qt::CaseInsensitive))
+            found.push_back(&entry);
+    }
+    // A .json beside a prescription of another format describes the archive.
+    const auto isJson = [](const ZipArchive::Entry *entry) {
+        return isSame(QFileInfo(entry->name()).suffix(), QStringLiteral("json"));
+    };
+    if (!std::all_of(found.begin(), found.end(), isJson))
+        found.erase(std::remove_if(found.begin(), found.end(), isJson), found.end());
+    if (found.size() == 1)
+        return found.front();
+    const QString place = inner.isEmpty() ? QString() : QStringLiteral(" in \"%1\"").arg(inner);
+    if (found.empty())
+        fail(QStringLiteral("is an archive that holds no prescription%1").arg(place));
+    else
+        fail(QStringLiteral("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
+                 .arg(place, list(found)));
+    return nullptr;
+}
+
+std::vector<const ZipArchive::Entry *> ArchivedPrescription::withParts(const ZipArchive::Entry &main) const
+{
+    std::vector<const ZipArchive::Entry *> parts{&main};
+    const QString stem = main.path.left(main.path.size() - QFileInfo(main.name()).suffix().size());
+    for (const char *ending : {"shx", "dbf", "prj", "cpg"}) {
+        const auto part =
+            std::find_if(archive.entries().begin(), archive.entries().end(), [&](const ZipArchive::Entry &entry) {
+                return isSame(entry.path, stem + QLatin1String(ending));
+            });
+        if (part != archive.entries().end() && isSame(QFileInfo(main.name()).suffix(), QStringLiteral("shp")))
+            parts.push_back(&*part);
+    }
+    return parts;
+}
+
+bool ArchivedPrescription::write(const ZipArchive::Entry &entry, const QString &path)
+{
+    QByteArray bytes;
+    if (!archive.unpack(entry, bytes))
+        return fail(archive.error());
+    QFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    return isWritten || fail(QStringLiteral("\"%1\" in it cannot be unpacked: %2").arg(entry.path, file.errorString()));
+}

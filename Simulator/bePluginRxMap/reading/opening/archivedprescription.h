@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ziparchive.h"
+
+class QDir;
+
+/// Which file of an archive is the prescription, and its unpacking.
+class ArchivedPrescription {
+public:
+    /// `inner`: a file or a folder of the archive; empty where the archive holds one prescription.
+    ArchivedPrescription(const QString &archive, const QString &inner);
+
+    /// Unpacks the prescription, with the files that belong to it, into an empty folder; its path there. Empty, with
+    /// the reason in error(), when that cannot be done.
+    QString unpack(const QDir &folder);
+    QString error() const { return reason; }
+
+private:
+    bool fail(const QString &text);
+    const ZipArchive::Entry *choose();
+    /// The entry, and the parts of a Shapefile beside it.
+    std::vector<const ZipArchive::Entry *> withParts(const ZipArchive::Entry &main) const;
+    bool write(const ZipArchive::Entry &entry, const QString &path);
+
+    ZipArchive archive;
+    QString inner;
+    QString reason;
+};

@@ -1,0 +1,223 @@
+#include "gdalsession.h"
+#include "layerwriter.h"
+#include "prescriptionfile.h"
+#include "testbase.h"
+
+#include <QTemporaryDir>
+
+#include <ogrsf_frmts.h>
+
+/// Prescriptions in archives.
+class ArchivedPrescriptionTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void opensThePrescriptionOfAnArchive_data();
+    void opensThePrescriptionOfAnArchive();
+    void refusesArchivesThatItCannotUse_data();
+    void refusesArchivesThatItCannotUse();
+    void refusesDamage_data();
+    void refusesDamage();
+    void leavesNothingBehind();
+
+private:
+    QString archive() const { return folder.filePath(QStringLiteral("fields.zip")); }
+    /// Packs files; "name=fixture" packs the file of that name in `files` under another one.
+    bool pack(const QStringList &entries) const;
+    static QByteArray bytesOf(const QString &path);
+    QString errorOf(const QString &path) const;
+
+    QTemporaryDir folder;
+    QTemporaryDir files;
+};
+
+void ArchivedPrescriptionTest::initTestCase()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"rate", 1.0}};
+    for (int i = 0; i < 40; ++i)
+        sketch.rows.append({squareText(11.0 + 0.001 * i, 48.0, 0.001), {1.0 + i}});
+    QVERIFY(sketch.write(files.filePath("a.shp")));
+    sketch.driver = "GPKG";
+    QVERIFY(sketch.write(files.filePath("a.gpkg")));
+    sketch.driver = "LIBKML";
+    QVERIFY(sketch.write(files.filePath("a.kml")));
+    QFile text(files.filePath("a.json"));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("{\"crop\": \"maize\"}") > 0);
+}
+
+void ArchivedPrescriptionTest::init()
+{
+    TestBase::init();
+    QFile::remove(archive());
+}
+
+bool ArchivedPrescriptionTest::pack(const QStringList &entries) const
+{
+    QList<QPair<QString, QString>> packed;
+    for (const QString &entry : entries)
+        packed.append({entry.section('=', 0, 0), files.filePath(entry.section('=', -1))});
+    return packFiles(archive(), packed);
+}
+
+QByteArray ArchivedPrescriptionTest::bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString ArchivedPrescriptionTest::errorOf(const QString &path) const
+{
+    const GdalSession session;
+    PrescriptionFile file(path);
+    return file.open(session) ? QStringLiteral("is opened") : file.error();
+}
+
+void ArchivedPrescriptionTest::opensThePrescriptionOfAnArchive_data()
+{
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QString>("inner");
+    QTest::addColumn<QString>("layer");
+    const QStringList shapes{"a.shp", "a.shx", "a.dbf", "a.prj"};
+    const QStringList capitals{"NORTH/A.SHP=a.shp", "NORTH/A.SHX=a.shx", "NORTH/A.DBF=a.dbf", "NORTH/A.PRJ=a.prj"};
+    const QStringList two = capitals + QStringList{"south/b.gpkg=a.gpkg"};
+    QTest::newRow("Shapefile") << shapes << ""
+                               << "a";
+    QTest::newRow("Shapefile in a folder, in capitals") << capitals << ""
+                                                        << "A";
+    QTest::newRow("GeoPackage") << QStringList{"a.gpkg"} << ""
+                                << "layer";
+    QTest::newRow("KML") << QStringList{"doc.kml=a.kml", "files/a.png=a.json"} << ""
+                         << "layer";
+    QTest::newRow("beside a description")
+        << QStringList{"about.json=a.json", "a.gpkg", "__MACOSX/a.gpkg=a.json", "._a.gpkg=a.json"} << ""
+        << "layer";
+    QTest::newRow("beside an archive") << QStringList{"old.zip=a.json", "a.gpkg"} << ""
+                                       << "layer";
+    QTest::newRow("one of two") << two << "/north/a.shp"
+                                << "A";
+    QTest::newRow("the other one") << two << "/south/b.gpkg"
+                                   << "layer";
+    QTest::newRow("the one in a folder") << two << "/north"
+                                         << "A";
+}
+
+void ArchivedPrescriptionTest::opensThePrescriptionOfAnArchive()
+{
+    QFETCH(QStringList, entries);
+    QFETCH(QString, inner);
+    QVERIFY(pack(entries));
+    const GdalSession session;
+    PrescriptionFile file(archive() + inner);
+    QVERIFY2(file.open(session), qPrintable(file.error()));
+    OGRLayer *layer = file.dataset().GetLayer(0);
+    QTEST(QString::fromUtf8(layer->GetName()), "layer");
+    QCOMPARE(layer->GetFeatureCount(), GIntBig(40));
+    QVERIFY(layer->GetSpatialRef() != nullptr);
+}
+
+void ArchivedPrescriptionTest::refusesArchivesThatItCannotUse_data()
+{
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QString>("inner");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("none") << QStringList{"a.txt=a.json", "old.zip=a.gpkg"} << ""
+                          << "is an archive that holds no prescription";
+    QTest::newRow("two") << QStringList{"a.gpkg", "b/b.kml=a.kml"} << ""
+                         << "is an archive that holds several prescriptions: a.gpkg, b/b.kml; open one by its path in "
+                            "the archive";
+    QTest::newRow("none of that name") << QStringList{"a.gpkg"} << "/b.gpkg"
+                                       << "is an archive that holds no prescription in \"b.gpkg\"";
+    QTest::newRow("Shapefile without its table") << QStringList{"a.shp", "a.shx"} << ""
+                                                 << "there is no .dbf beside it";
+    QTest::newRow("in an archive that is in it") << QStringList{"old.zip=a.gpkg"} << "/old.zip/a.gpkg"
+                                                 << "is an archive that holds no prescription in \"old.zip/a.gpkg\"";
+}
+
+void ArchivedPrescriptionTest::refusesArchivesThatItCannotUse()
+{
+    QFETCH(QStringList, entries);
+    QFETCH(QString, inner);
+    QVERIFY(pack(entries));
+    QTEST(errorOf(archive() + inner), "reason");
+}
+
+void ArchivedPrescriptionTest::refusesDamage_data()
+{
+    QTest::addColumn<QByteArray>("part");
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const QByteArray directory = "PK\x01\x02";
+    const QByteArray end = "PK\x05\x06";
+    const QByteArray none(4, '\0');
+    QTest::newRow("a path that leaves it")
+        << directory << 46 << QByteArray("../a.gpkg") << "the path of its entry \"../a.gpkg\" leaves the archive";
+    QTest::newRow("a path with backslashes that leaves it")
+        << directory << 46 << QByteArray("..\\a.gpkg") << "the path of its entry \"../a.gpkg\" leaves the archive";
+    QTest::newRow("a path from the root")
+        << directory << 46 << QByteArray("/in/a.gpk") << "the path of its entry \"/in/a.gpk\" leaves the archive";
+    QTest::newRow("more than may be unpacked")
+        << directory << 24 << QByteArray("\1\0\0\x10", 4) << "\"in/a.gpkg\" in it has more than 256 MB";
+    QTest::newRow("more than it says") << directory << 24 << QByteArray("\x10\0\0\0", 4)
+                                       << "\"in/a.gpkg\" in it is damaged";
+    QTest::newRow("less than it says") << directory << 24 << QByteArray("\0\0\0\x08", 4)
+                                       << "\"in/a.gpkg\" in it is damaged";
+    QTest::newRow("another checksum") << directory << 16 << none << "\"in/a.gpkg\" in it is damaged";
+    QTest::newRow("encrypted") << directory << 8 << QByteArray("\1\0", 2) << "\"in/a.gpkg\" in it is encrypted";
+    QTest::newRow("packed otherwise") << directory << 10 << QByteArray("\x0c\0", 2)
+                                      << "\"in/a.gpkg\" in it is packed in a way that is not known";
+    QTest::newRow("elsewhere") << directory << 42 << QByteArray("\7\0\0\0", 4) << "\"in/a.gpkg\" in it is damaged";
+    QTest::newRow("no directory") << directory << 0 << none << "is an archive with a damaged directory";
+    QTest::newRow("too large a directory")
+        << end << 12 << QByteArray("\0\0\0\x01", 4) << "is an archive with a damaged directory";
+    QTest::newRow("a directory without end")
+        << end << 12 << QByteArray("\0\0\0\x02", 4) << "is an archive of more than 10000 files";
+    QTest::newRow("many files") << end << 8 << QByteArray("\xff\xff\xff\xff", 4)
+                                << "is an archive of more than 10000 files";
+    QTest::newRow("one of several parts") << end << 4 << QByteArray("\1\0", 2) << "is one part of an archive";
+    QTest::newRow("cut short") << end << 0 << none << "is an archive that is cut short";
+}
+
+void ArchivedPrescriptionTest::refusesDamage()
+{
+    QFETCH(QByteArray, part);
+    QFETCH(int, place);
+    QFETCH(QByteArray, bytes);
+    QVERIFY(pack({"in/a.gpkg=a.gpkg"}));
+    QByteArray content = bytesOf(archive());
+    const int begin = content.lastIndexOf(part);
+    QVERIFY(begin > 0);
+    content.replace(begin + place, bytes.size(), bytes);
+    QFile file(archive());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    QTEST(errorOf(archive()), "reason");
+}
+
+void ArchivedPrescriptionTest::leavesNothingBehind()
+{
+    QVERIFY(pack({"a.gpkg"}));
+    const QTemporaryDir own;
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", own.path().toUtf8());
+    const QDir temporary(own.path());
+    int meanwhile = 0;
+    QString error;
+    {
+        const GdalSession session;
+        PrescriptionFile file(archive());
+        file.open(session);
+        error = file.error();
+        meanwhile = temporary.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size();
+    }
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QCOMPARE(error, QString());
+    QCOMPARE(meanwhile, 1);
+    QVERIFY(temporary.isEmpty());
+}
+
+RXMAP_TEST(ArchivedPrescriptionTest, Core)
+#include "tst_archivedprescription.moc"
