@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <ogr_spatialref.h>
 
@@ -64,7 +65,7 @@ bool areDegrees(const Range &x, const Range &y)
 }
 
 /// Longitudes and latitudes of places along the edges of the extent. False when any of them has none.
-bool edgePlaces(const SpatialReference &source, const Range &x, const Range &y, std::vector<double> &longitudes,
+bool edgePlaces(const RawPrescription &map, const Range &x, const Range &y, std::vector<double> &longitudes,
                 std::vector<double> &latitudes)
 {
     constexpr int steps = 8;
@@ -74,11 +75,8 @@ bool edgePlaces(const SpatialReference &source, const Range &x, const Range &y, 
             latitudes.push_back(y.min + (y.max - y.min) * k / steps);
         }
     }
-    const SpatialReference world = worldReference();
-    const Transformation toWorld(OGRCreateCoordinateTransformation(source.get(), world.get()));
-    if (!toWorld)
+    if (!LocalPlane::toDegrees(map, longitudes, latitudes))
         return false;
-    toWorld->Transform(static_cast<int>(longitudes.size()), longitudes.data(), latitudes.data());
     const auto isFinite = [](double value) { return std::isfinite(value); };
     return std::all_of(longitudes.begin(), longitudes.end(), isFinite)
         && std::all_of(latitudes.begin(), latitudes.end(), isFinite);
@@ -102,6 +100,25 @@ double LocalPlane::distanceTo(double longitude, double latitude) const
     return 2.0 * earthRadius * std::asin(std::min(1.0, std::sqrt(haversine)));
 }
 
+bool LocalPlane::toDegrees(const RawPrescription &map, std::vector<double> &xs, std::vector<double> &ys)
+{
+    const SpatialReference source = sourceReference(map);
+    const SpatialReference world = worldReference();
+    const Transformation toWorld(OGRCreateCoordinateTransformation(source.get(), world.get()));
+    if (!toWorld)
+        return false;
+    // In parts: there may be more coordinates than one call takes.
+    constexpr size_t part = 1U << 16U;
+    for (size_t first = 0; first < xs.size(); first += part)
+        toWorld->Transform(static_cast<int>(std::min(part, xs.size() - first)), &xs[first], &ys[first]);
+    const bool isGeographic = source->IsGeographic() != 0;
+    for (size_t i = 0; i < xs.size() && isGeographic; ++i) {
+        if (!areDegrees({xs[i], xs[i]}, {ys[i], ys[i]}))
+            xs[i] = ys[i] = std::numeric_limits<double>::infinity();
+    }
+    return true;
+}
+
 bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QString &error)
 {
     const Range x = rangeOf(map.xs);
@@ -115,7 +132,7 @@ bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QS
     }
     std::vector<double> longitudes;
     std::vector<double> latitudes;
-    if (!edgePlaces(sourceReference(map), x, y, longitudes, latitudes)) {
+    if (!edgePlaces(map, x, y, longitudes, latitudes)) {
         error = QStringLiteral("its coordinate system \"%1\" cannot be projected there")
                     .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
         return false;

@@ -30,6 +30,9 @@ public:
     /// Where the coordinates lie on the earth. Empty `reference`: they are taken as WGS 84 longitudes and latitudes if
     /// they can be. False, with the reason in `error`, when they cannot be placed or cover more than a field region.
     static bool locate(const RawPrescription &map, GeographicExtent &extent, QString &error);
+    /// Turns coordinates of the map's own system into degrees of longitude and latitude; those that have no place on
+    /// the earth become infinite. False when the map's coordinate system cannot be projected.
+    static bool toDegrees(const RawPrescription &map, std::vector<double> &xs, std::vector<double> &ys);
     /// Sets `xs` and `ys` to the map's coordinates in metres of the plane; those that have no place in it become
     /// infinite. False, with the reason in `error`, when the map's coordinate system cannot be projected.
     bool project(const RawPrescription &map, std::vector<double> &xs, std::vector<double> &ys, QString &error) const;

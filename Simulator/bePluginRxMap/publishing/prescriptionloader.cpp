@@ -6,6 +6,7 @@
 #include "geosinterrupt.h"
 #include "legendbuilder.h"
 #include "ringrepair.h"
+#include "straypolygons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -170,6 +171,9 @@ bool PrescriptionLoader::place(LoadedMap &map)
         return fail(source.notFiniteRecords.empty() ? QStringLiteral("holds no polygon")
                                                     : QStringLiteral("holds no polygon with finite coordinates"));
     }
+    findings->addCounted(Kind::StrayPolygon, StrayPolygons::remove(source),
+                         {QStringLiteral("polygon that lies more than 100 km from the others was left out"),
+                          QStringLiteral("polygons that lie more than 100 km from the others were left out")});
     QString reason;
     GeographicExtent extent;
     if (!LocalPlane::locate(source, extent, reason))

@@ -53,6 +53,8 @@ struct TextColumn {
     QString text;
     /// Records differ: the text says nothing.
     bool isMixed = false;
+    /// The first text that differs from `text`.
+    QString other = {};
 };
 
 /// A ring of a record, in the file's own coordinates.

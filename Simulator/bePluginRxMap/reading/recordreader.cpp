@@ -48,6 +48,8 @@ void compareText(const OGRFeature &feature, TextColumn &column)
     if (column.text.isEmpty())
         column.text = text;
     column.isMixed = !text.isEmpty() && text != column.text;
+    if (column.isMixed)
+        column.other = text;
 }
 
 /// Makes room for that many records of one cell each. Files may promise more than they hold, so there is a limit.

@@ -9,7 +9,9 @@ private Q_SLOTS:
     void readsTextAsNumbersInTheCLocale();
     void readsWhatFollowsTheNumbersOfAText();
     void readsTextsThatAreTheSameInEveryRecord();
-    void readsColumnNamesInTheTablesOwnCodePage();
+    void readsNamesInTheTablesOwnCodePage_data();
+    void readsNamesInTheTablesOwnCodePage();
+    void refusesATableOfTooManyColumns();
     void takesNegativeAndEndlessNumbersForNoRate();
     void takesANegativeZeroForZero();
     void readsOnlyTheWantedColumns();
@@ -75,16 +77,51 @@ void PrescriptionReaderColumnsTest::readsTextsThatAreTheSameInEveryRecord()
     QVERIFY(map.texts[1].isMixed);
 }
 
-void PrescriptionReaderColumnsTest::readsColumnNamesInTheTablesOwnCodePage()
+void PrescriptionReaderColumnsTest::readsNamesInTheTablesOwnCodePage_data()
 {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("Latin-1") << QByteArray("D\xfcngung") << QString::fromUtf8("Düngung");
+    QTest::newRow("Latin-1, letter at the end") << QByteArray("Qualit\xe9") << QString::fromUtf8("Qualité");
+    QTest::newRow("code page 850") << QByteArray("D\x81ngung") << QString::fromUtf8("Düngung");
+    QTest::newRow("code page 850, Spanish") << QByteArray("A\xa4"
+                                                          "adido")
+                                            << QString::fromUtf8("Añadido");
+    QTest::newRow("UTF-8") << QByteArray("D\xc3\xbcngung") << QString::fromUtf8("Düngung");
+    QTest::newRow("UTF-8, cut at ten bytes")
+        << QByteArray("D\xc3\xbcngung\xc3\xa4") << QString::fromUtf8("Düngungä").left(7);
+}
+
+void PrescriptionReaderColumnsTest::readsNamesInTheTablesOwnCodePage()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    const QByteArray plain(qMin(10, bytes.size()), 'q');
     LayerSketch sketch;
-    sketch.fields = {{"D_ngung", 1.0}};
-    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0}}};
+    sketch.fields = {{plain.constData(), 1.0}, {"REMARK", QString(120, 'x')}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, QStringLiteral("west")}}};
     QVERIFY(sketch.write(path("a.shp")));
     QFile::remove(path("a.cpg"));
-    QVERIFY(replaceIn("a.dbf", "D_ngung", "D\xfcngung"));
-    QVERIFY2(read(path("a.shp"), {QString::fromUtf8("düngung")}), qPrintable(error));
+    QVERIFY(replaceIn("a.dbf", plain, bytes.left(plain.size())));
+    QVERIFY2(read(path("a.shp"), {QStringLiteral("#1")}), qPrintable(error));
+    QVERIFY2(map.columns[0].name.startsWith(name), qPrintable(map.columns[0].name));
     QCOMPARE(map.columns[0].values[0], 80.0);
+}
+
+void PrescriptionReaderColumnsTest::refusesATableOfTooManyColumns()
+{
+    QByteArray properties;
+    for (int i = 0; i < 10000; ++i)
+        properties += (i == 0 ? "\"rate_" : ", \"rate_") + QByteArray::number(i) + "\": 1.5";
+    QFile file(path("a.geojson"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "{\"type\": \"FeatureCollection\", \"features\": [{\"type\": \"Feature\", \"properties\": {" + properties
+        + "}, \"geometry\": {\"type\": \"Polygon\", \"coordinates\": [[[11, 48], [11.001, 48], [11, 48.001], [11, "
+          "48]]]}}]}");
+    file.close();
+    QVERIFY(!read(path("a.geojson")));
+    QCOMPARE(error, QStringLiteral("has 10000 columns; files with more than 2048 are not read"));
 }
 
 void PrescriptionReaderColumnsTest::takesNegativeAndEndlessNumbersForNoRate()

@@ -192,7 +192,7 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     const MachineProduct &product = products.at(feed.product);
     const RateUnit &named = operatorUnits[static_cast<size_t>(feed.product)];
     if (named.isKnown())
-        unit = {named, RateSource::UnitFrom::Operator, {}};
+        unit = {named, RateSource::UnitFrom::Operator, {}, nullptr};
     unit.unit = unit.unit.of(product.kind);
     const QString base = RateUnit::baseText(product.kind);
     feed.factor = unit.unit.factorTo(product.kind);
@@ -207,6 +207,10 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     if (!told.isSure)
         tell(Kind::GuessedColumn,
              QStringLiteral("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
+    if (unit.mixed != nullptr)
+        tell(Kind::UnitUnknown,
+             QStringLiteral("column \"%1\" gives different units (\"%2\", \"%3\") and is not used for column \"%4\"")
+                 .arg(unit.mixed->name, unit.mixed->text, unit.mixed->other, column.name));
     if (!unit.unknownText.isEmpty())
         tell(
             Kind::UnitUnknown,

@@ -8,11 +8,13 @@ ColumnUnits::ColumnUnits(const RawPrescription &rawPrescription)
     : source(rawPrescription)
 {
     for (const TextColumn &column : source.texts) {
-        if (column.isMixed || column.text.isEmpty())
+        if (column.text.isEmpty())
             continue;
         const ColumnName name(column.name);
         // The unit of a yield is none of the rates beside it.
-        if (name.namesUnit() || (!name.namesOther() && RateUnit::fromText(column.text).isKnown()))
+        const bool areUnits = RateUnit::fromText(column.text).isKnown()
+            && (!column.isMixed || RateUnit::fromText(column.other).isKnown());
+        if (name.namesUnit() || (!name.namesOther() && areUnits))
             units.push_back(&column);
     }
     for (const SourceColumn &column : source.columns)
@@ -49,9 +51,12 @@ ColumnUnit ColumnUnits::of(int place) const
         return result;
     }
     if (const TextColumn *beside = unitsBeside(column.field)) {
-        if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column))
+        if (beside->isMixed)
+            result.mixed = beside;
+        else if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column))
             return result;
-        result.unknownText = beside->text;
+        else
+            result.unknownText = beside->text;
     }
     if (!column.unit.isEmpty()) {
         if (take(RateUnit::fromText(column.unit), RateSource::UnitFrom::Text))

@@ -12,6 +12,9 @@ struct ColumnUnit {
     RateSource::UnitFrom from = RateSource::UnitFrom::Assumed;
     /// What stands for a unit beside or behind the rates, and is none that is known; empty otherwise.
     QString unknownText;
+    /// The column of units beside the rates that differs between records, and is no help; null otherwise.
+    /// RawPrescription's.
+    const TextColumn *mixed = nullptr;
 };
 
 /// The units of a file's columns, as the file says them.

@@ -3,6 +3,7 @@
 #include "archivedprescription.h"
 #include "gdalsession.h"
 #include "shapefilecheck.h"
+#include "tablecodepage.h"
 
 #include <QDir>
 #include <QFile>
@@ -73,6 +74,9 @@ CPLStringList PrescriptionFile::options() const
     // data. By design: not where the name holds a percent sign, which would be decoded.
     if (!QFileInfo::exists(path + QStringLiteral("-wal")) && !nameForGdal(path).contains('%'))
         options.SetNameValue("IMMUTABLE", "YES");
+    const QByteArray codePage = isShapefile() ? TableCodePage::guess(path) : QByteArray();
+    if (!codePage.isEmpty())
+        options.SetNameValue("ENCODING", codePage.constData());
     return options;
 }
 

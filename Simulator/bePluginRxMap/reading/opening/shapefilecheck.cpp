@@ -10,22 +10,11 @@ constexpr int shapeHeaderSize = 100;
 constexpr int tableHeaderSize = 32;
 constexpr qint32 shapeFileCode = 9994;
 
-/// Path of the part of the Shapefile with that extension, in lower or upper case; empty when there is none.
-QString partPath(const QString &shapePath, const QString &extension)
-{
-    const QString base = shapePath.left(shapePath.size() - QFileInfo(shapePath).suffix().size());
-    for (const QString &candidate : {QString(base + extension), QString(base + extension.toUpper())}) {
-        if (QFileInfo::exists(candidate))
-            return candidate;
-    }
-    return {};
-}
-
 /// A pipe in place of a part would be waited on without end.
 QString partsProblem(const QString &shapePath)
 {
     for (const char *extension : {"shx", "dbf", "prj", "cpg"}) {
-        const QString part = partPath(shapePath, QLatin1String(extension));
+        const QString part = ShapefileCheck::partPath(shapePath, QLatin1String(extension));
         if (!part.isEmpty() && !QFileInfo(part).isFile())
             return QStringLiteral("the .%1 beside it is no plain file").arg(QLatin1String(extension));
     }
@@ -103,6 +92,16 @@ QString tableProblem(const QString &path, qint64 shapes)
 }
 
 } // namespace
+
+QString ShapefileCheck::partPath(const QString &shapePath, const QString &extension)
+{
+    const QString base = shapePath.left(shapePath.size() - QFileInfo(shapePath).suffix().size());
+    for (const QString &candidate : {QString(base + extension), QString(base + extension.toUpper())}) {
+        if (QFileInfo::exists(candidate))
+            return candidate;
+    }
+    return {};
+}
 
 QString ShapefileCheck::problem(const QString &path)
 {

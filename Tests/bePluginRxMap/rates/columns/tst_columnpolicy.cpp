@@ -389,7 +389,14 @@ void ColumnPolicyTest::looksForUnitsBesideTheirOwnColumn()
     QCOMPARE(units(), QStringList({"", ""}));
     map.texts[0].name = QStringLiteral("Unit");
     map.texts[0].isMixed = true;
-    QCOMPARE(units(), QStringList({"", ""}));
+    map.texts[0].other = QStringLiteral("lb/ac");
+    map.columns[1].name = QStringLiteral("Rate2_kg_ha");
+    QCOMPARE(units(), QStringList({"", "kg/ha"}));
+    QCOMPARE(ColumnUnits(map).of(1).mixed, &map.texts[0]);
+    const QString said = ColumnPolicy(machine(), {"", "", "#2"}).decide(map, polygons()).findings.first().text;
+    QCOMPARE(said,
+             QStringLiteral("column \"Unit\" gives different units (\"l/ha\", \"lb/ac\") and is not used for column "
+                            "\"Rate1\""));
 }
 
 void ColumnPolicyTest::takesTheOperatorsUnit()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+struct RawPrescription;
+
+/// Polygons that lie so far from the others of a map that their places must be wrong, as those do whose position was
+/// lost. The map's plane would else stand half-way between.
+///
+/// A polygon is far when any corner of its box is more than 100 km from the middle of the map: the median of all
+/// polygons' centres, which few wrong places do not move. Those that touch the origin of the coordinates, where lost
+/// positions go, are strays however many they are. Others are when they are one in three, or at most a tenth of all: a
+/// map of two halves far from each other is none with strays.
+class StrayPolygons {
+public:
+    /// Takes them out of the map; the record of each.
+    static std::vector<int> remove(RawPrescription &map);
+};
