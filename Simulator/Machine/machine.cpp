@@ -95,8 +95,10 @@ QList<MachineProduct> Machine::loadedProducts() const
     QList<MachineProduct> loaded;
     for (int number = 1; number <= allProducts.size(); ++number) {
         const Product &product = allProducts.at(number - 1);
+        auto *info = qobject_cast<DbGroupProductGroupInfo *>(broker->getGroup(productGroupName(number), false));
         loaded.append({product.name, productGroupName(number), rateKindOf(product),
-                       prescriptions->loader(number - 1)->defaultRate, product.underVra, false});
+                       prescriptions->loader(number - 1)->defaultRate, product.underVra, false,
+                       getRateConversion(info)});
     }
     return loaded;
 }

@@ -4,20 +4,19 @@
 #include "drivedisplay.h"
 #include "fieldview.h"
 #include "guidancepage.h"
-#include "legendpanel.h"
 #include "machine.h"
 #include "mapoverlay.h"
 #include "pluginscanner.h"
 #include "productselector.h"
 #include "querylistener.h"
 #include "recorder.h"
+#include "reportunits.h"
 #include "simulation.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
 #include "vehicle.h"
 #include "wholefile.h"
 
-#include "Framework/dbgroupproductgroupinfo.h"
 #include "Framework/uigraphicslist.h"
 #include "Framework/uiplugininterface.h"
 #include "bePluginRxMap/rxmaploader.h"
@@ -260,11 +259,8 @@ void Terminal::followMaps()
 void Terminal::showLegend()
 {
     const int number = machineModel->activeProduct();
-    const Product &product = machineModel->products().at(number - 1);
     const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
-    auto *info = qobject_cast<DbGroupProductGroupInfo *>(dataBroker.getGroup(Machine::productGroupName(number), false));
-    display->legend()->show({product.name, map.columnName, map.legend, reportOf(map).hasSingleRates.value(map.mapping),
-                             getRateConversion(info), rateUnit(product.rateKind(), machineModel->unitSystem())});
+    display->legend()->show(legendOf(map));
     display->productSelector()->setActiveProduct(number);
     display->overlay()->setBoundary(reportOf(map).boundary);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
@@ -281,6 +277,28 @@ LoadReport Terminal::reportOf(const ActiveMap &map) const
             return report;
     }
     return {};
+}
+
+LegendPanel::Content Terminal::legendOf(const ActiveMap &map) const
+{
+    const int number = machineModel->activeProduct();
+    const ReportUnits units(*machineModel, number);
+    const LoadReport report = reportOf(map);
+    LegendPanel::Content content;
+    content.product = machineModel->products().at(number - 1).name;
+    content.source = report.sources.value(map.mapping);
+    content.classes = map.legend;
+    content.hasSingleRates = report.hasSingleRates.value(map.mapping);
+    content.factor = units.rate(1.0);
+    content.unit = units.rateUnit();
+    // One for the polygons without a rate may follow.
+    const QList<double> areas = report.areas.value(map.mapping).mid(0, map.legend.size());
+    for (const double area : areas)
+        content.areas.append(units.area(area));
+    content.areaUnit = units.areaUnit();
+    content.amount = units.amount(report.amounts.value(map.mapping));
+    content.amountUnit = units.amountUnit();
+    return content;
 }
 
 void Terminal::refresh()

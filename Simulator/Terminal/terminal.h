@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
+#include "legendpanel.h"
 #include "openrequest.h"
 #include "productfile.h"
 #include "repaintthrottle.h"
@@ -100,6 +101,8 @@ private:
     void showLegend();
     /// What came of the map's load; an empty report where there is no map.
     LoadReport reportOf(const ActiveMap &map) const;
+    /// What the legend says of the map that feeds the active product.
+    LegendPanel::Content legendOf(const ActiveMap &map) const;
     void showVehicle();
     void frameField();
 

@@ -56,7 +56,7 @@ private:
     static constexpr int blendTolerance = 2;
 
     static bool isNear(const QColor &a, const QColor &b);
-    /// What the legend says below its product, unit and column.
+    /// What the legend says of its classes' rates.
     QStringList classesShown();
     /// What the bubbles on the map say.
     QStringList bubblesShown();
@@ -70,8 +70,14 @@ bool TestTerminalDrawing::isNear(const QColor &a, const QColor &b)
 
 QStringList TestTerminalDrawing::classesShown()
 {
-    const int head = terminal().activeColumn().isEmpty() ? 2 : 3;
-    return paintedTexts(*terminal().window()->legend()).mid(head);
+    const QStringList texts = paintedTexts(*terminal().window()->legend());
+    if (terminal().activeColumn().isEmpty())
+        return texts.mid(1);
+    // Product, column, where the unit is from and units above; areas beside them; two sums of two texts below.
+    QStringList rates;
+    for (int i = 5; i + 4 < texts.size(); i += 2)
+        rates.append(texts.at(i));
+    return rates;
 }
 
 QStringList TestTerminalDrawing::bubblesShown()
@@ -190,7 +196,7 @@ void TestTerminalDrawing::theLegendNamesRatesOrRangesAsTheMapHasThem()
     QCOMPARE(classesShown(), (QStringList{"0", "120.5", "150"}));
     // Another file feeds the first product now, with more rates than the legend has classes.
     QTemporaryDir folder;
-    QVERIFY2(terminal().open({{writeRow(folder, 12)}, {"RATE"}}).first().isOk(), "twelve rates");
+    QVERIFY2(terminal().open({{writeRow(folder, 20)}, {"RATE"}}).first().isOk(), "twenty rates");
     QVERIFY(terminal().machine()->setActiveProduct(1));
     QCOMPARE(classesShown().size(), 7);
     QVERIFY(classesShown().first().startsWith(QStringLiteral("\u2264 ")));

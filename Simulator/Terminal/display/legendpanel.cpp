@@ -1,55 +1,52 @@
 #include "legendpanel.h"
 
+#include "Backend/shownrate.h"
 #include "fieldscene.h"
 #include "theme.h"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <numeric>
 
 namespace {
 
 constexpr int inset = 14;
-constexpr int headHeight = 70;
-constexpr int rowHeight = 38;
-constexpr int swatchHeight = 28;
-constexpr int panelWidth = 212;
-constexpr int textLeft = swatchHeight + 22;
+constexpr int headHeight = 112;
+constexpr int swatchWidth = 32;
+constexpr int panelWidth = 252;
+constexpr int textLeft = swatchWidth + 12;
+constexpr int footLine = 26;
 constexpr int maxText = 20;
-constexpr int minText = 14;
+constexpr int minText = 13;
 const QString rangeDash = QStringLiteral(" \u2013 ");
 
-/// A number with at least three significant digits and at least `decimals` decimals, without zeros at its end; no
-/// exponent while it is short enough to be read.
-QString numberText(double value, int decimals)
+/// An area or amount with three significant digits or more, none behind the point from a hundred on.
+QString sumText(double value)
 {
-    constexpr double maxReadable = 1e12;
-    if (value == 0.0)
-        return QStringLiteral("0");
-    if (std::fabs(value) >= maxReadable)
-        return QString::number(value, 'g', 4);
-    const int digits = int(std::floor(std::log10(std::fabs(value)))) + 1;
-    QString text = QString::number(value, 'f', std::clamp(3 - digits, decimals, 4));
-    if (text.contains(QLatin1Char('.'))) {
-        while (text.endsWith(QLatin1Char('0')))
-            text.chop(1);
-        if (text.endsWith(QLatin1Char('.')))
-            text.chop(1);
+    const int decimals = value < 10.0 ? 2 : value < 100.0 ? 1 : 0;
+    constexpr double least = 0.01;
+    return value > 0.0 && value < least ? QStringLiteral("< 0.01") : QString::number(value, 'f', decimals);
+}
+
+/// So small that all texts fit into `width` pixels, if it stays legible.
+QFont fittingFont(const QStringList &texts, int pixels, int width, bool isBold)
+{
+    const QFontMetrics metrics(Theme::font(pixels, isBold));
+    int fitting = pixels;
+    for (const QString &text : texts) {
+        const int needed = metrics.horizontalAdvance(text);
+        fitting = std::min(fitting, needed > width ? pixels * width / needed : pixels);
     }
-    return text;
+    return Theme::font(std::max(fitting, minText), isBold);
 }
 
-/// The limit of a class, which is round, as it is read at a glance.
-QString limitText(double value)
+int widest(const QStringList &texts, const QFont &font)
 {
-    return numberText(value, 0);
-}
-
-/// A rate as exact as the answer at a touched point.
-QString rateText(double value)
-{
-    return numberText(value, 2);
+    int width = 0;
+    for (const QString &text : texts)
+        width = std::max(width, QFontMetrics(font).horizontalAdvance(text));
+    return width;
 }
 
 } // namespace
@@ -65,39 +62,58 @@ void LegendPanel::show(const Content &newContent)
 {
     content = newContent;
     texts.clear();
-    for (int i = 0; i < content.classes.size(); ++i)
+    areaTexts.clear();
+    for (int i = 0; i < content.classes.size(); ++i) {
         texts.append(classText(i));
+        areaTexts.append(i < content.areas.size() ? sumText(content.areas.at(i)) : QString());
+    }
     resize(sizeHint());
     update();
 }
 
 QString LegendPanel::classText(int index) const
 {
-    const OrvikTypes::RX_RATECOLOR &entry = content.classes.at(index);
-    if (content.hasSingleRates)
-        return rateText(entry.rate * content.factor);
-    const QString limit = limitText(entry.rate * content.factor);
+    const auto limitOf = [this](int place) { return ShownRate::text(content.classes.at(place).rate * content.factor); };
     // Zero is a class of its own, and no rate is below it.
-    if (entry.rate == 0.0)
-        return limit;
-    if (index == 0)
-        return QStringLiteral("\u2264 ") + limit;
-    return limitText(content.classes.at(index - 1).rate * content.factor) + rangeDash + limit;
+    if (content.hasSingleRates || content.classes.at(index).rate == 0.0)
+        return limitOf(index);
+    return index == 0 ? QStringLiteral("\u2264 ") + limitOf(0) : limitOf(index - 1) + rangeDash + limitOf(index);
 }
 
-QFont LegendPanel::fittingFont(int width) const
+QString LegendPanel::sourceText() const
 {
-    int pixels = maxText;
-    for (const QString &text : texts) {
-        const int needed = QFontMetrics(Theme::font(maxText, true)).horizontalAdvance(text);
-        pixels = std::min(pixels, needed > width ? maxText * width / needed : maxText);
+    const QString &unit = content.source.unit;
+    switch (content.source.unitFrom) {
+    case RateSource::UnitFrom::Operator:
+        return tr("%1 named by the operator").arg(unit);
+    case RateSource::UnitFrom::Format:
+        return tr("%1 from the format").arg(unit);
+    case RateSource::UnitFrom::Column:
+        return tr("%1 from another column").arg(unit);
+    case RateSource::UnitFrom::Text:
+        return tr("%1 from the texts").arg(unit);
+    case RateSource::UnitFrom::Name:
+        return tr("%1 from the name").arg(unit);
+    case RateSource::UnitFrom::Assumed:
+        break;
     }
-    return Theme::font(std::max(pixels, minText), true);
+    return unit.isEmpty() ? tr("unit not known") : tr("not known, taken as %1").arg(unit);
+}
+
+int LegendPanel::rowHeight() const
+{
+    constexpr int wideRow = 38;
+    constexpr int narrowRow = 26;
+    constexpr int mostWideRows = 8;
+    return texts.size() <= mostWideRows ? wideRow : narrowRow;
 }
 
 QSize LegendPanel::sizeHint() const
 {
-    return QSize(panelWidth, headHeight + std::max(1, texts.size()) * rowHeight + inset / 2);
+    if (texts.isEmpty())
+        return QSize(panelWidth, headHeight);
+    const int footHeight = footLine * (content.amountUnit.isEmpty() ? 1 : 2) + inset;
+    return QSize(panelWidth, headHeight + texts.size() * rowHeight() + footHeight);
 }
 
 void LegendPanel::paintEvent(QPaintEvent *)
@@ -106,7 +122,10 @@ void LegendPanel::paintEvent(QPaintEvent *)
     Theme::drawPanel(painter, rect(), Theme::panel());
     const QRect inner = rect().adjusted(inset, 0, -inset, 0);
     drawHead(painter, inner);
+    if (texts.isEmpty())
+        return;
     drawClasses(painter, inner);
+    drawFoot(painter, inner);
 }
 
 void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
@@ -115,29 +134,39 @@ void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
     painter.setPen(Theme::text());
     painter.drawText(QRect(inner.left(), 10, inner.width(), 30), Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(content.product, Qt::ElideRight, inner.width()));
-    painter.setFont(Theme::font(16));
     painter.setPen(Theme::faintText());
-    const QRect second(inner.left(), 40, inner.width(), 24);
-    const int unitWidth = painter.fontMetrics().horizontalAdvance(content.unit);
-    painter.drawText(second, Qt::AlignVCenter | Qt::AlignRight, content.unit);
-    const int columnWidth = inner.width() - unitWidth - inset;
-    painter.drawText(second, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(content.column, Qt::ElideMiddle, columnWidth));
     if (texts.isEmpty()) {
         painter.setFont(Theme::font(20));
-        painter.drawText(QRect(inner.left(), headHeight, inner.width(), rowHeight), Qt::AlignVCenter, tr("No map"));
+        painter.drawText(QRect(inner.left(), 50, inner.width(), 38), Qt::AlignVCenter, tr("No map"));
+        return;
     }
+    painter.setFont(Theme::font(16));
+    painter.drawText(QRect(inner.left(), 38, inner.width(), 22), Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(content.source.column, Qt::ElideMiddle, inner.width()));
+    const QString told = sourceText();
+    painter.setFont(fittingFont({told}, 16, inner.width(), false));
+    painter.drawText(QRect(inner.left(), 58, inner.width(), 22), Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(told, Qt::ElideRight, inner.width()));
+    painter.setFont(Theme::font(16));
+    const QRect units(inner.left(), headHeight - 26, inner.width(), 24);
+    painter.setPen(Theme::text());
+    painter.drawText(units.adjusted(textLeft, 0, 0, 0), Qt::AlignVCenter, content.unit);
+    painter.drawText(units, Qt::AlignVCenter | Qt::AlignRight, content.areaUnit);
+    painter.setPen(QPen(Theme::faintText(), 1.0));
+    painter.drawLine(units.topLeft(), units.topRight());
 }
 
 void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
 {
-    const int textWidth = inner.width() - textLeft;
-    const QFont classFont = fittingFont(textWidth);
+    const QFont areaFont = Theme::font(16);
+    const int textWidth = inner.width() - textLeft - widest(areaTexts, areaFont) - 8;
+    const QFont classFont = fittingFont(texts, maxText, textWidth, true);
     const QFontMetrics metrics(classFont);
+    const int height = rowHeight();
+    const int swatchHeight = height - 8;
     for (int i = 0; i < texts.size(); ++i) {
-        const QRect row(inner.left(), headHeight + i * rowHeight, inner.width(), rowHeight);
-        const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2.0 + 0.5, swatchHeight + 8,
-                            swatchHeight);
+        const QRect row(inner.left(), headHeight + i * height, inner.width(), height);
+        const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2.0 + 0.5, swatchWidth, swatchHeight);
         painter.setPen(QPen(Theme::text(), 1.0));
         painter.setBrush(FieldScene::onGround(content.classes.at(i).color));
         painter.drawRoundedRect(swatch, 4.0, 4.0);
@@ -146,7 +175,30 @@ void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
         if (metrics.horizontalAdvance(text) > textWidth)
             text.replace(rangeDash, QStringLiteral(" \u2013\n"));
         painter.setFont(classFont);
-        painter.setPen(Theme::text());
         painter.drawText(row.adjusted(textLeft, 0, 0, 0), Qt::AlignVCenter, text);
+        painter.setFont(areaFont);
+        painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, areaTexts.at(i));
     }
+}
+
+void LegendPanel::drawFoot(QPainter &painter, const QRect &inner) const
+{
+    const int top = headHeight + texts.size() * rowHeight() + 4;
+    painter.setPen(QPen(Theme::faintText(), 1.0));
+    painter.drawLine(inner.left(), top, inner.right(), top);
+    const auto drawLine = [&](int line, const QString &what, const QString &sum) {
+        const QRect row(inner.left(), top + 4 + line * footLine, inner.width(), footLine);
+        painter.setFont(Theme::font(16));
+        painter.setPen(Theme::faintText());
+        painter.drawText(row, Qt::AlignVCenter, what);
+        painter.setFont(
+            fittingFont({sum}, 18, inner.width() - painter.fontMetrics().horizontalAdvance(what) - 8, true));
+        painter.setPen(Theme::text());
+        painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, sum);
+    };
+    const auto withUnit = [](double sum, const QString &unit) { return sumText(sum) + QLatin1Char(' ') + unit; };
+    drawLine(0, tr("Area"),
+             withUnit(std::accumulate(content.areas.begin(), content.areas.end(), 0.0), content.areaUnit));
+    if (!content.amountUnit.isEmpty())
+        drawLine(1, tr("Total"), withUnit(content.amount, content.amountUnit));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/ratesource.h"
+
 #include "Framework/rxpolygon.h"
 
 #include <QFont>
@@ -17,8 +19,8 @@ public:
     /// What the panel shows.
     struct Content {
         QString product;
-        /// The prescription column that feeds it.
-        QString column;
+        /// The prescription column that feeds it, the file's unit and what told it.
+        RateSource source;
         /// Those that are drawn, limits ascending in base units, none negative; empty when there is no map.
         QList<OrvikTypes::RX_RATECOLOR> classes;
         /// Every class holds one single rate, its limit; else those above the class before, up to the limit.
@@ -26,6 +28,12 @@ public:
         /// Takes base units to `unit`.
         double factor = 1.0;
         QString unit;
+        /// What each of the classes covers, in `areaUnit`.
+        QList<double> areas;
+        QString areaUnit;
+        /// What the whole map takes; an empty unit for a product whose rates add up to nothing.
+        double amount = 0.0;
+        QString amountUnit;
     };
 
     explicit LegendPanel(QWidget *parent = nullptr);
@@ -38,12 +46,17 @@ protected:
 
 private:
     QString classText(int index) const;
-    /// The class texts' font, so small that the widest of them fits into `width` pixels, if it stays legible.
-    QFont fittingFont(int width) const;
+    /// "lb/ac from the name".
+    QString sourceText() const;
+    /// Less for many classes, so that they fit between the other panels.
+    int rowHeight() const;
     void drawHead(QPainter &painter, const QRect &inner) const;
     void drawClasses(QPainter &painter, const QRect &inner) const;
+    void drawFoot(QPainter &painter, const QRect &inner) const;
 
     Content content;
     /// Beside the colours, lowest class first.
     QStringList texts;
+    /// At the right end of the classes' rows.
+    QStringList areaTexts;
 };

@@ -43,12 +43,21 @@ QString reasonOf(int code, const QString &group, const QString &property)
     }
 }
 
-QVariantList plainLegend(const QList<OrvikTypes::RX_RATECOLOR> &legend)
+/// The classes that are drawn, which come first, each with its area.
+QVariantList plainLegend(const QList<OrvikTypes::RX_RATECOLOR> &legend, const QList<double> &areas)
 {
-    return ScriptValue::fromBroker(QVariant::fromValue(QList<QList<OrvikTypes::RX_RATECOLOR>>{legend}))
-        .toList()
-        .value(0)
-        .toList();
+    QVariantList classes =
+        ScriptValue::fromBroker(
+            QVariant::fromValue(QList<QList<OrvikTypes::RX_RATECOLOR>>{ActiveMap::drawnClasses(legend)}))
+            .toList()
+            .value(0)
+            .toList();
+    for (int i = 0; i < classes.size(); ++i) {
+        QVariantMap entry = classes.at(i).toMap();
+        entry.insert(QStringLiteral("area"), areas.value(i));
+        classes[i] = entry;
+    }
+    return classes;
 }
 
 QString unitFromText(RateSource::UnitFrom from)
@@ -86,12 +95,17 @@ QVariantMap describe(const RateSource &source)
     return described;
 }
 
+QVariantMap lonLat(const QPointF &degrees)
+{
+    return {{QStringLiteral("lon"), degrees.x()}, {QStringLiteral("lat"), degrees.y()}};
+}
+
 /// The legend of the active product's column, else of the first one.
 QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 {
     QVariantList legends;
-    for (const QList<OrvikTypes::RX_RATECOLOR> &legend : report.legends)
-        legends.append(QVariant(plainLegend(ActiveMap::drawnClasses(legend))));
+    for (int i = 0; i < report.legends.size(); ++i)
+        legends.append(QVariant(plainLegend(report.legends.at(i), report.areas.value(i))));
     QVariantList sources;
     for (const RateSource &source : report.sources)
         sources.append(describe(source));
@@ -103,6 +117,7 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
             {QStringLiteral("sources"), sources},
             {QStringLiteral("legend"), legends.value(std::max(0, report.columns.indexOf(activeColumn)))},
             {QStringLiteral("legends"), legends},
+            {QStringLiteral("origin"), lonLat(report.origin)},
             {QStringLiteral("repaired"), report.repaired},
             {QStringLiteral("skipped"), report.skipped},
             {QStringLiteral("warnings"), report.warnings}};

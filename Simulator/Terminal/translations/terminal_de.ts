@@ -85,6 +85,42 @@
         <source>No map</source>
         <translation>Keine Karte</translation>
     </message>
+    <message>
+        <source>%1 named by the operator</source>
+        <translation>%1, vom Bediener genannt</translation>
+    </message>
+    <message>
+        <source>%1 from the format</source>
+        <translation>%1, aus dem Format</translation>
+    </message>
+    <message>
+        <source>%1 from another column</source>
+        <translation>%1, aus anderer Spalte</translation>
+    </message>
+    <message>
+        <source>%1 from the texts</source>
+        <translation>%1, aus den Texten</translation>
+    </message>
+    <message>
+        <source>%1 from the name</source>
+        <translation>%1, aus dem Namen</translation>
+    </message>
+    <message>
+        <source>unit not known</source>
+        <translation>Einheit unbekannt</translation>
+    </message>
+    <message>
+        <source>not known, taken as %1</source>
+        <translation>unbekannt, angenommen %1</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>

@@ -85,6 +85,42 @@
         <source>No map</source>
         <translation>Sin mapa</translation>
     </message>
+    <message>
+        <source>%1 named by the operator</source>
+        <translation>%1, según el operador</translation>
+    </message>
+    <message>
+        <source>%1 from the format</source>
+        <translation>%1, según el formato</translation>
+    </message>
+    <message>
+        <source>%1 from another column</source>
+        <translation>%1, según otra columna</translation>
+    </message>
+    <message>
+        <source>%1 from the texts</source>
+        <translation>%1, según los textos</translation>
+    </message>
+    <message>
+        <source>%1 from the name</source>
+        <translation>%1, según el nombre</translation>
+    </message>
+    <message>
+        <source>unit not known</source>
+        <translation>unidad desconocida</translation>
+    </message>
+    <message>
+        <source>not known, taken as %1</source>
+        <translation>desconocida, tomada como %1</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Superficie</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>

@@ -85,6 +85,42 @@
         <source>No map</source>
         <translation>Aucune carte</translation>
     </message>
+    <message>
+        <source>%1 named by the operator</source>
+        <translation>%1, selon l’opérateur</translation>
+    </message>
+    <message>
+        <source>%1 from the format</source>
+        <translation>%1, selon le format</translation>
+    </message>
+    <message>
+        <source>%1 from another column</source>
+        <translation>%1, selon une autre colonne</translation>
+    </message>
+    <message>
+        <source>%1 from the texts</source>
+        <translation>%1, selon les textes</translation>
+    </message>
+    <message>
+        <source>%1 from the name</source>
+        <translation>%1, selon le nom</translation>
+    </message>
+    <message>
+        <source>unit not known</source>
+        <translation>unité inconnue</translation>
+    </message>
+    <message>
+        <source>not known, taken as %1</source>
+        <translation>inconnue, prise comme %1</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>

@@ -85,6 +85,42 @@
         <source>No map</source>
         <translation>Sem mapa</translation>
     </message>
+    <message>
+        <source>%1 named by the operator</source>
+        <translation>%1, segundo o operador</translation>
+    </message>
+    <message>
+        <source>%1 from the format</source>
+        <translation>%1, segundo o formato</translation>
+    </message>
+    <message>
+        <source>%1 from another column</source>
+        <translation>%1, segundo outra coluna</translation>
+    </message>
+    <message>
+        <source>%1 from the texts</source>
+        <translation>%1, segundo os textos</translation>
+    </message>
+    <message>
+        <source>%1 from the name</source>
+        <translation>%1, segundo o nome</translation>
+    </message>
+    <message>
+        <source>unit not known</source>
+        <translation>unidade desconhecida</translation>
+    </message>
+    <message>
+        <source>not known, taken as %1</source>
+        <translation>desconhecida, tomada como %1</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Área</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>

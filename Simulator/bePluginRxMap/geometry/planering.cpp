@@ -38,6 +38,14 @@ double ringArea(const PlaneRing &ring)
     return std::fabs(signedArea(ring));
 }
 
+double polygonArea(const PlanePolygon &polygon)
+{
+    double area = ringArea(polygon.outer);
+    for (const PlaneRing &hole : polygon.holes)
+        area -= ringArea(hole);
+    return area;
+}
+
 void dropRepeatedVertices(PlaneRing &ring)
 {
     ring.erase(std::unique(ring.begin(), ring.end(), samePlace), ring.end());

@@ -32,6 +32,8 @@ inline double turn(const PlaneVertex &a, const PlaneVertex &b, const PlaneVertex
 double signedArea(const PlaneRing &ring);
 /// Square metres, whichever way the ring runs.
 double ringArea(const PlaneRing &ring);
+/// Square metres: the outer ring's area less the holes'.
+double polygonArea(const PlanePolygon &polygon);
 
 /// Drops each vertex that repeats the one before it, and the closing vertex. Fewer than three are left of a ring that
 /// encloses nothing.

@@ -62,8 +62,9 @@ void FileSurvey::classify(const SourceColumn &column, SurveyedColumn &told) cons
     rates.reserve(polygons.size());
     for (const PlanePolygon &polygon : polygons)
         rates.push_back(static_cast<float>(column.values[static_cast<size_t>(polygon.record)]));
-    told.legend = LegendBuilder::build(rates);
-    told.hasSingleRates = LegendBuilder::hasSingleRates(told.legend, rates);
+    const LegendBuilder::Legend legend = LegendBuilder::build(rates);
+    told.legend = legend.classes;
+    told.hasSingleRates = legend.hasSingleRates;
     told.leastRate = HUGE_VAL;
     int records = 0;
     int without = 0;

@@ -21,14 +21,6 @@ QString textOf(const std::vector<int> &records)
         + numbers.join(QStringLiteral(", ")) + (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString());
 }
 
-double areaOf(const PlanePolygon &polygon)
-{
-    double area = ringArea(polygon.outer);
-    for (const PlaneRing &hole : polygon.holes)
-        area -= ringArea(hole);
-    return area;
-}
-
 /// Area and extent of all parts of the records; the place is the middle of the first part.
 void locate(MapFinding &finding, const std::vector<int> &records, const std::vector<PlanePolygon> &polygons)
 {
@@ -37,7 +29,7 @@ void locate(MapFinding &finding, const std::vector<int> &records, const std::vec
         if (!std::binary_search(records.begin(), records.end(), polygon.record))
             continue;
         const RingExtent extent = RingExtent::of(polygon.outer.data(), polygon.outer.size());
-        finding.area = finding.area.value_or(0.0) + areaOf(polygon);
+        finding.area = finding.area.value_or(0.0) + polygonArea(polygon);
         if (!finding.place)
             finding.place = QPointF(0.5 * (extent.minX + extent.maxX), 0.5 * (extent.minY + extent.maxY));
         all.include(extent.minX, extent.minY);

@@ -355,13 +355,27 @@ void PrescriptionLoader::makeChain(LoadedMap &map) const
 
 void PrescriptionLoader::buildLegends(LoadedMap &map) const
 {
+    constexpr double squareMetresPerHectare = 10000.0;
+    std::vector<double> areas;
+    areas.reserve(polygons.size());
+    for (const PlanePolygon &polygon : polygons)
+        areas.push_back(polygonArea(polygon));
     for (size_t i = 0; i < rates.mappings(); ++i) {
         std::vector<float> column;
         column.reserve(polygons.size());
-        for (const PlanePolygon &polygon : polygons)
-            column.push_back(rates.at(polygon.record, i));
-        map.report.legends.append(LegendBuilder::build(column));
-        map.report.hasSingleRates.append(LegendBuilder::hasSingleRates(map.report.legends.last(), column));
+        double amount = 0.0;
+        for (const PlanePolygon &polygon : polygons) {
+            const float rate = rates.at(polygon.record, i);
+            if (!std::isnan(rate))
+                amount += static_cast<double>(rate) * areas[column.size()] / squareMetresPerHectare;
+            column.push_back(rate);
+        }
+        const int product = map.report.sources.at(static_cast<int>(i)).product - 1;
+        const auto legend = LegendBuilder::build(column, request.products.at(product).displayFactor);
+        map.report.legends.append(legend.classes);
+        map.report.hasSingleRates.append(legend.hasSingleRates);
+        map.report.areas.append(LegendBuilder::areasOf(legend.classes, column, areas));
+        map.report.amounts.append(amount);
     }
 }
 

@@ -1,21 +1,62 @@
 #include "legendbuilder.h"
 
+#include "Backend/shownrate.h"
 #include "rateramp.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <map>
+#include <random>
+#include <unordered_set>
 
 namespace {
 
-/// Ascending finite rates.
-std::vector<float> sortedFinite(const std::vector<float> &rates)
+/// So many rates, drawn at random, stand for a column's when it is split into classes: a class then holds within about
+/// two hundredths of the polygons that it would by sorting all of them.
+constexpr size_t sampleSize = 4096;
+
+/// The published number next to it.
+double published(double limit)
 {
-    std::vector<float> sorted;
-    sorted.reserve(rates.size());
-    std::copy_if(rates.begin(), rates.end(), std::back_inserter(sorted),
-                 [](float rate) { return std::isfinite(rate); });
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
+    constexpr auto greatest = static_cast<double>(std::numeric_limits<float>::max());
+    return static_cast<double>(static_cast<float>(std::min(limit, greatest)));
+}
+
+/// A class for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
+std::vector<double> singleRates(const std::vector<float> &finite, double factor)
+{
+    std::unordered_set<float> known;
+    std::map<double, float> greatest; // By what is shown.
+    for (const float rate : finite) {
+        if (!known.insert(rate).second)
+            continue;
+        const double shown = ShownRate::text(static_cast<double>(rate) * factor).toDouble();
+        float &limit = greatest.emplace(shown, rate).first->second;
+        limit = std::max(limit, rate);
+        if (greatest.size() > LegendBuilder::maxSingleRates)
+            return {};
+    }
+    std::vector<double> limits;
+    for (const auto &entry : greatest)
+        limits.push_back(static_cast<double>(entry.second));
+    return limits;
+}
+
+/// Rates in the operator's unit, ascending: all, or a sample of many.
+std::vector<double> sortedSample(std::vector<float> positive, double factor)
+{
+    if (positive.size() > sampleSize) {
+        std::vector<float> drawn(sampleSize);
+        std::minstd_rand random;
+        std::generate(drawn.begin(), drawn.end(), [&] { return positive[random() % positive.size()]; });
+        positive.swap(drawn);
+    }
+    std::sort(positive.begin(), positive.end());
+    std::vector<double> sample(positive.begin(), positive.end());
+    for (double &rate : sample)
+        rate *= factor;
+    return sample;
 }
 
 /// The number from `low` to `high` (both positive) with the fewest digits, even ones and fives preferred.
@@ -34,93 +75,120 @@ double roundest(double low, double high)
     return high;
 }
 
-double widened(double limit)
+double shown(double value)
 {
-    return static_cast<double>(static_cast<float>(limit));
+    return ShownRate::text(value).toDouble();
 }
 
-/// Limits at round numbers that split `sorted` (positive, more different rates than classes) into classes of about
-/// equally many.
-void appendQuantiles(const std::vector<float> &sorted, size_t classes, std::vector<double> &limits)
+/// Limits at round numbers that split a sample of rates up to `maxRate` into classes of about equally many. All are in
+/// the operator's unit, and no two are shown alike.
+std::vector<double> quantileLimits(const std::vector<double> &sample, size_t classes, double maxRate)
 {
-    const size_t size = sorted.size();
+    const size_t size = sample.size();
     // A limit may move by a quarter of a class to become rounder.
     const size_t slack = size / (4 * classes);
-    const double maxRate = sorted.back();
+    std::vector<double> limits;
     for (size_t k = 1; k < classes; ++k) {
         const size_t quantile = size * k / classes;
-        const double limit = widened(
-            roundest(sorted[quantile - std::min(slack, quantile)], sorted[std::min(size - 1, quantile + slack)]));
-        if ((limits.empty() || limit > limits.back()) && limit < maxRate)
+        const double low = shown(sample[quantile - std::min(slack, quantile)]);
+        const double limit = roundest(low, shown(sample[std::min(size - 1, quantile + slack)]));
+        if ((limits.empty() || shown(limit) > shown(limits.back())) && shown(limit) < shown(maxRate))
             limits.push_back(limit);
     }
     constexpr double headroom = 1.05;
-    const double last = widened(roundest(maxRate, maxRate * headroom));
-    limits.push_back(std::isfinite(last) && last >= maxRate ? last : maxRate);
+    limits.push_back(roundest(maxRate, maxRate * headroom));
+    return limits;
 }
 
-/// Drops the limits of classes that hold none of `sorted`.
-void dropEmptyClasses(const std::vector<float> &sorted, std::vector<double> &limits)
+/// Makes limits of classes in the operator's unit those of published rates: a rate that is shown as a limit is, though
+/// a little above it, belongs to the limit's class. Drops classes that hold no rate.
+std::vector<double> fittedLimits(const std::vector<double> &shownLimits, const std::vector<float> &finite,
+                                 double factor)
 {
-    auto begin = sorted.begin();
-    const auto isEmpty = [&sorted, &begin](double limit) {
-        const auto end = std::upper_bound(begin, sorted.end(), limit,
-                                          [](double bound, float rate) { return bound < static_cast<double>(rate); });
-        const bool empty = end == begin;
-        begin = end;
-        return empty;
-    };
-    limits.erase(std::remove_if(limits.begin(), limits.end(), isEmpty), limits.end());
+    std::vector<double> limits;
+    std::vector<double> ends;
+    for (const double limit : shownLimits) {
+        limits.push_back(published(limit / factor));
+        ends.push_back((limit + 0.5 * ShownRate::step(limit)) / factor);
+    }
+    std::vector<bool> isUsed(limits.size(), false);
+    for (const float number : finite) {
+        const auto rate = static_cast<double>(number);
+        const auto end = std::find_if(ends.begin(), ends.end(), [rate](double bound) { return rate < bound; });
+        const auto place = static_cast<size_t>((end == ends.end() ? end - 1 : end) - ends.begin());
+        limits[place] = std::max(limits[place], rate);
+        isUsed[place] = true;
+    }
+    std::vector<double> used;
+    for (size_t i = 0; i < limits.size(); ++i) {
+        if (isUsed[i])
+            used.push_back(limits[i]);
+    }
+    return used;
+}
+
+std::vector<double> classLimits(const std::vector<float> &finite, double factor)
+{
+    const bool hasZero = std::find(finite.begin(), finite.end(), 0.0F) != finite.end();
+    const double maxRate = static_cast<double>(*std::max_element(finite.begin(), finite.end())) * factor;
+    const size_t classes = LegendBuilder::maxClasses - (hasZero ? 1U : 0U);
+    std::vector<float> positive;
+    positive.reserve(finite.size());
+    std::copy_if(finite.begin(), finite.end(), std::back_inserter(positive), [](float rate) { return rate > 0.0F; });
+    std::vector<double> limits =
+        fittedLimits(quantileLimits(sortedSample(positive, factor), classes, maxRate), positive, factor);
+    if (hasZero)
+        limits.insert(limits.begin(), 0.0);
+    return limits;
+}
+
+QList<OrvikTypes::RX_RATECOLOR> coloured(const std::vector<double> &limits)
+{
+    const bool hasZero = limits.front() == 0.0;
+    const int ramped = static_cast<int>(limits.size()) - (hasZero ? 1 : 0);
+    QList<OrvikTypes::RX_RATECOLOR> classes;
+    int step = 0;
+    for (const double limit : limits) {
+        if (limit == 0.0)
+            classes.append({limit, RateRamp::zeroColor()});
+        else
+            classes.append({limit, RateRamp::color(ramped == 1 ? 0.5 : static_cast<double>(step++) / (ramped - 1))});
+    }
+    return classes;
 }
 
 } // namespace
 
-std::vector<double> LegendBuilder::limits(const std::vector<float> &sortedRates)
+LegendBuilder::Legend LegendBuilder::build(const std::vector<float> &rates, double factor)
 {
-    std::vector<float> unique = sortedRates;
-    unique.erase(std::unique(unique.begin(), unique.end()), unique.end());
-    if (unique.size() <= maxClasses)
-        return std::vector<double>(unique.begin(), unique.end());
-
-    std::vector<double> result;
-    std::vector<float> others = sortedRates;
-    if (unique.front() == 0.0F) {
-        others.erase(others.begin(), std::upper_bound(others.begin(), others.end(), 0.0F));
-        result.push_back(0.0);
-    }
-    appendQuantiles(others, maxClasses - result.size(), result);
-    dropEmptyClasses(sortedRates, result);
-    return result;
-}
-
-QList<OrvikTypes::RX_RATECOLOR> LegendBuilder::build(const std::vector<float> &rates)
-{
-    const std::vector<float> sorted = sortedFinite(rates);
-    QList<OrvikTypes::RX_RATECOLOR> legend;
-    if (sorted.empty())
+    std::vector<float> finite;
+    finite.reserve(rates.size());
+    std::copy_if(rates.begin(), rates.end(), std::back_inserter(finite),
+                 [](float rate) { return std::isfinite(rate); });
+    Legend legend;
+    if (finite.empty())
         return legend;
-    const std::vector<double> classLimits = limits(sorted);
-    const bool hasZero = classLimits.front() == 0.0;
-    const int ramped = static_cast<int>(classLimits.size()) - (hasZero ? 1 : 0);
-    int step = 0;
-    for (const double limit : classLimits) {
-        if (limit == 0.0)
-            legend.append({limit, RateRamp::zeroColor()});
-        else
-            legend.append({limit, RateRamp::color(ramped == 1 ? 0.5 : static_cast<double>(step++) / (ramped - 1))});
-    }
-    if (sorted.size() < rates.size())
-        legend.append({classLimits.back(), RateRamp::noRateColor()});
+    std::vector<double> limits = singleRates(finite, factor);
+    legend.hasSingleRates = !limits.empty();
+    if (limits.empty())
+        limits = classLimits(finite, factor);
+    legend.classes = coloured(limits);
+    if (finite.size() < rates.size())
+        legend.classes.append({limits.back(), RateRamp::noRateColor()});
     return legend;
 }
 
-bool LegendBuilder::hasSingleRates(const QList<OrvikTypes::RX_RATECOLOR> &legend, const std::vector<float> &rates)
+QList<double> LegendBuilder::areasOf(const QList<OrvikTypes::RX_RATECOLOR> &classes, const std::vector<float> &rates,
+                                     const std::vector<double> &areas)
 {
-    const auto isLimit = [&legend](float rate) {
-        return std::any_of(legend.begin(), legend.end(), [rate](const OrvikTypes::RX_RATECOLOR &entry) {
-            return entry.rate == static_cast<double>(rate);
-        });
-    };
-    return std::all_of(rates.begin(), rates.end(),
-                       [&isLimit](float rate) { return !std::isfinite(rate) || isLimit(rate); });
+    std::vector<double> limits;
+    for (const OrvikTypes::RX_RATECOLOR &entry : classes)
+        limits.push_back(entry.rate);
+    std::vector<double> sums(limits.size(), 0.0);
+    for (size_t i = 0; i < rates.size() && !limits.empty(); ++i) {
+        const auto rate = static_cast<double>(rates[i]);
+        const auto entry = std::find_if(limits.begin(), limits.end(), [rate](double limit) { return limit >= rate; });
+        sums[static_cast<size_t>((entry == limits.end() ? entry - 1 : entry) - limits.begin())] += areas[i];
+    }
+    return QList<double>(sums.begin(), sums.end());
 }

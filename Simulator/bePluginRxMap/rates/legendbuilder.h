@@ -9,21 +9,29 @@
 /// Sorts the rates of one column into the classes of a colour legend.
 ///
 /// Rates are compared as they stand in the published chain: single-precision numbers, widened. Every limit is such a
-/// number too, so a rate that equals a limit is in that limit's class.
+/// number too, so a rate that equals a limit is in that limit's class. What is round, and which rates are the same, is
+/// decided in the operator's unit, as ShownRate writes it.
 class LegendBuilder {
 public:
+    static constexpr int maxSingleRates = 12;
     static constexpr int maxClasses = 7;
 
-    /// The classes, limits ascending, the last one holding the greatest rate; at most maxClasses. Few different rates
-    /// have a class each, many are split into classes of about equally many polygons at round limits. Zero has a class
-    /// and a colour of its own. Rates that are not finite have no class; where there are any, one more entry follows,
-    /// fully transparent, with the limit of the entry before it: a reader that finds no class for such a rate takes the
-    /// last entry, and so draws nothing. Empty for no rates.
-    static QList<OrvikTypes::RX_RATECOLOR> build(const std::vector<float> &rates);
+    struct Legend {
+        /// Limits ascending, the last one holding the greatest rate. Empty for no rates. Zero has a class and a colour
+        /// of its own. Rates that are not finite have no class; where there are any, one more entry follows, fully
+        /// transparent, with the limit of the entry before it: a reader that finds no class for such a rate takes the
+        /// last entry, and so draws nothing.
+        QList<OrvikTypes::RX_RATECOLOR> classes;
+        /// Every class holds rates that are shown alike, the greatest of which is its limit.
+        bool hasSingleRates = false;
+    };
 
-    /// Whether every class of a column's legend holds one single rate: its limit.
-    static bool hasSingleRates(const QList<OrvikTypes::RX_RATECOLOR> &legend, const std::vector<float> &rates);
+    /// `factor` takes rates to the operator's unit. Up to maxSingleRates rates that are shown differently have a class
+    /// each; more are split into at most maxClasses classes of about equally many polygons at round limits, no two of
+    /// which are shown alike.
+    static Legend build(const std::vector<float> &rates, double factor = 1.0);
 
-private:
-    static std::vector<double> limits(const std::vector<float> &sortedRates);
+    /// How much of `areas`, one per rate, each entry of a legend holds.
+    static QList<double> areasOf(const QList<OrvikTypes::RX_RATECOLOR> &classes, const std::vector<float> &rates,
+                                 const std::vector<double> &areas);
 };

@@ -23,9 +23,16 @@ QImage pictureOf(const QList<double> &limits, bool hasSingleRates)
     content.hasSingleRates = hasSingleRates;
     LegendPanel panel;
     panel.show(content);
-    constexpr int head = 70;
-    constexpr int corner = 10;
-    return panel.grab().toImage().copy(0, head, panel.width(), panel.height() - head - corner);
+    constexpr int head = 112;
+    constexpr int foot = 40;
+    return panel.grab().toImage().copy(0, head, panel.width(), panel.height() - head - foot);
+}
+
+/// What a panel without areas says between what told the unit and the sum of the areas.
+QStringList classTexts(LegendPanel &panel)
+{
+    const QStringList texts = paintedTexts(panel);
+    return texts.mid(1, texts.size() - 3);
 }
 
 /// Pixels from the right-most bright one to the picture's right edge.
@@ -52,6 +59,10 @@ private Q_SLOTS:
     void singleRatesReadAsTheRateItself_data();
     void singleRatesReadAsTheRateItself();
     void aSwatchShowsItsColorAsOnTheGround();
+    void theHeadSaysWhereTheUnitIsFrom_data();
+    void theHeadSaysWhereTheUnitIsFrom();
+    void areasStandBesideTheClassesAndSumsBelow();
+    void twelveClassesFitAboveTheGuidancePage();
     void longNumbersAreDrawnWhole_data();
     void longNumbersAreDrawnWhole();
     void theGreatestNumbersFitTheirPanel();
@@ -67,7 +78,7 @@ void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit_data()
     QTest::newRow("without zero") << QList<double>{23.0, 60.0} << 1.0 << QStringList{"≤ 23", "23 – 60"};
     QTest::newRow("converted") << QList<double>{10.0, 20.0} << 0.25 << QStringList{"≤ 2.5", "2.5 – 5"};
     QTest::newRow("small") << QList<double>{0.0123, 0.5} << 1.0 << QStringList{"≤ 0.0123", "0.0123 – 0.5"};
-    QTest::newRow("large") << QList<double>{70000.0, 81234.5} << 1.0 << QStringList{"≤ 70000", "70000 – 81235"};
+    QTest::newRow("large") << QList<double>{70000.0, 81234.5} << 1.0 << QStringList{"≤ 70000", "70000 – 81234.5"};
 }
 
 void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit()
@@ -76,7 +87,7 @@ void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit()
     QFETCH(double, factor);
     LegendPanel panel;
     panel.show(contentOf(limits, factor));
-    QTEST(paintedTexts(panel), "texts");
+    QTEST(classTexts(panel), "texts");
     QCOMPARE(panel.size(), panel.sizeHint());
 }
 
@@ -104,7 +115,7 @@ void TestLegendPanel::singleRatesReadAsTheRateItself()
     content.hasSingleRates = true;
     LegendPanel panel;
     panel.show(content);
-    QTEST(paintedTexts(panel), "texts");
+    QTEST(classTexts(panel), "texts");
 }
 
 void TestLegendPanel::aSwatchShowsItsColorAsOnTheGround()
@@ -114,8 +125,72 @@ void TestLegendPanel::aSwatchShowsItsColorAsOnTheGround()
     content.classes = {{10.0, Qt::green}, {20.0, clear}};
     LegendPanel panel;
     panel.show(content);
-    const QPoint secondSwatch(30, 127);
+    const QPoint secondSwatch(30, 169);
     QCOMPARE(panel.grab().toImage().pixelColor(secondSwatch), FieldScene::onGround(clear));
+}
+
+void TestLegendPanel::theHeadSaysWhereTheUnitIsFrom_data()
+{
+    using From = RateSource::UnitFrom;
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("operator") << "lb/ac" << int(From::Operator) << "lb/ac named by the operator";
+    QTest::newRow("format") << "lb/ac" << int(From::Format) << "lb/ac from the format";
+    QTest::newRow("column") << "lb/ac" << int(From::Column) << "lb/ac from another column";
+    QTest::newRow("text") << "lb/ac" << int(From::Text) << "lb/ac from the texts";
+    QTest::newRow("name") << "lb/ac" << int(From::Name) << "lb/ac from the name";
+    QTest::newRow("assumed") << "kg/ha" << int(From::Assumed) << "not known, taken as kg/ha";
+    QTest::newRow("of no known kind") << "" << int(From::Assumed) << "unit not known";
+}
+
+void TestLegendPanel::theHeadSaysWhereTheUnitIsFrom()
+{
+    QFETCH(QString, unit);
+    QFETCH(int, from);
+    LegendPanel::Content content = contentOf({1.0}, 1.0);
+    content.product = QStringLiteral("Urea");
+    content.source.column = QStringLiteral("Rate_lb_ac");
+    content.source.unit = unit;
+    content.source.unitFrom = RateSource::UnitFrom(from);
+    LegendPanel panel;
+    panel.show(content);
+    QCOMPARE(paintedTexts(panel).mid(0, 2), QStringList({"Urea", "Rate_lb_ac"}));
+    QTEST(paintedTexts(panel).at(2), "text");
+}
+
+void TestLegendPanel::areasStandBesideTheClassesAndSumsBelow()
+{
+    LegendPanel::Content content = contentOf({10.0, 20.0, 30.0, 40.0}, 1.0);
+    content.hasSingleRates = true;
+    content.unit = QStringLiteral("lb/ac");
+    content.areas = {0.004, 1.234, 12.34, 1234.6};
+    content.areaUnit = QStringLiteral("ac");
+    content.amount = 50123.4;
+    content.amountUnit = QStringLiteral("lb");
+    LegendPanel panel;
+    panel.show(content);
+    QCOMPARE(paintedTexts(panel).mid(1),
+             QStringList({"lb/ac", "ac", "10", "< 0.01", "20", "1.23", "30", "12.3", "40", "1235", "Area", "1248 ac",
+                          "Total", "50123 lb"}));
+    // What adds up to nothing, as a pressure, has no total.
+    content.amountUnit.clear();
+    panel.show(content);
+    QVERIFY(!paintedTexts(panel).contains(QStringLiteral("Total")));
+}
+
+void TestLegendPanel::twelveClassesFitAboveTheGuidancePage()
+{
+    constexpr int room = 500;
+    for (int count = 1; count <= 12; ++count) {
+        LegendPanel::Content content = contentOf({}, 1.0);
+        content.amountUnit = QStringLiteral("kg");
+        for (int i = 0; i < count; ++i)
+            content.classes.append({double(i), Qt::green});
+        LegendPanel panel;
+        panel.show(content);
+        QVERIFY2(panel.height() <= room, qPrintable(QString::number(count)));
+    }
 }
 
 void TestLegendPanel::longNumbersAreDrawnWhole_data()

@@ -89,7 +89,8 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
         "same(m.group, 'rxMap.three-zones.geojson'); same(m.polygons, 3); same(m.outers, 3); same(m.holes, 0);"
         "same(m.columns, ['SEED_K_HA', 'HERB_L_HA']); same(m.repaired, 0); same(m.skipped, 0);"
         "same(m.warnings, []); same(m.legend.map(function (c) { return c.rate; }), [70, 80, 90]);"
-        "same(/^#[0-9a-f]{6}$/.test(m.legend[0].color), true);");
+        "same(/^#[0-9a-f]{6}$/.test(m.legend[0].color), true);"
+        "m.legend.forEach(function (c) { same(c.area > 0, true); }); same(Object.keys(m.origin), ['lat', 'lon']);");
     row("open says where rates come from",
         "var m = terminal.open(zones, {columns: ['', 'FERT_KG_HA', 'zone_id'], units: [null, 'lbs/acre']});"
         "same(m.sources, [{column: 'FERT_KG_HA', product: 2, sure: true, unit: 'lb/ac', unitFrom: 'operator'},"

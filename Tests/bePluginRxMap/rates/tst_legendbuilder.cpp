@@ -1,3 +1,4 @@
+#include "Backend/shownrate.h"
 #include "legendbuilder.h"
 #include "rateramp.h"
 #include "testbase.h"
@@ -32,6 +33,11 @@ QList<double> limitsOf(const Legend &legend)
     return limits;
 }
 
+Legend classesOf(const std::vector<float> &rates, double factor = 1.0)
+{
+    return LegendBuilder::build(rates, factor).classes;
+}
+
 std::vector<float> spread(int count, double least, double greatest)
 {
     std::vector<float> rates;
@@ -56,6 +62,11 @@ private Q_SLOTS:
     void reservesTheLastEntryForPolygonsWithoutRate();
     void tellsWhetherEachClassHoldsOneRate_data();
     void tellsWhetherEachClassHoldsOneRate();
+    void givesRatesThatAreShownAlikeOneClass();
+    void showsNoTwoLimitsAlike_data();
+    void showsNoTwoLimitsAlike();
+    void putsARateThatIsShownAsALimitIntoItsClass();
+    void sumsTheAreasOfEachClass();
     void isEmptyWithoutRates();
     void holdsTheGreatestSingleNumber();
     void keepsItsPromisesForRandomColumns();
@@ -63,21 +74,21 @@ private Q_SLOTS:
 
 void LegendBuilderTest::givesFewRatesAClassEach()
 {
-    const Legend legend = LegendBuilder::build({30, 10, 20, 10, 30});
+    const Legend legend = classesOf({30, 10, 20, 10, 30});
     QCOMPARE(limitsOf(legend), QList<double>({10, 20, 30}));
     QCOMPARE(legend.first().color, RateRamp::color(0.0));
     QCOMPARE(legend.last().color, RateRamp::color(1.0));
-    QCOMPARE(LegendBuilder::build({7.5F}).size(), 1);
+    QCOMPARE(classesOf({7.5F}).size(), 1);
 }
 
 void LegendBuilderTest::givesZeroAClassAndColourOfItsOwn()
 {
-    const Legend few = LegendBuilder::build({0, 49, 300});
+    const Legend few = classesOf({0, 49, 300});
     QCOMPARE(limitsOf(few), QList<double>({0, 49, 300}));
     QCOMPARE(few.first().color, RateRamp::zeroColor());
     std::vector<float> rates = spread(100, 1.0, 200.0);
     rates.push_back(0.0F);
-    const Legend many = LegendBuilder::build(rates);
+    const Legend many = classesOf(rates);
     QCOMPARE(many.first().rate, 0.0);
     QCOMPARE(many.first().color, RateRamp::zeroColor());
     QVERIFY(many.size() <= LegendBuilder::maxClasses);
@@ -101,11 +112,11 @@ void LegendBuilderTest::splitsManyRatesAtRoundNumbers()
     QFETCH(double, least);
     QFETCH(double, greatest);
     QFETCH(int, digits);
-    const Legend legend = LegendBuilder::build(spread(500, least, greatest));
+    const Legend legend = classesOf(spread(500, least, greatest));
     QCOMPARE(legend.size(), LegendBuilder::maxClasses);
     for (int i = 0; i + 1 < legend.size(); ++i) {
         const QString text = QString::number(legend.at(i).rate, 'g', digits);
-        QCOMPARE(static_cast<float>(text.toDouble()), static_cast<float>(legend.at(i).rate));
+        QCOMPARE(text.toDouble(), ShownRate::text(legend.at(i).rate).toDouble());
     }
     QVERIFY(legend.last().rate >= static_cast<double>(static_cast<float>(greatest)));
     QVERIFY(legend.last().rate <= 1.06 * greatest);
@@ -114,7 +125,7 @@ void LegendBuilderTest::splitsManyRatesAtRoundNumbers()
 void LegendBuilderTest::splitsManyRatesEvenly()
 {
     const std::vector<float> rates = spread(7000, 50.0, 400.0);
-    const Legend legend = LegendBuilder::build(rates);
+    const Legend legend = classesOf(rates);
     QVector<int> counts(legend.size(), 0);
     for (const float rate : rates)
         ++counts[classOf(legend, rate)];
@@ -126,7 +137,7 @@ void LegendBuilderTest::followsTheRatesOfALopsidedColumn()
 {
     std::vector<float> rates = spread(1000, 10.0, 20.0);
     rates.push_back(1e6F);
-    const Legend legend = LegendBuilder::build(rates);
+    const Legend legend = classesOf(rates);
     QVERIFY(legend.size() >= 6);
     QVERIFY(classOf(legend, 10.0F) != classOf(legend, 15.0F));
     QVERIFY(classOf(legend, 15.0F) != classOf(legend, 19.9F));
@@ -135,18 +146,18 @@ void LegendBuilderTest::followsTheRatesOfALopsidedColumn()
 void LegendBuilderTest::putsARateThatEqualsALimitIntoItsClass()
 {
     for (const float rate : {0.1F, 0.3F, 15.7F, 12.3F}) {
-        const Legend legend = LegendBuilder::build({rate, rate + 1.0F});
+        const Legend legend = classesOf({rate, rate + 1.0F});
         QCOMPARE(classOf(legend, rate), 0);
         QCOMPARE(classOf(legend, rate + 1.0F), 1);
     }
-    const Legend many = LegendBuilder::build(spread(200, 0.1, 2.0));
+    const Legend many = classesOf(spread(200, 0.1, 2.0));
     for (int i = 0; i < many.size(); ++i)
         QCOMPARE(classOf(many, static_cast<float>(many.at(i).rate)), i);
 }
 
 void LegendBuilderTest::reservesTheLastEntryForPolygonsWithoutRate()
 {
-    const Legend legend = LegendBuilder::build({10, noRate, 20});
+    const Legend legend = classesOf({10, noRate, 20});
     QCOMPARE(legend.size(), 3);
     QCOMPARE(legend.last().color.alpha(), 0);
     QVERIFY(std::isfinite(legend.last().rate));
@@ -160,29 +171,87 @@ void LegendBuilderTest::tellsWhetherEachClassHoldsOneRate_data()
     QTest::addColumn<bool>("single");
     QTest::newRow("few rates") << std::vector<float>{0, 49, 300, 49} << true;
     QTest::newRow("not exact in binary") << std::vector<float>{0.1F, 0.3F} << true;
-    QTest::newRow("seven rates") << std::vector<float>{1, 2, 3, 4, 5, 6, 7} << true;
+    QTest::newRow("twelve rates") << spread(12, 1.0, 12.0) << true;
+    QTest::newRow("more that are shown as twelve") << spread(120, 1.0, 1.11) << true;
     QTest::newRow("some without rate") << std::vector<float>{10, noRate, 20} << true;
-    QTest::newRow("eight rates") << std::vector<float>{1, 2, 3, 4, 5, 6, 7, 8} << false;
+    QTest::newRow("thirteen rates") << spread(13, 1.0, 13.0) << false;
     QTest::newRow("many rates") << spread(500, 23.0, 230.0) << false;
 }
 
 void LegendBuilderTest::tellsWhetherEachClassHoldsOneRate()
 {
     QFETCH(std::vector<float>, rates);
-    QTEST(LegendBuilder::hasSingleRates(LegendBuilder::build(rates), rates), "single");
+    QTEST(LegendBuilder::build(rates).hasSingleRates, "single");
+}
+
+void LegendBuilderTest::givesRatesThatAreShownAlikeOneClass()
+{
+    QCOMPARE(classesOf({100.001F, 100.004F, 100.0F, 101.0F}).size(), 2);
+    QCOMPARE(classesOf({100.001F, 100.004F, 100.0F, 101.0F}).first().rate, static_cast<double>(100.004F));
+    // Shown as 0.100 and 0.101.
+    QCOMPARE(classesOf({100.0F, 101.0F}, 1e-3).size(), 2);
+    QCOMPARE(classesOf({100.0F, 100.4F}, 1e-3).size(), 1);
+}
+
+void LegendBuilderTest::showsNoTwoLimitsAlike_data()
+{
+    QTest::addColumn<std::vector<float>>("rates");
+    QTest::addColumn<double>("factor");
+    for (const double factor : {1.0, 0.404685642, 0.1069, 0.89217912, 0.0136835, 128.0}) {
+        QTest::addRow("within a unit, %g", factor) << spread(400, 123.41, 123.97) << factor;
+        QTest::addRow("within two hundredths, %g", factor) << spread(30, 99.99, 100.02) << factor;
+        QTest::addRow("fractions, %g", factor) << spread(400, 0.101, 0.119) << factor;
+        QTest::addRow("wide, %g", factor) << spread(9000, 0.001, 25000.0) << factor;
+        std::vector<float> lopsided = spread(400, 50.0, 50.3);
+        lopsided.push_back(0.0F);
+        lopsided.push_back(8e4F);
+        QTest::addRow("lopsided, %g", factor) << lopsided << factor;
+    }
+}
+
+void LegendBuilderTest::showsNoTwoLimitsAlike()
+{
+    QFETCH(std::vector<float>, rates);
+    QFETCH(double, factor);
+    const Legend legend = classesOf(rates, factor);
+    QVERIFY(!legend.isEmpty());
+    QVERIFY(legend.size() <= LegendBuilder::maxClasses || LegendBuilder::build(rates, factor).hasSingleRates);
+    QStringList texts;
+    for (const auto &entry : legend)
+        texts.append(ShownRate::text(entry.rate * factor));
+    QVERIFY2(texts.removeDuplicates() == 0, qPrintable(texts.join(QLatin1Char(' '))));
+}
+
+void LegendBuilderTest::putsARateThatIsShownAsALimitIntoItsClass()
+{
+    constexpr double factor = 0.8921791216;
+    const std::vector<float> rates = spread(3000, 100.0, 120.0);
+    const Legend legend = classesOf(rates, factor);
+    for (const float rate : rates) {
+        const double shown = ShownRate::text(static_cast<double>(rate) * factor).toDouble();
+        const int number = classOf(legend, rate);
+        QVERIFY(number == 0 || shown > ShownRate::text(legend.at(number - 1).rate * factor).toDouble());
+    }
+}
+
+void LegendBuilderTest::sumsTheAreasOfEachClass()
+{
+    const std::vector<float> rates{10, noRate, 20, 10};
+    QCOMPARE(LegendBuilder::areasOf(classesOf(rates), rates, {1, 2, 4, 8}), QList<double>({9, 4, 2}));
+    QCOMPARE(LegendBuilder::areasOf({}, {noRate}, {1}), QList<double>());
 }
 
 void LegendBuilderTest::isEmptyWithoutRates()
 {
-    QVERIFY(LegendBuilder::build({}).isEmpty());
-    QVERIFY(LegendBuilder::build({noRate, noRate}).isEmpty());
+    QVERIFY(classesOf({}).isEmpty());
+    QVERIFY(classesOf({noRate, noRate}).isEmpty());
 }
 
 void LegendBuilderTest::holdsTheGreatestSingleNumber()
 {
     std::vector<float> rates = spread(50, 1.0, 100.0);
     rates.push_back(std::numeric_limits<float>::max());
-    const Legend legend = LegendBuilder::build(rates);
+    const Legend legend = classesOf(rates);
     QVERIFY(std::isfinite(legend.last().rate));
     QCOMPARE(classOf(legend, rates.back()), legend.size() - 1);
     QVERIFY(legend.last().rate >= static_cast<double>(rates.back()));
@@ -201,8 +270,8 @@ void LegendBuilderTest::keepsItsPromisesForRandomColumns()
             rates.push_back(random() % 5 == 0                 ? 0.0F
                                 : isTied && random() % 5 != 0 ? common
                                                               : static_cast<float>(values(random)));
-        const Legend legend = LegendBuilder::build(rates);
-        QVERIFY(!legend.isEmpty() && legend.size() <= LegendBuilder::maxClasses);
+        const Legend legend = classesOf(rates);
+        QVERIFY(!legend.isEmpty() && legend.size() <= LegendBuilder::maxSingleRates);
         QVector<int> counts(legend.size(), 0);
         for (const float rate : rates) {
             const int number = classOf(legend, rate);

@@ -37,8 +37,13 @@ struct LoadReport {
     QList<RateSource> sources;
     /// One legend per column.
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
-    /// Per legend: every class holds one single rate, which is its limit.
+    /// Per legend: the rates of every class are shown alike, the greatest of them is its limit.
     QList<bool> hasSingleRates;
+    /// Per legend and class what its polygons cover less their holes, square metres. Ground that polygons of a map
+    /// share is counted for each of them.
+    QList<QList<double>> areas;
+    /// Per column the sum of rate times area, base unit times hectares; counted as the areas are.
+    QList<double> amounts;
     /// Rings that had to be repaired.
     int repaired = 0;
     /// Records left out: empty geometry, or no rate in any column.

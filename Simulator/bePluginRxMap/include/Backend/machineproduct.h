@@ -17,4 +17,6 @@ struct MachineProduct {
     /// Whether another one of the files that are opened together feeds it. Likely columns go to the other products
     /// first.
     bool isFed = false;
+    /// Takes its rates from base units to the operator's: what is round in a legend, and which rates are told apart.
+    double displayFactor = 1.0;
 };
