@@ -91,6 +91,8 @@ void TestDriveDisplay::nothingCoversThePluginsButtonOrAnythingElse()
 
 void TestDriveDisplay::theFieldIsSeenAsAWholeAboveTheStrip()
 {
+    // As high as it is wide.
+    QVERIFY(terminal().open({{TerminalHost::sampleField()}}).last().isOk());
     touch("drive");
     const FieldView &view = *terminal().window()->fieldView();
     const QRectF field = *terminal().bounds();

@@ -1,5 +1,6 @@
 #include "workedground.h"
 
+#include "Backend/prescriptionbackend.h"
 #include "machine.h"
 #include "simulation.h"
 #include "vehicle.h"
@@ -34,25 +35,31 @@ WorkedGround::WorkedGround(Simulation *simulation, QObject *parent)
 void WorkedGround::findLegends()
 {
     const Machine &machine = *simulation->machine();
-    maps.clear();
-    for (int number = 1; number <= machine.products().size(); ++number)
-        maps.push_back(ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(number)));
+    legends.clear();
+    for (int number = 1; number <= machine.products().size(); ++number) {
+        Legend legend{ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(number))};
+        const QList<LoadReport> reports = machine.backend()->maps();
+        for (const LoadReport &report : reports) {
+            if (report.group == legend.map.groupName)
+                legend.hasSingleRates = report.hasSingleRates.value(legend.map.mapping);
+        }
+        legends.push_back(legend);
+    }
     firstChanged = oldest();
     isOpen = false;
 }
 
-QColor WorkedGround::classColor(int product, double rate) const
+QColor WorkedGround::appliedColor(int product, double rate) const
 {
-    constexpr double share = 0.01;
-    const ActiveMap &map = maps[size_t(product - 1)];
-    return map.legend.isEmpty() ? QColor() : map.classColor(rate - share * double(map.legend.last().rate));
+    const Legend &legend = legends[size_t(product - 1)];
+    return legend.map.appliedColor(rate, legend.hasSingleRates);
 }
 
 std::vector<QColor> WorkedGround::colorsNow() const
 {
     std::vector<QColor> now;
-    for (int product = 1; product <= int(maps.size()); ++product)
-        now.push_back(classColor(product, simulation->rates(product).meanApplied));
+    for (int product = 1; product <= int(legends.size()); ++product)
+        now.push_back(appliedColor(product, simulation->rates(product).meanApplied));
     return now;
 }
 
@@ -77,7 +84,7 @@ void WorkedGround::take()
 
 void WorkedGround::begin()
 {
-    const size_t products = maps.size();
+    const size_t products = legends.size();
     width = simulation->vehicle()->size().width;
     length = 0.0;
     const Pose &from = simulation->stepStart();
@@ -102,8 +109,8 @@ void WorkedGround::extend()
     strip.corners[3] = corner(pose.place - beside);
     const QPointF way = pose.place - simulation->stepStart().place;
     const double added = std::hypot(way.x(), way.y());
-    for (size_t i = 0; i < maps.size(); ++i) {
-        float &mean = rates[size_t(slot(newest)) * maps.size() + i];
+    for (size_t i = 0; i < legends.size(); ++i) {
+        float &mean = rates[size_t(slot(newest)) * legends.size() + i];
         const double applied = simulation->rates(int(i) + 1).meanApplied;
         mean = float((double(mean) * length + applied * added) / (length + added));
     }
@@ -114,13 +121,13 @@ void WorkedGround::extend()
 
 double WorkedGround::rate(qint64 number, int product) const
 {
-    return double(rates[size_t(slot(number)) * maps.size() + size_t(product - 1)]);
+    return double(rates[size_t(slot(number)) * legends.size() + size_t(product - 1)]);
 }
 
 QColor WorkedGround::color(qint64 number) const
 {
     const int product = simulation->machine()->activeProduct();
-    return classColor(product, rate(number, product));
+    return appliedColor(product, rate(number, product));
 }
 
 qint64 WorkedGround::takeChanges()

@@ -42,8 +42,7 @@ public:
     const Strip &strip(qint64 number) const { return strips[size_t(slot(number))]; }
     /// Mean rate of a product (by number from 1) over a strip, base units.
     double rate(qint64 number, int product) const;
-    /// The colour of the active product's rate in its legend, invalid without one. Metering comes near to a rate and
-    /// does not reach it: what is within a hundredth of the highest class from a class's limit counts as in it.
+    /// The colour of the active product's applied rate in its legend; invalid without one.
     QColor color(qint64 number) const;
     /// Number of the first strip that looks different since this was asked last; end() when none does.
     qint64 takeChanges();
@@ -53,7 +52,7 @@ private:
     void findLegends();
     /// The legend's colours of the rates that are applied, by product.
     std::vector<QColor> colorsNow() const;
-    QColor classColor(int product, double rate) const;
+    QColor appliedColor(int product, double rate) const;
     void begin();
     void extend();
 
@@ -63,7 +62,12 @@ private:
     std::vector<float> rates;
     qint64 next = 0;
     qint64 firstChanged = 0;
-    std::vector<ActiveMap> maps;
+    struct Legend {
+        ActiveMap map;
+        bool hasSingleRates = false;
+    };
+    /// By product.
+    std::vector<Legend> legends;
 
     // The newest strip's.
     bool isOpen = false;
