@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cpl_conv.h>
 #include <cpl_error.h>
+#include <cpl_string.h>
 #include <ogrsf_frmts.h>
 
 namespace {
@@ -14,7 +15,7 @@ namespace {
 constexpr int fixedFields = 5;
 constexpr int fieldsOfProduct = 4;
 
-/// Keeps GDAL's own remarks off the terminal; what failed shows in results.
+/// How GDAL is to work while one lives: its own remarks stay off the terminal, what failed shows in results.
 class QuietGdal {
 public:
     QuietGdal() { CPLPushErrorHandler(CPLQuietErrorHandler); }
@@ -27,6 +28,12 @@ public:
         const QString said = QString::fromUtf8(CPLGetLastErrorMsg()).simplified();
         return said.isEmpty() ? QStringLiteral("it cannot be written") : said;
     }
+
+private:
+    // A crash of the program must not cost more than the last second; one of the computer may.
+    CPLConfigOptionSetter synchronous{"OGR_SQLITE_SYNCHRONOUS", "OFF", false};
+    // By design: not the day of writing, so that the same drive makes the same file.
+    CPLConfigOptionSetter date{"OGR_CURRENT_DATE", "2000-01-01T00:00:00.000Z", false};
 };
 
 /// What the implement passed over in the step.
@@ -69,12 +76,13 @@ std::shared_ptr<RecordWriter> GeoPackageRecord::create(const QString &path, int 
 QString GeoPackageRecord::begin(int products, const QPointF &origin)
 {
     RegisterOGRGeoPackage();
-    // A crash of the program must not cost more than the last second; one of the computer may.
-    CPLSetConfigOption("OGR_SQLITE_SYNCHRONOUS", "OFF");
     if (QFile::exists(path) && !QFile::remove(path))
         return QStringLiteral("it is there and cannot be replaced");
     GDALDriver *driver = GetGDALDriverManager()->GetDriverByName("GPKG");
-    file = driver != nullptr ? driver->Create(QFile::encodeName(path).constData(), 0, 0, 0, GDT_Unknown, nullptr)
+    // GDAL's table of counts would hold what a full disk took back.
+    CPLStringList options;
+    options.SetNameValue("ADD_GPKG_OGR_CONTENTS", "NO");
+    file = driver != nullptr ? driver->Create(QFile::encodeName(path).constData(), 0, 0, 0, GDT_Unknown, options.List())
                              : nullptr;
     const QString plane = FieldPlane::definition(origin);
     const bool isReady = file != nullptr && addLayer("points", wkbPoint, products, plane, points)
