@@ -1,4 +1,5 @@
 #include "machinebench.h"
+#include "paths.h"
 #include "ratecontroller.h"
 #include "terminalhost.h"
 #include "testbase.h"
@@ -7,6 +8,10 @@
 #include "bePluginRxMap/dbgrouprxmap.h"
 #include "bePluginRxMap/rxmaploader.h"
 
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
 #include <cmath>
 
 /// What the rate controller commands, and why.
@@ -23,9 +28,12 @@ private Q_SLOTS:
     void theAntennaDoesNotMoveTheBorder();
     void everySampleBorderIsMetWhereThePolygonsSay_data();
     void everySampleBorderIsMetWhereThePolygonsSay();
+    void everyBorderOfRealMapsIsMetWhereThePolygonsSay_data();
+    void everyBorderOfRealMapsIsMetWhereThePolygonsSay();
     void everySourceFollowsEveryOther_data();
     void everySourceFollowsEveryOther();
     void flagsAreTakenWhenAskedForAlone();
+    void aMasterSpreadsNoShutoffOfItsOwn();
     void defaultRatesAreTakenAtOnce();
     void aPositionHoldsForTwoSeconds();
     void aMachineThatStandsAsksNothingAnew();
@@ -140,21 +148,29 @@ void TestRateController::everySampleBorderIsMetWhereThePolygonsSay_data()
     }
 }
 
-/// The rate at a place by counting the edges of each outer ring and hole to the west of it, one ring after the other.
+static bool isInside(const OrvikTypes::RX_POLYGON &ring, double x, double y)
+{
+    bool inside = false;
+    for (quint32 i = 0; i < ring.vertexCount; ++i) {
+        const auto &a = ring.vertices[i];
+        const auto &b = ring.vertices[i + 1 < ring.vertexCount ? i + 1 : 0];
+        if ((a.y > y) != (b.y > y) && x > a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x))
+            inside = !inside;
+    }
+    return inside;
+}
+
+/// The rate at a place by counting the edges to the west of it, one ring after the other; holes follow their polygon.
 static double rateByCounting(const DbGroupRxMap &map, double x, double y)
 {
     double rate = std::nan("");
+    double below = rate;
     const auto *record = static_cast<const OrvikTypes::RX_POLYGON *>(map.getPolygonBuffer());
     for (; record != nullptr; record = record->next) {
-        bool isInside = false;
-        for (quint32 i = 0; i < record->vertexCount; ++i) {
-            const auto &a = record->vertices[i];
-            const auto &b = record->vertices[(i + 1) % record->vertexCount];
-            if ((a.y > y) != (b.y > y) && x > a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x))
-                isInside = !isInside;
-        }
-        if (isInside)
-            rate = record->isHole ? std::nan("") : double(record->rates[0]);
+        if (!record->isHole)
+            below = rate;
+        if (isInside(*record, x, y))
+            rate = record->isHole ? below : double(record->rates[0]);
     }
     return rate;
 }
@@ -186,6 +202,77 @@ void TestRateController::everySampleBorderIsMetWhereThePolygonsSay()
         }
     }
     QVERIFY2(changes > 15, qPrintable(QString::number(changes)));
+}
+
+void TestRateController::everyBorderOfRealMapsIsMetWhereThePolygonsSay_data()
+{
+    QTest::addColumn<QString>("map");
+    QTest::addColumn<double>("speed");
+    QTest::addColumn<double>("curvature");
+    QTest::addColumn<int>("lookAheadMs");
+    for (const char *map : {"cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-three-products/cells.shp",
+                            "cells-three-products/zones_8c.shp", "grid-clipped/grid-clipped.shp"}) {
+        for (const int lookAheadMs : {0, 700, 1400, 3000}) {
+            for (const double speed : {1.5, 3.0, 6.0})
+                QTest::addRow("%s, %g m/s, %d ms", map, speed, lookAheadMs) << map << speed << 0.0 << lookAheadMs;
+        }
+        QTest::addRow("%s, reversing", map) << map << -3.0 << 0.0 << 1400;
+        QTest::addRow("%s, turning", map) << map << 3.0 << 0.02 << 1400;
+    }
+}
+
+void TestRateController::everyBorderOfRealMapsIsMetWhereThePolygonsSay()
+{
+    QFETCH(QString, map);
+    QFETCH(double, speed);
+    QFETCH(double, curvature);
+    QFETCH(int, lookAheadMs);
+    const QString path = QDir(realDataFolder()).filePath(map);
+    if (realDataFolder().isEmpty() || !QFile::exists(path))
+        QSKIP("RXMAP_REAL_DATA names no folder with this map");
+    LoadReport report = bench->load(path, {});
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    report = bench->load(path, {report.columns.first()});
+    const auto *group = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(report.group, false));
+    bench->set(1, lookAheadMs, false, false);
+    // Through the middle from beyond the edge, or in circles of 50 m around it.
+    const double from = curvature != 0.0 ? -50.0
+        : speed < 0.0                    ? report.bounds.right() + 20.0
+                                         : report.bounds.left() - 20.0;
+    const Pose start{{from, report.bounds.center().y() + 3.37}, curvature != 0.0 ? 0.0 : radiansOf(90.0)};
+    bench->place(start.place, start.degrees(), speed);
+    QVERIFY(bench->simulation.vehicle()->steer(curvature));
+    const int steps = std::min(2500, int((report.bounds.width() + 40.0) / (0.1 * std::fabs(speed))));
+    int changes = 0;
+    double before = -1.0;
+    for (int step = 1; step <= steps; ++step) {
+        bench->simulation.step();
+        // On the circle and then straight on.
+        const double driven = 0.1 * step * speed;
+        const double turned = driven * curvature;
+        const double heading = start.heading + turned;
+        const double right = curvature != 0.0 ? (1.0 - std::cos(turned)) / curvature : 0.0;
+        const double along = curvature != 0.0 ? std::sin(turned) / curvature : driven;
+        const double ahead = speed * lookAheadMs / 1000.0;
+        const QPointF place = start.place + right * start.rightward() + along * start.forward()
+            + ahead * QPointF(std::sin(heading), std::cos(heading));
+        const double rate = rateByCounting(*group, place.x(), place.y());
+        const double expected = std::isnan(rate) ? 40.0 : rate;
+        // On a border rounding may decide.
+        bool isOnBorder = false;
+        if (command().commanded != expected) {
+            for (const QPointF &beside : {QPointF(1e-5, 0), QPointF(-1e-5, 0), QPointF(0, 1e-5), QPointF(0, -1e-5)}) {
+                const double there = rateByCounting(*group, place.x() + beside.x(), place.y() + beside.y());
+                isOnBorder = isOnBorder || command().commanded == (std::isnan(there) ? 40.0 : there);
+            }
+        }
+        QVERIFY2(
+            command().commanded == expected || isOnBorder,
+            qPrintable(QStringLiteral("step %1: %2 instead of %3").arg(step).arg(command().commanded).arg(expected)));
+        changes += before >= 0.0 && expected != before ? 1 : 0;
+        before = expected;
+    }
+    QVERIFY(changes > 0);
 }
 
 void TestRateController::become(CommandSource source)
@@ -266,6 +353,24 @@ void TestRateController::flagsAreTakenWhenAskedForAlone()
     QVERIFY(bench->load(TerminalHost::sampleField(), {QString(), QStringLiteral("SEED_KS_HA")}).isOk());
     bench->simulation.step();
     QVERIFY(command().source == CommandSource::ZeroShutoff);
+}
+
+void TestRateController::aMasterSpreadsNoShutoffOfItsOwn()
+{
+    // What the dialog shows for a product holds: it has copied a master's shut-off where that was asked for.
+    QVERIFY(bench->loadZones({{-100, 100, 0}}, {1, 2}).isOk());
+    const QString name = bench->broker.findGroup(QStringLiteral("rxMap.*"), true, false).value(0);
+    auto *group = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(name, false));
+    QList<OrvikTypes::RX_SETTINGS> settings = group->getSettings();
+    settings[0].followsMaster = true;
+    settings[1].isMaster = true;
+    settings[1].zeroRateShutoff = true;
+    group->setSettings(settings);
+    bench->broker.setProperty("quillSpan", "reInit", true);
+    bench->place({0, 0}, 0.0, 1.0);
+    bench->simulation.step();
+    QVERIFY(command().source == CommandSource::MinRate);
+    QVERIFY(bench->simulation.controller()->command(2).source == CommandSource::ZeroShutoff);
 }
 
 void TestRateController::defaultRatesAreTakenAtOnce()

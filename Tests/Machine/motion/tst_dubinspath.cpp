@@ -27,6 +27,11 @@ void TestDubinsPath::knownLengths_data()
     QTest::newRow("turning wide") << QPointF(30, 0) << 180.0 << 6.0 * pi + 18.0;
     // Three circles of which neighbours touch: the middle ones are 4 and 12 m apart.
     QTest::newRow("turning narrow") << QPointF(4, 0) << 180.0 << 6.0 * (pi + 4.0 * std::acos((6.0 + 2.0) / 12.0));
+    // Centres 8 m apart across and 30 m along, the straight line between the circles' inner sides.
+    QTest::newRow("right, on and left") << QPointF(
+        20, 30) << 0.0 << std::sqrt(820.0) + 12.0 * (std::atan(8.0 / 30.0) + std::atan(12.0 / std::sqrt(820.0)));
+    QTest::newRow("left, on and right") << QPointF(
+        -20, 30) << 0.0 << std::sqrt(820.0) + 12.0 * (std::atan(8.0 / 30.0) + std::atan(12.0 / std::sqrt(820.0)));
     // Once around to the left; every other word turns more.
     QTest::newRow("aside") << QPointF(12, 12) << 0.0 << 6.0 * pi;
 }
@@ -55,6 +60,13 @@ void TestDubinsPath::everyPathArrivesAndKeepsTheRadius()
         QVERIFY(std::hypot(turned.x(), turned.y()) < 1e-8);
         for (const PathPiece &piece : path.pieces())
             QVERIFY(std::fabs(piece.curvature) <= 1.0 / 7.5);
+        // The same way in a mirror, and back again.
+        const auto mirrored = [](const Pose &pose) { return Pose{{-pose.place.x(), pose.place.y()}, -pose.heading}; };
+        const auto facingBack = [](const Pose &pose) { return Pose{pose.place, pose.heading + std::acos(-1.0)}; };
+        const double inMirror = dubinsPath(mirrored(from), mirrored(to), 7.5).length();
+        const double back = dubinsPath(facingBack(to), facingBack(from), 7.5).length();
+        QVERIFY(std::fabs(path.length() - inMirror) < 1e-6);
+        QVERIFY(std::fabs(path.length() - back) < 1e-6);
         const QPointF apart = to.place - from.place;
         QVERIFY(path.length() >= std::hypot(apart.x(), apart.y()) - 1e-9);
     }

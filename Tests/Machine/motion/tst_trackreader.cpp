@@ -1,3 +1,4 @@
+#include "allocationmeter.h"
 #include "testbase.h"
 #include "trackreader.h"
 
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void rowsAreReadByTheirHead();
     void badLinesAreLeftOutAndCounted_data();
     void badLinesAreLeftOutAndCounted();
+    void aLongTrackTakesNoMemory_data();
+    void aLongTrackTakesNoMemory();
     void aTrackWithoutPositionsIsRefused_data();
     void aTrackWithoutPositionsIsRefused();
 
@@ -141,6 +144,31 @@ void TestTrackReader::badLinesAreLeftOutAndCounted()
     QCOMPARE(summary.value.points, qint64(points));
     QCOMPARE(summary.value.firstBad, complaint);
     QCOMPARE(summary.value.badLines, complaint.isEmpty() ? 0 : 1);
+}
+
+void TestTrackReader::aLongTrackTakesNoMemory_data()
+{
+    QTest::addColumn<bool>("isGood");
+    QTest::newRow("good lines") << true;
+    QTest::newRow("bad lines") << false;
+}
+
+void TestTrackReader::aLongTrackTakesNoMemory()
+{
+    QFETCH(bool, isGood);
+    // RXMAP_TRACK_LINES makes it longer, such as 10000000.
+    const int count = qMax(50000, qEnvironmentVariableIntValue("RXMAP_TRACK_LINES"));
+    QFile file(folder.filePath(QStringLiteral("long")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("time,x,y\n0,0,0\n") > 0);
+    for (int line = 1; line < count; ++line)
+        file.write(isGood ? QByteArray::number(line) + ',' + QByteArray::number(2 * line) + ",7\n" : "so what\n");
+    file.close();
+    TrackReader::check(file.fileName(), plane);
+    const AllocationMeter meter;
+    const Result<TrackReader::Summary> summary = TrackReader::check(file.fileName(), plane);
+    QVERIFY2(meter.peak() < 64 * 1024, qPrintable(QString::number(meter.peak())));
+    QCOMPARE(summary.value.points, qint64(isGood ? count : 1));
+    QCOMPARE(summary.value.badLines, qint64(isGood ? 0 : count - 1));
 }
 
 void TestTrackReader::aTrackWithoutPositionsIsRefused_data()

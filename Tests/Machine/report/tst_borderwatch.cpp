@@ -11,6 +11,7 @@ private Q_SLOTS:
     void aLagIsAsLateAsTheStepOfTheSameAmount_data();
     void aLagIsAsLateAsTheStepOfTheSameAmount();
     void neighbouringBordersShareTheWayBetweenThem();
+    void whatComesAfterTheMiddleIsTheNextBorders();
     void theMedianIsTheMiddle();
 };
 
@@ -75,6 +76,25 @@ void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
         QVERIFY2(std::fabs(change.late.seconds - 0.5) < 1e-9, qPrintable(QString::number(change.late.seconds)));
         QVERIFY(std::fabs(change.late.metres - 1.0) < 1e-9);
     }
+}
+
+void TestBorderWatch::whatComesAfterTheMiddleIsTheNextBorders()
+{
+    // 80 from 5 to 7 s, applied from 6.4 to 8.4 s. Up to the middle at 6 s nothing of it came, so the first change is
+    // as late as can be told, and the second must have what the first one lacks.
+    BorderWatch watch;
+    watch.begin(0.0, 0.0, 50.0);
+    for (int step = 1; step <= 120; ++step) {
+        if (step == 51)
+            watch.border(5.0, 10.0, {}, 80.0);
+        if (step == 71)
+            watch.border(7.0, 14.0, {}, 50.0);
+        watch.step(0.1 * step, 0.2 * step, step > 64 && step <= 84 ? 80.0 : 50.0);
+    }
+    watch.end();
+    QCOMPARE(watch.changes().size(), size_t(2));
+    for (const BorderWatch::Change &change : watch.changes())
+        QVERIFY2(std::fabs(change.late.seconds - 1.0) < 1e-9, qPrintable(QString::number(change.late.seconds)));
 }
 
 void TestBorderWatch::theMedianIsTheMiddle()
