@@ -127,7 +127,9 @@ void TestDriveDisplay::anotherProductsColoursAreSeenAtOnce()
     const ActiveMap map = ActiveMap::find(*terminal().broker(), Machine::productGroupName(2));
     QCOMPARE(seenAt({-100, 20}).rgb(), map.classColor(120.5).rgb());
     terminal().machine()->setActiveProduct(3);
-    QCOMPARE(seenAt({-100, 20}), FieldScene::groundColor());
+    // Ground, or a line of the grid on it.
+    const QColor seen = seenAt({-100, 20});
+    QVERIFY2(seen.lightness() > 160 && seen.saturation() < 40, qPrintable(seen.name()));
 }
 
 void TestDriveDisplay::groundThatWasWorkedForHoursIsDrawnToTheNewest()
@@ -155,7 +157,8 @@ void TestDriveDisplay::theCameraFollowsUntilItIsMovedByHand()
     FieldView &view = *terminal().window()->fieldView();
     const auto middle = [&] { return view.camera().project(vehicle().position()).value_or(QPointF()); };
     const QPointF held = middle();
-    QVERIFY(qAbs(held.x() - 640.0) < 2.0);
+    const int middleOfTheMap = (find("drivePanel")->geometry().right() + find("legend")->x()) / 2;
+    QVERIFY2(qAbs(held.x() - middleOfTheMap) < 3.0, qPrintable(QString::number(held.x())));
     drive({100, 30}, 45.0, 5.0);
     QTRY_VERIFY((middle() - held).manhattanLength() < 2.0);
     QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(600, 300));
