@@ -13,6 +13,7 @@ const QString columnsOption = QStringLiteral("columns");
 const QString sourceUnitsOption = QStringLiteral("source-units");
 const QString layerOption = QStringLiteral("layer");
 const QString taskOption = QStringLiteral("task");
+const QString openOption = QStringLiteral("open");
 const QString productsOption = QStringLiteral("products");
 const QString unitsOption = QStringLiteral("units");
 const QString languageOption = QStringLiteral("language");
@@ -45,6 +46,7 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("NAME")},
         {taskOption, QStringLiteral("which task of a file that has several (default: the first that will do)"),
          QStringLiteral("NAME")},
+        {openOption, QStringLiteral("start with the open window, which shows what the prescriptions hold")},
         {productsOption, QStringLiteral("JSON description of the machine's products"), QStringLiteral("FILE")},
         {unitsOption, QStringLiteral("the operator's unit system: us, metric (default) or turf"),
          QStringLiteral("SYSTEM")},
@@ -171,7 +173,7 @@ QString checkDrive(const QCommandLineParser &parser)
         }
         return {};
     }
-    for (const QString &option : {describeOption, screenshotOption, scriptOption}) {
+    for (const QString &option : {describeOption, screenshotOption, scriptOption, openOption}) {
         if (parser.isSet(option))
             return QStringLiteral("--drive does not go with --%1").arg(option);
     }
@@ -180,6 +182,16 @@ QString checkDrive(const QCommandLineParser &parser)
         && !report.endsWith(QLatin1String(".html"), Qt::CaseInsensitive))
         return QStringLiteral("--drive %1: a report is a .json or .html file").arg(report);
     return parser.positionalArguments().isEmpty() ? QStringLiteral("--drive needs a prescription to drive") : QString();
+}
+
+/// What is chosen in the open window is not named beside it.
+QString checkOpen(const QCommandLineParser &parser)
+{
+    for (const QString &option : {columnsOption, sourceUnitsOption, layerOption, taskOption}) {
+        if (parser.isSet(openOption) && parser.isSet(option))
+            return QStringLiteral("--%1 does not go with --open, where it is chosen in the window").arg(option);
+    }
+    return {};
 }
 
 /// What says how prescriptions are read needs one.
@@ -219,6 +231,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = checkDrive(parser);
     if (error.isEmpty())
         error = checkPrescription(parser);
+    if (error.isEmpty())
+        error = checkOpen(parser);
     return error;
 }
 
@@ -241,6 +255,7 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     line.prescriptions = parser.positionalArguments();
     line.layer = parser.value(layerOption);
     line.task = parser.value(taskOption);
+    line.open = parser.isSet(openOption);
     line.productFile = parser.value(productsOption);
     line.language = parser.value(languageOption);
     line.pluginDir = parser.value(pluginDirOption);

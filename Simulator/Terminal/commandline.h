@@ -19,6 +19,8 @@ struct CommandLine {
     /// Which layer and which task of the prescriptions; empty: the first that will do.
     QString layer;
     QString task;
+    /// The open window shows the prescriptions, or files to choose from, before anything is opened.
+    bool open = false;
     QString productFile;
     UnitSystem units = UnitSystem::Metric;
     QString language;

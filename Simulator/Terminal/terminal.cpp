@@ -3,6 +3,7 @@
 #include "activemap.h"
 #include "drivedisplay.h"
 #include "fieldview.h"
+#include "fileopening.h"
 #include "guidancepage.h"
 #include "machine.h"
 #include "mapoverlay.h"
@@ -60,6 +61,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , simulated(new Simulation(machineModel.data(), &clock))
     , driveRecorder(new Recorder(simulated.data()))
     , display(new TerminalWindow(setup.products))
+    , opening(new FileOpening(this))
     , viewPace(display->fieldView())
 {
     initialiseResources();
@@ -100,8 +102,14 @@ void Terminal::connectDisplay()
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
         display->statusBar()->setProgress(QFileInfo(path).fileName(), fraction);
     });
-    connect(prescriptions.data(), &PrescriptionBackend::finished, this,
-            [this] { display->statusBar()->setProgress(QString(), 0.0); });
+    const auto endProgress = [this] { display->statusBar()->setProgress(QString(), 0.0); };
+    connect(prescriptions.data(), &PrescriptionBackend::finished, this, endProgress);
+    connect(prescriptions.data(), &PrescriptionBackend::surveyed, this, endProgress);
+}
+
+OpenWindow *Terminal::openWindow() const
+{
+    return opening->window();
 }
 
 Vehicle *Terminal::vehicle() const

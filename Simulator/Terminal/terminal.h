@@ -25,7 +25,9 @@
 
 struct ActiveMap;
 class DriveDisplay;
+class FileOpening;
 class Machine;
+class OpenWindow;
 class Recorder;
 class Simulation;
 class TerminalWindow;
@@ -60,6 +62,7 @@ public:
     TerminalWindow *window() const { return display.data(); }
     /// Null until the display is shown.
     DriveDisplay *driving() const { return driveDisplay.data(); }
+    OpenWindow *openWindow() const;
 
     /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
     /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
@@ -114,6 +117,7 @@ private:
     QScopedPointer<Recorder> driveRecorder;
     QScopedPointer<TerminalWindow> display;
     QScopedPointer<DriveDisplay> driveDisplay;
+    FileOpening *opening;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;

@@ -7,6 +7,7 @@
 #include "languages.h"
 #include "machine.h"
 #include "neededimages.h"
+#include "openwindow.h"
 #include "productfile.h"
 #include "recorder.h"
 #include "scriptrunner.h"
@@ -155,6 +156,18 @@ QString runScript(Terminal &terminal, const QString &path)
     return runner.run(path);
 }
 
+/// Shows the open window; a task finds it with what the first file holds.
+void showOpenWindow(Terminal &terminal, const QStringList &files)
+{
+    OpenWindow *window = terminal.openWindow();
+    if (files.isEmpty())
+        window->showFiles();
+    else
+        window->preview(files);
+    while (window->isBusy() && terminal.window()->isVisible())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 QString runTasks(Terminal &terminal, const CommandLine &line)
 {
     if (line.describe)
@@ -199,7 +212,9 @@ QString runTerminal(const CommandLine &line)
     if (error.isEmpty() && isShown && !terminal.show())
         error = QStringLiteral("the display has no OpenGL");
     const QStringList files = withoutRepetition(line.prescriptions);
-    if (error.isEmpty())
+    if (error.isEmpty() && line.open)
+        showOpenWindow(terminal, files);
+    else if (error.isEmpty())
         error = openAll(terminal, files, line);
     if (!error.isEmpty())
         return error;

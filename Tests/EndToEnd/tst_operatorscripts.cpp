@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theLookAheadIsSeenInTheRates();
     void masterAndShutoffAreSeenInTheRates();
     void theFieldIsDrivenByTouch();
+    void aFileIsOpenedThroughTheWindow();
 
 private:
     /// Runs a script that uses check(condition, text); everything it complains of fails the test.
@@ -132,6 +133,24 @@ void TestOperatorScripts::masterAndShutoffAreSeenInTheRates()
 void TestOperatorScripts::theFieldIsDrivenByTouch()
 {
     runChecked(QStringLiteral("var pictures = \"\";\n") + scriptText(QStringLiteral("drive-by-touch.js")));
+}
+
+void TestOperatorScripts::aFileIsOpenedThroughTheWindow()
+{
+    runChecked(QStringLiteral(R"js(
+function seen(name) { const control = terminal.find(name); return control !== null && control.visible; }
+check(seen("openAccept"), "the window shows the file");
+check(terminal.groups("rxMap.*").length === 0, "nothing is opened yet");
+for (const name of ["columnRow1Unit", "unitAmount5", "unitArea1", "unitAccept", "openAccept"])
+  terminal.find(name).touch();
+for (let i = 0; i < 400 && seen("openWindow"); ++i) terminal.wait(25);
+check(terminal.groups("rxMap.*").length === 1, "the file is opened");
+terminal.activeProduct = 2;
+// 120.5 lb/ac.
+check(terminal.touchMap(-100, 0).includes("135.06"), terminal.touchMap(-100, 0));
+print("finished");
+)js"),
+               {QStringLiteral("--open"), sourcePath("Tests/fixtures/three-zones.geojson")});
 }
 
 RXMAP_TEST(TestOperatorScripts, Widgets)

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QScopedPointer>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cstdio>
@@ -65,6 +66,9 @@ int main(int argc, char *argv[])
     argv[1] = argv[0];
     --argc;
     ++argv;
+    // What the terminal remembers is the operator's, not the tests'.
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     const QScopedPointer<QCoreApplication> application(makeApplication(entry->application, argc, argv));
     const QScopedPointer<QObject> test(entry->make());
     return QTest::qExec(test.data(), argc, argv);

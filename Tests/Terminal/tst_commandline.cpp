@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aPipeIsRefusedWithoutWaitingForIt();
     void everyOptionIsRead();
     void withoutArgumentsTheDefaultsHold();
+    void theOpenWindowIsAskedForWithAndWithoutFiles();
     void unitSystemsAreKnownByName_data();
     void unitSystemsAreKnownByName();
     void aPointSouthWestOfTheOriginIsAPoint_data();
@@ -56,6 +57,11 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("option twice") << QStringList{"--units", "us", "--units", "turf"} << "more than once";
     QTest::newRow("no column") << QStringList{"--columns", ",", "map.shp"} << "--columns";
     QTest::newRow("open quote") << QStringList{"--columns", "\"A,B", "map.shp"} << "a quote is left open";
+    for (const char *option : {"--columns", "--source-units", "--layer", "--task"})
+        QTest::addRow("%s with the open window", option)
+            << QStringList{"--open", QLatin1String(option), "kg/ha", "map.shp"} << "does not go with --open";
+    QTest::newRow("open window of a drive")
+        << QStringList{"--open", "--drive", "report.json", "map.shp"} << "--drive does not go with --open";
     QTest::newRow("no unit") << QStringList{"--source-units", ",", "map.shp"} << "--source-units";
     QTest::newRow("units of nothing") << QStringList{"--source-units", "kg/ha"} << "--source-units";
     QTest::newRow("layer of nothing") << QStringList{"--layer", "north"} << "--layer needs a prescription";
@@ -199,6 +205,16 @@ void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption()
     QFETCH(QString, told);
     const QString help = CommandLine::helpText().simplified();
     QVERIFY2(help.contains(told), qPrintable(help));
+}
+
+void TestCommandLine::theOpenWindowIsAskedForWithAndWithoutFiles()
+{
+    QVERIFY(!parse({"map.shp"}).value.open);
+    QVERIFY(parse({"--open"}).value.open);
+    const Result<CommandLine> line = parse({"--open", "map.shp"});
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QVERIFY(line.value.open);
+    QCOMPARE(line.value.prescriptions, QStringList("map.shp"));
 }
 
 RXMAP_TEST(TestCommandLine, Core)

@@ -112,7 +112,8 @@ QSize LegendPanel::sizeHint() const
 {
     if (texts.isEmpty())
         return QSize(panelWidth, headHeight);
-    const int footHeight = footLine * (content.amountUnit.isEmpty() ? 1 : 2) + inset;
+    const int footLines = (content.areaUnit.isEmpty() ? 0 : 1) + (content.amountUnit.isEmpty() ? 0 : 1);
+    const int footHeight = footLine * footLines + inset;
     return QSize(panelWidth, headHeight + texts.size() * rowHeight() + footHeight);
 }
 
@@ -183,6 +184,8 @@ void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
 
 void LegendPanel::drawFoot(QPainter &painter, const QRect &inner) const
 {
+    if (content.areaUnit.isEmpty())
+        return;
     const int top = headHeight + texts.size() * rowHeight() + 4;
     painter.setPen(QPen(Theme::faintText(), 1.0));
     painter.drawLine(inner.left(), top, inner.right(), top);

@@ -28,7 +28,7 @@ public:
         /// Takes base units to `unit`.
         double factor = 1.0;
         QString unit;
-        /// What each of the classes covers, in `areaUnit`.
+        /// What each of the classes covers, in `areaUnit`; neither where it is not known.
         QList<double> areas;
         QString areaUnit;
         /// What the whole map takes; an empty unit for a product whose rates add up to nothing.

@@ -13,13 +13,17 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPainter>
+#include <QUrl>
 
 namespace {
 
 constexpr int statusHeight = Theme::touchTarget;
 constexpr int selectorWidth = 212;
 constexpr double zoomStep = 1.5;
+constexpr int longestDropText = 60;
 const char placedProperty[] = "rxmapPlacedOnDisplay";
 
 } // namespace
@@ -36,6 +40,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     setWindowTitle(tr("Field terminal"));
     setObjectName(QStringLiteral("terminalWindow"));
     setFixedSize(displaySize);
+    setAcceptDrops(true);
     addZoomButtons();
     addDriveButton();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
@@ -96,6 +101,11 @@ void TerminalWindow::showDriving(bool isShown)
     Q_EMIT drivingShown(isShown);
 }
 
+QRect TerminalWindow::pageArea()
+{
+    return QRect(QPoint(), displaySize).adjusted(0, statusHeight, 0, 0);
+}
+
 void TerminalWindow::resizeEvent(QResizeEvent *)
 {
     arrange();
@@ -103,7 +113,7 @@ void TerminalWindow::resizeEvent(QResizeEvent *)
 
 void TerminalWindow::arrange()
 {
-    const QRect below(0, statusHeight, width(), height() - statusHeight);
+    const QRect below = pageArea();
     status->setGeometry(0, 0, width(), statusHeight);
     view->setGeometry(below);
     mapOverlay->setGeometry(below);
@@ -143,6 +153,30 @@ void TerminalWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();
     Q_EMIT closed();
+}
+
+void TerminalWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    // A dialog of a plug-in keeps the terminal as it is. Anything else is taken, so that a refusal can be seen.
+    if (QApplication::activeModalWidget() == nullptr)
+        event->acceptProposedAction();
+}
+
+void TerminalWindow::dropEvent(QDropEvent *event)
+{
+    QStringList files;
+    QStringList others;
+    const QList<QUrl> urls = event->mimeData()->urls();
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+        else
+            others.append(url.toDisplayString());
+    }
+    if (urls.isEmpty())
+        others.append(event->mimeData()->text().left(longestDropText));
+    event->acceptProposedAction();
+    Q_EMIT dropped(files, others);
 }
 
 bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)

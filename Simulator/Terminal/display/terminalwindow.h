@@ -3,6 +3,7 @@
 #include "product.h"
 
 #include <QImage>
+#include <QStringList>
 #include <QWidget>
 
 class FieldView;
@@ -35,6 +36,8 @@ public:
     /// operator drives; both become the window's. Null for both takes them away again.
     void setDriving(QWidget *panel, QWidget *strip);
 
+    /// Where a page lies that takes the place of the map: everything below the status bar.
+    static QRect pageArea();
     /// The display as it is seen, with every dialog and popup that is open over it.
     QImage screenshot();
 
@@ -44,10 +47,14 @@ Q_SIGNALS:
     /// What drives the machine was shown, or hidden.
     void drivingShown(bool isShown);
     void closed();
+    /// Paths of files and folders of this computer that were dropped, and texts of whatever else was.
+    void dropped(const QStringList &files, const QStringList &others);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

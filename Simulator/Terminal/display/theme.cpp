@@ -58,3 +58,13 @@ void Theme::drawPanel(QPainter &painter, const QRectF &area, const QColor &color
     painter.setBrush(color);
     painter.drawRoundedRect(area, radius, radius);
 }
+
+void Theme::drawFocus(QPainter &painter, const QRectF &area, bool onAccent)
+{
+    constexpr double width = 3.0;
+    const double half = width / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(onAccent ? textOnAccent() : accent(), width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(half, half, -half, -half), radius, radius);
+}

@@ -27,5 +27,7 @@ QFont font(int pixels, bool bold = false);
 
 /// Fills a rounded panel.
 void drawPanel(QPainter &painter, const QRectF &area, const QColor &color);
+/// Frames what has the keyboard.
+void drawFocus(QPainter &painter, const QRectF &area, bool onAccent);
 
 } // namespace Theme

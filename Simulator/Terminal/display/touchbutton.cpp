@@ -11,6 +11,7 @@ namespace {
 constexpr int textPixels = 24;
 constexpr int notePixels = 15;
 constexpr int inset = 10;
+constexpr double disabledOpacity = 0.35;
 
 } // namespace
 
@@ -32,12 +33,32 @@ QSize TouchButton::sizeHint() const
     return QSize(Theme::touchTarget, Theme::touchTarget);
 }
 
+void TouchButton::setSymbol(const QPainterPath &newSymbol)
+{
+    symbol = newSymbol;
+    update();
+}
+
 void TouchButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor fill = isDown() ? Theme::pressedButton() : isChecked() ? Theme::accent() : Theme::button();
     Theme::drawPanel(painter, rect(), fill);
     const bool onAccent = isChecked() && !isDown();
+    if (hasFocus())
+        Theme::drawFocus(painter, rect(), onAccent);
+    if (!isEnabled())
+        painter.setOpacity(disabledOpacity);
+    if (symbol.isEmpty()) {
+        drawTexts(painter, onAccent);
+        return;
+    }
+    painter.translate(rect().center());
+    painter.fillPath(symbol, onAccent ? Theme::textOnAccent() : Theme::text());
+}
+
+void TouchButton::drawTexts(QPainter &painter, bool onAccent) const
+{
     const QRect inner = rect().adjusted(inset, 0, -inset, 0);
 
     QFont font = Theme::font(textPixels, true);

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPainterPath>
 
-/// A big flat button of the terminal's own panels. A checked one carries the accent colour.
+/// A big flat button of the terminal's own panels. A checked one carries the accent colour, one that has the keyboard a
+/// frame of it.
 class TouchButton : public QAbstractButton {
     Q_OBJECT
 
@@ -11,11 +13,16 @@ public:
 
     /// A second, smaller line under the text.
     void setNote(const QString &note);
+    /// A picture in place of the text, which then only names the button.
+    void setSymbol(const QPainterPath &symbol);
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void drawTexts(QPainter &painter, bool onAccent) const;
+
     QString note;
+    QPainterPath symbol;
 };

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ChoicePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnRow</name>
+    <message>
+        <source>guess</source>
+        <translation>geraten</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>speist kein Produkt</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Produkt %1</translation>
+    </message>
+    <message>
+        <source>less than 1 % without a rate</source>
+        <translation>unter 1 % ohne Menge</translation>
+    </message>
+    <message>
+        <source>%1 % without a rate</source>
+        <translation>%1 % ohne Menge</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>does not fit</source>
+        <translation>passt nicht</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>from the format</source>
+        <translation>aus dem Format</translation>
+    </message>
+    <message>
+        <source>from a column</source>
+        <translation>aus einer Spalte</translation>
+    </message>
+    <message>
+        <source>from its texts</source>
+        <translation>aus den Texten</translation>
+    </message>
+    <message>
+        <source>from the name</source>
+        <translation>aus dem Namen</translation>
+    </message>
+</context>
+<context>
     <name>DriveControls</name>
     <message>
         <source>%1 km/h</source>
@@ -80,6 +142,60 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a prescription</source>
+        <translation>Applikationskarte öffnen</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer</source>
+        <translation>%1 ist keine Datei dieses Rechners</translation>
+    </message>
+</context>
+<context>
+    <name>FilePage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Eigene Dateien</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Rechner</translation>
+    </message>
+    <message>
+        <source>Folder up</source>
+        <translation>Ordner darüber</translation>
+    </message>
+    <message>
+        <source>Recent prescriptions</source>
+        <translation>Zuletzt geöffnete Applikationskarten</translation>
+    </message>
+    <message>
+        <source>No prescription was opened here before.</source>
+        <translation>Hier wurde noch keine Applikationskarte geöffnet.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder can be opened.</source>
+        <translation>In diesem Ordner ist nichts, was geöffnet werden kann.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>Dieser Ordner kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>is no longer there</source>
+        <translation>ist nicht mehr da</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -144,6 +260,99 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePage</name>
+    <message>
+        <source>This cannot be opened</source>
+        <translation>Das kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>What was loaded before stays.</source>
+        <translation>Was geladen war, bleibt geladen.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Another layer or task</source>
+        <translation>Andere Ebene oder Aufgabe</translation>
+    </message>
+</context>
+<context>
+    <name>OpenWindow</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>%1 wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Which layer?</source>
+        <translation>Welche Ebene?</translation>
+    </message>
+    <message>
+        <source>Which task?</source>
+        <translation>Welche Aufgabe?</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Which product does %1 feed?</source>
+        <translation>Welches Produkt speist %1?</translation>
+    </message>
+    <message>
+        <source>In which unit is %1?</source>
+        <translation>In welcher Einheit ist %1?</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Aufgabe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>Polygons: %1</source>
+        <translation>Polygone: %1</translation>
+    </message>
+    <message>
+        <source>Choose a product for a column to open the file.</source>
+        <translation>Zum Öffnen für eine Spalte ein Produkt wählen.</translation>
+    </message>
+    <message>
+        <source>No product</source>
+        <translation>Kein Produkt</translation>
     </message>
 </context>
 <context>
@@ -278,6 +487,13 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUKTE</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -421,6 +637,37 @@
     <message>
         <source>Drive</source>
         <translation>Fahren</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>per area</source>
+        <translation>je Fläche</translation>
+    </message>
+    <message>
+        <source>As in the file</source>
+        <translation>Wie in der Datei</translation>
+    </message>
+    <message>
+        <source>it does not tell</source>
+        <translation>sie nennt keine</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>%1 übernehmen</translation>
     </message>
 </context>
 </TS>

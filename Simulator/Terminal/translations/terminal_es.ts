@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ChoicePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnRow</name>
+    <message>
+        <source>guess</source>
+        <translation>supuesto</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>no alimenta nada</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Producto %1</translation>
+    </message>
+    <message>
+        <source>less than 1 % without a rate</source>
+        <translation>menos de 1 % sin dosis</translation>
+    </message>
+    <message>
+        <source>%1 % without a rate</source>
+        <translation>%1 % sin dosis</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconocida</translation>
+    </message>
+    <message>
+        <source>does not fit</source>
+        <translation>no encaja</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>elegida</translation>
+    </message>
+    <message>
+        <source>from the format</source>
+        <translation>del formato</translation>
+    </message>
+    <message>
+        <source>from a column</source>
+        <translation>de una columna</translation>
+    </message>
+    <message>
+        <source>from its texts</source>
+        <translation>de sus textos</translation>
+    </message>
+    <message>
+        <source>from the name</source>
+        <translation>del nombre</translation>
+    </message>
+</context>
+<context>
     <name>DriveControls</name>
     <message>
         <source>%1 km/h</source>
@@ -80,6 +142,60 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a prescription</source>
+        <translation>Abrir una prescripción</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer</source>
+        <translation>%1 no es un archivo de este equipo</translation>
+    </message>
+</context>
+<context>
+    <name>FilePage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>Folder up</source>
+        <translation>Carpeta superior</translation>
+    </message>
+    <message>
+        <source>Recent prescriptions</source>
+        <translation>Prescripciones recientes</translation>
+    </message>
+    <message>
+        <source>No prescription was opened here before.</source>
+        <translation>Aquí aún no se ha abierto ninguna prescripción.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder can be opened.</source>
+        <translation>En esta carpeta no hay nada que se pueda abrir.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>Esta carpeta no se puede leer.</translation>
+    </message>
+    <message>
+        <source>is no longer there</source>
+        <translation>ya no está</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -144,6 +260,99 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePage</name>
+    <message>
+        <source>This cannot be opened</source>
+        <translation>Esto no se puede abrir</translation>
+    </message>
+    <message>
+        <source>What was loaded before stays.</source>
+        <translation>Lo que estaba cargado permanece.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Another layer or task</source>
+        <translation>Otra capa o tarea</translation>
+    </message>
+</context>
+<context>
+    <name>OpenWindow</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>Abriendo %1</translation>
+    </message>
+    <message>
+        <source>Which layer?</source>
+        <translation>¿Qué capa?</translation>
+    </message>
+    <message>
+        <source>Which task?</source>
+        <translation>¿Qué tarea?</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Which product does %1 feed?</source>
+        <translation>¿Qué producto alimenta %1?</translation>
+    </message>
+    <message>
+        <source>In which unit is %1?</source>
+        <translation>¿En qué unidad está %1?</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>Polygons: %1</source>
+        <translation>Polígonos: %1</translation>
+    </message>
+    <message>
+        <source>Choose a product for a column to open the file.</source>
+        <translation>Elija un producto para una columna para abrir el archivo.</translation>
+    </message>
+    <message>
+        <source>No product</source>
+        <translation>Ningún producto</translation>
     </message>
 </context>
 <context>
@@ -278,6 +487,13 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUCTOS</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -421,6 +637,37 @@
     <message>
         <source>Drive</source>
         <translation>Conducir</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>per area</source>
+        <translation>por superficie</translation>
+    </message>
+    <message>
+        <source>As in the file</source>
+        <translation>Como en el archivo</translation>
+    </message>
+    <message>
+        <source>it does not tell</source>
+        <translation>no la indica</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Tomar</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>Tomar %1</translation>
     </message>
 </context>
 </TS>

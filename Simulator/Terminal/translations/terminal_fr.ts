@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ChoicePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnRow</name>
+    <message>
+        <source>guess</source>
+        <translation>supposé</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>n’alimente rien</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Produit %1</translation>
+    </message>
+    <message>
+        <source>less than 1 % without a rate</source>
+        <translation>moins de 1 % sans dose</translation>
+    </message>
+    <message>
+        <source>%1 % without a rate</source>
+        <translation>%1 % sans dose</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnue</translation>
+    </message>
+    <message>
+        <source>does not fit</source>
+        <translation>ne convient pas</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>choisie</translation>
+    </message>
+    <message>
+        <source>from the format</source>
+        <translation>du format</translation>
+    </message>
+    <message>
+        <source>from a column</source>
+        <translation>d’une colonne</translation>
+    </message>
+    <message>
+        <source>from its texts</source>
+        <translation>de ses textes</translation>
+    </message>
+    <message>
+        <source>from the name</source>
+        <translation>du nom</translation>
+    </message>
+</context>
+<context>
     <name>DriveControls</name>
     <message>
         <source>%1 km/h</source>
@@ -80,6 +142,60 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a prescription</source>
+        <translation>Ouvrir une prescription</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer</source>
+        <translation>%1 n’est pas un fichier de cet ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>FilePage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récents</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Dossier personnel</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>Folder up</source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message>
+        <source>Recent prescriptions</source>
+        <translation>Prescriptions récentes</translation>
+    </message>
+    <message>
+        <source>No prescription was opened here before.</source>
+        <translation>Aucune prescription n’a encore été ouverte ici.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder can be opened.</source>
+        <translation>Rien dans ce dossier ne peut être ouvert.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>Ce dossier ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>is no longer there</source>
+        <translation>n’est plus là</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -144,6 +260,99 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 pi</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePage</name>
+    <message>
+        <source>This cannot be opened</source>
+        <translation>Ceci ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>What was loaded before stays.</source>
+        <translation>Ce qui était chargé le reste.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Another layer or task</source>
+        <translation>Autre couche ou tâche</translation>
+    </message>
+</context>
+<context>
+    <name>OpenWindow</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>Ouverture de %1</translation>
+    </message>
+    <message>
+        <source>Which layer?</source>
+        <translation>Quelle couche ?</translation>
+    </message>
+    <message>
+        <source>Which task?</source>
+        <translation>Quelle tâche ?</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Which product does %1 feed?</source>
+        <translation>Quel produit %1 alimente-t-elle ?</translation>
+    </message>
+    <message>
+        <source>In which unit is %1?</source>
+        <translation>Dans quelle unité est %1 ?</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>encore %1</translation>
+    </message>
+    <message>
+        <source>Polygons: %1</source>
+        <translation>Polygones : %1</translation>
+    </message>
+    <message>
+        <source>Choose a product for a column to open the file.</source>
+        <translation>Choisir un produit pour une colonne pour ouvrir le fichier.</translation>
+    </message>
+    <message>
+        <source>No product</source>
+        <translation>Aucun produit</translation>
     </message>
 </context>
 <context>
@@ -278,6 +487,13 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUITS</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -421,6 +637,37 @@
     <message>
         <source>Drive</source>
         <translation>Conduire</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Quantité</translation>
+    </message>
+    <message>
+        <source>per area</source>
+        <translation>par surface</translation>
+    </message>
+    <message>
+        <source>As in the file</source>
+        <translation>Comme dans le fichier</translation>
+    </message>
+    <message>
+        <source>it does not tell</source>
+        <translation>il ne la dit pas</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Prendre</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>Prendre %1</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>ChoicePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnRow</name>
+    <message>
+        <source>guess</source>
+        <translation>suposto</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>não alimenta nada</translation>
+    </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Produto %1</translation>
+    </message>
+    <message>
+        <source>less than 1 % without a rate</source>
+        <translation>menos de 1 % sem dose</translation>
+    </message>
+    <message>
+        <source>%1 % without a rate</source>
+        <translation>%1 % sem dose</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconhecida</translation>
+    </message>
+    <message>
+        <source>does not fit</source>
+        <translation>não serve</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>escolhida</translation>
+    </message>
+    <message>
+        <source>from the format</source>
+        <translation>do formato</translation>
+    </message>
+    <message>
+        <source>from a column</source>
+        <translation>de uma coluna</translation>
+    </message>
+    <message>
+        <source>from its texts</source>
+        <translation>dos textos</translation>
+    </message>
+    <message>
+        <source>from the name</source>
+        <translation>do nome</translation>
+    </message>
+</context>
+<context>
     <name>DriveControls</name>
     <message>
         <source>%1 km/h</source>
@@ -80,6 +142,60 @@
     </message>
 </context>
 <context>
+    <name>FileOpening</name>
+    <message>
+        <source>Open a prescription</source>
+        <translation>Abrir uma prescrição</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer</source>
+        <translation>%1 não é um arquivo deste computador</translation>
+    </message>
+</context>
+<context>
+    <name>FilePage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recentes</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pasta pessoal</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computador</translation>
+    </message>
+    <message>
+        <source>Folder up</source>
+        <translation>Pasta acima</translation>
+    </message>
+    <message>
+        <source>Recent prescriptions</source>
+        <translation>Prescrições recentes</translation>
+    </message>
+    <message>
+        <source>No prescription was opened here before.</source>
+        <translation>Nenhuma prescrição foi aberta aqui ainda.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder can be opened.</source>
+        <translation>Nada nesta pasta pode ser aberto.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>Esta pasta não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>is no longer there</source>
+        <translation>não está mais lá</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>
@@ -144,6 +260,99 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePage</name>
+    <message>
+        <source>This cannot be opened</source>
+        <translation>Isto não pode ser aberto</translation>
+    </message>
+    <message>
+        <source>What was loaded before stays.</source>
+        <translation>O que estava carregado permanece.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Another layer or task</source>
+        <translation>Outra camada ou tarefa</translation>
+    </message>
+</context>
+<context>
+    <name>OpenWindow</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lendo %1</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>Abrindo %1</translation>
+    </message>
+    <message>
+        <source>Which layer?</source>
+        <translation>Qual camada?</translation>
+    </message>
+    <message>
+        <source>Which task?</source>
+        <translation>Qual tarefa?</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Which product does %1 feed?</source>
+        <translation>Qual produto %1 alimenta?</translation>
+    </message>
+    <message>
+        <source>In which unit is %1?</source>
+        <translation>Em qual unidade está %1?</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Camada</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tarefa</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Pular</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>mais %1</translation>
+    </message>
+    <message>
+        <source>Polygons: %1</source>
+        <translation>Polígonos: %1</translation>
+    </message>
+    <message>
+        <source>Choose a product for a column to open the file.</source>
+        <translation>Escolha um produto para uma coluna para abrir o arquivo.</translation>
+    </message>
+    <message>
+        <source>No product</source>
+        <translation>Nenhum produto</translation>
     </message>
 </context>
 <context>
@@ -278,6 +487,13 @@
     <message>
         <source>PRODUCTS</source>
         <translation>PRODUTOS</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -421,6 +637,37 @@
     <message>
         <source>Drive</source>
         <translation>Dirigir</translation>
+    </message>
+</context>
+<context>
+    <name>UnitPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Quantidade</translation>
+    </message>
+    <message>
+        <source>per area</source>
+        <translation>por área</translation>
+    </message>
+    <message>
+        <source>As in the file</source>
+        <translation>Como no arquivo</translation>
+    </message>
+    <message>
+        <source>it does not tell</source>
+        <translation>ele não a informa</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Take %1</source>
+        <translation>Usar %1</translation>
     </message>
 </context>
 </TS>

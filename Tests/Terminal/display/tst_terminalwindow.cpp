@@ -8,6 +8,8 @@
 #include "touchbutton.h"
 
 #include <QDialog>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QSignalSpy>
 
 /// The display as a whole.
@@ -23,6 +25,9 @@ private Q_SLOTS:
     void aDialogPlacesItselfOnTheDisplayOnce();
     void aPictureShowsTheOpenDialogWhereItIs();
     void closingIsTold();
+    void whatIsDroppedIsToldFilesApart_data();
+    void whatIsDroppedIsToldFilesApart();
+    void nothingIsTakenWhileADialogIsOpen();
 
 private:
     QScopedPointer<TerminalWindow> window;
@@ -115,6 +120,57 @@ void TestTerminalWindow::closingIsTold()
     QSignalSpy closed(window.data(), &TerminalWindow::closed);
     window->close();
     QCOMPARE(closed.size(), 1);
+}
+
+void TestTerminalWindow::whatIsDroppedIsToldFilesApart_data()
+{
+    QTest::addColumn<QStringList>("urls");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("others");
+    QTest::newRow("files") << QStringList{"file:///a.shp", "file:///b c.shp"} << QStringList{"/a.shp", "/b c.shp"}
+                           << QStringList();
+    QTest::newRow("a page") << QStringList{"http://example.org/a.shp"} << QStringList()
+                            << QStringList{"http://example.org/a.shp"};
+    QTest::newRow("both") << QStringList{"ftp://a/b", "file:///a.shp"} << QStringList{"/a.shp"}
+                          << QStringList{"ftp://a/b"};
+    QTest::newRow("text") << QStringList() << QStringList() << QStringList{"a word"};
+}
+
+void TestTerminalWindow::whatIsDroppedIsToldFilesApart()
+{
+    QFETCH(QStringList, urls);
+    QMimeData data;
+    QList<QUrl> list;
+    for (const QString &url : urls)
+        list.append(QUrl(url));
+    if (list.isEmpty())
+        data.setText(QStringLiteral("a word"));
+    else
+        data.setUrls(list);
+    QSignalSpy dropped(window.data(), &TerminalWindow::dropped);
+    QDragEnterEvent enter(QPoint(400, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.data(), &enter);
+    QDropEvent drop(QPointF(400, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.data(), &drop);
+    QCOMPARE(dropped.size(), 1);
+    QTEST(dropped.first().at(0).toStringList(), "files");
+    QTEST(dropped.first().at(1).toStringList(), "others");
+}
+
+void TestTerminalWindow::nothingIsTakenWhileADialogIsOpen()
+{
+    const auto isTaken = [this] {
+        QMimeData data;
+        QDragEnterEvent enter(QPoint(400, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(window.data(), &enter);
+        return enter.isAccepted();
+    };
+    QVERIFY(isTaken());
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QVERIFY(!isTaken());
 }
 
 RXMAP_TEST(TestTerminalWindow, Widgets)

@@ -1,4 +1,5 @@
 #include "paintedtexts.h"
+#include "symbols.h"
 #include "testbase.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -13,6 +14,8 @@ private Q_SLOTS:
     void aTextThatIsTooLongIsShortened();
     void colorsTellItsState();
     void itLeavesTheKeyboardAlone();
+    void aSymbolStandsForTheText();
+    void aFrameTellsWhoHasTheKeyboard();
 };
 
 namespace {
@@ -75,6 +78,31 @@ void TestTouchButton::colorsTellItsState()
 void TestTouchButton::itLeavesTheKeyboardAlone()
 {
     QCOMPARE(TouchButton(QStringLiteral("+")).focusPolicy(), Qt::NoFocus);
+}
+
+void TestTouchButton::aSymbolStandsForTheText()
+{
+    TouchButton button(QStringLiteral("Open"));
+    button.resize(72, 72);
+    button.setSymbol(Symbols::folder());
+    QCOMPARE(paintedTexts(button), QStringList());
+    int lit = 0;
+    const QImage picture = button.grab().toImage();
+    for (int x = 0; x < picture.width(); ++x)
+        lit += picture.pixelColor(x, 42) == Theme::text() ? 1 : 0;
+    QVERIFY(lit > 10);
+}
+
+void TestTouchButton::aFrameTellsWhoHasTheKeyboard()
+{
+    TouchButton button(QStringLiteral("Open"));
+    button.resize(200, 88);
+    const auto edge = [&button] { return button.grab().toImage().pixelColor(100, 1); };
+    button.show();
+    QApplication::setActiveWindow(&button);
+    QCOMPARE(edge().rgb(), Theme::button().rgb());
+    button.setFocus();
+    QTRY_COMPARE(edge().rgb(), Theme::accent().rgb());
 }
 
 RXMAP_TEST(TestTouchButton, Widgets)

@@ -1,0 +1,71 @@
+#include "fileopening.h"
+
+#include "machine.h"
+#include "openwindow.h"
+#include "statusbar.h"
+#include "symbols.h"
+#include "terminal.h"
+#include "terminalwindow.h"
+#include "touchbutton.h"
+
+#include <QApplication>
+#include <QPointer>
+
+#include <algorithm>
+
+FileOpening::FileOpening(Terminal *owner)
+    : QObject(owner)
+    , terminal(owner)
+    , settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("rxmap"),
+               QStringLiteral("terminal-simulator"))
+    , openWindow(new OpenWindow(owner->machine(), settings, owner->window()))
+    , button(new TouchButton(tr("Open a prescription")))
+{
+    TerminalWindow *display = terminal->window();
+    button->setObjectName(QStringLiteral("openButton"));
+    button->setSymbol(Symbols::folder());
+    button->setCheckable(true);
+    display->statusBar()->addButton(button);
+    openWindow->setGeometry(TerminalWindow::pageArea());
+    connect(button, &TouchButton::clicked, this, &FileOpening::toggle);
+    connect(display, &TerminalWindow::dropped, this, &FileOpening::take);
+    connect(openWindow, &OpenWindow::shownChanged, button, &TouchButton::setChecked);
+    // Later: the button that asks for it is still on the stack, and loading runs an event loop of its own.
+    connect(openWindow, &OpenWindow::wanted, this, [this](const OpenRequest &request) {
+        QMetaObject::invokeMethod(
+            this, [this, request] { load(request); }, Qt::QueuedConnection);
+    });
+}
+
+void FileOpening::toggle()
+{
+    // A dialog of a plug-in keeps the terminal as it is.
+    const bool mayOpen = QApplication::activeModalWidget() == nullptr;
+    if (mayOpen && openWindow->isVisible())
+        openWindow->leave();
+    else if (mayOpen)
+        openWindow->showFiles();
+    button->setChecked(openWindow->isVisible());
+}
+
+void FileOpening::take(const QStringList &files, const QStringList &others)
+{
+    if (!others.isEmpty())
+        openWindow->refuse(tr("%1 is no file of this computer").arg(others.join(QStringLiteral(", "))));
+    if (!files.isEmpty())
+        openWindow->preview(files);
+}
+
+void FileOpening::load(const OpenRequest &request)
+{
+    const QPointer<FileOpening> self = this;
+    const LoadReport report = terminal->open(request).last();
+    if (!self)
+        return;
+    int first = 0;
+    for (const RateSource &source : report.sources)
+        first = first == 0 ? source.product : std::min(first, source.product);
+    if (first > 0)
+        terminal->machine()->setActiveProduct(first);
+    openWindow->finish(report);
+}

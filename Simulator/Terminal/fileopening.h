@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QSettings>
+#include <QStringList>
+
+class OpenWindow;
+class Terminal;
+class TouchButton;
+struct OpenRequest;
+
+/// The ways to the open window, a button in the status bar and files that are dropped onto the display, and what comes
+/// of it.
+class FileOpening : public QObject {
+    Q_OBJECT
+
+public:
+    /// `terminal` is not owned and outlives this.
+    explicit FileOpening(Terminal *terminal);
+
+    OpenWindow *window() const { return openWindow; }
+
+private:
+    void toggle();
+    void take(const QStringList &files, const QStringList &others);
+    void load(const OpenRequest &request);
+
+    Terminal *terminal;
+    QSettings settings;
+    OpenWindow *openWindow;
+    TouchButton *button;
+};

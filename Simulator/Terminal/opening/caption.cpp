@@ -1,0 +1,25 @@
+#include "caption.h"
+
+#include "theme.h"
+
+#include <QPainter>
+
+Caption::Caption(int pixels, bool isBold, QWidget *parent)
+    : QLabel(parent)
+{
+    setFont(Theme::font(pixels, isBold));
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+QSize Caption::minimumSizeHint() const
+{
+    return QSize(0, fontMetrics().height());
+}
+
+void Caption::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(Theme::text());
+    painter.drawText(rect(), int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
+}

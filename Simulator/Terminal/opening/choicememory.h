@@ -1,0 +1,24 @@
+#pragma once
+
+#include "filechoices.h"
+
+#include <optional>
+
+class QSettings;
+
+/// Keeps what the operator chose for each file, the newest first, over the end of the program.
+class ChoiceMemory {
+public:
+    /// Of so many files; the choices of others are forgotten.
+    static constexpr int mostFiles = 50;
+
+    /// `settings` is not owned and outlives this.
+    explicit ChoiceMemory(QSettings &settings);
+
+    /// Nothing for a file that none are kept of.
+    std::optional<FileChoices> of(const QString &path) const;
+    void keep(const QString &path, const FileChoices &choices);
+
+private:
+    QSettings &settings;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QWidget>
+
+class Caption;
+class Pager;
+class TouchButton;
+
+/// One of several things to choose by a touch.
+class ChoicePage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ChoicePage(QWidget *parent = nullptr);
+
+    /// `current`: the place of the one that is chosen now, from 0.
+    void ask(const QString &question, const QStringList &options, int current);
+    Pager *pager() const { return pages; }
+
+Q_SIGNALS:
+    /// The place of the option.
+    void chosen(int place);
+    void left();
+
+private:
+    void showPage();
+
+    Caption *title;
+    QList<TouchButton *> buttons;
+    Pager *pages;
+    QStringList texts;
+    int currentPlace = -1;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// What the operator chose for one column of a file.
+struct ColumnChoice {
+    /// As SurveyedColumn::key.
+    QString column;
+    /// Number from 1, and name, of the product that the column feeds; 0 for none.
+    int product = 0;
+    QString productName;
+    /// Empty: what the file says.
+    QString unit;
+};
+
+/// What the operator chose for a file.
+struct FileChoices {
+    QString layer;
+    QString task;
+    /// All columns of the table that was chosen from.
+    QStringList columnNames;
+    QList<ColumnChoice> columns;
+};

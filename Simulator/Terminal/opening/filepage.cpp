@@ -1,0 +1,169 @@
+#include "filepage.h"
+
+#include "caption.h"
+#include "listrow.h"
+#include "pager.h"
+#include "symbols.h"
+#include "theme.h"
+#include "touchbutton.h"
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QStorageInfo>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int rowsPerPage = 7;
+constexpr int placeWidth = 220;
+constexpr int titlePixels = 24;
+constexpr int closeWidth = 180;
+constexpr int mostVolumes = 3;
+
+/// Where sticks and cards appear.
+bool isRemovable(const QStorageInfo &volume)
+{
+    const QString root = volume.rootPath();
+    return volume.isReady()
+        && (root.startsWith(QLatin1String("/media/")) || root.startsWith(QLatin1String("/run/media/")));
+}
+
+} // namespace
+
+FilePage::FilePage(QWidget *parent)
+    : QWidget(parent)
+    , title(new Caption(titlePixels, true, this))
+    , emptyText(new QLabel(this))
+    , pages(new Pager(Qt::Vertical, this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Theme::margin, Theme::margin, Theme::margin, Theme::margin);
+    auto *head = new QHBoxLayout;
+    auto *close = new TouchButton(tr("Cancel"), this);
+    close->setObjectName(QStringLiteral("openCancel"));
+    close->setFixedSize(closeWidth, Theme::touchTarget);
+    close->setFocusPolicy(Qt::TabFocus);
+    head->addWidget(title, 1);
+    head->addWidget(close);
+    layout->addLayout(head);
+    auto *body = new QHBoxLayout;
+    body->addWidget(makePlaces());
+    body->addWidget(makeRows(), 1);
+    body->addWidget(pages);
+    layout->addLayout(body, 1);
+    connect(close, &TouchButton::clicked, this, &FilePage::left);
+    connect(pages, &Pager::turned, this, &FilePage::showPage);
+}
+
+TouchButton *FilePage::addPlace(QVBoxLayout *layout, const QString &text, const QString &name)
+{
+    auto *button = new TouchButton(text, this);
+    button->setObjectName(name);
+    button->setFixedSize(placeWidth, Theme::touchTarget);
+    button->setFocusPolicy(Qt::TabFocus);
+    layout->addWidget(button);
+    return button;
+}
+
+QWidget *FilePage::makePlaces()
+{
+    auto *places = new QWidget(this);
+    auto *layout = new QVBoxLayout(places);
+    layout->setContentsMargins(0, 0, 0, 0);
+    recent = addPlace(layout, tr("Recent"), QStringLiteral("placeRecent"));
+    recent->setCheckable(true);
+    connect(recent, &TouchButton::clicked, this, &FilePage::recentWanted);
+    const auto addFolder = [this, layout](const QString &text, const QString &name, const QString &path) {
+        connect(addPlace(layout, text, name), &TouchButton::clicked, this, [this, path] { showFolder(path); });
+    };
+    addFolder(tr("Home"), QStringLiteral("placeHome"), QDir::homePath());
+    addFolder(tr("Computer"), QStringLiteral("placeRoot"), QDir::rootPath());
+    int volumes = 0;
+    const QList<QStorageInfo> mounted = QStorageInfo::mountedVolumes();
+    for (const QStorageInfo &volume : mounted) {
+        if (isRemovable(volume) && volumes < mostVolumes)
+            addFolder(QDir(volume.rootPath()).dirName(), QStringLiteral("placeVolume%1").arg(volumes++),
+                      volume.rootPath());
+    }
+    layout->addStretch();
+    up = addPlace(layout, tr("Folder up"), QStringLiteral("folderUp"));
+    connect(up, &TouchButton::clicked, this, [this] {
+        QDir parent(folder);
+        parent.cdUp();
+        showFolder(parent.absolutePath());
+    });
+    return places;
+}
+
+QWidget *FilePage::makeRows()
+{
+    auto *list = new QWidget(this);
+    auto *layout = new QVBoxLayout(list);
+    layout->setContentsMargins(0, 0, 0, 0);
+    emptyText->setFont(Theme::font(titlePixels));
+    emptyText->setWordWrap(true);
+    layout->addWidget(emptyText);
+    for (int place = 0; place < rowsPerPage; ++place) {
+        auto *row = new ListRow(list);
+        row->setObjectName(QStringLiteral("fileRow%1").arg(place));
+        row->setFixedHeight(row->sizeHint().height());
+        layout->addWidget(row);
+        rows.append(row);
+        connect(row, &ListRow::clicked, this, [this, place] { choose(entries.at(pages->first() + place)); });
+    }
+    layout->addStretch();
+    return list;
+}
+
+void FilePage::showRecent(const QStringList &paths)
+{
+    folder.clear();
+    show(tr("Recent prescriptions"), FolderListing::ofFiles(paths), tr("No prescription was opened here before."));
+}
+
+void FilePage::showFolder(const QString &path)
+{
+    folder = path;
+    const bool isReadable = QDir(path).isReadable();
+    show(QDir::toNativeSeparators(path), FolderListing::of(path),
+         isReadable ? tr("Nothing in this folder can be opened.") : tr("This folder cannot be read."));
+}
+
+void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty)
+{
+    title->setText(heading);
+    entries = newEntries;
+    recent->setChecked(folder.isEmpty());
+    up->setEnabled(!folder.isEmpty() && !QDir(folder).isRoot());
+    emptyText->setText(whenEmpty);
+    emptyText->setVisible(entries.isEmpty());
+    pages->setItems(entries.size(), rowsPerPage);
+    showPage();
+}
+
+void FilePage::showPage()
+{
+    for (int place = 0; place < rows.size(); ++place) {
+        ListRow *row = rows.at(place);
+        const int index = pages->first() + place;
+        row->setVisible(index < entries.size());
+        if (index >= entries.size())
+            continue;
+        const FileEntry &entry = entries.at(index);
+        row->setText(entry.name);
+        row->setNotes(entry.isThere ? (entry.note.isEmpty() ? QStringList() : QStringList(entry.note))
+                                    : QStringList(tr("is no longer there")));
+        row->setEnabled(entry.isThere);
+        row->setSymbol(entry.isFolder ? Symbols::folder() : Symbols::file());
+    }
+}
+
+void FilePage::choose(const FileEntry &entry)
+{
+    // A copy: showing another folder replaces the entries.
+    const FileEntry chosen = entry;
+    if (chosen.isFolder)
+        showFolder(chosen.path);
+    else
+        Q_EMIT fileChosen(chosen.path);
+}

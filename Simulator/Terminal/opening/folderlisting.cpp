@@ -1,0 +1,53 @@
+#include "folderlisting.h"
+
+#include "Backend/prescriptionbackend.h"
+
+#include <QCollator>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace {
+
+QString ageAndSize(const QFileInfo &info)
+{
+    const QLocale locale;
+    const QString age = locale.toString(info.lastModified(), QLocale::ShortFormat);
+    return info.isDir() ? age : locale.formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
+}
+
+} // namespace
+
+QList<FileEntry> FolderListing::of(const QString &folder)
+{
+    QList<FileEntry> entries;
+    const QFileInfoList found = QDir(folder).entryInfoList(QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
+    for (const QFileInfo &info : found) {
+        const bool mayBeOne = PrescriptionBackend::mayBePrescription(info.filePath());
+        if (!info.isDir() && !mayBeOne)
+            continue;
+        const bool isFolder = info.isDir() && !mayBeOne;
+        entries.append({info.filePath(), info.fileName(), isFolder, true, isFolder ? QString() : ageAndSize(info)});
+    }
+    // The plain locale, which a terminal may have, compares bytes.
+    QCollator order(QLocale(QLocale::English));
+    order.setNumericMode(true);
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    std::stable_sort(entries.begin(), entries.end(), [&order](const FileEntry &a, const FileEntry &b) {
+        return a.isFolder != b.isFolder ? a.isFolder : order.compare(a.name, b.name) < 0;
+    });
+    return entries;
+}
+
+QList<FileEntry> FolderListing::ofFiles(const QStringList &paths)
+{
+    QList<FileEntry> entries;
+    for (const QString &path : paths) {
+        const QFileInfo info(path);
+        entries.append({path, info.fileName(), false, info.exists(), info.path()});
+    }
+    return entries;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// A row of the file browser.
+struct FileEntry {
+    QString path;
+    QString name;
+    /// A folder to go into.
+    bool isFolder = false;
+    /// Whether it is still there.
+    bool isThere = true;
+    /// Where it lies, or its size and age.
+    QString note;
+};
+
+/// What a folder holds that may be opened: folders, and files that may be prescriptions.
+class FolderListing {
+public:
+    /// Folders first, each sorted as people read. Empty for a folder that cannot be read.
+    static QList<FileEntry> of(const QString &folder);
+    /// Files that were opened before, wherever they lie.
+    static QList<FileEntry> ofFiles(const QStringList &paths);
+};

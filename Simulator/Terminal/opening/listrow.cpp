@@ -1,0 +1,89 @@
+#include "listrow.h"
+
+#include "symbols.h"
+#include "theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int textPixels = 22;
+constexpr int notePixels = 16;
+constexpr int textHeight = 28;
+constexpr int noteHeight = 21;
+constexpr int inset = 16;
+constexpr int markWidth = 8;
+constexpr double disabledOpacity = 0.45;
+
+} // namespace
+
+ListRow::ListRow(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void ListRow::setSymbol(const QPainterPath &newSymbol)
+{
+    symbol = newSymbol;
+    update();
+}
+
+void ListRow::setNotes(const QStringList &lines)
+{
+    notes = lines;
+    update();
+}
+
+void ListRow::setBadge(const QString &text)
+{
+    badge = text;
+    update();
+}
+
+QSize ListRow::sizeHint() const
+{
+    return QSize(4 * Theme::touchTarget, Theme::touchTarget);
+}
+
+void ListRow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Theme::drawPanel(painter, rect(), isDown() ? Theme::pressedButton() : Theme::button());
+    if (isChecked())
+        Theme::drawPanel(painter, QRect(0, 0, markWidth, height()), Theme::accent());
+    if (hasFocus())
+        Theme::drawFocus(painter, rect(), false);
+    painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
+    QRect inner = rect().adjusted(inset, 0, -inset, 0);
+    if (!symbol.isEmpty()) {
+        painter.fillPath(symbol.translated(inner.left() + Symbols::side / 2, rect().center().y()), Theme::accent());
+        inner.setLeft(inner.left() + int(Symbols::side) + inset);
+    }
+    drawTexts(painter, inner);
+}
+
+void ListRow::drawTexts(QPainter &painter, const QRect &area) const
+{
+    const auto draw = [&painter](const QRect &line, int align, const QString &text) {
+        painter.drawText(line, Qt::AlignVCenter | align,
+                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, line.width()));
+    };
+    QRect line(area.left(), (height() - textHeight - notes.size() * noteHeight) / 2, area.width(), textHeight);
+    painter.setFont(Theme::font(textPixels, true));
+    painter.setPen(Theme::text());
+    draw(line, Qt::AlignLeft, text());
+    painter.setFont(Theme::font(notePixels));
+    painter.setPen(Theme::faintText());
+    line = QRect(area.left(), line.bottom() + 1, area.width(), noteHeight);
+    int badgeWidth = badge.isEmpty() ? 0 : QFontMetrics(Theme::font(notePixels, true)).horizontalAdvance(badge) + inset;
+    const QRect besideNote = line;
+    for (const QString &note : notes) {
+        draw(line.adjusted(0, 0, -badgeWidth, 0), Qt::AlignLeft, note);
+        badgeWidth = 0;
+        line.translate(0, noteHeight);
+    }
+    painter.setFont(Theme::font(notePixels, true));
+    painter.setPen(Theme::accent());
+    draw(besideNote, Qt::AlignRight, badge);
+}

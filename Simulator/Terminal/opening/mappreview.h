@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Backend/surveyreport.h"
+
+#include <QImage>
+#include <QWidget>
+
+/// A file's map, north up, in the class colours of one of its columns.
+class MapPreview : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MapPreview(QWidget *parent = nullptr);
+
+    /// `index`: of the survey's columns.
+    void show(const SurveyReport &survey, int index);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage picture;
+};

@@ -1,0 +1,113 @@
+#include "openselection.h"
+
+#include "Backend/prescriptionbackend.h"
+
+#include <algorithm>
+
+OpenSelection::OpenSelection(const SurveyReport &survey, const QList<MachineProduct> &machineProducts)
+    : report(survey)
+    , products(machineProducts)
+{
+    for (const SurveyedColumn &column : report.columns)
+        entries.append({column.product, {}});
+}
+
+const MachineProduct *OpenSelection::fed(int index) const
+{
+    const int number = product(index);
+    return number >= 1 && number <= products.size() ? &products.at(number - 1) : nullptr;
+}
+
+void OpenSelection::setProduct(int index, int number)
+{
+    for (Entry &entry : entries) {
+        if (number > 0 && entry.product == number)
+            entry.product = 0;
+    }
+    Entry &entry = entries[index];
+    entry.product = number;
+    const MachineProduct *product = fed(index);
+    if (product != nullptr && PrescriptionBackend::rateFactor(entry.unit, product->kind) == 0.0)
+        entry.unit.clear();
+}
+
+QString OpenSelection::unit(int index) const
+{
+    return isUnitChosen(index) ? entries.at(index).unit : column(index).unit;
+}
+
+void OpenSelection::setUnit(int index, const QString &unit)
+{
+    entries[index].unit = unit;
+}
+
+OpenSelection::UnitState OpenSelection::unitState(int index) const
+{
+    if (unit(index).isEmpty())
+        return UnitState::Assumed;
+    const MachineProduct *product = fed(index);
+    const bool fits = product == nullptr || product->kind == DbGroupProductGroupInfo::UnknownRate
+        || PrescriptionBackend::rateFactor(unit(index), product->kind) > 0.0;
+    return fits ? UnitState::Known : UnitState::Unfit;
+}
+
+double OpenSelection::factor(int index) const
+{
+    const MachineProduct *product = fed(index);
+    const double factor = product != nullptr ? PrescriptionBackend::rateFactor(unit(index), product->kind) : 0.0;
+    return factor > 0.0 ? factor : 1.0;
+}
+
+bool OpenSelection::feedsAny() const
+{
+    return std::any_of(entries.begin(), entries.end(), [](const Entry &entry) { return entry.product > 0; });
+}
+
+OpenRequest OpenSelection::request() const
+{
+    OpenRequest request{{report.path}};
+    request.layer = report.layer;
+    request.task = report.task;
+    for (int index = 0; index < size(); ++index) {
+        const int number = product(index);
+        for (QStringList *list : {&request.columns, &request.units}) {
+            while (list->size() < number)
+                list->append(QString());
+        }
+        if (number == 0)
+            continue;
+        request.columns[number - 1] = column(index).key;
+        request.units[number - 1] = entries.at(index).unit;
+    }
+    return request;
+}
+
+FileChoices OpenSelection::choices() const
+{
+    FileChoices choices{report.layer, report.task, report.columnNames, {}};
+    for (int index = 0; index < size(); ++index) {
+        const MachineProduct *product = fed(index);
+        const QString name = product != nullptr ? product->name : QString();
+        choices.columns.append({column(index).key, entries.at(index).product, name, entries.at(index).unit});
+    }
+    return choices;
+}
+
+void OpenSelection::apply(const FileChoices &choices)
+{
+    if (choices.columnNames != report.columnNames)
+        return;
+    for (Entry &entry : entries)
+        entry.product = 0;
+    for (const ColumnChoice &choice : choices.columns) {
+        const auto place = std::find_if(report.columns.begin(), report.columns.end(),
+                                        [&choice](const SurveyedColumn &any) { return any.key == choice.column; });
+        if (place == report.columns.end())
+            continue;
+        const int index = int(place - report.columns.begin());
+        const bool isStillThere = choice.product >= 1 && choice.product <= products.size()
+            && products.at(choice.product - 1).isDriven && products.at(choice.product - 1).name == choice.productName;
+        setUnit(index, choice.unit);
+        setProduct(index, isStillThere ? choice.product : 0);
+    }
+}

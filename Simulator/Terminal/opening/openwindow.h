@@ -1,0 +1,105 @@
+#pragma once
+
+#include "choicememory.h"
+#include "openselection.h"
+#include "recentfiles.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+class ChoicePage;
+class FilePage;
+class Machine;
+class MessagePage;
+class Pager;
+class PreviewPage;
+class ProgressPage;
+class QSettings;
+class QStackedLayout;
+class UnitPage;
+struct LoadReport;
+
+/// Where the operator opens prescriptions: looks for a file, sees what it holds, says which column feeds which product
+/// and in which unit, and opens it. It lies over the display and is hidden at first.
+class OpenWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `machine` and `settings`, in which files and choices are remembered, are not owned and outlive the window.
+    OpenWindow(Machine *machine, QSettings &settings, QWidget *parent = nullptr);
+
+    /// Shows the files to choose from.
+    void showFiles();
+    /// Shows what these files hold, one after the other.
+    void preview(const QStringList &paths);
+    /// Shows why something that was wanted cannot be opened.
+    void refuse(const QString &reason);
+    /// Takes what came of a load that was wanted.
+    void finish(const LoadReport &report);
+    /// Hides the window; what it was reading is given up.
+    void leave();
+    /// Whether it waits for a file to be read.
+    bool isBusy() const { return busy != Busy::No; }
+
+Q_SIGNALS:
+    /// The operator wants this loaded; finish() is to follow.
+    void wanted(const OpenRequest &request);
+    /// It was shown or hidden.
+    void shownChanged(bool isShown);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    enum class Busy { No, Surveying, Loading };
+
+    void connectPages();
+    void connectPreview();
+    void showPage(QWidget *page);
+    void showProgress(const QString &text, Busy what);
+    void survey(const QString &path, const QString &layer, const QString &task);
+    void takeSurvey(const SurveyReport &survey);
+    void showNext();
+    void tell(const QString &reason, QWidget *behind);
+    void goBack();
+    void giveUp();
+    void accept();
+    bool pressFocused();
+    void ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer);
+    void askLayer();
+    void askTask();
+    void askProduct(int index);
+    void askUnit(int index);
+    void askOther();
+    Pager *currentPager() const;
+
+    Machine *machine;
+    RecentFiles recent;
+    ChoiceMemory memory;
+    QStackedLayout *pages;
+    FilePage *files;
+    PreviewPage *previews;
+    ProgressPage *progress;
+    MessagePage *message;
+    ChoicePage *choice;
+    UnitPage *unit;
+
+    Busy busy = Busy::No;
+    QStringList waiting; ///< Files to be shown after the one that is.
+    int surveys = 0;     ///< That were asked for and have not ended; the last one counts.
+    bool isGivenUp = false;
+    /// What was chosen for the file before, as long as its layer and task are tried.
+    std::optional<FileChoices> remembered;
+    SurveyReport last;
+    OpenSelection selection;
+    QWidget *behindMessage = nullptr;
+    std::function<void(int)> whenChosen;
+    int askedColumn = 0;
+};

@@ -1,0 +1,176 @@
+#include "previewpage.h"
+
+#include "caption.h"
+#include "columntable.h"
+#include "legendpanel.h"
+#include "machine.h"
+#include "mappreview.h"
+#include "theme.h"
+#include "touchbutton.h"
+
+#include "Framework/databroker.h"
+#include "Framework/dbgroupproductgroupinfo.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int titlePixels = 24;
+constexpr int remarkPixels = 16;
+constexpr int buttonWidth = 200;
+
+/// What a legend shows: not what stands for "no rate".
+QList<OrvikTypes::RX_RATECOLOR> drawnClasses(const SurveyedColumn &column)
+{
+    QList<OrvikTypes::RX_RATECOLOR> classes;
+    for (const OrvikTypes::RX_RATECOLOR &entry : column.legend) {
+        if (entry.color.alpha() > 0)
+            classes.append(entry);
+    }
+    return classes;
+}
+
+} // namespace
+
+PreviewPage::PreviewPage(const Machine *terminalMachine, QWidget *parent)
+    : QWidget(parent)
+    , machine(terminalMachine)
+    , title(new Caption(titlePixels, true, this))
+    , map(new MapPreview(this))
+    , legend(new LegendPanel(this))
+    , remark(new QLabel(this))
+    , table(new ColumnTable(this))
+{
+    // The display has a legend of that name as well.
+    legend->setObjectName(QStringLiteral("openLegend"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Theme::margin, Theme::margin, Theme::margin, Theme::margin);
+    layout->setSpacing(Theme::margin);
+    layout->addWidget(makeHead());
+    auto *body = new QHBoxLayout;
+    body->setSpacing(Theme::margin);
+    body->addWidget(makeMap());
+    body->addWidget(legend, 0, Qt::AlignTop);
+    body->addWidget(table, 1);
+    layout->addLayout(body, 1);
+    layout->addWidget(makeFoot());
+    connect(table, &ColumnTable::columnShown, this, &PreviewPage::showColumn);
+    connect(table, &ColumnTable::productTouched, this, &PreviewPage::productTouched);
+    connect(table, &ColumnTable::unitTouched, this, &PreviewPage::unitTouched);
+}
+
+TouchButton *PreviewPage::addButton(QHBoxLayout *layout, const QString &text, const char *name,
+                                    void (PreviewPage::*signal)())
+{
+    auto *button = new TouchButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setFixedSize(buttonWidth, Theme::touchTarget);
+    button->setFocusPolicy(Qt::TabFocus);
+    layout->addWidget(button);
+    connect(button, &TouchButton::clicked, this, signal);
+    return button;
+}
+
+QWidget *PreviewPage::makeHead()
+{
+    auto *head = new QWidget(this);
+    auto *layout = new QHBoxLayout(head);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::margin);
+    addButton(layout, tr("Back"), "openBack", &PreviewPage::left);
+    layout->addWidget(title, 1);
+    layer = addButton(layout, QString(), "openLayer", &PreviewPage::layerTouched);
+    task = addButton(layout, QString(), "openTask", &PreviewPage::taskTouched);
+    layer->setNote(tr("Layer"));
+    task->setNote(tr("Task"));
+    return head;
+}
+
+QWidget *PreviewPage::makeMap()
+{
+    auto *side = new QWidget(this);
+    auto *layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(map);
+    remark->setFont(Theme::font(remarkPixels));
+    remark->setTextFormat(Qt::PlainText);
+    remark->setWordWrap(true);
+    remark->setObjectName(QStringLiteral("openRemark"));
+    layout->addWidget(remark);
+    layout->addStretch();
+    side->setFixedWidth(map->width());
+    return side;
+}
+
+QWidget *PreviewPage::makeFoot()
+{
+    auto *foot = new QWidget(this);
+    auto *layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::margin);
+    layout->addStretch();
+    addButton(layout, tr("Cancel"), "openCancel", &PreviewPage::cancelled);
+    skip = addButton(layout, tr("Skip"), "openSkip", &PreviewPage::skipped);
+    accept = addButton(layout, tr("Open"), "openAccept", &PreviewPage::accepted);
+    accept->setCheckable(true);
+    return foot;
+}
+
+void PreviewPage::show(const OpenSelection &newSelection, int waiting)
+{
+    selection = &newSelection;
+    const SurveyReport &survey = selection->survey();
+    title->setText(QFileInfo(survey.path).fileName());
+    layer->setVisible(survey.layers.size() > 1);
+    layer->setText(survey.layer);
+    task->setVisible(survey.tasks.size() > 1);
+    task->setText(survey.task);
+    skip->setVisible(waiting > 0);
+    skip->setNote(tr("%1 more").arg(waiting));
+    table->show(newSelection, machine->loadedProducts());
+    refresh();
+}
+
+void PreviewPage::refresh()
+{
+    const SurveyReport &survey = selection->survey();
+    table->refresh();
+    showColumn(table->shownColumn());
+    accept->setEnabled(selection->feedsAny());
+    accept->setChecked(true);
+    const QString polygons = tr("Polygons: %1").arg(survey.polygons);
+    const QString lack = selection->feedsAny() ? QString() : tr("Choose a product for a column to open the file.");
+    remark->setText(lack.isEmpty() ? polygons : polygons + QLatin1Char('\n') + lack);
+}
+
+void PreviewPage::showColumn(int index)
+{
+    const SurveyedColumn &column = selection->column(index);
+    map->show(selection->survey(), index);
+    const int number = selection->product(index);
+    LegendPanel::Content content;
+    content.product = tr("No product");
+    content.source = {column.name, selection->unit(index), column.unitFrom, number, column.isSure};
+    if (selection->isUnitChosen(index))
+        content.source.unitFrom = RateSource::UnitFrom::Operator;
+    content.classes = drawnClasses(column);
+    content.hasSingleRates = column.hasSingleRates;
+    content.unit = column.unit;
+    if (number > 0) {
+        const Product &product = machine->products().at(number - 1);
+        auto *info = qobject_cast<DbGroupProductGroupInfo *>(
+            machine->dataBroker()->getGroup(Machine::productGroupName(number), false));
+        content.product = product.name;
+        content.factor = selection->factor(index) * getRateConversion(info);
+        content.unit = rateUnit(product.rateKind(), machine->unitSystem());
+    }
+    legend->show(content);
+    legend->setFixedSize(legend->sizeHint());
+}
+
+Pager *PreviewPage::pager() const
+{
+    return table->pager();
+}

@@ -1,0 +1,29 @@
+#include "recentfiles.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+const QString key = QStringLiteral("recentFiles");
+
+}
+
+RecentFiles::RecentFiles(QSettings &appSettings)
+    : settings(appSettings)
+{
+}
+
+QStringList RecentFiles::paths() const
+{
+    return settings.value(key).toStringList().mid(0, most);
+}
+
+void RecentFiles::add(const QString &path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    QStringList files = paths();
+    files.removeAll(absolute);
+    files.prepend(absolute);
+    settings.setValue(key, QStringList(files.mid(0, most)));
+}

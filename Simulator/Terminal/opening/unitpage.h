@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Backend/rateunitparts.h"
+
+#include <QStringList>
+#include <QWidget>
+
+class Caption;
+class QButtonGroup;
+class QGridLayout;
+class TouchButton;
+
+/// The unit of a column's rates: an amount and an area, each chosen by a touch.
+class UnitPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit UnitPage(QWidget *parent = nullptr);
+
+    /// `unit`: the one in use; `unitOfFile` what the file says, empty for nothing.
+    void ask(const QString &question, const RateUnitParts &parts, const QString &unit, const QString &unitOfFile);
+
+Q_SIGNALS:
+    /// An empty unit leaves it to the file.
+    void chosen(const QString &unit);
+    void left();
+
+private:
+    void fill(QButtonGroup *group, QGridLayout *grid, const QStringList &texts, const QString &current,
+              const QString &name);
+    void showUnit();
+    QString unit() const;
+
+    Caption *title;
+    Caption *amountTitle;
+    Caption *areaTitle;
+    QGridLayout *amountGrid;
+    QGridLayout *areaGrid;
+    QButtonGroup *amounts;
+    QButtonGroup *areas;
+    TouchButton *fromFile;
+    TouchButton *accept;
+};

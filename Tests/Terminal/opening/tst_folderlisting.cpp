@@ -1,0 +1,58 @@
+#include "folderlisting.h"
+#include "testbase.h"
+
+/// What of a folder can be opened.
+class TestFolderListing : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void foldersComeBeforeFilesThatMayBePrescriptions();
+    void aFolderWithTaskDataIsOpenedNotEntered();
+    void filesThatAreGoneAreSaidToBe();
+
+private:
+    void touch(const QString &name);
+
+    QTemporaryDir folder;
+};
+
+void TestFolderListing::touch(const QString &name)
+{
+    QVERIFY(QFileInfo(folder.filePath(name)).dir().mkpath(QStringLiteral(".")));
+    QFile file(folder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+void TestFolderListing::foldersComeBeforeFilesThatMayBePrescriptions()
+{
+    for (const char *name :
+         {"list/z10.shp", "list/z10.dbf", "list/Z9.GeoJSON", "list/notes.txt", "list/b/x", "list/a/x"})
+        touch(QLatin1String(name));
+    QStringList names;
+    const QList<FileEntry> entries = FolderListing::of(folder.filePath(QStringLiteral("list")));
+    for (const FileEntry &entry : entries)
+        names.append(entry.name + (entry.isFolder ? QStringLiteral("/") : QString()));
+    QCOMPARE(names, QStringList({"a/", "b/", "Z9.GeoJSON", "z10.shp"}));
+}
+
+void TestFolderListing::aFolderWithTaskDataIsOpenedNotEntered()
+{
+    touch(QStringLiteral("tasks/field/taskdata.xml"));
+    const QList<FileEntry> entries = FolderListing::of(folder.filePath(QStringLiteral("tasks")));
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries.first().name, QStringLiteral("field"));
+    QVERIFY(!entries.first().isFolder);
+}
+
+void TestFolderListing::filesThatAreGoneAreSaidToBe()
+{
+    touch(QStringLiteral("there.shp"));
+    const QList<FileEntry> entries =
+        FolderListing::ofFiles({folder.filePath(QStringLiteral("there.shp")), QStringLiteral("/no/such.shp")});
+    QVERIFY(entries.at(0).isThere);
+    QVERIFY(!entries.at(1).isThere);
+    QCOMPARE(entries.at(1).note, QStringLiteral("/no"));
+}
+
+RXMAP_TEST(TestFolderListing, Core)
+#include "tst_folderlisting.moc"

@@ -1,0 +1,154 @@
+#include "openselection.h"
+#include "testbase.h"
+
+/// Which column is to feed which product, and in which unit.
+class TestOpenSelection : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void itBeginsWithWhatALoadWouldDo();
+    void aProductIsFedByOneColumn();
+    void nothingChosenIsNothingToOpen();
+    void theRequestNamesColumnsInProductOrder();
+    void theUnitIsTheFilesUntilOneIsChosen();
+    void aUnitThatDoesNotFitIsSaidToBeSo_data();
+    void aUnitThatDoesNotFitIsSaidToBeSo();
+    void aChosenUnitGoesWithTheProductItIsNoUnitOf();
+    void formerChoicesAreTaken();
+    void formerChoicesOfOtherColumnsOrProductsAreNot();
+
+private:
+    OpenSelection selection;
+    SurveyReport survey;
+    QList<MachineProduct> products;
+};
+
+void TestOpenSelection::init()
+{
+    TestBase::init();
+    using Info = DbGroupProductGroupInfo;
+    products.clear();
+    for (const auto kind : {Info::CountRate, Info::WeightRate, Info::VolumeRate}) {
+        MachineProduct product;
+        product.name = QStringLiteral("Product %1").arg(products.size());
+        product.kind = kind;
+        products.append(product);
+    }
+    survey = SurveyReport();
+    survey.path = QStringLiteral("/a.shp");
+    survey.columnNames = QStringList{"Urea", "Water", "Seed"};
+    for (const char *name : {"Urea", "Water"}) {
+        SurveyedColumn column;
+        column.key = column.name = QLatin1String(name);
+        survey.columns.append(column);
+    }
+    survey.columns[0].unit = QStringLiteral("lb/ac");
+    survey.columns[0].product = 2;
+    selection = OpenSelection(survey, products);
+}
+
+void TestOpenSelection::itBeginsWithWhatALoadWouldDo()
+{
+    QCOMPARE(selection.product(0), 2);
+    QCOMPARE(selection.product(1), 0);
+    QCOMPARE(selection.request().columns, QStringList({"", "Urea"}));
+    QCOMPARE(selection.request().units, QStringList({"", ""}));
+    QCOMPARE(selection.request().paths, QStringList("/a.shp"));
+}
+
+void TestOpenSelection::aProductIsFedByOneColumn()
+{
+    selection.setProduct(1, 2);
+    QCOMPARE(selection.product(0), 0);
+    QCOMPARE(selection.product(1), 2);
+}
+
+void TestOpenSelection::nothingChosenIsNothingToOpen()
+{
+    QVERIFY(selection.feedsAny());
+    selection.setProduct(0, 0);
+    QVERIFY(!selection.feedsAny());
+}
+
+void TestOpenSelection::theRequestNamesColumnsInProductOrder()
+{
+    selection.setProduct(1, 1);
+    selection.setProduct(0, 3);
+    selection.setUnit(0, QStringLiteral("gal/ac"));
+    QCOMPARE(selection.request().columns, QStringList({"Water", "", "Urea"}));
+    QCOMPARE(selection.request().units, QStringList({"", "", "gal/ac"}));
+}
+
+void TestOpenSelection::theUnitIsTheFilesUntilOneIsChosen()
+{
+    QCOMPARE(selection.unit(0), QStringLiteral("lb/ac"));
+    QVERIFY(!selection.isUnitChosen(0));
+    QCOMPARE(selection.factor(0), 0.45359237 / 0.40468564224);
+    selection.setUnit(0, QStringLiteral("t/ha"));
+    QCOMPARE(selection.unit(0), QStringLiteral("t/ha"));
+    QCOMPARE(selection.factor(0), 1000.0);
+    selection.setUnit(0, QString());
+    QCOMPARE(selection.unit(0), QStringLiteral("lb/ac"));
+}
+
+void TestOpenSelection::aUnitThatDoesNotFitIsSaidToBeSo_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("product");
+    QTest::addColumn<int>("state");
+    using State = OpenSelection::UnitState;
+    QTest::newRow("fits") << 0 << 2 << int(State::Known);
+    QTest::newRow("a weight for seeds") << 0 << 1 << int(State::Unfit);
+    QTest::newRow("no product") << 0 << 0 << int(State::Known);
+    QTest::newRow("not told") << 1 << 3 << int(State::Assumed);
+}
+
+void TestOpenSelection::aUnitThatDoesNotFitIsSaidToBeSo()
+{
+    QFETCH(int, column);
+    QFETCH(int, product);
+    selection.setProduct(column, product);
+    QTEST(int(selection.unitState(column)), "state");
+    if (selection.unitState(column) != OpenSelection::UnitState::Known)
+        QCOMPARE(selection.factor(column), 1.0);
+}
+
+void TestOpenSelection::aChosenUnitGoesWithTheProductItIsNoUnitOf()
+{
+    selection.setUnit(0, QStringLiteral("t/ha"));
+    selection.setProduct(0, 3);
+    QVERIFY(!selection.isUnitChosen(0));
+}
+
+void TestOpenSelection::formerChoicesAreTaken()
+{
+    selection.setProduct(0, 0);
+    selection.setProduct(1, 3);
+    selection.setUnit(1, QStringLiteral("gal/ac"));
+    OpenSelection again(survey, products);
+    again.apply(selection.choices());
+    QCOMPARE(again.product(0), 0);
+    QCOMPARE(again.product(1), 3);
+    QCOMPARE(again.unit(1), QStringLiteral("gal/ac"));
+}
+
+void TestOpenSelection::formerChoicesOfOtherColumnsOrProductsAreNot()
+{
+    selection.setProduct(0, 0);
+    selection.setProduct(1, 3);
+    const FileChoices former = selection.choices();
+    SurveyReport changed = survey;
+    changed.columnNames.append(QStringLiteral("More"));
+    OpenSelection otherColumns(changed, products);
+    otherColumns.apply(former);
+    QCOMPARE(otherColumns.product(0), 2);
+    QCOMPARE(otherColumns.product(1), 0);
+    products[2].name = QStringLiteral("Other");
+    OpenSelection otherProduct(survey, products);
+    otherProduct.apply(former);
+    QCOMPARE(otherProduct.product(1), 0);
+}
+
+RXMAP_TEST(TestOpenSelection, None)
+#include "tst_openselection.moc"

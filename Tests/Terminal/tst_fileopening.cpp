@@ -1,0 +1,76 @@
+#include "machine.h"
+#include "openwindow.h"
+#include "terminaltest.h"
+#include "terminalwindow.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+
+/// The ways to the open window of a whole terminal.
+class TestFileOpening : public TerminalTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFolderButtonShowsAndHidesTheWindow();
+    void theFolderButtonDoesNothingWhileADialogIsOpen();
+    void aDroppedFileIsOpenedThroughTheWindow();
+    void whatIsNoFileIsRefusedVisibly();
+
+private:
+    QAbstractButton *button(const char *name)
+    {
+        const QList<QAbstractButton *> all = terminal().window()->findChildren<QAbstractButton *>(QLatin1String(name));
+        const auto seen = std::find_if(all.begin(), all.end(), [](QAbstractButton *any) { return any->isVisible(); });
+        return seen == all.end() ? nullptr : *seen;
+    }
+};
+
+void TestFileOpening::theFolderButtonShowsAndHidesTheWindow()
+{
+    OpenWindow *window = terminal().openWindow();
+    QVERIFY(!window->isVisible());
+    QTest::mouseClick(button("openButton"), Qt::LeftButton);
+    QVERIFY(window->isVisible() && button("openButton")->isChecked());
+    QCOMPARE(window->geometry(), TerminalWindow::pageArea());
+    QTest::mouseClick(button("openCancel"), Qt::LeftButton);
+    QVERIFY(!window->isVisible() && !button("openButton")->isChecked());
+    QTest::mouseClick(button("openButton"), Qt::LeftButton);
+    QTest::mouseClick(button("openButton"), Qt::LeftButton);
+    QVERIFY(!window->isVisible() && !button("openButton")->isChecked());
+}
+
+void TestFileOpening::theFolderButtonDoesNothingWhileADialogIsOpen()
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    button("openButton")->click();
+    QVERIFY(!terminal().openWindow()->isVisible() && !button("openButton")->isChecked());
+}
+
+void TestFileOpening::aDroppedFileIsOpenedThroughTheWindow()
+{
+    Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
+    QVERIFY(terminal().openWindow()->isVisible());
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("columnRow0Product")->click();
+    button("choice0")->click();
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(terminal().backend()->maps().size(), 1);
+    // What the file feeds is shown.
+    QCOMPARE(terminal().machine()->activeProduct(), 2);
+    QCOMPARE(terminal().activeColumn(), QStringLiteral("FERT_KG_HA"));
+}
+
+void TestFileOpening::whatIsNoFileIsRefusedVisibly()
+{
+    Q_EMIT terminal().window()->dropped({}, {QStringLiteral("http://example.org")});
+    QVERIFY(terminal().openWindow()->isVisible());
+    const auto *message = terminal().window()->findChild<QLabel *>(QStringLiteral("openMessage"));
+    QVERIFY2(message->isVisible() && message->text().contains(QLatin1String("example.org")),
+             qPrintable(message->text()));
+}
+
+RXMAP_TEST(TestFileOpening, Widgets)
+#include "tst_fileopening.moc"
