@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int productWidth = 176;
-constexpr int unitWidth = 150;
+constexpr int productWidth = 150;
+constexpr int unitWidth = 126;
 
 /// Six digits tell any rate apart that one has to.
 QString rateText(double rate)
