@@ -24,6 +24,8 @@ const QString scriptOption = QStringLiteral("script");
 const QString driveOption = QStringLiteral("drive");
 const QString recordOption = QStringLiteral("record");
 const QString tuneOption = QStringLiteral("tune");
+const QString checkOption = QStringLiteral("check");
+const QString jsonOption = QStringLiteral("json");
 const QString helpOption = QStringLiteral("help");
 
 void declareOptions(QCommandLineParser &parser)
@@ -62,6 +64,10 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("REPORT.json")},
         {recordOption, QStringLiteral("with --drive: record every step (.csv or .gpkg)"), QStringLiteral("FILE")},
         {tuneOption, QStringLiteral("with --drive: look for the look-ahead that puts changes nearest to the borders")},
+        {checkOption,
+         QStringLiteral("say what is wrong with the prescriptions, without a display, and exit: with 0 when "
+                        "nothing is, 2 when something is, 1 when one cannot be read")},
+        {jsonOption, QStringLiteral("with --check: write what is found as JSON")},
         {{QStringLiteral("h"), helpOption}, QStringLiteral("show this help")},
     });
 }
@@ -194,6 +200,17 @@ QString checkOpen(const QCommandLineParser &parser)
     return {};
 }
 
+QString checkCheck(const QCommandLineParser &parser)
+{
+    if (!parser.isSet(checkOption))
+        return parser.isSet(jsonOption) ? QStringLiteral("--json needs --check") : QString();
+    for (const QString &option : {describeOption, screenshotOption, scriptOption, driveOption, openOption}) {
+        if (parser.isSet(option))
+            return QStringLiteral("--check does not go with --%1").arg(option);
+    }
+    return parser.positionalArguments().isEmpty() ? QStringLiteral("--check needs a prescription to check") : QString();
+}
+
 /// What says how prescriptions are read needs one.
 QString checkPrescription(const QCommandLineParser &parser)
 {
@@ -230,6 +247,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
     if (error.isEmpty())
         error = checkDrive(parser);
     if (error.isEmpty())
+        error = checkCheck(parser);
+    if (error.isEmpty())
         error = checkPrescription(parser);
     if (error.isEmpty())
         error = checkOpen(parser);
@@ -264,6 +283,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     line.drive = parser.value(driveOption);
     line.record = parser.value(recordOption);
     line.tune = parser.isSet(tuneOption);
+    line.check = parser.isSet(checkOption);
+    line.json = parser.isSet(jsonOption);
     line.wantsHelp = parser.isSet(helpOption);
     return {line, {}};
 }

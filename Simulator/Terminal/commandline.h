@@ -35,6 +35,10 @@ struct CommandLine {
     QString record;
     /// The drive also looks for the best look-ahead times.
     bool tune = false;
+    /// The prescriptions are checked, not shown.
+    bool check = false;
+    /// What the check finds is written as JSON.
+    bool json = false;
     bool wantsHelp = false;
 
     /// `arguments` begin with the program's name.

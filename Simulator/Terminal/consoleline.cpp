@@ -26,6 +26,12 @@ void writeErrorLine(const QString &line)
     writeLine(stderr, line);
 }
 
+void writeOutputText(const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
+    std::fflush(stdout);
+}
+
 QString outputProblem()
 {
     return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? QString()

@@ -9,5 +9,7 @@
 void writeOutputLine(const QString &line);
 /// On standard error.
 void writeErrorLine(const QString &line);
+/// Text of several lines, in UTF-8, on standard output as it is.
+void writeOutputText(const QByteArray &text);
 /// Empty, or why not everything that was printed could be written.
 QString outputProblem();

@@ -1,6 +1,7 @@
 #include "commandline.h"
 #include "consoleline.h"
 #include "displayprobe.h"
+#include "mapcheckrun.h"
 #include "openglcheck.h"
 #include "ownlooks.h"
 #include "terminalrun.h"
@@ -82,6 +83,12 @@ int main(int argc, char *argv[])
         const QCoreApplication named(argc, argv);
         std::fputs(CommandLine::helpText().toLocal8Bit().constData(), stdout);
         return end({});
+    }
+    if (line.value.check) {
+        const QCoreApplication application(argc, argv);
+        const int status = runMapCheck(line.value);
+        const QString problem = outputProblem();
+        return problem.isEmpty() ? status : complain(problem);
     }
     provideRuntimeFolder();
     const bool isShown = line.value.drive.isEmpty();

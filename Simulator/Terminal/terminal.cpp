@@ -4,6 +4,7 @@
 #include "drivedisplay.h"
 #include "fieldview.h"
 #include "fileopening.h"
+#include "findingsdisplay.h"
 #include "guidancepage.h"
 #include "machine.h"
 #include "mapoverlay.h"
@@ -62,6 +63,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , driveRecorder(new Recorder(simulated.data()))
     , display(new TerminalWindow(setup.products))
     , opening(new FileOpening(this))
+    , findings(new FindingsDisplay(prescriptions.data(), simulated->vehicle(), display.data()))
     , viewPace(display->fieldView())
 {
     initialiseResources();
@@ -73,6 +75,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
 
 Terminal::~Terminal()
 {
+    findings.reset();
     display->guidancePage()->setPlugins({}, nullptr);
     display->fieldView()->makeCurrent();
     for (UiPluginInterface *plugin : qAsConst(plugins)) {
@@ -99,6 +102,11 @@ void Terminal::connectDisplay()
         frameField();
     });
     connect(vehicle(), &Vehicle::moved, this, &Terminal::showVehicle);
+    connect(findings.data(), &FindingsDisplay::mapChosen, this, [this](const QString &group) {
+        const QList<int> fed = columnsOf(group).keys();
+        if (!fed.isEmpty() && !fed.contains(machineModel->activeProduct()))
+            machineModel->setActiveProduct(fed.first());
+    });
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
         display->statusBar()->setProgress(QFileInfo(path).fileName(), fraction);
     });

@@ -26,6 +26,7 @@
 struct ActiveMap;
 class DriveDisplay;
 class FileOpening;
+class FindingsDisplay;
 class Machine;
 class OpenWindow;
 class Recorder;
@@ -118,6 +119,7 @@ private:
     QScopedPointer<TerminalWindow> display;
     QScopedPointer<DriveDisplay> driveDisplay;
     FileOpening *opening;
+    QScopedPointer<FindingsDisplay> findings;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;

@@ -9,6 +9,7 @@
 #include "neededimages.h"
 #include "openwindow.h"
 #include "productfile.h"
+#include "ratesourcetext.h"
 #include "recorder.h"
 #include "scriptrunner.h"
 #include "simulation.h"
@@ -48,27 +49,6 @@ QStringList withoutRepetition(const QStringList &paths)
     return files;
 }
 
-/// "lb/ac, from the name".
-QString unitText(const RateSource &source)
-{
-    switch (source.unitFrom) {
-    case RateSource::UnitFrom::Operator:
-        return source.unit + QStringLiteral(", named by the operator");
-    case RateSource::UnitFrom::Format:
-        return source.unit + QStringLiteral(", from the format");
-    case RateSource::UnitFrom::Column:
-        return source.unit + QStringLiteral(", from the column beside it");
-    case RateSource::UnitFrom::Text:
-        return source.unit + QStringLiteral(", from its texts");
-    case RateSource::UnitFrom::Name:
-        return source.unit + QStringLiteral(", from the name");
-    case RateSource::UnitFrom::Assumed:
-        break;
-    }
-    return source.unit.isEmpty() ? QStringLiteral("unit not known")
-                                 : QStringLiteral("unit not known, taken as ") + source.unit;
-}
-
 /// "default rate 0 kg/ha (out of the field 0, elsewhere 148.15, position lost 148.15)"; empty where the file gives
 /// none.
 QString placeRatesText(const RateSource &source)
@@ -97,7 +77,7 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
         const QString product = terminal.machine()->products().at(feed.key() - 1).name;
         const auto source = std::find_if(report.sources.begin(), report.sources.end(),
                                          [&feed](const RateSource &any) { return any.product == feed.key(); });
-        const QString unit = source == report.sources.end() ? QString() : unitText(*source);
+        const QString unit = source == report.sources.end() ? QString() : unitTextOf(*source);
         writeOutputLine(QStringLiteral("%1: product %2 (%3): %4 (%5)")
                             .arg(report.path, QString::number(feed.key()), product, *feed, unit));
         const QString rates = source == report.sources.end() ? QString() : placeRatesText(*source);

@@ -332,7 +332,7 @@ void TestTerminalRun::whatALoadCountsIsTold()
     lines.sort();
     QCOMPARE(lines,
              QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
-                          path + QStringLiteral(": 2 records without a rate were skipped"),
+                          path + QStringLiteral(": 2 records without a rate were skipped (records 2, 3)"),
                           path + QStringLiteral(": the unit of column \"Rate\" is not known, taken as 1000/ha")}));
 }
 

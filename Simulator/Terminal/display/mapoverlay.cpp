@@ -6,6 +6,7 @@
 #include <QPainterPath>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -81,12 +82,20 @@ void MapOverlay::showBubble(const QPointF &field, const QString &newText, const 
     pace.request();
 }
 
+void MapOverlay::setMark(const QRectF &extent, const QPointF &place)
+{
+    mark = extent;
+    markAt = place;
+    pace.request();
+}
+
 void MapOverlay::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawBoundary(painter);
     drawLookAhead(painter);
+    drawMark(painter);
     drawVehicle(painter);
     drawNorthArrow(painter);
     drawScaleBar(painter);
@@ -174,6 +183,25 @@ void MapOverlay::drawScaleBar(QPainter &painter) const
     painter.drawLine(start + QPointF(pixels - 1.5, -7.0), start + QPointF(pixels - 1.5, 1.5));
     painter.setFont(Theme::font(18, true));
     painter.drawText(QRectF(start.x(), start.y() - 30.0, pixels, 24.0), Qt::AlignCenter, label);
+}
+
+void MapOverlay::drawMark(QPainter &painter) const
+{
+    if (mark.isNull())
+        return;
+    QPolygonF outline;
+    for (const QPointF &corner : {mark.topLeft(), mark.topRight(), mark.bottomRight(), mark.bottomLeft()}) {
+        if (const std::optional<QPointF> at = camera.project(corner))
+            outline.append(*at);
+    }
+    painter.setBrush(Qt::NoBrush);
+    // Light on dark, so that it stands out from any class colour.
+    for (const auto &[color, width] : {std::pair(Theme::textOnAccent(), 7.0), std::pair(Theme::accent(), 3.0)}) {
+        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolygon(outline);
+        if (const std::optional<QPointF> at = camera.project(markAt))
+            painter.drawEllipse(*at, 12.0, 12.0);
+    }
 }
 
 void MapOverlay::drawBubble(QPainter &painter) const

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QPolygonF>
+#include <QRectF>
 #include <QString>
 #include <QWidget>
 
@@ -38,6 +39,9 @@ public:
     /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
+    /// Outlines `extent` (metres, top = least y) and points at `place` in it; a null extent takes the mark away.
+    void setMark(const QRectF &extent, const QPointF &place);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
@@ -47,6 +51,7 @@ private:
     void drawVehicle(QPainter &painter) const;
     void drawNorthArrow(QPainter &painter) const;
     void drawScaleBar(QPainter &painter) const;
+    void drawMark(QPainter &painter) const;
     void drawBubble(QPainter &painter) const;
 
     Camera camera;
@@ -59,5 +64,7 @@ private:
     QPointF bubbleAt;
     QString text;
     QColor bubbleColor;
+    QRectF mark;
+    QPointF markAt;
     RepaintThrottle pace;
 };

@@ -196,6 +196,91 @@
     </message>
 </context>
 <context>
+    <name>FindingKind</name>
+    <message>
+        <source>Overlap</source>
+        <translation>Überlappung</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>Sliver</source>
+        <translation>Splitter</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>Rate far from the rest</source>
+        <translation>Rate weit von den übrigen</translation>
+    </message>
+    <message>
+        <source>Totals, not rates</source>
+        <translation>Summen statt Raten</translation>
+    </message>
+    <message>
+        <source>Unit not known</source>
+        <translation>Einheit unbekannt</translation>
+    </message>
+    <message>
+        <source>Unit does not fit</source>
+        <translation>Einheit passt nicht</translation>
+    </message>
+    <message>
+        <source>Column is a guess</source>
+        <translation>Spalte ist geraten</translation>
+    </message>
+    <message>
+        <source>Coordinate system assumed</source>
+        <translation>Koordinatensystem angenommen</translation>
+    </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Keine Zahl</translation>
+    </message>
+    <message>
+        <source>Same shape twice</source>
+        <translation>Gleiche Form zweimal</translation>
+    </message>
+    <message>
+        <source>Polygon far away</source>
+        <translation>Polygon weit entfernt</translation>
+    </message>
+    <message>
+        <source>Hole without a polygon</source>
+        <translation>Loch ohne Polygon</translation>
+    </message>
+    <message>
+        <source>Narrower than the machine</source>
+        <translation>Schmaler als die Maschine</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDisplay</name>
+    <message>
+        <source>Map check</source>
+        <translation>Kartenprüfung</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPage</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Kartenprüfung: %1</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

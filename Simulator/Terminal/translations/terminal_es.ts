@@ -196,6 +196,91 @@
     </message>
 </context>
 <context>
+    <name>FindingKind</name>
+    <message>
+        <source>Overlap</source>
+        <translation>Superposición</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Hueco</translation>
+    </message>
+    <message>
+        <source>Sliver</source>
+        <translation>Astilla</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Reparado</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>Rate far from the rest</source>
+        <translation>Dosis lejos de las demás</translation>
+    </message>
+    <message>
+        <source>Totals, not rates</source>
+        <translation>Totales, no dosis</translation>
+    </message>
+    <message>
+        <source>Unit not known</source>
+        <translation>Unidad desconocida</translation>
+    </message>
+    <message>
+        <source>Unit does not fit</source>
+        <translation>La unidad no corresponde</translation>
+    </message>
+    <message>
+        <source>Column is a guess</source>
+        <translation>Columna supuesta</translation>
+    </message>
+    <message>
+        <source>Coordinate system assumed</source>
+        <translation>Sistema de coordenadas supuesto</translation>
+    </message>
+    <message>
+        <source>Not a number</source>
+        <translation>No es un número</translation>
+    </message>
+    <message>
+        <source>Same shape twice</source>
+        <translation>La misma forma dos veces</translation>
+    </message>
+    <message>
+        <source>Polygon far away</source>
+        <translation>Polígono alejado</translation>
+    </message>
+    <message>
+        <source>Hole without a polygon</source>
+        <translation>Agujero sin polígono</translation>
+    </message>
+    <message>
+        <source>Narrower than the machine</source>
+        <translation>Más estrecho que la máquina</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDisplay</name>
+    <message>
+        <source>Map check</source>
+        <translation>Control del mapa</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPage</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Control del mapa: %1</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

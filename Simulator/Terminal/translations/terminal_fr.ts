@@ -196,6 +196,91 @@
     </message>
 </context>
 <context>
+    <name>FindingKind</name>
+    <message>
+        <source>Overlap</source>
+        <translation>Recouvrement</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Lacune</translation>
+    </message>
+    <message>
+        <source>Sliver</source>
+        <translation>Éclat</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Réparé</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omis</translation>
+    </message>
+    <message>
+        <source>Rate far from the rest</source>
+        <translation>Dose loin des autres</translation>
+    </message>
+    <message>
+        <source>Totals, not rates</source>
+        <translation>Totaux au lieu de doses</translation>
+    </message>
+    <message>
+        <source>Unit not known</source>
+        <translation>Unité inconnue</translation>
+    </message>
+    <message>
+        <source>Unit does not fit</source>
+        <translation>L’unité ne convient pas</translation>
+    </message>
+    <message>
+        <source>Column is a guess</source>
+        <translation>Colonne supposée</translation>
+    </message>
+    <message>
+        <source>Coordinate system assumed</source>
+        <translation>Système de coordonnées supposé</translation>
+    </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Pas un nombre</translation>
+    </message>
+    <message>
+        <source>Same shape twice</source>
+        <translation>Même forme deux fois</translation>
+    </message>
+    <message>
+        <source>Polygon far away</source>
+        <translation>Polygone éloigné</translation>
+    </message>
+    <message>
+        <source>Hole without a polygon</source>
+        <translation>Trou sans polygone</translation>
+    </message>
+    <message>
+        <source>Narrower than the machine</source>
+        <translation>Plus étroit que la machine</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDisplay</name>
+    <message>
+        <source>Map check</source>
+        <translation>Contrôle de la carte</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPage</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Contrôle de la carte : %1</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

@@ -196,6 +196,91 @@
     </message>
 </context>
 <context>
+    <name>FindingKind</name>
+    <message>
+        <source>Overlap</source>
+        <translation>Sobreposição</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Lacuna</translation>
+    </message>
+    <message>
+        <source>Sliver</source>
+        <translation>Lasca</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Reparado</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>Rate far from the rest</source>
+        <translation>Taxa longe das demais</translation>
+    </message>
+    <message>
+        <source>Totals, not rates</source>
+        <translation>Totais, não taxas</translation>
+    </message>
+    <message>
+        <source>Unit not known</source>
+        <translation>Unidade desconhecida</translation>
+    </message>
+    <message>
+        <source>Unit does not fit</source>
+        <translation>A unidade não serve</translation>
+    </message>
+    <message>
+        <source>Column is a guess</source>
+        <translation>Coluna suposta</translation>
+    </message>
+    <message>
+        <source>Coordinate system assumed</source>
+        <translation>Sistema de coordenadas suposto</translation>
+    </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Não é um número</translation>
+    </message>
+    <message>
+        <source>Same shape twice</source>
+        <translation>A mesma forma duas vezes</translation>
+    </message>
+    <message>
+        <source>Polygon far away</source>
+        <translation>Polígono distante</translation>
+    </message>
+    <message>
+        <source>Hole without a polygon</source>
+        <translation>Buraco sem polígono</translation>
+    </message>
+    <message>
+        <source>Narrower than the machine</source>
+        <translation>Mais estreito que a máquina</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDisplay</name>
+    <message>
+        <source>Map check</source>
+        <translation>Verificação do mapa</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPage</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Verificação do mapa: %1</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

@@ -98,6 +98,57 @@ std::vector<PlanePolygon> GeosContext::facesOf(const PlaneRing &ring) const
     return polygons(owned(noded ? GEOSPolygonize_r(handle, &lines, 1) : nullptr), 0);
 }
 
+size_t GeosContext::looseHoles(const PlanePolygon &polygon) const
+{
+    if (polygon.holes.empty())
+        return 0;
+    const Geometry outer = validArea(polygon.outer);
+    const GEOSPreparedGeometry *prepared = outer ? GEOSPrepare_r(handle, outer.get()) : nullptr;
+    size_t loose = 0;
+    for (const PlaneRing &ring : polygon.holes) {
+        const Geometry hole = prepared != nullptr ? validArea(ring) : owned(nullptr);
+        if (!hole || GEOSPreparedCovers_r(handle, prepared, hole.get()) == 1)
+            continue;
+        const bool isApart = GEOSPreparedDisjoint_r(handle, prepared, hole.get()) == 1
+            || GEOSTouches_r(handle, outer.get(), hole.get()) == 1;
+        loose += isApart ? 1 : 0;
+    }
+    GEOSPreparedGeom_destroy_r(handle, prepared);
+    return loose;
+}
+
+GeosContext::Geometry GeosContext::common(const Geometry &a, const Geometry &b) const
+{
+    return owned(GEOSIntersection_r(handle, a.get(), b.get()));
+}
+
+std::vector<PlanePolygon> GeosContext::facesOf(const std::vector<PlaneEdge> &edges, double grid) const
+{
+    std::vector<Geometry> members;
+    members.reserve(edges.size());
+    for (const PlaneEdge &edge : edges) {
+        GEOSCoordSequence *ends =
+            GEOSCoordSeq_copyFromBuffer_r(handle, reinterpret_cast<const double *>(&edge), 2, 0, 0);
+        members.push_back(owned(GEOSGeom_createLineString_r(handle, ends)));
+    }
+    const Geometry lines = collection(GEOS_MULTILINESTRING, std::move(members));
+    const Geometry noded = owned(lines ? GEOSUnaryUnionPrec_r(handle, lines.get(), grid) : nullptr);
+    const GEOSGeometry *const noding = noded.get();
+    return polygons(owned(noded ? GEOSPolygonize_r(handle, &noding, 1) : nullptr), -1);
+}
+
+PlaneVertex GeosContext::pointInside(const PlanePolygon &area) const
+{
+    const Geometry shape = polygon(area.outer, area.holes);
+    const Geometry point = owned(shape ? GEOSPointOnSurface_r(handle, shape.get()) : nullptr);
+    PlaneVertex inside = area.outer.front();
+    if (point) {
+        GEOSGeomGetX_r(handle, point.get(), &inside.x);
+        GEOSGeomGetY_r(handle, point.get(), &inside.y);
+    }
+    return inside;
+}
+
 GeosContext::Geometry GeosContext::validArea(const PlaneRing &ring) const
 {
     // GEOS's own repair peels a tangle off layer by layer, with an overlay for each. Lines where the ring ran back over

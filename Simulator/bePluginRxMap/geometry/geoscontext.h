@@ -28,6 +28,15 @@ public:
     /// What the outer ring covers by the even-odd rule, less what the holes cover: valid, vertices on a grid of `grid`
     /// metres. Null when there is nothing.
     Geometry repaired(const PlanePolygon &polygon, double grid) const;
+    /// How many of the polygon's holes lie beside its outer ring.
+    size_t looseHoles(const PlanePolygon &polygon) const;
+    /// What both cover, none of them null. Null when GEOS fails.
+    Geometry common(const Geometry &a, const Geometry &b) const;
+    /// The bounded faces that the edges divide the plane into, on a grid of `grid` metres to which the edges are
+    /// snapped: what is narrower than that is none. Empty when there are none, or GEOS fails.
+    std::vector<PlanePolygon> facesOf(const std::vector<PlaneEdge> &edges, double grid) const;
+    /// A point inside the polygon, and not on its border.
+    PlaneVertex pointInside(const PlanePolygon &polygon) const;
     /// What `from` covers and `cut` does not, on the grid; both valid and of polygons only. Null when GEOS fails.
     Geometry difference(const Geometry &from, const Geometry &cut, double grid) const;
 

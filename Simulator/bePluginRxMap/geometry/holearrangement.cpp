@@ -4,6 +4,7 @@
 #include "rendererholerule.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <set>
 #include <utility>
@@ -97,14 +98,17 @@ HolePlaces joinsFor(const std::vector<PlanePolygon> &polygons, const RendererHol
     return joins;
 }
 
-/// Whether any of the holes could be joined.
-bool join(std::vector<PlanePolygon> &polygons, const HolePlaces &joins)
+/// The holes that could be joined.
+std::vector<PlaneRing> join(std::vector<PlanePolygon> &polygons, const HolePlaces &joins)
 {
-    bool hasJoined = false;
+    std::vector<PlaneRing> joined;
     // From the last to the first, since a joined hole leaves its list.
-    for (auto it = joins.rbegin(); it != joins.rend(); ++it)
-        hasJoined = HoleBridge::join(polygons[it->first], it->second) || hasJoined;
-    return hasJoined;
+    for (auto it = joins.rbegin(); it != joins.rend(); ++it) {
+        PlaneRing hole = polygons[it->first].holes[it->second];
+        if (HoleBridge::join(polygons[it->first], it->second))
+            joined.push_back(std::move(hole));
+    }
+    return joined;
 }
 
 } // namespace
@@ -115,11 +119,17 @@ HoleArrangement HoleArrangement::arrange(std::vector<PlanePolygon> &polygons)
                                       [](const PlanePolygon &polygon) { return !polygon.holes.empty(); });
     if (!hasHoles)
         return {};
+    std::vector<PlaneRing> joined;
     for (int round = 0;; ++round) {
         const RendererHoleRule rule(outersOf(polygons));
         HoleArrangement arrangement = takersBy(rule, polygons);
-        if (arrangement.misplaced.empty() || round == maxRounds
-            || !join(polygons, joinsFor(polygons, rule, arrangement.takers)))
+        std::vector<PlaneRing> more;
+        if (!arrangement.misplaced.empty() && round < maxRounds)
+            more = join(polygons, joinsFor(polygons, rule, arrangement.takers));
+        joined.insert(joined.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+        if (more.empty()) {
+            arrangement.joined = std::move(joined);
             return arrangement;
+        }
     }
 }

@@ -11,6 +11,8 @@ struct HoleArrangement {
     std::vector<int> takers;
     /// For each hole that stays in the wrong place its record.
     std::vector<int> misplaced;
+    /// The holes that became part of their outer rings.
+    std::vector<PlaneRing> joined;
 
     /// Joins holes of `polygons` to their outer rings where another polygon would lose them: the hole itself, or those
     /// in which its polygon lies.

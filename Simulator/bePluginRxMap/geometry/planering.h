@@ -9,6 +9,12 @@ using PlaneVertex = OrvikTypes::RX_POLYGONVERTEX;
 /// A ring, closed implicitly from the last vertex to the first.
 using PlaneRing = std::vector<PlaneVertex>;
 
+/// A straight line between two vertices.
+struct PlaneEdge {
+    PlaneVertex from;
+    PlaneVertex to;
+};
+
 /// A polygon of one record: an outer ring and what is cut out of it.
 struct PlanePolygon {
     PlaneRing outer;

@@ -5,18 +5,13 @@
 
 namespace {
 
-struct Edge {
-    PlaneVertex from;
-    PlaneVertex to;
-};
-
-void appendEdges(const PlaneRing &ring, std::vector<Edge> &edges)
+void appendEdges(const PlaneRing &ring, std::vector<PlaneEdge> &edges)
 {
     for (size_t i = 0; i < ring.size(); ++i)
         edges.push_back({ring[i], ring[i + 1 < ring.size() ? i + 1 : 0]});
 }
 
-bool shareAVertex(const Edge &a, const Edge &b)
+bool shareAVertex(const PlaneEdge &a, const PlaneEdge &b)
 {
     return samePlace(a.from, b.from) || samePlace(a.from, b.to) || samePlace(a.to, b.from) || samePlace(a.to, b.to);
 }
@@ -25,13 +20,18 @@ bool shareAVertex(const Edge &a, const Edge &b)
 
 size_t RingCrossings::count(const PlanePolygon &polygon, size_t limit)
 {
-    std::vector<Edge> edges;
+    std::vector<PlaneEdge> edges;
     appendEdges(polygon.outer, edges);
     for (const PlaneRing &hole : polygon.holes)
         appendEdges(hole, edges);
+    return count(edges, limit);
+}
+
+size_t RingCrossings::count(const std::vector<PlaneEdge> &edges, size_t limit)
+{
     std::vector<RingExtent> extents;
     extents.reserve(edges.size());
-    for (const Edge &edge : edges)
+    for (const PlaneEdge &edge : edges)
         extents.push_back(RingExtent::of(&edge.from, 2));
     const RingTree tree(extents);
     size_t crossings = 0;

@@ -11,5 +11,6 @@ namespace RingCrossings {
 /// Pairs of edges that meet elsewhere than at a vertex of both; stops counting behind `limit`, and when GeosInterrupt
 /// asks for it. For vertices on the plane's grid.
 size_t count(const PlanePolygon &polygon, size_t limit);
+size_t count(const std::vector<PlaneEdge> &edges, size_t limit);
 
 } // namespace RingCrossings

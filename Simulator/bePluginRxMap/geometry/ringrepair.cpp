@@ -76,6 +76,7 @@ bool RingRepair::isValidInFile(const RawPrescription &map, size_t firstRing, siz
 
 void RingRepair::appendRepaired(const PlanePolygon &polygon, Outcome &outcome) const
 {
+    outcome.looseHoles.insert(outcome.looseHoles.end(), geos.looseHoles(polygon), polygon.record);
     const std::vector<PlanePolygon> parts = geos.polygons(geos.repaired(polygon, gridSize), polygon.record);
     if (parts.empty())
         outcome.dropped.push_back(polygon.record);

@@ -20,6 +20,8 @@ public:
         std::vector<int> repaired;
         /// For each ring that encloses nothing on the grid, or that could not be repaired, its record.
         std::vector<int> dropped;
+        /// For each hole that lies beside its outer ring, and so cuts nothing, its record.
+        std::vector<int> looseHoles;
         /// Records of the polygons that were left out because their rings meet more than `mostCrossings` times.
         std::vector<int> tangled;
     };

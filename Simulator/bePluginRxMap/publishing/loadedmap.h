@@ -3,11 +3,24 @@
 #include "Backend/loadreport.h"
 #include "localplane.h"
 #include "polygonchain.h"
+#include "ratecheck.h"
 #include "ratelookup.h"
 
 #include <QStringList>
 
 #include <memory>
+#include <vector>
+
+/// What a check looks at.
+struct CheckInput {
+    std::shared_ptr<const PolygonChain> chain;
+    /// Record of each outer ring of the chain.
+    std::vector<int> records;
+    /// Holes that became part of their outer rings.
+    std::vector<PlaneRing> joinedHoles;
+    /// One per mapping.
+    std::vector<RateCheck::Column> columns;
+};
 
 /// A prescription that is ready to be published, or the reason why there is none.
 struct LoadedMap {
@@ -21,6 +34,12 @@ struct LoadedMap {
     /// Names of the machine's products.
     QStringList productNames;
     /// Null when report.error says why. The look-up refers to the chain.
-    std::unique_ptr<PolygonChain> chain;
+    std::shared_ptr<PolygonChain> chain;
     std::unique_ptr<RateLookup> lookup;
+    /// As in CheckInput.
+    std::vector<int> records;
+    std::vector<PlaneRing> joinedHoles;
+    std::vector<RateCheck::Column> columns;
+
+    CheckInput checkInput() const { return {chain, records, joinedHoles, columns}; }
 };

@@ -1,6 +1,6 @@
 #include "loadfindings.h"
 
-#include "ringtree.h"
+#include "planeshape.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,7 +28,7 @@ void locate(MapFinding &finding, const std::vector<int> &records, const std::vec
     for (const PlanePolygon &polygon : polygons) {
         if (!std::binary_search(records.begin(), records.end(), polygon.record))
             continue;
-        const RingExtent extent = RingExtent::of(polygon.outer.data(), polygon.outer.size());
+        const RingExtent extent = PlaneShape::extent(polygon);
         finding.area = finding.area.value_or(0.0) + polygonArea(polygon);
         if (!finding.place)
             finding.place = QPointF(0.5 * (extent.minX + extent.maxX), 0.5 * (extent.minY + extent.maxY));
@@ -36,7 +36,7 @@ void locate(MapFinding &finding, const std::vector<int> &records, const std::vec
         all.include(extent.maxX, extent.maxY);
     }
     if (finding.place)
-        finding.extent = QRectF(all.minX, all.minY, all.maxX - all.minX, all.maxY - all.minY);
+        finding.extent = PlaneShape::rectangle(all);
 }
 
 } // namespace

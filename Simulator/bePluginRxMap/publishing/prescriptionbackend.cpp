@@ -2,6 +2,7 @@
 
 #include "columnpolicy.h"
 #include "prescriptionbackendprivate.h"
+#include "prescriptionloader.h"
 #include "prescriptionreader.h"
 #include "rateunit.h"
 
@@ -95,6 +96,25 @@ double PrescriptionBackend::rateFactor(const QString &unit, DbGroupProductGroupI
 {
     const RateUnit rateUnit = RateUnit::fromText(unit).of(kind);
     return rateUnit.isKnown() && rateUnit.fits(kind) ? rateUnit.factorTo(kind) : 0.0;
+}
+
+LoadReport PrescriptionBackend::check(const LoadRequest &request, double machineWidth)
+{
+    const LoadControl control;
+    const std::unique_ptr<LoadedMap> map = PrescriptionLoader(request, {}, control).load();
+    if (!map->report.isOk())
+        return map->report;
+    const std::optional<QList<MapFinding>> findings = MapChecker::findings(map->checkInput(), machineWidth, control);
+    if (!findings)
+        return PrescriptionBackendPrivate::refuse(request.path,
+                                                  QStringLiteral("cannot be checked, there is not enough memory"));
+    map->report.findings += *findings;
+    return map->report;
+}
+
+void PrescriptionBackend::check(const QString &group, double machineWidth)
+{
+    d->check(group, machineWidth);
 }
 
 void PrescriptionBackend::cancel()

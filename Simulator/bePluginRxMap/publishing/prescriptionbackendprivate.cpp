@@ -40,6 +40,8 @@ QString nameForGroup(const QString &fileName)
 PrescriptionBackendPrivate::PrescriptionBackendPrivate(PrescriptionBackend *backend, DataBroker *dataBroker)
     : q(backend)
     , broker(dataBroker)
+    , checker(backend,
+              [this](const QString &group, const QList<MapFinding> &findings) { tellChecked(group, findings); })
 {
 }
 
@@ -198,6 +200,7 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
     shareOut(channels);
     map->report.group = entry.map->groupName();
     LoadReport report = map->report;
+    checker.drop(report.group);
     if (!entry.map->publish(std::move(map), channels, settings)) {
         shareOut({});
         return refuse(report.path, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
@@ -240,8 +243,27 @@ void PrescriptionBackendPrivate::shareOut(const QStringList &newest)
         entries[i].map->feed(channelsLeft(i, newest));
 }
 
+void PrescriptionBackendPrivate::check(const QString &group, double machineWidth)
+{
+    for (const Entry &entry : entries) {
+        if (entry.map->groupName() == group)
+            checker.start(group, entry.map->checkInput(), machineWidth);
+    }
+}
+
+void PrescriptionBackendPrivate::tellChecked(const QString &group, const QList<MapFinding> &findings)
+{
+    for (const Entry &entry : entries) {
+        if (entry.map->groupName() == group) {
+            Q_EMIT q->checked(group, entry.map->report().findings + findings);
+            return;
+        }
+    }
+}
+
 bool PrescriptionBackendPrivate::unload(const QString &group)
 {
+    checker.drop(group);
     const auto found = std::find_if(entries.begin(), entries.end(),
                                     [&group](const Entry &entry) { return entry.map->groupName() == group; });
     if (found == entries.end())

@@ -2,6 +2,7 @@
 
 #include "loadedmap.h"
 #include "loadjob.h"
+#include "mapchecker.h"
 #include "publishedmap.h"
 
 #include "bePluginRxMap/rxmaploader.h"
@@ -33,6 +34,7 @@ public:
     static LoadReport refuse(const QString &path, const QString &reason);
     void cancel();
     bool isLoading() const { return !jobs.empty(); }
+    void check(const QString &group, double machineWidth);
     bool unload(const QString &group);
     QList<LoadReport> reports() const;
     RxMapLoader *loader(int product);
@@ -58,6 +60,7 @@ private:
     /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.
     QStringList channelsLeft(size_t entry, const QStringList &newest) const;
     void shareOut(const QStringList &newest);
+    void tellChecked(const QString &group, const QList<MapFinding> &findings);
     /// Keeps the group of an unloaded map for whoever still holds it; the one that was unloaded longest ago goes.
     void retire(const QPointer<DataBrokerGroup> &group);
 
@@ -65,6 +68,7 @@ private:
     DataBroker *broker;
     std::deque<std::shared_ptr<LoadJob>> jobs; ///< The first one is being worked on.
     std::thread worker;
+    MapChecker checker;
     std::vector<Entry> entries; ///< In the order of loading; a later one takes over the channels of an earlier one.
     QHash<int, RxMapLoader *> loaders;
     std::deque<QPointer<DataBrokerGroup>> retiredGroups; ///< The broker's; those of unloaded maps, oldest first.

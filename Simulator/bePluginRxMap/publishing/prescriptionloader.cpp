@@ -250,6 +250,9 @@ bool PrescriptionLoader::repairRings()
                           QStringLiteral("rings that enclose nothing were left out")});
     for (const int record : outcome.tangled)
         tell(Kind::Skipped, tangleText(record), record);
+    findings->addCounted(Kind::LooseHole, outcome.looseHoles,
+                         {QStringLiteral("hole lies in no polygon and was left out"),
+                          QStringLiteral("holes lie in no polygon and were left out")});
     findings->addCounted(Kind::Repaired, outcome.repaired,
                          {QStringLiteral("polygon had to be repaired"), QStringLiteral("polygons had to be repaired")},
                          polygons);
@@ -272,6 +275,8 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
         map.rateCalNames.append(product.rateCalName);
         const double given = decision.sources.at(map.defaultRates.size()).placeRates.defaultRate();
         map.defaultRates.append(std::isnan(given) ? product.defaultRate : given);
+        map.columns.push_back(
+            {map.report.columns.last(), decision.sources.at(int(map.columns.size())).unit, feed.factor});
     }
     rates = RateTable(source, decision.feeds);
     return true;
@@ -348,7 +353,10 @@ bool PrescriptionLoader::arrange()
 
 void PrescriptionLoader::makeChain(LoadedMap &map) const
 {
-    map.chain = std::make_unique<PolygonChain>(polygons, rates.values(), rates.mappings());
+    for (const PlanePolygon &polygon : polygons)
+        map.records.push_back(polygon.record);
+    map.joinedHoles = arrangement.joined;
+    map.chain = std::make_shared<PolygonChain>(polygons, rates.values(), rates.mappings());
     map.lookup =
         std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), rates.mappings(), arrangement.takers);
 }

@@ -32,6 +32,7 @@ public:
 
     const LoadReport &report() const { return content->report; }
     const LocalPlane &plane() const { return content->plane; }
+    CheckInput checkInput() const { return content->checkInput(); }
     /// The rate channels that the map was loaded for, one per mapping.
     QStringList wantedRateCalNames() const { return content->rateCalNames; }
     QList<OrvikTypes::RX_SETTINGS> settings() const { return group->getSettings(); }

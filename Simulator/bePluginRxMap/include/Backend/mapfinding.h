@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMetaType>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -43,3 +44,5 @@ struct MapFinding {
     /// Extent of what it is about in the local plane, metres (top = least y); null where there is no place.
     QRectF extent = {};
 };
+
+Q_DECLARE_METATYPE(MapFinding)

@@ -49,6 +49,13 @@ public:
     /// Takes rates in that unit ("lb/ac") to the base unit of the kind; 0 where it is no unit of such rates.
     static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
 
+    /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
+    /// report's findings are those of the load and those of the check.
+    static LoadReport check(const LoadRequest &request, double machineWidth);
+    /// Starts to check a published map in a thread of its own. checked() follows, unless the map is loaded again or
+    /// unloaded before.
+    void check(const QString &group, double machineWidth);
+
     /// Cancels the load in progress and those waiting; each finishes with an error that says so.
     void cancel();
     bool isLoading() const;
@@ -68,6 +75,8 @@ Q_SIGNALS:
     void finished(const LoadReport &report);
     /// A survey has ended.
     void surveyed(const SurveyReport &survey);
+    /// A check has ended: what the load and the check found in the map.
+    void checked(const QString &group, const QList<MapFinding> &findings);
     /// The set of published maps, or what feeds which product, changed.
     void mapsChanged();
 

@@ -1,0 +1,47 @@
+#include "findingrow.h"
+
+#include "findingkind.h"
+#include "theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int titlePixels = 22;
+constexpr int textPixels = 18;
+constexpr int inset = 16;
+
+} // namespace
+
+FindingRow::FindingRow(const MapFinding &finding, const QString &file, QWidget *parent)
+    : QAbstractButton(parent)
+    , title(FindingKind::title(finding.kind))
+{
+    setText(finding.text);
+    if (!file.isEmpty())
+        title += QStringLiteral("  \u00b7  ") + file;
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // What lies nowhere cannot be shown.
+    setEnabled(finding.place.has_value());
+}
+
+QSize FindingRow::sizeHint() const
+{
+    return QSize(rowHeight, rowHeight);
+}
+
+void FindingRow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Theme::drawPanel(painter, rect(), isDown() ? Theme::pressedButton() : Theme::button());
+    const QRect inner = rect().adjusted(inset, 8, -inset, -8);
+    painter.setPen(Theme::text());
+    painter.setFont(Theme::font(titlePixels, true));
+    painter.drawText(inner, Qt::AlignTop | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(title, Qt::ElideMiddle, inner.width()));
+    painter.setPen(isEnabled() ? Theme::text() : Theme::faintText());
+    painter.setFont(Theme::font(textPixels));
+    painter.drawText(inner, Qt::AlignBottom | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
+}

@@ -1,0 +1,107 @@
+#include "findingsdisplay.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "fieldview.h"
+#include "mapoverlay.h"
+#include "statusbar.h"
+#include "terminalwindow.h"
+#include "theme.h"
+#include "touchbutton.h"
+#include "vehicle.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// What is marked is shown with as much around it, and never less than this, metres.
+constexpr double leastView = 60.0;
+
+QRectF viewAround(const QRectF &extent)
+{
+    const double reach = std::max({extent.width(), extent.height(), 0.5 * leastView});
+    return extent.adjusted(-reach, -reach, reach, reach);
+}
+
+} // namespace
+
+FindingsDisplay::FindingsDisplay(PrescriptionBackend *prescriptions, const Vehicle *machine, TerminalWindow *display)
+    : backend(prescriptions)
+    , vehicle(machine)
+    , window(display)
+    , button(new TouchButton(QString()))
+    , page(new FindingsPage(display))
+{
+    button->setObjectName(QStringLiteral("findingsButton"));
+    button->setNote(tr("Map check"));
+    button->setMinimumWidth(2 * Theme::touchTarget);
+    button->hide();
+    window->statusBar()->addButton(button);
+    connect(button, &TouchButton::clicked, this, &FindingsDisplay::toggle);
+    connect(page, &FindingsPage::chosen, this, &FindingsDisplay::show);
+    connect(backend, &PrescriptionBackend::finished, this, &FindingsDisplay::check);
+    connect(backend, &PrescriptionBackend::checked, this, &FindingsDisplay::take);
+    connect(backend, &PrescriptionBackend::mapsChanged, this, &FindingsDisplay::update);
+}
+
+void FindingsDisplay::check(const LoadReport &report)
+{
+    // Where nobody sees it, as in a drive without a display, it would only take time.
+    if (!report.isOk() || !window->isVisible())
+        return;
+    findings.remove(report.group);
+    backend->check(report.group, vehicle->size().width);
+    update();
+}
+
+void FindingsDisplay::take(const QString &group, const QList<MapFinding> &found)
+{
+    findings.insert(group, found);
+    update();
+}
+
+void FindingsDisplay::update()
+{
+    entries.clear();
+    const QHash<QString, QList<MapFinding>> known = std::exchange(findings, {});
+    const QList<LoadReport> maps = backend->maps();
+    for (const LoadReport &map : maps) {
+        const QString file = maps.size() > 1 ? QFileInfo(map.path).fileName() : QString();
+        if (!known.contains(map.group))
+            continue;
+        findings.insert(map.group, known.value(map.group));
+        for (const MapFinding &finding : known.value(map.group))
+            entries.append({file, map.group, finding});
+    }
+    window->overlay()->setMark({}, {});
+    button->setText(QString::number(entries.size()));
+    button->setVisible(!entries.isEmpty());
+    page->setEntries(entries);
+    if (entries.isEmpty())
+        page->hide();
+}
+
+void FindingsDisplay::toggle()
+{
+    if (page->isVisible()) {
+        page->hide();
+        return;
+    }
+    window->overlay()->setMark({}, {});
+    page->setGeometry(
+        window->fieldView()->geometry().adjusted(Theme::margin, Theme::margin, -Theme::margin, -Theme::margin));
+    page->show();
+    page->raise();
+}
+
+void FindingsDisplay::show(int number)
+{
+    const FindingsPage::Entry entry = entries.at(number);
+    const MapFinding &finding = entry.finding;
+    page->hide();
+    Q_EMIT mapChosen(entry.group);
+    window->fieldView()->frame(viewAround(finding.extent));
+    window->overlay()->setMark(finding.extent, *finding.place);
+}

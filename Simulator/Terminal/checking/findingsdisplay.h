@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Backend/loadreport.h"
+#include "findingspage.h"
+
+#include <QHash>
+#include <QObject>
+
+class PrescriptionBackend;
+class TerminalWindow;
+class TouchButton;
+class Vehicle;
+
+/// Has each map checked once it is loaded, and shows what is found: a button with the count in the status bar, which
+/// opens the list. A finding that is touched there is marked on the map.
+class FindingsDisplay : public QObject {
+    Q_OBJECT
+
+public:
+    /// None of these is owned; all outlive this.
+    FindingsDisplay(PrescriptionBackend *backend, const Vehicle *vehicle, TerminalWindow *window);
+
+Q_SIGNALS:
+    /// A finding in the map of that group is about to be shown.
+    void mapChosen(const QString &group);
+
+private:
+    void check(const LoadReport &report);
+    void take(const QString &group, const QList<MapFinding> &found);
+    /// What is found in the maps that are loaded, oldest first.
+    void update();
+    void toggle();
+    void show(int number);
+
+    PrescriptionBackend *backend;
+    const Vehicle *vehicle;
+    TerminalWindow *window;
+    TouchButton *button;
+    FindingsPage *page;
+    /// By group.
+    QHash<QString, QList<MapFinding>> findings;
+    /// As the page lists them.
+    QList<FindingsPage::Entry> entries;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Backend/mapfinding.h"
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+class QScrollArea;
+
+/// The list of what is wrong with the loaded maps, over the field view. It is scrolled with a finger.
+class FindingsPage : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Entry {
+        /// Named where several maps are loaded, else empty.
+        QString file;
+        /// Of the map.
+        QString group;
+        MapFinding finding;
+    };
+
+    /// Hidden at first.
+    explicit FindingsPage(QWidget *parent);
+
+    /// Rows are named "finding0", "finding1", ...; the list stays where it was scrolled to.
+    void setEntries(const QList<Entry> &entries);
+
+Q_SIGNALS:
+    /// The row of that number was touched; what it is about lies somewhere.
+    void chosen(int number);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QLabel *heading;
+    QScrollArea *area;
+};

@@ -1,0 +1,117 @@
+#include "mapcheckrun.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "commandline.h"
+#include "consoleline.h"
+#include "findingkind.h"
+#include "machine.h"
+#include "productfile.h"
+#include "ratesourcetext.h"
+
+#include "Framework/databroker.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QJsonObject jsonOf(const MapFinding &finding)
+{
+    QJsonArray records;
+    for (const int record : finding.records)
+        records.append(record);
+    const QJsonValue area = finding.area ? QJsonValue(*finding.area) : QJsonValue();
+    const QJsonValue place = finding.place ? QJsonArray{finding.place->x(), finding.place->y()} : QJsonValue();
+    return {{QStringLiteral("kind"), FindingKind::name(finding.kind)},
+            {QStringLiteral("text"), finding.text},
+            {QStringLiteral("records"), records},
+            {QStringLiteral("area"), area},
+            {QStringLiteral("at"), place}};
+}
+
+QJsonObject jsonOf(const RateSource &source)
+{
+    return {{QStringLiteral("column"), source.column},
+            {QStringLiteral("unit"), source.unit},
+            {QStringLiteral("product"), source.product},
+            {QStringLiteral("sure"), source.isSure},
+            {QStringLiteral("told"), unitTextOf(source)}};
+}
+
+QJsonObject jsonOf(const LoadReport &report)
+{
+    QJsonArray findings;
+    for (const MapFinding &finding : report.findings)
+        findings.append(jsonOf(finding));
+    QJsonObject file{{QStringLiteral("file"), report.path},
+                     {QStringLiteral("ok"), report.isOk()},
+                     {QStringLiteral("error"), report.isOk() ? QJsonValue() : QJsonValue(report.error)},
+                     {QStringLiteral("findings"), findings}};
+    if (!report.isOk())
+        return file;
+    QJsonArray sources;
+    for (const RateSource &source : report.sources)
+        sources.append(jsonOf(source));
+    file.insert(QStringLiteral("sources"), sources);
+    file.insert(QStringLiteral("origin"),
+                QJsonObject{{QStringLiteral("lon"), report.origin.x()}, {QStringLiteral("lat"), report.origin.y()}});
+    return file;
+}
+
+void print(const LoadReport &report, const Products &products)
+{
+    if (!report.isOk()) {
+        writeErrorLine(report.error);
+        return;
+    }
+    for (const RateSource &source : report.sources)
+        writeOutputLine(QStringLiteral("%1: product %2 (%3): %4 (%5)")
+                            .arg(report.path, QString::number(source.product), products.at(source.product - 1).name,
+                                 source.column, unitTextOf(source)));
+    writeOutputLine(
+        QStringLiteral("%1: origin of the plane: %2, %3 (longitude, latitude)")
+            .arg(report.path, QString::number(report.origin.x(), 'f', 7), QString::number(report.origin.y(), 'f', 7)));
+    QStringList remarks = report.warnings;
+    for (const MapFinding &finding : report.findings) {
+        writeOutputLine(QStringLiteral("%1: %2: %3").arg(report.path, FindingKind::name(finding.kind), finding.text));
+        remarks.removeOne(QStringLiteral("%1: %2").arg(report.path, finding.text));
+    }
+    for (const QString &remark : remarks)
+        writeErrorLine(remark);
+}
+
+} // namespace
+
+int runMapCheck(const CommandLine &line)
+{
+    MachineSetup setup{{}, ProductFile::standard()};
+    if (!line.productFile.isEmpty()) {
+        const Result<MachineSetup> read = ProductFile::read(line.productFile);
+        if (!read.isOk()) {
+            writeErrorLine(QStringLiteral("terminal-simulator: ") + read.error);
+            return 1;
+        }
+        setup = read.value;
+    }
+    DataBroker broker;
+    PrescriptionBackend backend(&broker);
+    const Machine machine(&broker, &backend, setup.products, line.units);
+    QJsonArray files;
+    int status = 0;
+    for (const QString &path : line.prescriptions) {
+        const LoadReport report = PrescriptionBackend::check(
+            {path, line.columns, line.sourceUnits, machine.loadedProducts(), line.layer, line.task}, setup.size.width);
+        if (!report.isOk())
+            status = 1;
+        else if (!report.findings.isEmpty() && status == 0)
+            status = 2;
+        if (line.json)
+            files.append(jsonOf(report));
+        else
+            print(report, setup.products);
+    }
+    if (line.json)
+        writeOutputText(QJsonDocument(QJsonObject{{QStringLiteral("files"), files}}).toJson());
+    return status;
+}

@@ -1,0 +1,208 @@
+#include "coveragecheck.h"
+
+#include "geosinterrupt.h"
+#include "planeshape.h"
+#include "ringcrossings.h"
+#include "unsharededges.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Grid of the faces: the power of two of a metre below the tolerance.
+constexpr double faceGrid = 1.0 / 64.0;
+/// Polygons whose common area is this share of either are of the same shape.
+constexpr double sameShape = 0.999;
+/// So many edges of a gap are asked for what lies beyond them.
+constexpr size_t mostAsked = 64;
+
+QString squareMetres(double area)
+{
+    return QStringLiteral("%1 m2").arg(area, 0, 'f', area < 10.0 ? 2 : 1);
+}
+
+/// "record 4", "records 4 and 7", "records 4, 7 and 5 more".
+QString textOf(const QList<int> &records)
+{
+    constexpr int mostTold = 6;
+    if (records.size() == 1)
+        return QStringLiteral("record %1").arg(records.first());
+    const bool isCut = records.size() > mostTold;
+    QStringList numbers;
+    for (int i = 0; i < std::min(records.size() - (isCut ? 0 : 1), mostTold); ++i)
+        numbers.append(QString::number(records.at(i)));
+    const QString last =
+        isCut ? QStringLiteral("%1 more").arg(records.size() - mostTold) : QString::number(records.last());
+    return QStringLiteral("records %1 and %2").arg(numbers.join(QStringLiteral(", ")), last);
+}
+
+PlaneVertex pointInside(const GeosContext &geos, const PlanePolygon &face)
+{
+    if (!face.holes.empty() || !isConvexRing(face.outer))
+        return geos.pointInside(face);
+    PlaneVertex middle = {0.0, 0.0};
+    for (const PlaneVertex &vertex : face.outer) {
+        middle.x += vertex.x / static_cast<double>(face.outer.size());
+        middle.y += vertex.y / static_cast<double>(face.outer.size());
+    }
+    return middle;
+}
+
+bool isArtefact(double area, double perimeter)
+{
+    return PlaneShape::width(area, perimeter) < CoverageCheck::tolerance;
+}
+
+} // namespace
+
+CoverageCheck::CoverageCheck(const MapView &view, const LoadControl &loadControl)
+    : map(view)
+    , control(loadControl)
+    , cover(view)
+    , isSuspect(view.polygons().size(), false)
+{
+}
+
+bool CoverageCheck::run(FindingList &findings)
+{
+    const std::vector<PlaneEdge> edges = UnsharedEdges::of(map);
+    if (control.isCancelled())
+        return false;
+    if (RingCrossings::count(edges, mostCrossings) > mostCrossings) {
+        MapFinding finding;
+        finding.text =
+            QStringLiteral("the polygons' edges cross each other more than %1 times; overlaps and gaps are not "
+                           "told one by one")
+                .arg(mostCrossings);
+        findings.add(finding, HUGE_VAL);
+        return !control.isCancelled();
+    }
+    for (const PlanePolygon &face : geos.facesOf(edges, faceGrid)) {
+        if (control.isCancelled())
+            return false;
+        lookAt(face, findings);
+    }
+    return comparePairs(findings);
+}
+
+void CoverageCheck::lookAt(const PlanePolygon &face, FindingList &findings)
+{
+    if (isArtefact(polygonArea(face), PlaneShape::perimeter(face)))
+        return;
+    const PlaneVertex point = pointInside(geos, face);
+    const CoverIndex::Cover over = cover.at(point);
+    if (over.polygons.empty() && !over.isHole)
+        tellGap(face, point, findings);
+    if (over.polygons.size() < 2)
+        return;
+    for (const unsigned place : cover.near(PlaneShape::extent(face)))
+        isSuspect[place] = true;
+}
+
+void CoverageCheck::tellGap(const PlanePolygon &face, const PlaneVertex &point, FindingList &findings)
+{
+    const double area = polygonArea(face);
+    const double width = PlaneShape::width(area, PlaneShape::perimeter(face));
+    MapFinding finding;
+    finding.kind = width < sliverWidth ? MapFinding::Kind::Sliver : MapFinding::Kind::Gap;
+    finding.area = area;
+    finding.place = QPointF(point.x, point.y);
+    finding.extent = PlaneShape::rectangle(PlaneShape::extent(face));
+    finding.records = neighbours(face);
+    finding.text = QStringLiteral("no polygon covers %1 inside the field (%2 m wide)")
+                       .arg(squareMetres(area), QString::number(width, 'f', width < sliverWidth ? 2 : 1));
+    if (!finding.records.isEmpty())
+        finding.text += QStringLiteral(", beside %1").arg(textOf(finding.records));
+    findings.add(finding, area);
+}
+
+QList<int> CoverageCheck::neighbours(const PlanePolygon &face)
+{
+    // Far enough beyond an edge that its rounding does not matter.
+    constexpr double step = 2.0 * tolerance;
+    QList<int> records;
+    const double side = signedArea(face.outer) > 0.0 ? 1.0 : -1.0;
+    const size_t count = face.outer.size();
+    const size_t stride = 1 + count / mostAsked;
+    for (size_t i = 0; i < count; i += stride) {
+        const PlaneVertex &from = face.outer[i];
+        const PlaneVertex &to = face.outer[(i + 1) % count];
+        const double length = std::hypot(to.x - from.x, to.y - from.y);
+        const PlaneVertex beyond = {0.5 * (from.x + to.x) + side * step * (to.y - from.y) / length,
+                                    0.5 * (from.y + to.y) - side * step * (to.x - from.x) / length};
+        for (const unsigned place : cover.at(beyond).polygons)
+            records.append(map.polygons()[place].record);
+    }
+    std::sort(records.begin(), records.end());
+    records.erase(std::unique(records.begin(), records.end()), records.end());
+    return records;
+}
+
+bool CoverageCheck::comparePairs(FindingList &findings)
+{
+    shapes.clear();
+    for (size_t i = 0; i < isSuspect.size(); ++i)
+        shapes.push_back(geos.owned(nullptr));
+    for (unsigned a = 0; a < isSuspect.size(); ++a) {
+        if (!isSuspect[a])
+            continue;
+        for (const unsigned b : cover.near(map.polygons()[a].extent)) {
+            if (control.isCancelled())
+                return false;
+            if (b > a && isSuspect[b] && map.contend(map.polygons()[a], map.polygons()[b]))
+                compare(a, b, findings);
+        }
+        shapes[a].reset();
+    }
+    return true;
+}
+
+const GeosContext::Geometry &CoverageCheck::shapeOf(unsigned polygon)
+{
+    if (!shapes[polygon]) {
+        const PlanePolygon rings = MapView::copy(map.polygons()[polygon]);
+        shapes[polygon] = geos.polygon(rings.outer, rings.holes);
+    }
+    return shapes[polygon];
+}
+
+void CoverageCheck::compare(unsigned a, unsigned b, FindingList &findings)
+{
+    const MapView::Polygon &one = map.polygons()[a];
+    const MapView::Polygon &other = map.polygons()[b];
+    double area = 0.0;
+    RingExtent extent;
+    PlanePolygon largest;
+    for (PlanePolygon &part : geos.polygons(geos.common(shapeOf(a), shapeOf(b)), one.record)) {
+        const double partArea = polygonArea(part);
+        if (isArtefact(partArea, PlaneShape::perimeter(part)))
+            continue;
+        area += partArea;
+        const RingExtent partExtent = PlaneShape::extent(part);
+        extent.include(partExtent.minX, partExtent.minY);
+        extent.include(partExtent.maxX, partExtent.maxY);
+        if (largest.outer.empty() || partArea > polygonArea(largest))
+            largest = std::move(part);
+    }
+    if (largest.outer.empty())
+        return;
+    const bool isSame = area > sameShape * std::max(MapView::area(one), MapView::area(other));
+    const PlaneVertex point = pointInside(geos, largest);
+    MapFinding finding;
+    finding.kind = isSame ? MapFinding::Kind::Duplicate : MapFinding::Kind::Overlap;
+    finding.records = {std::min(one.record, other.record)};
+    if (one.record != other.record)
+        finding.records.append(std::max(one.record, other.record));
+    finding.area = area;
+    finding.place = QPointF(point.x, point.y);
+    finding.extent = PlaneShape::rectangle(extent);
+    const QString who = textOf(finding.records);
+    if (one.record == other.record)
+        finding.text = QStringLiteral("parts of %1 overlap on %2").arg(who, squareMetres(area));
+    else if (isSame)
+        finding.text = QStringLiteral("%1 have the same shape, %2").arg(who, squareMetres(area));
+    else
+        finding.text = QStringLiteral("%1 overlap on %2").arg(who, squareMetres(area));
+    findings.add(finding, area);
+}

@@ -1,0 +1,80 @@
+#include "mapchecker.h"
+
+#include "mapcheck.h"
+
+#include <QMetaObject>
+
+#include <exception>
+#include <utility>
+
+MapChecker::MapChecker(QObject *owner, Done whenDone)
+    : context(owner)
+    , done(std::move(whenDone))
+{
+}
+
+MapChecker::~MapChecker()
+{
+    for (const std::shared_ptr<Job> &job : jobs)
+        job->cancelled = true;
+    if (worker.joinable())
+        worker.join();
+}
+
+std::optional<QList<MapFinding>> MapChecker::findings(const CheckInput &input, double machineWidth,
+                                                      const LoadControl &control)
+{
+    try {
+        const MapView map(input.chain->first(), input.records, input.chain->mappings(), input.joinedHoles);
+        return MapCheck::run(map, {machineWidth, input.columns}, control);
+    } catch (const std::exception &) {
+        // There is not enough memory for it; the map itself stands.
+        return {};
+    }
+}
+
+void MapChecker::start(const QString &group, const CheckInput &input, double machineWidth)
+{
+    drop(group);
+    auto job = std::make_shared<Job>();
+    job->group = group;
+    job->input = input;
+    job->machineWidth = machineWidth;
+    jobs.push_back(job);
+    if (jobs.size() == 1)
+        startNext();
+}
+
+void MapChecker::drop(const QString &group)
+{
+    for (const std::shared_ptr<Job> &job : jobs) {
+        if (job->group == group)
+            job->cancelled = true;
+    }
+}
+
+void MapChecker::startNext()
+{
+    if (worker.joinable())
+        worker.join();
+    if (jobs.empty())
+        return;
+    const std::shared_ptr<Job> job = jobs.front();
+    worker = std::thread([this, job] {
+        LoadControl control;
+        control.cancelled = &job->cancelled;
+        const std::optional<QList<MapFinding>> found = findings(job->input, job->machineWidth, control);
+        // The thread is joined before this goes, and this goes before the context.
+        QMetaObject::invokeMethod(
+            context, [this, found] { finish(found); }, Qt::QueuedConnection);
+    });
+}
+
+void MapChecker::finish(const std::optional<QList<MapFinding>> &found)
+{
+    const std::shared_ptr<Job> job = jobs.front();
+    jobs.pop_front();
+    startNext();
+    if (found && !job->cancelled)
+        done(job->group, *found);
+}

@@ -1,0 +1,88 @@
+#include "fieldview.h"
+#include "machine.h"
+#include "terminaltest.h"
+#include "terminalwindow.h"
+
+#include <QAbstractButton>
+#include <QSignalSpy>
+
+/// What the map check finds, as the operator comes to see it.
+class TestFindingsDisplay : public TerminalTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aCleanMapShowsNoButton();
+    void theButtonCountsAndGoesWithTheMap();
+    void aTouchedFindingIsShownOnTheMap();
+    void theMapOfATouchedFindingIsShown();
+    void whatLiesNowhereCannotBeTouched();
+
+private:
+    QAbstractButton *button(const char *name) { return find<QAbstractButton>(name); }
+    template <typename Widget> Widget *find(const char *name)
+    {
+        return terminal().window()->findChild<Widget *>(QLatin1String(name));
+    }
+};
+
+void TestFindingsDisplay::aCleanMapShowsNoButton()
+{
+    QSignalSpy checked(terminal().backend(), &PrescriptionBackend::checked);
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    QVERIFY(checked.wait());
+    QVERIFY(!button("findingsButton")->isVisible());
+    QVERIFY(!find<QWidget>("findingsPage")->isVisible());
+}
+
+void TestFindingsDisplay::theButtonCountsAndGoesWithTheMap()
+{
+    const LoadReport overlap = open("overlap.geojson", {"rate"});
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    QCOMPARE(button("findingsButton")->text(), QStringLiteral("2"));
+    QVERIFY(!find<QWidget>("findingsPage")->isVisible());
+    QVERIFY(open("bow-tie.geojson", {"rate"}).isOk());
+    QTRY_COMPARE(button("findingsButton")->text(), QStringLiteral("4"));
+    QVERIFY(terminal().close(overlap.group));
+    QCOMPARE(button("findingsButton")->text(), QStringLiteral("2"));
+}
+
+void TestFindingsDisplay::aTouchedFindingIsShownOnTheMap()
+{
+    QVERIFY(open("overlap.geojson", {"rate"}).isOk());
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    button("findingsButton")->click();
+    QVERIFY(find<QWidget>("findingsPage")->isVisible());
+    QVERIFY(button("finding1")->text().contains(QStringLiteral("overlap")));
+    QVERIFY(button("finding1")->height() >= 56);
+    const double before = terminal().window()->fieldView()->camera().distance();
+    button("finding1")->click();
+    QVERIFY(!find<QWidget>("findingsPage")->isVisible());
+    const Camera &camera = terminal().window()->fieldView()->camera();
+    QVERIFY(camera.distance() < before);
+    QVERIFY(terminal().touch(camera.target()).startsWith(QStringLiteral("Rx Rate")));
+}
+
+void TestFindingsDisplay::theMapOfATouchedFindingIsShown()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    QVERIFY(open("overlap.geojson", {QString(), "rate"}).isOk());
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    QCOMPARE(terminal().machine()->activeProduct(), 1);
+    button("findingsButton")->click();
+    button("finding1")->click();
+    QCOMPARE(terminal().machine()->activeProduct(), 2);
+}
+
+void TestFindingsDisplay::whatLiesNowhereCannotBeTouched()
+{
+    QVERIFY(open("overlap.geojson", {"rate"}).isOk());
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    button("findingsButton")->click();
+    QVERIFY(button("finding0")->text().contains(QStringLiteral("unit")));
+    QVERIFY(!button("finding0")->isEnabled());
+    button("findingsClose")->click();
+    QVERIFY(!find<QWidget>("findingsPage")->isVisible());
+}
+
+RXMAP_TEST(TestFindingsDisplay, Widgets)
+#include "tst_findingsdisplay.moc"
