@@ -38,6 +38,7 @@ QString list(const std::vector<const ZipArchive::Entry *> &entries)
 
 ArchivedPrescription::ArchivedPrescription(const QString &path, const QString &innerPath)
     : archive(path)
+    , isKmz(isSame(QFileInfo(path).suffix(), QStringLiteral("kmz")))
     , inner(innerPath)
 {
 }
@@ -74,13 +75,11 @@ QString ArchivedPrescription::unpack(const QDir &folder)
 
 const ZipArchive::Entry *ArchivedPrescription::choose()
 {
-    const QStringList endings = PrescriptionFile::endings();
     std::vector<const ZipArchive::Entry *> found;
     for (const ZipArchive::Entry &entry : archive.entries()) {
         if (isSame(entry.path, inner))
             return &entry;
-        const bool isInside = inner.isEmpty() || entry.path.startsWith(inner + QLatin1Char('/'), Qt::CaseInsensitive);
-        if (isInside && !isLitter(entry) && endings.contains(QFileInfo(entry.name()).suffix(), Qt::CaseInsensitive))
+        if (isCandidate(entry))
             found.push_back(&entry);
     }
     // A .json beside a prescription of another format describes the archive.
@@ -89,6 +88,7 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
     };
     if (!std::all_of(found.begin(), found.end(), isJson))
         found.erase(std::remove_if(found.begin(), found.end(), isJson), found.end());
+    keepDocument(found);
     if (found.size() == 1)
         return found.front();
     const QString place = inner.isEmpty() ? QString() : QStringLiteral(" in \"%1\"").arg(inner);
@@ -98,6 +98,30 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
         fail(QStringLiteral("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
                  .arg(place, list(found)));
     return nullptr;
+}
+
+bool ArchivedPrescription::isCandidate(const ZipArchive::Entry &entry) const
+{
+    const bool isInside = inner.isEmpty() || entry.path.startsWith(inner + QLatin1Char('/'), Qt::CaseInsensitive);
+    // The only task data of an archive is not looked for here, but may be one of several prescriptions.
+    const bool isTaskData = isSame(entry.name(), QStringLiteral("TASKDATA.XML"));
+    const QString ending = QFileInfo(entry.name()).suffix();
+    return isInside && !isLitter(entry)
+        && (isTaskData || PrescriptionFile::endings().contains(ending, Qt::CaseInsensitive));
+}
+
+void ArchivedPrescription::keepDocument(std::vector<const ZipArchive::Entry *> &found)
+{
+    const auto document = std::find_if(found.begin(), found.end(), [](const ZipArchive::Entry *entry) {
+        return isSame(entry->path, QStringLiteral("doc.kml"));
+    });
+    QByteArray text;
+    if (!isKmz || document == found.end() || found.size() == 1 || !archive.unpack(**document, text))
+        return;
+    if (text.contains("Placemark"))
+        found = {*document};
+    else
+        found.erase(document);
 }
 
 std::vector<const ZipArchive::Entry *> ArchivedPrescription::withParts(const ZipArchive::Entry &main) const

@@ -18,11 +18,16 @@ public:
 private:
     bool fail(const QString &text);
     const ZipArchive::Entry *choose();
+    /// Whether an entry may be the prescription.
+    bool isCandidate(const ZipArchive::Entry &entry) const;
+    /// Of a .kmz the document at its root is the one to open, unless it does but link to the others.
+    void keepDocument(std::vector<const ZipArchive::Entry *> &found);
     /// The entry, and the parts of a Shapefile beside it.
     std::vector<const ZipArchive::Entry *> withParts(const ZipArchive::Entry &main) const;
     bool write(const ZipArchive::Entry &entry, const QString &path);
 
     ZipArchive archive;
+    bool isKmz;
     QString inner;
     QString reason;
 };

@@ -4,6 +4,8 @@
 #include <QTextCodec>
 #include <QtEndian>
 
+#include <algorithm>
+#include <boost/crc.hpp>
 #include <cpl_conv.h>
 
 namespace {
@@ -37,6 +39,13 @@ QString decode(const QByteArray &name)
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(name.constData(), name.size(), &state);
     QTextCodec *old = QTextCodec::codecForName("IBM850");
     return (state.invalidChars == 0 && state.remainingChars == 0) || old == nullptr ? text : old->toUnicode(name);
+}
+
+quint32 checksumOf(const QByteArray &bytes)
+{
+    boost::crc_32_type checksum;
+    checksum.process_bytes(bytes.constData(), static_cast<size_t>(bytes.size()));
+    return checksum.checksum();
 }
 
 bool leavesArchive(const QString &path)
@@ -134,6 +143,12 @@ bool ZipArchive::readDirectory(const QByteArray &directory, int count, qint64 sh
     return true;
 }
 
+const ZipArchive::Entry *ZipArchive::entry(const QString &path) const
+{
+    const auto found = std::find_if(files.begin(), files.end(), [&path](const Entry &any) { return any.path == path; });
+    return found == files.end() ? nullptr : &*found;
+}
+
 bool ZipArchive::unpack(const Entry &entry, QByteArray &bytes)
 {
     if (entry.isEncrypted)
@@ -146,7 +161,7 @@ bool ZipArchive::unpack(const Entry &entry, QByteArray &bytes)
         ? bytesAt(entry.offset + fileHeaderSize + shortAt(header, 26) + shortAt(header, 28), entry.packedSize)
         : QByteArray();
     const bool isWhole = isHeader && packed.size() == entry.packedSize;
-    if (isWhole && entry.method == 0 && entry.size == entry.packedSize) {
+    if (isWhole && entry.method == 0 && entry.size == entry.packedSize && checksumOf(packed) == entry.checksum) {
         bytes = packed;
         return true;
     }

@@ -43,6 +43,8 @@ public:
     bool open();
     /// Files, no folders, in the directory's order.
     const std::vector<Entry> &entries() const { return files; }
+    /// The first one with exactly that path; null when there is none.
+    const Entry *entry(const QString &path) const;
     /// False, with the reason in error(), when the entry is damaged or larger than it says.
     bool unpack(const Entry &entry, QByteArray &bytes);
     QString error() const { return reason; }

@@ -5,6 +5,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -72,18 +73,17 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
         return fail(QStringLiteral("%1: there is no file %2.BIN beside it").arg(grid.place, base));
     const qint64 wanted = grid.rows * grid.columns * bytesPerCell;
     QString error;
-    const bool isRead = folder.read(file, wanted, bytes, error);
-    if (bytes.size() == wanted)
-        return isRead || fail(error);
-    const qint64 found = bytes.size() < wanted ? bytes.size() : folder.sizeOf(file);
-    const QString amount = found > wanted || bytes.size() < wanted ? QString::number(found) : QStringLiteral("more");
-    if (!isRead && bytes.isEmpty())
+    // A file too long is not read at all.
+    if (folder.sizeOf(file) <= wanted && !folder.read(file, wanted, bytes, error))
         return fail(error);
+    if (bytes.size() == wanted)
+        return true;
+    const qint64 found = std::max(folder.sizeOf(file), qint64(bytes.size()));
     return fail(QStringLiteral("%1 is too %2 for %3 x %4 cells: %5 of %6 bytes")
-                    .arg(file, bytes.size() < wanted ? QStringLiteral("short") : QStringLiteral("long"))
+                    .arg(file, found < wanted ? QStringLiteral("short") : QStringLiteral("long"))
                     .arg(grid.rows)
                     .arg(grid.columns)
-                    .arg(amount)
+                    .arg(found)
                     .arg(wanted));
 }
 

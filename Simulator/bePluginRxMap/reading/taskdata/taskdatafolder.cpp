@@ -1,26 +1,32 @@
 #include "taskdatafolder.h"
 
+#include "ziparchive.h"
+
 #include <QDir>
 #include <QFileInfo>
 
-#include <cpl_vsi.h>
-#include <memory>
+#include <algorithm>
 
 namespace {
 
-/// Archives with more entries are not searched.
-constexpr int mostEntries = 20000;
-
-struct DirClose {
-    void operator()(VSIDIR *dir) const { VSICloseDir(dir); }
-};
-struct FileClose {
-    void operator()(VSILFILE *file) const { VSIFCloseL(file); }
-};
-
-bool isMainFile(const QString &name)
+bool isXml(const QString &name)
 {
-    return name.compare(QLatin1String("TASKDATA.XML"), Qt::CaseInsensitive) == 0;
+    return name.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
+}
+
+/// Path of the file in the archive that task data begins with: that of the wanted file, else of the only TASKDATA.XML
+/// in the wanted folder. Empty when there is none, or several.
+QString mainEntry(const ZipArchive &archive, const QString &wanted)
+{
+    QStringList found;
+    for (const ZipArchive::Entry &entry : archive.entries()) {
+        if (isXml(entry.path) && entry.path.compare(wanted, Qt::CaseInsensitive) == 0)
+            return entry.path;
+        const bool isInside = wanted.isEmpty() || entry.path.startsWith(wanted + QLatin1Char('/'), Qt::CaseInsensitive);
+        if (isInside && TaskDataFolder::isMainFile(entry.name()))
+            found.append(entry.path);
+    }
+    return found.size() == 1 ? found.first() : QString();
 }
 
 } // namespace
@@ -28,15 +34,21 @@ bool isMainFile(const QString &name)
 TaskDataFolder::TaskDataFolder(const QString &path)
 {
     const QFileInfo info(path);
-    const QString suffix = info.suffix().toLower();
     if (info.isDir()) {
         takeFolder(info.absoluteFilePath());
-    } else if (info.isFile() && suffix == QLatin1String("xml")) {
+    } else if (info.isFile() && isXml(path)) {
         takeFolder(info.absolutePath());
         main = info.fileName();
-    } else if (info.isFile() && suffix == QLatin1String("zip")) {
-        takeArchive(info.absoluteFilePath());
+    } else {
+        takeArchive(path);
     }
+}
+
+TaskDataFolder::~TaskDataFolder() = default;
+
+bool TaskDataFolder::isMainFile(const QString &name)
+{
+    return name.compare(QLatin1String("TASKDATA.XML"), Qt::CaseInsensitive) == 0;
 }
 
 void TaskDataFolder::takeFolder(const QString &path)
@@ -44,34 +56,24 @@ void TaskDataFolder::takeFolder(const QString &path)
     prefix = path + QLatin1Char('/');
     // A pipe would be waited on without end.
     names = QDir(path).entryList(QDir::Files, QDir::Name);
-    for (const QString &name : qAsConst(names)) {
-        if (isMainFile(name) && main.isEmpty())
-            main = name;
-    }
+    const auto found = std::find_if(names.cbegin(), names.cend(), isMainFile);
+    main = found == names.cend() ? QString() : *found;
 }
 
 void TaskDataFolder::takeArchive(const QString &path)
 {
-    const QString root = QStringLiteral("/vsizip/{%1}").arg(path);
-    const std::unique_ptr<VSIDIR, DirClose> archive(VSIOpenDir(root.toUtf8().constData(), -1, nullptr));
-    // Entries whose paths leave the archive are none to GDAL.
-    QStringList entries;
-    const VSIDIREntry *entry = nullptr;
-    while (archive && entries.size() < mostEntries && (entry = VSIGetNextDirEntry(archive.get())) != nullptr) {
-        if (!VSI_ISDIR(entry->nMode))
-            entries.append(QString::fromUtf8(entry->pszName));
-    }
-    QString folder;
-    for (const QString &name : qAsConst(entries)) {
-        if (!isMainFile(name.section(QLatin1Char('/'), -1)) || !main.isEmpty())
-            continue;
-        main = name.section(QLatin1Char('/'), -1);
-        folder = name.left(name.size() - main.size());
-    }
-    prefix = root + QLatin1Char('/') + folder;
-    for (const QString &name : qAsConst(entries)) {
-        if (name.startsWith(folder) && !name.midRef(folder.size()).contains(QLatin1Char('/')))
-            names.append(name.mid(folder.size()));
+    QString inner;
+    const QString whole = ZipArchive::find(path, inner);
+    if (whole.isEmpty())
+        return;
+    archive = std::make_unique<ZipArchive>(whole);
+    // What is wrong with an archive is told by those who look for other prescriptions in it.
+    const QString entry = archive->open() ? mainEntry(*archive, inner) : QString();
+    main = entry.section(QLatin1Char('/'), -1);
+    prefix = entry.left(entry.size() - main.size());
+    for (const ZipArchive::Entry &any : archive->entries()) {
+        if (any.path.size() - any.name().size() == prefix.size() && any.path.startsWith(prefix))
+            names.append(any.name());
     }
 }
 
@@ -90,29 +92,37 @@ QString TaskDataFolder::find(const QString &baseName, const QString &extension) 
 
 bool TaskDataFolder::read(const QString &name, qint64 most, QByteArray &bytes, QString &error) const
 {
-    const std::unique_ptr<VSILFILE, FileClose> file(VSIFOpenL((prefix + name).toUtf8().constData(), "rb"));
-    if (!file) {
-        error = QStringLiteral("%1 cannot be opened").arg(name);
+    if (sizeOf(name) > most) {
+        error = QStringLiteral("%1 has more than %2 bytes").arg(name).arg(most);
         return false;
     }
-    // What an archive says of sizes may be wrong.
-    qint64 part = qBound(qint64(0), sizeOf(name), most) + 1;
-    bytes.clear();
-    for (bool isAll = false; !isAll && bytes.size() <= most; part = 1 << 20) {
-        const int before = bytes.size();
-        bytes.resize(before + static_cast<int>(part));
-        const size_t read = VSIFReadL(bytes.data() + before, 1, static_cast<size_t>(part), file.get());
-        bytes.resize(before + static_cast<int>(read));
-        isAll = static_cast<qint64>(read) < part;
-    }
-    if (bytes.size() > most)
-        error = QStringLiteral("%1 has more than %2 bytes").arg(name).arg(most);
-    return bytes.size() <= most;
+    return archive ? unpack(name, bytes, error) : readFile(name, bytes, error);
+}
+
+bool TaskDataFolder::readFile(const QString &name, QByteArray &bytes, QString &error) const
+{
+    QFile file(prefix + name);
+    const qint64 size = file.open(QIODevice::ReadOnly) ? file.size() : -1;
+    bytes = size > 0 ? file.read(size) : QByteArray();
+    const bool isRead = size >= 0 && file.error() == QFileDevice::NoError;
+    if (!isRead)
+        error = QStringLiteral("%1 cannot be read: %2").arg(name, file.errorString());
+    return isRead;
+}
+
+bool TaskDataFolder::unpack(const QString &name, QByteArray &bytes, QString &error) const
+{
+    const ZipArchive::Entry *entry = archive->entry(prefix + name);
+    const bool isRead = entry != nullptr && archive->unpack(*entry, bytes);
+    if (!isRead)
+        error = archive->error();
+    return isRead;
 }
 
 qint64 TaskDataFolder::sizeOf(const QString &name) const
 {
-    VSIStatBufL stat;
-    const bool isThere = VSIStatL((prefix + name).toUtf8().constData(), &stat) == 0;
-    return isThere ? static_cast<qint64>(stat.st_size) : -1;
+    if (!archive)
+        return QFileInfo(prefix + name).size();
+    const ZipArchive::Entry *entry = archive->entry(prefix + name);
+    return entry == nullptr ? -1 : entry->size;
 }

@@ -4,6 +4,7 @@
 #include "testbase.h"
 
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <ogrsf_frmts.h>
 
@@ -20,12 +21,16 @@ private Q_SLOTS:
     void refusesArchivesThatItCannotUse();
     void refusesDamage_data();
     void refusesDamage();
+    void checksWhatIsStoredWithoutCompression();
+    void opensTheDocumentOfAKmz_data();
+    void opensTheDocumentOfAKmz();
     void leavesNothingBehind();
 
 private:
     QString archive() const { return folder.filePath(QStringLiteral("fields.zip")); }
     /// Packs files; "name=fixture" packs the file of that name in `files` under another one.
-    bool pack(const QStringList &entries) const;
+    bool pack(const QStringList &entries) const { return pack(archive(), entries); }
+    bool pack(const QString &path, const QStringList &entries) const;
     static QByteArray bytesOf(const QString &path);
     QString errorOf(const QString &path) const;
 
@@ -44,6 +49,11 @@ void ArchivedPrescriptionTest::initTestCase()
     QVERIFY(sketch.write(files.filePath("a.gpkg")));
     sketch.driver = "LIBKML";
     QVERIFY(sketch.write(files.filePath("a.kml")));
+    sketch.name = "other";
+    QVERIFY(sketch.write(files.filePath("b.kml")));
+    QFile links(files.filePath("links.kml"));
+    QVERIFY(links.open(QIODevice::WriteOnly) && links.write("<kml><Document><NetworkLink/></Document></kml>") > 0);
+    links.close();
     QFile text(files.filePath("a.json"));
     QVERIFY(text.open(QIODevice::WriteOnly) && text.write("{\"crop\": \"maize\"}") > 0);
 }
@@ -54,12 +64,12 @@ void ArchivedPrescriptionTest::init()
     QFile::remove(archive());
 }
 
-bool ArchivedPrescriptionTest::pack(const QStringList &entries) const
+bool ArchivedPrescriptionTest::pack(const QString &path, const QStringList &entries) const
 {
     QList<QPair<QString, QString>> packed;
     for (const QString &entry : entries)
         packed.append({entry.section('=', 0, 0), files.filePath(entry.section('=', -1))});
-    return packFiles(archive(), packed);
+    return packFiles(path, packed);
 }
 
 QByteArray ArchivedPrescriptionTest::bytesOf(const QString &path)
@@ -128,6 +138,10 @@ void ArchivedPrescriptionTest::refusesArchivesThatItCannotUse_data()
     QTest::newRow("two") << QStringList{"a.gpkg", "b/b.kml=a.kml"} << ""
                          << "is an archive that holds several prescriptions: a.gpkg, b/b.kml; open one by its path in "
                             "the archive";
+    QTest::newRow("several task data")
+        << QStringList{"a/TASKDATA.XML=a.json", "b/taskdata.xml=a.json"} << ""
+        << "is an archive that holds several prescriptions: a/TASKDATA.XML, b/taskdata.xml; open one by its path in "
+           "the archive";
     QTest::newRow("none of that name") << QStringList{"a.gpkg"} << "/b.gpkg"
                                        << "is an archive that holds no prescription in \"b.gpkg\"";
     QTest::newRow("Shapefile without its table") << QStringList{"a.shp", "a.shx"} << ""
@@ -195,6 +209,64 @@ void ArchivedPrescriptionTest::refusesDamage()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     file.close();
     QTEST(errorOf(archive()), "reason");
+}
+
+void ArchivedPrescriptionTest::checksWhatIsStoredWithoutCompression()
+{
+    const QByteArray content = "{\"type\": \"FeatureCollection\", \"features\": []}";
+    const auto number = [](quint32 value) {
+        char bytes[4];
+        qToLittleEndian(value, bytes);
+        return QByteArray(bytes, sizeof bytes);
+    };
+    const auto size = static_cast<quint32>(content.size());
+    // The checksum of these bytes by another program.
+    const QByteArray about = number(0xaa36bd3f) + number(size) + number(size) + QByteArray("\x9\0\0\0", 4);
+    const QByteArray file = "PK\x03\x04" + QByteArray(10, '\0') + about + "a.geojson" + content;
+    const QByteArray directory = "PK\x01\x02" + QByteArray(12, '\0') + about + QByteArray(14, '\0') + "a.geojson";
+    const QByteArray end = "PK\x05\x06" + QByteArray("\0\0\0\0\1\0\1\0", 8)
+        + number(static_cast<quint32>(directory.size())) + number(static_cast<quint32>(file.size()))
+        + QByteArray(2, '\0');
+    for (const bool isDamaged : {false, true}) {
+        QByteArray whole = file + directory + end;
+        if (isDamaged)
+            whole.replace("[]", "{}");
+        QFile packed(archive());
+        QVERIFY(packed.open(QIODevice::WriteOnly) && packed.write(whole) == whole.size());
+        packed.close();
+        QCOMPARE(errorOf(archive()), isDamaged ? "\"a.geojson\" in it is damaged" : "is opened");
+    }
+}
+
+void ArchivedPrescriptionTest::opensTheDocumentOfAKmz_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QString>("opened");
+    const QStringList document{"layers/b.kml=b.kml", "DOC.kml=a.kml", "layers/c.kml=b.kml"};
+    QTest::newRow("beside others") << "a.kmz" << document << "layer";
+    QTest::newRow("one that links to another")
+        << "a.KMZ" << QStringList{"doc.kml=links.kml", "layers/b.kml=b.kml"} << "other";
+    QTest::newRow("one that links to others")
+        << "a.kmz" << QStringList{"doc.kml=links.kml", "b.kml", "c.kml=b.kml"}
+        << "is an archive that holds several prescriptions: b.kml, c.kml; open one by its path in the archive";
+    QTest::newRow("in another archive")
+        << "b.zip" << document
+        << "is an archive that holds several prescriptions: layers/b.kml, DOC.kml, layers/c.kml; open one by its path "
+           "in the archive";
+}
+
+void ArchivedPrescriptionTest::opensTheDocumentOfAKmz()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, entries);
+    const QString path = folder.filePath(name);
+    QVERIFY(pack(path, entries));
+    const GdalSession session;
+    PrescriptionFile file(path);
+    const QString layer = file.open(session) ? QString::fromUtf8(file.dataset().GetLayer(0)->GetName()) : file.error();
+    QFile::remove(path);
+    QTEST(layer, "opened");
 }
 
 void ArchivedPrescriptionTest::leavesNothingBehind()

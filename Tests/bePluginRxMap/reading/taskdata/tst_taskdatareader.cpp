@@ -56,6 +56,10 @@ void TaskDataReaderTest::readsGridsOfValues_data()
     QTest::newRow("archive") << QByteArray("TASKDATA.XML") << QByteArray("GRD00001.BIN") << 4 << QByteArray("a.zip");
     QTest::newRow("archive in capitals, with folders")
         << QByteArray("taskdata.xml") << QByteArray("grd00001.bin") << 3 << QByteArray("B.ZIP");
+    QTest::newRow("folder of an archive")
+        << QByteArray("taskdata.xml") << QByteArray("grd00001.bin") << 3 << QByteArray("B.ZIP/USB");
+    QTest::newRow("file of an archive") << QByteArray("spring.xml") << QByteArray("GRD00001.BIN") << 4
+                                        << QByteArray("a.zip/spring.xml");
 }
 
 void TaskDataReaderTest::readsGridsOfValues()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void refusesCutOffXml();
     void refusesAnArchiveThatUnpacksWithoutEnd();
     void doesNotReadOutOfAnArchive();
+    void refusesADamagedArchive();
     void readsTenThousandZones();
     void refusesTooManyColumns();
     void namesTheTasksAndColumnsThatAreThere();
@@ -151,9 +152,19 @@ void TaskDataReaderRefusalsTest::doesNotReadOutOfAnArchive()
     QVERIFY((Sketch{threeCells(), 4, {{"../GRD00001.BIN", threeValues.first()}}}.writeArchive(path("a.zip"))));
     QVERIFY(Sketch({{}, 4, threeValues}).write(folder->path()));
     QVERIFY(!read(path("a.zip")));
-    QCOMPARE(error, QStringLiteral("TASKDATA.XML, line 4: there is no file GRD00001.BIN beside it"));
-    QVERIFY((Sketch{threeCells(), 4, threeValues}.writeArchive(path("b.zip"), "../")));
-    QVERIFY(!read(path("b.zip")));
+    QCOMPARE(error, QStringLiteral("the path of its entry \"../GRD00001.BIN\" leaves the archive"));
+}
+
+void TaskDataReaderRefusalsTest::refusesADamagedArchive()
+{
+    QVERIFY((Sketch{threeCells(), 4, threeValues}.writeArchive(path("a.zip"))));
+    QFile file(path("a.zip"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    // Within the grid's file, which was packed first: before the header of the next one.
+    QVERIFY(file.seek(file.readAll().indexOf("PK\x03\x04", 4) - 8) && file.write("????") == 4);
+    file.close();
+    QVERIFY(!read(path("a.zip")));
+    QCOMPARE(error, QStringLiteral("\"GRD00001.BIN\" in it is damaged"));
 }
 
 void TaskDataReaderRefusalsTest::readsTenThousandZones()
