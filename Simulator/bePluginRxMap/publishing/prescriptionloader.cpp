@@ -12,6 +12,7 @@
 #include <cmath>
 #include <exception>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -103,9 +104,14 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
 {
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
-    if (!readPolygons(map, ColumnPolicy::chanceOf))
+    const bool isRead = readPolygons(map, ColumnPolicy::chanceOf);
+    const QString lack = isRead ? FileSurvey(source, polygons).addColumns(policy, survey) : QString();
+    if (!lack.isEmpty())
+        fail(lack);
+    const bool isNoLayerTaken = source.layer.isEmpty() && source.layers.size() > 1;
+    if (!isRead && !isNoLayerTaken)
         return false;
-    QString lack = FileSurvey(source, polygons).addColumns(policy, survey);
+    survey.lackOfFeeds = std::exchange(report->error, QString());
     if (survey.columns.isEmpty()) {
         // Nothing in the table looks like a rate: the operator may know better.
         source = RawPrescription();
@@ -115,10 +121,10 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
         for (SurveyedColumn &column : survey.columns)
             column.product = 0;
     }
-    if (!lack.isEmpty())
-        survey.lackOfFeeds = QStringLiteral("%1: %2").arg(request.path, lack);
-    if (survey.columns.isEmpty())
-        return fail(lack);
+    if (survey.columns.isEmpty()) {
+        report->error = survey.lackOfFeeds;
+        return false;
+    }
     FileSurvey(source, polygons).addPicture(survey);
     control.report(1.0);
     return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void suggestsWhatALoadWouldFeed_data();
     void suggestsWhatALoadWouldFeed();
     void tellsAllColumnsWhereNoneLooksLikeARate();
+    void tellsAllColumnsOfALayerWhereNoLayerHasARate();
     void namesAColumnByItsNumberWhereItsNameStandsForAnother();
     void tellsWhichRecordIsSeenWhere();
     void classesEachRecord();
@@ -114,6 +115,28 @@ void PrescriptionBackendSurveyTest::tellsAllColumnsWhereNoneLooksLikeARate()
     for (const SurveyedColumn &column : report.columns)
         QCOMPARE(column.product, 0);
     QCOMPARE(report.columnNames, QStringList({"YIELD", "YEAR", "REMARK"}));
+}
+
+void PrescriptionBackendSurveyTest::tellsAllColumnsOfALayerWhereNoLayerHasARate()
+{
+    LayerSketch first;
+    first.driver = "GPKG";
+    first.name = "harvest";
+    first.fields = {{"YIELD", 1.0}};
+    first.rows = {{squareText(10, 50, 0.001), {7.5}}, {squareText(10.001, 50, 0.001), {8.5}}};
+    LayerSketch second = first;
+    second.name = "soil";
+    second.fields = {{"PH", 1.0}};
+    const QString path = folder.filePath(QStringLiteral("layers.gpkg"));
+    QVERIFY(writeLayers(path, {first, second}));
+    const SurveyReport report = survey(requestFor(path));
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QCOMPARE(report.lackOfFeeds, backend->loadAndWait(requestFor(path)).error);
+    QCOMPARE(report.layer, QStringLiteral("harvest"));
+    QCOMPARE(report.layers, QStringList({"harvest", "soil"}));
+    QCOMPARE(report.columns.size(), 1);
+    QCOMPARE(report.columns.first().name, QStringLiteral("YIELD"));
+    QCOMPARE(report.columns.first().product, 0);
 }
 
 void PrescriptionBackendSurveyTest::namesAColumnByItsNumberWhereItsNameStandsForAnother()
