@@ -1,6 +1,9 @@
 # Warnings, sanitizers and the language standard, in one place: link rxmap_cxx14 or rxmap_cxx17.
 
 set(RXMAP_WARNINGS -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    list(TRANSFORM RXMAP_WARNINGS REPLACE "=local" "")
+endif()
 if(RXMAP_WERROR)
     list(APPEND RXMAP_WARNINGS -Werror)
 endif()

@@ -108,6 +108,8 @@ void *metered(void *block)
 
 } // namespace
 
+// Every library is to find them, whatever the compiler takes the C library's headers to say.
+#pragma GCC visibility push(default)
 extern "C" {
 
 void *malloc(size_t size)
@@ -158,5 +160,6 @@ void free(void *block)
 }
 
 } // extern "C"
+#pragma GCC visibility pop
 
 #endif
