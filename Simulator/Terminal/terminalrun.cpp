@@ -49,6 +49,12 @@ QStringList withoutRepetition(const QStringList &paths)
     return files;
 }
 
+/// As many digits as files write.
+QString rateText(double rate)
+{
+    return QString::number(rate, 'g', 12);
+}
+
 /// "default rate 0 kg/ha (out of the field 0, elsewhere 148.15, position lost 148.15)"; empty where the file gives
 /// none.
 QString placeRatesText(const RateSource &source)
@@ -59,14 +65,14 @@ QString placeRatesText(const RateSource &source)
          {std::pair("out of the field", rates.outOfField), std::pair("elsewhere", rates.elsewhere),
           std::pair("position lost", rates.positionLost)}) {
         if (!std::isnan(rate))
-            parts.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(rate));
+            parts.append(QStringLiteral("%1 %2").arg(QLatin1String(name), rateText(rate)));
     }
     if (parts.isEmpty())
         return {};
     const QString list = parts.join(QStringLiteral(", "));
     return std::isnan(rates.defaultRate())
         ? QStringLiteral("rates without a prescription in %1: %2").arg(source.baseUnit, list)
-        : QStringLiteral("default rate %1 %2 (%3)").arg(rates.defaultRate()).arg(source.baseUnit, list);
+        : QStringLiteral("default rate %1 %2 (%3)").arg(rateText(rates.defaultRate()), source.baseUnit, list);
 }
 
 /// What feeds which product in the end: a later file may have taken a product over.

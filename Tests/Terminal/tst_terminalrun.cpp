@@ -299,7 +299,7 @@ void TestTerminalRun::theRatesAroundATaskAreTold()
     using Sketch = TaskDataSketch;
     const auto task = [](const QByteArray &name, int steps) {
         const QByteArray zones = Sketch::zone(1, Sketch::polygon({{11.0, 48.0, 0.01}}) + Sketch::value(6, steps))
-            + Sketch::zone(2, Sketch::value(6, 14815)) + Sketch::zone(3, Sketch::value(6, 0));
+            + Sketch::zone(2, Sketch::value(6, 12345678)) + Sketch::zone(3, Sketch::value(6, 0));
         return Sketch::task(name, zones, "H=\"2\" J=\"3\"");
     };
     QVERIFY(Sketch{task("TSK1", 10000) + task("TSK2", 20000)}.write(folder.path()));
@@ -310,7 +310,10 @@ void TestTerminalRun::theRatesAroundATaskAreTold()
     const QString product = folder.path() + QStringLiteral(": product 2 (Fertiliser): ");
     QCOMPARE(QString(outcome.output).remove(outcome.answer),
              product + QStringLiteral("Setpoint Mass Per Area Application Rate (mg/m2, from the format)\n") + product
-                 + QStringLiteral("default rate 0 kg/ha (out of the field 0, elsewhere 148.15)\n"));
+                 + QStringLiteral("default rate 0 kg/ha (out of the field 0, elsewhere 123456.78)\n"));
+    const QString script =
+        write("print(terminal.open('" + folder.path().toUtf8() + "').sources[0].elsewhere);", "a.js");
+    QCOMPARE(run({"--script", script}).output, QStringLiteral("123456.78\n"));
 }
 
 void TestTerminalRun::whatALoadCountsIsTold_data()

@@ -79,6 +79,12 @@ QString unitFromText(RateSource::UnitFrom from)
     return QStringLiteral("assumed");
 }
 
+/// Files write at most ten digits; those behind the twelfth come from the arithmetic.
+double withFilesDigits(double rate)
+{
+    return QString::number(rate, 'g', 12).toDouble();
+}
+
 QVariantMap describe(const RateSource &source)
 {
     QVariantMap described{{QStringLiteral("column"), source.column},
@@ -90,7 +96,7 @@ QVariantMap describe(const RateSource &source)
     for (const auto &[name, rate] : {std::pair("outOfField", rates.outOfField), std::pair("elsewhere", rates.elsewhere),
                                      std::pair("positionLost", rates.positionLost)}) {
         if (!std::isnan(rate))
-            described.insert(QLatin1String(name), rate);
+            described.insert(QLatin1String(name), withFilesDigits(rate));
     }
     return described;
 }
