@@ -64,7 +64,9 @@ bool PrescriptionReader::read(RawPrescription &map)
         return fail(reason.isEmpty() ? choice.error() : reason);
     readReference(*layer, file, map);
     RecordReader records(*layer, request.columns, judge, control);
-    if (!records.read(map))
+    const bool isRead = records.read(map);
+    // Where nothing could be read, what GDAL met with says more.
+    if (!isRead && (map.records > 0 || session.firstFailure().isEmpty()))
         return fail(records.error());
     return session.firstFailure().isEmpty() || fail(session.firstFailure());
 }

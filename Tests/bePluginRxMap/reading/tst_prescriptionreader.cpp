@@ -86,6 +86,11 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead_data()
                                  << "";
     QTest::newRow("no records") << "a.geojson" << QByteArray("{\"type\": \"FeatureCollection\", \"features\": []}")
                                 << "holds no";
+    QTest::newRow("cut GML") << "a.gml"
+                             << QByteArray("<ogr:FeatureCollection xmlns:ogr=\"http://ogr.maptools.org/\" "
+                                           "xmlns:gml=\"http://www.opengis.net/gml\"><gml:featureMember>"
+                                           "<ogr:layer><ogr:rate>1.5</ogr:rate></ogr:layer></gml:featureMember>")
+                             << "XML parsing of GML file failed";
     QTest::newRow("cut GeoPackage") << "a.gpkg" << QByteArray("SQLite format 3\0 and no more", 28) << "";
 }
 
