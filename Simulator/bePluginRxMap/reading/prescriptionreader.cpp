@@ -60,12 +60,14 @@ bool PrescriptionReader::read(RawPrescription &map)
         return fail(file.error());
     LayerChoice choice(file.dataset(), request, judge);
     OGRLayer *layer = checkTask() ? choice.choose(map) : nullptr;
+    // Where there is nothing to read, what GDAL met with says more.
+    if (layer == nullptr && reason.isEmpty())
+        return fail(session.firstFailure().isEmpty() ? choice.error() : session.firstFailure());
     if (layer == nullptr)
-        return fail(reason.isEmpty() ? choice.error() : reason);
+        return false;
     readReference(*layer, file, map);
     RecordReader records(*layer, request.columns, judge, control);
     const bool isRead = records.read(map);
-    // Where nothing could be read, what GDAL met with says more.
     if (!isRead && (map.records > 0 || session.firstFailure().isEmpty()))
         return fail(records.error());
     return session.firstFailure().isEmpty() || fail(session.firstFailure());
