@@ -3,6 +3,7 @@
 #include "Backend/prescriptionbackend.h"
 #include "cellfile.h"
 #include "gdalsession.h"
+#include "gridfile.h"
 #include "paths.h"
 #include "sidebyside.h"
 
@@ -115,32 +116,6 @@ void loadCells(benchmark::State &state)
     load(state, path);
 }
 
-constexpr int gridSide = 500;
-
-/// Task data with a grid of one rate for each cell of 10 m, in patches as fields have them: five rates that follow two
-/// waves of different direction.
-void writeGrid(const QString &folder)
-{
-    const QByteArray xml =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ISO11783_TaskData VersionMajor=\"4\" VersionMinor=\"3\">\n"
-        "<TSK A=\"TSK1\" B=\"Grid\" G=\"1\">\n<GRD A=\"48.0\" B=\"11.0\" C=\"9.0E-5\" D=\"1.34E-4\" E=\"500\" "
-        "F=\"500\" G=\"GRD00001\" H=\"1000000\" I=\"2\" J=\"1\"/>\n<TZN A=\"1\"><PDV A=\"0006\" B=\"0\"/></TZN>\n"
-        "</TSK>\n</ISO11783_TaskData>\n";
-    QByteArray rates;
-    for (int row = 0; row < gridSide; ++row) {
-        for (int column = 0; column < gridSide; ++column) {
-            const double wave = std::sin(0.03 * column + 0.011 * row) + std::cos(0.027 * row - 0.008 * column);
-            const qint32 rate = qToLittleEndian(qint32(10000 + 2500 * std::lround(wave)));
-            rates.append(reinterpret_cast<const char *>(&rate), sizeof rate);
-        }
-    }
-    for (const auto &[name, bytes] : {std::pair("TASKDATA.XML", xml), std::pair("GRD00001.BIN", rates)}) {
-        QFile file(folder + QLatin1Char('/') + QLatin1String(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            throw std::runtime_error("the grid cannot be written");
-    }
-}
-
 /// What a reader of task data cannot do without: each attribute of the XML, and each number of the binary file.
 double readPlainly(const QString &folder)
 {
@@ -161,10 +136,10 @@ double readPlainly(const QString &folder)
     return rates.back();
 }
 
-void loadGrid(benchmark::State &state)
+void loadGrid(benchmark::State &state, GridContent content)
 {
     const QTemporaryDir folder;
-    writeGrid(folder.path());
+    writeGridFile(folder.path(), content);
     Loading loading(folder.path());
     compareSideBySide(
         state, "over_read", [&loading] { loading.load(); },
@@ -187,5 +162,9 @@ const bool areRealMapsAdded = [] {
 
 } // namespace
 
-BENCHMARK(loadGrid)->Name("LoadGrid/250k")->UseManualTime()->Iterations(15);
+BENCHMARK_CAPTURE(loadGrid, zones, GridContent::Zones)->Name("LoadGrid/250k")->UseManualTime()->Iterations(15);
+BENCHMARK_CAPTURE(loadGrid, different, GridContent::Different)
+    ->Name("LoadGrid/250k-different")
+    ->UseManualTime()
+    ->Iterations(15);
 BENCHMARK(loadCells)->Name("Load/cells-100k")->UseManualTime()->Iterations(15);

@@ -94,6 +94,8 @@ struct RawPrescription {
     /// Said of the file where `reference` is null.
     QString lackOfReference = QStringLiteral("names no coordinate system");
     int records = 0;
+    /// Records stand for several equal cells each: their values are not the records' own numbers or totals.
+    bool hasJoinedCells = false;
     // Records that were left out, and why.
     std::vector<int> emptyRecords;     ///< Without geometry, or with rings that enclose nothing only.
     std::vector<int> otherRecords;     ///< Points and lines.

@@ -137,7 +137,7 @@ void PrescriptionLoaderFuzz::survivesDamagedTaskData()
                         {{"GRD00001.BIN", "\1\2\1\2\1\1"}, {"TSK00001.XML", "<XFC>" + other + "</XFC>"}}};
     QVERIFY(sketch.write(folder.path()));
     QVERIFY(sketch.writeArchive(folder.filePath("map.zip")));
-    loadDamaged(target == "." ? folder.path() : folder.filePath(target), folder.filePath(part), 8, rounds);
+    loadDamaged(target == "." ? folder.path() : folder.filePath(target), folder.filePath(part), 7, rounds);
 }
 
 void PrescriptionLoaderFuzz::loadDamaged(const QString &target, const QString &part, unsigned records, int rounds)

@@ -83,8 +83,10 @@ bool ColumnContent::hasRates(const SourceColumn &column)
 bool ColumnContent::mayBeRates(const SourceColumn &column, const RawPrescription &map,
                                const std::vector<double> &recordAreas)
 {
-    return !column.isText && !isAllZero(column) && !isCounting(column) && !(column.isInteger && areNumbers(column))
-        && !areYears(column) && !isProportionalToArea(column, recordAreas) && !isPlace(column, map.xs)
+    const bool areOfRecords = !map.hasJoinedCells
+        && (isCounting(column) || (column.isInteger && areNumbers(column))
+            || isProportionalToArea(column, recordAreas));
+    return !column.isText && !isAllZero(column) && !areOfRecords && !areYears(column) && !isPlace(column, map.xs)
         && !isPlace(column, map.ys);
 }
 

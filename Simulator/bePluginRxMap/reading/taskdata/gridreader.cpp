@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int codesType = 1;
+constexpr qint64 cellsPerReport = 1 << 16;
 
 } // namespace
 
@@ -38,20 +39,24 @@ bool GridReader::read(const TaskGrid &grid, RawPrescription &map)
                         ? QStringLiteral("%1: the grid names no treatment zone (J)").arg(grid.place)
                         : QStringLiteral("%1: there is no treatment zone %2").arg(grid.place).arg(grid.zone));
     QByteArray bytes;
-    if (!checkSize(grid, zone, map) || !readBytes(grid, bytes))
+    if (!checkSize(grid, zone) || !readBytes(grid, bytes))
         return false;
+    GridRectangles joined(grid, bytes, static_cast<int>(bytesPerCell));
+    if (!join(grid, joined))
+        return false;
+    const std::vector<CellRectangle> &rectangles = joined.rectangles();
     if (grid.type != codesType)
-        takeValues(grid, *zone, bytes, map);
-    else if (!takeCodes(grid, bytes, map))
+        takeValues(grid, *zone, bytes, rectangles, map);
+    else if (!takeCodes(grid, bytes, rectangles, map))
         return false;
-    return appendCells(grid, map);
+    append(grid, rectangles, map);
+    return true;
 }
 
-bool GridReader::checkSize(const TaskGrid &grid, const TreatmentZone *zone, const RawPrescription &map)
+bool GridReader::checkSize(const TaskGrid &grid, const TreatmentZone *zone)
 {
-    const qint64 cells = grid.columns * grid.rows;
-    const qint64 known = map.records;
-    if (known + cells > mostCells || columns.areTooMany(known + cells))
+    cells += grid.columns * grid.rows;
+    if (cells > mostCells || columns.areTooMany(cells))
         return fail(QStringLiteral("%1: the grid of %2 x %3 cells is too large")
                         .arg(grid.place, QString::number(grid.rows), QString::number(grid.columns)));
     if (grid.south + grid.cellHeight * static_cast<double>(grid.rows) > 90.0
@@ -87,7 +92,25 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
                     .arg(wanted));
 }
 
-bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, RawPrescription &map)
+bool GridReader::join(const TaskGrid &grid, GridRectangles &joined)
+{
+    for (qint64 row = 0; row < grid.rows; ++row) {
+        if (control.isCancelled())
+            return fail(QStringLiteral("loading was cancelled"));
+        joined.addRow();
+        if ((row + 1) * grid.columns / cellsPerReport > row * grid.columns / cellsPerReport)
+            control.report(static_cast<double>(row + 1) / static_cast<double>(grid.rows));
+    }
+    return true;
+}
+
+const char *GridReader::bytesOf(const CellRectangle &rectangle, const TaskGrid &grid, const QByteArray &bytes) const
+{
+    return bytes.constData() + (rectangle.row * grid.columns + rectangle.column) * bytesPerCell;
+}
+
+bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, const std::vector<CellRectangle> &rectangles,
+                           RawPrescription &map)
 {
     constexpr size_t codes = 256;
     std::array<std::vector<double>, codes> rates;
@@ -97,63 +120,62 @@ bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, RawPre
         if (isByte && rates[static_cast<size_t>(zone.code)].empty())
             rates[static_cast<size_t>(zone.code)] = columns.ratesOf(zone);
     }
-    for (int i = 0; i < bytes.size(); ++i) {
-        const auto code = static_cast<quint8>(bytes.at(i));
-        const std::vector<double> &cell = rates[code];
-        if (cell.empty())
+    for (const CellRectangle &rectangle : rectangles) {
+        const auto code = static_cast<quint8>(*bytesOf(rectangle, grid, bytes));
+        const std::vector<double> &rate = rates[code];
+        if (rate.empty())
             return fail(QStringLiteral("%1: there is no treatment zone %2, which row %3, column %4 names")
                             .arg(file)
                             .arg(code)
-                            .arg(i / grid.columns + 1)
-                            .arg(i % grid.columns + 1));
-        for (size_t column = 0; column < cell.size(); ++column)
-            map.columns[column].values.push_back(cell[column]);
+                            .arg(rectangle.row + 1)
+                            .arg(rectangle.column + 1));
+        for (size_t column = 0; column < rate.size(); ++column)
+            map.columns[column].values.push_back(rate[column]);
     }
     return true;
 }
 
 void GridReader::takeValues(const TaskGrid &grid, const TreatmentZone &zone, const QByteArray &bytes,
-                            RawPrescription &map)
+                            const std::vector<CellRectangle> &rectangles, RawPrescription &map)
 {
     const std::vector<size_t> places = columns.placesOf(zone);
-    const auto cells = static_cast<size_t>(grid.rows * grid.columns);
-    const size_t known = static_cast<size_t>(map.records);
+    const auto known = static_cast<size_t>(map.records);
     for (SourceColumn &column : map.columns)
-        column.values.resize(known + cells, std::numeric_limits<double>::quiet_NaN());
+        column.values.resize(known + rectangles.size(), std::numeric_limits<double>::quiet_NaN());
     for (size_t i = 0; i < places.size(); ++i) {
         SourceColumn &column = map.columns[places[i]];
-        const char *bytesOfValue = bytes.constData() + i * sizeof(qint32);
-        for (size_t cell = 0; cell < cells; ++cell, bytesOfValue += bytesPerCell) {
-            const double rate = columns.rate(places[i], qFromLittleEndian<qint32>(bytesOfValue));
-            column.values[known + cell] = rate;
+        for (size_t k = 0; k < rectangles.size(); ++k) {
+            const char *value = bytesOf(rectangles[k], grid, bytes) + i * sizeof(qint32);
+            const double rate = columns.rate(places[i], qFromLittleEndian<qint32>(value));
+            column.values[known + k] = rate;
             if (std::isnan(rate))
-                column.unreadable.push_back(map.records + static_cast<int>(cell));
+                column.unreadable.push_back(map.records + static_cast<int>(k));
         }
     }
 }
 
-bool GridReader::appendCells(const TaskGrid &grid, RawPrescription &map)
+void GridReader::append(const TaskGrid &grid, const std::vector<CellRectangle> &rectangles, RawPrescription &map)
 {
-    constexpr size_t cellVertices = 5;
-    const auto cells = static_cast<size_t>(grid.rows * grid.columns);
-    map.rings.reserve(map.rings.size() + cells);
-    map.xs.reserve(map.xs.size() + cells * cellVertices);
-    map.ys.reserve(map.ys.size() + cells * cellVertices);
-    for (qint64 row = 0; row < grid.rows; ++row) {
-        if (control.isCancelled())
-            return fail(QStringLiteral("loading was cancelled"));
-        // The same sum for neighbours, so that they share their corners.
-        const double south = grid.south + static_cast<double>(row) * grid.cellHeight;
-        const double north = grid.south + static_cast<double>(row + 1) * grid.cellHeight;
-        for (qint64 column = 0; column < grid.columns; ++column) {
-            const double west = grid.west + static_cast<double>(column) * grid.cellWidth;
-            const double east = grid.west + static_cast<double>(column + 1) * grid.cellWidth;
-            map.rings.push_back({map.xs.size(), cellVertices, map.records, false});
-            map.xs.insert(map.xs.end(), {west, east, east, west, west});
-            map.ys.insert(map.ys.end(), {south, south, north, north, south});
-            ++map.records;
+    constexpr size_t corners = 4;
+    size_t vertex = map.xs.size();
+    map.rings.reserve(map.rings.size() + rectangles.size());
+    map.xs.resize(vertex + rectangles.size() * corners);
+    map.ys.resize(vertex + rectangles.size() * corners);
+    // The same sum for neighbours, so that they share their corners.
+    const auto longitude = [&grid](int column) { return grid.west + static_cast<double>(column) * grid.cellWidth; };
+    const auto latitude = [&grid](int row) { return grid.south + static_cast<double>(row) * grid.cellHeight; };
+    for (const CellRectangle &rectangle : rectangles) {
+        const double west = longitude(rectangle.column);
+        const double east = longitude(rectangle.column + rectangle.columns);
+        const double south = latitude(rectangle.row);
+        const double north = latitude(rectangle.row + rectangle.rows);
+        map.rings.push_back({vertex, corners, map.records, false});
+        for (const auto &[x, y] :
+             {std::pair(west, south), std::pair(east, south), std::pair(east, north), std::pair(west, north)}) {
+            map.xs[vertex] = x;
+            map.ys[vertex++] = y;
         }
-        control.report(static_cast<double>(row + 1) / static_cast<double>(grid.rows));
+        map.hasJoinedCells = map.hasJoinedCells || rectangle.columns * rectangle.rows > 1;
+        ++map.records;
     }
-    return true;
 }

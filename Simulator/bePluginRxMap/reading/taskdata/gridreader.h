@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gridrectangles.h"
 #include "loadcontrol.h"
 #include "rawprescription.h"
 #include "taskdata.h"
@@ -9,7 +10,8 @@
 class TaskColumns;
 class TaskDataFolder;
 
-/// Reads a grid of task data: one record for each cell, row by row from the south-west.
+/// Reads a grid of task data: one record for each rectangle of equal cells, in the order of their south-west cells, row
+/// by row from the south-west.
 class GridReader {
 public:
     /// Grids of more cells together are refused: no field has so many, and memory is bounded.
@@ -25,11 +27,16 @@ public:
 
 private:
     bool fail(const QString &text);
-    bool checkSize(const TaskGrid &grid, const TreatmentZone *zone, const RawPrescription &map);
+    bool checkSize(const TaskGrid &grid, const TreatmentZone *zone);
     bool readBytes(const TaskGrid &grid, QByteArray &bytes);
-    bool takeCodes(const TaskGrid &grid, const QByteArray &bytes, RawPrescription &map);
-    void takeValues(const TaskGrid &grid, const TreatmentZone &zone, const QByteArray &bytes, RawPrescription &map);
-    bool appendCells(const TaskGrid &grid, RawPrescription &map);
+    bool join(const TaskGrid &grid, GridRectangles &joined);
+    /// The bytes of a rectangle's cells, which are the same for each.
+    const char *bytesOf(const CellRectangle &rectangle, const TaskGrid &grid, const QByteArray &bytes) const;
+    bool takeCodes(const TaskGrid &grid, const QByteArray &bytes, const std::vector<CellRectangle> &rectangles,
+                   RawPrescription &map);
+    void takeValues(const TaskGrid &grid, const TreatmentZone &zone, const QByteArray &bytes,
+                    const std::vector<CellRectangle> &rectangles, RawPrescription &map);
+    static void append(const TaskGrid &grid, const std::vector<CellRectangle> &rectangles, RawPrescription &map);
 
     const TaskDataFolder &folder;
     const Task &task;
@@ -39,4 +46,6 @@ private:
     /// The grid's file as it is spelled.
     QString file;
     qint64 bytesPerCell = 0;
+    /// Of all grids so far.
+    qint64 cells = 0;
 };
