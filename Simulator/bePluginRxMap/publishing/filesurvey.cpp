@@ -59,10 +59,14 @@ SurveyedColumn FileSurvey::describe(int place) const
 void FileSurvey::classify(const SourceColumn &column, SurveyedColumn &told) const
 {
     std::vector<float> rates;
+    std::vector<int> counts;
     rates.reserve(polygons.size());
-    for (const PlanePolygon &polygon : polygons)
+    counts.reserve(polygons.size());
+    for (const PlanePolygon &polygon : polygons) {
         rates.push_back(static_cast<float>(column.values[static_cast<size_t>(polygon.record)]));
-    const LegendBuilder::Legend legend = LegendBuilder::build(rates);
+        counts.push_back(source.cellsOf(polygon.record));
+    }
+    const LegendBuilder::Legend legend = LegendBuilder::build(rates, 1.0, counts);
     told.legend = legend.classes;
     told.hasSingleRates = legend.hasSingleRates;
     told.leastRate = HUGE_VAL;
@@ -80,8 +84,9 @@ void FileSurvey::classify(const SourceColumn &column, SurveyedColumn &told) cons
         told.classes[record] = static_cast<char>(std::min<std::ptrdiff_t>(last, entry - told.legend.begin()));
         if (!hasPolygon[static_cast<size_t>(record)])
             continue;
-        ++records;
-        without += std::isfinite(rate) ? 0 : 1;
+        const int cells = source.cellsOf(record);
+        records += cells;
+        without += std::isfinite(rate) ? 0 : cells;
         if (std::isfinite(rate)) {
             told.leastRate = std::min(told.leastRate, rate);
             told.greatestRate = std::max(told.greatestRate, rate);

@@ -376,16 +376,19 @@ void PrescriptionLoader::buildLegends(LoadedMap &map) const
         areas.push_back(polygonArea(polygon));
     for (size_t i = 0; i < rates.mappings(); ++i) {
         std::vector<float> column;
+        std::vector<int> cells;
         column.reserve(polygons.size());
+        cells.reserve(polygons.size());
         double amount = 0.0;
         for (const PlanePolygon &polygon : polygons) {
             const float rate = rates.at(polygon.record, i);
             if (!std::isnan(rate))
                 amount += static_cast<double>(rate) * areas[column.size()] / squareMetresPerHectare;
             column.push_back(rate);
+            cells.push_back(source.cellsOf(polygon.record));
         }
         const int product = map.report.sources.at(static_cast<int>(i)).product - 1;
-        const auto legend = LegendBuilder::build(column, request.products.at(product).displayFactor);
+        const auto legend = LegendBuilder::build(column, request.products.at(product).displayFactor, cells);
         map.report.legends.append(legend.classes);
         map.report.hasSingleRates.append(legend.hasSingleRates);
         map.report.areas.append(LegendBuilder::areasOf(legend.classes, column, areas));

@@ -43,17 +43,42 @@ std::vector<double> singleRates(const std::vector<float> &finite, double factor)
     return limits;
 }
 
-/// Rates in the operator's unit, ascending: all, or a sample of many.
-std::vector<double> sortedSample(std::vector<float> positive, double factor)
-{
-    if (positive.size() > sampleSize) {
-        std::vector<float> drawn(sampleSize);
-        std::minstd_rand random;
-        std::generate(drawn.begin(), drawn.end(), [&] { return positive[random() % positive.size()]; });
-        positive.swap(drawn);
+/// Rates above zero, and for each how many polygons up to there have one.
+struct PositiveRates {
+    std::vector<float> rates;
+    std::vector<size_t> ends;
+
+    PositiveRates(const std::vector<float> &all, const std::vector<int> &counts)
+    {
+        rates.reserve(all.size());
+        ends.reserve(all.size());
+        size_t end = 0;
+        for (size_t i = 0; i < all.size(); ++i) {
+            if (!std::isfinite(all[i]) || all[i] <= 0.0F)
+                continue;
+            end += counts.empty() ? 1U : static_cast<size_t>(counts[i]);
+            rates.push_back(all[i]);
+            ends.push_back(end);
+        }
     }
-    std::sort(positive.begin(), positive.end());
-    std::vector<double> sample(positive.begin(), positive.end());
+    size_t polygons() const { return ends.empty() ? 0 : ends.back(); }
+    float of(size_t polygon) const
+    {
+        return rates[static_cast<size_t>(std::upper_bound(ends.begin(), ends.end(), polygon) - ends.begin())];
+    }
+};
+
+/// Rates of polygons in the operator's unit, ascending: all, or a sample of many.
+std::vector<double> sortedSample(const PositiveRates &positive, double factor)
+{
+    const size_t polygons = positive.polygons();
+    std::vector<float> drawn(std::min(polygons, sampleSize));
+    std::minstd_rand random;
+    size_t next = 0;
+    std::generate(drawn.begin(), drawn.end(),
+                  [&] { return positive.of(polygons > sampleSize ? random() % polygons : next++); });
+    std::sort(drawn.begin(), drawn.end());
+    std::vector<double> sample(drawn.begin(), drawn.end());
     for (double &rate : sample)
         rate *= factor;
     return sample;
@@ -127,16 +152,13 @@ std::vector<double> fittedLimits(const std::vector<double> &shownLimits, const s
     return used;
 }
 
-std::vector<double> classLimits(const std::vector<float> &finite, double factor)
+std::vector<double> classLimits(const std::vector<float> &finite, const PositiveRates &positive, double factor)
 {
     const bool hasZero = std::find(finite.begin(), finite.end(), 0.0F) != finite.end();
     const double maxRate = static_cast<double>(*std::max_element(finite.begin(), finite.end())) * factor;
     const size_t classes = LegendBuilder::maxClasses - (hasZero ? 1U : 0U);
-    std::vector<float> positive;
-    positive.reserve(finite.size());
-    std::copy_if(finite.begin(), finite.end(), std::back_inserter(positive), [](float rate) { return rate > 0.0F; });
     std::vector<double> limits =
-        fittedLimits(quantileLimits(sortedSample(positive, factor), classes, maxRate), positive, factor);
+        fittedLimits(quantileLimits(sortedSample(positive, factor), classes, maxRate), positive.rates, factor);
     if (hasZero)
         limits.insert(limits.begin(), 0.0);
     return limits;
@@ -159,7 +181,8 @@ QList<OrvikTypes::RX_RATECOLOR> coloured(const std::vector<double> &limits)
 
 } // namespace
 
-LegendBuilder::Legend LegendBuilder::build(const std::vector<float> &rates, double factor)
+LegendBuilder::Legend LegendBuilder::build(const std::vector<float> &rates, double factor,
+                                           const std::vector<int> &counts)
 {
     std::vector<float> finite;
     finite.reserve(rates.size());
@@ -171,7 +194,7 @@ LegendBuilder::Legend LegendBuilder::build(const std::vector<float> &rates, doub
     std::vector<double> limits = singleRates(finite, factor);
     legend.hasSingleRates = !limits.empty();
     if (limits.empty())
-        limits = classLimits(finite, factor);
+        limits = classLimits(finite, PositiveRates(rates, counts), factor);
     legend.classes = coloured(limits);
     if (finite.size() < rates.size())
         legend.classes.append({limits.back(), RateRamp::noRateColor()});

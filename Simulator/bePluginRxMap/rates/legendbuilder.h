@@ -28,8 +28,8 @@ public:
 
     /// `factor` takes rates to the operator's unit. Up to maxSingleRates rates that are shown differently have a class
     /// each; more are split into at most maxClasses classes of about equally many polygons at round limits, no two of
-    /// which are shown alike.
-    static Legend build(const std::vector<float> &rates, double factor = 1.0);
+    /// which are shown alike. `counts`: how many polygons each rate stands for; one each where it is empty.
+    static Legend build(const std::vector<float> &rates, double factor = 1.0, const std::vector<int> &counts = {});
 
     /// How much of `areas`, one per rate, each entry of a legend holds.
     static QList<double> areasOf(const QList<OrvikTypes::RX_RATECOLOR> &classes, const std::vector<float> &rates,

@@ -94,8 +94,14 @@ struct RawPrescription {
     /// Said of the file where `reference` is null.
     QString lackOfReference = QStringLiteral("names no coordinate system");
     int records = 0;
-    /// Records stand for several equal cells each: their values are not the records' own numbers or totals.
-    bool hasJoinedCells = false;
+    /// For each record of a grid the equal cells that it stands for; a record behind the last one is one thing.
+    std::vector<int> cells;
+
+    int cellsOf(int record) const
+    {
+        const auto place = static_cast<size_t>(record);
+        return place < cells.size() ? cells[place] : 1;
+    }
     // Records that were left out, and why.
     std::vector<int> emptyRecords;     ///< Without geometry, or with rings that enclose nothing only.
     std::vector<int> otherRecords;     ///< Points and lines.

@@ -58,6 +58,8 @@ private Q_SLOTS:
     void splitsManyRatesAtRoundNumbers();
     void splitsManyRatesEvenly();
     void followsTheRatesOfALopsidedColumn();
+    void countsARateForAllThatHaveIt_data();
+    void countsARateForAllThatHaveIt();
     void putsARateThatEqualsALimitIntoItsClass();
     void reservesTheLastEntryForPolygonsWithoutRate();
     void tellsWhetherEachClassHoldsOneRate_data();
@@ -131,6 +133,28 @@ void LegendBuilderTest::splitsManyRatesEvenly()
         ++counts[classOf(legend, rate)];
     for (const int count : counts)
         QVERIFY2(count > 450 && count < 1600, qPrintable(QString::number(count)));
+}
+
+void LegendBuilderTest::countsARateForAllThatHaveIt_data()
+{
+    QTest::addColumn<int>("most");
+    QTest::newRow("few") << 9;
+    QTest::newRow("more than a sample") << 900;
+}
+
+void LegendBuilderTest::countsARateForAllThatHaveIt()
+{
+    QFETCH(int, most);
+    const std::vector<float> rates = spread(100, 0.0, 99.0);
+    std::vector<int> counts;
+    std::vector<float> each;
+    for (size_t i = 0; i < rates.size(); ++i) {
+        counts.push_back(i < 20 ? most : 1);
+        each.insert(each.end(), size_t(counts.back()), rates[i]);
+    }
+    const QList<double> limits = limitsOf(LegendBuilder::build(rates, 1.0, counts).classes);
+    QCOMPARE(limits, limitsOf(classesOf(each)));
+    QVERIFY(limits != limitsOf(classesOf(rates)));
 }
 
 void LegendBuilderTest::followsTheRatesOfALopsidedColumn()

@@ -83,7 +83,9 @@ bool ColumnContent::hasRates(const SourceColumn &column)
 bool ColumnContent::mayBeRates(const SourceColumn &column, const RawPrescription &map,
                                const std::vector<double> &recordAreas)
 {
-    const bool areOfRecords = !map.hasJoinedCells
+    // Joined cells have the same value, so it is not each one's own number or total.
+    const bool isAnyJoined = std::any_of(map.cells.begin(), map.cells.end(), [](int cells) { return cells > 1; });
+    const bool areOfRecords = !isAnyJoined
         && (isCounting(column) || (column.isInteger && areNumbers(column))
             || isProportionalToArea(column, recordAreas));
     return !column.isText && !isAllZero(column) && !areOfRecords && !areYears(column) && !isPlace(column, map.xs)

@@ -48,14 +48,16 @@ MapFinding finding(MapFinding::Kind kind, const QString &text)
 }
 
 /// Says which of the column's entries are no rates, or may mean something else.
-void tellEntries(const SourceColumn &column, ColumnPolicy::Decision &decision)
+void tellEntries(const RawPrescription &source, const SourceColumn &column, ColumnPolicy::Decision &decision)
 {
-    const size_t count = column.unreadable.size();
+    int count = 0;
+    for (const int record : column.unreadable)
+        count += source.cellsOf(record);
     if (count > 0) {
         const QString text = count == 1 ? QStringLiteral("%1 entry of column \"%2\" is no rate and was left out")
                                         : QStringLiteral("%1 entries of column \"%2\" are no rates and were left out");
         MapFinding told = finding(MapFinding::Kind::NotANumber, text.arg(QString::number(count), column.name));
-        for (size_t i = 0; i < std::min(count, size_t(MapFinding::mostRecords)); ++i)
+        for (size_t i = 0; i < std::min(column.unreadable.size(), size_t(MapFinding::mostRecords)); ++i)
             told.records.append(column.unreadable[i]);
         decision.findings.append(told);
     }
@@ -143,7 +145,7 @@ ColumnPolicy::Decision ColumnPolicy::decide(const RawPrescription &source,
             decision.error = QStringLiteral("column \"%1\" holds no rates").arg(column.name);
             break;
         }
-        tellEntries(column, decision);
+        tellEntries(source, column, decision);
         describe(column, units.of(feed.column), feed, decision);
     }
     return decision;

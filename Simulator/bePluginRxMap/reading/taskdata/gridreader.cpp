@@ -175,7 +175,7 @@ void GridReader::append(const TaskGrid &grid, const std::vector<CellRectangle> &
             map.xs[vertex] = x;
             map.ys[vertex++] = y;
         }
-        map.hasJoinedCells = map.hasJoinedCells || rectangle.columns * rectangle.rows > 1;
+        map.cells.push_back(rectangle.columns * rectangle.rows);
         ++map.records;
     }
 }
