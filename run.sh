@@ -18,7 +18,7 @@ source "$project/scripts/with-display.sh"
 simulator="$project/build/release/Simulator/Terminal/terminal-simulator"
 
 if (($# > 0)) && needs_operator "$@" && ! has_display; then
-    echo "run.sh: there is no display; use --describe, --screenshot or --script, or no argument for a demonstration" >&2
+    echo "run.sh: there is no display; use --describe, --at, --check, --drive, --screenshot or --script, or no argument for a demonstration" >&2
     exit 1
 elif (($# > 0)); then
     with_display "$simulator" "$@"

@@ -11,7 +11,8 @@ needs_operator() {
     local argument
     for argument in "$@"; do
         case "$argument" in
-        --describe | --describe=* | --screenshot | --screenshot=* | --script | --script=* | --help | -h) return 1 ;;
+        --describe | --describe=* | --at | --at=* | --check | --drive | --drive=*) return 1 ;;
+        --screenshot | --screenshot=* | --script | --script=* | --help | -h) return 1 ;;
         esac
     done
 }

@@ -1,5 +1,6 @@
 #include "commandline.h"
 
+#include "fieldplane.h"
 #include "regularfile.h"
 
 #include <QCommandLineParser>
@@ -19,6 +20,7 @@ const QString unitsOption = QStringLiteral("units");
 const QString languageOption = QStringLiteral("language");
 const QString pluginDirOption = QStringLiteral("plugin-dir");
 const QString describeOption = QStringLiteral("describe");
+const QString atOption = QStringLiteral("at");
 const QString screenshotOption = QStringLiteral("screenshot");
 const QString scriptOption = QStringLiteral("script");
 const QString driveOption = QStringLiteral("drive");
@@ -58,6 +60,8 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("DIR")},
         {describeOption, QStringLiteral("print what the terminal shows for that field point (metres) and exit"),
          QStringLiteral("X,Y")},
+        {atOption, QStringLiteral("print what the terminal shows for that place on the earth (degrees) and exit"),
+         QStringLiteral("LON,LAT")},
         {screenshotOption, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
         {scriptOption, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
         {driveOption, QStringLiteral("drive the whole field without a display, write what came of it and exit"),
@@ -85,17 +89,32 @@ QString readUnits(const QString &text, CommandLine &line)
     return {};
 }
 
-QString readDescribe(const QString &text, CommandLine &line)
+/// Two numbers, set off by a comma.
+std::optional<QPointF> readPair(const QString &text)
 {
     const QStringList parts = text.split(QLatin1Char(','));
     bool xOk = false;
     bool yOk = false;
     const double x = parts.value(0).toDouble(&xOk);
     const double y = parts.value(1).toDouble(&yOk);
-    if (parts.size() != 2 || !xOk || !yOk || !std::isfinite(x) || !std::isfinite(y))
-        return QStringLiteral("--describe %1: not two numbers X,Y").arg(text);
-    line.describe = QPointF(x, y);
-    return {};
+    const bool isPair = parts.size() == 2 && xOk && yOk && std::isfinite(x) && std::isfinite(y);
+    return isPair ? std::optional<QPointF>({x, y}) : std::nullopt;
+}
+
+QString readDescribe(const QString &text, CommandLine &line)
+{
+    line.describe = readPair(text);
+    return line.describe ? QString() : QStringLiteral("--describe %1: not two numbers X,Y").arg(text);
+}
+
+QString readAt(const QString &text, CommandLine &line)
+{
+    line.at = readPair(text);
+    if (!line.at)
+        return QStringLiteral("--at %1: not two numbers LON,LAT").arg(text);
+    return FieldPlane::areDegrees(*line.at)
+        ? QString()
+        : QStringLiteral("--at %1: no longitude from -180 to 180 and latitude from -90 to 90").arg(text);
 }
 
 /// The entries of a list, quoted as in CSV (RFC 4180): an entry in quotes may hold commas, and quotes that are doubled.
@@ -159,7 +178,7 @@ QString checkValues(const QCommandLineParser &parser)
 {
     for (const QString &option :
          {columnsOption, sourceUnitsOption, layerOption, taskOption, productsOption, unitsOption, languageOption,
-          pluginDirOption, describeOption, screenshotOption, scriptOption, driveOption, recordOption}) {
+          pluginDirOption, describeOption, atOption, screenshotOption, scriptOption, driveOption, recordOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -179,7 +198,7 @@ QString checkDrive(const QCommandLineParser &parser)
         }
         return {};
     }
-    for (const QString &option : {describeOption, screenshotOption, scriptOption, openOption}) {
+    for (const QString &option : {describeOption, atOption, screenshotOption, scriptOption, openOption}) {
         if (parser.isSet(option))
             return QStringLiteral("--drive does not go with --%1").arg(option);
     }
@@ -204,7 +223,7 @@ QString checkCheck(const QCommandLineParser &parser)
 {
     if (!parser.isSet(checkOption))
         return parser.isSet(jsonOption) ? QStringLiteral("--json needs --check") : QString();
-    for (const QString &option : {describeOption, screenshotOption, scriptOption, driveOption, openOption}) {
+    for (const QString &option : {describeOption, atOption, screenshotOption, scriptOption, driveOption, openOption}) {
         if (parser.isSet(option))
             return QStringLiteral("--check does not go with --%1").arg(option);
     }
@@ -236,6 +255,8 @@ QString readOptions(const QCommandLineParser &parser, CommandLine &line)
         error = readColumns(parser.value(columnsOption), line);
     if (error.isEmpty() && parser.isSet(describeOption))
         error = readDescribe(parser.value(describeOption), line);
+    if (error.isEmpty() && parser.isSet(atOption))
+        error = readAt(parser.value(atOption), line);
     if (error.isEmpty() && parser.isSet(sourceUnitsOption))
         error = readSourceUnits(parser.value(sourceUnitsOption), line);
     if (error.isEmpty() && parser.isSet(productsOption))

@@ -27,6 +27,8 @@ struct CommandLine {
     QString pluginDir;
     /// A point of the local plane, metres.
     std::optional<QPointF> describe;
+    /// A place on the earth, degrees of longitude and latitude.
+    std::optional<QPointF> at;
     QString screenshot;
     QString script;
     /// Report of a drive over the whole field; empty: none.

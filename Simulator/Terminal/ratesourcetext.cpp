@@ -1,5 +1,13 @@
 #include "ratesourcetext.h"
 
+QString fileUnitText(const RateSource &source)
+{
+    if (source.unitFrom != RateSource::UnitFrom::Assumed)
+        return source.unit;
+    return source.unit.isEmpty() ? QStringLiteral("unit not known")
+                                 : QStringLiteral("unit not known, taken as ") + source.unit;
+}
+
 QString unitTextOf(const RateSource &source)
 {
     switch (source.unitFrom) {
@@ -16,6 +24,5 @@ QString unitTextOf(const RateSource &source)
     case RateSource::UnitFrom::Assumed:
         break;
     }
-    return source.unit.isEmpty() ? QStringLiteral("unit not known")
-                                 : QStringLiteral("unit not known, taken as ") + source.unit;
+    return fileUnitText(source);
 }

@@ -2,6 +2,7 @@
 
 #include "activemap.h"
 #include "drivedisplay.h"
+#include "fieldplane.h"
 #include "fieldview.h"
 #include "fileopening.h"
 #include "findingsdisplay.h"
@@ -45,6 +46,13 @@ LoadReport unused(const QString &path)
     report.path = path;
     report.warnings.append(QStringLiteral("%1: not opened, it feeds no product").arg(path));
     return report;
+}
+
+const QString noMap = QStringLiteral("no map is loaded that says where the field is");
+
+QString tooFar()
+{
+    return QStringLiteral("is more than %1 km from the field").arg(FieldPlane::reach / 1000.0);
 }
 
 } // namespace
@@ -229,7 +237,7 @@ QString Terminal::touch(const QPointF &field)
     return answer.text;
 }
 
-std::optional<QRectF> Terminal::bounds() const
+std::optional<QPointF> Terminal::planeOrigin() const
 {
     const QList<LoadReport> maps = prescriptions->maps();
     if (maps.isEmpty())
@@ -238,13 +246,41 @@ std::optional<QRectF> Terminal::bounds() const
         ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct())).groupName;
     const auto shown =
         std::find_if(maps.begin(), maps.end(), [&active](const LoadReport &map) { return map.group == active; });
-    const LoadReport &first = shown != maps.end() ? *shown : maps.last();
-    QRectF all = first.bounds;
+    return shown != maps.end() ? shown->origin : maps.last().origin;
+}
+
+std::optional<QRectF> Terminal::bounds() const
+{
+    const std::optional<QPointF> origin = planeOrigin();
+    if (!origin)
+        return {};
+    QRectF all;
+    const QList<LoadReport> maps = prescriptions->maps();
     for (const LoadReport &map : maps) {
-        if (map.origin == first.origin)
+        if (map.origin == *origin)
             all |= map.bounds;
     }
     return all;
+}
+
+Result<QPointF> Terminal::toField(const QPointF &degrees) const
+{
+    const std::optional<QPointF> origin = planeOrigin();
+    if (!origin)
+        return Result<QPointF>::failure(noMap);
+    if (!FieldPlane::areDegrees(degrees))
+        return Result<QPointF>::failure(QStringLiteral("is no longitude and latitude"));
+    const std::optional<QPointF> field = FieldPlane(*origin).toField(degrees);
+    return field ? Result<QPointF>{*field, {}} : Result<QPointF>::failure(tooFar());
+}
+
+Result<QPointF> Terminal::toEarth(const QPointF &field) const
+{
+    const std::optional<QPointF> origin = planeOrigin();
+    if (!origin)
+        return Result<QPointF>::failure(noMap);
+    const std::optional<QPointF> degrees = FieldPlane(*origin).toEarth(field);
+    return degrees ? Result<QPointF>{*degrees, {}} : Result<QPointF>::failure(tooFar());
 }
 
 QColor Terminal::mapColor(const QPointF &field)

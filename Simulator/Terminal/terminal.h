@@ -87,6 +87,12 @@ public:
     /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
     /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
     std::optional<QRectF> bounds() const;
+    /// Where the plane of the maps in bounds() touches the earth, degrees of longitude and latitude; nothing when no
+    /// map is loaded.
+    std::optional<QPointF> planeOrigin() const;
+    /// From degrees of longitude and latitude to metres of that plane and back; the reason when there is no way.
+    Result<QPointF> toField(const QPointF &degrees) const;
+    Result<QPointF> toEarth(const QPointF &field) const;
     /// What is drawn at a field point, see FieldView::colorAt().
     QColor mapColor(const QPointF &field);
     /// Saves the display as it is seen; the reason when it cannot.

@@ -8,6 +8,7 @@
 #include "machine.h"
 #include "neededimages.h"
 #include "openwindow.h"
+#include "pointdescription.h"
 #include "productfile.h"
 #include "ratesourcetext.h"
 #include "recorder.h"
@@ -124,14 +125,24 @@ void showFedProduct(Terminal &terminal)
         terminal.machine()->setActiveProduct(*std::min_element(fed.cbegin(), fed.cend()));
 }
 
-void describe(Terminal &terminal, const QPointF &point)
+/// What is shown at the points asked for; the reason when one has no place in the field.
+QString describePoints(Terminal &terminal, const CommandLine &line)
 {
-    const QString text = terminal.touch(point);
-    if (text.isEmpty())
-        writeOutputLine(QStringLiteral("No rate is prescribed at %1,%2").arg(point.x()).arg(point.y()));
-    else
-        for (const QString &line : text.split(QLatin1Char('\n')))
-            writeOutputLine(line);
+    const auto nameOf = [](const QPointF &point) {
+        return QString::number(point.x(), 'g', 12) + QLatin1Char(',') + QString::number(point.y(), 'g', 12);
+    };
+    QStringList lines;
+    if (line.describe)
+        lines += describePoint(terminal, *line.describe, nameOf(*line.describe));
+    if (line.at) {
+        const Result<QPointF> field = terminal.toField(*line.at);
+        if (!field.isOk())
+            return QStringLiteral("--at %1: %2").arg(nameOf(*line.at), field.error);
+        lines += describePoint(terminal, field.value, nameOf(*line.at));
+    }
+    for (const QString &text : qAsConst(lines))
+        writeOutputLine(text);
+    return {};
 }
 
 QString runScript(Terminal &terminal, const QString &path)
@@ -156,14 +167,12 @@ void showOpenWindow(Terminal &terminal, const QStringList &files)
 
 QString runTasks(Terminal &terminal, const CommandLine &line)
 {
-    if (line.describe)
-        describe(terminal, *line.describe);
-    QString error;
-    if (!line.script.isEmpty())
+    QString error = describePoints(terminal, line);
+    if (error.isEmpty() && !line.script.isEmpty())
         error = runScript(terminal, line.script);
     if (error.isEmpty() && !line.screenshot.isEmpty())
         error = terminal.saveScreenshot(line.screenshot);
-    const bool isInteractive = !line.describe && line.script.isEmpty() && line.screenshot.isEmpty();
+    const bool isInteractive = !line.describe && !line.at && line.script.isEmpty() && line.screenshot.isEmpty();
     // The operator may have closed the display while the prescriptions were loading.
     if (error.isEmpty() && isInteractive && terminal.window()->isVisible())
         QApplication::exec();

@@ -89,6 +89,9 @@ void TestWithDisplay::anOperatorIsNeededUnlessTheArgumentsSayWhatToDo_data()
     QTest::newRow("file") << "field.shp" << 0;
     QTest::newRow("units and file") << "--units us field.shp" << 0;
     QTest::newRow("describe") << "--describe 1,2 field.shp" << 1;
+    QTest::newRow("place") << "--at 9,48 field.shp" << 1;
+    QTest::newRow("check") << "--check field.shp" << 1;
+    QTest::newRow("drive") << "field.shp --drive=a.json" << 1;
     QTest::newRow("picture") << "field.shp --screenshot=a.png" << 1;
     QTest::newRow("script") << "--script a.js" << 1;
     QTest::newRow("help") << "--help" << 1;

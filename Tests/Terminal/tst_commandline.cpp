@@ -47,6 +47,9 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("point of words") << QStringList{"--describe", "a,b"} << "a,b";
     QTest::newRow("point that is no number") << QStringList{"--describe", "nan,1"} << "nan,1";
     QTest::newRow("point at infinity") << QStringList{"--describe", "1,inf"} << "1,inf";
+    QTest::newRow("place of words") << QStringList{"--at", "north,east"} << "--at north,east: not two numbers";
+    QTest::newRow("longitude out of range") << QStringList{"--at", "181,0"} << "--at 181,0: no longitude";
+    QTest::newRow("latitude out of range") << QStringList{"--at", "0,-91"} << "--at 0,-91: no longitude";
     QTest::newRow("missing products file") << QStringList{"--products", "/no/such.json"} << "/no/such.json";
     QTest::newRow("products file is a folder") << QStringList{"--products", "/"} << "--products /";
     QTest::newRow("products file is a device") << QStringList{"--products", "/dev/zero"} << "is no plain file";
@@ -72,6 +75,8 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("drive of nothing") << QStringList{"--drive", "a.json"} << "--drive needs a prescription";
     QTest::newRow("drive and point") << QStringList{"--drive", "a.json", "--describe", "1,2", "map.shp"}
                                      << "--drive does not go with --describe";
+    QTest::newRow("drive and place") << QStringList{"--drive", "a.json", "--at", "1,2", "map.shp"}
+                                     << "--drive does not go with --at";
     QTest::newRow("report of another kind")
         << QStringList{"--drive", "a.pdf", "map.shp"} << "--drive a.pdf: a report is a .json or .html file";
     QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
@@ -112,11 +117,11 @@ void TestCommandLine::everyOptionIsRead()
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
-    const Result<CommandLine> line =
-        parse({"--columns", "A, B",         "--source-units", ",lb/ac",     "--layer",    "north",
-               "--task",    "spring",       "--products",     products,     "--units=us", "--language",
-               "de",        "--plugin-dir", folder.path(),    "--describe", "1.5,2",      "--screenshot",
-               "map.png",   "--script",     script,           "one.shp",    "two.gpkg"});
+    const Result<CommandLine> line = parse(
+        {"--columns",   "A, B",       "--source-units", ",lb/ac",     "--layer",    "north",        "--task",
+         "spring",      "--products", products,         "--units=us", "--language", "de",           "--plugin-dir",
+         folder.path(), "--describe", "1.5,2",          "--at",       "-9.25,48.5", "--screenshot", "map.png",
+         "--script",    script,       "one.shp",        "two.gpkg"});
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QCOMPARE(line.value.columns, QStringList({"A", "B"}));
     QCOMPARE(line.value.sourceUnits, QStringList({QString(), "lb/ac"}));
@@ -127,6 +132,7 @@ void TestCommandLine::everyOptionIsRead()
     QCOMPARE(line.value.language, QStringLiteral("de"));
     QCOMPARE(line.value.pluginDir, folder.path());
     QCOMPARE(line.value.describe.value(), QPointF(1.5, 2));
+    QCOMPARE(line.value.at.value(), QPointF(-9.25, 48.5));
     QCOMPARE(line.value.screenshot, QStringLiteral("map.png"));
     QCOMPARE(line.value.script, script);
     QCOMPARE(line.value.prescriptions, QStringList({"one.shp", "two.gpkg"}));

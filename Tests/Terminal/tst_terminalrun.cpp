@@ -28,6 +28,8 @@ private Q_SLOTS:
     void likelyColumnsAreReportedOnceForAFileThatIsNamedTwice();
     void aPointIsDescribed_data();
     void aPointIsDescribed();
+    void everyProductIsDescribed();
+    void aMapOnAPlaneOfItsOwnIsAskedForTheSamePlace();
     void columnsAreTakenFromTheFilesThatHaveThem();
     void theFirstProductWithAMapIsShown();
     void aFileThatIsToFeedNothingIsNotOpened();
@@ -52,6 +54,8 @@ private:
     static Outcome run(const QStringList &arguments);
     static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
     QString write(const QByteArray &content, const QString &name);
+    /// A map of one square, a thousandth of a degree wide, with its south-west corner there.
+    static QByteArray square(const QByteArray &column, double rate, double lon, double lat);
 
     QTemporaryDir folder;
 };
@@ -79,6 +83,20 @@ QString TestTerminalRun::write(const QByteArray &content, const QString &name)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
 }
 
+QByteArray TestTerminalRun::square(const QByteArray &column, double rate, double lon, double lat)
+{
+    const auto corner = [&](double east, double north) {
+        return QStringLiteral("[%1,%2]").arg(lon + east, 0, 'f', 6).arg(lat + north, 0, 'f', 6);
+    };
+    const QString ring =
+        QStringList{corner(0, 0), corner(0.001, 0), corner(0.001, 0.001), corner(0, 0.001), corner(0, 0)}.join(
+            QLatin1Char(','));
+    return QStringLiteral(R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"%1":%2},)"
+                          R"("geometry":{"type":"Polygon","coordinates":[[%3]]}}]})")
+        .arg(QString::fromLatin1(column), QString::number(rate), ring)
+        .toUtf8();
+}
+
 void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -96,6 +114,9 @@ void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
         << QStringList{"--columns", "SEED_K_HA,,,FERT_KG_HA", zones()} << "4 columns";
     QTest::newRow("no such unit") << QStringList{"--source-units", "bags", zones()} << "\"bags\" is no unit of a rate";
     QTest::newRow("no plug-in") << QStringList{"--plugin-dir", folder.path()} << folder.path();
+    QTest::newRow("place without a map") << QStringList{"--at", "9,48"} << "--at 9,48: no map is loaded";
+    QTest::newRow("place in another country")
+        << QStringList{"--at", "-100.5,40", zones()} << "--at -100.5,40: is more than 1000 km from the field";
     QTest::newRow("unknown language") << QStringList{"--language", "xx"} << "xx";
     QTest::newRow("picture in no folder")
         << QStringList{"--screenshot", "/no/such/folder/p.png"} << "/no/such/folder/p.png";
@@ -141,7 +162,10 @@ void TestTerminalRun::tasksAreDoneInTheirOrder()
     const Outcome outcome =
         run({"--columns", "SEED_K_HA", "--script", script, "--screenshot", picture, "--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.answer, QStringLiteral("Rx Rate: 80.00\n1\n"));
+    QCOMPARE(outcome.answer,
+             QStringLiteral("product 1 (Seed): Rx Rate: 80.00 (SEED_K_HA, 1000/ha)\n"
+                            "product 2 (Fertiliser): No rate is prescribed at 0,0\n"
+                            "product 3 (Herbicide): No rate is prescribed at 0,0\n1\n"));
     QCOMPARE(QImage(picture).size(), QSize(1280, 800));
     // The script has taken the map away before the picture was taken.
     const QString before = folder.filePath(QStringLiteral("before.png"));
@@ -202,13 +226,13 @@ void TestTerminalRun::aPointIsDescribed_data()
     QTest::addColumn<QString>("line");
     QTest::newRow("west") << "-100,0"
                           << "metric"
-                          << "Rx Rate: 70.00";
+                          << "Rx Rate: 70.00 (SEED_K_HA, 1000/ha)";
     QTest::newRow("per acre") << "-100,0"
                               << "us"
-                              << "Rx Rate: 28.33";
+                              << "Rx Rate: 28.33 (SEED_K_HA, 1000/ha)";
     QTest::newRow("per 1000 square feet") << "-100,0"
                                           << "turf"
-                                          << "Rx Rate: 0.65";
+                                          << "Rx Rate: 0.65 (SEED_K_HA, 1000/ha)";
     QTest::newRow("outside") << "-1000,0"
                              << "metric"
                              << "No rate is prescribed at -1000,0";
@@ -221,7 +245,39 @@ void TestTerminalRun::aPointIsDescribed()
     QFETCH(QString, line);
     const Outcome outcome = run({"--describe", point, "--units", units, "--columns", "SEED_K_HA", zones()});
     QCOMPARE(outcome.error, QString());
-    QCOMPARE(outcome.answer, line + QLatin1Char('\n'));
+    QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 0, 0), QStringLiteral("product 1 (Seed): ") + line);
+}
+
+void TestTerminalRun::everyProductIsDescribed()
+{
+    // In metres and in degrees; what was active is active again.
+    const QString script = write("var e = terminal.toEarth(-100, 0); print(e.lon.toFixed(9) + ',' + e.lat.toFixed(9));"
+                                 "print(terminal.activeProduct, terminal.groups('rxMap.*').length);",
+                                 "place.js");
+    const Outcome metres =
+        run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--describe", "-100,0", "--script", script, zones()});
+    QCOMPARE(metres.error, QString());
+    const QStringList lines = metres.answer.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines.at(0), QStringLiteral("product 1 (Seed): No rate is prescribed at -100,0"));
+    QCOMPARE(lines.at(1), QStringLiteral("product 2 (Fertiliser): Rx Rate: 120.50 (FERT_KG_HA, kg/ha)"));
+    QCOMPARE(lines.at(2), QStringLiteral("product 3 (Herbicide): Rx Rate: 0.00 (HERB_L_HA, L/ha)"));
+    QCOMPARE(lines.at(4), QStringLiteral("2 1"));
+    const Outcome degrees = run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--at", lines.at(3), zones()});
+    QCOMPARE(degrees.error, QString());
+    QCOMPARE(degrees.answer.split(QLatin1Char('\n')).mid(1, 2), lines.mid(1, 2));
+}
+
+void TestTerminalRun::aMapOnAPlaneOfItsOwnIsAskedForTheSamePlace()
+{
+    const QByteArray far = square("Urea_kg_ha", 45, 11.0, 48.0);
+    const QStringList files = {write(square("SEED_K_HA", 77, 9.0, 48.0), "near.geojson"), write(far, "far.geojson")};
+    const Outcome outcome = run(QStringList{"--at", "11.0005,48.0005"} + files);
+    QCOMPARE(outcome.error, QString());
+    QVERIFY2(outcome.answer.contains(QLatin1String("product 1 (Seed): No rate is prescribed at 11.0005,48.0005\n")),
+             qPrintable(outcome.answer));
+    QVERIFY2(outcome.answer.contains(QLatin1String("): Rx Rate: 45.00 (Urea_kg_ha, kg/ha)\n")),
+             qPrintable(outcome.answer));
 }
 
 void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
@@ -237,11 +293,9 @@ void TestTerminalRun::columnsAreTakenFromTheFilesThatHaveThem()
 
 void TestTerminalRun::theFirstProductWithAMapIsShown()
 {
-    const Outcome second = run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--describe", "-100,0", zones()});
-    QCOMPARE(second.error, QString());
-    const Outcome first = run({"--columns", "FERT_KG_HA", "--describe", "-100,0", zones()});
-    QVERIFY2(second.answer.startsWith(QLatin1String("Rx Rate: ")), qPrintable(second.answer));
-    QCOMPARE(second.answer, first.answer);
+    const QString script = write("print(terminal.activeProduct);", "active.js");
+    QCOMPARE(run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--script", script, zones()}).answer, QStringLiteral("2\n"));
+    QCOMPARE(run({"--columns", "FERT_KG_HA", "--script", script, zones()}).answer, QStringLiteral("1\n"));
 }
 
 void TestTerminalRun::aFileThatIsToFeedNothingIsNotOpened()
@@ -273,13 +327,13 @@ void TestTerminalRun::theUnitOfTheFileIsTold_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("told");
-    QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00\n"
+    QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00 (SEED_K_HA, 1000/ha)"
                                  << "SEED_K_HA (1000/ha, from the name)";
     QTest::newRow("by the operator") << QStringList{"--columns", "SEED_K_HA", "--source-units", "seeds/m2"}
-                                     << "Rx Rate: 800.00\n"
+                                     << "Rx Rate: 800.00 (SEED_K_HA, seeds/m2)"
                                      << "SEED_K_HA (seeds/m2, named by the operator)";
     QTest::newRow("by the operator, for a likely column")
-        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68\n"
+        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68 (SEED_K_HA, 1000/ac)"
         << "SEED_K_HA (1000/ac, named by the operator)";
 }
 
@@ -289,7 +343,8 @@ void TestTerminalRun::theUnitOfTheFileIsTold()
     QFETCH(QString, told);
     const Outcome outcome = run(options + QStringList{"--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
-    QTEST(outcome.answer, "answer");
+    QFETCH(QString, answer);
+    QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 0, 0), QStringLiteral("product 1 (Seed): ") + answer);
     QVERIFY2(outcome.output.startsWith(zones() + QStringLiteral(": product 1 (Seed): ") + told + QLatin1Char('\n')),
              qPrintable(outcome.output));
 }
@@ -306,10 +361,13 @@ void TestTerminalRun::theRatesAroundATaskAreTold()
     const Outcome outcome = run({"--task", "TSK2", "--describe", "0,0", folder.path()});
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.errors, QString());
-    QCOMPARE(outcome.answer, QStringLiteral("Rx Rate: 200.00\n"));
-    const QString product = folder.path() + QStringLiteral(": product 2 (Fertiliser): ");
+    const QString product = QStringLiteral("product 2 (Fertiliser): ");
+    const QString column = QStringLiteral("Setpoint Mass Per Area Application Rate");
+    QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 1, 1),
+             QStringLiteral("%1Rx Rate: 200.00 (%2, mg/m2)").arg(product, column));
+    const QString told = folder.path() + QStringLiteral(": ") + product;
     QCOMPARE(QString(outcome.output).remove(outcome.answer),
-             product + QStringLiteral("Setpoint Mass Per Area Application Rate (mg/m2, from the format)\n") + product
+             told + column + QStringLiteral(" (mg/m2, from the format)\n") + told
                  + QStringLiteral("default rate 0 kg/ha (out of the field 0, elsewhere 123456.78)\n"));
     const QString script =
         write("print(terminal.open('" + folder.path().toUtf8() + "').sources[0].elsewhere);", "a.js");
@@ -366,7 +424,7 @@ void TestTerminalRun::productsComeFromAFile()
     const Outcome outcome = run({"--products", products, "--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
     QVERIFY2(outcome.output.contains(QLatin1String("product 1 (Lime)")), qPrintable(outcome.output));
-    QVERIFY(!outcome.output.contains(QLatin1String("Water")));
+    QVERIFY(!QString(outcome.output).remove(outcome.answer).contains(QLatin1String("Water")));
     QCOMPARE(
         outcome.errors,
         zones()

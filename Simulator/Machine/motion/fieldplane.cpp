@@ -7,13 +7,41 @@
 struct FieldPlane::Transformation {
     explicit Transformation(OGRCoordinateTransformation *toPlane)
         : toPlane(toPlane)
+        , toEarth(toPlane != nullptr ? toPlane->GetInverse() : nullptr)
     {
     }
-    ~Transformation() { OGRCoordinateTransformation::DestroyCT(toPlane); }
+    ~Transformation()
+    {
+        OGRCoordinateTransformation::DestroyCT(toEarth);
+        OGRCoordinateTransformation::DestroyCT(toPlane);
+    }
     Q_DISABLE_COPY(Transformation)
 
+    static std::optional<QPointF> run(OGRCoordinateTransformation *direction, const QPointF &point);
+
     OGRCoordinateTransformation *toPlane;
+    OGRCoordinateTransformation *toEarth;
 };
+
+std::optional<QPointF> FieldPlane::Transformation::run(OGRCoordinateTransformation *direction, const QPointF &point)
+{
+    double x = point.x();
+    double y = point.y();
+    CPLPushErrorHandler(CPLQuietErrorHandler);
+    const bool isThere =
+        direction != nullptr && direction->Transform(1, &x, &y) != 0 && std::isfinite(x) && std::isfinite(y);
+    CPLPopErrorHandler();
+    return isThere ? std::optional<QPointF>({x, y}) : std::nullopt;
+}
+
+namespace {
+
+bool isWithinReach(const QPointF &field)
+{
+    return std::hypot(field.x(), field.y()) <= FieldPlane::reach;
+}
+
+} // namespace
 
 QString FieldPlane::definition(const QPointF &origin)
 {
@@ -34,13 +62,18 @@ FieldPlane::FieldPlane(const QPointF &origin)
 
 FieldPlane::~FieldPlane() = default;
 
+bool FieldPlane::areDegrees(const QPointF &degrees)
+{
+    return std::fabs(degrees.x()) <= 180.0 && std::fabs(degrees.y()) <= 90.0;
+}
+
 std::optional<QPointF> FieldPlane::toField(const QPointF &degrees) const
 {
-    double x = degrees.x();
-    double y = degrees.y();
-    CPLPushErrorHandler(CPLQuietErrorHandler);
-    const bool isThere = transformation->toPlane != nullptr && transformation->toPlane->Transform(1, &x, &y) != 0
-        && std::isfinite(x) && std::isfinite(y);
-    CPLPopErrorHandler();
-    return isThere ? std::optional<QPointF>({x, y}) : std::nullopt;
+    const std::optional<QPointF> field = Transformation::run(transformation->toPlane, degrees);
+    return field && isWithinReach(*field) ? field : std::nullopt;
+}
+
+std::optional<QPointF> FieldPlane::toEarth(const QPointF &field) const
+{
+    return isWithinReach(field) ? Transformation::run(transformation->toEarth, field) : std::nullopt;
 }

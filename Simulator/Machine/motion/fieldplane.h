@@ -13,8 +13,15 @@ public:
     explicit FieldPlane(const QPointF &origin);
     ~FieldPlane();
 
+    /// No farther from its origin does it picture the earth, metres.
+    static constexpr double reach = 1.0e6;
+    /// Whether these can be degrees of longitude and latitude.
+    static bool areDegrees(const QPointF &degrees);
+
     /// Nothing for a place that the plane does not reach.
     std::optional<QPointF> toField(const QPointF &degrees) const;
+    /// Degrees of longitude and latitude; nothing for a point beyond the plane's reach.
+    std::optional<QPointF> toEarth(const QPointF &field) const;
     /// The plane as PROJ writes it.
     static QString definition(const QPointF &origin);
 

@@ -18,13 +18,6 @@
 
 namespace {
 
-/// Where the loaded maps' plane touches the earth, degrees; nothing without a map.
-std::optional<QPointF> planeOrigin(const Terminal &terminal)
-{
-    const QList<LoadReport> maps = terminal.backend()->maps();
-    return maps.isEmpty() ? std::nullopt : std::optional<QPointF>(maps.last().origin);
-}
-
 /// The number that an option gives; `usual` where it gives none.
 Result<double> numberIn(const QJSValue &options, const QString &name, double usual)
 {
@@ -138,7 +131,7 @@ void ScriptDriving::steer(double curvature)
 QJSValue ScriptDriving::replay(const QString &path)
 {
     const auto summary = onGui([&] {
-        const std::optional<QPointF> origin = planeOrigin(*terminal);
+        const std::optional<QPointF> origin = terminal->planeOrigin();
         const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
         const auto checked = TrackReader::check(path, plane);
         if (checked.isOk())
@@ -184,7 +177,7 @@ void ScriptDriving::record(const QString &path)
 {
     const QString error = onGui([&] {
         Recorder *recorder = terminal->recorder();
-        return path.isEmpty() ? recorder->stop() : recorder->start(path, planeOrigin(*terminal).value_or(QPointF()));
+        return path.isEmpty() ? recorder->stop() : recorder->start(path, terminal->planeOrigin().value_or(QPointF()));
     });
     if (!error.isEmpty())
         fail(error);

@@ -202,6 +202,35 @@ QJSValue ScriptTerminal::bounds()
                                                       {QStringLiteral("maxY"), all->bottom()}});
 }
 
+bool ScriptTerminal::isConverted(const Result<QPointF> &converted, double first, double second) const
+{
+    if (!converted.isOk())
+        fail(QStringLiteral("(%1, %2): %3")
+                 .arg(QString::number(first, 'g', 12), QString::number(second, 'g', 12), converted.error));
+    return converted.isOk();
+}
+
+QJSValue ScriptTerminal::toField(double lon, double lat)
+{
+    if (!std::isfinite(lon) || !std::isfinite(lat)) {
+        fail(QStringLiteral("(%1, %2) is no longitude and latitude").arg(lon).arg(lat));
+        return {};
+    }
+    const Result<QPointF> field = onGui([&] { return terminal->toField(QPointF(lon, lat)); });
+    if (!isConverted(field, lon, lat))
+        return {};
+    return qjsEngine(this)->toScriptValue(
+        QVariantMap{{QStringLiteral("x"), field.value.x()}, {QStringLiteral("y"), field.value.y()}});
+}
+
+QJSValue ScriptTerminal::toEarth(double x, double y)
+{
+    if (!isFieldPoint(x, y))
+        return {};
+    const Result<QPointF> degrees = onGui([&] { return terminal->toEarth(QPointF(x, y)); });
+    return isConverted(degrees, x, y) ? qjsEngine(this)->toScriptValue(lonLat(degrees.value)) : QJSValue();
+}
+
 QJSValue ScriptTerminal::mapColor(double x, double y)
 {
     if (!isFieldPoint(x, y))

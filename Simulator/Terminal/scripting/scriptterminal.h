@@ -26,6 +26,9 @@ public:
     Q_INVOKABLE QString touchMap(double x, double y);
     /// Extent of what is loaded, metres; null when nothing is.
     Q_INVOKABLE QJSValue bounds();
+    /// {x, y} in metres of the plane of bounds() for degrees, and {lon, lat} in degrees for metres.
+    Q_INVOKABLE QJSValue toField(double lon, double lat);
+    Q_INVOKABLE QJSValue toEarth(double x, double y);
     Q_INVOKABLE QJSValue mapColor(double x, double y);
     Q_INVOKABLE QJSValue find(const QString &name);
     Q_INVOKABLE QJSValue get(const QString &group, const QString &property);
@@ -37,4 +40,6 @@ public:
 private:
     /// Whether both are numbers; fails otherwise.
     bool isFieldPoint(double x, double y) const;
+    /// Fails where the point has no counterpart.
+    bool isConverted(const Result<QPointF> &converted, double first, double second) const;
 };

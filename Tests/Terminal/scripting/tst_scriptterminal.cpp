@@ -130,6 +130,12 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
     row("bounds",
         "same(terminal.bounds(), null); terminal.open(zones); var b = terminal.bounds();"
         "same(Math.round(b.maxX - b.minX), 300); same(Math.round(b.maxY - b.minY), 100);");
+    row("degrees and metres",
+        "var o = terminal.open(zones).origin; var p = terminal.toField(o.lon, o.lat);"
+        "same(Math.abs(p.x) < 0.001 && Math.abs(p.y) < 0.001, true);"
+        "var e = terminal.toEarth(-100, 20); same(e.lon < o.lon && e.lat > o.lat, true);"
+        "var b = terminal.toField(e.lon, e.lat); same(Math.round(b.x * 1000), -100000);"
+        "same(Math.round(b.y * 1000), 20000);");
     row("map colour",
         "var ground = terminal.mapColor(0, 0); same(ground.length, 3);"
         "terminal.open(zones, {columns: ['SEED_K_HA']}); var c = terminal.mapColor(0, 0);"
@@ -265,6 +271,14 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("product in words", "terminal.activeProduct = 'two';", "no product two");
     row("product true", "terminal.activeProduct = true;", "no product true");
     row("no field point to touch", "terminal.touchMap('a', 0);", "is no field point");
+    row("degrees without a map", "terminal.toField(9, 48);", "(9, 48): no map is loaded");
+    row("metres without a map", "terminal.toEarth(1, 2);", "(1, 2): no map is loaded");
+    row("no degrees", "terminal.toField('north', 1);", "is no longitude and latitude");
+    row("degrees out of range", "terminal.open(zones); terminal.toField(9, 91);",
+        "(9, 91): is no longitude and latitude");
+    row("degrees elsewhere", "terminal.open(zones); terminal.toField(-100, -40);", "(-100, -40): is more than 1000 km");
+    row("no metres", "terminal.toEarth(NaN, 1);", "is no field point");
+    row("metres elsewhere", "terminal.open(zones); terminal.toEarth(0, 2e6);", "(0, 2000000): is more than 1000 km");
     row("no field point", "terminal.mapColor(NaN, 0);", "is no field point");
     row("unknown group", "terminal.get('nothing', 'x');", "no group \"nothing\"");
     row("unknown property", "terminal.get('quillSpan', 'x');", "group \"quillSpan\" has no property \"x\"");
