@@ -24,9 +24,9 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
     const ColumnPolicy::Decision decision = policy.decide(source, polygons);
     std::vector<bool> isFed(source.columns.size(), false);
     for (size_t i = 0; i < decision.feeds.size() && decision.error.isEmpty(); ++i) {
-        const int place = decision.feeds[i].column;
-        isFed[static_cast<size_t>(place)] = true;
-        SurveyedColumn column = describe(place);
+        const ColumnPolicy::Feed &feed = decision.feeds[i];
+        isFed[static_cast<size_t>(feed.column)] = true;
+        SurveyedColumn column = describe(feed.column, feed.factor * feed.displayFactor);
         const RateSource &told = decision.sources.at(static_cast<int>(i));
         // What the product's kind makes of it: ounces of a liquid are fluid ounces.
         if (!column.unit.isEmpty())
@@ -41,7 +41,7 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
     return decision.error;
 }
 
-SurveyedColumn FileSurvey::describe(int place) const
+SurveyedColumn FileSurvey::describe(int place, double displayFactor) const
 {
     const SourceColumn &column = source.columns[static_cast<size_t>(place)];
     const ColumnUnit unit = units.of(place);
@@ -52,11 +52,11 @@ SurveyedColumn FileSurvey::describe(int place) const
     told.unit = unit.unit.text();
     told.unitFrom = unit.from;
     told.isSure = LikelyColumns::saysRates(column);
-    classify(column, told);
+    classify(column, displayFactor, told);
     return told;
 }
 
-void FileSurvey::classify(const SourceColumn &column, SurveyedColumn &told) const
+void FileSurvey::classify(const SourceColumn &column, double displayFactor, SurveyedColumn &told) const
 {
     std::vector<float> rates;
     std::vector<int> counts;
@@ -66,7 +66,7 @@ void FileSurvey::classify(const SourceColumn &column, SurveyedColumn &told) cons
         rates.push_back(static_cast<float>(column.values[static_cast<size_t>(polygon.record)]));
         counts.push_back(source.cellsOf(polygon.record));
     }
-    const LegendBuilder::Legend legend = LegendBuilder::build(rates, 1.0, counts);
+    const LegendBuilder::Legend legend = LegendBuilder::build(rates, displayFactor, counts);
     told.legend = legend.classes;
     told.hasSingleRates = legend.hasSingleRates;
     told.leastRate = HUGE_VAL;

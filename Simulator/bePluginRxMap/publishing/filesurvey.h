@@ -20,8 +20,9 @@ public:
     void addPicture(SurveyReport &report) const;
 
 private:
-    SurveyedColumn describe(int place) const;
-    void classify(const SourceColumn &column, SurveyedColumn &told) const;
+    /// `displayFactor`: from the file's unit to the one in which the classes are round.
+    SurveyedColumn describe(int place, double displayFactor = 1.0) const;
+    void classify(const SourceColumn &column, double displayFactor, SurveyedColumn &told) const;
 
     const RawPrescription &source;
     const std::vector<PlanePolygon> &polygons;

@@ -87,6 +87,8 @@ struct RawPrescription {
     std::vector<SourceColumn> columns;
     /// All columns of text, in table order.
     std::vector<TextColumn> texts;
+    /// Places among the table's fields of all columns of numbers, read or not, ascending.
+    std::vector<int> numberFields;
     /// Names of all columns of the table.
     QStringList columnNames;
     /// Null when the file names no coordinate system.

@@ -99,6 +99,8 @@ bool RecordReader::chooseColumns(RawPrescription &map)
     for (const SourceColumn &column : table) {
         if (column.isText)
             map.texts.push_back({column.name, column.field, {}, false});
+        else
+            map.numberFields.push_back(column.field);
     }
     if (!wanted.isEmpty())
         return takeWantedColumns(table, map);

@@ -3,6 +3,8 @@
 
 #include <QTemporaryDir>
 
+Q_DECLARE_METATYPE(LayerField)
+
 /// What a file is found to hold before it is loaded.
 class PrescriptionBackendSurveyTest : public BackendTest {
     Q_OBJECT
@@ -12,6 +14,9 @@ private Q_SLOTS:
     void tellsWhatEachColumnHolds();
     void suggestsWhatALoadWouldFeed_data();
     void suggestsWhatALoadWouldFeed();
+    void aLoadTakesEachColumnInTheUnitThatWasTold_data();
+    void aLoadTakesEachColumnInTheUnitThatWasTold();
+    void aLoadHasTheClassesThatWereTold();
     void tellsAllColumnsWhereNoneLooksLikeARate();
     void tellsAllColumnsOfALayerWhereNoLayerHasARate();
     void namesAColumnByItsNumberWhereItsNameStandsForAnother();
@@ -100,6 +105,77 @@ void PrescriptionBackendSurveyTest::suggestsWhatALoadWouldFeed()
     }
     for (int i = loaded.sources.size(); i < surveyed.columns.size(); ++i)
         QCOMPARE(surveyed.columns.at(i).product, 0);
+}
+
+void PrescriptionBackendSurveyTest::aLoadTakesEachColumnInTheUnitThatWasTold_data()
+{
+    QTest::addColumn<QList<LayerField>>("fields");
+    QTest::addColumn<QStringList>("units");
+    const LayerField first{"Rate1", 1.0};
+    const LayerField second{"Rate2", 2.0};
+    const LayerField third{"Rate3", 3.0};
+    QTest::newRow("each behind its rate")
+        << QList<LayerField>{first, {"Unit1", "kg/ha"}, second, {"Unit2", "lb/ac"}} << QStringList{"kg/ha", "lb/ac"};
+    QTest::newRow("another rate between")
+        << QList<LayerField>{first, second, {"Unit2", "kg/ha"}, third, {"Unit3", "lb/ac"}}
+        << QStringList{"", "kg/ha", "lb/ac"};
+    QTest::newRow("a rate that is text between")
+        << QList<LayerField>{first, {"Rate2", "2 t/ha"}, {"Unit2", "kg/ha"}, third, {"Unit3", "lb/ac"}}
+        << QStringList{"", "kg/ha", "lb/ac"};
+    QTest::newRow("an identifier between")
+        << QList<LayerField>{first, {"Id", 1}, {"Unit1", "kg/ha"}, second, {"Unit2", "lb/ac"}}
+        << QStringList{"kg/ha", "lb/ac"};
+    QTest::newRow("none that looks like a rate")
+        << QList<LayerField>{{"YIELD", 1.0}, {"Unit1", "kg/ha"}, {"YEAR", 1}, {"Unit2", "lb/ac"}}
+        << QStringList{"kg/ha", "lb/ac"};
+    QTest::newRow("in the name") << QList<LayerField>{{"A_kg_ha", 1.0}, second} << QStringList{"kg/ha", ""};
+}
+
+void PrescriptionBackendSurveyTest::aLoadTakesEachColumnInTheUnitThatWasTold()
+{
+    QFETCH(QList<LayerField>, fields);
+    QList<QVariant> values;
+    for (const LayerField &field : qAsConst(fields))
+        values.append(field.sample);
+    const QString path = write(fields, values);
+    const SurveyReport report = survey(requestFor(path));
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    for (const SurveyedColumn &column : report.columns) {
+        const LoadReport loaded = backend->loadAndWait(requestFor(path, {column.key}));
+        QVERIFY2(loaded.isOk(), qPrintable(loaded.error));
+        QCOMPARE(loaded.sources.first().unit, column.unit);
+        QCOMPARE(loaded.sources.first().unitFrom, column.unitFrom);
+    }
+    QStringList units;
+    for (const QString &name : report.columnNames) {
+        for (const SurveyedColumn &column : report.columns) {
+            if (column.name == name)
+                units.append(column.unit);
+        }
+    }
+    QTEST(units, "units");
+}
+
+void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold()
+{
+    constexpr double poundsPerAcre = 0.8921785;
+    LayerSketch sketch;
+    sketch.fields = {{"Rate_g_m2", 1.0}};
+    for (int record = 0; record < 60; ++record)
+        sketch.rows.append({squareText(10 + 0.001 * record, 50, 0.001), {10.0 + 0.37 * record}});
+    const QString path = folder.filePath(QStringLiteral("many.shp"));
+    QVERIFY(sketch.write(path));
+    LoadRequest request = requestFor(path);
+    request.products[0].kind = DbGroupProductGroupInfo::WeightRate;
+    request.products[0].displayFactor = poundsPerAcre;
+    const LoadReport loaded = backend->loadAndWait(request);
+    const SurveyedColumn told = survey(request).columns.value(0);
+    const double factor = PrescriptionBackend::rateFactor(told.unit, request.products[0].kind);
+    QCOMPARE(factor, 10.0);
+    QVERIFY(!loaded.hasSingleRates.value(0));
+    QCOMPARE(told.legend.size(), loaded.legends.first().size());
+    for (int i = 0; i < told.legend.size(); ++i)
+        QCOMPARE(float(factor * told.legend.at(i).rate), float(loaded.legends.first().at(i).rate));
 }
 
 void PrescriptionBackendSurveyTest::tellsAllColumnsWhereNoneLooksLikeARate()

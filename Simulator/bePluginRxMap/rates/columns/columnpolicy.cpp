@@ -198,6 +198,7 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     unit.unit = unit.unit.of(product.kind);
     const QString base = RateUnit::baseText(product.kind);
     feed.factor = unit.unit.factorTo(product.kind);
+    feed.displayFactor = product.displayFactor;
     RateSource told{column.name, unit.unit.isKnown() ? unit.unit.text() : base, unit.from, feed.product + 1, true};
     told.isSure = !names.isEmpty() || LikelyColumns::saysRates(column);
     told.baseUnit = base;

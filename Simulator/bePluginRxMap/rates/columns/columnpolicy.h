@@ -29,6 +29,8 @@ public:
         int column;  ///< Place in RawPrescription::columns.
         /// From the column's unit to the product's base unit.
         double factor = 1.0;
+        /// From there to the operator's unit.
+        double displayFactor = 1.0;
     };
 
     struct Decision {

@@ -17,8 +17,16 @@ ColumnUnits::ColumnUnits(const RawPrescription &rawPrescription)
         if (name.namesUnit() || (!name.namesOther() && areUnits))
             units.push_back(&column);
     }
-    for (const SourceColumn &column : source.columns)
-        rateFields.push_back(column.field);
+    // Not by the columns that were read: a load of one column finds the same unit beside it as a survey of all.
+    for (const int field : source.numberFields) {
+        if (!ColumnName(source.columnNames.at(field)).namesOther())
+            rateFields.push_back(field);
+    }
+    for (const TextColumn &column : source.texts) {
+        const ColumnName name(column.name);
+        if (name.namesRate() && !name.namesOther() && !name.namesUnit())
+            rateFields.push_back(column.field);
+    }
     std::sort(rateFields.begin(), rateFields.end());
 }
 

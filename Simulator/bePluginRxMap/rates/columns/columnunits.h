@@ -34,5 +34,5 @@ private:
 
     const RawPrescription &source;
     std::vector<const TextColumn *> units; ///< In table order.
-    std::vector<int> rateFields;           ///< Ascending.
+    std::vector<int> rateFields;           ///< Of the table's columns that may be rates, read or not; ascending.
 };

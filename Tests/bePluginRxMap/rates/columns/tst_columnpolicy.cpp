@@ -39,6 +39,7 @@ RawPrescription mapOf(std::vector<SourceColumn> columns)
     for (SourceColumn &entry : map.columns) {
         entry.field = map.columnNames.size();
         map.columnNames.append(entry.name);
+        map.numberFields.push_back(entry.field);
     }
     return map;
 }
@@ -367,6 +368,8 @@ void ColumnPolicyTest::looksForUnitsBesideTheirOwnColumn()
     RawPrescription map = tableOf({"Rate1", "Rate2"});
     map.columns[0].field = 1;
     map.columns[1].field = 3;
+    map.columnNames = QStringList{"a", "Rate1", "b", "Rate2", "c"};
+    map.numberFields = {1, 3};
     const auto units = [&map] {
         QStringList result;
         for (int place = 0; place < 2; ++place)
