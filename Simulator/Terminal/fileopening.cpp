@@ -28,6 +28,7 @@ FileOpening::FileOpening(Terminal *owner)
     display->statusBar()->addButton(button);
     openWindow->setGeometry(TerminalWindow::pageArea());
     connect(button, &TouchButton::clicked, this, &FileOpening::toggle);
+    connect(display->statusBar(), &StatusBar::touched, this, &FileOpening::giveWay);
     connect(display, &TerminalWindow::dropped, this, &FileOpening::take);
     connect(openWindow, &OpenWindow::shownChanged, button, &TouchButton::setChecked);
     // Later: the button that asks for it is still on the stack, and loading runs an event loop of its own.
@@ -46,6 +47,16 @@ void FileOpening::toggle()
     else if (mayOpen)
         openWindow->showFiles();
     button->setChecked(openWindow->isVisible());
+}
+
+void FileOpening::giveWay(QAbstractButton *other)
+{
+    if (other == button || !openWindow->isVisible())
+        return;
+    openWindow->leave();
+    // What was under the window already has not been seen.
+    if (other->isCheckable())
+        other->setChecked(true);
 }
 
 void FileOpening::take(const QStringList &files, const QStringList &others)

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class OpenWindow;
+class QAbstractButton;
 class Terminal;
 class TouchButton;
 struct OpenRequest;
@@ -22,6 +23,8 @@ public:
 
 private:
     void toggle();
+    /// Another button of the status bar leads to what it shows, from under the open window, too.
+    void giveWay(QAbstractButton *other);
     void take(const QStringList &files, const QStringList &others);
     void load(const OpenRequest &request);
 

@@ -9,6 +9,7 @@
 #include "guidancepage.h"
 #include "machine.h"
 #include "mapoverlay.h"
+#include "openwindow.h"
 #include "pluginscanner.h"
 #include "productselector.h"
 #include "querylistener.h"
@@ -110,6 +111,10 @@ void Terminal::connectDisplay()
         frameField();
     });
     connect(vehicle(), &Vehicle::moved, this, &Terminal::showVehicle);
+    connect(opening->window(), &OpenWindow::shownChanged, findings.data(), [this](bool isShown) {
+        if (isShown)
+            findings->leave();
+    });
     connect(findings.data(), &FindingsDisplay::mapChosen, this, [this](const QString &group) {
         const QList<int> fed = columnsOf(group).keys();
         if (!fed.isEmpty() && !fed.contains(machineModel->activeProduct()))

@@ -1,7 +1,9 @@
 #include "machine.h"
 #include "openwindow.h"
+#include "simulation.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
+#include "wheelbar.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -15,6 +17,8 @@ private Q_SLOTS:
     void theFolderButtonDoesNothingWhileADialogIsOpen();
     void aDroppedFileIsOpenedThroughTheWindow();
     void whatIsNoFileIsRefusedVisibly();
+    void anotherButtonOfTheStatusBarLeavesTheWindow();
+    void keysDoNotDriveUnderTheWindow();
 
 private:
     QAbstractButton *button(const char *name)
@@ -70,6 +74,42 @@ void TestFileOpening::whatIsNoFileIsRefusedVisibly()
     const auto *message = terminal().window()->findChild<QLabel *>(QStringLiteral("openMessage"));
     QVERIFY2(message->isVisible() && message->text().contains(QLatin1String("example.org")),
              qPrintable(message->text()));
+}
+
+void TestFileOpening::anotherButtonOfTheStatusBarLeavesTheWindow()
+{
+    const auto isDrivingSeen = [this] { return button("driveStart") != nullptr; };
+    for (int time = 0; time < 2; ++time) {
+        QTest::mouseClick(button("openButton"), Qt::LeftButton);
+        QTest::mouseClick(button("drive"), Qt::LeftButton);
+        QVERIFY(!terminal().openWindow()->isVisible());
+        QVERIFY(isDrivingSeen());
+    }
+    QTest::mouseClick(button("drive"), Qt::LeftButton);
+    QVERIFY(!isDrivingSeen());
+}
+
+void TestFileOpening::keysDoNotDriveUnderTheWindow()
+{
+    TerminalWindow *display = terminal().window();
+    OpenWindow *window = terminal().openWindow();
+    const auto *wheel = display->findChild<WheelBar *>();
+    const double pace = terminal().simulation()->timeFactor();
+    button("drive")->click();
+    button("driveByHand")->click();
+    QTest::keyPress(display, Qt::Key_Left);
+    QVERIFY(wheel->turn() < 0.0);
+    button("openButton")->click();
+    QTest::keyClick(window, Qt::Key_PageUp);
+    QCOMPARE(terminal().simulation()->timeFactor(), pace);
+    // A key that was held is let go of.
+    QTest::keyRelease(window, Qt::Key_Left);
+    QCOMPARE(wheel->turn(), 0.0);
+    QTest::keyPress(window, Qt::Key_Right);
+    QCOMPARE(wheel->turn(), 0.0);
+    button("openButton")->click();
+    QTest::keyClick(display, Qt::Key_PageUp);
+    QVERIFY(terminal().simulation()->timeFactor() > pace);
 }
 
 RXMAP_TEST(TestFileOpening, Widgets)

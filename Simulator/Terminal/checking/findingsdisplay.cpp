@@ -96,6 +96,11 @@ void FindingsDisplay::toggle()
     page->raise();
 }
 
+void FindingsDisplay::leave()
+{
+    page->hide();
+}
+
 void FindingsDisplay::show(int number)
 {
     const FindingsPage::Entry entry = entries.at(number);

@@ -20,6 +20,9 @@ public:
     /// None of these is owned; all outlive this.
     FindingsDisplay(PrescriptionBackend *backend, const Vehicle *vehicle, TerminalWindow *window);
 
+    /// Takes the list away.
+    void leave();
+
 Q_SIGNALS:
     /// A finding in the map of that group is about to be shown.
     void mapChosen(const QString &group);

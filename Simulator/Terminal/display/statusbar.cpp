@@ -35,6 +35,7 @@ void StatusBar::addButton(QAbstractButton *button)
 {
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     buttons->insertWidget(buttons->count() - 1, button);
+    connect(button, &QAbstractButton::clicked, this, [this, button] { Q_EMIT touched(button); });
 }
 
 int StatusBar::textLeft() const

@@ -23,6 +23,10 @@ public:
     /// `fraction` of `file`'s load; an empty file takes the bar away.
     void setProgress(const QString &file, double fraction);
 
+Q_SIGNALS:
+    /// After what the button does.
+    void touched(QAbstractButton *button);
+
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

@@ -19,43 +19,54 @@ bool DriveKeys::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QObject::eventFilter(watched, event);
+    const auto &key = static_cast<const QKeyEvent &>(*event);
+    const bool isTaken = event->type() == QEvent::KeyRelease ? release(key) : isForDriving(watched) && press(key);
+    return isTaken || QObject::eventFilter(watched, event);
+}
+
+bool DriveKeys::isForDriving(const QObject *watched) const
+{
     // Whichever of the window's widgets has the keyboard; a dialog's are another window's.
     const auto *widget = qobject_cast<const QWidget *>(watched);
     if (widget == nullptr || widget->window() != panel->window() || !panel->isVisible())
-        return QObject::eventFilter(watched, event);
-    const auto &key = static_cast<const QKeyEvent &>(*event);
-    const bool isTaken = event->type() == QEvent::KeyPress ? press(key) : release(key);
-    return isTaken || QObject::eventFilter(watched, event);
+        return false;
+    // A page of the terminal may lie over the panel, and has keys of its own.
+    const QWidget *window = panel->window();
+    const QWidget *seen = window->childAt(panel->mapTo(window, panel->rect().center()));
+    return seen == nullptr ? window == panel : seen == panel || panel->isAncestorOf(seen);
 }
 
 bool DriveKeys::press(const QKeyEvent &event)
 {
-    constexpr double turnOfAPress = 0.2;
-    if (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right) {
-        // A held key repeats itself.
-        const double turn = event.key() == Qt::Key_Left ? -turnOfAPress : turnOfAPress;
-        panel->wheel()->setTurn(panel->wheel()->turn() + turn);
+    if (!event.isAutoRepeat() && pressOnce(event.key()))
         return true;
-    }
-    return event.isAutoRepeat() || holdPedal(event.key(), true) || pressOnce(event.key());
+    if (!hold(event.key(), true, event.isAutoRepeat()))
+        return event.isAutoRepeat();
+    held.insert(event.key());
+    return true;
 }
 
 bool DriveKeys::release(const QKeyEvent &event)
 {
-    if (event.isAutoRepeat())
-        return true;
-    if (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right) {
-        panel->wheel()->setTurn(0.0);
-        return true;
-    }
-    return holdPedal(event.key(), false);
+    // Also where something has come over the panel meanwhile: nobody else lets go of it.
+    if (event.isAutoRepeat() || !held.contains(event.key()))
+        return held.contains(event.key());
+    held.remove(event.key());
+    return hold(event.key(), false, false);
 }
 
-bool DriveKeys::holdPedal(int key, bool isPressed)
+bool DriveKeys::hold(int key, bool isPressed, bool isRepeated)
 {
-    if (key == Qt::Key_Up)
+    constexpr double turnOfAPress = 0.2;
+    if (key == Qt::Key_Left || key == Qt::Key_Right) {
+        // A held key repeats itself.
+        const double turn = key == Qt::Key_Left ? -turnOfAPress : turnOfAPress;
+        panel->wheel()->setTurn(isPressed ? panel->wheel()->turn() + turn : 0.0);
+        return true;
+    }
+    if (key == Qt::Key_Up && !isRepeated)
         controls->pressThrottle(isPressed);
-    else if (key == Qt::Key_Down)
+    else if (key == Qt::Key_Down && !isRepeated)
         controls->pressBrake(isPressed);
     return key == Qt::Key_Up || key == Qt::Key_Down;
 }

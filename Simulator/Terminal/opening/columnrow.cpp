@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int productWidth = 150;
-constexpr int unitWidth = 126;
+constexpr int productWidth = 140;
+constexpr int unitWidth = 134;
 
 /// Six digits tell any rate apart that one has to.
 QString rateText(double rate)

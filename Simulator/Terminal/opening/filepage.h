@@ -22,6 +22,7 @@ public:
 
     void showRecent(const QStringList &paths);
     void showFolder(const QString &folder);
+    bool showsFolder() const { return !folder.isEmpty(); }
     Pager *pager() const { return pages; }
 
 Q_SIGNALS:

@@ -14,8 +14,9 @@ namespace {
 
 QString ageAndSize(const QFileInfo &info)
 {
-    const QLocale locale;
-    const QString age = locale.toString(info.lastModified(), QLocale::ShortFormat);
+    // Neither follows the computer's language, which need not be the operator's.
+    const QLocale locale = QLocale::c();
+    const QString age = info.lastModified().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
     return info.isDir() ? age : locale.formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
 }
 

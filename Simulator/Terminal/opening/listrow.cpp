@@ -5,15 +5,31 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int textPixels = 22;
+constexpr int longTextPixels = 17;
 constexpr int notePixels = 16;
 constexpr int textHeight = 28;
 constexpr int noteHeight = 21;
 constexpr int inset = 16;
 constexpr int markWidth = 8;
 constexpr double disabledOpacity = 0.45;
+
+/// A text that is longer than a line, on two lines, broken between words where that is possible.
+QStringList onTwoLines(const QString &text, const QFontMetrics &metrics, int width)
+{
+    int length = text.size();
+    while (length > 1 && metrics.horizontalAdvance(text.left(length)) > width)
+        --length;
+    const int word =
+        std::max(text.lastIndexOf(QLatin1Char(' '), length), text.lastIndexOf(QLatin1Char('_'), length - 1));
+    if (length < text.size() && word > 0)
+        length = word + 1;
+    return {text.left(length).trimmed(), text.mid(length)};
+}
 
 } // namespace
 
@@ -69,13 +85,26 @@ void ListRow::drawTexts(QPainter &painter, const QRect &area) const
         painter.drawText(line, Qt::AlignVCenter | align,
                          painter.fontMetrics().elidedText(text, Qt::ElideMiddle, line.width()));
     };
-    QRect line(area.left(), (height() - textHeight - notes.size() * noteHeight) / 2, area.width(), textHeight);
+    QStringList texts{text()};
     painter.setFont(Theme::font(textPixels, true));
+    int lineHeight = textHeight;
+    const int twoLines = 2 * noteHeight;
+    if (painter.fontMetrics().horizontalAdvance(text()) > area.width()
+        && twoLines + notes.size() * noteHeight <= height()) {
+        painter.setFont(Theme::font(longTextPixels, true));
+        texts = onTwoLines(text(), painter.fontMetrics(), area.width());
+        lineHeight = noteHeight;
+    }
+    const int all = texts.size() * lineHeight + notes.size() * noteHeight;
+    QRect line(area.left(), (height() - all) / 2, area.width(), lineHeight);
     painter.setPen(Theme::text());
-    draw(line, Qt::AlignLeft, text());
+    for (const QString &part : texts) {
+        draw(line, Qt::AlignLeft, part);
+        line.translate(0, lineHeight);
+    }
     painter.setFont(Theme::font(notePixels));
     painter.setPen(Theme::faintText());
-    line = QRect(area.left(), line.bottom() + 1, area.width(), noteHeight);
+    line.setHeight(noteHeight);
     int badgeWidth = badge.isEmpty() ? 0 : QFontMetrics(Theme::font(notePixels, true)).horizontalAdvance(badge) + inset;
     const QRect besideNote = line;
     for (const QString &note : notes) {

@@ -103,6 +103,14 @@ void OpenWindow::showFiles()
     showPage(files);
 }
 
+void OpenWindow::returnToFiles()
+{
+    if (files->showsFolder())
+        showPage(files);
+    else
+        showFiles();
+}
+
 void OpenWindow::preview(const QStringList &paths)
 {
     waiting.append(paths);
@@ -138,7 +146,7 @@ void OpenWindow::takeSurvey(const SurveyReport &survey)
     busy = Busy::No;
     if (isGivenUp) {
         if (isVisible())
-            showFiles();
+            returnToFiles();
         return;
     }
     const std::optional<FileChoices> before = remembered;
@@ -225,7 +233,7 @@ void OpenWindow::goBack()
         showPage(last.isOk() ? static_cast<QWidget *>(previews) : message);
     else {
         waiting.clear();
-        showFiles();
+        returnToFiles();
     }
 }
 

@@ -63,6 +63,8 @@ private:
     void connectPages();
     void connectPreview();
     void showPage(QWidget *page);
+    /// To the folder that the file was taken from; the recent files where there is none.
+    void returnToFiles();
     void showProgress(const QString &text, Busy what);
     void survey(const QString &path, const QString &layer, const QString &task);
     void takeSurvey(const SurveyReport &survey);

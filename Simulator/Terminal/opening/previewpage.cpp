@@ -115,6 +115,8 @@ QWidget *PreviewPage::makeFoot()
     skip = addButton(layout, tr("Skip"), "openSkip", &PreviewPage::skipped);
     accept = addButton(layout, tr("Open"), "openAccept", &PreviewPage::accepted);
     accept->setCheckable(true);
+    // A touch would take the colour away.
+    connect(accept, &TouchButton::clicked, accept, [this] { accept->setChecked(true); });
     return foot;
 }
 
@@ -139,7 +141,7 @@ void PreviewPage::refresh()
     table->refresh();
     showColumn(table->shownColumn());
     accept->setEnabled(selection->feedsAny());
-    accept->setChecked(true);
+    accept->setChecked(accept->isEnabled());
     const QString polygons = tr("Polygons: %1").arg(survey.polygons);
     const QString lack = selection->feedsAny() ? QString() : tr("Choose a product for a column to open the file.");
     remark->setText(lack.isEmpty() ? polygons : polygons + QLatin1Char('\n') + lack);

@@ -105,5 +105,6 @@ void UnitPage::showUnit()
 {
     accept->setText(unit().isEmpty() ? tr("Take") : tr("Take %1").arg(unit()));
     accept->setEnabled(!unit().isEmpty());
-    accept->setChecked(true);
+    accept->setChecked(accept->isEnabled());
+    accept->setNote(accept->isEnabled() ? QString() : tr("amount and area"));
 }

@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>feeds no product</source>
-        <translation>speist kein Produkt</translation>
+        <translation>für kein Produkt</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -390,7 +390,7 @@
     </message>
     <message>
         <source>Which product does %1 feed?</source>
-        <translation>Welches Produkt speist %1?</translation>
+        <translation>Für welches Produkt gilt %1?</translation>
     </message>
     <message>
         <source>In which unit is %1?</source>
@@ -753,6 +753,10 @@
     <message>
         <source>Take %1</source>
         <translation>%1 übernehmen</translation>
+    </message>
+    <message>
+        <source>amount and area</source>
+        <translation>Menge und Fläche</translation>
     </message>
 </context>
 </TS>

@@ -390,7 +390,7 @@
     </message>
     <message>
         <source>Which product does %1 feed?</source>
-        <translation>¿Qué producto alimenta %1?</translation>
+        <translation>¿Para qué producto es %1?</translation>
     </message>
     <message>
         <source>In which unit is %1?</source>
@@ -753,6 +753,10 @@
     <message>
         <source>Take %1</source>
         <translation>Tomar %1</translation>
+    </message>
+    <message>
+        <source>amount and area</source>
+        <translation>cantidad y superficie</translation>
     </message>
 </context>
 </TS>

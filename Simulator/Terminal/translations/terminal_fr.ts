@@ -754,5 +754,9 @@
         <source>Take %1</source>
         <translation>Prendre %1</translation>
     </message>
+    <message>
+        <source>amount and area</source>
+        <translation>quantité et surface</translation>
+    </message>
 </context>
 </TS>

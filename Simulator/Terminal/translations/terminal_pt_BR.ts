@@ -390,7 +390,7 @@
     </message>
     <message>
         <source>Which product does %1 feed?</source>
-        <translation>Qual produto %1 alimenta?</translation>
+        <translation>Para qual produto é %1?</translation>
     </message>
     <message>
         <source>In which unit is %1?</source>
@@ -753,6 +753,10 @@
     <message>
         <source>Take %1</source>
         <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>amount and area</source>
+        <translation>quantidade e área</translation>
     </message>
 </context>
 </TS>
