@@ -1,9 +1,9 @@
 #include "coveragecheck.h"
 
-#include "geosinterrupt.h"
+#include "findingtext.h"
 #include "planeshape.h"
 #include "ringcrossings.h"
-#include "unsharededges.h"
+#include "slitbridges.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,26 +16,6 @@ constexpr double faceGrid = 1.0 / 64.0;
 constexpr double sameShape = 0.999;
 /// So many edges of a gap are asked for what lies beyond them.
 constexpr size_t mostAsked = 64;
-
-QString squareMetres(double area)
-{
-    return QStringLiteral("%1 m2").arg(area, 0, 'f', area < 10.0 ? 2 : 1);
-}
-
-/// "record 4", "records 4 and 7", "records 4, 7 and 5 more".
-QString textOf(const QList<int> &records)
-{
-    constexpr int mostTold = 6;
-    if (records.size() == 1)
-        return QStringLiteral("record %1").arg(records.first());
-    const bool isCut = records.size() > mostTold;
-    QStringList numbers;
-    for (int i = 0; i < std::min(records.size() - (isCut ? 0 : 1), mostTold); ++i)
-        numbers.append(QString::number(records.at(i)));
-    const QString last =
-        isCut ? QStringLiteral("%1 more").arg(records.size() - mostTold) : QString::number(records.last());
-    return QStringLiteral("records %1 and %2").arg(numbers.join(QStringLiteral(", ")), last);
-}
 
 PlaneVertex pointInside(const GeosContext &geos, const PlanePolygon &face)
 {
@@ -66,7 +46,8 @@ CoverageCheck::CoverageCheck(const MapView &view, const LoadControl &loadControl
 
 bool CoverageCheck::run(FindingList &findings)
 {
-    const std::vector<PlaneEdge> edges = UnsharedEdges::of(map);
+    UnsharedEdges::List unshared = UnsharedEdges::of(map);
+    std::vector<PlaneEdge> &edges = unshared.edges;
     if (control.isCancelled())
         return false;
     if (RingCrossings::count(edges, mostCrossings) > mostCrossings) {
@@ -78,65 +59,89 @@ bool CoverageCheck::run(FindingList &findings)
         findings.add(finding, HUGE_VAL);
         return !control.isCancelled();
     }
+    const std::vector<PlaneEdge> across = bridges(unshared);
+    edges.insert(edges.end(), across.begin(), across.end());
+    std::vector<PlanePolygon> gaps;
     for (const PlanePolygon &face : geos.facesOf(edges, faceGrid)) {
         if (control.isCancelled())
             return false;
-        lookAt(face, findings);
+        lookAt(face, gaps);
     }
+    // Lines across a slit cut it into pieces.
+    for (const PlanePolygon &gap : across.empty() ? gaps : geos.joined(gaps))
+        tellGap(gap, findings);
     return comparePairs(findings);
 }
 
-void CoverageCheck::lookAt(const PlanePolygon &face, FindingList &findings)
+std::vector<PlaneEdge> CoverageCheck::bridges(const UnsharedEdges::List &edges)
+{
+    std::vector<PlaneEdge> all = SlitBridges::across(edges, tolerance, sliverWidth);
+    const auto isCovered = [this](const PlaneEdge &bridge) {
+        const PlaneVertex middle = {0.5 * (bridge.from.x + bridge.to.x), 0.5 * (bridge.from.y + bridge.to.y)};
+        return !cover.at(middle).polygons.empty();
+    };
+    all.erase(std::remove_if(all.begin(), all.end(), isCovered), all.end());
+    return all;
+}
+
+void CoverageCheck::lookAt(const PlanePolygon &face, std::vector<PlanePolygon> &gaps)
 {
     if (isArtefact(polygonArea(face), PlaneShape::perimeter(face)))
         return;
-    const PlaneVertex point = pointInside(geos, face);
-    const CoverIndex::Cover over = cover.at(point);
+    const CoverIndex::Cover over = cover.at(pointInside(geos, face));
     if (over.polygons.empty() && !over.isHole)
-        tellGap(face, point, findings);
+        gaps.push_back(face);
     if (over.polygons.size() < 2)
         return;
     for (const unsigned place : cover.near(PlaneShape::extent(face)))
         isSuspect[place] = true;
 }
 
-void CoverageCheck::tellGap(const PlanePolygon &face, const PlaneVertex &point, FindingList &findings)
+void CoverageCheck::tellGap(const PlanePolygon &gap, FindingList &findings)
 {
-    const double area = polygonArea(face);
-    const double width = PlaneShape::width(area, PlaneShape::perimeter(face));
+    const double area = polygonArea(gap);
+    const double width = PlaneShape::width(area, PlaneShape::perimeter(gap));
+    const bool isSliver = width < sliverWidth;
+    const Surroundings surroundings = around(gap);
+    if (surroundings.isOpen && (!isSliver || area < leastOpenLength * width))
+        return;
+    const PlaneVertex point = pointInside(geos, gap);
     MapFinding finding;
-    finding.kind = width < sliverWidth ? MapFinding::Kind::Sliver : MapFinding::Kind::Gap;
+    finding.kind = isSliver ? MapFinding::Kind::Sliver : MapFinding::Kind::Gap;
     finding.area = area;
     finding.place = QPointF(point.x, point.y);
-    finding.extent = PlaneShape::rectangle(PlaneShape::extent(face));
-    finding.records = neighbours(face);
+    finding.extent = PlaneShape::rectangle(PlaneShape::extent(gap));
+    finding.records = surroundings.records;
     finding.text = QStringLiteral("no polygon covers %1 inside the field (%2 m wide)")
-                       .arg(squareMetres(area), QString::number(width, 'f', width < sliverWidth ? 2 : 1));
+                       .arg(FindingText::squareMetres(area), QString::number(width, 'f', isSliver ? 2 : 1));
     if (!finding.records.isEmpty())
-        finding.text += QStringLiteral(", beside %1").arg(textOf(finding.records));
+        finding.text += QStringLiteral(", beside %1").arg(FindingText::records(finding.records));
     findings.add(finding, area);
 }
 
-QList<int> CoverageCheck::neighbours(const PlanePolygon &face)
+CoverageCheck::Surroundings CoverageCheck::around(const PlanePolygon &gap)
 {
     // Far enough beyond an edge that its rounding does not matter.
     constexpr double step = 2.0 * tolerance;
-    QList<int> records;
-    const double side = signedArea(face.outer) > 0.0 ? 1.0 : -1.0;
-    const size_t count = face.outer.size();
+    Surroundings surroundings;
+    QList<int> &records = surroundings.records;
+    const double side = signedArea(gap.outer) > 0.0 ? 1.0 : -1.0;
+    const size_t count = gap.outer.size();
     const size_t stride = 1 + count / mostAsked;
     for (size_t i = 0; i < count; i += stride) {
-        const PlaneVertex &from = face.outer[i];
-        const PlaneVertex &to = face.outer[(i + 1) % count];
+        const PlaneVertex &from = gap.outer[i];
+        const PlaneVertex &to = gap.outer[(i + 1) % count];
         const double length = std::hypot(to.x - from.x, to.y - from.y);
         const PlaneVertex beyond = {0.5 * (from.x + to.x) + side * step * (to.y - from.y) / length,
                                     0.5 * (from.y + to.y) - side * step * (to.x - from.x) / length};
-        for (const unsigned place : cover.at(beyond).polygons)
+        const CoverIndex::Cover over = cover.at(beyond);
+        for (const unsigned place : over.polygons)
             records.append(map.polygons()[place].record);
+        surroundings.isOpen = surroundings.isOpen || (over.polygons.empty() && !over.isHole && length > tolerance);
     }
     std::sort(records.begin(), records.end());
     records.erase(std::unique(records.begin(), records.end()), records.end());
-    return records;
+    return surroundings;
 }
 
 bool CoverageCheck::comparePairs(FindingList &findings)
@@ -197,12 +202,12 @@ void CoverageCheck::compare(unsigned a, unsigned b, FindingList &findings)
     finding.area = area;
     finding.place = QPointF(point.x, point.y);
     finding.extent = PlaneShape::rectangle(extent);
-    const QString who = textOf(finding.records);
+    const QString who = FindingText::records(finding.records);
     if (one.record == other.record)
-        finding.text = QStringLiteral("parts of %1 overlap on %2").arg(who, squareMetres(area));
+        finding.text = QStringLiteral("parts of %1 overlap on %2").arg(who, FindingText::squareMetres(area));
     else if (isSame)
-        finding.text = QStringLiteral("%1 have the same shape, %2").arg(who, squareMetres(area));
+        finding.text = QStringLiteral("%1 have the same shape, %2").arg(who, FindingText::squareMetres(area));
     else
-        finding.text = QStringLiteral("%1 overlap on %2").arg(who, squareMetres(area));
+        finding.text = QStringLiteral("%1 overlap on %2").arg(who, FindingText::squareMetres(area));
     findings.add(finding, area);
 }

@@ -5,6 +5,7 @@
 #include "geoscontext.h"
 #include "loadcontrol.h"
 #include "mapview.h"
+#include "unsharededges.h"
 
 #include <vector>
 
@@ -12,13 +13,17 @@
 ///
 /// The number of polygons over the ground changes at unshared edges only. These alone are noded and made into faces
 /// (GEOS, on a grid as fine as positions are known), and one point of each face tells how many polygons cover it: none
-/// is a gap, two or more an overlap. Polygons near an overlap are then compared pair by pair.
+/// is a gap, two or more an overlap. Polygons near an overlap are then compared pair by pair. Slits that are open to
+/// the outside are closed by lines across them first (`SlitBridges`).
 class CoverageCheck {
 public:
     /// What is narrower than this, in metres, comes from the rounding of shared edges: no receiver knows it better.
     static constexpr double tolerance = 0.02;
     /// Gaps that are narrower than this, in metres, are slivers: left open between neighbours, not left out.
     static constexpr double sliverWidth = 0.5;
+    /// A sliver that is open to the outside is told from this length on, metres: shorter ones are notches of a rough
+    /// border.
+    static constexpr double leastOpenLength = 2.0;
     /// With more meeting edges than this they are not looked at, for the memory's sake.
     static constexpr size_t mostCrossings = 1000000;
 
@@ -29,10 +34,18 @@ public:
     bool run(FindingList &findings);
 
 private:
-    void lookAt(const PlanePolygon &face, FindingList &findings);
-    void tellGap(const PlanePolygon &face, const PlaneVertex &point, FindingList &findings);
-    /// Records of the polygons beyond the face's edges, ascending.
-    QList<int> neighbours(const PlanePolygon &face);
+    /// What lies around a gap.
+    struct Surroundings {
+        QList<int> records;  ///< Of the polygons beyond its edges, ascending.
+        bool isOpen = false; ///< Beyond an edge lies nothing.
+    };
+
+    /// Lines across slits where no polygon lies.
+    std::vector<PlaneEdge> bridges(const UnsharedEdges::List &edges);
+    /// Keeps the face in `gaps` when it is part of one, and the polygons near it as suspects when they overlap there.
+    void lookAt(const PlanePolygon &face, std::vector<PlanePolygon> &gaps);
+    void tellGap(const PlanePolygon &gap, FindingList &findings);
+    Surroundings around(const PlanePolygon &gap);
     bool comparePairs(FindingList &findings);
     void compare(unsigned a, unsigned b, FindingList &findings);
     const GeosContext::Geometry &shapeOf(unsigned polygon);

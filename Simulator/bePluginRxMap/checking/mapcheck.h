@@ -10,8 +10,9 @@
 #include <optional>
 #include <vector>
 
-/// Looks for what is wrong with a map that a load cannot know: overlaps, gaps, slivers, polygons that are narrower than
-/// the machine, rates that are far from the rest or look like totals. Blocks; touches nothing that is shared.
+/// Looks for what is wrong with a map that a load cannot know: overlaps, gaps, slivers, areas of one rate that are
+/// narrower than the machine, rates that are far from the rest or look like totals. Blocks; touches nothing that is
+/// shared.
 namespace MapCheck {
 
 struct Settings {

@@ -128,9 +128,8 @@ void RateCheck::tellFar(std::vector<Entry> sorted, FindingList &findings) const
         }
         finding.extent = PlaneShape::rectangle(extent);
         finding.text =
-            QStringLiteral("%1 %2 in column \"%3\" is far from the other rates, %4 to %5 (by the median "
-                           "absolute deviation)")
-                .arg(numberText(rate), column.unit, column.name, numberText(usual.least), numberText(usual.greatest));
+            QStringLiteral("%1 in column \"%2\" (%3) is far from the other rates, %4 to %5")
+                .arg(numberText(rate), column.name, column.unit, numberText(usual.least), numberText(usual.greatest));
         findings.add(finding, std::fabs(rate - usual.greatest));
     }
 }
@@ -157,8 +156,8 @@ void RateCheck::tellTotals(const std::vector<Entry> &all, FindingList &findings)
         return;
     MapFinding finding;
     finding.kind = MapFinding::Kind::Total;
-    finding.text = QStringLiteral("column \"%1\" looks like totals, not rates: its numbers grow with the area of the "
-                                  "polygons (rank correlation %2)")
-                       .arg(column.name, QString::number(correlation, 'f', 2));
+    finding.text =
+        QStringLiteral("column \"%1\" looks like totals, not rates: its numbers grow with the area of the polygons")
+            .arg(column.name);
     findings.add(finding, correlation);
 }

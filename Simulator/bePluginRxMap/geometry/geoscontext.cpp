@@ -137,6 +137,16 @@ std::vector<PlanePolygon> GeosContext::facesOf(const std::vector<PlaneEdge> &edg
     return polygons(owned(noded ? GEOSPolygonize_r(handle, &noding, 1) : nullptr), -1);
 }
 
+std::vector<PlanePolygon> GeosContext::joined(const std::vector<PlanePolygon> &areas) const
+{
+    std::vector<Geometry> members;
+    members.reserve(areas.size());
+    for (const PlanePolygon &area : areas)
+        members.push_back(polygon(area.outer, area.holes));
+    const Geometry all = collection(GEOS_GEOMETRYCOLLECTION, std::move(members));
+    return polygons(owned(all ? GEOSUnaryUnion_r(handle, all.get()) : nullptr), -1);
+}
+
 PlaneVertex GeosContext::pointInside(const PlanePolygon &area) const
 {
     const Geometry shape = polygon(area.outer, area.holes);

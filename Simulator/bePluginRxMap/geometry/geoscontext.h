@@ -35,6 +35,8 @@ public:
     /// The bounded faces that the edges divide the plane into, on a grid of `grid` metres to which the edges are
     /// snapped: what is narrower than that is none. Empty when there are none, or GEOS fails.
     std::vector<PlanePolygon> facesOf(const std::vector<PlaneEdge> &edges, double grid) const;
+    /// The polygons with those joined that share an edge; of no record. Empty when GEOS fails.
+    std::vector<PlanePolygon> joined(const std::vector<PlanePolygon> &polygons) const;
     /// A point inside the polygon, and not on its border.
     PlaneVertex pointInside(const PlanePolygon &polygon) const;
     /// What `from` covers and `cut` does not, on the grid; both valid and of polygons only. Null when GEOS fails.

@@ -92,11 +92,13 @@ private Q_SLOTS:
     void finds();
     void findsRates_data();
     void findsRates();
+    void takesCellsOfOneRateForOneArea();
     void leavesPolygonsOfDifferentProductsAlone();
     void takesAJoinedHoleForAHole();
     void findsTheOverlapsThatGeosFinds_data();
     void findsTheOverlapsThatGeosFinds();
     void tellsTheRestOfManyTogether();
+    void tellsManyNarrowAreasInOne();
     void endsWhenItIsCancelled();
 };
 
@@ -133,14 +135,33 @@ void MapCheckTest::finds_data()
     row("hole", pond, Kind::Gap, nothing, 0.0);
     row("sliver between neighbours", around(0.25, 40), Kind::Sliver, {0, 1, 2, 3}, 10.0);
     row("gap as narrow as the rounding", around(1.0 / 64, 40), Kind::Sliver, nothing, 0.0);
+    row("slit open at both ends", mapOf({square, box(50.125, 0, 50, 50)}), Kind::Sliver, {0, 1}, 6.25);
+    row("slit open at one end", mapOf({square, box(50.125, 0, 50, 50), box(0, 50, 100.125, 50)}), Kind::Sliver,
+        {0, 1, 2}, 6.25);
+    row("slit between strips that are not abreast", mapOf({square, box(50.125, 20, 50, 50)}), Kind::Sliver, {0, 1},
+        3.75);
+    row("slit between cells", mapOf({square, box(0, 50, 50, 50), box(50.125, 0, 50, 50), box(50.125, 50, 50, 50)}),
+        Kind::Sliver, {0, 1, 2, 3}, 12.5);
+    row("headland track", mapOf({square, box(51, 0, 50, 50)}), Kind::Sliver, nothing, 0.0);
+    row("slit as narrow as the rounding", mapOf({square, box(50 + 1.0 / 64, 0, 50, 50)}), Kind::Sliver, nothing, 0.0);
+    row("notch where neighbours meet",
+        mapOf({{{0, 0}, {50, 0}, {50, 49}, {49.8, 50}, {0, 50}}, {{50, 0}, {90, 0}, {90, 50}, {50.2, 50}, {50, 49}}}),
+        Kind::Sliver, nothing, 0.0);
     row("polygon that is a sliver", mapOf({square, box(50, 0, 0.25, 50)}), Kind::Sliver, {1}, 12.5);
     row("no sliver", mapOf({square, box(50, 0, 0.75, 50)}), Kind::Sliver, nothing, 0.0);
     row("narrow strip", mapOf({square, box(60, 0, 11.5, 200)}), Kind::Narrow, {1}, 2300.0);
     row("narrow cell", mapOf({square, box(60, 0, 11, 11)}), Kind::Narrow, {1}, 121.0);
-    row("as wide as the machine", mapOf({square, box(60, 0, 12, 200)}), Kind::Narrow, nothing, 0.0);
+    row("as wide as the machine", mapOf({square, box(60, 0, 11.96, 200)}), Kind::Narrow, nothing, 0.0);
     Polygons frame = mapOf({box(0, 0, 100, 100)});
     frame[0].holes = {box(10, 10, 80, 80)};
     row("narrow ring", frame, Kind::Narrow, {0}, 3600.0);
+    row("cells of one rate", mapOf({box(0, 0, 10, 10), box(10, 0, 10, 10), box(0, 10, 20, 10)}), Kind::Narrow, nothing,
+        0.0);
+    row("cells of one rate in a row", mapOf({box(0, 0, 10, 10), box(10, 0, 10, 10), box(20, 0, 10, 10)}), Kind::Narrow,
+        {0, 1, 2}, 300.0);
+    row("cells of one rate that meet in a corner", mapOf({box(0, 0, 10, 10), box(10, 10, 10, 10)}), Kind::Narrow, {0},
+        100.0);
+    row("cell beside a wide one of its rate", mapOf({square, box(50, 5, 10, 10)}), Kind::Narrow, nothing, 0.0);
 }
 
 void MapCheckTest::finds()
@@ -182,6 +203,20 @@ void MapCheckTest::findsRates()
     QCOMPARE(findings.isEmpty(), records.isEmpty());
     if (!records.isEmpty())
         QCOMPARE(findings.first().records, records);
+}
+
+void MapCheckTest::takesCellsOfOneRateForOneArea()
+{
+    // Two cells, and a third and fourth that share only parts of their edges with them.
+    const Polygons cells = mapOf({box(0, 0, 10, 10), box(10, 0, 10, 10), box(-5, 10, 15, 10), box(10, 10, 15, 10)});
+    QCOMPARE(ofKind(check(cells, {100, 100, 100, 100}), Kind::Narrow).size(), 0);
+    const QList<MapFinding> halves = ofKind(check(cells, {100, 100, 200, 200}), Kind::Narrow);
+    QCOMPARE(halves.size(), 2);
+    QCOMPARE(halves.first().text,
+             QStringLiteral(
+                 "records 0 and 1 have the same rate and are 10.0 m wide together, narrower than the machine (12 m)"));
+    QCOMPARE(ofKind(check(cells, {1, 2, 3, 4}), Kind::Narrow).size(), 4);
+    QCOMPARE(ofKind(check(cells, {1, none, 1, none, 1, 2, 1, 2}), Kind::Narrow).size(), 2);
 }
 
 void MapCheckTest::leavesPolygonsOfDifferentProductsAlone()
@@ -248,10 +283,30 @@ void MapCheckTest::findsTheOverlapsThatGeosFinds()
 
 void MapCheckTest::tellsTheRestOfManyTogether()
 {
-    const QList<MapFinding> findings = ofKind(check(plainFields(150), {}, 40.0), Kind::Narrow);
+    std::vector<PlaneRing> rings;
+    for (int i = 0; i < 150; ++i) {
+        rings.push_back(box(100 * i, 0, 50, 50));
+        rings.push_back(box(100 * i + 40, 0, 50, 50));
+    }
+    const QList<MapFinding> findings = ofKind(check(mapOf(rings)), Kind::Overlap);
     QCOMPARE(findings.size(), int(FindingList::mostOfAKind) + 1);
-    QCOMPARE(findings.last().text, QStringLiteral("50 more narrow polygons, 45000.0 m2 in all"));
-    QCOMPARE(findings.last().records.size(), 50);
+    QCOMPARE(findings.last().text, QStringLiteral("50 more overlaps, 25000.0 m2 in all"));
+    QCOMPARE(findings.last().records.size(), 100);
+}
+
+void MapCheckTest::tellsManyNarrowAreasInOne()
+{
+    QCOMPARE(ofKind(check(plainFields(10), {}, 40.0), Kind::Narrow).size(), 10);
+    Polygons polygons = plainFields(11);
+    polygons[7].outer = box(420, 0, 20, 30);
+    const QList<MapFinding> findings = ofKind(check(polygons, {}, 40.0), Kind::Narrow);
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(
+        findings.first().text,
+        QStringLiteral("11 areas of one rate are narrower than the machine (40 m), the narrowest 20.0 m (record 7)"));
+    QCOMPARE(findings.first().records.size(), 11);
+    QVERIFY(std::fabs(*findings.first().area - 9600.0) < 1.0);
+    QVERIFY(findings.first().extent.contains(QPointF(430, 15)));
 }
 
 void MapCheckTest::endsWhenItIsCancelled()

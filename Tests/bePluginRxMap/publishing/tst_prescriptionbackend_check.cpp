@@ -94,8 +94,9 @@ void PrescriptionBackendCheckTest::tells_data()
         QTest::newRow(name) << sketch << kind << isFound << records;
     };
     const LayerSketch plain = layerOf("rate_kg_ha", {{field(0), 50.0}, {field(1), 60.0}});
-    for (const Kind kind : {Kind::Repaired, Kind::Skipped, Kind::UnitUnknown, Kind::UnitMismatch, Kind::GuessedColumn,
-                            Kind::ReferenceSystem, Kind::NotANumber, Kind::Duplicate, Kind::LooseHole, Kind::Total})
+    for (const Kind kind :
+         {Kind::Repaired, Kind::Skipped, Kind::UnitUnknown, Kind::UnitMismatch, Kind::GuessedColumn,
+          Kind::ReferenceSystem, Kind::NotANumber, Kind::Duplicate, Kind::LooseHole, Kind::Total, Kind::StrayPolygon})
         row(qPrintable(QStringLiteral("nothing %1").arg(int(kind))), plain, kind, false);
     row("unit not known", layerOf("rate", {{field(0), 50.0}}), Kind::UnitUnknown, true);
     row("guessed column", layerOf("thing", {{field(0), 50.5}, {field(1), 60.5}}), Kind::GuessedColumn, true);
@@ -125,6 +126,17 @@ void PrescriptionBackendCheckTest::tells_data()
     LayerSketch unknown = plain;
     unknown.epsg = 0;
     unknown.rows = {{squareText(11.0, 48.0, 0.001), {5.0}}};
+    LayerSketch other = plain;
+    other.fields.append({"water_l_ha", 1.0});
+    for (auto &cell : other.rows)
+        cell.values.append(200.0);
+    row("unit that fits no product", other, Kind::UnitMismatch, true);
+    row("polygon far away",
+        layerOf("rate_kg_ha", {{field(0), 50.0}, {field(1), 60.0}, {rings({boxText(800000, 5500000, 30, 30)}), 70.0}}),
+        Kind::StrayPolygon, true, {2});
+    row("polygon of another field",
+        layerOf("rate_kg_ha", {{field(0), 50.0}, {field(1), 60.0}, {rings({boxText(520000, 5500000, 30, 30)}), 70.0}}),
+        Kind::StrayPolygon, false);
     row("coordinate system assumed", unknown, Kind::ReferenceSystem, true);
 }
 

@@ -12,6 +12,7 @@ struct SidedEdge {
     PlaneVertex low;
     PlaneVertex high;
     int side; ///< 1 for left, -1 for right.
+    unsigned polygon;
 
     bool isBefore(const SidedEdge &other) const
     {
@@ -28,20 +29,20 @@ double doubledArea(const RX_POLYGON &ring)
     return doubled;
 }
 
-void append(const RX_POLYGON &ring, std::vector<SidedEdge> &edges)
+void append(const RX_POLYGON &ring, unsigned polygon, std::vector<SidedEdge> &edges)
 {
     const int inside = (doubledArea(ring) > 0.0) == ring.isHole ? -1 : 1;
     const PlaneVertex *from = ring.vertices + ring.vertexCount - 1;
     for (const PlaneVertex *to = ring.vertices; to != ring.vertices + ring.vertexCount; ++to) {
         const bool isRising = std::tie(from->x, from->y) < std::tie(to->x, to->y);
-        edges.push_back(isRising ? SidedEdge{*from, *to, inside} : SidedEdge{*to, *from, -inside});
+        edges.push_back(isRising ? SidedEdge{*from, *to, inside, polygon} : SidedEdge{*to, *from, -inside, polygon});
         from = to;
     }
 }
 
 } // namespace
 
-std::vector<PlaneEdge> UnsharedEdges::of(const MapView &map)
+UnsharedEdges::List UnsharedEdges::of(const MapView &map)
 {
     size_t vertices = 0;
     const auto count = [&vertices](const RX_POLYGON &ring) { vertices += ring.vertexCount; };
@@ -49,17 +50,20 @@ std::vector<PlaneEdge> UnsharedEdges::of(const MapView &map)
         MapView::forEachRing(polygon, count);
     std::vector<SidedEdge> edges;
     edges.reserve(vertices);
-    for (const MapView::Polygon &polygon : map.polygons())
-        MapView::forEachRing(polygon, [&edges](const RX_POLYGON &ring) { append(ring, edges); });
+    for (unsigned place = 0; place < map.polygons().size(); ++place)
+        MapView::forEachRing(map.polygons()[place],
+                             [&edges, place](const RX_POLYGON &ring) { append(ring, place, edges); });
     std::sort(edges.begin(), edges.end(), [](const SidedEdge &a, const SidedEdge &b) { return a.isBefore(b); });
-    std::vector<PlaneEdge> result;
+    List result;
     for (auto edge = edges.cbegin(); edge != edges.cend();) {
         const auto first = edge;
         int sides = 0;
         for (; edge != edges.cend() && edge->isSame(*first); ++edge)
             sides += edge->side;
-        if (sides != 0)
-            result.push_back({first->low, first->high});
+        if (sides == 0)
+            continue;
+        result.edges.push_back({first->low, first->high});
+        result.polygons.push_back(first->polygon);
     }
     return result;
 }

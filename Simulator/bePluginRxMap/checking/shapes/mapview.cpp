@@ -36,6 +36,26 @@ bool MapView::contend(const Polygon &a, const Polygon &b) const
     return false;
 }
 
+bool MapView::haveSameRates(const Polygon &a, const Polygon &b) const
+{
+    for (size_t i = 0; i < mappingCount; ++i) {
+        const float one = a.outer->rates[i];
+        const float other = b.outer->rates[i];
+        if (one != other && !(std::isnan(one) && std::isnan(other)))
+            return false;
+    }
+    return true;
+}
+
+std::vector<RingExtent> MapView::extents() const
+{
+    std::vector<RingExtent> extents;
+    extents.reserve(list.size());
+    for (const Polygon &polygon : list)
+        extents.push_back(polygon.extent);
+    return extents;
+}
+
 double MapView::area(const Polygon &polygon)
 {
     double area = 2.0 * polygon.outer->area;

@@ -9,15 +9,6 @@ namespace {
 /// Rings up to this length are looked at edge by edge.
 constexpr unsigned shortRing = 32;
 
-std::vector<RingExtent> extentsOf(const MapView &map)
-{
-    std::vector<RingExtent> extents;
-    extents.reserve(map.polygons().size());
-    for (const MapView::Polygon &polygon : map.polygons())
-        extents.push_back(polygon.extent);
-    return extents;
-}
-
 std::vector<RingExtent> extentsOf(const std::vector<PlaneRing> &rings)
 {
     std::vector<RingExtent> extents;
@@ -42,7 +33,7 @@ std::vector<RingExtent> holeExtentsOf(const MapView &map)
 
 CoverIndex::CoverIndex(const MapView &view)
     : map(view)
-    , outers(extentsOf(view))
+    , outers(view.extents())
     , holes(holeExtentsOf(view))
     , joinedHoles(extentsOf(view.joinedHoles()))
     , outerSlabs(view.polygons().size())

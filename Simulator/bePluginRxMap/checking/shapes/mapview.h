@@ -27,6 +27,10 @@ public:
     const std::vector<PlaneRing> &joinedHoles() const { return joined; }
     /// Whether any mapping has a rate in both polygons, so that they contend for the ground where they overlap.
     bool contend(const Polygon &a, const Polygon &b) const;
+    /// Whether all mappings have the same rate in both polygons, or none in either.
+    bool haveSameRates(const Polygon &a, const Polygon &b) const;
+    /// One for each polygon.
+    std::vector<RingExtent> extents() const;
     /// Square metres, less the holes.
     static double area(const Polygon &polygon);
     /// Metres, around the holes as well.
