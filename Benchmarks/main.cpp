@@ -24,7 +24,7 @@ int main(int argumentCount, char **arguments)
     benchmark::Initialize(&argumentCount, arguments);
     if (benchmark::ReportUnrecognizedArguments(argumentCount, arguments))
         return 1;
-    PlainNames display(std::unique_ptr<benchmark::BenchmarkReporter>(benchmark::CreateDefaultDisplayReporter()));
+    PlainNames display{std::unique_ptr<benchmark::BenchmarkReporter>(benchmark::CreateDefaultDisplayReporter())};
     PlainNames file(std::make_unique<benchmark::JSONReporter>());
     benchmark::RunSpecifiedBenchmarks(&display, hasOutputFile ? &file : nullptr);
     benchmark::Shutdown();

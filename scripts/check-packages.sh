@@ -6,6 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/install-packages.sh
+source scripts/bare-debian.sh
 
 install_packages
 install_packages lintian desktop-file-utils appstream debootstrap
@@ -19,28 +20,11 @@ lintian --allow-root --fail-on error "$packages"/*.deb
 desktop-file-validate Packaging/terminal-simulator.desktop
 appstreamcli validate --no-net Packaging/local.rxmap.TerminalSimulator.metainfo.xml
 
-machine="$(mktemp -d)"
-chmod 755 "$machine" # The user has to get in.
-leave() {
-    for folder in proc dev/shm dev; do umount --lazy "$machine/$folder" 2>/dev/null || true; done
-    rm -rf --one-file-system "$machine"
-}
-trap leave EXIT
-debootstrap --variant=minbase bookworm "$machine"
-rm "$machine/etc/apt/sources.list"
-cp /etc/apt/sources.list "$machine/etc/apt/" 2>/dev/null || true
-cp -r /etc/apt/sources.list.d /etc/apt/apt.conf.d "$machine/etc/apt/"
-cp /etc/resolv.conf "$machine/etc/"
-mount -t proc proc "$machine/proc"
-mount --bind /dev "$machine/dev"
-mount -t tmpfs tmpfs "$machine/dev/shm"
+make_bare_debian bookworm
 mkdir "$machine/packages"
 cp "$packages"/*.deb "$machine/packages/"
-
-inside() { chroot "$machine" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
 as_user() { inside setpriv --reuid 1000 --regid 100 --clear-groups env HOME=/home/farmer bash -euc "cd; $1"; }
 
-inside apt-get update -qq
 inside bash -c 'apt-get install -y -qq --no-install-recommends /packages/*.deb libgl1-mesa-dri xvfb xauth g++ cmake make'
 inside useradd --create-home --uid 1000 --gid 100 farmer
 as_user 'xvfb-run -a terminal-simulator --script /usr/share/terminal-simulator/demo.js; ls map1.png settings.png'

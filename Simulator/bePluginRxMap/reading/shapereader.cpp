@@ -63,7 +63,7 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
     const int holes = polygon.getNumInteriorRings();
     for (int i = -1; i < holes; ++i) {
         const OGRLinearRing *ring = i < 0 ? polygon.getExteriorRing() : polygon.getInteriorRing(i);
-        const int count = ring == nullptr ? 0 : ring->getNumPoints();
+        const auto count = static_cast<size_t>(ring == nullptr ? 0 : ring->getNumPoints());
         const size_t first = map.xs.size();
         map.xs.resize(first + count);
         map.ys.resize(first + count);

@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    quint32 random() { return engine(); }
+    quint32 random() { return static_cast<quint32>(engine()); }
 
     double real()
     {

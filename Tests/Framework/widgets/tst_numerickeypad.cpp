@@ -180,8 +180,8 @@ void tst_NumericKeypad::leavesTheFieldFree_data()
 void tst_NumericKeypad::leavesTheFieldFree()
 {
     QFETCH(QRect, field);
-    const QRect display(0, 0, 1280, 800);
-    QTEST(NumericKeypad::placeBeside(field, QSize(400, 420), display), "place");
+    const QRect screen(0, 0, 1280, 800);
+    QTEST(NumericKeypad::placeBeside(field, QSize(400, 420), screen), "place");
 }
 
 void tst_NumericKeypad::staysWithinTheDisplay()

@@ -10,6 +10,8 @@
 #include <random>
 #include <thread>
 
+Q_DECLARE_METATYPE(PlaneRing)
+
 namespace {
 
 /// A ring of vertices anywhere in a square of `places` grid places of `step` metres, no two neighbours at one place.
@@ -256,6 +258,5 @@ void RingRepairTanglesTest::leavesOtherThreadsAlone()
     QVERIFY(!repair(fineScribble(50)).polygons.empty());
 }
 
-Q_DECLARE_METATYPE(PlaneRing)
 RXMAP_TEST(RingRepairTanglesTest, Core)
 #include "tst_ringrepair_tangles.moc"

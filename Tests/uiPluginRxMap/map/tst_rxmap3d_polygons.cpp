@@ -184,7 +184,7 @@ void TestRxMap3DPolygons::onlyThePointIsNarrowed()
     // As a float the point is 16777216, left of the ring; as a double it would be inside.
     const double x = 16777217.0;
     Ring ring = square(16777216.5, 0, 10);
-    QVERIFY(!map->isInsidePoly(ring.data(), 4, x, 5.0));
+    QVERIFY(!map->isInsidePoly(ring.data(), 4, static_cast<float>(x), 5.0));
     QVERIFY(map->isInsidePoly(ring.data(), 4, x + 1.0, 5.0));
 }
 

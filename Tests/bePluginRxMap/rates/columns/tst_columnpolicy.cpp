@@ -217,9 +217,9 @@ void ColumnPolicyTest::refusesWhatNoFileCanMakeGood_data()
     QTest::addColumn<bool>("areDriven");
     QTest::addColumn<QStringList>("named");
     QTest::addColumn<QString>("reason");
-    const QString none = QStringLiteral("there is no product to load it for");
-    QTest::newRow("no product") << 0 << true << QStringList("A") << none;
-    QTest::newRow("no product that a prescription may drive") << 3 << false << QStringList() << none;
+    const QString noProduct = QStringLiteral("there is no product to load it for");
+    QTest::newRow("no product") << 0 << true << QStringList("A") << noProduct;
+    QTest::newRow("no product that a prescription may drive") << 3 << false << QStringList() << noProduct;
     QTest::newRow("more columns than products")
         << 2 << true << QStringList({"A", "B", "C"}) << "3 columns are named, but the machine has 2 products";
     QTest::newRow("empty names only") << 3 << true << QStringList({"", ""}) << "no column is named for any product";
