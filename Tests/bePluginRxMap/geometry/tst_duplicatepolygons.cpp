@@ -142,10 +142,11 @@ void DuplicatePolygonsTest::findsWhatComparingEachPairFinds()
 {
     const auto hides = [](int later, int earlier) { return (later + earlier) % 3 != 0; };
     std::mt19937 random(8);
+    const auto draw = [&random](int choices) { return static_cast<int>(random() % static_cast<unsigned>(choices)); };
     for (int round = 0; round < 200; ++round) {
         std::vector<PlanePolygon> polygons;
         for (int record = 0; record < 40; ++record) {
-            const PlaneRing ring = square(random() % 3, random() % 3, 1 + random() % 3);
+            const PlaneRing ring = square(draw(3), draw(3), 1 + draw(3));
             polygons.push_back(polygonOf(record, random() % 2 == 0 ? ring : turned(ring)));
         }
         const QList<int> expected = recordsLeftByPairs(polygons, hides);

@@ -287,7 +287,8 @@ void LegendBuilderTest::keepsItsPromisesForRandomColumns()
     for (int round = 0; round < 500; ++round) {
         const float common = static_cast<float>(1 + random() % 30);
         const bool isTied = random() % 2 == 0;
-        std::lognormal_distribution<double> values(random() % 7, 0.1 + random() % 3);
+        std::lognormal_distribution<double> values(static_cast<int>(random() % 7),
+                                                   0.1 + static_cast<int>(random() % 3));
         std::vector<float> rates;
         const size_t count = 1 + random() % 200;
         while (rates.size() < count)
