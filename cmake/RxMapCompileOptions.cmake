@@ -30,6 +30,9 @@ if(RXMAP_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1 -O1)
     target_link_options(rxmap_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(RXMAP_FUZZ)
+    target_compile_options(rxmap_compile_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # The plug-in and the host interfaces keep to what the oldest host kits compile.
 add_library(rxmap_cxx14 INTERFACE)

@@ -50,7 +50,7 @@ QString plainKey(const QString &key)
     return plain;
 }
 
-/// A value as it stands in the file; of a long one, the beginning.
+/// A value or a key as it stands in the file; of a long one, the beginning.
 QString written(const QJsonValue &value)
 {
     constexpr int longest = 30;
@@ -65,7 +65,7 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
 {
     const QString plain = plainKey(key);
     const auto complaint = [&key, &value](const QString &wanted) {
-        return QStringLiteral("\"%1\" is %2; %3 is wanted").arg(key, written(value), wanted);
+        return QStringLiteral("%1 is %2; %3 is wanted").arg(written(key), written(value), wanted);
     };
     if (plain == QLatin1String("name") || plain == QLatin1String("shortname")) {
         const QString text = value.toString().trimmed();
@@ -94,7 +94,7 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
     } else {
         const auto field = actuatorFields().constFind(plain);
         if (field == actuatorFields().constEnd())
-            return QStringLiteral("unknown key \"%1\"").arg(key);
+            return QStringLiteral("unknown key %1").arg(written(key));
         const double number = value.toDouble(-1.0);
         if (!(number >= 0.0))
             return complaint(QStringLiteral("a number from 0"));
@@ -145,11 +145,11 @@ Result<MachineSize> readSize(const QJsonObject &object)
             continue;
         const auto field = sizeFields().constFind(plain);
         if (field == sizeFields().constEnd())
-            return Result<MachineSize>::failure(QStringLiteral("unknown key \"%1\"").arg(entry.key()));
+            return Result<MachineSize>::failure(QStringLiteral("unknown key %1").arg(written(entry.key())));
         const double number = entry.value().toDouble(std::nan(""));
         if (!(number >= field->least && number <= field->most))
-            return Result<MachineSize>::failure(QStringLiteral("\"%1\" is %2; a number from %3 to %4 is wanted")
-                                                    .arg(entry.key(), written(entry.value()))
+            return Result<MachineSize>::failure(QStringLiteral("%1 is %2; a number from %3 to %4 is wanted")
+                                                    .arg(written(entry.key()), written(entry.value()))
                                                     .arg(field->least)
                                                     .arg(field->most));
         size.*field->field = number;

@@ -1,4 +1,5 @@
 // Damaged files: whatever the bytes, a load ends with a map that holds together or with one line that says why not.
+#include "chaincheck.h"
 #include "fixture.h"
 #include "layerwriter.h"
 #include "prescriptionloader.h"
@@ -7,28 +8,9 @@
 
 #include <QTemporaryDir>
 
-#include <cmath>
 #include <random>
 
-using OrvikTypes::RX_POLYGON;
-
 namespace {
-
-/// Whether the chain is as its counts say, and its rings can be drawn and asked.
-bool holdsTogether(const LoadedMap &map)
-{
-    unsigned records = 0;
-    for (const RX_POLYGON *record = map.chain->first(); record != nullptr; record = record->next, ++records) {
-        if (record->vertexCount < 3 || !(record->area > 0.0))
-            return false;
-        for (unsigned i = 0; i < record->vertexCount; ++i) {
-            if (!std::isfinite(record->vertices[i].x) || !std::isfinite(record->vertices[i].y))
-                return false;
-        }
-        map.lookup->ratesAt(record->vertices[0].x, record->vertices[0].y);
-    }
-    return records == map.chain->size() && records > 0;
-}
 
 /// Flips a few bits, cuts off the end, or doubles a part.
 QByteArray damaged(QByteArray bytes, std::mt19937 &random)
