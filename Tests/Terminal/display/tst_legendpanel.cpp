@@ -24,15 +24,14 @@ QImage pictureOf(const QList<double> &limits, bool hasSingleRates)
     LegendPanel panel;
     panel.show(content);
     constexpr int head = 112;
-    constexpr int foot = 40;
+    constexpr int foot = 14;
     return panel.grab().toImage().copy(0, head, panel.width(), panel.height() - head - foot);
 }
 
-/// What a panel without areas says between what told the unit and the sum of the areas.
+/// What a panel without areas says behind what told the unit.
 QStringList classTexts(LegendPanel &panel)
 {
-    const QStringList texts = paintedTexts(panel);
-    return texts.mid(1, texts.size() - 3);
+    return paintedTexts(panel).mid(1);
 }
 
 /// Pixels from the right-most bright one to the picture's right edge.
