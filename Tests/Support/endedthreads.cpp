@@ -1,5 +1,5 @@
-// Lets threads that have ended be gone before the leak check at the end of a program, which breaks off over one that goes
-// while it looks, and takes for lost what one still holds.
+// Lets threads that have ended be gone before the leak check at the end of a program, which breaks off over one that
+// goes while it looks, and takes for lost what one still holds.
 
 #include <cstdlib>
 #include <dirent.h>
