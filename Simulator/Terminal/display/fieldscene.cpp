@@ -1,6 +1,7 @@
 #include "fieldscene.h"
 
 #include "camera.h"
+#include "roundstep.h"
 
 #include "Framework/uigraphicslist.h"
 
@@ -8,22 +9,10 @@
 #include <QOpenGLExtraFunctions>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
 constexpr double minGridPixels = 22.0;
-
-/// The least of 1, 2, 5, 10, 20, ... that is not below `least`.
-double roundSpacing(double least)
-{
-    const double decade = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double step : {1.0, 2.0, 5.0}) {
-        if (step * decade >= least)
-            return step * decade;
-    }
-    return 10.0 * decade;
-}
 
 } // namespace
 
@@ -129,6 +118,6 @@ void FieldScene::fitGrid(const Camera &camera)
     const QPointF farLeft = camera.fieldPoint({0.0, 0.0}).value_or(camera.target());
     const QPointF farRight = camera.fieldPoint({width, 0.0}).value_or(camera.target());
     const QPointF near = camera.fieldPoint({width / 2.0, height}).value_or(camera.target());
-    const double spacing = roundSpacing(minGridPixels * camera.metresPerPixel(camera.target()));
+    const double spacing = roundStep(minGridPixels * camera.metresPerPixel(camera.target()));
     grid.setRegion(QRectF(farLeft.x(), near.y(), farRight.x() - farLeft.x(), farLeft.y() - near.y()), spacing);
 }

@@ -1,6 +1,7 @@
 #include "rateplot.h"
 
 #include "machine.h"
+#include "roundstep.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -20,17 +21,6 @@ constexpr int textPixels = 15;
 QColor prescribedColor()
 {
     return QColor(120, 200, 255);
-}
-
-/// The least of 1, 2, 5, 10, 20, ... that is not below `least`.
-double roundStep(double least)
-{
-    const double decade = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double step : {1.0, 2.0, 5.0}) {
-        if (step * decade >= least)
-            return step * decade;
-    }
-    return 10.0 * decade;
 }
 
 } // namespace
