@@ -1,0 +1,38 @@
+#include "shellsession.h"
+
+#include "paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+constexpr int longestRunMs = 240000;
+
+} // namespace
+
+ShellSession::ShellSession()
+{
+    for (const char *from : {"Simulator/Resources/sample", "docs/examples"}) {
+        for (const QFileInfo &file : QDir(sourcePath(from)).entryInfoList(QDir::Files))
+            QFile::copy(file.filePath(), folder.filePath(file.fileName()));
+    }
+}
+
+QStringList ShellSession::run(const QString &command) const
+{
+    const QString programs = QFileInfo(QStringLiteral(RXMAP_SIMULATOR)).path();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PATH"), programs + QLatin1Char(':') + environment.value(QStringLiteral("PATH")));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.filePath(QStringLiteral("configuration")));
+    QProcess shell;
+    shell.setProcessEnvironment(environment);
+    shell.setWorkingDirectory(folder.path());
+    shell.setProcessChannelMode(QProcess::MergedChannels);
+    shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), command});
+    if (!shell.waitForFinished(longestRunMs))
+        return {QStringLiteral("\"%1\" does not end").arg(command)};
+    return QString::fromUtf8(shell.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// Somebody at a shell, in a folder with the sample field and the example files, where `terminal-simulator` is the
+/// program of this build. Nothing is kept from one session to the next, remembered choices neither.
+class ShellSession {
+public:
+    ShellSession();
+
+    /// Standard output and error of a command, as they come.
+    QStringList run(const QString &command) const;
+
+private:
+    QTemporaryDir folder;
+};
