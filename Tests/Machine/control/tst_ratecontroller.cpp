@@ -1,5 +1,4 @@
 #include "machinebench.h"
-#include "paths.h"
 #include "ratecontroller.h"
 #include "terminalhost.h"
 #include "testbase.h"
@@ -8,10 +7,6 @@
 #include "bePluginRxMap/dbgrouprxmap.h"
 #include "bePluginRxMap/rxmaploader.h"
 
-#include <QDir>
-#include <QFile>
-
-#include <algorithm>
 #include <cmath>
 
 /// What the rate controller commands, and why.
@@ -26,10 +21,6 @@ private Q_SLOTS:
     void backwardsItLooksBackwards();
     void inATurnItLooksStraightOn();
     void theAntennaDoesNotMoveTheBorder();
-    void everySampleBorderIsMetWhereThePolygonsSay_data();
-    void everySampleBorderIsMetWhereThePolygonsSay();
-    void everyBorderOfRealMapsIsMetWhereThePolygonsSay_data();
-    void everyBorderOfRealMapsIsMetWhereThePolygonsSay();
     void everySourceFollowsEveryOther_data();
     void everySourceFollowsEveryOther();
     void flagsAreTakenWhenAskedForAlone();
@@ -136,143 +127,6 @@ void TestRateController::theAntennaDoesNotMoveTheBorder()
     QCOMPARE(command().commanded, 50.0);
     bench->simulation.run(0.1);
     QCOMPARE(command().commanded, 80.0);
-}
-
-void TestRateController::everySampleBorderIsMetWhereThePolygonsSay_data()
-{
-    QTest::addColumn<double>("speed");
-    QTest::addColumn<int>("lookAheadMs");
-    for (const double speed : {1.5, 3.0, 6.0}) {
-        for (const int lookAheadMs : {0, 700, 1400, 3000})
-            QTest::addRow("%g m/s, %d ms", speed, lookAheadMs) << speed << lookAheadMs;
-    }
-}
-
-static bool isInside(const OrvikTypes::RX_POLYGON &ring, double x, double y)
-{
-    bool inside = false;
-    for (quint32 i = 0; i < ring.vertexCount; ++i) {
-        const auto &a = ring.vertices[i];
-        const auto &b = ring.vertices[i + 1 < ring.vertexCount ? i + 1 : 0];
-        if ((a.y > y) != (b.y > y) && x > a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x))
-            inside = !inside;
-    }
-    return inside;
-}
-
-/// The rate at a place by counting the edges to the west of it, one ring after the other; holes follow their polygon.
-static double rateByCounting(const DbGroupRxMap &map, double x, double y)
-{
-    double rate = std::nan("");
-    double below = rate;
-    const auto *record = static_cast<const OrvikTypes::RX_POLYGON *>(map.getPolygonBuffer());
-    for (; record != nullptr; record = record->next) {
-        if (!record->isHole)
-            below = rate;
-        if (isInside(*record, x, y))
-            rate = record->isHole ? below : double(record->rates[0]);
-    }
-    return rate;
-}
-
-void TestRateController::everySampleBorderIsMetWhereThePolygonsSay()
-{
-    QFETCH(double, speed);
-    QFETCH(int, lookAheadMs);
-    const LoadReport report = bench->load(TerminalHost::sampleField(), {QStringLiteral("SEED_KS_HA")});
-    QVERIFY2(report.isOk(), qPrintable(report.error));
-    const auto *map = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(report.group, false));
-    bench->set(1, lookAheadMs, false, false);
-    int changes = 0;
-    for (const double y : {-150.37, 0.41, 150.63}) {
-        const double start = report.bounds.left() - 20.0;
-        bench->place({start, y}, 90.0, speed);
-        double before = -1.0;
-        for (int step = 1; step * 0.1 * speed < report.bounds.width() + 40.0; ++step) {
-            bench->simulation.step();
-            const double ahead = start + speed * (0.1 * step + lookAheadMs / 1000.0);
-            const double rate = rateByCounting(*map, ahead, y);
-            const bool isClear = rateByCounting(*map, ahead - 1e-6, y) == rate
-                || (std::isnan(rate) && std::isnan(rateByCounting(*map, ahead - 1e-6, y)));
-            const double expected = std::isnan(rate) ? 40.0 : rate;
-            if (isClear)
-                QCOMPARE(command().commanded, expected);
-            changes += before >= 0.0 && expected != before ? 1 : 0;
-            before = expected;
-        }
-    }
-    QVERIFY2(changes > 15, qPrintable(QString::number(changes)));
-}
-
-void TestRateController::everyBorderOfRealMapsIsMetWhereThePolygonsSay_data()
-{
-    QTest::addColumn<QString>("map");
-    QTest::addColumn<double>("speed");
-    QTest::addColumn<double>("curvature");
-    QTest::addColumn<int>("lookAheadMs");
-    for (const char *map : {"cells-17k/cells.shp", "cells-17k/zones_4c.shp", "cells-three-products/cells.shp",
-                            "cells-three-products/zones_8c.shp", "grid-clipped/grid-clipped.shp"}) {
-        for (const int lookAheadMs : {0, 700, 1400, 3000}) {
-            for (const double speed : {1.5, 3.0, 6.0})
-                QTest::addRow("%s, %g m/s, %d ms", map, speed, lookAheadMs) << map << speed << 0.0 << lookAheadMs;
-        }
-        QTest::addRow("%s, reversing", map) << map << -3.0 << 0.0 << 1400;
-        QTest::addRow("%s, turning", map) << map << 3.0 << 0.02 << 1400;
-    }
-}
-
-void TestRateController::everyBorderOfRealMapsIsMetWhereThePolygonsSay()
-{
-    QFETCH(QString, map);
-    QFETCH(double, speed);
-    QFETCH(double, curvature);
-    QFETCH(int, lookAheadMs);
-    const QString path = QDir(realDataFolder()).filePath(map);
-    if (realDataFolder().isEmpty() || !QFile::exists(path))
-        QSKIP("RXMAP_REAL_DATA names no folder with this map");
-    LoadReport report = bench->load(path, {});
-    QVERIFY2(report.isOk(), qPrintable(report.error));
-    report = bench->load(path, {report.columns.first()});
-    const auto *group = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(report.group, false));
-    bench->set(1, lookAheadMs, false, false);
-    // Through the middle from beyond the edge, or in circles of 50 m around it.
-    const double from = curvature != 0.0 ? -50.0
-        : speed < 0.0                    ? report.bounds.right() + 20.0
-                                         : report.bounds.left() - 20.0;
-    const Pose start{{from, report.bounds.center().y() + 3.37}, curvature != 0.0 ? 0.0 : radiansOf(90.0)};
-    bench->place(start.place, start.degrees(), speed);
-    QVERIFY(bench->simulation.vehicle()->steer(curvature));
-    const int steps = std::min(2500, int((report.bounds.width() + 40.0) / (0.1 * std::fabs(speed))));
-    int changes = 0;
-    double before = -1.0;
-    for (int step = 1; step <= steps; ++step) {
-        bench->simulation.step();
-        // On the circle and then straight on.
-        const double driven = 0.1 * step * speed;
-        const double turned = driven * curvature;
-        const double heading = start.heading + turned;
-        const double right = curvature != 0.0 ? (1.0 - std::cos(turned)) / curvature : 0.0;
-        const double along = curvature != 0.0 ? std::sin(turned) / curvature : driven;
-        const double ahead = speed * lookAheadMs / 1000.0;
-        const QPointF place = start.place + right * start.rightward() + along * start.forward()
-            + ahead * QPointF(std::sin(heading), std::cos(heading));
-        const double rate = rateByCounting(*group, place.x(), place.y());
-        const double expected = std::isnan(rate) ? 40.0 : rate;
-        // On a border rounding may decide.
-        bool isOnBorder = false;
-        if (command().commanded != expected) {
-            for (const QPointF &beside : {QPointF(1e-5, 0), QPointF(-1e-5, 0), QPointF(0, 1e-5), QPointF(0, -1e-5)}) {
-                const double there = rateByCounting(*group, place.x() + beside.x(), place.y() + beside.y());
-                isOnBorder = isOnBorder || command().commanded == (std::isnan(there) ? 40.0 : there);
-            }
-        }
-        QVERIFY2(
-            command().commanded == expected || isOnBorder,
-            qPrintable(QStringLiteral("step %1: %2 instead of %3").arg(step).arg(command().commanded).arg(expected)));
-        changes += before >= 0.0 && expected != before ? 1 : 0;
-        before = expected;
-    }
-    QVERIFY(changes > 0);
 }
 
 void TestRateController::become(CommandSource source)
