@@ -122,11 +122,15 @@ void TestDrivePanel::pedalsAndWheelAreThereByHand()
 
 void TestDrivePanel::itShowsWhatAScriptDoes()
 {
+    // One after the other, since each has all of the panel refreshed.
     bench->simulation.vehicle()->setSignal(false);
-    bench->simulation.setTimeFactor(0.0);
-    bench->place({0, 0}, 0.0, 2.0);
     QTRY_VERIFY(isChecked("signalLoss"));
-    QTRY_VERIFY(isChecked("drivePause") && isChecked("driveByHand") && isChecked("driveStart"));
+    bench->simulation.setTimeFactor(0.0);
+    QTRY_VERIFY(isChecked("drivePause"));
+    bench->place({0, 0}, 0.0, 0.0);
+    QTRY_VERIFY(isChecked("driveByHand") && !isChecked("driveSwaths") && !isChecked("driveStart"));
+    bench->simulation.vehicle()->drive(2.0);
+    QTRY_VERIFY(isChecked("driveStart"));
 }
 
 void TestDrivePanel::followingIsAskedForAndShown()

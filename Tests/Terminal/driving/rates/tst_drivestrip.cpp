@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup();
     void aRowTellsRatesUnitAndSource_data();
     void aRowTellsRatesUnitAndSource();
+    void aProductThatNoPrescriptionDrivesIsNotControlled();
     void ratesAreInTheOperatorsUnit();
     void theActiveProductIsTheFirst();
     void sixteenProductsArePagesOfThree();
@@ -95,6 +96,22 @@ void TestDriveStrip::aRowTellsRatesUnitAndSource()
     RateTable table(&bench->simulation);
     QTEST(row(table, 0), "texts");
     QCOMPARE(row(table, 1), (QStringList{"Fertiliser", "\u2013", "\u2013", "\u2013", "kg/ha", "Not controlled"}));
+}
+
+void TestDriveStrip::aProductThatNoPrescriptionDrivesIsNotControlled()
+{
+    Products products = ProductFile::standard();
+    products[1].underVra = false;
+    MachineBench other(products);
+    QVERIFY(other.loadZones({{-100, 100, 50.0}}, {1, 2}).isOk());
+    RateTable table(&other.simulation);
+    const QStringList texts{"Fertiliser", "\u2013", "\u2013", "\u2013", "kg/ha", "Not controlled"};
+    for (const double speed : {0.0, 2.0}) {
+        other.place({0, 0}, 0.0, speed);
+        other.simulation.run(3.0);
+        QCOMPARE(row(table, 0).last(), speed == 0.0 ? QStringLiteral("Stopped") : QStringLiteral("Prescription"));
+        QCOMPARE(row(table, 1), texts);
+    }
 }
 
 void TestDriveStrip::ratesAreInTheOperatorsUnit()

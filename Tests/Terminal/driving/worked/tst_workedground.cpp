@@ -1,8 +1,11 @@
 #include "activemap.h"
+#include "fielddrive.h"
 #include "machinebench.h"
 #include "testbase.h"
 #include "vehicle.h"
 #include "workedground.h"
+
+#include <QPolygonF>
 
 /// The ground that was worked.
 class TestWorkedGround : public TestBase {
@@ -14,6 +17,7 @@ private Q_SLOTS:
     void aStraightDriveAtOneRateIsOneStrip();
     void aNewClassAndATurnBeginStrips();
     void whatIsNotWorkedLeavesAGap();
+    void aLiftedImplementLeavesNoStrip();
     void aStripHasTheColourOfWhatWasApplied();
     void aRateThatIsNearlyReachedHasItsClass();
     void changesAreToldOnce();
@@ -80,14 +84,53 @@ void TestWorkedGround::whatIsNotWorkedLeavesAGap()
     bench->simulation.vehicle()->stop();
     bench->simulation.run(5.0);
     QCOMPARE(ground->end(), before);
-    // A machine that is put elsewhere leaves no strip on its way there.
-    bench->place({-90, 100}, 90.0, 2.0);
-    bench->simulation.run(5.0);
-    QVERIFY(ground->end() > before);
-    for (qint64 number = before; number < ground->end(); ++number) {
-        for (const WorkedGround::Strip::Corner &corner : ground->strip(number).corners)
-            QVERIFY(corner.y > 90.0F);
+    // A machine that is put elsewhere leaves no strip on its way there, whether it stood before or not.
+    for (const double y : {100.0, 150.0}) {
+        const qint64 first = ground->end();
+        bench->place({-90, y}, 90.0, 2.0);
+        bench->simulation.run(5.0);
+        QVERIFY(ground->end() > first);
+        for (qint64 number = first; number < ground->end(); ++number) {
+            for (const WorkedGround::Strip::Corner &corner : ground->strip(number).corners)
+                QVERIFY(qAbs(corner.y - float(y)) < 7.0F);
+        }
     }
+    // Nor one that turns on the spot.
+    const qint64 first = ground->end();
+    bench->place(bench->simulation.vehicle()->position(), 91.0, 2.0);
+    bench->simulation.run(1.0);
+    QCOMPARE(ground->end(), first + 1);
+}
+
+static double areaOf(const QPolygonF &ring)
+{
+    double twice = 0.0;
+    for (int i = 0; i < ring.size(); ++i) {
+        const QPointF &a = ring.at(i);
+        const QPointF &b = ring.at((i + 1) % ring.size());
+        twice += a.x() * b.y() - b.x() * a.y();
+    }
+    return qAbs(twice) / 2.0;
+}
+
+void TestWorkedGround::aLiftedImplementLeavesNoStrip()
+{
+    Simulation &simulation = bench->simulation;
+    const auto path = FieldDrive::plan(simulation, FieldDrive::usualOptions(simulation));
+    QVERIFY2(path.isOk(), qPrintable(path.error));
+    simulation.vehicle()->follow(path.value);
+    simulation.vehicle()->drive(5.0);
+    simulation.run(600.0);
+    QVERIFY(simulation.workedArea() > 20000.0);
+    double area = 0.0;
+    for (qint64 number = 0; number < ground->end(); ++number) {
+        QPolygonF strip;
+        for (const WorkedGround::Strip::Corner &corner : ground->strip(number).corners)
+            strip.append(QPointF(double(corner.x), double(corner.y)));
+        area += areaOf(strip);
+    }
+    QVERIFY2(qAbs(area - simulation.workedArea()) < 0.001 * area,
+             qPrintable(QStringLiteral("%1 %2").arg(area).arg(simulation.workedArea())));
 }
 
 void TestWorkedGround::aStripHasTheColourOfWhatWasApplied()
@@ -146,6 +189,11 @@ void TestWorkedGround::theOldestStripsMakeRoom()
     const QPointF place = bench->simulation.vehicle()->position();
     const WorkedGround::Strip &newest = ground->strip(ground->end() - 1);
     QVERIFY(qAbs((newest.corners[2].x + newest.corners[3].x) / 2.0F - float(place.x())) < 1e-3F);
+    // And begins where the one before ends, with a rate of its own.
+    const WorkedGround::Strip &former = ground->strip(ground->end() - 2);
+    QVERIFY(qAbs(newest.corners[0].x - former.corners[3].x) < 1e-3F);
+    QVERIFY(qAbs(newest.corners[1].y - former.corners[2].y) < 1e-3F);
+    QVERIFY(qAbs(ground->rate(ground->end() - 1, 1) - bench->simulation.rates(1).meanApplied) < 1e-3);
 }
 
 RXMAP_TEST(TestWorkedGround, Core)
