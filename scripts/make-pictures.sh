@@ -1,22 +1,46 @@
 #!/usr/bin/env bash
-# Makes the pictures of docs/pictures: what an operator sees who drives the sample field.
-#   scripts/make-pictures.sh [PROGRAM]    by default the terminal simulator of the release preset, which is built
+# Makes the pictures of the documentation: what is seen of the sample field and of a file that wants a look.
+#   scripts/make-pictures.sh [FOLDER [PROGRAM]]
+# FOLDER: by default docs/pictures. PROGRAM: the terminal simulator; by default that of the release preset, which is built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/install-packages.sh
 source scripts/with-display.sh
 
-install_packages
-program="${1:-build/release/Simulator/Terminal/terminal-simulator}"
-if (($# == 0)); then
+pictures="${1:-docs/pictures}"
+program="${2:-build/release/Simulator/Terminal/terminal-simulator}"
+sample=Simulator/Resources/sample/sample-field.shp
+if (($# < 2)); then
+    install_packages
     cmake --preset release >/dev/null
     cmake --build --preset release --target terminal-simulator >&2
 fi
-script="$(mktemp --suffix=.js)"
-trap 'rm -f "$script"' EXIT
-{
-    echo 'var sample = "Simulator/Resources/sample/sample-field.shp", pictures = "docs/pictures";'
-    cat Tests/EndToEnd/helpers.js Tests/EndToEnd/drive-by-touch.js
-} >"$script"
-mkdir -p docs/pictures
-with_virtual_display "$program" --script "$script"
+scratch="$(mktemp -d)"
+trap 'rm -rf "$scratch"' EXIT
+export XDG_CONFIG_HOME="$scratch" # What somebody chose before is not seen.
+mkdir -p "$pictures"
+
+# photograph SCRIPT [ARGUMENT...]
+photograph() {
+    {
+        echo "var sample = \"$sample\", pictures = \"$pictures\";"
+        cat Tests/EndToEnd/helpers.js "$1"
+    } >"$scratch/script.js"
+    # The same display everywhere, whatever somebody has: the pictures are compared.
+    with_virtual_display "$program" --script "$scratch/script.js" "${@:2}"
+}
+
+photograph scripts/pictures/map.js
+photograph scripts/pictures/opening.js --open docs/examples/to-check.geojson
+photograph Tests/EndToEnd/drive-by-touch.js
+
+# What a report shows of the second product: prescribed and applied, the third and fourth of its pictures.
+"$program" --drive "$scratch/report.html" "$sample" >/dev/null 2>"$scratch/progress" || {
+    cat "$scratch/progress" >&2
+    exit 1
+}
+keep_report_picture() {
+    grep -o 'data:image/png;base64,[^"]*' "$scratch/report.html" | sed -n "$1s/.*,//p" | base64 -d >"$pictures/$2.png"
+}
+keep_report_picture 3 report-prescribed
+keep_report_picture 4 report-applied

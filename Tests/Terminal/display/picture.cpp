@@ -17,12 +17,18 @@ int channelDistance(QRgb a, QRgb b)
 
 QString Picture::compare(const QImage &actual, const QString &name, double pixelShare)
 {
-    const QImage expected(sourcePath("Tests/Terminal/pictures/%1.png").arg(name));
-    const QDir folder(buildPath("Tests/Terminal/pictures/%1").arg(name));
+    return compare(actual, sourcePath("Tests/Terminal/pictures/%1.png").arg(name),
+                   buildPath("Tests/Terminal/pictures/%1").arg(name), pixelShare);
+}
+
+QString Picture::compare(const QImage &actual, const QString &storedFile, const QString &results, double pixelShare)
+{
+    const QImage expected(storedFile);
+    const QDir folder(results);
     folder.mkpath(QStringLiteral("."));
     actual.save(folder.filePath(QStringLiteral("actual.png")));
     if (expected.isNull())
-        return QStringLiteral("there is no stored picture \"%1\"").arg(name);
+        return QStringLiteral("there is no stored picture %1").arg(storedFile);
     expected.save(folder.filePath(QStringLiteral("expected.png")));
     if (expected.size() != actual.size())
         return QStringLiteral("the picture is %1 by %2 pixels").arg(actual.width()).arg(actual.height());

@@ -13,4 +13,6 @@ public:
     /// Compares with Tests/Terminal/pictures/<name>.png. Empty when they agree. Else what is wrong, and actual,
     /// expected and difference lie in the build's folder of that name.
     static QString compare(const QImage &actual, const QString &name, double pixelShare = usualPixelShare);
+    /// The same with the picture of a file; `results` is the folder for what differs.
+    static QString compare(const QImage &actual, const QString &storedFile, const QString &results, double pixelShare);
 };

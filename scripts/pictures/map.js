@@ -1,0 +1,8 @@
+// A touch of the sample field, its file in `sample`; `pictures` names the folder for what is seen.
+
+terminal.machine.timeFactor = 0;
+terminal.open(sample);
+terminal.activeProduct = 2;
+check(terminal.touchMap(-80, 190) === "Rx Rate: 190.00", "the field answers " + terminal.touchMap(-80, 190));
+terminal.wait(1000);
+terminal.screenshot(pictures + "/map.png");
