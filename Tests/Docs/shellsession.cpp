@@ -2,8 +2,6 @@
 
 #include "paths.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -15,10 +13,8 @@ constexpr int longestRunMs = 240000;
 
 ShellSession::ShellSession()
 {
-    for (const char *from : {"Simulator/Resources/sample", "docs/examples"}) {
-        for (const QFileInfo &file : QDir(sourcePath(from)).entryInfoList(QDir::Files))
-            QFile::copy(file.filePath(), folder.filePath(file.fileName()));
-    }
+    for (const char *from : {"Simulator/Resources/sample/.", "docs/examples/."})
+        QProcess::execute(QStringLiteral("cp"), {QStringLiteral("-r"), sourcePath(from), folder.path()});
 }
 
 QStringList ShellSession::run(const QString &command) const
