@@ -5,6 +5,7 @@
 #include "dbgroupbin.h"
 #include "dbgroupgpssolution.h"
 #include "dbgroupquillspan.h"
+#include "suggestedproducts.h"
 
 #include "Framework/binmanager.h"
 #include "Framework/databroker.h"
@@ -15,6 +16,8 @@
 #include "Framework/dbgroupsingleproductnode.h"
 #include "Framework/productlineitem.h"
 #include "bePluginRxMap/rxmaploader.h"
+
+#include <QMap>
 
 namespace {
 
@@ -74,20 +77,72 @@ Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Product
     , units(units)
 {
     publishTerminal();
+    for (int number = 1; number <= allProducts.size(); ++number)
+        publishProduct(number);
+    listProducts();
+    connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
+    connect(backend, &PrescriptionBackend::productsMade, this, &Machine::takeProducts);
+    announceActiveProduct();
+}
+
+void Machine::listProducts()
+{
     QList<QObject *> items;
     for (int number = 1; number <= allProducts.size(); ++number) {
-        publishProduct(number);
         const Product &product = allProducts.at(number - 1);
         auto *item = new ProductLineItem(basisOf(product.kind));
         item->setPrimaryProductNodeGroup(broker->getGroup(numbered("system.productNode.", number), false));
-        RxMapLoader *loader = backend->loader(number - 1);
+        RxMapLoader *loader = prescriptions->loader(number - 1);
         loader->defaultRate = product.defaultRate;
         item->setRxMapLoader(loader);
         items.append(item);
     }
     BinManager::instance(broker)->setLoadedProducts(items);
-    connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
-    announceActiveProduct();
+}
+
+void Machine::takeProducts(const QList<ColumnProduct> &columns)
+{
+    if (!areProductsOpen)
+        return;
+    const int before = allProducts.size();
+    allProducts = SuggestedProducts::of(columns);
+    for (int number = 1; number <= before; ++number)
+        describeProduct(number);
+    for (int number = before + 1; number <= allProducts.size(); ++number)
+        publishProduct(number);
+    listProducts();
+    Q_EMIT productsChanged();
+}
+
+void Machine::enterProducts(LoadRequest &request) const
+{
+    request.products = loadedProducts();
+    if (!areProductsOpen)
+        return;
+    // Called in another thread, which may not ask the broker. The products that stand in are of all kinds there are.
+    QMap<DbGroupProductGroupInfo::RateKind, double> factors;
+    for (const MachineProduct &product : qAsConst(request.products))
+        factors.insert(product.kind, product.displayFactor);
+    request.makeProducts = [factors](const QList<ColumnProduct> &columns) {
+        QList<MachineProduct> made;
+        const Products products = SuggestedProducts::of(columns);
+        for (const Product &product : products)
+            made.append({product.name, productGroupName(made.size() + 1), rateKindOf(product), product.defaultRate,
+                         product.underVra, false, factors.value(rateKindOf(product), 1.0)});
+        return made;
+    };
+}
+
+Products Machine::productsFor(const QList<ColumnProduct> &columns) const
+{
+    return columns.isEmpty() ? allProducts : SuggestedProducts::of(columns);
+}
+
+QList<MachineProduct> Machine::loadedProductsFor(const QList<ColumnProduct> &columns) const
+{
+    LoadRequest request;
+    enterProducts(request);
+    return columns.isEmpty() || !request.makeProducts ? request.products : request.makeProducts(columns);
 }
 
 QList<MachineProduct> Machine::loadedProducts() const
@@ -135,28 +190,30 @@ void Machine::publishTerminal()
 
 void Machine::publishProduct(int number)
 {
-    const Product &product = allProducts.at(number - 1);
     auto *info = new DbGroupProductGroupInfo(productGroupName(number));
     info->internalSetProductNumber(number);
-    info->internalSetRateKind(rateKindOf(product));
-    broker->publishGroup(info);
-
     auto *aam = new DbGroupAAM(aamGroupName(number));
     aam->internalSetProductGroupName(productGroupName(number));
-    broker->publishGroup(aam);
-
     auto *node = new DbGroupSingleProductNode(numbered("system.productNode.", number));
-    node->internalSetOperationalSettings(OrvikTypes::SPN_OperationalSetStruct(product.kind == Product::Kind::Ratio));
-    node->internalSetSwitchByteCalSettings(
-        OrvikTypes::SPN_SwitchByteCalSettingsStruct(product.kind == Product::Kind::Injection));
-    node->internalSetIsCarrier(product.isCarrier);
-    broker->publishGroup(node);
-
     auto *bin = new DbGroupBin(binGroupName(number));
-    bin->internalSetCompositionShortName(product.shortName);
-    bin->internalSetBinNumber(product.bin);
-    broker->publishGroup(bin);
-    bins.append(bin);
+    productGroups.append({info, node, bin});
+    describeProduct(number);
+    for (DataBrokerGroup *group : std::initializer_list<DataBrokerGroup *>{info, aam, node, bin})
+        broker->publishGroup(group);
+}
+
+void Machine::describeProduct(int number)
+{
+    const Product &product = allProducts.at(number - 1);
+    const ProductGroups &groups = productGroups.at(number - 1);
+    groups.info->internalSetRateKind(rateKindOf(product));
+    groups.node->internalSetOperationalSettings(
+        OrvikTypes::SPN_OperationalSetStruct(product.kind == Product::Kind::Ratio));
+    groups.node->internalSetSwitchByteCalSettings(
+        OrvikTypes::SPN_SwitchByteCalSettingsStruct(product.kind == Product::Kind::Injection));
+    groups.node->internalSetIsCarrier(product.isCarrier);
+    groups.bin->internalSetCompositionShortName(product.shortName);
+    groups.bin->internalSetBinNumber(product.bin);
 }
 
 bool Machine::setActiveProduct(int number)
@@ -176,11 +233,12 @@ void Machine::announceActiveProduct()
 
 void Machine::followMaps()
 {
-    for (int number = 1; number <= bins.size(); ++number) {
+    areProductsOpen = areProductsOpen && prescriptions->maps().isEmpty();
+    for (int number = 1; number <= productGroups.size(); ++number) {
         const QString feeding = allProducts.at(number - 1).underVra
             ? ActiveMap::find(*broker, productGroupName(number)).groupName
             : QString();
-        bins.at(number - 1)->internalSetRxMapGroupName(feeding);
+        productGroups.at(number - 1).bin->internalSetRxMapGroupName(feeding);
     }
     // Plug-ins look for a product's map only when the job names its application map again.
     announceActiveProduct();

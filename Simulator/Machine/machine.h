@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/machineproduct.h"
+#include "Backend/loadrequest.h"
 #include "product.h"
 #include "unitsystem.h"
 
@@ -13,7 +13,9 @@ class DataBroker;
 class DbGroupBin;
 class DbGroupGpsSolution;
 class DbGroupJob;
+class DbGroupProductGroupInfo;
 class DbGroupQuillSpan;
+class DbGroupSingleProductNode;
 class PrescriptionBackend;
 
 /// The machine as the broker shows it: units, job, products with their bins, nodes and application maps, position and
@@ -25,6 +27,15 @@ public:
     /// Publishes everything, with product 1 active. `broker` and `backend` are not owned and outlive the machine.
     Machine(DataBroker *broker, PrescriptionBackend *backend, const Products &products, UnitSystem units,
             QObject *parent = nullptr);
+
+    /// The first prescription that is loaded from now on tells the products; those that there are stand in for them.
+    void leaveProductsOpen() { areProductsOpen = true; }
+    /// Says for which products a prescription is to be loaded: the machine's, or those that are made from its columns
+    /// while they are open.
+    void enterProducts(LoadRequest &request) const;
+    /// The products of a file that was looked at: made from its columns, or the machine's where there are none.
+    Products productsFor(const QList<ColumnProduct> &columns) const;
+    QList<MachineProduct> loadedProductsFor(const QList<ColumnProduct> &columns) const;
 
     const Products &products() const { return allProducts; }
     /// The products as a load takes them, with the default rates in use, which the operator may have changed.
@@ -45,13 +56,26 @@ public:
     PrescriptionBackend *backend() const { return prescriptions; }
 
 Q_SIGNALS:
+    /// There may be more of them than before, never fewer.
+    void productsChanged();
     void activeProductChanged(int number);
     /// A prescription map came, went or changed.
     void mapsChanged();
 
 private:
+    /// What the broker shows of a product. The broker's.
+    struct ProductGroups {
+        DbGroupProductGroupInfo *info;
+        DbGroupSingleProductNode *node;
+        DbGroupBin *bin;
+    };
+
     void publishTerminal();
     void publishProduct(int number);
+    /// Makes the groups of a product what it is.
+    void describeProduct(int number);
+    void listProducts();
+    void takeProducts(const QList<ColumnProduct> &columns);
     void announceActiveProduct();
     void followMaps();
 
@@ -59,9 +83,11 @@ private:
     PrescriptionBackend *prescriptions;
     Products allProducts;
     UnitSystem units;
+    bool areProductsOpen = false;
     int active = 1;
     DbGroupJob *job = nullptr;
     DbGroupGpsSolution *gps = nullptr;
     DbGroupQuillSpan *span = nullptr;
-    QVector<DbGroupBin *> bins;
+    /// By product.
+    QVector<ProductGroups> productGroups;
 };

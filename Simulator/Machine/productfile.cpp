@@ -179,7 +179,7 @@ Result<Product> readProduct(const QJsonValue &value, int number)
     if (!hasKind)
         return Result<Product>::failure(QStringLiteral("has no \"kind\""));
     if (product.shortName.isEmpty())
-        product.shortName = product.name.left(shortNameLength).trimmed();
+        product.shortName = ProductFile::shortNameOf(product.name);
     const QString problem = completeActuator(product);
     return problem.isEmpty() ? Result<Product>{product, {}} : Result<Product>::failure(problem);
 }
@@ -238,7 +238,12 @@ Result<MachineSetup> ProductFile::parse(const QByteArray &json, const QString &n
             return failure(QStringLiteral("product %1: %2").arg(i + 1).arg(product.error));
         products.append(product.value);
     }
-    return {{size.value, products}, {}};
+    return {{size.value, products, false}, {}};
+}
+
+QString ProductFile::shortNameOf(const QString &name)
+{
+    return name.left(shortNameLength).trimmed();
 }
 
 Products ProductFile::standard()

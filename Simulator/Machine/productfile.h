@@ -8,6 +8,8 @@
 struct MachineSetup {
     MachineSize size;
     Products products;
+    /// The products stand in until the first prescription is opened, which tells others.
+    bool takesProductsFromFile = false;
 };
 
 /// The machine as a JSON file: a list of products, or an object with a list "products" and optionally "width",
@@ -26,4 +28,7 @@ public:
     static Result<MachineSetup> parse(const QByteArray &json, const QString &name);
     /// The machine when no file describes one: seed, fertiliser and crop protection.
     static Products standard();
+    static MachineSetup standardMachine() { return {{}, standard(), true}; }
+    /// The letters of a product's name that stand for it where there is little room.
+    static QString shortNameOf(const QString &name);
 };

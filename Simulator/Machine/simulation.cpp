@@ -16,10 +16,9 @@ Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *p
     , lastWall(wall != nullptr ? wall->now() : 0)
     , vehicleModel(new Vehicle(machine->gpsSolution(), &clock))
     , rateController(new RateController(machine))
-    , meanRates(size_t(machine->products().size()))
 {
-    for (const Product &product : machine->products())
-        actuators.emplace_back(product.actuator);
+    takeProducts();
+    connect(machine, &Machine::productsChanged, this, &Simulation::takeProducts);
     // At once, so that nobody sees commands of a map that is gone.
     connect(machine, &Machine::mapsChanged, this, &Simulation::updateCommands);
     updateCommands();
@@ -31,6 +30,14 @@ Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *p
 }
 
 Simulation::~Simulation() = default;
+
+void Simulation::takeProducts()
+{
+    actuators.clear();
+    for (const Product &product : machineModel->products())
+        actuators.emplace_back(product.actuator);
+    meanRates.assign(actuators.size(), 0.0);
+}
 
 bool Simulation::setTimeFactor(double newFactor)
 {

@@ -77,6 +77,7 @@ private:
         qint64 time = 0;
     };
 
+    void takeProducts();
     void updateCommands();
 
     Machine *machineModel;

@@ -59,7 +59,7 @@ QString tooFar()
 } // namespace
 
 Terminal::Terminal(const Products &products, UnitSystem units, QObject *parent)
-    : Terminal(MachineSetup{{}, products}, units, parent)
+    : Terminal(MachineSetup{{}, products, false}, units, parent)
 {
 }
 
@@ -77,6 +77,8 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
 {
     initialiseResources();
     vehicle()->setSize(setup.size);
+    if (setup.takesProductsFromFile)
+        machineModel->leaveProductsOpen();
     connectDisplay();
     showLegend();
     showVehicle();
@@ -104,6 +106,8 @@ void Terminal::connectDisplay()
     connect(&dataBroker, &DataBroker::groupPublished, this, &Terminal::watchGroup);
     connect(machineModel.data(), &Machine::mapsChanged, this, &Terminal::followMaps);
     connect(machineModel.data(), &Machine::activeProductChanged, this, &Terminal::showLegend);
+    connect(machineModel.data(), &Machine::productsChanged, this,
+            [this] { display->setProducts(machineModel->products()); });
     connect(display->productSelector(), &ProductSelector::chosen, machineModel.data(), &Machine::setActiveProduct);
     connect(display->fieldView(), &FieldView::touched, this, &Terminal::touch);
     connect(display.data(), &TerminalWindow::frameRequested, this, [this] {
@@ -178,7 +182,8 @@ bool Terminal::show()
 QList<LoadReport> Terminal::open(const OpenRequest &request)
 {
     QList<LoadReport> reports;
-    LoadRequest load{{}, request.columns, request.units, machineModel->loadedProducts(), request.layer, request.task};
+    LoadRequest load{{}, request.columns, request.units, {}, request.layer, request.task};
+    enterProducts(request, load);
     const ColumnShares shares = PrescriptionBackend::shareColumns(request.paths, load);
     if (!shares.isOk()) {
         reports.append(LoadReport());
@@ -191,11 +196,25 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
         reports.append(isUnused ? unused(load.path) : prescriptions->loadAndWait(load));
         if (!reports.last().isOk())
             return reports;
+        if (!reports.last().columnProducts.isEmpty())
+            load = {{}, {}, request.units, machineModel->loadedProducts(), request.layer, request.task};
         const QList<int> fed = columnsOf(reports.last().group).keys();
         for (const int number : fed)
             load.products[number - 1].isFed = true;
     }
     return reports;
+}
+
+void Terminal::enterProducts(const OpenRequest &request, LoadRequest &load) const
+{
+    machineModel->enterProducts(load);
+    // A record has its columns by product. Who chose among products that stand in keeps them.
+    const bool keepsProducts =
+        driveRecorder->isRecording() || (request.columnProducts && request.columnProducts->isEmpty());
+    if (keepsProducts)
+        load.makeProducts = nullptr;
+    load.tellsGuesses = request.columnProducts.has_value();
+    load.columnProducts = request.columnProducts.value_or(QList<ColumnProduct>());
 }
 
 bool Terminal::close(const QString &group)

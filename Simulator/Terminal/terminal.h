@@ -104,6 +104,8 @@ private Q_SLOTS:
     void redrawMap();
 
 private:
+    /// Says for which products to load.
+    void enterProducts(const OpenRequest &request, LoadRequest &load) const;
     void watchGroup(const QString &name);
     void connectDisplay();
     void installGraphicsLists();

@@ -66,9 +66,9 @@ void CheckedFilesTest::eachFindingIsALine()
 {
     const QString file = fixture("overlap");
     QCOMPARE(check({file}).output,
-             QStringList({file + ": product 1 (Seed): rate (unit not known, taken as 1000/ha)",
+             QStringList({file + ": product 1 (rate): rate (unit not known, taken as kg/ha)",
                           file + ": origin of the plane: 9.0011083, 49.6532625 (longitude, latitude)",
-                          file + ": unitUnknown: the unit of column \"rate\" is not known, taken as 1000/ha",
+                          file + ": unitUnknown: the unit of column \"rate\" is not known, taken as kg/ha",
                           file + ": overlap: records 0 and 1 overlap on 1601.3 m2"}));
 }
 
@@ -100,7 +100,7 @@ void CheckedFilesTest::columnsAndUnitsAreTakenForEachFile()
     const QString file = fixture("overlap");
     const SimulatorRun run = check({file, fixture("two-strips"), "--columns", "rate", "--source-units", "seeds/m2"});
     QCOMPARE(run.exitCode, 1);
-    QCOMPARE(run.output.first(), file + ": product 1 (Seed): rate (seeds/m2, named by the operator)");
+    QCOMPARE(run.output.first(), file + ": product 1 (rate): rate (seeds/m2, named by the operator)");
     QVERIFY2(run.errors.contains(QStringLiteral("has no column \"rate\"")), qPrintable(run.errors));
 }
 

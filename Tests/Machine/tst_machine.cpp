@@ -12,6 +12,8 @@
 #include "Framework/productlineitem.h"
 #include "bePluginRxMap/rxmaploader.h"
 
+#include <QSignalSpy>
+
 /// What the machine publishes for plug-ins.
 class TestMachine : public TestBase {
     Q_OBJECT
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void aChangeOfMapsNamesTheApplicationMapAnew();
     void reInitialisationsAreCounted();
     void sixteenProductsAreCountedThrough();
+    void productsThatStandInGiveWayToThoseOfTheFirstMap();
+    void aMachineWithItsOwnProductsKeepsThem();
 
 private:
     void build(const Products &products, UnitSystem units = UnitSystem::Metric);
@@ -271,6 +275,50 @@ void TestMachine::sixteenProductsAreCountedThrough()
     QCOMPARE(bins.size(), 16);
     QCOMPARE(bins.at(9), QStringLiteral("system.binGroup.10"));
     QCOMPARE(BinManager::instance(nullptr)->loadedFilteredProducts().size(), 16);
+}
+
+void TestMachine::productsThatStandInGiveWayToThoseOfTheFirstMap()
+{
+    machine->leaveProductsOpen();
+    const QSignalSpy changes(machine.data(), &Machine::productsChanged);
+    const auto request = [this](const char *path, const QStringList &columns) {
+        LoadRequest wanted;
+        wanted.path = TerminalHost::fixture(QLatin1String(path));
+        wanted.columns = columns;
+        machine->enterProducts(wanted);
+        return wanted;
+    };
+    // What cannot be loaded changes nothing.
+    QVERIFY(!backend->loadAndWait(request("three-zones.geojson", {"NONE"})).isOk());
+    QCOMPARE(changes.size(), 0);
+    const QStringList columns{"HERB_L_HA", "", "", "", "FERT_KG_HA"};
+    const LoadReport report = backend->loadAndWait(request("three-zones.geojson", columns));
+    QCOMPARE(report.error, QString());
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(machine->products().size(), 5);
+    QCOMPARE(machine->products().at(4).name, QStringLiteral("Fert"));
+    QCOMPARE(value("system.binGroup.1", "compositionShortName"), QVariant("Herb"));
+    QCOMPARE(value("system.binGroup.5", "compositionShortName"), QVariant("Fert"));
+    QCOMPARE(value("system.binGroup.5", "rxMapGroupName"), QVariant("rxMap.three-zones.geojson"));
+    QCOMPARE(value("system.productGroup.1", "rateKind"), QVariant(int(DbGroupProductGroupInfo::VolumeRate)));
+    QCOMPARE(value("system.productGroup.5", "rateKind"), QVariant(int(DbGroupProductGroupInfo::WeightRate)));
+    const QList<QObject *> items = BinManager::instance(broker.data())->loadedFilteredProducts();
+    QCOMPARE(items.size(), 5);
+    QVERIFY(qobject_cast<ProductLineItem *>(items.first())->isVolumeBasedProduct());
+    QCOMPARE(backend->loader(4)->defaultRate, 150.0);
+    // The next one finds them.
+    QVERIFY(backend->loadAndWait(request("two-strips.geojson", {})).isOk());
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(machine->products().size(), 5);
+}
+
+void TestMachine::aMachineWithItsOwnProductsKeepsThem()
+{
+    LoadRequest request;
+    request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+    machine->enterProducts(request);
+    QCOMPARE(backend->loadAndWait(request).columnProducts.size(), 0);
+    QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
 }
 
 RXMAP_TEST(TestMachine, Core)

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void theFolderButtonShowsAndHidesTheWindow();
     void theFolderButtonDoesNothingWhileADialogIsOpen();
     void aDroppedFileIsOpenedThroughTheWindow();
+    void theFirstFileBringsItsProducts();
+    void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
     void keysDoNotDriveUnderTheWindow();
@@ -65,6 +67,50 @@ void TestFileOpening::aDroppedFileIsOpenedThroughTheWindow()
     // What the file feeds is shown.
     QCOMPARE(terminal().machine()->activeProduct(), 2);
     QCOMPARE(terminal().activeColumn(), QStringLiteral("FERT_KG_HA"));
+}
+
+void TestFileOpening::theFirstFileBringsItsProducts()
+{
+    terminal().machine()->leaveProductsOpen();
+    Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QCOMPARE(button("columnRow1Product")->text(), QStringLiteral("Fert"));
+    // Nothing is changed by looking.
+    QCOMPARE(terminal().machine()->products().at(1).name, QStringLiteral("Fertiliser"));
+    // Another product of those that the file brings.
+    button("columnRow0Product")->click();
+    button("choice0")->click();
+    button("columnRow1Product")->click();
+    QCOMPARE(button("choice3")->text(), QStringLiteral("3. Herb"));
+    button("choice2")->click();
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(terminal().machine()->products().at(1).name, QStringLiteral("Fert"));
+    QCOMPARE(button("selectProduct2")->text(), QStringLiteral("Fert"));
+    QCOMPARE(terminal().machine()->activeProduct(), 2);
+    QCOMPARE(terminal().activeColumn(), QStringLiteral("FERT_KG_HA"));
+}
+
+void TestFileOpening::whatWasGuessedIsToldAfterwards()
+{
+    terminal().machine()->leaveProductsOpen();
+    const QString file = TerminalHost::fixture(QStringLiteral("two-strips.geojson"));
+    const auto findings = [this] {
+        QStringList texts;
+        const QList<MapFinding> all = terminal().backend()->maps().last().findings;
+        for (const MapFinding &finding : all)
+            texts.append(finding.text);
+        return texts;
+    };
+    QVERIFY(terminal().open({{file}}).first().isOk());
+    const QStringList loadedUnasked = findings();
+    QCOMPARE(loadedUnasked.filter(QStringLiteral("is a guess")).size(), 2);
+    QCOMPARE(loadedUnasked.filter(QStringLiteral("is not known, taken as kg/ha")).size(), 2);
+    Q_EMIT terminal().window()->dropped({file}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(findings(), loadedUnasked);
 }
 
 void TestFileOpening::whatIsNoFileIsRefusedVisibly()

@@ -11,7 +11,7 @@ function touch(name) {
 }
 
 touch("columnRow0Product");
-touch("choice2");
+touch("choice1");
 awaitThat(function () { return terminal.find("openAccept").visible; }, "the file is not shown");
 keepPicture("opening");
 touch("columnRow0Unit");

@@ -16,16 +16,23 @@
 RateController::RateController(Machine *machine, QObject *parent)
     : QObject(parent)
     , machine(machine)
-    , channels(size_t(machine->products().size()))
 {
-    for (size_t i = 0; i < channels.size(); ++i)
-        channels[i].loader = machine->backend()->loader(int(i));
+    addChannels();
+    connect(machine, &Machine::productsChanged, this, &RateController::addChannels);
     connect(machine, &Machine::mapsChanged, this, &RateController::findMaps);
     connect(machine->quillSpan(), &DbGroupQuillSpan::reInitSet, this, [this](bool isRequested) {
         if (isRequested)
             takeFlags();
     });
     findMaps();
+}
+
+void RateController::addChannels()
+{
+    for (int i = int(channels.size()); i < machine->products().size(); ++i) {
+        channels.emplace_back();
+        channels.back().loader = machine->backend()->loader(i);
+    }
 }
 
 void RateController::findMaps()

@@ -70,6 +70,8 @@ private:
         QList<float> rates;
     };
 
+    /// For the products that have none yet.
+    void addChannels();
     void findMaps();
     void takeFlags();
     QList<OrvikTypes::RX_SETTINGS> settings() const;

@@ -101,6 +101,12 @@ void TerminalWindow::showDriving(bool isShown)
     Q_EMIT drivingShown(isShown);
 }
 
+void TerminalWindow::setProducts(const Products &products)
+{
+    selector->setProducts(products);
+    arrange();
+}
+
 QRect TerminalWindow::pageArea()
 {
     return QRect(QPoint(), displaySize).adjusted(0, statusHeight, 0, 0);

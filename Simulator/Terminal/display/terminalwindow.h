@@ -29,6 +29,7 @@ public:
     MapOverlay *overlay() const { return mapOverlay; }
     LegendPanel *legend() const { return legendPanel; }
     ProductSelector *productSelector() const { return selector; }
+    void setProducts(const Products &products);
     StatusBar *statusBar() const { return status; }
     GuidancePage *guidancePage() const { return page; }
 

@@ -48,8 +48,9 @@ ColumnRow::ColumnRow(int place, QWidget *parent)
     connect(unit, &TouchButton::clicked, this, &ColumnRow::unitTouched);
 }
 
-void ColumnRow::show(const OpenSelection &selection, int index, const QList<MachineProduct> &products)
+void ColumnRow::show(const OpenSelection &selection, int index)
 {
+    const QList<MachineProduct> &products = selection.fedProducts();
     const SurveyedColumn &column = selection.column(index);
     what->setText(column.name);
     what->setNotes(notes(column, selection.unit(index)));

@@ -15,7 +15,7 @@ public:
     /// `place`: of the row on the page, from 0; names its controls.
     explicit ColumnRow(int place, QWidget *parent = nullptr);
 
-    void show(const OpenSelection &selection, int index, const QList<MachineProduct> &products);
+    void show(const OpenSelection &selection, int index);
     void setShown(bool isShownOnTheMap);
 
 Q_SIGNALS:

@@ -37,10 +37,9 @@ ColumnTable::ColumnTable(QWidget *parent)
     connect(pages, &Pager::turned, this, &ColumnTable::refresh);
 }
 
-void ColumnTable::show(const OpenSelection &newSelection, const QList<MachineProduct> &newProducts)
+void ColumnTable::show(const OpenSelection &newSelection)
 {
     selection = &newSelection;
-    products = newProducts;
     pages->setItems(selection->size(), selection->size() > rowsAlone ? rowsWithPager : rowsAlone);
     showColumn(0);
 }
@@ -61,7 +60,7 @@ void ColumnTable::refresh()
         rows.at(place)->setVisible(isUsed);
         if (!isUsed)
             continue;
-        rows.at(place)->show(*selection, index, products);
+        rows.at(place)->show(*selection, index);
         rows.at(place)->setShown(index == shown);
     }
 }

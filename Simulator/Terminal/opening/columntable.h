@@ -16,7 +16,7 @@ public:
     explicit ColumnTable(QWidget *parent = nullptr);
 
     /// `selection` is not owned and outlives what is shown of it.
-    void show(const OpenSelection &selection, const QList<MachineProduct> &products);
+    void show(const OpenSelection &selection);
     /// Shows again what may have changed in the selection.
     void refresh();
     /// The column that the map is shown of.
@@ -32,7 +32,6 @@ private:
     void showColumn(int index);
 
     const OpenSelection *selection = nullptr;
-    QList<MachineProduct> products;
     QList<ColumnRow *> rows;
     Pager *pages;
     int shown = 0;

@@ -1,7 +1,12 @@
 #pragma once
 
+#include "Backend/columnproduct.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 /// What the operator, the command line or a script asks the terminal to open.
 struct OpenRequest {
@@ -13,4 +18,6 @@ struct OpenRequest {
     /// Which layer and which task of each file; empty: the first that will do.
     QString layer = {};
     QString task = {};
+    /// What the products were made from that were chosen among, see LoadRequest; empty: they were the machine's.
+    std::optional<QList<ColumnProduct>> columnProducts = {};
 };

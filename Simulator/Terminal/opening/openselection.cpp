@@ -68,6 +68,7 @@ OpenRequest OpenSelection::request() const
     OpenRequest request{{report.path}};
     request.layer = report.layer;
     request.task = report.task;
+    request.columnProducts = report.columnProducts;
     for (int index = 0; index < size(); ++index) {
         const int number = product(index);
         for (QStringList *list : {&request.columns, &request.units}) {
@@ -93,21 +94,39 @@ FileChoices OpenSelection::choices() const
     return choices;
 }
 
+int OpenSelection::stillThere(const ColumnChoice &choice) const
+{
+    const auto isIt = [this, &choice](int number) {
+        const MachineProduct &product = products.at(number - 1);
+        return product.isDriven && product.name == choice.productName;
+    };
+    if (choice.product >= 1 && choice.product <= products.size() && isIt(choice.product))
+        return choice.product;
+    for (int number = 1; number <= products.size(); ++number) {
+        if (choice.product > 0 && isIt(number))
+            return number;
+    }
+    return 0;
+}
+
 void OpenSelection::apply(const FileChoices &choices)
 {
     if (choices.columnNames != report.columnNames)
         return;
     for (Entry &entry : entries)
         entry.product = 0;
-    for (const ColumnChoice &choice : choices.columns) {
-        const auto place = std::find_if(report.columns.begin(), report.columns.end(),
-                                        [&choice](const SurveyedColumn &any) { return any.key == choice.column; });
-        if (place == report.columns.end())
-            continue;
-        const int index = int(place - report.columns.begin());
-        const bool isStillThere = choice.product >= 1 && choice.product <= products.size()
-            && products.at(choice.product - 1).isDriven && products.at(choice.product - 1).name == choice.productName;
-        setUnit(index, choice.unit);
-        setProduct(index, isStillThere ? choice.product : 0);
+    // What was chosen and is there goes before what would be fed where it is not.
+    for (const bool isForThere : {false, true}) {
+        for (const ColumnChoice &choice : choices.columns) {
+            const auto place = std::find_if(report.columns.begin(), report.columns.end(),
+                                            [&choice](const SurveyedColumn &any) { return any.key == choice.column; });
+            const int number = stillThere(choice);
+            const bool isThere = choice.product == 0 || number > 0;
+            if (place == report.columns.end() || isThere != isForThere)
+                continue;
+            const int index = int(place - report.columns.begin());
+            setUnit(index, choice.unit);
+            setProduct(index, isThere ? number : place->product);
+        }
     }
 }

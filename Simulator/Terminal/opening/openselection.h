@@ -25,6 +25,8 @@ public:
     OpenSelection(const SurveyReport &survey, const QList<MachineProduct> &products);
 
     const SurveyReport &survey() const { return report; }
+    /// The products that there are to choose from.
+    const QList<MachineProduct> &fedProducts() const { return products; }
     int size() const { return report.columns.size(); }
     const SurveyedColumn &column(int index) const { return report.columns.at(index); }
 
@@ -43,7 +45,8 @@ public:
     bool feedsAny() const;
     OpenRequest request() const;
     FileChoices choices() const;
-    /// Takes what was chosen before, unless the file's columns are others now.
+    /// Takes what was chosen before, unless the file's columns are others now. A column whose product is not there any
+    /// more feeds what it would unasked.
     void apply(const FileChoices &choices);
 
 private:
@@ -52,6 +55,8 @@ private:
         QString unit;
     };
 
+    /// Number from 1 of the product that was chosen; 0 where it is not there.
+    int stillThere(const ColumnChoice &choice) const;
     /// Null for a column that feeds none.
     const MachineProduct *fed(int index) const;
 

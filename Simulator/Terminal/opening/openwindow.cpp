@@ -49,6 +49,11 @@ void OpenWindow::connectPages()
     connect(backend, &PrescriptionBackend::surveyed, this, &OpenWindow::takeSurvey);
     connect(backend, &PrescriptionBackend::progress, this,
             [this](const QString &, double fraction) { progress->setFraction(fraction); });
+    // What was offered are no products of the machine any more.
+    connect(machine, &Machine::productsChanged, this, [this] {
+        if (isVisible() && !isBusy() && last.isOk())
+            survey(last.path, last.layer, last.task);
+    });
     connect(files, &FilePage::recentWanted, this, [this] { files->showRecent(recent.paths()); });
     connect(files, &FilePage::fileChosen, this, [this](const QString &path) { preview({path}); });
     connect(files, &FilePage::left, this, &OpenWindow::leave);
@@ -136,7 +141,9 @@ void OpenWindow::survey(const QString &path, const QString &layer, const QString
 {
     ++surveys;
     showProgress(tr("Reading %1").arg(QFileInfo(path).fileName()), Busy::Surveying);
-    machine->backend()->survey({path, {}, {}, machine->loadedProducts(), layer, task});
+    LoadRequest request{path, {}, {}, {}, layer, task};
+    machine->enterProducts(request);
+    machine->backend()->survey(request);
 }
 
 void OpenWindow::takeSurvey(const SurveyReport &survey)
@@ -161,7 +168,7 @@ void OpenWindow::takeSurvey(const SurveyReport &survey)
         tell(survey.error, files);
         return;
     }
-    selection = OpenSelection(survey, machine->loadedProducts());
+    selection = OpenSelection(survey, machine->loadedProductsFor(survey.columnProducts));
     if (before && before->layer == survey.layer && before->task == survey.task)
         selection.apply(*before);
     previews->show(selection, waiting.size());
@@ -268,7 +275,7 @@ void OpenWindow::askProduct(int index)
 {
     QStringList options{tr("None")};
     QList<int> numbers{0};
-    const QList<MachineProduct> products = machine->loadedProducts();
+    const QList<MachineProduct> products = selection.fedProducts();
     for (int number = 1; number <= products.size(); ++number) {
         if (!products.at(number - 1).isDriven)
             continue;
@@ -286,7 +293,7 @@ void OpenWindow::askProduct(int index)
 void OpenWindow::askUnit(int index)
 {
     askedColumn = index;
-    const MachineProduct product = machine->loadedProducts().at(selection.product(index) - 1);
+    const MachineProduct product = selection.fedProducts().at(selection.product(index) - 1);
     unit->ask(tr("In which unit is %1?").arg(selection.column(index).name),
               PrescriptionBackend::rateUnits(product.kind), selection.unit(index), selection.column(index).unit);
     showPage(unit);

@@ -8,9 +8,6 @@
 #include "theme.h"
 #include "touchbutton.h"
 
-#include "Framework/databroker.h"
-#include "Framework/dbgroupproductgroupinfo.h"
-
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -131,7 +128,7 @@ void PreviewPage::show(const OpenSelection &newSelection, int waiting)
     task->setText(survey.task);
     skip->setVisible(waiting > 0);
     skip->setNote(tr("%1 more").arg(waiting));
-    table->show(newSelection, machine->loadedProducts());
+    table->show(newSelection);
     refresh();
 }
 
@@ -161,12 +158,11 @@ void PreviewPage::showColumn(int index)
     content.hasSingleRates = column.hasSingleRates;
     content.unit = column.unit;
     if (number > 0) {
-        const Product &product = machine->products().at(number - 1);
-        auto *info = qobject_cast<DbGroupProductGroupInfo *>(
-            machine->dataBroker()->getGroup(Machine::productGroupName(number), false));
+        const MachineProduct &product = selection->fedProducts().at(number - 1);
         content.product = product.name;
-        content.factor = selection->factor(index) * getRateConversion(info);
-        content.unit = rateUnit(product.rateKind(), machine->unitSystem());
+        content.factor = selection->factor(index) * product.displayFactor;
+        content.unit = rateUnit(machine->productsFor(selection->survey().columnProducts).at(number - 1).rateKind(),
+                                machine->unitSystem());
     }
     legend->show(content);
     legend->setFixedSize(legend->sizeHint());

@@ -85,7 +85,7 @@ void print(const LoadReport &report, const Products &products)
 
 int runMapCheck(const CommandLine &line)
 {
-    MachineSetup setup{{}, ProductFile::standard()};
+    MachineSetup setup = ProductFile::standardMachine();
     if (!line.productFile.isEmpty()) {
         const Result<MachineSetup> read = ProductFile::read(line.productFile);
         if (!read.isOk()) {
@@ -96,12 +96,15 @@ int runMapCheck(const CommandLine &line)
     }
     DataBroker broker;
     PrescriptionBackend backend(&broker);
-    const Machine machine(&broker, &backend, setup.products, line.units);
+    Machine machine(&broker, &backend, setup.products, line.units);
+    if (setup.takesProductsFromFile)
+        machine.leaveProductsOpen();
     QJsonArray files;
     int status = 0;
     for (const QString &path : line.prescriptions) {
-        const LoadReport report = PrescriptionBackend::check(
-            {path, line.columns, line.sourceUnits, machine.loadedProducts(), line.layer, line.task}, setup.size.width);
+        LoadRequest request{path, line.columns, line.sourceUnits, {}, line.layer, line.task};
+        machine.enterProducts(request);
+        const LoadReport report = PrescriptionBackend::check(request, setup.size.width);
         if (!report.isOk())
             status = 1;
         else if (!report.findings.isEmpty() && status == 0)
@@ -109,7 +112,7 @@ int runMapCheck(const CommandLine &line)
         if (line.json)
             files.append(jsonOf(report));
         else
-            print(report, setup.products);
+            print(report, machine.productsFor(report.columnProducts));
     }
     if (line.json)
         writeOutputText(QJsonDocument(QJsonObject{{QStringLiteral("files"), files}}).toJson());

@@ -183,7 +183,7 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
 
 QString runTerminal(const CommandLine &line)
 {
-    MachineSetup setup{{}, ProductFile::standard()};
+    MachineSetup setup = ProductFile::standardMachine();
     if (!line.productFile.isEmpty()) {
         const Result<MachineSetup> read = ProductFile::read(line.productFile);
         if (!read.isOk())

@@ -73,7 +73,9 @@ std::shared_ptr<LoadJob> PrescriptionBackendPrivate::enqueue(const LoadRequest &
 void PrescriptionBackendPrivate::enqueueSurvey(const LoadRequest &request)
 {
     const auto job = std::make_shared<LoadJob>();
-    job->request = {request.path, {}, {}, request.products, request.layer, request.task};
+    job->request = request;
+    job->request.columns.clear();
+    job->request.units.clear();
     job->isSurvey = true;
     enqueue(job);
 }
@@ -143,6 +145,8 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
     if (map->report.isOk() && job->cancelled)
         map->report = refuse(map->report.path, QStringLiteral("loading was cancelled"));
     const bool isChange = map->report.isOk();
+    if (isChange && !map->report.columnProducts.isEmpty())
+        Q_EMIT q->productsMade(map->report.columnProducts);
     const LoadReport report = isChange ? publish(std::move(map)) : map->report;
     jobs.pop_front();
     startNext();

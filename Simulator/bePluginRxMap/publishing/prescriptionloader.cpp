@@ -1,5 +1,6 @@
 #include "prescriptionloader.h"
 
+#include "columnproducts.h"
 #include "duplicatepolygons.h"
 #include "filesurvey.h"
 #include "gdalsession.h"
@@ -26,6 +27,14 @@ constexpr size_t ringsPerReport = 256;
 
 using Kind = MapFinding::Kind;
 
+/// The products as far as they are known before the file is read.
+LoadRequest expecting(LoadRequest request)
+{
+    if (request.makeProducts)
+        request.products = request.makeProducts(ColumnProducts(request.columns, request.units).expected());
+    return request;
+}
+
 QString tangleText(int record)
 {
     return QStringLiteral("record %1 was left out, its rings cross each other or themselves more than %2 times")
@@ -36,8 +45,8 @@ QString tangleText(int record)
 
 PrescriptionLoader::PrescriptionLoader(const LoadRequest &loadRequest, const std::vector<LocalPlane> &knownPlanes,
                                        const LoadControl &loadControl)
-    : request(loadRequest)
-    , policy(loadRequest.products, loadRequest.columns, loadRequest.units)
+    : request(expecting(loadRequest))
+    , policy(request.products, request.columns, request.units)
     , planes(knownPlanes)
     , control(loadControl)
 {
@@ -65,8 +74,6 @@ std::unique_ptr<LoadedMap> PrescriptionLoader::load()
     report = &map->report;
     report->path = request.path;
     findings.emplace(*report);
-    for (const MachineProduct &product : request.products)
-        map->productNames.append(product.name.isEmpty() ? product.rateCalName : product.name);
     if (!attempt([this, &map] { return loadInto(*map); })) {
         map->lookup.reset();
         map->chain.reset();
@@ -105,6 +112,9 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
     const bool isRead = readPolygons(map, ColumnPolicy::chanceOf);
+    if (isRead)
+        makeProducts();
+    survey.columnProducts = report->columnProducts;
     const QString lack = isRead ? FileSurvey(source, polygons).addColumns(policy, survey) : QString();
     if (!lack.isEmpty())
         fail(lack);
@@ -267,8 +277,26 @@ bool PrescriptionLoader::repairRings()
     return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
 }
 
+void PrescriptionLoader::makeProducts()
+{
+    if (!request.makeProducts)
+        return;
+    report->columnProducts = request.columnProducts;
+    if (report->columnProducts.isEmpty())
+        report->columnProducts = ColumnProducts(request.columns, request.units).of(source, polygons);
+    request.products = request.makeProducts(report->columnProducts);
+    policy = ColumnPolicy(request.products, request.columns, request.units);
+}
+
 bool PrescriptionLoader::chooseColumns(LoadedMap &map)
 {
+    makeProducts();
+    if (!policy.refusal().isEmpty())
+        return fail(policy.refusal());
+    if (request.tellsGuesses)
+        policy.tellGuesses();
+    for (const MachineProduct &product : qAsConst(request.products))
+        map.productNames.append(product.name.isEmpty() ? product.rateCalName : product.name);
     const ColumnPolicy::Decision decision = policy.decide(source, polygons);
     for (const MapFinding &finding : decision.findings)
         findings->add(finding);

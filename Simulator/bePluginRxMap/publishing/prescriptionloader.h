@@ -42,6 +42,8 @@ private:
     bool place(LoadedMap &map);
     void placeBoundary(LoadedMap &map) const;
     bool repairRings();
+    /// Makes the products from the columns where the machine takes them from the file.
+    void makeProducts();
     bool chooseColumns(LoadedMap &map);
     void dropRecordsWithoutRate();
     void dropHidden();

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void aChosenUnitGoesWithTheProductItIsNoUnitOf();
     void formerChoicesAreTaken();
     void formerChoicesOfOtherColumnsOrProductsAreNot();
+    void aFormerProductIsFoundByItsNameElseTheSuggestionStands();
 
 private:
     OpenSelection selection;
@@ -148,6 +149,22 @@ void TestOpenSelection::formerChoicesOfOtherColumnsOrProductsAreNot()
     OpenSelection otherProduct(survey, products);
     otherProduct.apply(former);
     QCOMPARE(otherProduct.product(1), 0);
+}
+
+void TestOpenSelection::aFormerProductIsFoundByItsNameElseTheSuggestionStands()
+{
+    selection.setProduct(1, 3);
+    const FileChoices former = selection.choices();
+    std::swap(products[0], products[2]);
+    OpenSelection elsewhere(survey, products);
+    elsewhere.apply(former);
+    QCOMPARE(elsewhere.product(0), 2);
+    QCOMPARE(elsewhere.product(1), 1);
+    products[1].name = QStringLiteral("Other");
+    OpenSelection gone(survey, products);
+    gone.apply(former);
+    QCOMPARE(gone.product(0), 2);
+    QCOMPARE(gone.product(1), 1);
 }
 
 RXMAP_TEST(TestOpenSelection, None)

@@ -41,6 +41,9 @@ private Q_SLOTS:
     void whatALoadCountsIsTold();
     void aProductThatNoPrescriptionDrivesIsFedByNone();
     void productsComeFromAFile();
+    void withoutOneTheyComeFromTheFirstPrescription_data();
+    void withoutOneTheyComeFromTheFirstPrescription();
+    void aScriptsFirstPrescriptionBringsTheProducts();
 
 private:
     struct Outcome {
@@ -111,7 +114,7 @@ void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
                                                       TerminalHost::fixture("overlap.geojson")}
                                        << "NOPE";
     QTest::newRow("more columns than products")
-        << QStringList{"--columns", "SEED_K_HA,,,FERT_KG_HA", zones()} << "4 columns";
+        << QStringList{"--columns", QString(16, ',') + "FERT_KG_HA", zones()} << "17 columns";
     QTest::newRow("no such unit") << QStringList{"--source-units", "bags", zones()} << "\"bags\" is no unit of a rate";
     QTest::newRow("no plug-in") << QStringList{"--plugin-dir", folder.path()} << folder.path();
     QTest::newRow("place without a map") << QStringList{"--at", "9,48"} << "--at 9,48: no map is loaded";
@@ -143,14 +146,13 @@ void TestTerminalRun::namesMayHoldWhatStandsForArguments()
     QVERIFY(QFile::copy(zones(), copy));
     const QString script = write("print(terminal.groups('rxMap.*').join());\nthrow new Error('end');", "100%1%2.js");
     const Outcome outcome = run({"--script", script, map, copy});
-    QVERIFY2(
-        outcome.output.contains(copy + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA (kg/ha, from the name)\n")),
-        qPrintable(outcome.output));
+    QVERIFY2(outcome.output.contains(copy + QStringLiteral(": product 2 (Fert): FERT_KG_HA (kg/ha, from the name)\n")),
+             qPrintable(outcome.output));
     QVERIFY2(outcome.output.endsWith(QStringLiteral("rxMap.%1,rxMap.%1 (2)\n").replace(QStringLiteral("%1"), name)),
              qPrintable(outcome.output));
     QCOMPARE(outcome.error, script + QStringLiteral(":2: Error: end"));
-    const QString refusal = run({"--columns", "SEED_K_HA,,,FERT_KG_HA", map}).error;
-    QVERIFY2(refusal.startsWith(map + QStringLiteral(": 4 columns are named, but the machine has 3")),
+    const QString refusal = run({"--columns", QString(16, ',') + "FERT_KG_HA", map}).error;
+    QVERIFY2(refusal.startsWith(map + QStringLiteral(": 17 columns are named, but the machine has 16")),
              qPrintable(refusal));
 }
 
@@ -260,8 +262,8 @@ void TestTerminalRun::everyProductIsDescribed()
     const QStringList lines = metres.answer.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 5);
     QCOMPARE(lines.at(0), QStringLiteral("product 1 (Seed): No rate is prescribed at -100,0"));
-    QCOMPARE(lines.at(1), QStringLiteral("product 2 (Fertiliser): Rx Rate: 120.50 (FERT_KG_HA, kg/ha)"));
-    QCOMPARE(lines.at(2), QStringLiteral("product 3 (Herbicide): Rx Rate: 0.00 (HERB_L_HA, L/ha)"));
+    QCOMPARE(lines.at(1), QStringLiteral("product 2 (Fert): Rx Rate: 120.50 (FERT_KG_HA, kg/ha)"));
+    QCOMPARE(lines.at(2), QStringLiteral("product 3 (Herb): Rx Rate: 0.00 (HERB_L_HA, L/ha)"));
     QCOMPARE(lines.at(4), QStringLiteral("2 1"));
     const Outcome degrees = run({"--columns", ",FERT_KG_HA,HERB_L_HA", "--at", lines.at(3), zones()});
     QCOMPARE(degrees.error, QString());
@@ -316,8 +318,8 @@ void TestTerminalRun::theColumnsThatFeedInTheEndAreReported()
     const Outcome outcome = run({"--describe", "-1000,0", zones(), other});
     QCOMPARE(outcome.error, QString());
     QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
-    QVERIFY(outcome.output.contains(zones()
-                                    + QStringLiteral(": product 2 (Fertiliser): FERT_KG_HA (kg/ha, from the name)\n")));
+    QVERIFY(
+        outcome.output.contains(zones() + QStringLiteral(": product 2 (Fert): FERT_KG_HA (kg/ha, from the name)\n")));
     QVERIFY(outcome.output.contains(other
                                     + QStringLiteral(": product 1 (Seed): rate (unit not known, taken as 1000/ha)\n")));
 }
@@ -361,9 +363,9 @@ void TestTerminalRun::theRatesAroundATaskAreTold()
     const Outcome outcome = run({"--task", "TSK2", "--describe", "0,0", folder.path()});
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.errors, QString());
-    const QString product = QStringLiteral("product 2 (Fertiliser): ");
     const QString column = QStringLiteral("Setpoint Mass Per Area Application Rate");
-    QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 1, 1),
+    const QString product = QStringLiteral("product 1 (%1): ").arg(column);
+    QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 0, 0),
              QStringLiteral("%1Rx Rate: 200.00 (%2, mg/m2)").arg(product, column));
     const QString told = folder.path() + QStringLiteral(": ") + product;
     QCOMPARE(QString(outcome.output).remove(outcome.answer),
@@ -377,15 +379,18 @@ void TestTerminalRun::theRatesAroundATaskAreTold()
 void TestTerminalRun::whatALoadCountsIsTold_data()
 {
     QTest::addColumn<QStringList>("options");
-    QTest::newRow("likely columns") << QStringList{};
-    QTest::newRow("a column by name") << QStringList{"--columns", "Rate"};
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("likely columns") << QStringList{} << "kg/ha";
+    QTest::newRow("a column by name") << QStringList{"--columns", "Rate"} << "kg/ha";
+    // The file before it brought the products.
     QTest::newRow("a column by name, two files")
-        << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")};
+        << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")} << "1000/ha";
 }
 
 void TestTerminalRun::whatALoadCountsIsTold()
 {
     QFETCH(QStringList, options);
+    QFETCH(QString, unit);
     const QString path = TerminalHost::fixture(QStringLiteral("text-rates.geojson"));
     const Outcome outcome = run(options + QStringList{"--describe", "0,0", path});
     QCOMPARE(outcome.error, QString());
@@ -394,7 +399,7 @@ void TestTerminalRun::whatALoadCountsIsTold()
     QCOMPARE(lines,
              QStringList({path + QStringLiteral(": 1 entry of column \"Rate\" is no rate and was left out"),
                           path + QStringLiteral(": 2 records without a rate were skipped (records 2, 3)"),
-                          path + QStringLiteral(": the unit of column \"Rate\" is not known, taken as 1000/ha")}));
+                          path + QStringLiteral(": the unit of column \"Rate\" is not known, taken as ") + unit}));
 }
 
 void TestTerminalRun::aProductThatNoPrescriptionDrivesIsFedByNone()
@@ -430,6 +435,73 @@ void TestTerminalRun::productsComeFromAFile()
         zones()
             + QStringLiteral(": no product that a prescription may drive fits the unit of \"SEED_K_HA\" (1000/ha)\n"));
     QVERIFY(outcome.output.contains(QLatin1String("product 3 (Spray)")));
+}
+
+void TestTerminalRun::withoutOneTheyComeFromTheFirstPrescription_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("answers");
+    const QString pounds = write(square("Rate_lb_ac", 150, 11.0, 48.0), "pounds.geojson");
+    const QString gallons = write(square("GPA", 15, 11.0, 48.0), "gallons.geojson");
+    const QString seed = write(square("SEED_kg_ha", 180, 11.0, 48.0), "seed.geojson");
+    const QString four = write(
+        square("UREA_kg_ha", 1, 11.0, 48.0).replace("\"UREA", "\"A_l_ha\":4,\"B_l_ha\":5,\"Seeds_K_ha\":6,\"UREA"),
+        "four.geojson");
+    const QString other =
+        write(square("Urea_lb_ac", 100, 11.0, 48.0).replace("\"Urea", "\"GPA\":3,\"Urea"), "urea.geojson");
+    QTest::newRow("pounds") << QStringList{"--units", "us", pounds}
+                            << QStringList{"1 (Rate_lb_ac): Rx Rate: 150.00 (Rate_lb_ac, lb/ac)"};
+    QTest::newRow("gallons") << QStringList{gallons} << QStringList{"1 (GPA): Rx Rate: 140.31 (GPA, gal/ac)"};
+    QTest::newRow("seed by weight") << QStringList{seed}
+                                    << QStringList{"1 (Seed): Rx Rate: 180.00 (SEED_kg_ha, kg/ha)"};
+    QTest::newRow("four columns") << QStringList{four}
+                                  << QStringList{"1 (A): Rx Rate: 4.00 (A_l_ha, L/ha)",
+                                                 "2 (B): Rx Rate: 5.00 (B_l_ha, L/ha)",
+                                                 "3 (Seeds): Rx Rate: 6.00 (Seeds_K_ha, 1000/ha)",
+                                                 "4 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};
+    QTest::newRow("a column named") << QStringList{"--columns", ",UREA_kg_ha", four}
+                                    << QStringList{"2 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};
+    QTest::newRow("a unit named") << QStringList{"--source-units", "gal/ac", "--columns", "UREA_kg_ha", four}
+                                  << QStringList{"1 (Urea): Rx Rate: 9.35 (UREA_kg_ha, gal/ac)"};
+    // The same product in another file and another unit.
+    QTest::newRow("a second file") << QStringList{four, other}
+                                   << QStringList{"1 (A): Rx Rate: 28.06 (GPA, gal/ac)",
+                                                  "4 (Urea): Rx Rate: 112.09 (Urea_lb_ac, lb/ac)"};
+}
+
+void TestTerminalRun::withoutOneTheyComeFromTheFirstPrescription()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, answers);
+    const Outcome outcome = run(QStringList{"--at", "11.0005,48.0005"} + arguments);
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.errors, QString());
+    const QStringList lines = outcome.answer.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QVERIFY(lines.size() >= 3);
+    for (const QString &answer : qAsConst(answers))
+        QVERIFY2(lines.contains(QStringLiteral("product ") + answer), qPrintable(outcome.answer));
+}
+
+void TestTerminalRun::aScriptsFirstPrescriptionBringsTheProducts()
+{
+    const QString file =
+        write(square("Urea_lb_ac", 100, 11.0, 48.0).replace("\"Urea", "\"GPA\":3,\"Urea"), "u.geojson");
+    const QString script = write("terminal.drive(1); terminal.run(5);"
+                                 "var r = terminal.open('"
+                                     + file.toUtf8()
+                                     + "');"
+                                       "print(r.sources.map(function(s) { return s.product + s.column + s.unit; }),"
+                                       " terminal.get('system.binGroup.1', 'compositionShortName'),"
+                                       " terminal.find('selectProduct2').text, terminal.find('selectProduct3').text,"
+                                       " terminal.rates(2).unit, r.warnings.length);"
+                                       "terminal.run(5); terminal.close(r.group); terminal.open('"
+                                     + zones().toUtf8()
+                                     + "');"
+                                       "print(terminal.find('selectProduct1').text, terminal.find('selectProduct4'));",
+                                 "first.js");
+    const Outcome outcome = run({"--script", script});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, QStringLiteral("1GPAgal/ac,2Urea_lb_aclb/ac GPA Urea Seed kg/ha 0\nGPA null\n"));
 }
 
 RXMAP_TEST(TestTerminalRun, Widgets)

@@ -21,6 +21,13 @@ ProductSelector::ProductSelector(const Products &products, QWidget *parent)
     : QWidget(parent)
     , buttons(new QButtonGroup(this))
 {
+    connect(buttons, QOverload<int>::of(&QButtonGroup::buttonClicked), this, &ProductSelector::chosen);
+    setProducts(products);
+}
+
+void ProductSelector::setProducts(const Products &products)
+{
+    qDeleteAll(buttons->buttons());
     const bool isNarrow = products.size() > maxInColumn;
     for (int number = 1; number <= products.size(); ++number) {
         const Product &product = products.at(number - 1);
@@ -30,8 +37,10 @@ ProductSelector::ProductSelector(const Products &products, QWidget *parent)
         button->setCheckable(true);
         button->setObjectName(QStringLiteral("selectProduct%1").arg(number));
         buttons->addButton(button, number);
+        if (isVisible())
+            button->show();
     }
-    connect(buttons, QOverload<int>::of(&QButtonGroup::buttonClicked), this, &ProductSelector::chosen);
+    arrange();
 }
 
 void ProductSelector::setActiveProduct(int number)
@@ -61,6 +70,11 @@ int ProductSelector::heightWithin(int available) const
 }
 
 void ProductSelector::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void ProductSelector::arrange()
 {
     const QList<QAbstractButton *> all = buttons->buttons();
     const int buttonWidth = (width() - gap * (columns() + 1)) / columns();

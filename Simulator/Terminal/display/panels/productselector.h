@@ -13,6 +13,8 @@ class ProductSelector : public QWidget {
 public:
     explicit ProductSelector(const Products &products, QWidget *parent = nullptr);
 
+    /// Makes the buttons anew; none of them is active.
+    void setProducts(const Products &products);
     /// Numbers from 1.
     void setActiveProduct(int number);
     /// The height that the buttons take where there is room for `available` pixels.
@@ -26,6 +28,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void arrange();
     int columns() const;
     int rows() const;
     int buttonHeight(int available) const;

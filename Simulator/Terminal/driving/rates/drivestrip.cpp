@@ -28,8 +28,9 @@ DriveStrip::DriveStrip(Simulation *simulation, const RateHistory *history, QWidg
     setObjectName(QStringLiteral("driveStrip"));
     pageButton->setObjectName(QStringLiteral("ratesPage"));
     pageButton->setNote(tr("Page"));
-    pageButton->setVisible(table->pages() > 1);
-    showPage();
+    takeProducts();
+    // After the table, which was made before.
+    connect(simulation->machine(), &Machine::productsChanged, this, &DriveStrip::takeProducts);
     connect(pageButton, &TouchButton::clicked, this, [this] {
         table->showNextPage();
         showPage();
@@ -40,6 +41,13 @@ DriveStrip::DriveStrip(Simulation *simulation, const RateHistory *history, QWidg
     });
     connect(simulation->machine(), &Machine::mapsChanged, this, [this] { pace.request(); });
     connect(simulation, &Simulation::stepped, this, [this] { pace.request(); });
+}
+
+void DriveStrip::takeProducts()
+{
+    pageButton->setVisible(table->pages() > 1);
+    arrange();
+    showPage();
 }
 
 void DriveStrip::showPage()
@@ -54,6 +62,11 @@ QSize DriveStrip::sizeHint() const
 }
 
 void DriveStrip::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void DriveStrip::arrange()
 {
     const bool hasPages = table->pages() > 1;
     const int plotWidth = int((hasPages ? smallPlotShare : plotShare) * width());

@@ -28,6 +28,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void takeProducts();
+    void arrange();
     void showPage();
 
     RateTable *table;

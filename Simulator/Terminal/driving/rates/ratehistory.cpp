@@ -11,6 +11,8 @@ RateHistory::RateHistory(Simulation *simulation, QObject *parent)
     , all(size_t(simulation->machine()->products().size()))
 {
     connect(simulation, &Simulation::stepped, this, &RateHistory::take);
+    connect(simulation->machine(), &Machine::productsChanged, this,
+            [this] { all.resize(size_t(this->simulation->machine()->products().size())); });
 }
 
 void RateHistory::setKept(bool isKept)

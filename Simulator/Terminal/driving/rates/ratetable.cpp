@@ -48,7 +48,14 @@ RateTable::RateTable(const Simulation *simulation, QWidget *parent)
     , simulation(simulation)
 {
     setObjectName(QStringLiteral("rateTable"));
+    takeProducts();
+    connect(simulation->machine(), &Machine::productsChanged, this, &RateTable::takeProducts);
+}
+
+void RateTable::takeProducts()
+{
     const Machine &machine = *simulation->machine();
+    units.clear();
     for (int number = 1; number <= machine.products().size(); ++number)
         units.push_back(ShownUnit::of(machine, number));
 }

@@ -33,6 +33,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void takeProducts();
     /// Product numbers, the active one first.
     std::vector<int> order() const;
     void drawHead(QPainter &painter) const;

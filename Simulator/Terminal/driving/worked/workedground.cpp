@@ -28,7 +28,17 @@ WorkedGround::WorkedGround(Simulation *simulation, QObject *parent)
 {
     connect(simulation, &Simulation::stepped, this, &WorkedGround::take);
     connect(simulation->machine(), &Machine::mapsChanged, this, &WorkedGround::findLegends);
+    connect(simulation->machine(), &Machine::productsChanged, this, &WorkedGround::forget);
     connect(simulation->machine(), &Machine::activeProductChanged, this, [this] { firstChanged = oldest(); });
+    findLegends();
+}
+
+void WorkedGround::forget()
+{
+    // What other products were applied is none of these.
+    next = 0;
+    strips.clear();
+    rates.clear();
     findLegends();
 }
 

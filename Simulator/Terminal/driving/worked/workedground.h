@@ -49,6 +49,7 @@ public:
 
 private:
     void take();
+    void forget();
     void findLegends();
     /// The legend's colours of the rates that are applied, by product.
     std::vector<QColor> colorsNow() const;

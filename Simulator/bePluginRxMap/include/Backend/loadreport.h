@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/columnproduct.h"
 #include "Backend/mapfinding.h"
 #include "Backend/ratesource.h"
 
@@ -35,6 +36,8 @@ struct LoadReport {
     QStringList columns;
     /// One per column.
     QList<RateSource> sources;
+    /// What the machine's products were made from; empty where it had its own.
+    QList<ColumnProduct> columnProducts;
     /// One legend per column.
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
     /// Per legend: the rates of every class are shown alike, the greatest of them is its limit.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Backend/columnproduct.h"
 #include "Backend/machineproduct.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 /// What to load, and for whom.
 struct LoadRequest {
@@ -20,4 +23,11 @@ struct LoadRequest {
     /// Which one of the file's layers, or of its tasks; empty: the first that will do.
     QString layer;
     QString task;
+    /// Where the machine takes its products from the file: makes them from what the columns say, and `products` do not
+    /// count. It is called in the loading thread. The report says from what they were made.
+    std::function<QList<MachineProduct>(const QList<ColumnProduct> &)> makeProducts = {};
+    /// What the columns said when the operator chose among them; empty: what they say to the load.
+    QList<ColumnProduct> columnProducts = {};
+    /// The columns were picked from what the file was seen to offer: one that is a guess is told to be one.
+    bool tellsGuesses = false;
 };

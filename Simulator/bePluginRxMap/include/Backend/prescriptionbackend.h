@@ -70,6 +70,8 @@ public:
     RxMapLoader *loader(int product);
 
 Q_SIGNALS:
+    /// A map is about to be published for products that were made from its columns, which are to be the machine's.
+    void productsMade(const QList<ColumnProduct> &columns);
     /// `fraction` runs from 0 to 1 within one load.
     void progress(const QString &path, double fraction);
     void finished(const LoadReport &report);

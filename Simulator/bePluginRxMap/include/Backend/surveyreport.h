@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/columnproduct.h"
 #include "Backend/ratesource.h"
 
 #include "Framework/rxpolygon.h"
@@ -52,6 +53,8 @@ struct SurveyReport {
     QStringList columnNames;
     /// Those that feed products unasked, in product order, then the others in table order.
     QList<SurveyedColumn> columns;
+    /// As in LoadReport.
+    QList<ColumnProduct> columnProducts;
     /// Why no product can be fed unasked, in one line that names the file; empty when one can.
     QString lackOfFeeds;
     int polygons = 0;

@@ -93,7 +93,8 @@ bool isIn(const QSet<QString> &words, const QString &word)
 
 bool isRateWord(const QString &word)
 {
-    return isIn(rateWords(), word) || word.startsWith(QLatin1String("rate")) || word.endsWith(QLatin1String("rate"))
+    const bool endsInRate = word.endsWith(QLatin1String("rate")) && !word.endsWith(QLatin1String("nitrate"));
+    return isIn(rateWords(), word) || word.startsWith(QLatin1String("rate")) || endsInRate
         || word.startsWith(QLatin1String("tgt")) || word.startsWith(QLatin1String("dose"));
 }
 
@@ -102,10 +103,20 @@ bool isNumber(const QString &word)
     return std::all_of(word.begin(), word.end(), [](QChar letter) { return letter.isDigit(); });
 }
 
+/// A word of small letters, or of capitals that are too many for a symbol, with the first letter large.
+QString readable(const QString &word)
+{
+    constexpr int longestSymbol = 3;
+    const bool areLetters = std::all_of(word.begin(), word.end(), [](QChar letter) { return letter.isLetter(); });
+    const bool isShouted = areLetters && word.size() > longestSymbol && word == word.toUpper();
+    return word.left(1).toUpper() + (isShouted ? word.mid(1).toLower() : word.mid(1));
+}
+
 } // namespace
 
 ColumnName::ColumnName(const QString &name)
-    : words(RateUnit::wordsOf(name))
+    : whole(name)
+    , words(RateUnit::wordsOf(name))
     , mayBeCut(name.size() >= maxTableName)
 {
 }
@@ -138,6 +149,27 @@ QString ColumnName::subject() const
             rest.append(word);
     }
     return rest.join(QLatin1Char(' '));
+}
+
+QString ColumnName::product() const
+{
+    QVector<int> others;
+    const bool hasUnit = RateUnit::find(words, mayBeCut, &others).isKnown()
+        || (hasRateWord() && RateUnit::findAmount(words, &others).isKnown());
+    const int end = !hasUnit && endsInArea() ? words.size() - 1 : words.size();
+    for (int place = 0; !hasUnit && place < end; ++place)
+        others.append(place);
+    const QStringList written = RateUnit::writtenWordsOf(whole);
+    QStringList rest;
+    bool isSaying = false;
+    for (const int place : qAsConst(others)) {
+        const QString &word = words.at(place);
+        if (isRateWord(word) || wantedWords().contains(word) || appliedWords().contains(word))
+            continue;
+        rest.append(readable(written.value(place)));
+        isSaying = isSaying || !isNumber(word);
+    }
+    return isSaying && written.size() == words.size() ? rest.join(QLatin1Char(' ')) : whole;
 }
 
 ProductLineItem::Basis ColumnName::basis() const

@@ -25,6 +25,9 @@ public:
     /// The unit per area; of a name that has a word for a rate, an amount alone is one, too. Not known when there is
     /// none.
     RateUnit unit() const;
+    /// What is left of the name without words for a rate and without its unit, spelled to be read: "Urea" for
+    /// "UREA_KG_HA". The whole name where nothing is left.
+    QString product() const;
     /// What a word for the product, else the rate's unit, says is measured out.
     ProductLineItem::Basis basis() const;
 
@@ -33,6 +36,7 @@ private:
     bool endsInArea() const;
     bool hasOtherWord() const;
 
+    QString whole;
     QStringList words;
     bool mayBeCut;
 };

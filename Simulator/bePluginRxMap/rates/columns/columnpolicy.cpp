@@ -2,6 +2,7 @@
 
 #include "columncontent.h"
 #include "columnname.h"
+#include "columnproducts.h"
 #include "likelycolumns.h"
 #include "tablecolumns.h"
 
@@ -162,9 +163,9 @@ void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColum
         if (!products.at(product).isFed)
             waiting.push_back(product);
     }
-    decision.feeds = feedLikely(likely.columns(), waiting);
+    decision.feeds = feedLikely(source, likely.columns(), waiting);
     if (decision.feeds.empty())
-        decision.feeds = feedLikely(likely.columns(), driven);
+        decision.feeds = feedLikely(source, likely.columns(), driven);
     QStringList unfit;
     for (const LikelyColumn &column : likely.columns()) {
         const bool fitsAny =
@@ -200,7 +201,7 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     feed.factor = unit.unit.factorTo(product.kind);
     feed.displayFactor = product.displayFactor;
     RateSource told{column.name, unit.unit.isKnown() ? unit.unit.text() : base, unit.from, feed.product + 1, true};
-    told.isSure = !names.isEmpty() || LikelyColumns::saysRates(column);
+    told.isSure = (!names.isEmpty() && !tellsGuesses) || LikelyColumns::saysRates(column);
     told.baseUnit = base;
     for (double PlaceRates::*rate : {&PlaceRates::outOfField, &PlaceRates::elsewhere, &PlaceRates::positionLost})
         told.placeRates.*rate = feed.factor * column.placeRates.*rate;
@@ -241,7 +242,8 @@ std::vector<ColumnPolicy::Feed> ColumnPolicy::feedNamed(const RawPrescription &s
     return feeds;
 }
 
-std::vector<ColumnPolicy::Feed> ColumnPolicy::feedLikely(std::vector<LikelyColumn> columns,
+std::vector<ColumnPolicy::Feed> ColumnPolicy::feedLikely(const RawPrescription &source,
+                                                         std::vector<LikelyColumn> columns,
                                                          const std::vector<int> &candidates) const
 {
     std::vector<Feed> feeds;
@@ -255,8 +257,16 @@ std::vector<ColumnPolicy::Feed> ColumnPolicy::feedLikely(std::vector<LikelyColum
         columns.erase(column);
         return true;
     };
-    std::vector<int> left;
+    std::vector<int> unnamed;
     for (const int product : candidates) {
+        const QString &name = products.at(product).name;
+        if (!feedFirst(product, [&](const LikelyColumn &column) {
+                return ColumnProducts::isNamed(source.columns[static_cast<size_t>(column.place)], name);
+            }))
+            unnamed.push_back(product);
+    }
+    std::vector<int> left;
+    for (const int product : unnamed) {
         if (!feedFirst(product, [&](const LikelyColumn &column) { return suits(column, products.at(product)); }))
             left.push_back(product);
     }

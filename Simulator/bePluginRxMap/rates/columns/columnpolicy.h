@@ -18,9 +18,10 @@
 ///
 /// Columns that the operator names feed the products that they are named for. Otherwise the columns whose names say
 /// that they hold rates are taken, else those that could by their content, else whole numbers that could; of a target
-/// and what was applied, or of equal columns, one. Each product takes the first one whose name suits it, then those
-/// that found none take what is left, in table order; a column whose unit does not fit a product never feeds it
-/// unasked. No column feeds a product that no prescription may drive.
+/// and what was applied, or of equal columns, one. Each product takes the first one that is named after it, those that
+/// found none the first one whose name suits them, then those that found none take what is left, in table order; a
+/// column whose unit does not fit a product never feeds it unasked. No column feeds a product that no prescription may
+/// drive.
 class ColumnPolicy {
 public:
     /// One column that feeds one product; one column may feed several.
@@ -55,6 +56,9 @@ public:
     /// file.
     ColumnPolicy(const QList<MachineProduct> &products, const QStringList &named, const QStringList &units = {});
 
+    /// A named column that is a guess is told to be one, too.
+    void tellGuesses() { tellsGuesses = true; }
+
     /// What the column's name and type say of whether it holds rates.
     static RateChance chanceOf(const SourceColumn &column);
 
@@ -82,11 +86,13 @@ private:
     void describe(const SourceColumn &column, ColumnUnit unit, Feed &feed, Decision &decision) const;
     std::vector<Feed> feedNamed(const RawPrescription &source) const;
     /// Hands the columns out to products (numbers from 0).
-    std::vector<Feed> feedLikely(std::vector<LikelyColumn> columns, const std::vector<int> &candidates) const;
+    std::vector<Feed> feedLikely(const RawPrescription &source, std::vector<LikelyColumn> columns,
+                                 const std::vector<int> &candidates) const;
 
     QList<MachineProduct> products;
     QStringList names;
     std::vector<RateUnit> operatorUnits; ///< One per product.
+    bool tellsGuesses = false;
     QString reason;
     QStringList remarks;
 };

@@ -20,12 +20,17 @@ bool isPer(const QString &word)
     return words.contains(word);
 }
 
+bool isNutrient(const QString &word)
+{
+    static const QSet<QString> words = wordSet("n p k s b ca mg zn mn p2o5 k2o so3 mgo cao");
+    return words.contains(word);
+}
+
 /// What may stand between amount and area: "kg N/ha".
 bool isSubstance(const QString &word)
 {
-    static const QSet<QString> words =
-        wordSet("n p k s b ca mg zn mn p2o5 k2o so3 mgo cao ai ae prod product produkt seeds seed plants");
-    return words.contains(word);
+    static const QSet<QString> words = wordSet("ai ae prod product produkt seeds seed plants");
+    return words.contains(word) || isNutrient(word);
 }
 
 /// Takes the unit that begins at `place`, of as many words as possible; null, and nothing taken, when none does.
@@ -100,6 +105,16 @@ RateUnit takeUnit(const Words &words, int &place, bool isCut)
     return {amount, area};
 }
 
+/// The places of the words outside of a unit, and of the substance within it: "kg N/ha".
+void tellOthers(const Words &words, int first, int end, QVector<int> *others)
+{
+    for (int place = 0; others != nullptr && place < words.size(); ++place) {
+        const bool isWithin = place > first && place < end - 1;
+        if (place < first || place >= end || (isWithin && isNutrient(words.at(place))))
+            others->append(place);
+    }
+}
+
 } // namespace
 
 RateUnit::RateUnit(const AmountUnit *amountUnit, const AreaUnit *areaUnit)
@@ -118,20 +133,27 @@ QStringList RateUnit::wordsOf(const QString &text)
 {
     QString plain = text;
     for (const auto &[letter, spelled] : {std::pair(u'ä', "ae"), std::pair(u'ö', "oe"), std::pair(u'ü', "ue"),
-                                          std::pair(u'Ä', "Ae"), std::pair(u'Ö', "Oe"), std::pair(u'Ü', "Ue")})
+                                          std::pair(u'Ä', "AE"), std::pair(u'Ö', "OE"), std::pair(u'Ü', "UE")})
         plain.replace(QChar(letter), QLatin1String(spelled));
-    plain = plain.normalized(QString::NormalizationForm_KD);
+    QStringList words = writtenWordsOf(plain.normalized(QString::NormalizationForm_KD));
+    for (QString &word : words)
+        word = word.toLower();
+    return words;
+}
+
+QStringList RateUnit::writtenWordsOf(const QString &text)
+{
     QStringList words;
     QString word;
     QChar before;
-    for (int i = 0; i <= plain.size(); ++i) {
-        const QChar letter = i < plain.size() ? plain.at(i) : QChar(QLatin1Char(' '));
+    for (int i = 0; i <= text.size(); ++i) {
+        const QChar letter = i < text.size() ? text.at(i) : QChar(QLatin1Char(' '));
         if (letter.isMark())
             continue;
         // A lone letter belongs to what follows: "mL".
         const bool isHump = letter.isUpper() && before.isLower() && word.size() > 1;
         if ((!letter.isLetterOrNumber() || isHump) && !word.isEmpty()) {
-            words.append(word.toLower());
+            words.append(word);
             word.clear();
         }
         if (letter.isLetterOrNumber())
@@ -149,7 +171,7 @@ RateUnit RateUnit::fromText(const QString &text)
     return place == words.size() ? unit : RateUnit();
 }
 
-RateUnit RateUnit::find(const QStringList &words, bool isCut)
+RateUnit RateUnit::find(const QStringList &words, bool isCut, QVector<int> *others)
 {
     for (int place = 0; place < words.size(); ++place) {
         // "SEED_HA" may be in any unit per hectare.
@@ -157,20 +179,24 @@ RateUnit RateUnit::find(const QStringList &words, bool isCut)
             continue;
         int next = place;
         const RateUnit unit = takeUnit(words, next, isCut);
-        if (unit.isKnown())
-            return unit;
+        if (!unit.isKnown())
+            continue;
+        tellOthers(words, place, next, others);
+        return unit;
     }
     return {};
 }
 
-RateUnit RateUnit::findAmount(const QStringList &words)
+RateUnit RateUnit::findAmount(const QStringList &words, QVector<int> *others)
 {
     for (int place = words.size() - 1; place >= 0; --place) {
         int next = place;
         const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
         // Counts are named by what is counted, too, which is no unit then.
-        if (amount != nullptr && amount->basis != ProductLineItem::Count)
-            return {amount, UnitTable::area(amount->isCustomary ? "ac" : "ha")};
+        if (amount == nullptr || amount->basis == ProductLineItem::Count)
+            continue;
+        tellOthers(words, place, next, others);
+        return {amount, UnitTable::area(amount->isCustomary ? "ac" : "ha")};
     }
     return {};
 }

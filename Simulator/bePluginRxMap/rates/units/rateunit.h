@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// A unit in which a file writes rates: an amount per area.
 class RateUnit {
@@ -19,13 +20,16 @@ public:
 
     /// The unit that a text is: "l/ha", "lbs per acre", "kg N/ha", "GPA". Not known when it is none.
     static RateUnit fromText(const QString &text);
-    /// The unit within a name's words (small letters). `isCut`: the last word may lack its end.
-    static RateUnit find(const QStringList &words, bool isCut);
+    /// The unit within a name's words (small letters). `isCut`: the last word may lack its end. `others`: gets the
+    /// places of the words that are no part of it, unless it is null.
+    static RateUnit find(const QStringList &words, bool isCut, QVector<int> *others = nullptr);
     /// An amount alone among a name's words, per acre or hectare as it is commonly used.
-    static RateUnit findAmount(const QStringList &words);
+    static RateUnit findAmount(const QStringList &words, QVector<int> *others = nullptr);
     /// Small words of a text, as the units' spellings have them: split at everything but letters and digits, and where
     /// small letters meet capitals; without accents.
     static QStringList wordsOf(const QString &text);
+    /// The same words as they are written.
+    static QStringList writtenWordsOf(const QString &text);
 
     bool isKnown() const { return amount != nullptr; }
     /// "lb/ac"; empty when it is not known.

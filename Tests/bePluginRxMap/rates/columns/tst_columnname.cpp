@@ -11,6 +11,8 @@ private Q_SLOTS:
     void tellsRatesFromTheRest();
     void tellsWhatIsMeasuredOut_data();
     void tellsWhatIsMeasuredOut();
+    void namesTheProduct_data();
+    void namesTheProduct();
 };
 
 void ColumnNameTest::tellsRatesFromTheRest_data()
@@ -34,7 +36,7 @@ void ColumnNameTest::tellsRatesFromTheRest_data()
     for (const char *name :
          {"RATE_ID", "TOTAL_KG_HA", "target_area", "SUM_RATE", "Ertrag_dt_ha", "Rate_Unit", "Target_Yield"})
         QTest::newRow(name) << true << true;
-    for (const char *name : {"Urea46", "value", "product", "Mais", "N", "strategy", "kg"})
+    for (const char *name : {"Urea46", "value", "product", "Mais", "N", "strategy", "kg", "Nitrate"})
         QTest::newRow(name) << false << false;
     QTest::newRow("umlaut") << false << false;
 }
@@ -66,6 +68,44 @@ void ColumnNameTest::tellsWhatIsMeasuredOut_data()
 void ColumnNameTest::tellsWhatIsMeasuredOut()
 {
     QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).basis(), "basis");
+}
+
+void ColumnNameTest::namesTheProduct_data()
+{
+    QTest::addColumn<QString>("product");
+    const std::initializer_list<std::pair<const char *, const char *>> rows = {
+        {"UREA_KG_HA", "Urea"},
+        {"Urea_lb_ac", "Urea"},
+        {"urea", "Urea"},
+        {"SEED_KS_HA", "Seed"},
+        {"SEED_kg_ha", "Seed"},
+        {"HERB_l_ha", "Herb"},
+        {"Rate_UAN_gal_ac", "UAN"},
+        {"kg_N_ha", "N"},
+        {"N_kgha", "N"},
+        {"P2O5_lb_ac", "P2O5"},
+        {"Lime_t_ha", "Lime"},
+        {"Urea_ha", "Urea"},
+        {"Tgt_Rate_MAP", "MAP"},
+        {"AMMONIUM_NITRATE_KG_HA", "Ammonium Nitrate"},
+        {"Round-up 360", "Round Up 360"},
+        // Nothing but unit and words for a rate.
+        {"Rate_lb_ac", "Rate_lb_ac"},
+        {"GPA", "GPA"},
+        {"RATE", "RATE"},
+        {"Rate_2", "Rate_2"},
+        {"Koerner_m2", "Koerner_m2"}};
+    for (const auto &[name, product] : rows)
+        QTest::newRow(name) << QString::fromLatin1(product);
+    QTest::newRow("umlaut") << QString::fromUtf8("Dünger");
+}
+
+void ColumnNameTest::namesTheProduct()
+{
+    QFETCH(QString, product);
+    const QByteArray tag = QTest::currentDataTag();
+    const ColumnName name(tag == "umlaut" ? QString::fromUtf8("DÜNGER_KG_HA") : QString::fromLatin1(tag));
+    QCOMPARE(name.product(), product);
 }
 
 RXMAP_TEST(ColumnNameTest, Core)

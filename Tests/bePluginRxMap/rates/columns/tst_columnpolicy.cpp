@@ -158,6 +158,7 @@ void ColumnPolicyTest::handsColumnsOut_data()
     row("seed by weight feeds no count", "SEED_kg_ha HERB_l_ha", "", "2:SEED_kg_ha 3:HERB_l_ha");
     row("nor does it take a place from another one", "SEED_kg_ha FERT_lb_ac", "", "2:FERT_lb_ac");
     row("a unit that does not fit, asked for", "SEED_kg_ha", "SEED_kg_ha", "1:SEED_kg_ha");
+    row("by its name before its kind", "UREA_kg_ha Fertiliser_kg_ha", "", "2:Fertiliser_kg_ha");
     row("ounces of a liquid", "Herb_oz_ac", "", "3:Herb_oz_ac");
     row("nutrients are fertiliser", "N", "", "2:N");
     row("nutrients by their oxide", "P2O5 rate_k_ha", "", "1:rate_k_ha");

@@ -1,0 +1,72 @@
+#include "suggestedproducts.h"
+
+#include "productfile.h"
+
+#include <algorithm>
+
+namespace {
+
+Product::Kind kindOf(const ColumnProduct &column)
+{
+    switch (column.kind) {
+    case DbGroupProductGroupInfo::CountRate:
+        return Product::Kind::Count;
+    case DbGroupProductGroupInfo::VolumeRate:
+        return Product::Kind::Volume;
+    default:
+        return Product::Kind::Weight;
+    }
+}
+
+/// The standard product of the column's kind under the column's name.
+Product productOf(const ColumnProduct &column)
+{
+    const Products standard = ProductFile::standard();
+    Product product = *std::find_if(standard.begin(), standard.end(),
+                                    [&column](const Product &any) { return any.kind == kindOf(column); });
+    product.name = column.name;
+    product.shortName = ProductFile::shortNameOf(column.name);
+    return product;
+}
+
+/// The standard products that no column stands for, those of other kinds than the columns' first.
+Products spareProducts(const QList<ColumnProduct> &columns)
+{
+    Products spare = ProductFile::standard();
+    const auto isCalled = [&columns](const Product &product) {
+        return std::any_of(columns.begin(), columns.end(), [&product](const ColumnProduct &column) {
+            return column.name.compare(product.name, Qt::CaseInsensitive) == 0;
+        });
+    };
+    spare.erase(std::remove_if(spare.begin(), spare.end(), isCalled), spare.end());
+    std::stable_partition(spare.begin(), spare.end(), [&columns](const Product &product) {
+        return std::none_of(columns.begin(), columns.end(),
+                            [&product](const ColumnProduct &column) { return kindOf(column) == product.kind; });
+    });
+    return spare;
+}
+
+} // namespace
+
+Products SuggestedProducts::of(const QList<ColumnProduct> &columns)
+{
+    int count = ProductFile::standard().size();
+    for (const ColumnProduct &column : columns)
+        count = std::max(count, column.number);
+    Products spare = spareProducts(columns);
+    Products products;
+    for (int number = 1; number <= std::min(count, ProductFile::maxProducts); ++number) {
+        const auto column = std::find_if(columns.begin(), columns.end(),
+                                         [number](const ColumnProduct &any) { return any.number == number; });
+        if (column != columns.end()) {
+            products.append(productOf(*column));
+        } else if (!spare.isEmpty()) {
+            products.append(spare.takeFirst());
+        } else {
+            const QString name = QStringLiteral("Product %1").arg(number);
+            products.append(productOf({name, DbGroupProductGroupInfo::WeightRate, number}));
+        }
+        products.last().bin = number;
+    }
+    return products;
+}

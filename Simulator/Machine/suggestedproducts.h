@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Backend/columnproduct.h"
+#include "product.h"
+
+/// The products of a machine that takes them from its first prescription.
+class SuggestedProducts {
+public:
+    /// One for each column, at its number, and as many of the standard ones as it takes to have three and no gap: those
+    /// first whose kind no column has. A column beyond the greatest number of products has none.
+    static Products of(const QList<ColumnProduct> &columns);
+};

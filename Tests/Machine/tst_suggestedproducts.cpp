@@ -1,0 +1,67 @@
+#include "productfile.h"
+#include "suggestedproducts.h"
+#include "testbase.h"
+
+Q_DECLARE_METATYPE(ColumnProduct)
+
+/// The machine that a file's columns make.
+class TestSuggestedProducts : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsBecomeProducts_data();
+    void columnsBecomeProducts();
+    void allButTheNameIsThatOfTheStandardProductOfTheKind();
+};
+
+void TestSuggestedProducts::columnsBecomeProducts_data()
+{
+    using Info = DbGroupProductGroupInfo;
+    QTest::addColumn<QList<ColumnProduct>>("columns");
+    QTest::addColumn<QStringList>("products");
+    const auto row = [](const char *tag, const QList<ColumnProduct> &columns, const QStringList &products) {
+        QTest::newRow(tag) << columns << products;
+    };
+    row("none", {}, {"Seed", "Fertiliser", "Herbicide"});
+    row("one", {{"Urea", Info::WeightRate, 1}}, {"Urea", "Seed", "Herbicide"});
+    row("two of a kind", {{"Urea", Info::WeightRate, 1}, {"Lime", Info::WeightRate, 2}}, {"Urea", "Lime", "Seed"});
+    row("all kinds but one name", {{"seed", Info::WeightRate, 1}, {"UAN", Info::VolumeRate, 2}},
+        {"seed", "UAN", "Fertiliser"});
+    row("a gap", {{"UAN", Info::VolumeRate, 2}}, {"Seed", "UAN", "Fertiliser"});
+    row("more gaps than there are others", {{"UAN", Info::VolumeRate, 6}},
+        {"Seed", "Fertiliser", "Herbicide", "Product 4", "Product 5", "UAN"});
+    QList<ColumnProduct> many;
+    QStringList names;
+    for (int number = 1; number <= 20; ++number) {
+        many.append({QStringLiteral("P%1").arg(number), Info::WeightRate, number});
+        if (number <= ProductFile::maxProducts)
+            names.append(many.last().name);
+    }
+    row("more than a terminal holds", many, names);
+}
+
+void TestSuggestedProducts::columnsBecomeProducts()
+{
+    QFETCH(QList<ColumnProduct>, columns);
+    QStringList names;
+    const Products products = SuggestedProducts::of(columns);
+    for (const Product &product : products) {
+        names.append(product.name);
+        QCOMPARE(product.bin, names.size());
+        QVERIFY(product.underVra);
+    }
+    QTEST(names, "products");
+}
+
+void TestSuggestedProducts::allButTheNameIsThatOfTheStandardProductOfTheKind()
+{
+    const Product made = SuggestedProducts::of({{"Ammonium nitrate", DbGroupProductGroupInfo::WeightRate, 1}}).first();
+    const Product standard = ProductFile::standard().at(1);
+    QCOMPARE(made.shortName, QStringLiteral("Ammon"));
+    QCOMPARE(int(made.kind), int(standard.kind));
+    QCOMPARE(made.defaultRate, standard.defaultRate);
+    QCOMPARE(made.actuator.maxRate, standard.actuator.maxRate);
+}
+
+RXMAP_TEST(TestSuggestedProducts, None)
+#include "tst_suggestedproducts.moc"

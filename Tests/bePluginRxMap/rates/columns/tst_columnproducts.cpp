@@ -1,0 +1,111 @@
+#include "columnproducts.h"
+#include "testbase.h"
+
+/// Of which products the columns of a file speak.
+class ColumnProductsTest : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsMakeProducts_data();
+    void columnsMakeProducts();
+    void whatAFormatCallsAColumnIsTheProductsName();
+    void namedColumnsAndUnitsAreExpectedBeforeTheFileIsRead();
+    void aProductIsKnownByItsColumn();
+};
+
+namespace {
+
+using Names = QStringList;
+
+RawPrescription mapOf(const Names &names)
+{
+    RawPrescription map;
+    map.records = 4;
+    for (const QString &name : names) {
+        SourceColumn column;
+        column.name = name;
+        column.field = map.columnNames.size();
+        column.values = {1.5, 1.5, 2.5, 3.5 + column.field};
+        map.columnNames.append(name);
+        map.numberFields.push_back(column.field);
+        map.columns.push_back(column);
+    }
+    return map;
+}
+
+/// "number:name, kind"
+Names textsOf(const QList<ColumnProduct> &products)
+{
+    Names texts;
+    for (const ColumnProduct &product : products) {
+        const char *kind = product.kind == DbGroupProductGroupInfo::CountRate ? "count"
+            : product.kind == DbGroupProductGroupInfo::VolumeRate             ? "volume"
+            : product.kind == DbGroupProductGroupInfo::WeightRate             ? "weight"
+                                                                              : "other";
+        texts.append(
+            QStringLiteral("%1:%2, %3").arg(QString::number(product.number), product.name, QLatin1String(kind)));
+    }
+    return texts;
+}
+
+} // namespace
+
+void ColumnProductsTest::columnsMakeProducts_data()
+{
+    QTest::addColumn<Names>("columns");
+    QTest::addColumn<Names>("named");
+    QTest::addColumn<Names>("units");
+    QTest::addColumn<Names>("products");
+    const auto row = [](const char *tag, const Names &columns, const Names &named, const Names &units,
+                        const Names &products) { QTest::newRow(tag) << columns << named << units << products; };
+    row("by their units", {"UREA_KG_HA", "GPA", "Mais_seeds_m2", "AREA_HA"}, {}, {},
+        {"1:Urea, weight", "2:GPA, volume", "3:Mais, count"});
+    row("more than a machine usually has", {"A_kg_ha", "B_kg_ha", "Lime_l_ha", "D_lb_ac"}, {}, {},
+        {"1:A, weight", "2:B, weight", "3:Lime, volume", "4:D, weight"});
+    row("seed by weight", {"SEED_kg_ha"}, {}, {}, {"1:Seed, weight"});
+    row("no unit, but a name", {"Rate_Herb", "Rate_Seed"}, {}, {}, {"1:Herb, volume", "2:Seed, count"});
+    row("neither unit nor name", {"Rate"}, {}, {}, {"1:Rate, weight"});
+    row("by the operator's unit", {"Rate", "Dose"}, {}, {"seeds/m2", "gal/ac"}, {"1:Rate, count", "2:Dose, volume"});
+    row("one name twice", {"N_kg_ha", "N_lb_ac"}, {}, {}, {"1:N, weight", "2:N_lb_ac, weight"});
+    row("as named", {"A_kg_ha", "B_kg_ha", "Lime_l_ha"}, {"", "#3", "a_kg_ha"}, {}, {"2:Lime, volume", "3:A, weight"});
+    row("one column named twice", {"A_kg_ha"}, {"A_kg_ha", "A_kg_ha", "A_kg_ha"}, {},
+        {"1:A, weight", "2:A_kg_ha, weight", "3:A_kg_ha 2, weight"});
+    row("guesses", {"a", "b", "c", "d"}, {}, {}, {"1:A, weight", "2:B, weight", "3:C, weight"});
+    row("no rates", {"AREA_HA"}, {}, {}, {});
+}
+
+void ColumnProductsTest::columnsMakeProducts()
+{
+    QFETCH(Names, columns);
+    QFETCH(Names, named);
+    QFETCH(Names, units);
+    QTEST(textsOf(ColumnProducts(named, units).of(mapOf(columns), {})), "products");
+}
+
+void ColumnProductsTest::whatAFormatCallsAColumnIsTheProductsName()
+{
+    RawPrescription map = mapOf({QStringLiteral("UAN 28 l/ha mix"), QStringLiteral("Setpoint Mass Rate")});
+    for (SourceColumn &column : map.columns) {
+        column.meaning = SourceColumn::Meaning::Rates;
+        column.formatUnit = QStringLiteral("mg/m2");
+    }
+    QCOMPARE(textsOf(ColumnProducts({}, {}).of(map, {})),
+             Names({"1:UAN 28 l/ha mix, weight", "2:Setpoint Mass Rate, weight"}));
+}
+
+void ColumnProductsTest::namedColumnsAndUnitsAreExpectedBeforeTheFileIsRead()
+{
+    QCOMPARE(ColumnProducts({"", "A"}, {"", "", "", "l/ha"}).expected().size(), 4);
+    QCOMPARE(ColumnProducts({}, {}).expected().size(), 0);
+}
+
+void ColumnProductsTest::aProductIsKnownByItsColumn()
+{
+    const RawPrescription map = mapOf({QStringLiteral("UREA_KG_HA")});
+    QVERIFY(ColumnProducts::isNamed(map.columns.front(), QStringLiteral("Urea")));
+    QVERIFY(ColumnProducts::isNamed(map.columns.front(), QStringLiteral("urea_kg_ha")));
+    QVERIFY(!ColumnProducts::isNamed(map.columns.front(), QStringLiteral("UAN")));
+}
+
+RXMAP_TEST(ColumnProductsTest, None)
+#include "tst_columnproducts.moc"
