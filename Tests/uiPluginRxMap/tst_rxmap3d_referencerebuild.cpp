@@ -9,6 +9,9 @@
 
 #include "bePluginRxMap/dbgrouprxmap.h"
 
+#include <QCryptographicHash>
+#include <QFile>
+
 #include <cstring>
 
 using OrvikTypes::RX_POLYGON;
@@ -120,6 +123,27 @@ private:
     RxMap3D map;
 };
 
+/// Adds what the rings were and what was built of them, as digests, to the file that the environment's
+/// RXMAP_BANK_DIGESTS names, if any: two machines can be compared by it.
+void noteDigests(const RxMap3D &map, const RX_POLYGON *record)
+{
+    QFile notes(qEnvironmentVariable("RXMAP_BANK_DIGESTS"));
+    if (notes.fileName().isEmpty())
+        return;
+    QVERIFY2(notes.open(QIODevice::Append), qPrintable(notes.errorString()));
+    QCryptographicHash rings(QCryptographicHash::Sha1);
+    QCryptographicHash built(QCryptographicHash::Sha1);
+    for (; record != nullptr; record = record->next) {
+        rings.addData(reinterpret_cast<const char *>(record->vertices),
+                      int(record->vertexCount * sizeof(*record->vertices)));
+        built.addData(QByteArray::number(record->drawIndex) + ' ');
+    }
+    for (const Vertex &vertex : RxMap3DProbe::banks(map).at(0).vertices)
+        built.addData(reinterpret_cast<const char *>(&vertex), sizeof vertex);
+    notes.write(QByteArray(QTest::currentDataTag()) + ": rings " + rings.result().toHex() + ", built "
+                + built.result().toHex() + '\n');
+}
+
 } // namespace
 
 void TestRxMap3DReferenceRebuild::randomMaps_data()
@@ -194,6 +218,7 @@ void TestRxMap3DReferenceRebuild::wholePrescriptions()
                                                        prescription.group()->getRateColors().at(0));
     map.updateRxMapGroup();
     QCOMPARE(difference(map, expected, prescription.chain()), QString());
+    noteDigests(map, prescription.chain());
 }
 
 RXMAP_TEST(TestRxMap3DReferenceRebuild, Widgets)
