@@ -15,9 +15,9 @@
 #include "querylistener.h"
 #include "recorder.h"
 #include "reportunits.h"
+#include "screenwindow.h"
 #include "simulation.h"
 #include "statusbar.h"
-#include "terminalwindow.h"
 #include "vehicle.h"
 #include "wholefile.h"
 
@@ -168,14 +168,16 @@ void Terminal::installGraphicsLists()
     }
 }
 
-bool Terminal::show()
+bool Terminal::show(const QSize &size)
 {
     if (!driveDisplay)
         driveDisplay.reset(new DriveDisplay(display.data(), simulated.data()));
-    display->move(0, 0);
-    display->show();
+    if (!screenWindow)
+        screenWindow.reset(new ScreenWindow(display.data()));
+    screenWindow->resize(size);
+    screenWindow->show();
     QApplication::processEvents();
-    display->fieldView()->repaint();
+    screenWindow->repaint();
     return display->fieldView()->isValid();
 }
 

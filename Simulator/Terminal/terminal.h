@@ -7,6 +7,7 @@
 #include "repaintthrottle.h"
 #include "result.h"
 #include "simulationclock.h"
+#include "terminalwindow.h"
 #include "touchanswer.h"
 #include "unitsystem.h"
 
@@ -30,8 +31,8 @@ class FindingsDisplay;
 class Machine;
 class OpenWindow;
 class Recorder;
+class ScreenWindow;
 class Simulation;
-class TerminalWindow;
 class UiGraphicsList;
 class UiPluginInterface;
 class Vehicle;
@@ -51,8 +52,8 @@ public:
     /// skipped. Call before show().
     QStringList loadPlugins(const QDir &folder, const QDir &images);
     bool hasPlugins() const { return !plugins.isEmpty(); }
-    /// Shows the display and waits until it is drawn; false when it has no OpenGL.
-    bool show();
+    /// Shows the display in a window of `size` and waits until it is drawn; false when it has no OpenGL.
+    bool show(const QSize &size = TerminalWindow::displaySize);
 
     DataBroker *broker() { return &dataBroker; }
     PrescriptionBackend *backend() const { return prescriptions.data(); }
@@ -61,6 +62,8 @@ public:
     Vehicle *vehicle() const;
     Recorder *recorder() const { return driveRecorder.data(); }
     TerminalWindow *window() const { return display.data(); }
+    /// What shows the display on the screen. Null until the display is shown.
+    ScreenWindow *screen() const { return screenWindow.data(); }
     /// Null until the display is shown.
     DriveDisplay *driving() const { return driveDisplay.data(); }
     OpenWindow *openWindow() const;
@@ -125,6 +128,7 @@ private:
     QScopedPointer<Simulation> simulated;
     QScopedPointer<Recorder> driveRecorder;
     QScopedPointer<TerminalWindow> display;
+    QScopedPointer<ScreenWindow> screenWindow;
     QScopedPointer<DriveDisplay> driveDisplay;
     FileOpening *opening;
     QScopedPointer<FindingsDisplay> findings;

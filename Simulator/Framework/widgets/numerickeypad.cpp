@@ -106,11 +106,18 @@ void NumericKeypad::open()
 {
     const QWidget *field = parentWidget();
     const QRect fieldPlace(field->mapToGlobal(QPoint(0, 0)), field->size());
-    const QScreen *screen = QGuiApplication::screenAt(fieldPlace.center());
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    move(placeBeside(fieldPlace, size(), screen->availableGeometry()));
+    move(placeBeside(fieldPlace, size(), displayAround(fieldPlace.center())));
     show();
+}
+
+QRect NumericKeypad::displayAround(const QPoint &place) const
+{
+    // A host whose display is only a part of the screen says so of each window.
+    const QRect part = parentWidget()->window()->property("displayArea").toRect();
+    if (!part.isEmpty())
+        return part;
+    const QScreen *screen = QGuiApplication::screenAt(place);
+    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
 }
 
 QPoint NumericKeypad::placeBeside(const QRect &field, const QSize &keypad, const QRect &display)

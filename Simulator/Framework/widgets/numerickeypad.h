@@ -45,6 +45,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// The display that has `place`, in pixels of the screen.
+    QRect displayAround(const QPoint &place) const;
     OrvikButton *addKey(const QDir &imageDir, const QString &image, const QString &name, const NumericKey &key,
                         const QRect &place);
 

@@ -1,5 +1,6 @@
 #include "windowstack.h"
 
+#include "screenwindow.h"
 #include "terminalwindow.h"
 
 #include <QApplication>
@@ -21,8 +22,10 @@ QWidgetList WindowStack::fromTop()
     QWidgetList over;
     QWidgetList base;
     const QWidgetList all = QApplication::topLevelWidgets();
-    for (QWidget *window : all)
-        (qobject_cast<TerminalWindow *>(window) == nullptr ? over : base).append(window);
+    for (QWidget *window : all) {
+        if (qobject_cast<ScreenWindow *>(window) == nullptr)
+            (qobject_cast<TerminalWindow *>(window) == nullptr ? over : base).append(window);
+    }
     putOnTop(QApplication::activeModalWidget(), over);
     putOnTop(QApplication::activePopupWidget(), over);
     return over + base;

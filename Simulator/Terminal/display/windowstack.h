@@ -2,10 +2,10 @@
 
 #include <QWidgetList>
 
-/// How the program's windows lie over each other.
+/// How the terminal's windows lie over each other.
 class WindowStack {
 public:
     /// All windows, hidden ones too, from the top down: the popup in use, the modal dialog, any others, the terminal's
-    /// display.
+    /// display. Without the window that shows them on the screen.
     static QWidgetList fromTop();
 };

@@ -101,10 +101,10 @@ int main(int argc, char *argv[])
         return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
 
     int kept = 1; // The options are the program's own, Qt is to take none of them.
-    OwnLooks::fixResolution();
+    const double scale = OwnLooks::fixResolution();
     QApplication application(kept, argv);
     probe.reset();
     OwnLooks::apply();
     const QString lack = isShown ? OpenGlCheck::problem() : QString();
-    return end(lack.isEmpty() ? runTerminal(line.value) : lack);
+    return end(lack.isEmpty() ? runTerminal(line.value, scale) : lack);
 }

@@ -12,6 +12,8 @@
 #include "productfile.h"
 #include "ratesourcetext.h"
 #include "recorder.h"
+#include "screenmemory.h"
+#include "screenwindow.h"
 #include "scriptrunner.h"
 #include "simulation.h"
 #include "terminal.h"
@@ -19,6 +21,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -165,6 +168,20 @@ void showOpenWindow(Terminal &terminal, const QStringList &files)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+bool isInteractive(const CommandLine &line)
+{
+    return !line.describe && !line.at && line.script.isEmpty() && line.screenshot.isEmpty();
+}
+
+QSize firstSize(const CommandLine &line, double scale)
+{
+    if (scale > 0.0)
+        return (scale * QSizeF(TerminalWindow::displaySize)).toSize();
+    // What a task shows is as large everywhere.
+    return isInteractive(line) ? ScreenMemory().sizeOn(QGuiApplication::primaryScreen()->availableSize())
+                               : TerminalWindow::displaySize;
+}
+
 QString runTasks(Terminal &terminal, const CommandLine &line)
 {
     QString error = describePoints(terminal, line);
@@ -172,16 +189,17 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
         error = runScript(terminal, line.script);
     if (error.isEmpty() && !line.screenshot.isEmpty())
         error = terminal.saveScreenshot(line.screenshot);
-    const bool isInteractive = !line.describe && !line.at && line.script.isEmpty() && line.screenshot.isEmpty();
     // The operator may have closed the display while the prescriptions were loading.
-    if (error.isEmpty() && isInteractive && terminal.window()->isVisible())
+    if (error.isEmpty() && isInteractive(line) && terminal.window()->isVisible()) {
         QApplication::exec();
+        ScreenMemory().keep(terminal.screen()->plainSize());
+    }
     return error;
 }
 
 } // namespace
 
-QString runTerminal(const CommandLine &line)
+QString runTerminal(const CommandLine &line, double scale)
 {
     MachineSetup setup = ProductFile::standardMachine();
     if (!line.productFile.isEmpty()) {
@@ -204,7 +222,7 @@ QString runTerminal(const CommandLine &line)
         terminal.simulation()->setTimeFactor(0.0);
     if (isShown)
         error = loadPlugins(terminal, pluginFolder);
-    if (error.isEmpty() && isShown && !terminal.show())
+    if (error.isEmpty() && isShown && !terminal.show(firstSize(line, scale)))
         error = QStringLiteral("the display has no OpenGL");
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty() && line.open)

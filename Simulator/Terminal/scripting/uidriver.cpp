@@ -1,5 +1,6 @@
 #include "uidriver.h"
 
+#include "screenwindow.h"
 #include "terminalwindow.h"
 #include "windowstack.h"
 
@@ -56,6 +57,14 @@ QGraphicsView *viewOf(const QGraphicsObject *item)
 {
     const QList<QGraphicsView *> views = item->scene() != nullptr ? item->scene()->views() : QList<QGraphicsView *>();
     return views.isEmpty() ? nullptr : views.first();
+}
+
+/// A place in one of the terminal's windows, where it is on the screen.
+UiDriver::Spot seenSpot(const QWidget *window, const QPointF &place)
+{
+    const ScreenWindow *screen = ScreenWindow::find();
+    return screen == nullptr ? UiDriver::Spot{window->windowHandle(), place}
+                             : UiDriver::Spot{screen->windowHandle(), screen->placeOf(place + window->pos())};
 }
 
 /// The item's outline in its view's viewport.
@@ -143,11 +152,11 @@ UiDriver::Spot UiDriver::middle(const QObject *control)
     if (!isVisible(control))
         return {};
     if (auto *widget = qobject_cast<const QWidget *>(control))
-        return {widget->window()->windowHandle(), QPointF(widget->mapTo(widget->window(), widget->rect().center()))};
+        return seenSpot(widget->window(), widget->mapTo(widget->window(), widget->rect().center()));
     auto *item = qobject_cast<const QGraphicsObject *>(control);
     QGraphicsView *view = viewOf(item);
     const QPoint centre = viewportRect(item, view).center();
-    return {view->window()->windowHandle(), QPointF(view->viewport()->mapTo(view->window(), centre))};
+    return seenSpot(view->window(), view->viewport()->mapTo(view->window(), centre));
 }
 
 void UiDriver::press(const Spot &spot)
@@ -187,7 +196,7 @@ void UiDriver::type(const QObject *control, const QString &text)
     const QWidget *popup = QApplication::activePopupWidget();
     if (widget == nullptr)
         return;
-    QWindow *window = (popup != nullptr ? popup : widget->window())->windowHandle();
+    QWindow *window = seenSpot(popup != nullptr ? popup : widget->window(), QPointF()).window;
     const auto key = [window](int code, const QString &character) {
         for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease})
             QCoreApplication::postEvent(window, new QKeyEvent(kind, code, Qt::NoModifier, character));

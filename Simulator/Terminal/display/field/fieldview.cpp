@@ -1,7 +1,7 @@
 #include "fieldview.h"
 
 #include <QMouseEvent>
-#include <QOpenGLFramebufferObject>
+#include <QPainter>
 #include <QTouchEvent>
 #include <QWheelEvent>
 #include <QtMath>
@@ -29,9 +29,10 @@ QPoint pixelAt(const QPointF &screen)
 } // namespace
 
 FieldView::FieldView(QWidget *parent)
-    : QOpenGLWidget(parent)
+    : QWidget(parent)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setObjectName(QStringLiteral("fieldView"));
 }
 
@@ -128,34 +129,33 @@ QColor FieldView::colorAt(const QPointF &field)
 
 QImage FieldView::picture(const Camera &camera)
 {
-    if (!isValid())
-        return {};
-    makeCurrent();
-    QOpenGLFramebufferObject buffer(size());
-    buffer.bind();
-    QOpenGLContext::currentContext()->functions()->glViewport(0, 0, width(), height());
-    scene.draw(camera, FieldScene::Aids::Hidden);
-    const QImage image = buffer.toImage();
-    buffer.release();
-    doneCurrent();
-    return image;
+    return canvas.draw(scene, camera, FieldScene::Aids::Hidden, size(), FieldCanvas::Edges::Plain);
 }
 
-void FieldView::initializeGL()
+void FieldView::showEvent(QShowEvent *)
 {
+    if (canvas.isValid() || !canvas.create())
+        return;
     scene.initialize();
+    canvas.doneCurrent();
 }
 
-void FieldView::resizeGL(int width, int height)
+void FieldView::resizeEvent(QResizeEvent *)
 {
-    eye.setViewport(QSizeF(width, height));
+    eye.setViewport(size());
     reframe();
     moveCamera();
 }
 
-void FieldView::paintGL()
+void FieldView::paintEvent(QPaintEvent *)
 {
-    scene.draw(eye, FieldScene::Aids::Shown);
+    QPainter painter(this);
+    // The pixels that are seen: those of the screen, on which the display may be drawn larger or smaller.
+    const QTransform toPixels = painter.deviceTransform();
+    const QRect pixels = toPixels.mapRect(QRectF(rect())).toRect();
+    const QImage frame = canvas.draw(scene, eye, FieldScene::Aids::Shown, pixels.size(), FieldCanvas::Edges::Smooth);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawImage(toPixels.inverted().mapRect(QRectF(pixels)), frame);
 }
 
 bool FieldView::event(QEvent *event)
@@ -173,7 +173,7 @@ bool FieldView::event(QEvent *event)
     default:
         break;
     }
-    return QOpenGLWidget::event(event);
+    return QWidget::event(event);
 }
 
 bool FieldView::followTouch(const QTouchEvent &event)

@@ -1,21 +1,28 @@
 #pragma once
 
 #include "camera.h"
+#include "fieldcanvas.h"
 #include "fieldscene.h"
 
 #include <QImage>
-#include <QOpenGLWidget>
+#include <QWidget>
 
 class QTouchEvent;
 class UiGraphicsList;
 
 /// The 3D field view. One finger (or the mouse) touches or drags the ground, two fingers or the wheel zoom.
-class FieldView : public QOpenGLWidget {
+class FieldView : public QWidget {
     Q_OBJECT
 
 public:
     explicit FieldView(QWidget *parent = nullptr);
     ~FieldView() override;
+
+    /// Whether the display has OpenGL; from when the view is first shown.
+    bool isValid() const { return canvas.isValid(); }
+    /// What guests draw with; not before the view is first shown.
+    void makeCurrent() { canvas.makeCurrent(); }
+    void doneCurrent() { canvas.doneCurrent(); }
 
     /// Shows the drawables of `list` (not owned; it must go while the context is current, see makeCurrent()).
     void addGraphicsList(UiGraphicsList *list);
@@ -45,9 +52,9 @@ Q_SIGNALS:
     void movedByHand();
 
 protected:
-    void initializeGL() override;
-    void resizeGL(int width, int height) override;
-    void paintGL() override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -64,6 +71,7 @@ private:
     QImage picture(const Camera &camera);
 
     Camera eye;
+    FieldCanvas canvas;
     FieldScene scene;
     QRectF freeArea;
     QRectF framed;

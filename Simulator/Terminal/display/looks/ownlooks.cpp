@@ -4,7 +4,13 @@
 #include <QPalette>
 #include <QStyleFactory>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
+
+/// More than any screen holds.
+constexpr double mostScale = 8.0;
 
 const QColor page(244, 247, 249);
 const QColor field(255, 255, 255);
@@ -30,12 +36,14 @@ QPalette lightPalette()
 
 } // namespace
 
-void OwnLooks::fixResolution()
+double OwnLooks::fixResolution()
 {
+    const double scale = qgetenv("QT_SCALE_FACTOR").toDouble();
     qputenv("QT_FONT_DPI", "96");
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
-    for (const char *scale : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"})
-        qunsetenv(scale);
+    for (const char *variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"})
+        qunsetenv(variable);
+    return std::isfinite(scale) ? std::min(std::max(scale, 0.0), mostScale) : 0.0;
 }
 
 void OwnLooks::apply()

@@ -1,0 +1,67 @@
+#include "fieldcanvas.h"
+
+#include <QOpenGLFramebufferObject>
+
+namespace {
+
+constexpr int samplesOfSmoothEdges = 4;
+
+}
+
+FieldCanvas::FieldCanvas() = default;
+
+FieldCanvas::~FieldCanvas()
+{
+    makeCurrent();
+    drawn.reset();
+    resolved.reset();
+    doneCurrent();
+}
+
+bool FieldCanvas::create()
+{
+    if (isValid())
+        return true;
+    if (!context.create())
+        return false;
+    surface.setFormat(context.format());
+    surface.create();
+    return context.makeCurrent(&surface);
+}
+
+void FieldCanvas::makeCurrent()
+{
+    if (isValid())
+        context.makeCurrent(&surface);
+}
+
+void FieldCanvas::provideBuffers(const QSize &pixels, Edges edges)
+{
+    if (drawn && drawn->size() == pixels && drawnEdges == edges)
+        return;
+    drawnEdges = edges;
+    QOpenGLFramebufferObjectFormat format;
+    format.setSamples(edges == Edges::Smooth ? samplesOfSmoothEdges : 0);
+    drawn.reset(new QOpenGLFramebufferObject(pixels, format));
+    resolved.reset(drawn->format().samples() > 0 ? new QOpenGLFramebufferObject(pixels) : nullptr);
+}
+
+QImage FieldCanvas::draw(FieldScene &scene, const Camera &camera, FieldScene::Aids aids, const QSize &pixels,
+                         Edges edges)
+{
+    if (!isValid() || pixels.isEmpty())
+        return {};
+    makeCurrent();
+    provideBuffers(pixels, edges);
+    drawn->bind();
+    context.functions()->glViewport(0, 0, pixels.width(), pixels.height());
+    scene.draw(camera, aids);
+    if (resolved)
+        QOpenGLFramebufferObject::blitFramebuffer(resolved.data(), drawn.data());
+    QImage image = (resolved ? resolved : drawn)->toImage();
+    drawn->release();
+    doneCurrent();
+    // The ground covers everything.
+    image.reinterpretAsFormat(QImage::Format_RGB32);
+    return image;
+}

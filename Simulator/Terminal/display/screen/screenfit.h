@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSize>
+#include <QTransform>
+
+/// How the terminal's display lies in a window: whole, in its proportions, in the middle.
+class ScreenFit {
+public:
+    /// `window`: size of the window, in the units of its events. Scale 1 where it is empty.
+    explicit ScreenFit(const QSizeF &window);
+
+    /// Units of the window for each pixel of the terminal.
+    double scale() const { return factor; }
+    /// From the terminal's pixels to the window's.
+    QTransform toWindow() const;
+    QPointF toTerminal(const QPointF &inWindow) const { return (inWindow - corner) / factor; }
+    /// What of the window shows some of `inTerminal`, no less than whole units.
+    QRect shownIn(const QRectF &inTerminal) const { return toWindow().mapRect(inTerminal).toAlignedRect(); }
+
+    /// The size that a window has at first on a screen whose free part has this size: the terminal's own, or the
+    /// largest that is whole there; on screens with very many pixels a multiple of it.
+    static QSize firstSize(const QSize &available);
+
+private:
+    double factor = 1.0;
+    QPointF corner; ///< Of the terminal's display, in the window.
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QSettings>
+#include <QSize>
+
+/// Remembers how large the operator had the program's window last.
+class ScreenMemory {
+public:
+    /// In the operator's settings.
+    ScreenMemory();
+
+    /// Units of the screen. Never larger than `available`, what the desktop leaves of the screen; where nothing is
+    /// remembered, ScreenFit::firstSize().
+    QSize sizeOn(const QSize &available) const;
+    void keep(const QSize &size);
+
+private:
+    QSettings settings;
+};

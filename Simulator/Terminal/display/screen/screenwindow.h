@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPointF>
+#include <QRegion>
+#include <QWidget>
+
+class InputPassage;
+class TerminalWindow;
+class UnseenWindows;
+
+/// The program's window: shows the terminal's display with all dialogs and popups over it, as large as the window
+/// holds it in its proportions, in front of the ground's colour. F11 fills the screen with it, F11 or Escape leaves.
+class ScreenWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `display` is not owned and goes after this object. It and all windows that are shown from now on are seen in
+    /// this window only.
+    explicit ScreenWindow(TerminalWindow *display);
+    ~ScreenWindow() override;
+
+    /// The window that shows the terminal's windows; null when none does.
+    static ScreenWindow *find();
+    /// Where a pixel of the terminal is seen in this window.
+    QPointF placeOf(const QPointF &pixel) const;
+
+    /// The window's size when it fills neither the screen nor what the desktop leaves of it.
+    QSize plainSize() const;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void showPart(const QRegion &part);
+    void activateForemost();
+
+    TerminalWindow *display;
+    UnseenWindows *windows;
+    InputPassage *passage = nullptr;
+    QSize sizeBefore; ///< Before it filled the screen.
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QRegion>
+#include <QWidget>
+
+/// The terminal's windows: its display and the dialogs and popups over it. None of them is shown by the desktop; they
+/// lie in the terminal's own pixels, its display at (0, 0), and somebody paints them where they are to be seen. To
+/// everybody else, plug-ins too, they are windows like any.
+class UnseenWindows : public QObject {
+    Q_OBJECT
+
+public:
+    /// Takes `display` and every window that is first shown from now on; `seen` is the window that shows them.
+    UnseenWindows(QWidget *display, QWidget *seen);
+
+    /// From the lowest up; those that are open.
+    QWidgetList stacked() const;
+    /// The one that has the keyboard.
+    QWidget *foremost() const;
+    /// Where a finger on the terminal's pixel (x, y) lands; null where a modal dialog is in the way.
+    QWidget *windowAt(const QPointF &pixel) const;
+    /// Whether a dialog keeps what the operator does away from `window`.
+    static bool isBlocked(const QWidget *window);
+
+Q_SIGNALS:
+    /// This part of the terminal looks different now, in its pixels.
+    void changed(const QRegion &part);
+    /// Another window is foremost.
+    void foremostChanged();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isOwn(const QWidget *window) const { return window->isWindow() && window != seen; }
+    void prepare(QWidget *window);
+    bool isForScreen(QWidget *widget) const;
+
+    QWidget *display;
+    QWidget *seen;
+};
