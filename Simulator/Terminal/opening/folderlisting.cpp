@@ -34,7 +34,7 @@ QList<FileEntry> FolderListing::of(const QString &folder)
         entries.append({info.filePath(), info.fileName(), isFolder, true, isFolder ? QString() : ageAndSize(info)});
     }
     // The plain locale, which a terminal may have, compares bytes.
-    QCollator order(QLocale(QLocale::English));
+    QCollator order{QLocale(QLocale::English)};
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
     std::stable_sort(entries.begin(), entries.end(), [&order](const FileEntry &a, const FileEntry &b) {

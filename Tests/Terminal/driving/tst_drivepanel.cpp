@@ -122,6 +122,7 @@ void TestDrivePanel::pedalsAndWheelAreThereByHand()
 
 void TestDrivePanel::itShowsWhatAScriptDoes()
 {
+    QVERIFY(isChecked("driveSwaths"));
     // One after the other, since each has all of the panel refreshed.
     bench->simulation.vehicle()->setSignal(false);
     QTRY_VERIFY(isChecked("signalLoss"));
