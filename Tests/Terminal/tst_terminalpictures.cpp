@@ -1,9 +1,14 @@
+#include "fieldview.h"
 #include "machine.h"
+#include "openglcheck.h"
 #include "paths.h"
 #include "picture.h"
 #include "terminalhost.h"
 #include "terminalwindow.h"
 #include "testbase.h"
+
+#include <QOpenGLContext>
+#include <QScopeGuard>
 
 /// The display compared with stored pictures.
 class TestTerminalPictures : public TestBase {
@@ -12,6 +17,7 @@ class TestTerminalPictures : public TestBase {
 private Q_SLOTS:
     void theMapLooksAsStored_data();
     void theMapLooksAsStored();
+    void openGlEsDrawsTheSame();
     void anEmptyTerminalLooksAsStored();
     void aChangedPictureIsNoticed();
 };
@@ -36,6 +42,29 @@ void TestTerminalPictures::theMapLooksAsStored()
     terminal.touch(QPointF(-100, 60));
     QCOMPARE(Picture::compare(terminal.window()->screenshot(), QString::fromLatin1(QTest::currentDataTag())),
              QString());
+}
+
+void TestTerminalPictures::openGlEsDrawsTheSame()
+{
+    const QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    const auto restore = qScopeGuard([&format] {
+        qunsetenv("QT_OPENGL");
+        QSurfaceFormat::setDefaultFormat(format);
+    });
+    qputenv("QT_OPENGL", "es2");
+    OpenGlCheck::chooseKind();
+    QCOMPARE(OpenGlCheck::problem(), QString());
+    TerminalHost host;
+    QCOMPARE(host.problem(), QString());
+    host.terminal().window()->fieldView()->makeCurrent();
+    QVERIFY(QOpenGLContext::currentContext()->isOpenGLES());
+    host.terminal().window()->fieldView()->doneCurrent();
+    QVERIFY(host.terminal()
+                .open({{TerminalHost::sampleField()}, {"SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"}})
+                .first()
+                .isOk());
+    host.terminal().touch(QPointF(-100, 60));
+    QCOMPARE(Picture::compare(host.terminal().window()->screenshot(), QStringLiteral("sample-seed")), QString());
 }
 
 void TestTerminalPictures::anEmptyTerminalLooksAsStored()

@@ -102,6 +102,7 @@ int main(int argc, char *argv[])
 
     int kept = 1; // The options are the program's own, Qt is to take none of them.
     const double scale = OwnLooks::fixResolution();
+    OpenGlCheck::chooseKind();
     QApplication application(kept, argv);
     probe.reset();
     OwnLooks::apply();

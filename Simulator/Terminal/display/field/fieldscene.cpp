@@ -95,7 +95,8 @@ void FieldScene::setGuestState()
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glActiveTexture(GL_TEXTURE0);
     QOpenGLContext *context = QOpenGLContext::currentContext();
-    if (context->format().majorVersion() >= 3 || context->hasExtension("GL_ARB_vertex_array_object"))
+    const char *extension = context->isOpenGLES() ? "GL_OES_vertex_array_object" : "GL_ARB_vertex_array_object";
+    if (context->format().majorVersion() >= 3 || context->hasExtension(extension))
         context->extraFunctions()->glBindVertexArray(0);
     glBindBuffer(GL_ARRAY_BUFFER, 0);
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);

@@ -6,6 +6,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLFunctions>
 #include <QOpenGLShaderProgram>
+#include <QSurfaceFormat>
 
 #include <initializer_list>
 #include <utility>
@@ -49,6 +50,16 @@ bool canLinkShaders(QOpenGLFunctions &gl)
 }
 
 } // namespace
+
+void OpenGlCheck::chooseKind()
+{
+    if (qgetenv("QT_OPENGL") != "es2")
+        return;
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setRenderableType(QSurfaceFormat::OpenGLES);
+    format.setVersion(2, 0);
+    QSurfaceFormat::setDefaultFormat(format);
+}
 
 QString OpenGlCheck::problem()
 {

@@ -8,7 +8,8 @@ constexpr int frameTime = 30; // Milliseconds.
 
 } // namespace
 
-RepaintThrottle::RepaintThrottle(QWidget *widget)
+RepaintThrottle::RepaintThrottle(QWidget *drawn)
+    : widget(drawn)
 {
     frame.setSingleShot(true);
     frame.setInterval(frameTime);
@@ -17,6 +18,6 @@ RepaintThrottle::RepaintThrottle(QWidget *widget)
 
 void RepaintThrottle::request()
 {
-    if (!frame.isActive())
+    if (!frame.isActive() && widget->isVisible())
         frame.start();
 }
