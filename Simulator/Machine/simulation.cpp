@@ -9,6 +9,16 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+/// How often the wall's clock is looked at, milliseconds; seldom, so that a terminal at rest leaves the processor alone.
+constexpr int movingInterval = Simulation::stepMs / 2;
+constexpr int restingInterval = 1000;
+/// By then what the machine has metered has ended, too.
+constexpr int stepsUntilRest = 100;
+
+} // namespace
+
 Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *parent)
     : QObject(parent)
     , machineModel(machine)
@@ -24,9 +34,10 @@ Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *p
     updateCommands();
     if (wall == nullptr)
         return;
-    auto *timer = new QTimer(this);
+    timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, &Simulation::catchUp);
-    timer->start(stepMs / 2);
+    connect(vehicleModel.data(), &Vehicle::moved, this, &Simulation::wake);
+    timer->start(movingInterval);
 }
 
 Simulation::~Simulation() = default;
@@ -43,6 +54,7 @@ bool Simulation::setTimeFactor(double newFactor)
 {
     if (!(newFactor >= 0.0) || newFactor > maxTimeFactor)
         return false;
+    wake();
     // What has passed since the last step passes unseen, so that a simulation that is paused at once begins at zero.
     if (wall != nullptr)
         lastWall = wall->now();
@@ -63,7 +75,20 @@ void Simulation::step()
     if (vehicleModel->isWorking())
         worked += std::hypot(moved.x(), moved.y()) * vehicleModel->size().width;
     updateCommands();
+    if (timer != nullptr && ++standingSteps == stepsUntilRest)
+        timer->setInterval(restingInterval);
     Q_EMIT stepped();
+}
+
+void Simulation::wake()
+{
+    standingSteps = 0;
+    if (timer == nullptr || timer->interval() == movingInterval)
+        return;
+    timer->setInterval(movingInterval);
+    // The machine has stood until now.
+    lastWall = wall->now();
+    due = 0.0;
 }
 
 void Simulation::updateCommands()

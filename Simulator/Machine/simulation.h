@@ -10,6 +10,7 @@
 #include <vector>
 
 class Machine;
+class QTimer;
 class RateController;
 class Vehicle;
 
@@ -79,11 +80,15 @@ private:
 
     void takeProducts();
     void updateCommands();
+    /// Looks at the wall's clock as often as a machine wants that moves.
+    void wake();
 
     Machine *machineModel;
     Clock clock;
     const SimulationClock *wall;
     qint64 lastWall = 0;
+    QTimer *timer = nullptr; ///< Null without `wall`.
+    int standingSteps = 0;   ///< Since the vehicle moved last.
     double factor = 1.0;
     /// Milliseconds that are to pass and make no step yet.
     double due = 0.0;

@@ -2,6 +2,9 @@
 #include "testbase.h"
 #include "vehicle.h"
 
+#include <QLineF>
+#include <QTimer>
+
 /// Simulated time.
 class TestSimulation : public TestBase {
     Q_OBJECT
@@ -10,6 +13,7 @@ private Q_SLOTS:
     void timePassesInTenthsOfSeconds();
     void theWallsTimePassesByItsFactor();
     void whatCannotBeDrivenInTimeIsNotMadeUpFor();
+    void aStandingMachineIsSeldomLookedAt();
     void factorsOutOfRangeAreRefused();
 };
 
@@ -70,6 +74,38 @@ void TestSimulation::whatCannotBeDrivenInTimeIsNotMadeUpFor()
     QCOMPARE(wall.time, qint64(7055));
     simulation.catchUp();
     QCOMPARE(simulation.seconds(), 2.2);
+}
+
+void TestSimulation::aStandingMachineIsSeldomLookedAt()
+{
+    MachineBench bench;
+    HandClock wall;
+    Simulation simulation(&bench.machine, &wall);
+    const auto *timer = simulation.findChild<QTimer *>();
+    const auto pass = [&](int milliseconds) {
+        wall.time += milliseconds;
+        simulation.catchUp();
+    };
+    simulation.vehicle()->drive(10.0);
+    for (int i = 0; i < 200; ++i)
+        pass(100);
+    QCOMPARE(timer->interval(), 50);
+    simulation.vehicle()->stop();
+    for (int i = 0; i < 99; ++i)
+        pass(100);
+    QCOMPARE(timer->interval(), 50);
+    pass(100);
+    QCOMPARE(timer->interval(), 1000);
+    const double seconds = simulation.seconds();
+    pass(1000);
+    QCOMPARE(simulation.seconds(), seconds + 1.0);
+    // It goes on at once, and only from now on.
+    wall.time += 900;
+    const QPointF stood = simulation.vehicle()->position();
+    simulation.vehicle()->drive(10.0);
+    QCOMPARE(timer->interval(), 50);
+    pass(100);
+    QCOMPARE(QLineF(stood, simulation.vehicle()->position()).length(), 1.0);
 }
 
 void TestSimulation::factorsOutOfRangeAreRefused()
