@@ -258,8 +258,7 @@ TouchAnswer Terminal::answerAt(const QPointF &field) const
 QString Terminal::touch(const QPointF &field)
 {
     const TouchAnswer answer = answerAt(field);
-    display->overlay()->showBubble(field, answer.text,
-                                   answer.color.isValid() ? FieldScene::onGround(answer.color) : QColor());
+    display->overlay()->showBubble(field, answer.text, answer.color);
     return answer.text;
 }
 

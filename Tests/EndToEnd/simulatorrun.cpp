@@ -21,7 +21,7 @@ SimulatorRun runSimulator(const QStringList &arguments, const QStringList &setti
         environment.insert(setting.section(QLatin1Char('='), 0, 0), setting.section(QLatin1Char('='), 1));
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(RXMAP_SIMULATOR), arguments);
+    process.start(simulatorProgram(), arguments);
     SimulatorRun run;
     if (!process.waitForFinished(longestRunMs))
         return run;
@@ -56,4 +56,21 @@ QString sampleField()
 {
     const QDir folder(sourcePath("Simulator/Resources/sample"));
     return folder.filePath(folder.entryList({QStringLiteral("*.shp")}).value(0));
+}
+
+QString simulatorProgram()
+{
+    return QStringLiteral(RXMAP_SIMULATOR);
+}
+
+QStringList darkDesktop(const QString &folder)
+{
+    QFile colors(QDir(folder).filePath(QStringLiteral("kdeglobals")));
+    if (!colors.open(QIODevice::WriteOnly))
+        return {};
+    for (const char *set : {"Window", "View", "Button"})
+        colors.write(QByteArray("[Colors:") + set + "]\nBackgroundNormal=20,20,20\nForegroundNormal=250,250,250\n");
+    return {QStringLiteral("XDG_CONFIG_HOME=") + folder, QStringLiteral("QT_QPA_PLATFORMTHEME=kde"),
+            QStringLiteral("XDG_CURRENT_DESKTOP=KDE"), QStringLiteral("KDE_SESSION_VERSION=5"),
+            QStringLiteral("QT_STYLE_OVERRIDE=Windows")};
 }

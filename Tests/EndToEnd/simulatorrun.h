@@ -19,3 +19,7 @@ SimulatorRun runOperatorScript(const QString &script, const QStringList &argumen
 /// A file of this folder.
 QString scriptText(const QString &name);
 QString sampleField();
+/// The program that is run.
+QString simulatorProgram();
+/// The environment of a desktop in dark colours and with a style of its own, which it keeps in a file of `folder`.
+QStringList darkDesktop(const QString &folder);

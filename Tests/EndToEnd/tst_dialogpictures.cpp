@@ -19,8 +19,6 @@ private Q_SLOTS:
     void everyDesktopShowsTheSame();
 
 private:
-    /// The settings of a desktop in dark colours and with a style of its own.
-    QStringList darkDesktop();
     /// As many as a machine may have: the product buttons overlap.
     void photographSixteenProducts();
     /// Both messages, beside a button that says Done.
@@ -111,18 +109,6 @@ void TestDialogPictures::statesLookAsStored()
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
-QStringList TestDialogPictures::darkDesktop()
-{
-    QFile colors(folder.filePath(QStringLiteral("kdeglobals")));
-    if (!colors.open(QIODevice::WriteOnly))
-        return {};
-    for (const char *set : {"Window", "View", "Button"})
-        colors.write(QByteArray("[Colors:") + set + "]\nBackgroundNormal=20,20,20\nForegroundNormal=250,250,250\n");
-    return {QStringLiteral("XDG_CONFIG_HOME=") + folder.path(), QStringLiteral("QT_QPA_PLATFORMTHEME=kde"),
-            QStringLiteral("XDG_CURRENT_DESKTOP=KDE"), QStringLiteral("KDE_SESSION_VERSION=5"),
-            QStringLiteral("QT_STYLE_OVERRIDE=Windows")};
-}
-
 void TestDialogPictures::everyDesktopShowsTheSame_data()
 {
     QTest::addColumn<int>("dotsPerInch");
@@ -134,7 +120,7 @@ void TestDialogPictures::everyDesktopShowsTheSame_data()
                             << QStringList{QStringLiteral("QT_SCALE_FACTOR=1.5"),
                                            QStringLiteral("QT_SCREEN_SCALE_FACTORS=2"),
                                            QStringLiteral("QT_AUTO_SCREEN_SCALE_FACTOR=1")};
-    QTest::newRow("dark") << 96 << darkDesktop();
+    QTest::newRow("dark") << 96 << darkDesktop(folder.path());
 }
 
 void TestDialogPictures::everyDesktopShowsTheSame()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void theMapLooksAsStored_data();
     void theMapLooksAsStored();
     void openGlEsDrawsTheSame();
+    void theNightLooksAsStored();
     void anEmptyTerminalLooksAsStored();
     void aChangedPictureIsNoticed();
 };
@@ -65,6 +66,22 @@ void TestTerminalPictures::openGlEsDrawsTheSame()
                 .isOk());
     host.terminal().touch(QPointF(-100, 60));
     QCOMPARE(Picture::compare(host.terminal().window()->screenshot(), QStringLiteral("sample-seed")), QString());
+}
+
+void TestTerminalPictures::theNightLooksAsStored()
+{
+    TerminalHost host;
+    QCOMPARE(host.problem(), QString());
+    Terminal &terminal = host.terminal();
+    QVERIFY(terminal.open({{TerminalHost::sampleField()}, {"SEED_KS_HA"}}).first().isOk());
+    terminal.touch(QPointF(-100, 60));
+    const QImage day = terminal.window()->screenshot();
+    terminal.window()->setTheme(Theme::Kind::Night);
+    const QImage night = terminal.window()->screenshot();
+    terminal.window()->setTheme(Theme::Kind::Day);
+    QCOMPARE(Picture::compare(night, QStringLiteral("sample-seed-night")), QString());
+    // Nothing of the night is left.
+    QCOMPARE(terminal.window()->screenshot(), day);
 }
 
 void TestTerminalPictures::anEmptyTerminalLooksAsStored()

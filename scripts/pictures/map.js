@@ -1,4 +1,4 @@
-// A touch of the sample field, its file in `sample`; `pictures` names the folder for what is seen.
+// A touch of the sample field, its file in `sample`, by day and by night; `pictures` names the folder for what is seen.
 
 terminal.machine.timeFactor = 0;
 terminal.open(sample);
@@ -6,3 +6,6 @@ terminal.activeProduct = 2;
 check(terminal.touchMap(-80, 190) === "Rx Rate: 190.00", "the field answers " + terminal.touchMap(-80, 190));
 terminal.wait(1000);
 terminal.screenshot(pictures + "/map.png");
+control("themeButton").touch();
+terminal.wait(300);
+terminal.screenshot(pictures + "/night.png");

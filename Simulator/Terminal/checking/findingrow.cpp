@@ -1,5 +1,6 @@
 #include "findingrow.h"
 
+#include "buttonlook.h"
 #include "findingkind.h"
 #include "theme.h"
 
@@ -34,13 +35,14 @@ QSize FindingRow::sizeHint() const
 void FindingRow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), isDown() ? Theme::pressedButton() : Theme::button());
+    const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByOther);
+    Theme::drawPanel(painter, rect(), look.ground);
     const QRect inner = rect().adjusted(inset, 8, -inset, -8);
-    painter.setPen(Theme::text());
+    painter.setPen(look.text);
     painter.setFont(Theme::font(titlePixels, true));
     painter.drawText(inner, Qt::AlignTop | Qt::AlignLeft,
                      painter.fontMetrics().elidedText(title, Qt::ElideMiddle, inner.width()));
-    painter.setPen(isEnabled() ? Theme::text() : Theme::faintText());
+    painter.setPen(look.text);
     painter.setFont(Theme::font(textPixels));
     painter.drawText(inner, Qt::AlignBottom | Qt::AlignLeft,
                      painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));

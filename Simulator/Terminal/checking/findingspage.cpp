@@ -23,9 +23,6 @@ FindingsPage::FindingsPage(QWidget *parent)
     connect(close, &TouchButton::clicked, this, &QWidget::hide);
     heading->setObjectName(QStringLiteral("findingsHeading"));
     heading->setFont(Theme::font(26, true));
-    QPalette colors = heading->palette();
-    colors.setColor(QPalette::WindowText, Theme::text());
-    heading->setPalette(colors);
     area->setObjectName(QStringLiteral("findingsList"));
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);

@@ -6,7 +6,7 @@
 #include "mapoverlay.h"
 #include "productselector.h"
 #include "statusbar.h"
-#include "theme.h"
+#include "symbols.h"
 #include "touchbutton.h"
 #include "windowstack.h"
 
@@ -43,6 +43,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     setAcceptDrops(true);
     addZoomButtons();
     addDriveButton();
+    addThemeButton();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
     qApp->installEventFilter(this);
     connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
@@ -74,6 +75,26 @@ void TerminalWindow::addDriveButton()
     driveButton->hide();
     status->addButton(driveButton);
     connect(driveButton, &TouchButton::toggled, this, &TerminalWindow::showDriving);
+}
+
+void TerminalWindow::addThemeButton()
+{
+    themeButton = new TouchButton(QString(), this);
+    themeButton->setObjectName(QStringLiteral("themeButton"));
+    status->addTool(themeButton);
+    connect(themeButton, &TouchButton::clicked, this,
+            [this] { setTheme(Theme::inUse() == Theme::Kind::Day ? Theme::Kind::Night : Theme::Kind::Day); });
+    setTheme(Theme::inUse());
+}
+
+void TerminalWindow::setTheme(Theme::Kind kind)
+{
+    Theme::use(kind);
+    const bool isDay = kind == Theme::Kind::Day;
+    themeButton->setText(isDay ? tr("Night") : tr("Day"));
+    themeButton->setSymbol(isDay ? Symbols::moon() : Symbols::sun());
+    // Reaches every widget of the window, each of which paints itself again, and no window of a plug-in.
+    setPalette(Theme::palette());
 }
 
 void TerminalWindow::setDriving(QWidget *panel, QWidget *strip)

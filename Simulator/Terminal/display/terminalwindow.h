@@ -1,6 +1,7 @@
 #pragma once
 
 #include "product.h"
+#include "theme.h"
 
 #include <QImage>
 #include <QStringList>
@@ -37,6 +38,9 @@ public:
     /// operator drives; both become the window's. Null for both takes them away again.
     void setDriving(QWidget *panel, QWidget *strip);
 
+    /// How all that the terminal paints looks from now on. What plug-ins paint stays as it is.
+    void setTheme(Theme::Kind kind);
+
     /// Where a page lies that takes the place of the map: everything below the status bar.
     static QRect pageArea();
     /// The display as it is seen, with every dialog and popup that is open over it.
@@ -61,6 +65,7 @@ protected:
 private:
     void addZoomButtons();
     void addDriveButton();
+    void addThemeButton();
     void showDriving(bool isShown);
     void arrange();
 
@@ -72,6 +77,7 @@ private:
     GuidancePage *page;
     QList<QWidget *> zoomButtons;
     TouchButton *driveButton = nullptr;
+    TouchButton *themeButton = nullptr;
     QWidget *drivePanel = nullptr;
     QWidget *driveStrip = nullptr;
 };

@@ -53,9 +53,6 @@ QLabel *DrivePanel::addReadout(const char *name)
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
     label->setFont(Theme::font(20, true));
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, Theme::text());
-    label->setPalette(palette);
     return label;
 }
 

@@ -1,5 +1,6 @@
 #include "listrow.h"
 
+#include "buttonlook.h"
 #include "symbols.h"
 #include "theme.h"
 
@@ -16,7 +17,6 @@ constexpr int textHeight = 28;
 constexpr int noteHeight = 21;
 constexpr int inset = 16;
 constexpr int markWidth = 8;
-constexpr double disabledOpacity = 0.45;
 
 /// A text that is longer than a line, on two lines, broken between words where that is possible.
 QStringList onTwoLines(const QString &text, const QFontMetrics &metrics, int width)
@@ -65,21 +65,21 @@ QSize ListRow::sizeHint() const
 void ListRow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), isDown() ? Theme::pressedButton() : Theme::button());
+    const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByOther);
+    Theme::drawPanel(painter, rect(), look.ground);
     if (isChecked())
         Theme::drawPanel(painter, QRect(0, 0, markWidth, height()), Theme::accent());
     if (hasFocus())
         Theme::drawFocus(painter, rect(), false);
-    painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
     QRect inner = rect().adjusted(inset, 0, -inset, 0);
     if (!symbol.isEmpty()) {
-        painter.fillPath(symbol.translated(inner.left() + Symbols::side / 2, rect().center().y()), Theme::accent());
+        painter.fillPath(symbol.translated(inner.left() + Symbols::side / 2, rect().center().y()), look.mark);
         inner.setLeft(inner.left() + int(Symbols::side) + inset);
     }
-    drawTexts(painter, inner);
+    drawTexts(painter, inner, look);
 }
 
-void ListRow::drawTexts(QPainter &painter, const QRect &area) const
+void ListRow::drawTexts(QPainter &painter, const QRect &area, const ButtonLook &look) const
 {
     const auto draw = [&painter](const QRect &line, int align, const QString &text) {
         painter.drawText(line, Qt::AlignVCenter | align,
@@ -97,13 +97,13 @@ void ListRow::drawTexts(QPainter &painter, const QRect &area) const
     }
     const int all = texts.size() * lineHeight + notes.size() * noteHeight;
     QRect line(area.left(), (height() - all) / 2, area.width(), lineHeight);
-    painter.setPen(Theme::text());
+    painter.setPen(look.text);
     for (const QString &part : texts) {
         draw(line, Qt::AlignLeft, part);
         line.translate(0, lineHeight);
     }
     painter.setFont(Theme::font(notePixels));
-    painter.setPen(Theme::faintText());
+    painter.setPen(look.note);
     line.setHeight(noteHeight);
     int badgeWidth = badge.isEmpty() ? 0 : QFontMetrics(Theme::font(notePixels, true)).horizontalAdvance(badge) + inset;
     const QRect besideNote = line;
@@ -113,6 +113,6 @@ void ListRow::drawTexts(QPainter &painter, const QRect &area) const
         line.translate(0, noteHeight);
     }
     painter.setFont(Theme::font(notePixels, true));
-    painter.setPen(Theme::accent());
+    painter.setPen(look.mark);
     draw(besideNote, Qt::AlignRight, badge);
 }

@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <QStringList>
 
+struct ButtonLook;
+
 /// A wide row of a list: a symbol, a text, and lines of notes under it, a badge at the right of the first. A checked
 /// one stands out by a bar at its left.
 class ListRow : public QAbstractButton {
@@ -22,7 +24,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void drawTexts(QPainter &painter, const QRect &area) const;
+    void drawTexts(QPainter &painter, const QRect &area, const ButtonLook &look) const;
 
     QPainterPath symbol;
     QStringList notes;

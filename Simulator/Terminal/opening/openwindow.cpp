@@ -33,9 +33,6 @@ OpenWindow::OpenWindow(Machine *terminalMachine, QSettings &settings, QWidget *p
     , unit(new UnitPage(this))
 {
     setObjectName(QStringLiteral("openWindow"));
-    QPalette light = palette();
-    light.setColor(QPalette::WindowText, Theme::text());
-    setPalette(light);
     for (QWidget *page : std::initializer_list<QWidget *>{files, previews, progress, message, choice, unit})
         pages->addWidget(page);
     connectPages();

@@ -8,6 +8,7 @@
 #include "theme.h"
 #include "touchbutton.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -130,6 +131,14 @@ void PreviewPage::show(const OpenSelection &newSelection, int waiting)
     skip->setNote(tr("%1 more").arg(waiting));
     table->show(newSelection);
     refresh();
+}
+
+void PreviewPage::changeEvent(QEvent *event)
+{
+    // The picture is in the theme's colours.
+    if (event->type() == QEvent::PaletteChange && selection != nullptr)
+        showColumn(table->shownColumn());
+    QWidget::changeEvent(event);
 }
 
 void PreviewPage::refresh()

@@ -39,6 +39,9 @@ Q_SIGNALS:
     void productTouched(int index);
     void unitTouched(int index);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QWidget *makeHead();
     QWidget *makeMap();

@@ -18,6 +18,7 @@ const QString openOption = QStringLiteral("open");
 const QString productsOption = QStringLiteral("products");
 const QString unitsOption = QStringLiteral("units");
 const QString languageOption = QStringLiteral("language");
+const QString themeOption = QStringLiteral("theme");
 const QString pluginDirOption = QStringLiteral("plugin-dir");
 const QString describeOption = QStringLiteral("describe");
 const QString atOption = QStringLiteral("at");
@@ -58,6 +59,8 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("SYSTEM")},
         {languageOption, QStringLiteral("user-interface language: en (default), de, es, fr or pt_BR"),
          QStringLiteral("CODE")},
+        {themeOption, QStringLiteral("the display's looks: day or night (default: what suits the desktop)"),
+         QStringLiteral("THEME")},
         {pluginDirOption, QStringLiteral("where plug-ins are searched (default: the plug-in of this build)"),
          QStringLiteral("DIR")},
         {describeOption, QStringLiteral("print what the terminal shows for that field point (metres) and exit"),
@@ -178,9 +181,9 @@ QString requireFolder(const QString &option, const QString &path)
 /// An option that is given more than once, or without a value, is a mistake that must not pass silently.
 QString checkValues(const QCommandLineParser &parser)
 {
-    for (const QString &option :
-         {columnsOption, sourceUnitsOption, layerOption, taskOption, productsOption, unitsOption, languageOption,
-          pluginDirOption, describeOption, atOption, screenshotOption, scriptOption, driveOption, recordOption}) {
+    for (const QString &option : {columnsOption, sourceUnitsOption, layerOption, taskOption, productsOption,
+                                  unitsOption, languageOption, themeOption, pluginDirOption, describeOption, atOption,
+                                  screenshotOption, scriptOption, driveOption, recordOption}) {
         if (!parser.isSet(option))
             continue;
         if (parser.values(option).size() > 1)
@@ -248,11 +251,21 @@ QString checkPrescription(const QCommandLineParser &parser)
     return {};
 }
 
+QString readTheme(const QString &text, CommandLine &line)
+{
+    if (text != QLatin1String("day") && text != QLatin1String("night"))
+        return QStringLiteral("--theme %1: no such theme (day, night)").arg(text);
+    line.theme = text == QLatin1String("day") ? Theme::Kind::Day : Theme::Kind::Night;
+    return {};
+}
+
 QString readOptions(const QCommandLineParser &parser, CommandLine &line)
 {
     QString error = checkValues(parser);
     if (error.isEmpty() && parser.isSet(unitsOption))
         error = readUnits(parser.value(unitsOption), line);
+    if (error.isEmpty() && parser.isSet(themeOption))
+        error = readTheme(parser.value(themeOption), line);
     if (error.isEmpty() && parser.isSet(columnsOption))
         error = readColumns(parser.value(columnsOption), line);
     if (error.isEmpty() && parser.isSet(describeOption))
@@ -310,6 +323,11 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     line.json = parser.isSet(jsonOption);
     line.wantsHelp = parser.isSet(helpOption);
     return {line, {}};
+}
+
+bool CommandLine::isInteractive() const
+{
+    return !describe && !at && script.isEmpty() && screenshot.isEmpty() && drive.isEmpty() && !check;
 }
 
 QString CommandLine::helpText()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "result.h"
+#include "theme.h"
 #include "unitsystem.h"
 
 #include <QPointF>
@@ -24,6 +25,8 @@ struct CommandLine {
     QString productFile;
     UnitSystem units = UnitSystem::Metric;
     QString language;
+    /// How the terminal looks; nothing where it is left to the desktop.
+    std::optional<Theme::Kind> theme;
     QString pluginDir;
     /// A point of the local plane, metres.
     std::optional<QPointF> describe;
@@ -42,6 +45,9 @@ struct CommandLine {
     /// What the check finds is written as JSON.
     bool json = false;
     bool wantsHelp = false;
+
+    /// The operator uses the display: it is not a task that ends by itself.
+    bool isInteractive() const;
 
     /// `arguments` begin with the program's name.
     static Result<CommandLine> parse(const QStringList &arguments);

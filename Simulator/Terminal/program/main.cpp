@@ -76,7 +76,7 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    const Result<CommandLine> line = CommandLine::parse(arguments);
+    Result<CommandLine> line = CommandLine::parse(arguments);
     if (!line.isOk())
         return complain(line.error);
     if (line.value.wantsHelp) {
@@ -105,6 +105,9 @@ int main(int argc, char *argv[])
     OpenGlCheck::chooseKind();
     QApplication application(kept, argv);
     probe.reset();
+    // What a task prints and pictures is the same on every desktop.
+    if (!line.value.theme && line.value.isInteractive())
+        line.value.theme = Theme::suiting(QGuiApplication::palette());
     OwnLooks::apply();
     const QString lack = isShown ? OpenGlCheck::problem() : QString();
     return end(lack.isEmpty() ? runTerminal(line.value, scale) : lack);

@@ -168,17 +168,12 @@ void showOpenWindow(Terminal &terminal, const QStringList &files)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-bool isInteractive(const CommandLine &line)
-{
-    return !line.describe && !line.at && line.script.isEmpty() && line.screenshot.isEmpty();
-}
-
 QSize firstSize(const CommandLine &line, double scale)
 {
     if (scale > 0.0)
         return (scale * QSizeF(TerminalWindow::displaySize)).toSize();
     // What a task shows is as large everywhere.
-    return isInteractive(line) ? ScreenMemory().sizeOn(QGuiApplication::primaryScreen()->availableSize())
+    return line.isInteractive() ? ScreenMemory().sizeOn(QGuiApplication::primaryScreen()->availableSize())
                                : TerminalWindow::displaySize;
 }
 
@@ -190,7 +185,7 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
     if (error.isEmpty() && !line.screenshot.isEmpty())
         error = terminal.saveScreenshot(line.screenshot);
     // The operator may have closed the display while the prescriptions were loading.
-    if (error.isEmpty() && isInteractive(line) && terminal.window()->isVisible()) {
+    if (error.isEmpty() && line.isInteractive() && terminal.window()->isVisible()) {
         QApplication::exec();
         ScreenMemory().keep(terminal.screen()->plainSize());
     }
@@ -216,6 +211,7 @@ QString runTerminal(const CommandLine &line, double scale)
         return error;
 
     Terminal terminal(setup, line.units);
+    terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();
     // No time passes but what is driven: each drive begins at the same moment.
     if (!isShown)

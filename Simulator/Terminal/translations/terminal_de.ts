@@ -723,6 +723,14 @@
         <source>Drive</source>
         <translation>Fahren</translation>
     </message>
+    <message>
+        <source>Night</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>

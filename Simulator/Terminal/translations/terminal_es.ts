@@ -723,6 +723,14 @@
         <source>Drive</source>
         <translation>Conducir</translation>
     </message>
+    <message>
+        <source>Night</source>
+        <translation>Noche</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>

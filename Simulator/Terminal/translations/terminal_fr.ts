@@ -723,6 +723,14 @@
         <source>Drive</source>
         <translation>Conduire</translation>
     </message>
+    <message>
+        <source>Night</source>
+        <translation>Nuit</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>

@@ -723,6 +723,14 @@
         <source>Drive</source>
         <translation>Dirigir</translation>
     </message>
+    <message>
+        <source>Night</source>
+        <translation>Noite</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Dia</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>

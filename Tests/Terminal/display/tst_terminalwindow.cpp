@@ -1,3 +1,4 @@
+#include "fieldscene.h"
 #include "fieldview.h"
 #include "legendpanel.h"
 #include "productfile.h"
@@ -9,6 +10,7 @@
 
 #include <QDialog>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QSignalSpy>
 
@@ -28,6 +30,9 @@ private Q_SLOTS:
     void whatIsDroppedIsToldFilesApart_data();
     void whatIsDroppedIsToldFilesApart();
     void nothingIsTakenWhileADialogIsOpen();
+    void aButtonSwitchesBetweenDayAndNight();
+    void aPlugInsDialogKnowsNothingOfTheTheme_data();
+    void aPlugInsDialogKnowsNothingOfTheTheme();
 
 private:
     QScopedPointer<TerminalWindow> window;
@@ -45,6 +50,7 @@ void TestTerminalWindow::init()
 void TestTerminalWindow::cleanup()
 {
     window.reset();
+    Theme::use(Theme::Kind::Day);
     TestBase::cleanup();
 }
 
@@ -171,6 +177,47 @@ void TestTerminalWindow::nothingIsTakenWhileADialogIsOpen()
     dialog.setModal(true);
     dialog.show();
     QVERIFY(!isTaken());
+}
+
+void TestTerminalWindow::aButtonSwitchesBetweenDayAndNight()
+{
+    auto *button = window->findChild<TouchButton *>(QStringLiteral("themeButton"));
+    QVERIFY(button != nullptr);
+    const auto *legend = window->legend();
+    const QColor day = window->fieldView()->colorAt(QPointF(0, 0));
+    QCOMPARE(day, Theme::colors(Theme::Kind::Day).ground);
+    QCOMPARE(button->text(), QStringLiteral("Night"));
+    button->click();
+    QCOMPARE(window->fieldView()->colorAt(QPointF(0, 0)), Theme::colors(Theme::Kind::Night).ground);
+    QCOMPARE(legend->palette().color(QPalette::WindowText), Theme::colors(Theme::Kind::Night).text);
+    QCOMPARE(button->text(), QStringLiteral("Day"));
+    button->click();
+    QCOMPARE(window->fieldView()->colorAt(QPointF(0, 0)), day);
+    QCOMPARE(legend->palette().color(QPalette::WindowText), Theme::colors(Theme::Kind::Day).text);
+}
+
+void TestTerminalWindow::aPlugInsDialogKnowsNothingOfTheTheme_data()
+{
+    QTest::addColumn<bool>("isTheWindows");
+    QTest::newRow("on its own") << false;
+    QTest::newRow("the window's") << true;
+}
+
+void TestTerminalWindow::aPlugInsDialogKnowsNothingOfTheTheme()
+{
+    QFETCH(bool, isTheWindows);
+    window->setTheme(Theme::Kind::Night);
+    QDialog dialog(isTheWindows ? window.data() : nullptr);
+    QLabel label(&dialog);
+    const auto isAsOfTheApplication = [&] {
+        return label.palette() == QApplication::palette() && dialog.styleSheet().isEmpty()
+            && dialog.palette() == QApplication::palette();
+    };
+    QVERIFY(isAsOfTheApplication());
+    window->setTheme(Theme::Kind::Day);
+    window->setTheme(Theme::Kind::Night);
+    QVERIFY(isAsOfTheApplication());
+    QVERIFY(qApp->styleSheet().isEmpty() && window->styleSheet().isEmpty());
 }
 
 RXMAP_TEST(TestTerminalWindow, Widgets)

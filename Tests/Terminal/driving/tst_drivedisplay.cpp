@@ -8,6 +8,7 @@
 #include "statusbar.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
+#include "theme.h"
 #include "touchbutton.h"
 #include "vehicle.h"
 
@@ -190,11 +191,11 @@ void TestDriveDisplay::theLookAheadPointIsSeenAheadOfTheVehicle()
     const FieldView &view = *terminal().window()->fieldView();
     const QPointF asked = vehicle().position() + QPointF(0.0, 5.0);
     const QPoint seen = view.camera().project(asked).value_or(QPointF()).toPoint() + view.pos();
-    // A white ring of 9 pixels around it.
-    QCOMPARE(with.pixelColor(seen + QPoint(9, 0)), QColor(Qt::white));
+    // A ring of 9 pixels around it.
+    QCOMPARE(with.pixelColor(seen + QPoint(9, 0)), Theme::text());
     vehicle().stop();
     terminal().simulation()->run(1.0);
-    QVERIFY(overlay().pixelColor(seen + QPoint(9, 0)) != QColor(Qt::white));
+    QVERIFY(overlay().pixelColor(seen + QPoint(9, 0)) != Theme::text());
 }
 
 RXMAP_TEST(TestDriveDisplay, Widgets)

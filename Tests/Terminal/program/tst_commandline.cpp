@@ -23,6 +23,8 @@ private Q_SLOTS:
     void aPointSouthWestOfTheOriginIsAPoint();
     void columnsAreListedAsInCsv_data();
     void columnsAreListedAsInCsv();
+    void aTaskIsNotInteractive_data();
+    void aTaskIsNotInteractive();
     void theHelpTellsWhatHoldsWithoutAnOption_data();
     void theHelpTellsWhatHoldsWithoutAnOption();
 
@@ -42,6 +44,7 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
     QTest::newRow("missing value") << QStringList{"--units"} << "units";
     QTest::newRow("unknown units") << QStringList{"--units", "imperial"} << "imperial";
     QTest::newRow("empty units") << QStringList{"--units", ""} << "--units";
+    QTest::newRow("unknown theme") << QStringList{"--theme", "dusk"} << "--theme dusk: no such theme (day, night)";
     QTest::newRow("point of one number") << QStringList{"--describe", "12"} << "--describe 12";
     QTest::newRow("point of three numbers") << QStringList{"--describe", "1,2,3"} << "1,2,3";
     QTest::newRow("point of words") << QStringList{"--describe", "a,b"} << "a,b";
@@ -121,7 +124,7 @@ void TestCommandLine::everyOptionIsRead()
         {"--columns",   "A, B",       "--source-units", ",lb/ac",     "--layer",    "north",        "--task",
          "spring",      "--products", products,         "--units=us", "--language", "de",           "--plugin-dir",
          folder.path(), "--describe", "1.5,2",          "--at",       "-9.25,48.5", "--screenshot", "map.png",
-         "--script",    script,       "one.shp",        "two.gpkg"});
+         "--script",    script,       "--theme",        "night",      "one.shp",    "two.gpkg"});
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QCOMPARE(line.value.columns, QStringList({"A", "B"}));
     QCOMPARE(line.value.sourceUnits, QStringList({QString(), "lb/ac"}));
@@ -135,6 +138,7 @@ void TestCommandLine::everyOptionIsRead()
     QCOMPARE(line.value.at.value(), QPointF(-9.25, 48.5));
     QCOMPARE(line.value.screenshot, QStringLiteral("map.png"));
     QCOMPARE(line.value.script, script);
+    QVERIFY(line.value.theme == Theme::Kind::Night);
     QCOMPARE(line.value.prescriptions, QStringList({"one.shp", "two.gpkg"}));
     QVERIFY(!line.value.wantsHelp);
 }
@@ -193,6 +197,28 @@ void TestCommandLine::columnsAreListedAsInCsv()
     const Result<CommandLine> line = parse({"--columns", QString::fromLatin1(QTest::currentDataTag()), "map.shp"});
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QTEST(line.value.columns, "columns");
+}
+
+void TestCommandLine::aTaskIsNotInteractive_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("isInteractive");
+    QTest::newRow("nothing") << QStringList{} << true;
+    QTest::newRow("the open window") << QStringList{"--open", "map.shp"} << true;
+    QTest::newRow("a point") << QStringList{"--describe", "1,2"} << false;
+    QTest::newRow("a place") << QStringList{"--at", "1,2"} << false;
+    QTest::newRow("a picture") << QStringList{"--screenshot", "map.png"} << false;
+    QTest::newRow("a drive") << QStringList{"--drive", "report.json", "map.shp"} << false;
+    QTest::newRow("a check") << QStringList{"--check", "map.shp"} << false;
+}
+
+void TestCommandLine::aTaskIsNotInteractive()
+{
+    QFETCH(QStringList, arguments);
+    const Result<CommandLine> line = parse(arguments);
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QTEST(line.value.isInteractive(), "isInteractive");
+    QVERIFY(!line.value.theme);
 }
 
 void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption_data()

@@ -2,6 +2,7 @@
 
 #include "camera.h"
 #include "roundstep.h"
+#include "theme.h"
 
 #include "Framework/uigraphicslist.h"
 
@@ -18,7 +19,7 @@ constexpr double minGridPixels = 22.0;
 
 QColor FieldScene::groundColor()
 {
-    return QColor(222, 216, 202);
+    return Theme::ground();
 }
 
 QColor FieldScene::onGround(const QColor &color)

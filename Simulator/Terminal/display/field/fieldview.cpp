@@ -132,6 +132,14 @@ QImage FieldView::picture(const Camera &camera)
     return canvas.draw(scene, camera, FieldScene::Aids::Hidden, size(), FieldCanvas::Edges::Plain);
 }
 
+void FieldView::changeEvent(QEvent *event)
+{
+    // The ground has the theme's colour.
+    if (event->type() == QEvent::PaletteChange)
+        forgetColors();
+    QWidget::changeEvent(event);
+}
+
 void FieldView::showEvent(QShowEvent *)
 {
     if (canvas.isValid() || !canvas.create())

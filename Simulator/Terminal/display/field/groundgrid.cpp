@@ -1,6 +1,7 @@
 #include "groundgrid.h"
 
 #include "camera.h"
+#include "theme.h"
 
 #include <QOpenGLShaderProgram>
 
@@ -34,9 +35,13 @@ void GroundGrid::setRegion(const QRectF &region, double spacing)
 
 void GroundGrid::addLine(const QPointF &from, const QPointF &to, bool isMajor)
 {
+    const QColor line = Theme::groundLine();
     const quint8 alpha = isMajor ? MajorAlpha : MinorAlpha;
     for (const QPointF &end : {from, to})
-        vertices.append({float(end.x()), float(Camera::planeHeight), float(-end.y()), {40, 44, 36, alpha}});
+        vertices.append({float(end.x()),
+                         float(Camera::planeHeight),
+                         float(-end.y()),
+                         {quint8(line.red()), quint8(line.green()), quint8(line.blue()), alpha}});
 }
 
 void GroundGrid::init()

@@ -1,5 +1,6 @@
 #include "mapoverlay.h"
 
+#include "fieldscene.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -230,7 +231,7 @@ void MapOverlay::drawBubble(QPainter &painter) const
     painter.setBrush(Theme::panel());
     painter.drawPath(shape.united(tip));
     if (bubbleColor.isValid()) {
-        painter.setBrush(bubbleColor);
+        painter.setBrush(FieldScene::onGround(bubbleColor));
         painter.drawRoundedRect(QRectF(box.left() + 16.0, box.center().y() - 17.0, 34.0, 34.0), 5.0, 5.0);
     }
     painter.setPen(Theme::text());

@@ -36,7 +36,8 @@ public:
     void setBoundary(const QList<QPolygonF> &rings);
     /// Where the active product's rate is asked for (metres); nothing where it is not.
     void setLookAhead(const std::optional<QPointF> &field);
-    /// Shows `text` at a field point with the colour of its class; an empty text takes the bubble away.
+    /// Shows `text` at a field point with the colour of its class, as it looks on the ground; an empty text takes the
+    /// bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
     /// Outlines `extent` (metres, top = least y) and points at `place` in it; a null extent takes the mark away.

@@ -10,5 +10,7 @@ constexpr double side = 32.0;
 QPainterPath folder();
 /// A sheet with a folded corner.
 QPainterPath file();
+QPainterPath sun();
+QPainterPath moon();
 
 } // namespace Symbols

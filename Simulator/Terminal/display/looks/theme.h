@@ -2,25 +2,67 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 
 class QPainter;
 class QRectF;
 
-/// Colours, sizes and type of the terminal's own panels: dark with white figures, so that the map is the brightest
-/// thing on the display, at contrasts that hold in sunlight.
+/// Colours, sizes and type of all that the terminal paints itself: its panels, pages and the ground under the map. By
+/// day light panels with dark figures, by night dark ones, so that the map is the brightest thing on the display.
+/// Plug-ins and their dialogs keep the looks of the application (OwnLooks).
 namespace Theme {
 
-constexpr int margin = 12;
-/// The least edge of anything that a gloved finger is to hit, pixels.
-constexpr int touchTarget = 72;
+enum class Kind { Day, Night };
 
+/// A theme's colours by what they are for.
+struct Colors {
+    QColor panel;         ///< not quite opaque: the map shows through
+    QColor button;        ///< and rows of lists
+    QColor pressedButton; ///< text() alone is written on it
+    QColor disabledButton;
+    QColor accent;
+    QColor text; ///< on panel and buttons
+    QColor faintText;
+    QColor disabledText; ///< on panel and disabledButton
+    QColor accentText;   ///< on panel and button
+    QColor textOnAccent;
+    QColor prescribed; ///< of a plot's line, beside one of the accent's
+    QColor ground;     ///< under the map
+    QColor groundLine; ///< of the grid on the ground
+};
+
+const Colors &colors(Kind kind);
+
+/// The whole display has one theme: day, until another one is taken by TerminalWindow::setTheme().
+Kind inUse();
+void use(Kind kind);
+/// What suits a desktop of these colours.
+Kind suiting(const QPalette &desktop);
+/// Of the theme in use, for the labels of the terminal.
+QPalette palette();
+
+constexpr int margin = 12;
+/// The display stands for a panel of 10.1 inches with 1280 × 800 pixels.
+constexpr double millimetresPerPixel = 0.17;
+/// The edge of what a gloved finger is to hit, pixels.
+constexpr int touchTarget = 72;
+/// What no edge may be below, millimetres.
+constexpr double leastTouchTarget = 9.0;
+
+/// Of the theme in use.
 QColor panel();
 QColor button();
 QColor pressedButton();
+QColor disabledButton();
 QColor accent();
 QColor textOnAccent();
 QColor text();
 QColor faintText();
+QColor disabledText();
+QColor accentText();
+QColor prescribed();
+QColor ground();
+QColor groundLine();
 
 /// The terminal's font in `pixels`.
 QFont font(int pixels, bool bold = false);

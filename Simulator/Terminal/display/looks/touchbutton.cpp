@@ -1,5 +1,6 @@
 #include "touchbutton.h"
 
+#include "buttonlook.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -11,7 +12,6 @@ namespace {
 constexpr int textPixels = 24;
 constexpr int notePixels = 15;
 constexpr int inset = 10;
-constexpr double disabledOpacity = 0.35;
 
 } // namespace
 
@@ -42,22 +42,19 @@ void TouchButton::setSymbol(const QPainterPath &newSymbol)
 void TouchButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QColor fill = isDown() ? Theme::pressedButton() : isChecked() ? Theme::accent() : Theme::button();
-    Theme::drawPanel(painter, rect(), fill);
-    const bool onAccent = isChecked() && !isDown();
+    const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
+    Theme::drawPanel(painter, rect(), look.ground);
     if (hasFocus())
-        Theme::drawFocus(painter, rect(), onAccent);
-    if (!isEnabled())
-        painter.setOpacity(disabledOpacity);
+        Theme::drawFocus(painter, rect(), look.isOnAccent);
     if (symbol.isEmpty()) {
-        drawTexts(painter, onAccent);
+        drawTexts(painter, look);
         return;
     }
     painter.translate(rect().center());
-    painter.fillPath(symbol, onAccent ? Theme::textOnAccent() : Theme::text());
+    painter.fillPath(symbol, look.text);
 }
 
-void TouchButton::drawTexts(QPainter &painter, bool onAccent) const
+void TouchButton::drawTexts(QPainter &painter, const ButtonLook &look) const
 {
     const QRect inner = rect().adjusted(inset, 0, -inset, 0);
 
@@ -66,7 +63,7 @@ void TouchButton::drawTexts(QPainter &painter, bool onAccent) const
     if (needed > inner.width())
         font.setPixelSize(std::max(notePixels, int(textPixels * inner.width() / needed)));
     painter.setFont(font);
-    painter.setPen(onAccent ? Theme::textOnAccent() : Theme::text());
+    painter.setPen(look.text);
     const QString shown = QFontMetrics(font).elidedText(text(), Qt::ElideRight, inner.width());
     if (note.isEmpty()) {
         painter.drawText(inner, Qt::AlignCenter, shown);
@@ -75,7 +72,7 @@ void TouchButton::drawTexts(QPainter &painter, bool onAccent) const
     const int middle = height() / 2 + 2;
     painter.drawText(QRect(inner.left(), 0, inner.width(), middle), Qt::AlignHCenter | Qt::AlignBottom, shown);
     painter.setFont(Theme::font(notePixels));
-    painter.setPen(onAccent ? Theme::textOnAccent() : Theme::faintText());
+    painter.setPen(look.note);
     painter.drawText(QRect(inner.left(), middle + 2, inner.width(), height() - middle - 2),
                      Qt::AlignHCenter | Qt::AlignTop,
                      QFontMetrics(painter.font()).elidedText(note, Qt::ElideRight, inner.width()));

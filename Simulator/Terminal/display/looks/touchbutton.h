@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QPainterPath>
 
+struct ButtonLook;
+
 /// A big flat button of the terminal's own panels. A checked one carries the accent colour, one that has the keyboard a
 /// frame of it.
 class TouchButton : public QAbstractButton {
@@ -21,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void drawTexts(QPainter &painter, bool onAccent) const;
+    void drawTexts(QPainter &painter, const ButtonLook &look) const;
 
     QString note;
     QPainterPath symbol;

@@ -21,7 +21,8 @@ GuidancePage::GuidancePage(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    setStyleSheet(QStringLiteral("QGraphicsView { background: transparent; }"));
+    // Not by a style sheet, which a plug-in's widgets would come to know of.
+    viewport()->setAutoFillBackground(false);
     setRenderHint(QPainter::SmoothPixmapTransform);
 }
 

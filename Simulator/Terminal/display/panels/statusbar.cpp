@@ -34,19 +34,30 @@ StatusBar::StatusBar(QWidget *parent)
 void StatusBar::addButton(QAbstractButton *button)
 {
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    buttons->insertWidget(buttons->count() - 1, button);
+    buttons->insertWidget(leftButtons++, button);
     connect(button, &QAbstractButton::clicked, this, [this, button] { Q_EMIT touched(button); });
 }
 
-int StatusBar::textLeft() const
+void StatusBar::addTool(QAbstractButton *button)
+{
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    buttons->addWidget(button);
+}
+
+QRect StatusBar::textArea() const
 {
     int left = sideMargin;
+    int right = width() - sideMargin - 1;
     for (int i = 0; i < buttons->count(); ++i) {
         const QWidget *button = buttons->itemAt(i)->widget();
-        if (button != nullptr && !button->isHidden())
+        if (button == nullptr || button->isHidden())
+            continue;
+        if (i < leftButtons)
             left = std::max(left, button->geometry().right() + 1 + Theme::margin);
+        else
+            right = std::min(right, button->geometry().left() - 1 - Theme::margin);
     }
-    return left;
+    return QRect(QPoint(left, 0), QPoint(right, height() - 1));
 }
 
 bool StatusBar::event(QEvent *event)
@@ -83,11 +94,11 @@ void StatusBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), QColor(Theme::panel().rgb()));
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRect inner(QPoint(textLeft(), 0), QPoint(width() - sideMargin - 1, height() - 1));
+    const QRect inner = textArea();
 
     const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
     painter.setFont(Theme::font(22, true));
-    painter.setPen(isMoving ? Theme::accent() : Theme::text());
+    painter.setPen(isMoving ? Theme::accentText() : Theme::text());
     painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, speed);
 
     QRect mapArea(inner.left(), 0, inner.width() - speedWidth - Theme::margin, height());

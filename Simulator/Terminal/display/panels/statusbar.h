@@ -16,6 +16,8 @@ public:
 
     /// Puts a button, which becomes the bar's, behind those at its left end. One that is hidden takes no room.
     void addButton(QAbstractButton *button);
+    /// Puts a button, which becomes the bar's, at its right end. A touch of it is not told by touched().
+    void addTool(QAbstractButton *button);
     /// File names of the loaded maps, oldest first.
     void setMaps(const QStringList &names);
     /// Metres per second; 0 reads as stopped.
@@ -32,10 +34,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Where the texts begin: behind the last button that is seen.
-    int textLeft() const;
+    /// Where the texts lie: between the buttons that are seen.
+    QRect textArea() const;
 
-    QHBoxLayout *buttons;
+    QHBoxLayout *buttons; ///< Those at the left end, a stretch, the tools.
+    int leftButtons = 0;
     QString maps;
     QString speed;
     bool isMoving = false;

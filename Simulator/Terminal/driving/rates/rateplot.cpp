@@ -18,11 +18,6 @@ constexpr double timeHeight = 22.0;
 constexpr double rateWidth = 52.0;
 constexpr int textPixels = 15;
 
-QColor prescribedColor()
-{
-    return QColor(120, 200, 255);
-}
-
 } // namespace
 
 RatePlot::RatePlot(const Machine *machine, const RateHistory *history, QWidget *parent)
@@ -117,7 +112,7 @@ void RatePlot::drawPrescribed(QPainter &painter, const Axes &axes, const Samples
     }
     painter.setBrush(Qt::NoBrush);
     // Wide enough to be seen beside the line that lies over it.
-    painter.setPen(QPen(prescribedColor(), 4.5, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(Theme::prescribed(), 4.5, Qt::SolidLine, Qt::FlatCap));
     painter.drawPath(path);
 }
 
@@ -142,6 +137,6 @@ void RatePlot::drawKey(QPainter &painter, const QRectF &row) const
         painter.drawText(QRectF(left, row.top(), row.right() - left, row.height()), Qt::AlignVCenter, text);
         left += painter.fontMetrics().horizontalAdvance(text) + 16.0;
     };
-    add(prescribedColor(), tr("Prescribed"));
+    add(Theme::prescribed(), tr("Prescribed"));
     add(Theme::accent(), tr("Applied"));
 }

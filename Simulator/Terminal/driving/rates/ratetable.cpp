@@ -160,7 +160,7 @@ void RateTable::drawRow(QPainter &painter, const QRect &row, int number) const
     const bool isActive = number == simulation->machine()->activeProduct();
     for (int column = 0; column < ColumnCount; ++column) {
         const bool isBig = column == Name || isFigure(column);
-        painter.setPen(isActive && column == Name ? Theme::accent() : isBig ? Theme::text() : Theme::faintText());
+        painter.setPen(isActive && column == Name ? Theme::accentText() : isBig ? Theme::text() : Theme::faintText());
         drawFitting(painter, cell(row, column), isFigure(column) ? Qt::AlignRight : Qt::AlignLeft,
                     isFigure(column) ? Theme::font(22, true) : Theme::font(18, column == Name), texts[column]);
     }

@@ -1,3 +1,4 @@
+#include "fieldscene.h"
 #include "mapoverlay.h"
 #include "paintedtexts.h"
 #include "testbase.h"
@@ -82,13 +83,13 @@ void TestMapOverlayLooks::theBubbleSaysItsTextBesideTheColourOfItsClass()
 {
     overlay->showBubble(QPointF(0, 0), QStringLiteral("Rx Rate: 80.00"), classColor);
     QVERIFY(paintedTexts(*overlay).contains(QStringLiteral("Rx Rate: 80.00")));
-    QVERIFY(extentOf(classColor).width() > 20);
+    QVERIFY(extentOf(FieldScene::onGround(classColor)).width() > 20);
     overlay->showBubble(QPointF(0, 0), QStringLiteral("Rx Rate: 0.00"), QColor());
     QVERIFY(paintedTexts(*overlay).contains(QStringLiteral("Rx Rate: 0.00")));
-    QVERIFY(extentOf(classColor).isEmpty());
+    QVERIFY(extentOf(FieldScene::onGround(classColor)).isEmpty());
     overlay->showBubble(QPointF(0, 0), QString(), classColor);
     QVERIFY(paintedTexts(*overlay).filter(QStringLiteral("Rate")).isEmpty());
-    QVERIFY(extentOf(classColor).isEmpty());
+    QVERIFY(extentOf(FieldScene::onGround(classColor)).isEmpty());
 }
 
 void TestMapOverlayLooks::theBubbleKeepsToTheFreeArea_data()
@@ -119,7 +120,7 @@ void TestMapOverlayLooks::theBubbleKeepsToTheFreeArea()
     // The dot that marks the point itself may stand out by its radius.
     QVERIFY2(freeArea.adjusted(-8, -8, 8, 8).contains(changed),
              qPrintable(QStringLiteral("%1 to %2").arg(changed.left()).arg(changed.right())));
-    const QRect swatch = extentOf(classColor);
+    const QRect swatch = extentOf(FieldScene::onGround(classColor));
     QTEST(swatch.bottom() < finger.y(), "isAbove");
     // The finger covers what lies right under it.
     QVERIFY(std::abs(swatch.center().y() - finger.y()) > 20.0);
@@ -130,7 +131,7 @@ void TestMapOverlayLooks::aBubbleBehindTheEyeIsLeftOut()
     const QPointF behind(0.0, -100000.0);
     QVERIFY(!camera.project(behind));
     overlay->showBubble(behind, QStringLiteral("Rx Rate: 80.00"), classColor);
-    QVERIFY(extentOf(classColor).isEmpty());
+    QVERIFY(extentOf(FieldScene::onGround(classColor)).isEmpty());
 }
 
 void TestMapOverlayLooks::theScaleBarIsOfARoundLength_data()
@@ -151,11 +152,13 @@ void TestMapOverlayLooks::theScaleBarIsOfARoundLength()
     camera.setDistance(distance);
     overlay->setCamera(camera);
     overlay->setMetric(isMetric);
-    const QStringList label =
-        paintedTexts(*overlay).filter(QRegularExpression(QStringLiteral("^[0-9.]+ "))).value(0).split(QLatin1Char(' '));
+    const QStringList label = paintedTexts(*overlay)
+                                  .filter(QRegularExpression(QStringLiteral("^[0-9.,]+ ")))
+                                  .value(0)
+                                  .split(QLatin1Char(' '));
     QCOMPARE(label.size(), 2);
     QCOMPARE(label.at(1) == QLatin1String("m") || label.at(1) == QLatin1String("km"), isMetric);
-    const double number = label.at(0).toDouble();
+    const double number = QLocale().toDouble(label.at(0));
     const int digit = int(std::lround(number / std::pow(10.0, std::floor(std::log10(number) + 1e-9))));
     QVERIFY2(digit == 1 || digit == 2 || digit == 5, qPrintable(label.join(QLatin1Char(' '))));
 

@@ -1,30 +1,37 @@
+#include "contrast.h"
 #include "testbase.h"
 #include "theme.h"
 
 #include <QImage>
 #include <QPainter>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
 
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
+using Kind = Theme::Kind;
 
-double luminance(const QColor &color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
+/// Every colour that a text is written in, and every one that it is written on.
+struct Pair {
+    const char *name;
+    QColor Theme::Colors::*text;
+    QColor Theme::Colors::*ground;
+    double least;
+};
 
-/// From 1, the same, to 21, black and white.
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto ends = std::minmax({luminance(one), luminance(other)});
-    return (ends.second + 0.05) / (ends.first + 0.05);
-}
+/// What is read at a glance is to have more than the least.
+constexpr double atAGlance = 7.0;
+
+const Pair pairs[] = {
+    {"text on panel", &Theme::Colors::text, &Theme::Colors::panel, atAGlance},
+    {"text on button", &Theme::Colors::text, &Theme::Colors::button, atAGlance},
+    {"text on pressed button", &Theme::Colors::text, &Theme::Colors::pressedButton, leastContrast},
+    {"faint text on panel", &Theme::Colors::faintText, &Theme::Colors::panel, atAGlance},
+    {"faint text on button", &Theme::Colors::faintText, &Theme::Colors::button, leastContrast},
+    {"disabled text on panel", &Theme::Colors::disabledText, &Theme::Colors::panel, leastContrast},
+    {"disabled text on its button", &Theme::Colors::disabledText, &Theme::Colors::disabledButton, leastContrast},
+    {"accent's text on panel", &Theme::Colors::accentText, &Theme::Colors::panel, leastContrast},
+    {"accent's text on button", &Theme::Colors::accentText, &Theme::Colors::button, leastContrast},
+    {"text on accent", &Theme::Colors::textOnAccent, &Theme::Colors::accent, leastContrast},
+};
 
 } // namespace
 
@@ -38,6 +45,9 @@ private Q_SLOTS:
     void textStandsOutFromItsGround_data();
     void textStandsOutFromItsGround();
     void aPressedButtonLooksDifferent();
+    void whatIsDrawnStandsOutFromItsGround();
+    void aDarkDesktopHasNight();
+    void thePaletteIsThatOfTheThemeInUse();
     void aPanelIsFilledToItsEdgesAndHasRoundCorners();
 };
 
@@ -45,22 +55,66 @@ void TestTheme::textStandsOutFromItsGround_data()
 {
     QTest::addColumn<QColor>("text");
     QTest::addColumn<QColor>("ground");
-    QTest::newRow("panel") << Theme::text() << Theme::panel();
-    QTest::newRow("faint on panel") << Theme::faintText() << Theme::panel();
-    QTest::newRow("button") << Theme::text() << Theme::button();
-    QTest::newRow("accent") << Theme::textOnAccent() << Theme::accent();
+    QTest::addColumn<double>("least");
+    for (const Kind kind : {Kind::Day, Kind::Night}) {
+        const Theme::Colors &colors = Theme::colors(kind);
+        const char *when = kind == Kind::Day ? "by day" : "by night";
+        for (const Pair &pair : pairs) {
+            // What is under a panel shows through and may have any colour.
+            QTest::addRow("%s %s, over black", pair.name, when)
+                << colors.*pair.text << blended(colors.*pair.ground, Qt::black) << pair.least;
+            QTest::addRow("%s %s, over white", pair.name, when)
+                << colors.*pair.text << blended(colors.*pair.ground, Qt::white) << pair.least;
+        }
+    }
 }
 
 void TestTheme::textStandsOutFromItsGround()
 {
     QFETCH(QColor, text);
     QFETCH(QColor, ground);
-    QVERIFY2(contrast(text, ground) >= 7.0, qPrintable(QString::number(contrast(text, ground))));
+    QFETCH(double, least);
+    QVERIFY2(contrast(text, ground) >= least, qPrintable(QString::number(contrast(text, ground))));
 }
 
 void TestTheme::aPressedButtonLooksDifferent()
 {
-    QVERIFY(contrast(Theme::button(), Theme::pressedButton()) >= 2.0);
+    for (const Kind kind : {Kind::Day, Kind::Night})
+        QVERIFY(contrast(Theme::colors(kind).button, Theme::colors(kind).pressedButton) >= 2.0);
+}
+
+void TestTheme::whatIsDrawnStandsOutFromItsGround()
+{
+    // WCAG 2.1, success criterion 1.4.11: what is needed to understand a control or a plot.
+    constexpr double leastOfGraphics = 3.0;
+    for (const Kind kind : {Kind::Day, Kind::Night}) {
+        const Theme::Colors &colors = Theme::colors(kind);
+        QVERIFY(contrast(colors.accent, blended(colors.panel, Qt::black)) >= leastOfGraphics);
+        QVERIFY(contrast(colors.accent, colors.button) >= leastOfGraphics);
+        QVERIFY(contrast(colors.prescribed, blended(colors.panel, Qt::white)) >= leastOfGraphics);
+        QVERIFY(contrast(colors.text, colors.ground) >= leastOfGraphics);
+    }
+}
+
+void TestTheme::aDarkDesktopHasNight()
+{
+    QPalette desktop(Qt::black, Qt::white);
+    desktop.setColor(QPalette::Window, QColor(239, 240, 241));
+    desktop.setColor(QPalette::WindowText, QColor(35, 38, 41));
+    QVERIFY(Theme::suiting(desktop) == Kind::Day);
+    desktop.setColor(QPalette::Window, QColor(49, 54, 59));
+    desktop.setColor(QPalette::WindowText, QColor(239, 240, 241));
+    QVERIFY(Theme::suiting(desktop) == Kind::Night);
+}
+
+void TestTheme::thePaletteIsThatOfTheThemeInUse()
+{
+    Theme::use(Kind::Night);
+    QCOMPARE(Theme::palette().color(QPalette::WindowText), Theme::colors(Kind::Night).text);
+    QCOMPARE(Theme::panel(), Theme::colors(Kind::Night).panel);
+    Theme::use(Kind::Day);
+    QCOMPARE(Theme::palette().color(QPalette::WindowText), Theme::colors(Kind::Day).text);
+    QCOMPARE(Theme::panel(), Theme::colors(Kind::Day).panel);
 }
 
 void TestTheme::aPanelIsFilledToItsEdgesAndHasRoundCorners()
@@ -78,5 +132,5 @@ void TestTheme::aPanelIsFilledToItsEdgesAndHasRoundCorners()
         QCOMPARE(image.pixelColor(corner), QColor(Qt::white));
 }
 
-RXMAP_TEST(TestTheme, Core)
+RXMAP_TEST(TestTheme, Widgets)
 #include "tst_theme.moc"

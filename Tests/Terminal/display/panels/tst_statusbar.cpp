@@ -93,11 +93,11 @@ void TestStatusBar::itTellsTheSpeedInTheOperatorsUnit()
 
 void TestStatusBar::aMovingVehiclesSpeedStandsOut()
 {
-    QCOMPARE(pixelsOf(Theme::accent()), 0);
+    QCOMPARE(pixelsOf(Theme::accentText()), 0);
     bar->setSpeed(3.0, true);
-    QVERIFY(pixelsOf(Theme::accent()) > 50);
+    QVERIFY(pixelsOf(Theme::accentText()) > 50);
     bar->setSpeed(0.0, true);
-    QCOMPARE(pixelsOf(Theme::accent()), 0);
+    QCOMPARE(pixelsOf(Theme::accentText()), 0);
 }
 
 void TestStatusBar::aLoadShowsItsFileWhileItRuns()

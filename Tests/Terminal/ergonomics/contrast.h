@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QColor>
+
+/// The least contrast that a text may have to what it is written on (WCAG 2.1, success criterion 1.4.3).
+constexpr double leastContrast = 4.5;
+
+/// The contrast ratio of two opaque colours by their relative luminances, from 1, the same, to 21, black and white.
+/// Source: WCAG 2.1, "contrast ratio" and "relative luminance".
+double contrast(const QColor &one, const QColor &other);
+
+/// What is seen of a colour that is not opaque.
+QColor blended(const QColor &color, const QColor &ground);

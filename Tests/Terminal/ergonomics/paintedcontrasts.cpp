@@ -1,0 +1,141 @@
+#include "paintedcontrasts.h"
+
+#include "contrast.h"
+
+#include <QImage>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+
+#include <cmath>
+
+namespace {
+
+/// Draws everything but texts onto a picture; of a text it notes what lies under it at that moment.
+class GroundEngine : public QPaintEngine {
+public:
+    explicit GroundEngine(QImage *picture)
+        : QPaintEngine(AllFeatures)
+        , picture(picture)
+    {
+    }
+
+    bool begin(QPaintDevice *) override { return painter.begin(picture); }
+    bool end() override { return painter.end(); }
+    Type type() const override { return User; }
+
+    void updateState(const QPaintEngineState &state) override
+    {
+        painter.setTransform(state.transform());
+        painter.setPen(state.pen());
+        painter.setBrush(state.brush());
+        painter.setBrushOrigin(state.brushOrigin());
+        painter.setOpacity(state.opacity());
+        painter.setRenderHints(painter.renderHints(), false);
+        painter.setRenderHints(state.renderHints());
+        painter.setCompositionMode(state.compositionMode());
+        if ((state.state() & DirtyClipEnabled) != 0)
+            painter.setClipping(state.isClipEnabled());
+        if ((state.state() & DirtyClipRegion) != 0)
+            painter.setClipRegion(state.clipRegion(), state.clipOperation());
+        if ((state.state() & DirtyClipPath) != 0)
+            painter.setClipPath(state.clipPath(), state.clipOperation());
+    }
+
+    void drawPath(const QPainterPath &path) override { painter.drawPath(path); }
+    void drawPixmap(const QRectF &area, const QPixmap &pixmap, const QRectF &part) override
+    {
+        painter.drawPixmap(area, pixmap, part);
+    }
+    void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
+    {
+        if (mode == PolylineMode)
+            painter.drawPolyline(points, count);
+        else
+            painter.drawPolygon(points, count, mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+    }
+
+    void drawTextItem(const QPointF &at, const QTextItem &item) override
+    {
+        const QRectF inked = QFontMetricsF(item.font()).tightBoundingRect(item.text());
+        const QRect area = painter.transform().mapRect(inked.translated(at)).toAlignedRect() & picture->rect();
+        QColor color = state->pen().color();
+        color.setAlphaF(color.alphaF() * state->opacity());
+        PaintedText text{item.text(), {}, {}};
+        double least = 22.0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                const QColor ground = picture->pixelColor(x, y);
+                const QColor seen = blended(color, ground);
+                if (contrast(seen, ground) >= least)
+                    continue;
+                least = contrast(seen, ground);
+                text.color = seen;
+                text.ground = ground;
+            }
+        }
+        if (text.ground.isValid())
+            texts.append(text);
+    }
+
+    QList<PaintedText> texts;
+
+private:
+    QImage *picture;
+    QPainter painter;
+};
+
+class GroundDevice : public QPaintDevice {
+public:
+    explicit GroundDevice(QImage *picture)
+        : size(picture->size())
+        , engine(picture)
+    {
+    }
+
+    QPaintEngine *paintEngine() const override { return &engine; }
+    QList<PaintedText> texts() const { return engine.texts; }
+
+protected:
+    int metric(PaintDeviceMetric wanted) const override
+    {
+        constexpr int dotsPerInch = 96;
+        switch (wanted) {
+        case PdmWidth:
+            return size.width();
+        case PdmHeight:
+            return size.height();
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return dotsPerInch;
+        case PdmDevicePixelRatio:
+            return 1;
+        default:
+            return QPaintDevice::metric(wanted);
+        }
+    }
+
+private:
+    QSize size;
+    mutable GroundEngine engine;
+};
+
+} // namespace
+
+double PaintedText::contrast() const
+{
+    return ::contrast(color, ground);
+}
+
+QList<PaintedText> paintedContrasts(QWidget &widget, const QColor &backdrop)
+{
+    QImage picture(widget.size(), QImage::Format_RGB32);
+    picture.fill(backdrop);
+    GroundDevice device(&picture);
+    widget.render(&device, QPoint(), QRegion(), QWidget::DrawChildren);
+    return device.texts();
+}
