@@ -71,7 +71,29 @@ bool NumericEntry::startsOver() const
 bool NumericEntry::type(QChar character)
 {
     const QString candidate = withCharacter(character);
-    return fits(candidate) && change(candidate);
+    return check(candidate) == Refusal::None && change(candidate);
+}
+
+NumericEntry::Refusal NumericEntry::refusalOf(QChar character) const
+{
+    return check(withCharacter(character));
+}
+
+QString NumericEntry::refusalText(Refusal refusal) const
+{
+    switch (refusal) {
+    case Refusal::None:
+        break;
+    case Refusal::NoNumber:
+        return tr("That would be no number");
+    case Refusal::NoDecimals:
+        return tr("Whole numbers only");
+    case Refusal::TooManyDecimals:
+        return tr("Decimals: %1 at most").arg(decimalLimit);
+    case Refusal::OutOfRange:
+        return isLimited ? tr("Beyond %1").arg(limitsText()) : tr("Too many digits");
+    }
+    return {};
 }
 
 bool NumericEntry::eraseLast()
@@ -95,30 +117,32 @@ QString NumericEntry::withCharacter(QChar character) const
     return candidate + character;
 }
 
-bool NumericEntry::fits(const QString &candidate) const
+NumericEntry::Refusal NumericEntry::check(const QString &candidate) const
 {
     static const QRegularExpression form(QStringLiteral("^(-?)([0-9]*)(?:\\.([0-9]*))?$"));
     const QRegularExpressionMatch match = form.match(candidate);
     if (!match.hasMatch())
-        return false;
+        return Refusal::NoNumber;
     const bool isNegative = !match.captured(1).isEmpty();
     if (isNegative && !takesMinus())
-        return false;
+        return Refusal::OutOfRange;
     if (match.captured(2).isEmpty())
-        return true;
+        return Refusal::None;
 
     const double smallest = isNegative ? -rangeMaximum : rangeMinimum;
     const double largest = isNegative ? -rangeMinimum : rangeMaximum;
     const double magnitude = (match.captured(2) + QLatin1Char('.') + match.captured(3)).toDouble();
     if (!candidate.contains(QLatin1Char('.')))
-        return canReachRange(magnitude, smallest, largest);
-
+        return canReachRange(magnitude, smallest, largest) ? Refusal::None : Refusal::OutOfRange;
+    if (!takesPoint())
+        return Refusal::NoDecimals;
     const int places = match.captured(3).size();
-    if (!takesPoint() || places > int(decimalLimit))
-        return false;
+    if (places > int(decimalLimit))
+        return Refusal::TooManyDecimals;
     const double tolerance = relativeTolerance * qMax(1.0, std::abs(largest));
     const double furthest = magnitude + std::pow(10.0, -places) - std::pow(10.0, -int(decimalLimit));
-    return magnitude <= largest + tolerance && furthest >= smallest - tolerance;
+    const bool isWithin = magnitude <= largest + tolerance && furthest >= smallest - tolerance;
+    return isWithin ? Refusal::None : Refusal::OutOfRange;
 }
 
 /// Whether a whole number, as it stands or with further digits and decimals typed after it, comes to lie in the range.

@@ -1,12 +1,18 @@
 #pragma once
 
 #include <QChar>
+#include <QCoreApplication>
 #include <QString>
 
 /// The text of a numeric field and the keystrokes that may change it. Knows no widget.
 /// A keystroke is refused when the text after it could not stand for, or grow into, a number within the limits.
 class NumericEntry {
+    Q_DECLARE_TR_FUNCTIONS(NumericEntry)
+
 public:
+    /// Why a keystroke is not taken.
+    enum class Refusal { None, NoNumber, NoDecimals, TooManyDecimals, OutOfRange };
+
     /// At most so many digits before and after the point, no negative numbers. Replaces earlier limits.
     void setSizeLimits(unsigned int integerDigits, unsigned int decimals);
     /// Numbers from `minimum` to `maximum` with at most so many decimals. Replaces earlier limits.
@@ -24,6 +30,10 @@ public:
     /// Whether the next keystroke replaces the text.
     bool startsOver() const;
 
+    /// What type() would refuse the character for.
+    Refusal refusalOf(QChar character) const;
+    /// The reason as the operator reads it; empty for none.
+    QString refusalText(Refusal refusal) const;
     /// A digit, the point or the minus. Whether the text is another one now; it is not when the key is refused.
     bool type(QChar character);
     /// Takes the last character away, or the whole text when it is to be replaced. Whether the text is another one now.
@@ -33,7 +43,7 @@ public:
 
 private:
     QString withCharacter(QChar character) const;
-    bool fits(const QString &candidate) const;
+    Refusal check(const QString &candidate) const;
     bool canReachRange(double magnitude, double smallest, double largest) const;
     bool change(const QString &newText);
 

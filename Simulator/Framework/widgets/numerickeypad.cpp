@@ -20,11 +20,14 @@ constexpr int displayHeight = 64;
 constexpr int columns = 4;
 constexpr int rows = 4;
 constexpr int fieldGap = 8;
+constexpr int remarkPixels = 17;
+constexpr int maxRemarkWidth = 200;
 
 const QColor panelColor(35, 44, 51);
 const QColor panelEdgeColor(10, 15, 19);
 const QColor inkColor(16, 24, 32);
 const QColor limitsColor(84, 96, 105);
+const QColor refusalColor(176, 0, 32);
 const QColor selectionColor(11, 85, 144);
 
 QFont sized(QFont font, int pixels)
@@ -57,8 +60,9 @@ NumericKeypad::NumericKeypad(const QDir &imageDir, QWidget *field)
     setFixedSize(lastKey.right() + 1 + margin, lastKey.bottom() + 1 + margin);
 
     const QString plate = QStringLiteral("keypadKey.png");
-    const auto addCharacter = [&](char character, const QString &name, const QString &label, int column, int row) {
-        OrvikButton *key = addKey(imageDir, plate, name, characterKey(character), keyPlace(column, row));
+    const auto addCharacter = [&](char character, const QString &name, const QString &label, const QString &spoken,
+                                  int column, int row) {
+        OrvikButton *key = addKey(imageDir, plate, name, spoken, characterKey(character), keyPlace(column, row));
         key->addText(0, label, inkColor, sized(font(), 32));
         key->setDisableMode(true);
         return key;
@@ -66,23 +70,25 @@ NumericKeypad::NumericKeypad(const QDir &imageDir, QWidget *field)
     for (int digit = 0; digit <= 9; ++digit) {
         const int column = digit == 0 ? 1 : (digit - 1) % 3;
         const int row = digit == 0 ? 3 : 2 - (digit - 1) / 3;
-        addCharacter(char('0' + digit), QStringLiteral("keypad%1").arg(digit), QString::number(digit), column, row);
+        const QString text = QString::number(digit);
+        addCharacter(char('0' + digit), QStringLiteral("keypad") + text, text, text, column, row);
     }
-    minusKey = addCharacter('-', QStringLiteral("keypadMinus"), QStringLiteral("\u2212"), 0, 3);
-    pointKey = addCharacter('.', QStringLiteral("keypadPoint"), QStringLiteral("."), 2, 3);
+    minusKey = addCharacter('-', QStringLiteral("keypadMinus"), QStringLiteral("\u2212"), tr("Minus"), 0, 3);
+    pointKey = addCharacter('.', QStringLiteral("keypadPoint"), QStringLiteral("."), tr("Point"), 2, 3);
     addKey(imageDir, QStringLiteral("keypadBackspace.png"), QStringLiteral("keypadBackspace"),
-           {NumericKey::Action::EraseLast, {}}, keyPlace(3, 0, 2));
-    addKey(imageDir, QStringLiteral("keypadEnter.png"), QStringLiteral("keypadEnter"), {NumericKey::Action::Finish, {}},
-           keyPlace(3, 2, 2));
+           tr("Delete the last digit"), {NumericKey::Action::EraseLast, {}}, keyPlace(3, 0, 2));
+    addKey(imageDir, QStringLiteral("keypadEnter.png"), QStringLiteral("keypadEnter"), tr("Done"),
+           {NumericKey::Action::Finish, {}}, keyPlace(3, 2, 2));
 }
 
 OrvikButton *NumericKeypad::addKey(const QDir &imageDir, const QString &image, const QString &name,
-                                   const NumericKey &key, const QRect &place)
+                                   const QString &spoken, const NumericKey &key, const QRect &place)
 {
     const bool repeats = key.action == NumericKey::Action::EraseLast;
     auto *button = new OrvikButton(0, imageDir, QStringList(image), place.topLeft(), this, repeats);
     button->resize(place.size());
     button->setObjectName(name);
+    button->setAccessibleName(spoken);
     connect(button, &OrvikButton::buttonReleased, this, [this, key] { Q_EMIT keyed(key); });
     return button;
 }
@@ -99,6 +105,13 @@ void NumericKeypad::showText(const QString &text, bool startsOver)
 {
     shownText = text;
     textStartsOver = startsOver;
+    update();
+}
+
+void NumericKeypad::showRefusal(const QString &reason)
+{
+    refusal = reason;
+    setAccessibleDescription(reason);
     update();
 }
 
@@ -155,19 +168,27 @@ void NumericKeypad::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(QRectF(display).adjusted(1.5, 1.5, -1.5, -1.5), 9, 9);
 
     const QRect inner = display.adjusted(12, 4, -12, -4);
-    painter.setPen(limitsColor);
-    painter.setFont(sized(font(), 17));
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, limitsText);
-    const int limitsWidth = painter.fontMetrics().horizontalAdvance(limitsText + QLatin1Char(' '));
-
+    const int remarkWidth = paintRemark(painter, inner);
     painter.setFont(sized(font(), 34));
-    const QRect room = inner.adjusted(limitsWidth, 0, 0, 0);
+    const QRect room = inner.adjusted(remarkWidth, 0, 0, 0);
     const QString text = painter.fontMetrics().elidedText(shownText, Qt::ElideLeft, room.width() - 8);
     const QRect place = painter.fontMetrics().boundingRect(room, Qt::AlignRight | Qt::AlignVCenter, text);
     if (textStartsOver && !text.isEmpty())
         painter.fillRect(place.adjusted(-4, 0, 4, 0), selectionColor);
     painter.setPen(textStartsOver ? QColor(Qt::white) : inkColor);
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, text);
+}
+
+/// The limits, or why the last key was not taken, on two lines where one is too short; so wide it is.
+int NumericKeypad::paintRemark(QPainter &painter, const QRect &room) const
+{
+    const QString remark = refusal.isEmpty() ? limitsText : refusal;
+    painter.setPen(refusal.isEmpty() ? limitsColor : refusalColor);
+    painter.setFont(sized(font(), remarkPixels));
+    const int width = painter.fontMetrics().horizontalAdvance(remark + QLatin1Char(' '));
+    const QRect area(room.topLeft(), QSize(qMin(width, maxRemarkWidth), room.height()));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, remark);
+    return area.width();
 }
 
 void NumericKeypad::keyPressEvent(QKeyEvent *event)

@@ -25,6 +25,8 @@ public:
     void setLimits(const QString &limits, bool takesPoint, bool takesMinus);
     /// `startsOver`: the next key replaces the text.
     void showText(const QString &text, bool startsOver);
+    /// Says why the last key was not taken, in place of the limits; empty for one that was.
+    void showRefusal(const QString &reason);
     /// Shows the keypad beside its field, within the display.
     void open();
 
@@ -47,11 +49,13 @@ protected:
 private:
     /// The display that has `place`, in pixels of the screen.
     QRect displayAround(const QPoint &place) const;
-    OrvikButton *addKey(const QDir &imageDir, const QString &image, const QString &name, const NumericKey &key,
-                        const QRect &place);
+    int paintRemark(QPainter &painter, const QRect &room) const;
+    OrvikButton *addKey(const QDir &imageDir, const QString &image, const QString &name, const QString &spoken,
+                        const NumericKey &key, const QRect &place);
 
     QString shownText;
     QString limitsText;
+    QString refusal;
     bool textStartsOver = false;
     OrvikButton *pointKey = nullptr;
     OrvikButton *minusKey = nullptr;

@@ -97,7 +97,10 @@ void OrvikLineEditPrivate::handle(const NumericKey &key)
     if (!isEditing)
         beginEditing();
     bool hasChanged = false;
-    if (key.action == NumericKey::Action::Character)
+    const bool isCharacter = key.action == NumericKey::Action::Character;
+    if (keypad)
+        keypad->showRefusal(isCharacter ? entry.refusalText(entry.refusalOf(key.character)) : QString());
+    if (isCharacter)
         hasChanged = entry.type(key.character);
     else if (key.action == NumericKey::Action::EraseLast)
         hasChanged = entry.eraseLast();

@@ -367,6 +367,48 @@
     </message>
 </context>
 <context>
+    <name>NumericEntry</name>
+    <message>
+        <source>That would be no number</source>
+        <translation>Das wäre keine Zahl</translation>
+    </message>
+    <message>
+        <source>Whole numbers only</source>
+        <translation>Nur ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>Decimals: %1 at most</source>
+        <translation>Nachkommastellen: höchstens %1</translation>
+    </message>
+    <message>
+        <source>Beyond %1</source>
+        <translation>Außerhalb von %1</translation>
+    </message>
+    <message>
+        <source>Too many digits</source>
+        <translation>Zu viele Stellen</translation>
+    </message>
+</context>
+<context>
+    <name>NumericKeypad</name>
+    <message>
+        <source>Minus</source>
+        <translation>Minus</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>Letzte Stelle löschen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
     <name>OpenWindow</name>
     <message>
         <source>Reading %1</source>

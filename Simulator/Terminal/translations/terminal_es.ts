@@ -367,6 +367,48 @@
     </message>
 </context>
 <context>
+    <name>NumericEntry</name>
+    <message>
+        <source>That would be no number</source>
+        <translation>Eso no sería un número</translation>
+    </message>
+    <message>
+        <source>Whole numbers only</source>
+        <translation>Solo números enteros</translation>
+    </message>
+    <message>
+        <source>Decimals: %1 at most</source>
+        <translation>Decimales: %1 como máximo</translation>
+    </message>
+    <message>
+        <source>Beyond %1</source>
+        <translation>Fuera de %1</translation>
+    </message>
+    <message>
+        <source>Too many digits</source>
+        <translation>Demasiadas cifras</translation>
+    </message>
+</context>
+<context>
+    <name>NumericKeypad</name>
+    <message>
+        <source>Minus</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>Borrar la última cifra</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+</context>
+<context>
     <name>OpenWindow</name>
     <message>
         <source>Reading %1</source>

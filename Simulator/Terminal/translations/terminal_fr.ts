@@ -367,6 +367,48 @@
     </message>
 </context>
 <context>
+    <name>NumericEntry</name>
+    <message>
+        <source>That would be no number</source>
+        <translation>Ce ne serait pas un nombre</translation>
+    </message>
+    <message>
+        <source>Whole numbers only</source>
+        <translation>Nombres entiers seulement</translation>
+    </message>
+    <message>
+        <source>Decimals: %1 at most</source>
+        <translation>Décimales : %1 au plus</translation>
+    </message>
+    <message>
+        <source>Beyond %1</source>
+        <translation>Hors de %1</translation>
+    </message>
+    <message>
+        <source>Too many digits</source>
+        <translation>Trop de chiffres</translation>
+    </message>
+</context>
+<context>
+    <name>NumericKeypad</name>
+    <message>
+        <source>Minus</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>Effacer le dernier chiffre</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+</context>
+<context>
     <name>OpenWindow</name>
     <message>
         <source>Reading %1</source>

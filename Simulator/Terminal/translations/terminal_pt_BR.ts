@@ -367,6 +367,48 @@
     </message>
 </context>
 <context>
+    <name>NumericEntry</name>
+    <message>
+        <source>That would be no number</source>
+        <translation>Isso não seria um número</translation>
+    </message>
+    <message>
+        <source>Whole numbers only</source>
+        <translation>Somente números inteiros</translation>
+    </message>
+    <message>
+        <source>Decimals: %1 at most</source>
+        <translation>Casas decimais: %1 no máximo</translation>
+    </message>
+    <message>
+        <source>Beyond %1</source>
+        <translation>Fora de %1</translation>
+    </message>
+    <message>
+        <source>Too many digits</source>
+        <translation>Dígitos demais</translation>
+    </message>
+</context>
+<context>
+    <name>NumericKeypad</name>
+    <message>
+        <source>Minus</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Ponto</translation>
+    </message>
+    <message>
+        <source>Delete the last digit</source>
+        <translation>Apagar o último dígito</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+</context>
+<context>
     <name>OpenWindow</name>
     <message>
         <source>Reading %1</source>

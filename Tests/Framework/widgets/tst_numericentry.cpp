@@ -12,6 +12,8 @@ class tst_NumericEntry : public TestBase {
 private Q_SLOTS:
     void takesOnlyKeysWithinTheLimits_data();
     void takesOnlyKeysWithinTheLimits();
+    void saysWhyAKeyIsNotTaken_data();
+    void saysWhyAKeyIsNotTaken();
     void replacesAnyTextWithTheFirstKey_data();
     void replacesAnyTextWithTheFirstKey();
     void aRefusedFirstKeyLeavesTheTextToBeReplaced();
@@ -127,6 +129,50 @@ void tst_NumericEntry::takesOnlyKeysWithinTheLimits()
     limits(entry);
     type(entry, keys);
     QTEST(entry.text(), "text");
+}
+
+void tst_NumericEntry::saysWhyAKeyIsNotTaken_data()
+{
+    QTest::addColumn<Limits>("limits");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("reason");
+    const Limits none = [](NumericEntry &) {};
+    const Limits threeAndOne = [](NumericEntry &entry) { entry.setSizeLimits(3, 1); };
+    const Limits whole = [](NumericEntry &entry) { entry.setRange(-5.0, 40.0, 0); };
+    QTest::newRow("a key that is taken") << threeAndOne << "2" << QString();
+    QTest::newRow("the last digit that is taken") << threeAndOne << "999.9" << QString();
+    QTest::newRow("a digit too many") << threeAndOne << "1234"
+                                      << "Beyond 0 \u2013 999.9";
+    QTest::newRow("a decimal too many") << threeAndOne << "2.57"
+                                        << "Decimals: 1 at most";
+    QTest::newRow("a minus") << threeAndOne << "-"
+                             << "Beyond 0 \u2013 999.9";
+    QTest::newRow("below the range") << whole << "-6"
+                                     << "Beyond -5 \u2013 40";
+    QTest::newRow("above the range") << whole << "41"
+                                     << "Beyond -5 \u2013 40";
+    QTest::newRow("the point of a whole number") << whole << "3."
+                                                 << "Whole numbers only";
+    QTest::newRow("a second point") << threeAndOne << "2.5."
+                                    << "That would be no number";
+    QTest::newRow("a letter") << threeAndOne << "2x"
+                              << "That would be no number";
+    QTest::newRow("without limits") << none << "12345678901234567"
+                                    << "Too many digits";
+}
+
+void tst_NumericEntry::saysWhyAKeyIsNotTaken()
+{
+    QFETCH(Limits, limits);
+    QFETCH(QString, keys);
+    NumericEntry entry;
+    limits(entry);
+    type(entry, keys.chopped(1));
+    const NumericEntry::Refusal refusal = entry.refusalOf(keys.back());
+    QTEST(entry.refusalText(refusal), "reason");
+    const QString before = entry.text();
+    type(entry, keys.right(1));
+    QCOMPARE(entry.text() == before, refusal != NumericEntry::Refusal::None);
 }
 
 void tst_NumericEntry::replacesAnyTextWithTheFirstKey_data()

@@ -1,4 +1,5 @@
 #include "lineedittest.h"
+#include "paintedtexts.h"
 
 #include "Framework/orvikbutton.h"
 
@@ -11,6 +12,7 @@ class TestOrvikLineEditKeypad : public LineEditTest {
 private Q_SLOTS:
     void aTouchOpensTheKeypad();
     void aTouchSlidOffTheFieldOpensNothing();
+    void theKeypadSaysWhyAKeyIsNotTaken();
     void enterClosesTheKeypad();
     void aFingerBesideTheKeypadOnlyClosesIt();
     void aTouchHandedToAnotherFieldMovesTheKeypadThere();
@@ -40,6 +42,24 @@ void TestOrvikLineEditKeypad::aTouchSlidOffTheFieldOpensNothing()
     QTest::mousePress(field, Qt::LeftButton);
     QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(-20, 10));
     QVERIFY(keypad() == nullptr);
+}
+
+void TestOrvikLineEditKeypad::theKeypadSaysWhyAKeyIsNotTaken()
+{
+    const QString decimals = QStringLiteral("Decimals: 1 at most");
+    field->setNumericSizeLimits(3, 1);
+    QTest::mouseClick(field, Qt::LeftButton);
+    touchKeys(QStringLiteral("2.5"));
+    QVERIFY(!paintedTexts(*keypad()).contains(decimals));
+    touchKeys(QStringLiteral("7"));
+    QCOMPARE(field->getText(), QStringLiteral("2.5"));
+    QVERIFY(paintedTexts(*keypad()).contains(decimals));
+    QCOMPARE(keypad()->accessibleDescription(), decimals);
+    // The number is still there to be read.
+    QVERIFY(paintedTexts(*keypad()).contains(QStringLiteral("2.5")));
+    touchKeys(QStringLiteral("<"));
+    QVERIFY(!paintedTexts(*keypad()).contains(decimals));
+    QCOMPARE(keypad()->accessibleDescription(), QString());
 }
 
 void TestOrvikLineEditKeypad::enterClosesTheKeypad()
