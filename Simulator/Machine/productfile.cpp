@@ -249,8 +249,8 @@ QString ProductFile::shortNameOf(const QString &name)
 Products ProductFile::standard()
 {
     return {
-        standardProduct(1, QStringLiteral("Seed"), QStringLiteral("Seed"), Product::Kind::Count, 80.0),
-        standardProduct(2, QStringLiteral("Fertiliser"), QStringLiteral("Fert"), Product::Kind::Weight, 150.0),
-        standardProduct(3, QStringLiteral("Herbicide"), QStringLiteral("Herb"), Product::Kind::Volume, 2.0),
+        standardProduct(1, tr("Seed"), tr("Seed", "short"), Product::Kind::Count, 80.0),
+        standardProduct(2, tr("Fertiliser"), tr("Fert", "short"), Product::Kind::Weight, 150.0),
+        standardProduct(3, tr("Herbicide"), tr("Herb", "short"), Product::Kind::Volume, 2.0),
     };
 }

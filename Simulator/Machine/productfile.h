@@ -4,6 +4,8 @@
 #include "product.h"
 #include "result.h"
 
+#include <QCoreApplication>
+
 /// A machine as a file describes it.
 struct MachineSetup {
     MachineSize size;
@@ -19,6 +21,8 @@ struct MachineSetup {
 /// "timeConstant" (seconds), "minRate" and "maxRate" (base units; these four as usual for the kind).
 /// Keys are read without regard to case, blanks, hyphens and underscores.
 class ProductFile {
+    Q_DECLARE_TR_FUNCTIONS(ProductFile)
+
 public:
     static constexpr int maxProducts = 16;
 
@@ -26,7 +30,7 @@ public:
     static Result<MachineSetup> read(const QString &path);
     /// The same from the file's content; `name` stands for the file in errors.
     static Result<MachineSetup> parse(const QByteArray &json, const QString &name);
-    /// The machine when no file describes one: seed, fertiliser and crop protection.
+    /// The machine when no file describes one: seed, fertiliser and crop protection, named in the language chosen.
     static Products standard();
     static MachineSetup standardMachine() { return {{}, standard(), true}; }
     /// The letters of a product's name that stand for it where there is little room.

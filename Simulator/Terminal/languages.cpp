@@ -1,6 +1,7 @@
 #include "languages.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -34,8 +35,10 @@ QString Languages::install(const QString &code, const QDir &pluginFolder)
 {
     QString language = code;
     language.replace(QLatin1Char('-'), QLatin1Char('_'));
-    if (language.compare(QLatin1String("en"), Qt::CaseInsensitive) == 0)
+    if (language.compare(QLatin1String("en"), Qt::CaseInsensitive) == 0) {
+        QLocale::setDefault(QLocale::English);
         return {};
+    }
     bool isFound = false;
     for (const QString &path : {pluginFolder.path(), pluginFolder.filePath(QStringLiteral("translations"))}) {
         const QFileInfoList catalogues = QDir(path).entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
@@ -49,6 +52,8 @@ QString Languages::install(const QString &code, const QDir &pluginFolder)
     }
     if (!isFound)
         return QStringLiteral("--language %1: no catalogue for it in %2").arg(code, pluginFolder.path());
+    // Numbers are written as it writes them.
+    QLocale::setDefault(QLocale(language));
     // A language that only the plug-ins speak leaves the display's own texts as they are.
     initialiseCatalogues();
     const QStringList own = QDir(QStringLiteral(":/translations")).entryList();

@@ -7,7 +7,7 @@
 /// or its folder "translations", and the display's own, which the program carries.
 class Languages {
 public:
-    /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application. Empty, or the
-    /// reason when there is none.
+    /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application, and has numbers
+    /// shown as it writes them (QLocale's default). Empty, or the reason when there is none.
     static QString install(const QString &code, const QDir &pluginFolder);
 };

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMap>
 #include <QScopedPointer>
 #include <QTemporaryDir>
@@ -69,6 +70,8 @@ int main(int argc, char *argv[])
     // What the terminal remembers is the operator's, not the tests'.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    // Numbers are written as on a terminal in its own language, whatever the computer's.
+    QLocale::setDefault(QLocale::English);
     const QScopedPointer<QCoreApplication> application(makeApplication(entry->application, argc, argv));
     const QScopedPointer<QObject> test(entry->make());
     return QTest::qExec(test.data(), argc, argv);

@@ -1,7 +1,10 @@
 #include "languages.h"
 #include "paths.h"
+#include "productfile.h"
+#include "shownnumber.h"
 #include "testbase.h"
 
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -13,6 +16,8 @@ private Q_SLOTS:
     void cleanup();
     void aLanguageIsFoundByItsCode_data();
     void aLanguageIsFoundByItsCode();
+    void numbersAndTheUsualProductsFollowTheLanguage_data();
+    void numbersAndTheUsualProductsFollowTheLanguage();
     void everyTextOfTheDisplayIsTranslated_data();
     void everyTextOfTheDisplayIsTranslated();
     void englishNeedsNoCatalogue_data();
@@ -31,6 +36,7 @@ private:
 void TestLanguages::cleanup()
 {
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    QLocale::setDefault(QLocale::English);
     TestBase::cleanup();
 }
 
@@ -65,6 +71,28 @@ void TestLanguages::aLanguageIsFoundByItsCode()
     QCOMPARE(Languages::install(code, QDir(pluginFolder())), QString());
     QTEST(title(), "text");
     QTEST(QCoreApplication::translate("ProductSelector", "PRODUCTS"), "ownText");
+}
+
+void TestLanguages::numbersAndTheUsualProductsFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("en") << "en"
+                        << "5,932.5" << QStringList{"Fertiliser", "Fert"};
+    QTest::newRow("de") << "de"
+                        << "5.932,5" << QStringList{"D\u00fcnger", "D\u00fcng"};
+    QTest::newRow("pt-br") << "pt-br"
+                           << "5.932,5" << QStringList{"Fertilizante", "Fert"};
+}
+
+void TestLanguages::numbersAndTheUsualProductsFollowTheLanguage()
+{
+    QFETCH(QString, code);
+    QCOMPARE(Languages::install(code, QDir(pluginFolder())), QString());
+    QTEST(ShownNumber::text(5932.5, 1), "number");
+    const Product fertiliser = ProductFile::standard().at(1);
+    QTEST((QStringList{fertiliser.name, fertiliser.shortName}), "names");
 }
 
 void TestLanguages::everyTextOfTheDisplayIsTranslated_data()

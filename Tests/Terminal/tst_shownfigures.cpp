@@ -3,6 +3,7 @@
 #include "legendpanel.h"
 #include "machine.h"
 #include "paintedtexts.h"
+#include "shownnumber.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
 
@@ -118,7 +119,7 @@ void TestShownFigures::aFigureIsOffByLessThanHalfOfItsLastDigit()
         const QStringList texts = paintedTexts(*terminal().window()->legend());
         QList<double> legend;
         for (const QString &text : texts)
-            legend.append(text.toDouble());
+            legend.append(QLocale().toDouble(text));
         for (size_t i = 0; i < rates.size(); ++i) {
             const double exact = rates[i] * factor;
             const double slack = exact * singlePrecision;
@@ -128,7 +129,8 @@ void TestShownFigures::aFigureIsOffByLessThanHalfOfItsLastDigit()
             QVERIFY2(std::fabs(text.toDouble() - exact) <= 0.005 + slack, qPrintable(told));
             if (isOperatorsOwn && rates[i] < mostHundredths) {
                 QCOMPARE(text, QString::number(rates[i], 'f', 2));
-                QVERIFY2(texts.contains(ShownRate::text(rates[i])), qPrintable(texts.join(QLatin1Char('|'))));
+                QVERIFY2(texts.contains(ShownNumber::inLanguage(ShownRate::text(rates[i]))),
+                         qPrintable(texts.join(QLatin1Char('|'))));
             }
             const bool isInLegend = std::any_of(legend.begin(), legend.end(), [&](double shown) {
                 return shown != 0.0 && std::fabs(shown - exact) <= 0.5 * ShownRate::step(exact) + slack;

@@ -152,7 +152,7 @@ void TestTerminal::ratesInTheOperatorsUnitAreTheFilesNumbers_data()
     row("L/ha", 3, UnitSystem::Metric, 0.07, "0.07", "0.07");
     row("seeds/ac", 1, UnitSystem::Us, 32150.0, "32.15", "32.15");
     row("1000/ac", 1, UnitSystem::Us, 32.1, "32.10", "32.1");
-    row("seeds/m2", 1, UnitSystem::Metric, 310.5, "3105.00", "3105");
+    row("seeds/m2", 1, UnitSystem::Metric, 310.5, "3105.00", "3,105");
 }
 
 void TestTerminal::ratesInTheOperatorsUnitAreTheFilesNumbers()

@@ -3,6 +3,7 @@
 #include "Backend/prescriptionbackend.h"
 #include "fieldview.h"
 #include "mapoverlay.h"
+#include "shownnumber.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
 #include "theme.h"
@@ -76,7 +77,7 @@ void FindingsDisplay::update()
             entries.append({file, map.group, finding});
     }
     window->overlay()->setMark({}, {});
-    button->setText(QString::number(entries.size()));
+    button->setText(ShownNumber::text(entries.size()));
     button->setVisible(!entries.isEmpty());
     page->setEntries(entries);
     if (entries.isEmpty())

@@ -1,6 +1,7 @@
 #include "findingspage.h"
 
 #include "findingrow.h"
+#include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
 
@@ -44,7 +45,7 @@ FindingsPage::FindingsPage(QWidget *parent)
 
 void FindingsPage::setEntries(const QList<Entry> &entries)
 {
-    heading->setText(tr("Map check: %1").arg(entries.size()));
+    heading->setText(tr("Map check: %1").arg(ShownNumber::text(entries.size())));
     const int scrolled = area->verticalScrollBar()->value();
     auto *list = new QWidget;
     auto *rows = new QVBoxLayout(list);

@@ -3,6 +3,7 @@
 #include "Backend/prescriptionbackend.h"
 #include "fielddrive.h"
 #include "machine.h"
+#include "shownnumber.h"
 #include "simulation.h"
 #include "vehicle.h"
 
@@ -76,8 +77,8 @@ double DriveControls::speed() const
 
 QString DriveControls::speedText() const
 {
-    return isMetric() ? tr("%1 km/h").arg(speed() / kilometreAnHour, 0, 'f', 1)
-                      : tr("%1 mph").arg(speed() / mileAnHour, 0, 'f', 1);
+    return isMetric() ? tr("%1 km/h").arg(ShownNumber::text(speed() / kilometreAnHour, 1))
+                      : tr("%1 mph").arg(ShownNumber::text(speed() / mileAnHour, 1));
 }
 
 void DriveControls::faster()

@@ -2,6 +2,7 @@
 
 #include "Backend/prescriptionbackend.h"
 #include "listrow.h"
+#include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
 
@@ -15,7 +16,7 @@ constexpr int unitWidth = 134;
 /// Six digits tell any rate apart that one has to.
 QString rateText(double rate)
 {
-    return QString::number(rate, 'g', 6);
+    return ShownNumber::inLanguage(QString::number(rate, 'g', 6));
 }
 
 } // namespace
@@ -73,7 +74,7 @@ QStringList ColumnRow::notes(const SurveyedColumn &column, const QString &unit)
     if (column.shareWithoutRate > 0.0) {
         const double percent = 100.0 * column.shareWithoutRate;
         lines.append(percent < 1.0 ? tr("less than 1 % without a rate")
-                                   : tr("%1 % without a rate").arg(percent, 0, 'f', 0));
+                                   : tr("%1 % without a rate").arg(ShownNumber::text(percent)));
     }
     return lines;
 }

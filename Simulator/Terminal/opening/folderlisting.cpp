@@ -14,10 +14,8 @@ namespace {
 
 QString ageAndSize(const QFileInfo &info)
 {
-    // Neither follows the computer's language, which need not be the operator's.
-    const QLocale locale = QLocale::c();
     const QString age = info.lastModified().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-    return info.isDir() ? age : locale.formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
+    return info.isDir() ? age : QLocale().formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
 }
 
 } // namespace

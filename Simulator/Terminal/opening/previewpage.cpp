@@ -5,6 +5,7 @@
 #include "legendpanel.h"
 #include "machine.h"
 #include "mappreview.h"
+#include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
 
@@ -148,7 +149,7 @@ void PreviewPage::refresh()
     showColumn(table->shownColumn());
     accept->setEnabled(selection->feedsAny());
     accept->setChecked(accept->isEnabled());
-    const QString polygons = tr("Polygons: %1").arg(survey.polygons);
+    const QString polygons = tr("Polygons: %1").arg(ShownNumber::text(survey.polygons));
     const QString lack = selection->feedsAny() ? QString() : tr("Choose a product for a column to open the file.");
     remark->setText(lack.isEmpty() ? polygons : polygons + QLatin1Char('\n') + lack);
 }

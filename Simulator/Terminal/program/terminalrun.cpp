@@ -196,6 +196,12 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
 
 QString runTerminal(const CommandLine &line, double scale)
 {
+    const QDir pluginFolder = line.pluginDir.isEmpty() ? Installation::plugins() : QDir(line.pluginDir);
+    QString error = Languages::install(line.language.isEmpty() ? QStringLiteral("en") : line.language, pluginFolder);
+    if (error.isEmpty())
+        error = NeededImages::problem(Installation::images());
+    if (!error.isEmpty())
+        return error;
     MachineSetup setup = ProductFile::standardMachine();
     if (!line.productFile.isEmpty()) {
         const Result<MachineSetup> read = ProductFile::read(line.productFile);
@@ -203,12 +209,6 @@ QString runTerminal(const CommandLine &line, double scale)
             return read.error;
         setup = read.value;
     }
-    const QDir pluginFolder = line.pluginDir.isEmpty() ? Installation::plugins() : QDir(line.pluginDir);
-    QString error = line.language.isEmpty() ? QString() : Languages::install(line.language, pluginFolder);
-    if (error.isEmpty())
-        error = NeededImages::problem(Installation::images());
-    if (!error.isEmpty())
-        return error;
 
     Terminal terminal(setup, line.units);
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));

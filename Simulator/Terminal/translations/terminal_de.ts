@@ -322,6 +322,10 @@
         <source>Total</source>
         <translation>Gesamt</translation>
     </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>
@@ -480,6 +484,36 @@
     <message>
         <source>No product</source>
         <translation>Kein Produkt</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFile</name>
+    <message>
+        <source>Seed</source>
+        <translation>Saatgut</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <comment>short</comment>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Fertiliser</source>
+        <translation>Dünger</translation>
+    </message>
+    <message>
+        <source>Fert</source>
+        <comment>short</comment>
+        <translation>Düng</translation>
+    </message>
+    <message>
+        <source>Herbicide</source>
+        <translation>Herbizid</translation>
+    </message>
+    <message>
+        <source>Herb</source>
+        <comment>short</comment>
+        <translation>Herb</translation>
     </message>
 </context>
 <context>

@@ -322,6 +322,10 @@
         <source>Total</source>
         <translation>Total</translation>
     </message>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>
@@ -480,6 +484,36 @@
     <message>
         <source>No product</source>
         <translation>Aucun produit</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFile</name>
+    <message>
+        <source>Seed</source>
+        <translation>Semence</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <comment>short</comment>
+        <translation>Sem.</translation>
+    </message>
+    <message>
+        <source>Fertiliser</source>
+        <translation>Engrais</translation>
+    </message>
+    <message>
+        <source>Fert</source>
+        <comment>short</comment>
+        <translation>Engr</translation>
+    </message>
+    <message>
+        <source>Herbicide</source>
+        <translation>Herbicide</translation>
+    </message>
+    <message>
+        <source>Herb</source>
+        <comment>short</comment>
+        <translation>Herb</translation>
     </message>
 </context>
 <context>

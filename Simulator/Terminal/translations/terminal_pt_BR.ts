@@ -322,6 +322,10 @@
         <source>Total</source>
         <translation>Total</translation>
     </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legenda</translation>
+    </message>
 </context>
 <context>
     <name>MapOverlay</name>
@@ -480,6 +484,36 @@
     <message>
         <source>No product</source>
         <translation>Nenhum produto</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFile</name>
+    <message>
+        <source>Seed</source>
+        <translation>Semente</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <comment>short</comment>
+        <translation>Sem.</translation>
+    </message>
+    <message>
+        <source>Fertiliser</source>
+        <translation>Fertilizante</translation>
+    </message>
+    <message>
+        <source>Fert</source>
+        <comment>short</comment>
+        <translation>Fert</translation>
+    </message>
+    <message>
+        <source>Herbicide</source>
+        <translation>Herbicida</translation>
+    </message>
+    <message>
+        <source>Herb</source>
+        <comment>short</comment>
+        <translation>Herb</translation>
     </message>
 </context>
 <context>

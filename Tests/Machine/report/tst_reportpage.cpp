@@ -239,7 +239,7 @@ void TestReportPage::numbersAreShort_data()
     QTest::newRow("ratio") << 0.01234 << "0.0123";
     QTest::newRow("rate") << 84.26 << "84.3";
     QTest::newRow("below zero") << -84.26 << QStringLiteral("\u221284.3");
-    QTest::newRow("many") << 1234567.8 << "1234568";
+    QTest::newRow("many") << 1234567.8 << "1,234,568";
     QTest::newRow("no number") << std::nan("") << QStringLiteral("\u2013");
 }
 

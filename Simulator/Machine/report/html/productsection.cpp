@@ -6,6 +6,7 @@
 #include "fieldraster.h"
 #include "machine.h"
 #include "ratecontroller.h"
+#include "shownnumber.h"
 #include "simulation.h"
 
 #include <QBuffer>
@@ -39,8 +40,7 @@ QString seconds(double value)
 
 QString inPercent(double part, double whole)
 {
-    return whole > 0.0 ? QString::number(100.0 * part / whole, 'f', 1) + QStringLiteral(" %")
-                       : QStringLiteral("\u2013");
+    return whole > 0.0 ? ShownNumber::text(100.0 * part / whole, 1) + QStringLiteral(" %") : QStringLiteral("\u2013");
 }
 
 } // namespace
@@ -224,7 +224,7 @@ void ProductSection::writeChanges(QXmlStreamWriter &page) const
     page.writeTextElement(
         QStringLiteral("p"),
         tr("%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.")
-            .arg(QString::number(changes.size()),
+            .arg(ShownNumber::text(double(changes.size())),
                  ReportUnits::number(units.length(median.metres), 2) + QLatin1Char(' ') + units.lengthUnit(),
                  seconds(median.seconds)));
     const auto isFarther = [](const BorderWatch::Change &a, const BorderWatch::Change &b) {

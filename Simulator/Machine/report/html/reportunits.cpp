@@ -1,6 +1,7 @@
 #include "reportunits.h"
 
 #include "machine.h"
+#include "shownnumber.h"
 
 #include "Framework/databroker.h"
 #include "Framework/dbgroupproductgroupinfo.h"
@@ -44,7 +45,8 @@ QString ReportUnits::number(double value, int decimals)
         return QStringLiteral("\u2013");
     // What is rounded to zero has no sign.
     const QString text = QString::number(std::fabs(value), 'f', decimals);
-    return value < 0.0 && text.toDouble() != 0.0 ? QChar(0x2212) + text : text;
+    const QString shown = ShownNumber::inLanguage(text);
+    return value < 0.0 && text.toDouble() != 0.0 ? QChar(0x2212) + shown : shown;
 }
 
 ReportUnits::ReportUnits(const Machine &machine, int number)

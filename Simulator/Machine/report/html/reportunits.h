@@ -7,7 +7,7 @@
 
 class Machine;
 
-/// Numbers of a report in the operator's units, as text.
+/// Numbers of a report in the operator's units, as text in the language chosen.
 class ReportUnits {
 public:
     /// At least three significant digits, no more than four decimals, no exponent.

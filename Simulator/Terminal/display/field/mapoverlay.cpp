@@ -1,6 +1,7 @@
 #include "mapoverlay.h"
 
 #include "fieldscene.h"
+#include "shownnumber.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -170,11 +171,12 @@ void MapOverlay::drawScaleBar(QPainter &painter) const
     most = isLong ? most / feetPerMile : most;
     const double length = roundLength(most);
     const double pixels = length * (isLong ? feetPerMile : 1.0) / perPixel;
+    const auto text = [](double number) { return ShownNumber::inLanguage(QString::number(number)); };
     QString label;
     if (isMetric)
-        label = length >= 1000.0 ? tr("%1 km").arg(length / 1000.0) : tr("%1 m").arg(length);
+        label = length >= 1000.0 ? tr("%1 km").arg(text(length / 1000.0)) : tr("%1 m").arg(text(length));
     else
-        label = isLong ? tr("%1 mi").arg(length) : tr("%1 ft").arg(length);
+        label = (isLong ? tr("%1 mi") : tr("%1 ft")).arg(text(length));
 
     const QPointF start(freeArea.left() + 22.0, freeArea.bottom() - 24.0);
     Theme::drawPanel(painter, QRectF(start.x() - 14.0, start.y() - 34.0, pixels + 28.0, 48.0), Theme::panel());

@@ -2,6 +2,7 @@
 
 #include "Backend/shownrate.h"
 #include "fieldscene.h"
+#include "shownnumber.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -26,7 +27,8 @@ QString sumText(double value)
 {
     const int decimals = value < 10.0 ? 2 : value < 100.0 ? 1 : 0;
     constexpr double least = 0.01;
-    return value > 0.0 && value < least ? QStringLiteral("< 0.01") : QString::number(value, 'f', decimals);
+    return value > 0.0 && value < least ? QStringLiteral("< ") + ShownNumber::text(least, 2)
+                                        : ShownNumber::text(value, decimals);
 }
 
 /// So small that all texts fit into `width` pixels, if it stays legible.
@@ -55,6 +57,7 @@ LegendPanel::LegendPanel(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("legend"));
+    setAccessibleName(tr("Legend"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -67,13 +70,16 @@ void LegendPanel::show(const Content &newContent)
         texts.append(classText(i));
         areaTexts.append(i < content.areas.size() ? sumText(content.areas.at(i)) : QString());
     }
+    setAccessibleDescription(content.product + QStringLiteral(": ") + texts.join(QStringLiteral("; ")));
     resize(sizeHint());
     update();
 }
 
 QString LegendPanel::classText(int index) const
 {
-    const auto limitOf = [this](int place) { return ShownRate::text(content.classes.at(place).rate * content.factor); };
+    const auto limitOf = [this](int place) {
+        return ShownNumber::inLanguage(ShownRate::text(content.classes.at(place).rate * content.factor));
+    };
     // Zero is a class of its own, and no rate is below it.
     if (content.hasSingleRates || content.classes.at(index).rate == 0.0)
         return limitOf(index);

@@ -1,5 +1,6 @@
 #include "statusbar.h"
 
+#include "shownnumber.h"
 #include "theme.h"
 
 #include <QAbstractButton>
@@ -78,7 +79,8 @@ void StatusBar::setSpeed(double metresPerSecond, bool metric)
 {
     isMoving = metresPerSecond > 0.0;
     const double factor = metric ? kilometresPerHour : milesPerHour;
-    speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(metresPerSecond * factor, 0, 'f', 1) : tr("Stopped");
+    const QString shown = ShownNumber::text(metresPerSecond * factor, 1);
+    speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(shown) : tr("Stopped");
     update();
 }
 

@@ -1,6 +1,7 @@
 #include "shownunit.h"
 
 #include "machine.h"
+#include "shownnumber.h"
 
 #include "Framework/databroker.h"
 #include "Framework/dbgroupproductgroupinfo.h"
@@ -26,5 +27,5 @@ QString ShownUnit::rateText(double rate) const
     // What is rounded up to another digit has that one already.
     constexpr double roundedUp = 1.0005;
     const int digits = int(std::floor(std::log10(roundedUp * std::fabs(value)))) + 1;
-    return QString::number(value, 'f', std::clamp(3 - digits, 0, mostDecimals));
+    return ShownNumber::text(value, std::clamp(3 - digits, 0, mostDecimals));
 }

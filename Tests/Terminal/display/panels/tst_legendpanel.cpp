@@ -34,12 +34,12 @@ QStringList classTexts(LegendPanel &panel)
     return paintedTexts(panel).mid(1);
 }
 
-/// Pixels from the right-most bright one to the picture's right edge.
+/// Pixels from the right-most dark one to the picture's right edge.
 int clearance(const QImage &image)
 {
     for (int x = image.width() - 1; x >= 0; --x) {
         for (int y = 0; y < image.height(); ++y) {
-            if (qGray(image.pixel(x, y)) > 100)
+            if (qGray(image.pixel(x, y)) < 100)
                 return image.width() - 1 - x;
         }
     }
@@ -77,7 +77,7 @@ void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit_data()
     QTest::newRow("without zero") << QList<double>{23.0, 60.0} << 1.0 << QStringList{"≤ 23", "23 – 60"};
     QTest::newRow("converted") << QList<double>{10.0, 20.0} << 0.25 << QStringList{"≤ 2.5", "2.5 – 5"};
     QTest::newRow("small") << QList<double>{0.0123, 0.5} << 1.0 << QStringList{"≤ 0.0123", "0.0123 – 0.5"};
-    QTest::newRow("large") << QList<double>{70000.0, 81234.5} << 1.0 << QStringList{"≤ 70000", "70000 – 81234.5"};
+    QTest::newRow("large") << QList<double>{70000.0, 81234.5} << 1.0 << QStringList{"≤ 70,000", "70,000 – 81,234.5"};
 }
 
 void TestLegendPanel::classesReadAsRangesInTheOperatorsUnit()
@@ -98,11 +98,11 @@ void TestLegendPanel::singleRatesReadAsTheRateItself_data()
     QTest::newRow("with zero") << QList<double>{0.0, 49.0, 300.0} << 1.0 << QStringList{"0", "49", "300"};
     QTest::newRow("one rate") << QList<double>{12.5} << 1.0 << QStringList{"12.5"};
     QTest::newRow("as exact as an answer")
-        << QList<double>{100.0 / 3, 1234.567} << 1.0 << QStringList{"33.33", "1234.57"};
+        << QList<double>{100.0 / 3, 1234.567} << 1.0 << QStringList{"33.33", "1,234.57"};
     QTest::newRow("single precision") << QList<double>{double(0.1F)} << 1.0 << QStringList{"0.1"};
     QTest::newRow("converted") << QList<double>{10.0, 20.0} << 0.25 << QStringList{"2.5", "5"};
     QTest::newRow("small") << QList<double>{0.0123} << 1.0 << QStringList{"0.0123"};
-    QTest::newRow("long") << QList<double>{81234567.0} << 1.0 << QStringList{"81234567"};
+    QTest::newRow("long") << QList<double>{81234567.0} << 1.0 << QStringList{"81,234,567"};
     QTest::newRow("beyond reading") << QList<double>{1.236e30} << 1.0 << QStringList{"1.236e+30"};
 }
 
@@ -170,8 +170,8 @@ void TestLegendPanel::areasStandBesideTheClassesAndSumsBelow()
     LegendPanel panel;
     panel.show(content);
     QCOMPARE(paintedTexts(panel).mid(1),
-             QStringList({"lb/ac", "ac", "10", "< 0.01", "20", "1.23", "30", "12.3", "40", "1235", "Area", "1248 ac",
-                          "Total", "50123 lb"}));
+             QStringList({"lb/ac", "ac", "10", "< 0.01", "20", "1.23", "30", "12.3", "40", "1,235", "Area", "1,248 ac",
+                          "Total", "50,123 lb"}));
     // What adds up to nothing, as a pressure, has no total.
     content.amountUnit.clear();
     panel.show(content);

@@ -129,7 +129,7 @@ void TestDriveStrip::ratesAreInTheOperatorsUnit()
                                      {9.9996, "10.0"},
                                      {0.00001, "0"},
                                      {99.0, "99.0"},
-                                     {12345.6, "12346"}})
+                                     {12345.6, "12,346"}})
         QCOMPARE(ShownUnit().rateText(rate), QLatin1String(text));
 }
 

@@ -1,0 +1,83 @@
+#include "reportunits.h"
+#include "shownnumber.h"
+#include "testbase.h"
+
+#include <QLocale>
+
+/// Numbers as each language writes them.
+class TestShownNumber : public TestBase {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void aLanguageHasItsOwnSeparators_data();
+    void aLanguageHasItsOwnSeparators();
+    void noDigitIsLost();
+    void aReportsNumbersFollow();
+};
+
+void TestShownNumber::cleanup()
+{
+    QLocale::setDefault(QLocale::English);
+    TestBase::cleanup();
+}
+
+void TestShownNumber::aLanguageHasItsOwnSeparators_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("English") << "en"
+                             << "12345.60"
+                             << "12,345.60";
+    QTest::newRow("German") << "de"
+                            << "12345.60"
+                            << "12.345,60";
+    QTest::newRow("German, a fraction") << "de"
+                                        << "0.07"
+                                        << "0,07";
+    QTest::newRow("German, below zero") << "de"
+                                        << "-1234.5"
+                                        << "-1.234,5";
+    QTest::newRow("German, whole") << "de"
+                                   << "5932"
+                                   << "5.932";
+    QTest::newRow("German, a power of ten") << "de"
+                                            << "1.23457e+06"
+                                            << "1,23457e+06";
+    QTest::newRow("Portuguese of Brazil") << "pt_BR"
+                                          << "1234.5"
+                                          << "1.234,5";
+    QTest::newRow("French") << "fr"
+                            << "1234.5" << QStringLiteral("1\u202f234,5");
+    QTest::newRow("none chosen") << "C"
+                                 << "12345.60"
+                                 << "12345.60";
+}
+
+void TestShownNumber::aLanguageHasItsOwnSeparators()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, plain);
+    QLocale::setDefault(QLocale(language));
+    QTEST(ShownNumber::inLanguage(plain), "shown");
+}
+
+void TestShownNumber::noDigitIsLost()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de")));
+    QCOMPARE(ShownNumber::inLanguage(QStringLiteral("999999999999.12")), QStringLiteral("999.999.999.999,12"));
+    QCOMPARE(ShownNumber::inLanguage(QStringLiteral("0.0001234")), QStringLiteral("0,0001234"));
+    QCOMPARE(ShownNumber::text(2.5, 2), QStringLiteral("2,50"));
+}
+
+void TestShownNumber::aReportsNumbersFollow()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de")));
+    QCOMPARE(ReportUnits::number(-12.345), QStringLiteral("\u221212,3"));
+    QCOMPARE(ReportUnits::number(54321.0), QStringLiteral("54.321"));
+    QCOMPARE(ReportUnits::number(-0.004, 2), QStringLiteral("0,00"));
+}
+
+RXMAP_TEST(TestShownNumber, None)
+#include "tst_shownnumber.moc"
