@@ -4,6 +4,7 @@
 #include "findingkind.h"
 #include "theme.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -21,7 +22,9 @@ FindingRow::FindingRow(const MapFinding &finding, const QString &file, QWidget *
     setText(finding.text);
     if (!file.isEmpty())
         title += QStringLiteral("  \u00b7  ") + file;
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(title);
+    setAccessibleDescription(finding.text);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // What lies nowhere cannot be shown.
     setEnabled(finding.place.has_value());
@@ -32,11 +35,21 @@ QSize FindingRow::sizeHint() const
     return QSize(rowHeight, rowHeight);
 }
 
+void FindingRow::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    event->setAccepted(isEnter);
+    if (isEnter && !event->isAutoRepeat())
+        click();
+}
+
 void FindingRow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByOther);
     Theme::drawPanel(painter, rect(), look.ground);
+    if (hasFocus())
+        Theme::drawFocus(painter, rect(), false);
     const QRect inner = rect().adjusted(inset, 8, -inset, -8);
     painter.setPen(look.text);
     painter.setFont(Theme::font(titlePixels, true));

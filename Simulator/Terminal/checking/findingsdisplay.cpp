@@ -78,6 +78,7 @@ void FindingsDisplay::update()
     }
     window->overlay()->setMark({}, {});
     button->setText(ShownNumber::text(entries.size()));
+    button->setAccessibleName(tr("Map check: %1").arg(button->text()));
     button->setVisible(!entries.isEmpty());
     page->setEntries(entries);
     if (entries.isEmpty())
@@ -95,6 +96,7 @@ void FindingsDisplay::toggle()
         window->fieldView()->geometry().adjusted(Theme::margin, Theme::margin, -Theme::margin, -Theme::margin));
     page->show();
     page->raise();
+    page->setFocus();
 }
 
 void FindingsDisplay::leave()

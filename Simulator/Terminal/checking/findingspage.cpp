@@ -5,7 +5,9 @@
 #include "theme.h"
 #include "touchbutton.h"
 
+#include <QApplication>
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
@@ -30,6 +32,12 @@ FindingsPage::FindingsPage(QWidget *parent)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->viewport()->setAutoFillBackground(false);
+    // Rows have the keyboard themselves.
+    area->setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now != nullptr && area->isAncestorOf(now))
+            area->ensureWidgetVisible(now);
+    });
     QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
 
     auto *head = new QHBoxLayout;
@@ -61,6 +69,14 @@ void FindingsPage::setEntries(const QList<Entry> &entries)
     area->setWidget(list);
     list->setAutoFillBackground(false);
     area->verticalScrollBar()->setValue(scrolled);
+}
+
+void FindingsPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        hide();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void FindingsPage::paintEvent(QPaintEvent *)

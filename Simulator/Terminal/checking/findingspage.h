@@ -9,7 +9,8 @@
 class QLabel;
 class QScrollArea;
 
-/// The list of what is wrong with the loaded maps, over the field view. It is scrolled with a finger.
+/// The list of what is wrong with the loaded maps, over the field view. It is scrolled with a finger, or
+/// to the row that has the keyboard; Escape leaves it.
 class FindingsPage : public QWidget {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ Q_SIGNALS:
     void chosen(int number);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QUrl>
@@ -22,7 +23,6 @@ namespace {
 
 constexpr int statusHeight = Theme::touchTarget;
 constexpr int selectorWidth = 212;
-constexpr double zoomStep = 1.5;
 constexpr int longestDropText = 60;
 const char placedProperty[] = "rxmapPlacedOnDisplay";
 
@@ -31,6 +31,7 @@ const char placedProperty[] = "rxmapPlacedOnDisplay";
 TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     : QWidget(parent)
     , view(new FieldView(this))
+    , keys(this, view)
     , mapOverlay(new MapOverlay(this))
     , status(new StatusBar(this))
     , selector(new ProductSelector(products, this))
@@ -45,6 +46,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     addDriveButton();
     addThemeButton();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
+    connect(view, &FieldView::keyboardChanged, mapOverlay, &MapOverlay::setAimed);
     qApp->installEventFilter(this);
     connect(page, &GuidancePage::rebuilt, this, &TerminalWindow::arrange);
 }
@@ -53,16 +55,19 @@ TerminalWindow::~TerminalWindow() = default;
 
 void TerminalWindow::addZoomButtons()
 {
-    const auto add = [this](const QString &text, const char *name) {
+    const auto add = [this](const QString &text, const char *name, const QString &spoken) {
         auto *button = new TouchButton(text, this);
         button->setObjectName(QLatin1String(name));
+        button->setAccessibleName(spoken);
         zoomButtons.append(button);
         return button;
     };
-    connect(add(QStringLiteral("+"), "zoomIn"), &TouchButton::clicked, view, [this] { view->zoom(zoomStep); });
-    connect(add(QStringLiteral("\u2212"), "zoomOut"), &TouchButton::clicked, view,
-            [this] { view->zoom(1.0 / zoomStep); });
-    connect(add(tr("Field"), "showField"), &TouchButton::clicked, this, &TerminalWindow::frameRequested);
+    connect(add(QStringLiteral("+"), "zoomIn", tr("Nearer")), &TouchButton::clicked, view,
+            [this] { view->zoom(FieldView::zoomStep); });
+    connect(add(QStringLiteral("\u2212"), "zoomOut", tr("Farther")), &TouchButton::clicked, view,
+            [this] { view->zoom(1.0 / FieldView::zoomStep); });
+    connect(add(tr("Field"), "showField", tr("The whole field")), &TouchButton::clicked, this,
+            &TerminalWindow::frameRequested);
 }
 
 void TerminalWindow::addDriveButton()
@@ -174,6 +179,16 @@ void TerminalWindow::arrange()
     free.translate(0.0, -statusHeight);
     view->setFreeArea(free);
     mapOverlay->setFreeArea(free);
+}
+
+void TerminalWindow::keyPressEvent(QKeyEvent *event)
+{
+    event->setAccepted(keys.press(event->key()));
+}
+
+bool TerminalWindow::focusNextPrevChild(bool next)
+{
+    return keys.moveFocus(next);
 }
 
 void TerminalWindow::closeEvent(QCloseEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "displaykeys.h"
 #include "product.h"
 #include "theme.h"
 
@@ -56,6 +57,8 @@ Q_SIGNALS:
     void dropped(const QStringList &files, const QStringList &others);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -70,6 +73,7 @@ private:
     void arrange();
 
     FieldView *view;
+    DisplayKeys keys;
     MapOverlay *mapOverlay;
     StatusBar *status;
     ProductSelector *selector;

@@ -40,6 +40,9 @@ bool DriveKeys::press(const QKeyEvent &event)
 {
     if (!event.isAutoRepeat() && pressOnce(event.key()))
         return true;
+    const bool isArrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
+    if (isArrow && !controls->isByHand())
+        return false;
     if (!hold(event.key(), true, event.isAutoRepeat()))
         return event.isAutoRepeat();
     held.insert(event.key());

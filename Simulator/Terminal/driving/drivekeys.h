@@ -10,7 +10,7 @@ class QKeyEvent;
 /// A keyboard's keys for driving, while the panel is on the display with no dialog or page over it: Space starts and
 /// stops, P pauses, plus and minus change the speed, Page up and Page down the pace, S takes swaths and H the wheel, L
 /// loses and finds the signal; by hand Up is the throttle, Down the brake, Left and Right turn the wheel as long as
-/// they are held.
+/// they are held, and otherwise move the map.
 class DriveKeys : public QObject {
     Q_OBJECT
 

@@ -36,10 +36,11 @@ DrivePanel::DrivePanel(DriveControls *controls, QWidget *parent)
     refresh();
 }
 
-TouchButton *DrivePanel::add(const QString &text, const char *name, bool isSwitch)
+TouchButton *DrivePanel::add(const QString &text, const char *name, const QString &spoken, bool isSwitch)
 {
     auto *button = new TouchButton(text, this);
     button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(spoken);
     button->setCheckable(isSwitch);
     // What it does may leave its own state as it was.
     connect(button, &TouchButton::clicked, this, &DrivePanel::refresh, Qt::QueuedConnection);
@@ -58,15 +59,15 @@ QLabel *DrivePanel::addReadout(const char *name)
 
 void DrivePanel::addDriving()
 {
-    startButton = add(tr("Start"), "driveStart", true);
+    startButton = add(tr("Start"), "driveStart", {}, true);
     TouchButton *stop = add(tr("Stop"), "driveStop");
     connect(startButton, &TouchButton::clicked, controls, &DriveControls::start);
     connect(stop, &TouchButton::clicked, controls, &DriveControls::stop);
     rows.append(QList<QWidget *>{startButton, stop});
 
-    TouchButton *slower = add(QStringLiteral("\u2212"), "speedDown");
+    TouchButton *slower = add(QStringLiteral("\u2212"), "speedDown", tr("Slower"));
     speed = addReadout("driveSpeed");
-    TouchButton *faster = add(QStringLiteral("+"), "speedUp");
+    TouchButton *faster = add(QStringLiteral("+"), "speedUp", tr("Faster"));
     connect(slower, &TouchButton::clicked, controls, &DriveControls::slower);
     connect(faster, &TouchButton::clicked, controls, &DriveControls::faster);
     rows.append(QList<QWidget *>{slower, speed, faster});
@@ -74,15 +75,15 @@ void DrivePanel::addDriving()
 
 void DrivePanel::addPace()
 {
-    TouchButton *down = add(QStringLiteral("\u2212"), "paceDown");
+    TouchButton *down = add(QStringLiteral("\u2212"), "paceDown", tr("Time passes slower"));
     pace = addReadout("drivePace");
-    TouchButton *up = add(QStringLiteral("+"), "paceUp");
+    TouchButton *up = add(QStringLiteral("+"), "paceUp", tr("Time passes faster"));
     connect(down, &TouchButton::clicked, controls, &DriveControls::paceDown);
     connect(up, &TouchButton::clicked, controls, &DriveControls::paceUp);
     rows.append(QList<QWidget *>{down, pace, up});
 
-    pauseButton = add(tr("Pause"), "drivePause", true);
-    followButton = add(tr("Follow"), "followCamera", true);
+    pauseButton = add(tr("Pause"), "drivePause", {}, true);
+    followButton = add(tr("Follow"), "followCamera", {}, true);
     followButton->setNote(tr("Camera"));
     connect(pauseButton, &TouchButton::clicked, controls, &DriveControls::setPaused);
     connect(followButton, &TouchButton::clicked, this, &DrivePanel::followWanted);
@@ -91,13 +92,13 @@ void DrivePanel::addPace()
 
 void DrivePanel::addWays()
 {
-    swathsButton = add(tr("Swaths"), "driveSwaths", true);
-    handButton = add(tr("By hand"), "driveByHand", true);
+    swathsButton = add(tr("Swaths"), "driveSwaths", {}, true);
+    handButton = add(tr("By hand"), "driveByHand", {}, true);
     connect(swathsButton, &TouchButton::clicked, controls, &DriveControls::takeSwaths);
     connect(handButton, &TouchButton::clicked, controls, &DriveControls::takeHand);
     rows.append(QList<QWidget *>{swathsButton, handButton});
 
-    signalButton = add(tr("Signal loss"), "signalLoss", true);
+    signalButton = add(tr("Signal loss"), "signalLoss", {}, true);
     connect(signalButton, &TouchButton::clicked, controls, [this](bool isLost) { controls->setSignal(!isLost); });
     rows.append(QList<QWidget *>{signalButton});
 }

@@ -30,7 +30,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    TouchButton *add(const QString &text, const char *name, bool isSwitch = false);
+    /// `spoken` names a button whose text is no word.
+    TouchButton *add(const QString &text, const char *name, const QString &spoken = {}, bool isSwitch = false);
     QLabel *addReadout(const char *name);
     void addDriving();
     void addPace();

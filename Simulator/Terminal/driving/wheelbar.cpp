@@ -16,6 +16,7 @@ WheelBar::WheelBar(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("wheel"));
+    setAccessibleName(tr("Steering wheel"));
 }
 
 double WheelBar::reach() const

@@ -48,6 +48,7 @@ void ListRow::setSymbol(const QPainterPath &newSymbol)
 void ListRow::setNotes(const QStringList &lines)
 {
     notes = lines;
+    setAccessibleDescription(lines.join(QStringLiteral(", ")));
     update();
 }
 

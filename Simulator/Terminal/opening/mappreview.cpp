@@ -9,6 +9,7 @@ MapPreview::MapPreview(QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("openMap"));
+    setAccessibleName(tr("Map of the file"));
     setFixedSize(SurveyReport::pictureSide + 2 * Theme::margin, SurveyReport::pictureSide + 2 * Theme::margin);
 }
 

@@ -333,8 +333,12 @@ void OpenWindow::keyPressEvent(QKeyEvent *event)
             pager->turn(event->key() == Qt::Key_PageUp ? -1 : 1);
         return;
     case Qt::Key_Up:
+    case Qt::Key_Left:
+        focusNextPrevChild(false);
+        return;
     case Qt::Key_Down:
-        focusNextPrevChild(event->key() == Qt::Key_Down);
+    case Qt::Key_Right:
+        focusNextPrevChild(true);
         return;
     default:
         QWidget::keyPressEvent(event);
@@ -351,8 +355,10 @@ bool OpenWindow::focusNextPrevChild(bool next)
     };
     // What lies under the window is out of reach.
     for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
-        if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+        // Of the buttons of a group Qt lets the tabulator reach only the checked one.
+        const bool takesKeys =
+            (widget->focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QAbstractButton *>(widget) != nullptr;
+        if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && takesKeys) {
             widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
             return true;
         }

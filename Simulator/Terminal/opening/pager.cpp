@@ -15,6 +15,8 @@ Pager::Pager(Qt::Orientation orientation, QWidget *parent)
 {
     back->setObjectName(QStringLiteral("pageUp"));
     forward->setObjectName(QStringLiteral("pageDown"));
+    back->setAccessibleName(tr("Page before"));
+    forward->setAccessibleName(tr("Next page"));
     auto *layout =
         new QBoxLayout(orientation == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -133,12 +133,39 @@
         <comment>pace of the simulated time</comment>
         <translation>%1× Zeit</translation>
     </message>
+    <message>
+        <source>Slower</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message>
+        <source>Time passes slower</source>
+        <translation>Die Zeit vergeht langsamer</translation>
+    </message>
+    <message>
+        <source>Time passes faster</source>
+        <translation>Die Zeit vergeht schneller</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
     <message>
         <source>Page</source>
         <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Next page of rates</source>
+        <translation>Nächste Seite der Raten</translation>
+    </message>
+</context>
+<context>
+    <name>FieldView</name>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
     </message>
 </context>
 <context>
@@ -268,6 +295,10 @@
         <source>Map check</source>
         <translation>Kartenprüfung</translation>
     </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Kartenprüfung: %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -278,6 +309,13 @@
     <message>
         <source>Map check: %1</source>
         <translation>Kartenprüfung: %1</translation>
+    </message>
+</context>
+<context>
+    <name>GuidancePage</name>
+    <message>
+        <source>Guidance page</source>
+        <translation>Spurführungsseite</translation>
     </message>
 </context>
 <context>
@@ -349,6 +387,13 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>MapPreview</name>
+    <message>
+        <source>Map of the file</source>
+        <translation>Karte der Datei</translation>
     </message>
 </context>
 <context>
@@ -441,6 +486,17 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>In welcher Einheit ist %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Pager</name>
+    <message>
+        <source>Page before</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
     </message>
 </context>
 <context>
@@ -675,6 +731,10 @@
         <source>Applied</source>
         <translation>Ist</translation>
     </message>
+    <message>
+        <source>Rates of the last half minute</source>
+        <translation>Raten der letzten halben Minute</translation>
+    </message>
 </context>
 <context>
     <name>RateTable</name>
@@ -729,6 +789,10 @@
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Rates now</source>
+        <translation>Raten jetzt</translation>
     </message>
 </context>
 <context>
@@ -807,6 +871,18 @@
         <source>Day</source>
         <translation>Tag</translation>
     </message>
+    <message>
+        <source>Nearer</source>
+        <translation>Näher</translation>
+    </message>
+    <message>
+        <source>Farther</source>
+        <translation>Weiter weg</translation>
+    </message>
+    <message>
+        <source>The whole field</source>
+        <translation>Das ganze Feld</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>
@@ -841,6 +917,13 @@
     <message>
         <source>amount and area</source>
         <translation>Menge und Fläche</translation>
+    </message>
+</context>
+<context>
+    <name>WheelBar</name>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Lenkrad</translation>
     </message>
 </context>
 </TS>

@@ -133,12 +133,39 @@
         <comment>pace of the simulated time</comment>
         <translation>%1× tiempo</translation>
     </message>
+    <message>
+        <source>Slower</source>
+        <translation>Más lento</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Más rápido</translation>
+    </message>
+    <message>
+        <source>Time passes slower</source>
+        <translation>El tiempo pasa más lento</translation>
+    </message>
+    <message>
+        <source>Time passes faster</source>
+        <translation>El tiempo pasa más rápido</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
     <message>
         <source>Page</source>
         <translation>Página</translation>
+    </message>
+    <message>
+        <source>Next page of rates</source>
+        <translation>Página siguiente de dosis</translation>
+    </message>
+</context>
+<context>
+    <name>FieldView</name>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
     </message>
 </context>
 <context>
@@ -268,6 +295,10 @@
         <source>Map check</source>
         <translation>Control del mapa</translation>
     </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Control del mapa: %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -278,6 +309,13 @@
     <message>
         <source>Map check: %1</source>
         <translation>Control del mapa: %1</translation>
+    </message>
+</context>
+<context>
+    <name>GuidancePage</name>
+    <message>
+        <source>Guidance page</source>
+        <translation>Página de guiado</translation>
     </message>
 </context>
 <context>
@@ -349,6 +387,13 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 ft</translation>
+    </message>
+</context>
+<context>
+    <name>MapPreview</name>
+    <message>
+        <source>Map of the file</source>
+        <translation>Mapa del archivo</translation>
     </message>
 </context>
 <context>
@@ -441,6 +486,17 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>¿En qué unidad está %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Pager</name>
+    <message>
+        <source>Page before</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
     </message>
 </context>
 <context>
@@ -675,6 +731,10 @@
         <source>Applied</source>
         <translation>Aplicada</translation>
     </message>
+    <message>
+        <source>Rates of the last half minute</source>
+        <translation>Dosis del último medio minuto</translation>
+    </message>
 </context>
 <context>
     <name>RateTable</name>
@@ -729,6 +789,10 @@
     <message>
         <source>Off</source>
         <translation>Apagado</translation>
+    </message>
+    <message>
+        <source>Rates now</source>
+        <translation>Dosis actuales</translation>
     </message>
 </context>
 <context>
@@ -807,6 +871,18 @@
         <source>Day</source>
         <translation>Día</translation>
     </message>
+    <message>
+        <source>Nearer</source>
+        <translation>Más cerca</translation>
+    </message>
+    <message>
+        <source>Farther</source>
+        <translation>Más lejos</translation>
+    </message>
+    <message>
+        <source>The whole field</source>
+        <translation>Todo el campo</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>
@@ -841,6 +917,13 @@
     <message>
         <source>amount and area</source>
         <translation>cantidad y superficie</translation>
+    </message>
+</context>
+<context>
+    <name>WheelBar</name>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Volante</translation>
     </message>
 </context>
 </TS>

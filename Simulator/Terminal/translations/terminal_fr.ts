@@ -133,12 +133,39 @@
         <comment>pace of the simulated time</comment>
         <translation>%1× temps</translation>
     </message>
+    <message>
+        <source>Slower</source>
+        <translation>Plus lent</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Plus vite</translation>
+    </message>
+    <message>
+        <source>Time passes slower</source>
+        <translation>Le temps passe plus lentement</translation>
+    </message>
+    <message>
+        <source>Time passes faster</source>
+        <translation>Le temps passe plus vite</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
     <message>
         <source>Page</source>
         <translation>Page</translation>
+    </message>
+    <message>
+        <source>Next page of rates</source>
+        <translation>Page suivante des doses</translation>
+    </message>
+</context>
+<context>
+    <name>FieldView</name>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
     </message>
 </context>
 <context>
@@ -268,6 +295,10 @@
         <source>Map check</source>
         <translation>Contrôle de la carte</translation>
     </message>
+    <message>
+        <source>Map check: %1</source>
+        <translation>Contrôle de la carte : %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -278,6 +309,13 @@
     <message>
         <source>Map check: %1</source>
         <translation>Contrôle de la carte : %1</translation>
+    </message>
+</context>
+<context>
+    <name>GuidancePage</name>
+    <message>
+        <source>Guidance page</source>
+        <translation>Page de guidage</translation>
     </message>
 </context>
 <context>
@@ -349,6 +387,13 @@
     <message>
         <source>%1 ft</source>
         <translation>%1 pi</translation>
+    </message>
+</context>
+<context>
+    <name>MapPreview</name>
+    <message>
+        <source>Map of the file</source>
+        <translation>Carte du fichier</translation>
     </message>
 </context>
 <context>
@@ -441,6 +486,17 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>Dans quelle unité est %1 ?</translation>
+    </message>
+</context>
+<context>
+    <name>Pager</name>
+    <message>
+        <source>Page before</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
     </message>
 </context>
 <context>
@@ -675,6 +731,10 @@
         <source>Applied</source>
         <translation>Appliquée</translation>
     </message>
+    <message>
+        <source>Rates of the last half minute</source>
+        <translation>Doses de la dernière demi-minute</translation>
+    </message>
 </context>
 <context>
     <name>RateTable</name>
@@ -729,6 +789,10 @@
     <message>
         <source>Off</source>
         <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Rates now</source>
+        <translation>Doses actuelles</translation>
     </message>
 </context>
 <context>
@@ -807,6 +871,18 @@
         <source>Day</source>
         <translation>Jour</translation>
     </message>
+    <message>
+        <source>Nearer</source>
+        <translation>Plus près</translation>
+    </message>
+    <message>
+        <source>Farther</source>
+        <translation>Plus loin</translation>
+    </message>
+    <message>
+        <source>The whole field</source>
+        <translation>Toute la parcelle</translation>
+    </message>
 </context>
 <context>
     <name>UnitPage</name>
@@ -841,6 +917,13 @@
     <message>
         <source>amount and area</source>
         <translation>quantité et surface</translation>
+    </message>
+</context>
+<context>
+    <name>WheelBar</name>
+    <message>
+        <source>Steering wheel</source>
+        <translation>Volant</translation>
     </message>
 </context>
 </TS>

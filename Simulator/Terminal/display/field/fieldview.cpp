@@ -34,6 +34,8 @@ FieldView::FieldView(QWidget *parent)
     setAttribute(Qt::WA_AcceptTouchEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setObjectName(QStringLiteral("fieldView"));
+    setAccessibleName(tr("Map"));
+    setFocusPolicy(Qt::TabFocus);
 }
 
 FieldView::~FieldView()
@@ -77,15 +79,35 @@ void FieldView::frame(const QRectF &field)
 void FieldView::zoom(double factor)
 {
     framed = QRectF();
-    eye.zoom(factor, freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center());
+    eye.zoom(factor, middle());
     moveCamera();
+}
+
+QPointF FieldView::middle() const
+{
+    return freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center();
+}
+
+void FieldView::pan(const QPointF &pixels)
+{
+    framed = QRectF();
+    eye.pan(middle(), middle() + pixels);
+    moveCamera();
+    Q_EMIT movedByHand();
+}
+
+void FieldView::touchMiddle()
+{
+    const std::optional<QPointF> field = eye.fieldPoint(middle());
+    if (field)
+        Q_EMIT touched(*field);
 }
 
 void FieldView::lookAt(const QPointF &field)
 {
     framed = QRectF();
     eye.setTarget(field);
-    eye.pan(eye.project(field).value_or(QPointF()), freeArea.isEmpty() ? QPointF(rect().center()) : freeArea.center());
+    eye.pan(eye.project(field).value_or(QPointF()), middle());
     moveCamera();
 }
 
@@ -182,6 +204,16 @@ bool FieldView::event(QEvent *event)
         break;
     }
     return QWidget::event(event);
+}
+
+void FieldView::focusInEvent(QFocusEvent *)
+{
+    Q_EMIT keyboardChanged(true);
+}
+
+void FieldView::focusOutEvent(QFocusEvent *)
+{
+    Q_EMIT keyboardChanged(false);
 }
 
 bool FieldView::followTouch(const QTouchEvent &event)

@@ -15,6 +15,9 @@ class FieldView : public QWidget {
     Q_OBJECT
 
 public:
+    /// How much nearer one step brings.
+    static constexpr double zoomStep = 1.5;
+
     explicit FieldView(QWidget *parent = nullptr);
     ~FieldView() override;
 
@@ -36,6 +39,10 @@ public:
     void frame(const QRectF &field);
     /// Comes nearer by `factor` towards the middle of the free area.
     void zoom(double factor);
+    /// Moves the map under the view, as a finger does that drags it so many pixels.
+    void pan(const QPointF &pixels);
+    /// Touches the ground in the middle of the free area.
+    void touchMiddle();
     /// Brings a field point into the middle of the free area, as near as before.
     void lookAt(const QPointF &field);
     /// What is drawn at a field point: ground and maps, without the host's drawing aids. The pixel is the one of the
@@ -50,6 +57,8 @@ Q_SIGNALS:
     void cameraChanged();
     /// The operator has dragged the view to another place.
     void movedByHand();
+    /// Keys go to the view now, or no longer.
+    void keyboardChanged(bool isHere);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -57,12 +66,15 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool event(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    QPointF middle() const;
     void moveCamera();
     void reframe();
     void press(const QPointF &screen);

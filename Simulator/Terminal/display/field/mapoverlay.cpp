@@ -84,6 +84,12 @@ void MapOverlay::showBubble(const QPointF &field, const QString &newText, const 
     pace.request();
 }
 
+void MapOverlay::setAimed(bool aimed)
+{
+    isAimed = aimed;
+    pace.request();
+}
+
 void MapOverlay::setMark(const QRectF &extent, const QPointF &place)
 {
     mark = extent;
@@ -101,6 +107,7 @@ void MapOverlay::paintEvent(QPaintEvent *)
     drawVehicle(painter);
     drawNorthArrow(painter);
     drawScaleBar(painter);
+    drawAim(painter);
     drawBubble(painter);
 }
 
@@ -204,6 +211,20 @@ void MapOverlay::drawMark(QPainter &painter) const
         painter.drawPolygon(outline);
         if (const std::optional<QPointF> at = camera.project(markAt))
             painter.drawEllipse(*at, 12.0, 12.0);
+    }
+}
+
+void MapOverlay::drawAim(QPainter &painter) const
+{
+    constexpr double reach = 26.0;
+    constexpr double gap = 8.0;
+    if (!isAimed)
+        return;
+    const QPointF middle = freeArea.center();
+    for (const QPen &pen : {QPen(Theme::textOnAccent(), 7.0), QPen(Theme::accent(), 3.0)}) {
+        painter.setPen(pen);
+        for (const QPointF &way : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
+            painter.drawLine(middle + gap * way, middle + reach * way);
     }
 }
 

@@ -40,6 +40,8 @@ public:
     /// bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
+    /// Marks the point that a key touches, the middle of the free area, or does no longer.
+    void setAimed(bool isAimed);
     /// Outlines `extent` (metres, top = least y) and points at `place` in it; a null extent takes the mark away.
     void setMark(const QRectF &extent, const QPointF &place);
 
@@ -53,6 +55,7 @@ private:
     void drawNorthArrow(QPainter &painter) const;
     void drawScaleBar(QPainter &painter) const;
     void drawMark(QPainter &painter) const;
+    void drawAim(QPainter &painter) const;
     void drawBubble(QPainter &painter) const;
 
     Camera camera;
@@ -65,6 +68,7 @@ private:
     QPointF bubbleAt;
     QString text;
     QColor bubbleColor;
+    bool isAimed = false;
     QRectF mark;
     QPointF markAt;
     RepaintThrottle pace;

@@ -3,6 +3,7 @@
 #include "buttonlook.h"
 #include "theme.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -19,12 +20,13 @@ TouchButton::TouchButton(const QString &text, QWidget *parent)
     : QAbstractButton(parent)
 {
     setText(text);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
 }
 
 void TouchButton::setNote(const QString &newNote)
 {
     note = newNote;
+    setAccessibleDescription(note);
     update();
 }
 
@@ -37,6 +39,17 @@ void TouchButton::setSymbol(const QPainterPath &newSymbol)
 {
     symbol = newSymbol;
     update();
+}
+
+void TouchButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Space)
+        QAbstractButton::keyPressEvent(event);
+    else
+        event->setAccepted(isEnter);
+    if (isEnter && !event->isAutoRepeat())
+        click();
 }
 
 void TouchButton::paintEvent(QPaintEvent *)

@@ -6,7 +6,7 @@
 struct ButtonLook;
 
 /// A big flat button of the terminal's own panels. A checked one carries the accent colour, one that has the keyboard a
-/// frame of it.
+/// frame of it. The tabulator reaches it, Enter and Space touch it; arrows are left to what it lies on.
 class TouchButton : public QAbstractButton {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -1,14 +1,22 @@
 #include "guidancepage.h"
 
+#include "theme.h"
+
 #include "Framework/uigwidget.h"
 #include "Framework/uiplugininterface.h"
 
+#include <QApplication>
 #include <QGraphicsScene>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <utility>
 
 namespace {
 
 constexpr double gap = 8.0;
 constexpr double greyedOut = 0.35;
+constexpr qint64 longTouch = 800; // Milliseconds.
 
 } // namespace
 
@@ -24,6 +32,8 @@ GuidancePage::GuidancePage(QWidget *parent)
     // Not by a style sheet, which a plug-in's widgets would come to know of.
     viewport()->setAutoFillBackground(false);
     setRenderHint(QPainter::SmoothPixmapTransform);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(tr("Guidance page"));
 }
 
 GuidancePage::~GuidancePage()
@@ -66,7 +76,7 @@ void GuidancePage::addWidgets(UiPluginInterface *plugin)
         });
         connect(widget.data(), &QObject::destroyed, this, &GuidancePage::forgetOrphanedPopup);
         widget->pageShown();
-        places.append({plugin, widget});
+        places.append({plugin, widget, name});
         extent = QSizeF(left + widget->size().width(), qMax(extent.height(), widget->size().height()));
     }
 }
@@ -91,6 +101,65 @@ QSize GuidancePage::sizeHint() const
     return extent.toSize();
 }
 
+QString GuidancePage::nameAt(const QPoint &point) const
+{
+    for (const Place &place : places) {
+        if (place.widget && place.widget->sceneBoundingRect().contains(mapToScene(point)))
+            return place.name;
+    }
+    return {};
+}
+
+void GuidancePage::mousePressEvent(QMouseEvent *event)
+{
+    touchedName = nameAt(event->pos());
+    touchTime.start();
+    QGraphicsView::mousePressEvent(event);
+}
+
+void GuidancePage::mouseReleaseEvent(QMouseEvent *event)
+{
+    QGraphicsView::mouseReleaseEvent(event);
+    const QString name = std::exchange(touchedName, QString());
+    if (!name.isEmpty() && name == nameAt(event->pos()) && touchTime.elapsed() < longTouch)
+        Q_EMIT touchedShortly(name);
+}
+
+void GuidancePage::sendFinger(QEvent::Type type)
+{
+    if (places.isEmpty() || !places.first().widget)
+        return;
+    const QPoint at = mapFromScene(places.first().widget->sceneBoundingRect().center());
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent finger(type, at, viewport()->mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(viewport(), &finger);
+}
+
+void GuidancePage::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    event->setAccepted(isEnter);
+    if (!isEnter || event->isAutoRepeat() || isHeldByKey)
+        return;
+    isHeldByKey = true;
+    sendFinger(QEvent::MouseButtonPress);
+}
+
+void GuidancePage::keyReleaseEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    event->setAccepted(isEnter);
+    if (!isEnter || event->isAutoRepeat() || !std::exchange(isHeldByKey, false))
+        return;
+    sendFinger(QEvent::MouseButtonRelease);
+}
+
+void GuidancePage::drawForeground(QPainter *painter, const QRectF &)
+{
+    if (hasFocus() && !places.isEmpty() && places.first().widget)
+        Theme::drawFocus(*painter, places.first().widget->sceneBoundingRect(), false);
+}
+
 void GuidancePage::forgetOrphanedPopup()
 {
     // Whoever was to say that the popup has closed is gone.
@@ -101,6 +170,9 @@ void GuidancePage::forgetOrphanedPopup()
 void GuidancePage::setPopupActive(bool active)
 {
     isPopupActive = active;
+    // What opened it was no short touch, and its lift may go to the popup.
+    touchedName.clear();
+    isHeldByKey = false;
     for (const Place &place : qAsConst(places)) {
         if (place.widget)
             place.widget->setOpacity(active ? greyedOut : 1.0);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QGraphicsView>
 #include <QList>
 #include <QPointer>
@@ -9,7 +11,7 @@ class UiGWidget;
 class UiPluginInterface;
 
 /// The guidance page: a strip over the map in which the plug-ins' widgets stand side by side. It greys itself out
-/// while one of them has a popup open.
+/// while one of them has a popup open. On a keyboard Enter is a finger on the first of them, as long as it is held.
 class GuidancePage : public QGraphicsView {
     Q_OBJECT
 
@@ -29,14 +31,28 @@ public:
 Q_SIGNALS:
     /// The page was built and may need another size.
     void rebuilt();
+    /// A finger was on a plug-in's widget of that name, too shortly for a long touch, and nothing opened.
+    void touchedShortly(const QString &widgetName);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void drawForeground(QPainter *painter, const QRectF &area) override;
 
 private:
     struct Place {
         UiPluginInterface *plugin;
         QPointer<UiGWidget> widget;
+        QString name;
     };
 
     void addWidgets(UiPluginInterface *plugin);
+    /// Name of the widget at a point of the page; empty where there is none.
+    QString nameAt(const QPoint &point) const;
+    /// Puts a finger on the first widget, or takes it off.
+    void sendFinger(QEvent::Type type);
     void setPopupActive(bool active);
     void forgetOrphanedPopup();
 
@@ -47,4 +63,7 @@ private:
     QPointer<UiGWidget> popupOwner;
     bool isPopupActive = false;
     bool isRebuildDue = false;
+    QString touchedName;
+    QElapsedTimer touchTime;
+    bool isHeldByKey = false;
 };

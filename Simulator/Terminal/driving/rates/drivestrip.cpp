@@ -28,6 +28,7 @@ DriveStrip::DriveStrip(Simulation *simulation, const RateHistory *history, QWidg
     setObjectName(QStringLiteral("driveStrip"));
     pageButton->setObjectName(QStringLiteral("ratesPage"));
     pageButton->setNote(tr("Page"));
+    pageButton->setAccessibleName(tr("Next page of rates"));
     takeProducts();
     // After the table, which was made before.
     connect(simulation->machine(), &Machine::productsChanged, this, &DriveStrip::takeProducts);

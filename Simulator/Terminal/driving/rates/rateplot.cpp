@@ -26,6 +26,7 @@ RatePlot::RatePlot(const Machine *machine, const RateHistory *history, QWidget *
     , history(history)
 {
     setObjectName(QStringLiteral("ratePlot"));
+    setAccessibleName(tr("Rates of the last half minute"));
 }
 
 QPointF RatePlot::Axes::at(double time, double rate) const

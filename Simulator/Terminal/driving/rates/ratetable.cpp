@@ -48,6 +48,7 @@ RateTable::RateTable(const Simulation *simulation, QWidget *parent)
     , simulation(simulation)
 {
     setObjectName(QStringLiteral("rateTable"));
+    setAccessibleName(tr("Rates now"));
     takeProducts();
     connect(simulation->machine(), &Machine::productsChanged, this, &RateTable::takeProducts);
 }

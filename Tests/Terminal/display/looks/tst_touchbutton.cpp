@@ -4,6 +4,8 @@
 #include "theme.h"
 #include "touchbutton.h"
 
+#include <QSignalSpy>
+
 /// A flat button of the terminal's own panels.
 class TestTouchButton : public TestBase {
     Q_OBJECT
@@ -13,7 +15,7 @@ private Q_SLOTS:
     void itShowsItsTextAndItsNote();
     void aTextThatIsTooLongIsShortened();
     void colorsTellItsState();
-    void itLeavesTheKeyboardAlone();
+    void theKeyboardReachesIt();
     void aSymbolStandsForTheText();
     void aFrameTellsWhoHasTheKeyboard();
 };
@@ -75,9 +77,17 @@ void TestTouchButton::colorsTellItsState()
     QCOMPARE(ground(button).rgb(), Theme::button().rgb());
 }
 
-void TestTouchButton::itLeavesTheKeyboardAlone()
+void TestTouchButton::theKeyboardReachesIt()
 {
-    QCOMPARE(TouchButton(QStringLiteral("+")).focusPolicy(), Qt::NoFocus);
+    TouchButton button(QStringLiteral("+"));
+    QCOMPARE(button.focusPolicy(), Qt::TabFocus);
+    QSignalSpy clicked(&button, &TouchButton::clicked);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        QTest::keyClick(&button, key);
+    QCOMPARE(clicked.size(), 3);
+    button.setEnabled(false);
+    QTest::keyClick(&button, Qt::Key_Return);
+    QCOMPARE(clicked.size(), 3);
 }
 
 void TestTouchButton::aSymbolStandsForTheText()
@@ -100,6 +110,7 @@ void TestTouchButton::aFrameTellsWhoHasTheKeyboard()
     const auto edge = [&button] { return button.grab().toImage().pixelColor(100, 1); };
     button.show();
     QApplication::setActiveWindow(&button);
+    button.clearFocus();
     QCOMPARE(edge().rgb(), Theme::button().rgb());
     button.setFocus();
     QTRY_COMPARE(edge().rgb(), Theme::accent().rgb());
