@@ -20,6 +20,8 @@ public:
     explicit FileOpening(Terminal *terminal);
 
     OpenWindow *window() const { return openWindow; }
+    /// What the terminal remembers of its operator.
+    QSettings *remembered() { return &settings; }
 
 private:
     void toggle();

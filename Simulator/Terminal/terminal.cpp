@@ -7,6 +7,7 @@
 #include "fileopening.h"
 #include "findingsdisplay.h"
 #include "guidancepage.h"
+#include "hints.h"
 #include "machine.h"
 #include "mapoverlay.h"
 #include "openwindow.h"
@@ -86,6 +87,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
 
 Terminal::~Terminal()
 {
+    hints.reset();
     findings.reset();
     display->guidancePage()->setPlugins({}, nullptr);
     display->fieldView()->makeCurrent();
@@ -179,6 +181,12 @@ bool Terminal::show(const QSize &size)
     QApplication::processEvents();
     screenWindow->repaint();
     return display->fieldView()->isValid();
+}
+
+void Terminal::greet()
+{
+    hints.reset(new Hints(display.data(), prescriptions.data(), opening->remembered()));
+    hints->greet();
 }
 
 QList<LoadReport> Terminal::open(const OpenRequest &request)

@@ -28,6 +28,7 @@ struct ActiveMap;
 class DriveDisplay;
 class FileOpening;
 class FindingsDisplay;
+class Hints;
 class Machine;
 class OpenWindow;
 class Recorder;
@@ -68,6 +69,8 @@ public:
     DriveDisplay *driving() const { return driveDisplay.data(); }
     OpenWindow *openWindow() const;
 
+    /// Tells an operator who is new to the terminal how it is used; what was told once is not told again.
+    void greet();
     /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
     /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
     /// column from the first file that has it. Without columns the most likely ones of each file feed the products that
@@ -132,6 +135,7 @@ private:
     QScopedPointer<DriveDisplay> driveDisplay;
     FileOpening *opening;
     QScopedPointer<FindingsDisplay> findings;
+    QScopedPointer<Hints> hints;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
     QRectF framedBounds;

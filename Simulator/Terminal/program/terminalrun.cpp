@@ -220,6 +220,8 @@ QString runTerminal(const CommandLine &line, double scale)
         error = loadPlugins(terminal, pluginFolder);
     if (error.isEmpty() && isShown && !terminal.show(firstSize(line, scale)))
         error = QStringLiteral("the display has no OpenGL");
+    if (error.isEmpty() && line.isInteractive())
+        terminal.greet();
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty() && line.open)
         showOpenWindow(terminal, files);

@@ -319,6 +319,44 @@
     </message>
 </context>
 <context>
+    <name>HintCard</name>
+    <message>
+        <source>Got it</source>
+        <translation>Verstanden</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>How this terminal is used</source>
+        <translation>So wird dieses Terminal bedient</translation>
+    </message>
+    <message>
+        <source>Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and − to come nearer or farther.</source>
+        <translation>Ein Antippen der Karte zeigt die Rate dort. Ziehen verschiebt sie; mit zwei Fingern, dem Rad oder + und − kommt sie näher oder rückt weg.</translation>
+    </message>
+    <message>
+        <source>The settings of the map are behind the button with the gear wheel: hold it for a second.</source>
+        <translation>Die Einstellungen der Karte liegen hinter der Taste mit dem Zahnrad: eine Sekunde lang halten.</translation>
+    </message>
+    <message>
+        <source>The folder opens prescriptions; moon and sun switch between day and night.</source>
+        <translation>Der Ordner öffnet Applikationskarten; Mond und Sonne wechseln zwischen Tag und Nacht.</translation>
+    </message>
+    <message>
+        <source>On a keyboard Tab goes from control to control and Enter touches; arrows move the map.</source>
+        <translation>Auf einer Tastatur geht Tab von Taste zu Taste, und Enter berührt sie; Pfeile verschieben die Karte.</translation>
+    </message>
+    <message>
+        <source>Hold this button longer</source>
+        <translation>Diese Taste länger halten</translation>
+    </message>
+    <message>
+        <source>A touch of one second opens the settings of the map.</source>
+        <translation>Eine Berührung von einer Sekunde öffnet die Einstellungen der Karte.</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

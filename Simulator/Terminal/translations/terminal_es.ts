@@ -319,6 +319,44 @@
     </message>
 </context>
 <context>
+    <name>HintCard</name>
+    <message>
+        <source>Got it</source>
+        <translation>Entendido</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>How this terminal is used</source>
+        <translation>Cómo se usa este terminal</translation>
+    </message>
+    <message>
+        <source>Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and − to come nearer or farther.</source>
+        <translation>Toque el mapa para leer la dosis en ese lugar. Arrástrelo para moverlo; use dos dedos, la rueda o + y − para acercarlo o alejarlo.</translation>
+    </message>
+    <message>
+        <source>The settings of the map are behind the button with the gear wheel: hold it for a second.</source>
+        <translation>Los ajustes del mapa están en el botón con el engranaje: manténgalo pulsado un segundo.</translation>
+    </message>
+    <message>
+        <source>The folder opens prescriptions; moon and sun switch between day and night.</source>
+        <translation>La carpeta abre prescripciones; la luna y el sol cambian entre día y noche.</translation>
+    </message>
+    <message>
+        <source>On a keyboard Tab goes from control to control and Enter touches; arrows move the map.</source>
+        <translation>Con un teclado, Tab pasa de un control a otro y Entrar lo toca; las flechas mueven el mapa.</translation>
+    </message>
+    <message>
+        <source>Hold this button longer</source>
+        <translation>Mantenga este botón más tiempo</translation>
+    </message>
+    <message>
+        <source>A touch of one second opens the settings of the map.</source>
+        <translation>Un toque de un segundo abre los ajustes del mapa.</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

@@ -319,6 +319,44 @@
     </message>
 </context>
 <context>
+    <name>HintCard</name>
+    <message>
+        <source>Got it</source>
+        <translation>Compris</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>How this terminal is used</source>
+        <translation>Comment utiliser ce terminal</translation>
+    </message>
+    <message>
+        <source>Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and − to come nearer or farther.</source>
+        <translation>Touchez la carte pour lire la dose à cet endroit. Faites-la glisser pour la déplacer ; pincez-la, tournez la molette ou touchez + et − pour l&apos;approcher ou l&apos;éloigner.</translation>
+    </message>
+    <message>
+        <source>The settings of the map are behind the button with the gear wheel: hold it for a second.</source>
+        <translation>Les réglages de la carte sont derrière le bouton avec la roue dentée : maintenez-le une seconde.</translation>
+    </message>
+    <message>
+        <source>The folder opens prescriptions; moon and sun switch between day and night.</source>
+        <translation>Le dossier ouvre les prescriptions ; la lune et le soleil alternent jour et nuit.</translation>
+    </message>
+    <message>
+        <source>On a keyboard Tab goes from control to control and Enter touches; arrows move the map.</source>
+        <translation>Au clavier, Tab passe d&apos;une commande à l&apos;autre et Entrée la touche ; les flèches déplacent la carte.</translation>
+    </message>
+    <message>
+        <source>Hold this button longer</source>
+        <translation>Maintenez ce bouton plus longtemps</translation>
+    </message>
+    <message>
+        <source>A touch of one second opens the settings of the map.</source>
+        <translation>Un appui d&apos;une seconde ouvre les réglages de la carte.</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

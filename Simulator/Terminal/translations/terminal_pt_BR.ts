@@ -319,6 +319,44 @@
     </message>
 </context>
 <context>
+    <name>HintCard</name>
+    <message>
+        <source>Got it</source>
+        <translation>Entendi</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>How this terminal is used</source>
+        <translation>Como usar este terminal</translation>
+    </message>
+    <message>
+        <source>Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and − to come nearer or farther.</source>
+        <translation>Toque no mapa para ler a dose naquele ponto. Arraste-o para movê-lo; use dois dedos, a roda ou + e − para aproximar ou afastar.</translation>
+    </message>
+    <message>
+        <source>The settings of the map are behind the button with the gear wheel: hold it for a second.</source>
+        <translation>As configurações do mapa estão no botão com a engrenagem: segure-o por um segundo.</translation>
+    </message>
+    <message>
+        <source>The folder opens prescriptions; moon and sun switch between day and night.</source>
+        <translation>A pasta abre prescrições; a lua e o sol alternam entre dia e noite.</translation>
+    </message>
+    <message>
+        <source>On a keyboard Tab goes from control to control and Enter touches; arrows move the map.</source>
+        <translation>No teclado, Tab passa de um controle a outro e Enter o toca; as setas movem o mapa.</translation>
+    </message>
+    <message>
+        <source>Hold this button longer</source>
+        <translation>Segure este botão por mais tempo</translation>
+    </message>
+    <message>
+        <source>A touch of one second opens the settings of the map.</source>
+        <translation>Um toque de um segundo abre as configurações do mapa.</translation>
+    </message>
+</context>
+<context>
     <name>LegendPanel</name>
     <message>
         <source>No map</source>

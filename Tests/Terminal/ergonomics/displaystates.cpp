@@ -35,7 +35,7 @@ QStringList DisplayStates::names()
 {
     return {QStringLiteral("no map"),  QStringLiteral("map"),      QStringLiteral("driving"), QStringLiteral("by hand"),
             QStringLiteral("files"),   QStringLiteral("preview"),  QStringLiteral("product"), QStringLiteral("unit"),
-            QStringLiteral("message"), QStringLiteral("findings")};
+            QStringLiteral("message"), QStringLiteral("findings"), QStringLiteral("greeting")};
 }
 
 bool DisplayStates::open(const char *file, const char *column)
@@ -94,6 +94,8 @@ bool DisplayStates::bring(const QString &name)
         return open("overlap.geojson", "rate") && touch(QStringLiteral("findingsButton"));
     if (name == QLatin1String("message"))
         terminal.openWindow()->refuse(QStringLiteral("/no/such/file.shp: no such file"));
+    if (name == QLatin1String("greeting"))
+        terminal.greet();
     return true;
 }
 

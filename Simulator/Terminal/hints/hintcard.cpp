@@ -1,0 +1,85 @@
+#include "hintcard.h"
+
+#include "theme.h"
+#include "touchbutton.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr int cardWidth = 680;
+constexpr int titlePixels = 24;
+constexpr int textPixels = 19;
+constexpr int buttonWidth = 180;
+constexpr int inset = 20;
+
+} // namespace
+
+HintCard::HintCard(QWidget *parent)
+    : QWidget(parent)
+    , heading(new QLabel(this))
+    , body(new QLabel(this))
+    , button(new TouchButton(tr("Got it"), this))
+{
+    setObjectName(QStringLiteral("hintCard"));
+    heading->setFont(Theme::font(titlePixels, true));
+    body->setFont(Theme::font(textPixels));
+    for (QLabel *label : {heading, body}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    button->setObjectName(QStringLiteral("hintClose"));
+    button->setFixedSize(buttonWidth, Theme::touchTarget);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(inset, inset, inset, inset);
+    layout->setSpacing(Theme::margin);
+    layout->addWidget(heading);
+    layout->addWidget(body);
+    layout->addWidget(button, 0, Qt::AlignRight);
+    connect(button, &TouchButton::clicked, this, &HintCard::close);
+    hide();
+}
+
+void HintCard::tell(const QString &title, const QStringList &lines, const QRect &area)
+{
+    heading->setText(title);
+    const QString bullet = lines.size() > 1 ? QStringLiteral("\u2022 ") : QString();
+    body->setText(bullet + lines.join(QLatin1Char('\n') + bullet));
+    setAccessibleName(title);
+    setAccessibleDescription(body->text());
+    const int wide = qMin(cardWidth, area.width());
+    const int tall = layout()->heightForWidth(wide);
+    setGeometry(area.left() + (area.width() - wide) / 2, area.bottom() + 1 - tall - Theme::margin, wide, tall);
+    show();
+    raise();
+}
+
+void HintCard::close()
+{
+    hide();
+    Q_EMIT closed();
+}
+
+void HintCard::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void HintCard::mousePressEvent(QMouseEvent *event)
+{
+    // Not for the map under the card.
+    event->accept();
+}
+
+void HintCard::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Theme::drawPanel(painter, rect(), QColor(Theme::panel().rgb()));
+    Theme::drawFocus(painter, rect(), false);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QLabel;
+class TouchButton;
+
+/// A card over the map that tells something, until its button is touched or Escape pressed. The map beside it stays in
+/// use.
+class HintCard : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Hidden at first.
+    explicit HintCard(QWidget *parent);
+
+    /// Shows the card in the middle of `area` (pixels of its parent), at its lower end.
+    void tell(const QString &title, const QStringList &lines, const QRect &area);
+
+Q_SIGNALS:
+    /// The operator has taken the card away.
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void close();
+
+    QLabel *heading;
+    QLabel *body;
+    TouchButton *button;
+};

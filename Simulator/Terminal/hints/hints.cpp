@@ -1,0 +1,58 @@
+#include "hints.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "guidancepage.h"
+#include "hintcard.h"
+#include "terminalwindow.h"
+
+#include <QSettings>
+
+#include <utility>
+
+namespace {
+
+const QString greetedKey = QStringLiteral("hints/greeted");
+const QString longTouchKey = QStringLiteral("hints/longTouch");
+/// The one of the plug-in that the terminal is made to show.
+const QString optionsWidget = QStringLiteral("RxMapWidget");
+
+} // namespace
+
+Hints::Hints(TerminalWindow *window, const PrescriptionBackend *backend, QSettings *settings, QObject *parent)
+    : QObject(parent)
+    , window(window)
+    , backend(backend)
+    , settings(settings)
+    , card(new HintCard(window))
+{
+    connect(window->guidancePage(), &GuidancePage::touchedShortly, this, &Hints::tellOfLongTouch);
+    connect(card, &HintCard::closed, this, [this] {
+        if (std::exchange(isGreeting, false))
+            this->settings->setValue(greetedKey, true);
+    });
+}
+
+void Hints::greet()
+{
+    if (settings->value(greetedKey).toBool())
+        return;
+    isGreeting = true;
+    card->tell(tr("How this terminal is used"),
+               {tr("Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and "
+                   "\u2212 to come nearer or farther."),
+                tr("The settings of the map are behind the button with the gear wheel: hold it for a second."),
+                tr("The folder opens prescriptions; moon and sun switch between day and night."),
+                tr("On a keyboard Tab goes from control to control and Enter touches; arrows move the map.")},
+               TerminalWindow::pageArea());
+}
+
+void Hints::tellOfLongTouch(const QString &widgetName)
+{
+    // Without a map there are no settings.
+    if (widgetName != optionsWidget || backend->maps().isEmpty() || settings->value(longTouchKey).toBool())
+        return;
+    settings->setValue(longTouchKey, true);
+    isGreeting = false;
+    card->tell(tr("Hold this button longer"), {tr("A touch of one second opens the settings of the map.")},
+               TerminalWindow::pageArea());
+}

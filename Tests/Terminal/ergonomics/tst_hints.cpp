@@ -1,0 +1,125 @@
+#include "guidancepage.h"
+#include "hints.h"
+#include "paintedtexts.h"
+#include "terminaltest.h"
+#include "terminalwindow.h"
+
+#include <QAbstractButton>
+#include <QGraphicsItem>
+#include <QSettings>
+#include <QTemporaryDir>
+
+/// What an operator is told who is new to the terminal.
+class TestHints : public TerminalTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void whoIsGreetedOnceIsNotGreetedAgain();
+    void aTerminalThatDoesNotGreetTellsNothing();
+    void aShortTouchOfTheOptionsButtonIsAnsweredOnce();
+    void withoutAMapAShortTouchTellsNothing();
+    void aFingerThatSlidesOffTellsNothing();
+
+private:
+    QWidget *card() { return terminal().window()->findChild<QWidget *>(QStringLiteral("hintCard")); }
+    QAbstractButton *closeButton() { return card()->findChild<QAbstractButton *>(QStringLiteral("hintClose")); }
+    /// A short touch of the options button; the finger is lifted so many pixels from where it came down.
+    void touchOptions(int slid = 0);
+    void restart();
+
+    QScopedPointer<QTemporaryDir> folder;
+    QScopedPointer<QSettings> settings;
+    QScopedPointer<Hints> hints;
+};
+
+void TestHints::init()
+{
+    TerminalTest::init();
+    folder.reset(new QTemporaryDir);
+    restart();
+}
+
+void TestHints::restart()
+{
+    hints.reset();
+    delete card();
+    settings.reset(new QSettings(folder->filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
+    hints.reset(new Hints(terminal().window(), terminal().backend(), settings.data()));
+}
+
+void TestHints::cleanup()
+{
+    hints.reset();
+    TerminalTest::cleanup();
+}
+
+void TestHints::touchOptions(int slid)
+{
+    GuidancePage *page = terminal().window()->guidancePage();
+    const QPoint at = page->viewport()->rect().center();
+    QTest::mousePress(page->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseRelease(page->viewport(), Qt::LeftButton, {}, at + QPoint(slid, 0));
+}
+
+void TestHints::whoIsGreetedOnceIsNotGreetedAgain()
+{
+    QVERIFY(!card()->isVisible());
+    hints->greet();
+    QVERIFY(card()->isVisible());
+    const QString told = paintedTexts(*card()).join(QLatin1Char(' '));
+    for (const char *word : {"Drag", "folder", "hold it for a second", "Tab"})
+        QVERIFY2(told.contains(QLatin1String(word)), qPrintable(told));
+    // A greeting that was not taken away may not have been read.
+    restart();
+    hints->greet();
+    QVERIFY(card()->isVisible());
+    closeButton()->click();
+    QVERIFY(!card()->isVisible());
+    restart();
+    hints->greet();
+    QVERIFY(!card()->isVisible());
+}
+
+void TestHints::aTerminalThatDoesNotGreetTellsNothing()
+{
+    hints.reset();
+    delete card();
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    touchOptions();
+    QVERIFY(card() == nullptr);
+}
+
+void TestHints::aShortTouchOfTheOptionsButtonIsAnsweredOnce()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    touchOptions();
+    QVERIFY(card()->isVisible());
+    QVERIFY(paintedTexts(*card()).join(QLatin1Char(' ')).contains(QStringLiteral("one second")));
+    closeButton()->click();
+    touchOptions();
+    QVERIFY(!card()->isVisible());
+    restart();
+    touchOptions();
+    QVERIFY(!card()->isVisible());
+    // Whoever was told of the touch has not been greeted by that.
+    hints->greet();
+    QVERIFY(card()->isVisible());
+}
+
+void TestHints::withoutAMapAShortTouchTellsNothing()
+{
+    touchOptions();
+    QVERIFY(!card()->isVisible());
+}
+
+void TestHints::aFingerThatSlidesOffTellsNothing()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    touchOptions(300);
+    QVERIFY(!card()->isVisible());
+}
+
+RXMAP_TEST(TestHints, Widgets)
+#include "tst_hints.moc"
