@@ -63,7 +63,7 @@ Products SuggestedProducts::of(const QList<ColumnProduct> &columns)
         } else if (!spare.isEmpty()) {
             products.append(spare.takeFirst());
         } else {
-            const QString name = QStringLiteral("Product %1").arg(number);
+            const QString name = ProductFile::tr("Product %1").arg(number);
             products.append(productOf({name, DbGroupProductGroupInfo::WeightRate, number}));
         }
         products.last().bin = number;

@@ -609,6 +609,10 @@
         <comment>short</comment>
         <translation>Herb</translation>
     </message>
+    <message>
+        <source>Product %1</source>
+        <translation>Produit %1</translation>
+    </message>
 </context>
 <context>
     <name>ProductSection</name>
