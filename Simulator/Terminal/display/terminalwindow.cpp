@@ -100,6 +100,7 @@ void TerminalWindow::setTheme(Theme::Kind kind)
     themeButton->setSymbol(isDay ? Symbols::moon() : Symbols::sun());
     // Reaches every widget of the window, each of which paints itself again, and no window of a plug-in.
     setPalette(Theme::palette());
+    Q_EMIT themeChanged();
 }
 
 void TerminalWindow::setDriving(QWidget *panel, QWidget *strip)

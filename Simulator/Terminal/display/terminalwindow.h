@@ -50,6 +50,7 @@ public:
 Q_SIGNALS:
     /// The field is to be seen as a whole again.
     void frameRequested();
+    void themeChanged();
     /// What drives the machine was shown, or hidden.
     void drivingShown(bool isShown);
     void closed();

@@ -35,6 +35,8 @@ ScreenWindow::ScreenWindow(TerminalWindow *terminal)
     connect(windows, &UnseenWindows::changed, this, &ScreenWindow::showPart);
     connect(windows, &UnseenWindows::foremostChanged, this, &ScreenWindow::activateForemost, Qt::QueuedConnection);
     connect(display, &TerminalWindow::closed, this, &QWidget::close);
+    // The ground around the display, too.
+    connect(display, &TerminalWindow::themeChanged, this, QOverload<>::of(&QWidget::update));
 }
 
 ScreenWindow::~ScreenWindow() = default;
