@@ -75,7 +75,7 @@ bool CoverageCheck::run(FindingList &findings)
 
 std::vector<PlaneEdge> CoverageCheck::bridges(const UnsharedEdges::List &edges)
 {
-    std::vector<PlaneEdge> all = SlitBridges::across(edges, tolerance, sliverWidth);
+    std::vector<PlaneEdge> all = SlitBridges::across(edges, tolerance, sliverWidth, leastOpenLength);
     const auto isCovered = [this](const PlaneEdge &bridge) {
         const PlaneVertex middle = {0.5 * (bridge.from.x + bridge.to.x), 0.5 * (bridge.from.y + bridge.to.y)};
         return !cover.at(middle).polygons.empty();

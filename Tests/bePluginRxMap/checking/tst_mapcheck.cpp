@@ -142,6 +142,12 @@ void MapCheckTest::finds_data()
         3.75);
     row("slit between cells", mapOf({square, box(0, 50, 50, 50), box(50.125, 0, 50, 50), box(50.125, 50, 50, 50)}),
         Kind::Sliver, {0, 1, 2, 3}, 12.5);
+    // As far as it is narrow: 0.375 m wide in the middle, 4.55 m long.
+    row("slit that widens", mapOf({square, {{50.25, 0}, {100, 0}, {100, 50}, {53, 50}}}), Kind::Sliver, {0, 1}, 1.7);
+    row("slit that widens to both sides of a corner",
+        mapOf({square, {{54, 0}, {100, 0}, {100, 50}, {54, 50}, {50.1, 25}}}), Kind::Sliver, {0, 1}, 1.54);
+    row("notch that is wide open", mapOf({square, {{50, 0}, {100, 0}, {100, 50}, {90, 50}}}), Kind::Sliver, nothing,
+        0.0);
     row("headland track", mapOf({square, box(51, 0, 50, 50)}), Kind::Sliver, nothing, 0.0);
     row("slit as narrow as the rounding", mapOf({square, box(50 + 1.0 / 64, 0, 50, 50)}), Kind::Sliver, nothing, 0.0);
     row("notch where neighbours meet",
