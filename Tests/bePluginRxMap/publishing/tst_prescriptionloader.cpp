@@ -174,6 +174,9 @@ void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead_data()
     QTest::newRow("bytes") << QByteArray("\x00\xff\x07\n\x80", 5) << "its coordinate system (a.prj) cannot be read";
     QTest::newRow("cut short") << QByteArray("PROJCS[\"WGS 84 / UTM") << "its coordinate system (a.prj) cannot be read";
     QTest::newRow("blank") << QByteArray(" \n") << "names no coordinate system";
+    QTest::newRow("unknown") << QByteArray("GEOGCS[\"Unknown\",DATUM[\"Unknown\",SPHEROID[\"Unknown\",6378137,298.25]],"
+                                           "PRIMEM[\"Greenwich\",0],UNIT[\"Degree\",0.0174532925199433]]")
+                             << "its coordinate system \"Unknown\" does not say where on the earth it is";
 }
 
 void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead()

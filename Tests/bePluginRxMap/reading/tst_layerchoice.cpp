@@ -7,6 +7,7 @@ class LayerChoiceTest : public ReaderTest {
 private Q_SLOTS:
     void takesTheFirstLayerThatFits_data();
     void takesTheFirstLayerThatFits();
+    void looksForPolygonsWhereTheKindIsNotKnown_data();
     void looksForPolygonsWhereTheKindIsNotKnown();
     void takesALayerByItsName_data();
     void takesALayerByItsName();
@@ -88,11 +89,23 @@ void LayerChoiceTest::takesTheFirstLayerThatFits()
     QCOMPARE(map.warnings, warnings);
 }
 
+void LayerChoiceTest::looksForPolygonsWhereTheKindIsNotKnown_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("any") << QByteArray("GEOMETRY") << "POINT (11 48)";
+    QTest::newRow("collections") << QByteArray("GEOMETRYCOLLECTION") << "GEOMETRYCOLLECTION (POINT (11 48))";
+    QTest::newRow("collections with heights")
+        << QByteArray("GEOMETRYCOLLECTION Z") << "GEOMETRYCOLLECTION Z (POINT Z (11 48 5))";
+}
+
 void LayerChoiceTest::looksForPolygonsWhereTheKindIsNotKnown()
 {
+    QFETCH(QByteArray, kind);
+    QFETCH(QString, first);
     LayerSketch sketch = layer("mixed", "rate", 1.0);
-    sketch.kind = "GEOMETRY";
-    sketch.rows.prepend({QStringLiteral("POINT (11 48)"), {9.0}});
+    sketch.kind = kind.constData();
+    sketch.rows.prepend({first, {9.0}});
     sketch.rows.last().geometry = QStringLiteral("GEOMETRYCOLLECTION (%1)").arg(sketch.rows.last().geometry);
     QVERIFY(write({points("points"), sketch}));
     QVERIFY2(read(path("a.gpkg")), qPrintable(error));

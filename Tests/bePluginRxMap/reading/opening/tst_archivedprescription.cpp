@@ -21,6 +21,7 @@ private Q_SLOTS:
     void refusesArchivesThatItCannotUse();
     void refusesDamage_data();
     void refusesDamage();
+    void countsThePartsOfAShapefileTogether();
     void checksWhatIsStoredWithoutCompression();
     void opensTheDocumentOfAKmz_data();
     void opensTheDocumentOfAKmz();
@@ -209,6 +210,21 @@ void ArchivedPrescriptionTest::refusesDamage()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     file.close();
     QTEST(errorOf(archive()), "reason");
+}
+
+void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
+{
+    QVERIFY(pack({"a.shp", "a.shx", "a.dbf"}));
+    QByteArray content = bytesOf(archive());
+    // Each says that it has 100 MB.
+    int parts = 0;
+    for (int at = content.indexOf("PK\x01\x02"); at >= 0; at = content.indexOf("PK\x01\x02", at + 1), ++parts)
+        content.replace(at + 24, 4, QByteArray("\0\0\x40\6", 4));
+    QCOMPARE(parts, 3);
+    QFile file(archive());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    QCOMPARE(errorOf(archive()), QStringLiteral("\"a.shp\" in it has more than 256 MB"));
 }
 
 void ArchivedPrescriptionTest::checksWhatIsStoredWithoutCompression()

@@ -46,6 +46,8 @@ private Q_SLOTS:
     void refusesADamagedArchive();
     void readsTenThousandZones();
     void refusesTooManyColumns();
+    void refusesMoreRatesThanMemoryIsToHold();
+    void refusesTooManyReferences();
     void namesTheTasksAndColumnsThatAreThere();
     void endsWhenItIsCancelled();
 };
@@ -189,6 +191,45 @@ void TaskDataReaderRefusalsTest::refusesTooManyColumns()
     QVERIFY(Sketch{Sketch::task("TSK1", Sketch::zone(1, square() + values))}.write(folder->path()));
     QVERIFY(!read(folder->path()));
     QCOMPARE(error, QStringLiteral("task TSK1 has more than 1000 process data variables"));
+}
+
+void TaskDataReaderRefusalsTest::refusesMoreRatesThanMemoryIsToHold()
+{
+    const auto valuesOf = [](int count) {
+        QByteArray values;
+        for (int i = 0; i < count; ++i)
+            values += Sketch::value(weight, 1, "C=\"PDT" + QByteArray::number(i) + "\"");
+        return values;
+    };
+    // A million cells may have twenty columns; the file for them is not even looked for.
+    const QByteArray grid = Sketch::grid(1000, 1000, 2, "J=\"7\"");
+    QVERIFY(Sketch{Sketch::task("TSK1", grid + Sketch::zone(7, valuesOf(21)))}.write(folder->path()));
+    QVERIFY(!read(folder->path()));
+    QCOMPARE(error, QStringLiteral("TASKDATA.XML, line 4: the grid of 1000 x 1000 cells is too large"));
+    QVERIFY(Sketch{Sketch::task("TSK1", grid + Sketch::zone(7, valuesOf(20)))}.write(folder->path()));
+    QVERIFY(!read(folder->path()));
+    QCOMPARE(error, QStringLiteral("TASKDATA.XML, line 4: there is no file GRD00001.BIN beside it"));
+    // Zones are counted as they come.
+    QByteArray zones = Sketch::zone(0, square() + valuesOf(1000));
+    for (int i = 1; i <= 20000; ++i)
+        zones += Sketch::zone(i % 250, square());
+    QVERIFY(Sketch{Sketch::task("TSK1", zones)}.write(folder->path()));
+    QVERIFY(!read(folder->path()));
+    QCOMPARE(error, QStringLiteral("task TSK1 has too many zones with too many values"));
+}
+
+void TaskDataReaderRefusalsTest::refusesTooManyReferences()
+{
+    QByteArray references;
+    QMap<QByteArray, QByteArray> files;
+    for (int i = 1; i <= 1000; ++i) {
+        const QByteArray name = "TSK" + QByteArray::number(i).rightJustified(5, '0');
+        references += "<XFR A=\"" + name + "\"/>\n";
+        files.insert(name + ".XML", "<XFC/>");
+    }
+    QVERIFY((Sketch{references, 4, files}.write(folder->path())));
+    QVERIFY(!read(folder->path()));
+    QCOMPARE(error, QStringLiteral("TASKDATA.XML, line 1002: refers to more than 1000 files"));
 }
 
 void TaskDataReaderRefusalsTest::namesTheTasksAndColumnsThatAreThere()
