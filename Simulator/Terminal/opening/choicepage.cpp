@@ -1,6 +1,7 @@
 #include "choicepage.h"
 
 #include "caption.h"
+#include "listrow.h"
 #include "pager.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -37,14 +38,14 @@ ChoicePage::ChoicePage(QWidget *parent)
     auto *body = new QHBoxLayout;
     auto *grid = new QGridLayout;
     for (int place = 0; place < rows * columns; ++place) {
-        auto *button = new TouchButton(QString(), this);
+        // A row, not a button: names of layers are long, and may differ at their ends alone.
+        auto *button = new ListRow(this);
         button->setObjectName(QStringLiteral("choice%1").arg(place));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::TabFocus);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         grid->addWidget(button, place / columns, place % columns);
         buttons.append(button);
-        connect(button, &TouchButton::clicked, this, [this, place] { Q_EMIT chosen(pages->first() + place); });
+        connect(button, &ListRow::clicked, this, [this, place] { Q_EMIT chosen(pages->first() + place); });
     }
     for (int row = 0; row < rows; ++row)
         grid->setRowStretch(row, 1);
@@ -68,7 +69,7 @@ void ChoicePage::showPage()
 {
     for (int place = 0; place < buttons.size(); ++place) {
         const int option = pages->first() + place;
-        TouchButton *button = buttons.at(place);
+        ListRow *button = buttons.at(place);
         button->setVisible(option < texts.size());
         button->setText(texts.value(option));
         button->setChecked(option == currentPlace);

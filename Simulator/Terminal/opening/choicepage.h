@@ -5,8 +5,8 @@
 #include <QWidget>
 
 class Caption;
+class ListRow;
 class Pager;
-class TouchButton;
 
 /// One of several things to choose by a touch.
 class ChoicePage : public QWidget {
@@ -28,7 +28,7 @@ private:
     void showPage();
 
     Caption *title;
-    QList<TouchButton *> buttons;
+    QList<ListRow *> buttons;
     Pager *pages;
     QStringList texts;
     int currentPlace = -1;

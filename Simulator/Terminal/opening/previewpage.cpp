@@ -19,6 +19,7 @@ namespace {
 constexpr int titlePixels = 24;
 constexpr int remarkPixels = 16;
 constexpr int buttonWidth = 200;
+constexpr int choiceWidth = 300;
 
 /// What a legend shows: not what stands for "no rate".
 QList<OrvikTypes::RX_RATECOLOR> drawnClasses(const SurveyedColumn &column)
@@ -82,6 +83,8 @@ QWidget *PreviewPage::makeHead()
     layout->addWidget(title, 1);
     layer = addButton(layout, QString(), "openLayer", &PreviewPage::layerTouched);
     task = addButton(layout, QString(), "openTask", &PreviewPage::taskTouched);
+    for (TouchButton *button : {layer, task})
+        button->setFixedWidth(choiceWidth);
     layer->setNote(tr("Layer"));
     task->setNote(tr("Task"));
     return head;
