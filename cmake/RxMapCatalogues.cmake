@@ -1,12 +1,16 @@
 # Catalogues of a target's texts. The build compiles what stands in the sources and writes nothing there; the target
 # update_translations enters new texts as unfinished and drops those that are gone, and a test tells when that is due.
-#   rxmap_add_catalogues(NAME FOLDER [OTHER_FOLDER...]): translations/NAME_<language>.ts becomes FOLDER/NAME_<language>.qm,
-#   in the calling folder; the .qm files' paths are left in `catalogues`.
-# The texts are those of all sources below the calling folder, and of other folders that are named behind.
+#   rxmap_add_catalogues(NAME FOLDER [LANGUAGES de...] TEXTS_OF FOLDER...): translations/NAME_<language>.ts of the calling
+#   folder becomes FOLDER/NAME_<language>.qm; the .qm files' paths are left in `catalogues`.
+# The texts are those of all sources below the folders of TEXTS_OF.
 function(rxmap_add_catalogues name folder)
+    cmake_parse_arguments(arg "" "" "LANGUAGES;TEXTS_OF" ${ARGN})
+    if(NOT arg_LANGUAGES)
+        set(arg_LANGUAGES de fr es pt_BR)
+    endif()
     set(sources "")
     set(catalogues "")
-    foreach(language de fr es pt_BR)
+    foreach(language IN LISTS arg_LANGUAGES)
         set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${name}_${language}.ts")
         set(catalogue "${folder}/${name}_${language}.qm")
         add_custom_command(OUTPUT "${catalogue}"
@@ -18,7 +22,7 @@ function(rxmap_add_catalogues name folder)
     endforeach()
     set(catalogues ${catalogues} PARENT_SCOPE)
 
-    set(update "$<TARGET_FILE:Qt5::lupdate>" -silent -locations none -no-obsolete . ${ARGN} -ts)
+    set(update "$<TARGET_FILE:Qt5::lupdate>" -silent -locations none -no-obsolete ${arg_TEXTS_OF} -ts)
     if(NOT TARGET update_translations)
         add_custom_target(update_translations)
     endif()
@@ -28,7 +32,7 @@ function(rxmap_add_catalogues name folder)
     if(BUILD_TESTING)
         add_test(NAME the_catalogues_of_${name}_are_up_to_date
             COMMAND ${CMAKE_COMMAND} "-DCATALOGUES=${sources}" "-DUPDATE=${update}"
-                "-DFOLDER=${CMAKE_CURRENT_BINARY_DIR}/updated_translations"
+                "-DFOLDER=${CMAKE_CURRENT_BINARY_DIR}/updated_translations_of_${name}"
                 -P "${PROJECT_SOURCE_DIR}/cmake/CheckCatalogues.cmake"
             WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")
     endif()

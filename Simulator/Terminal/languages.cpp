@@ -58,7 +58,7 @@ QString Languages::install(const QString &code, const QDir &pluginFolder)
     initialiseCatalogues();
     const QStringList own = QDir(QStringLiteral(":/translations")).entryList();
     for (const QString &name : own) {
-        if (name.compare(QStringLiteral("terminal_%1.qm").arg(language), Qt::CaseInsensitive) == 0)
+        if (languageOf(QFileInfo(name)).compare(language, Qt::CaseInsensitive) == 0)
             installCatalogue(QStringLiteral(":/translations/") + name);
     }
     return {};

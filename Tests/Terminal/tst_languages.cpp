@@ -1,3 +1,4 @@
+#include "Backend/prescriptionbackend.h"
 #include "languages.h"
 #include "paths.h"
 #include "productfile.h"
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void numbersAndTheUsualProductsFollowTheLanguage();
     void everyTextOfTheDisplayIsTranslated_data();
     void everyTextOfTheDisplayIsTranslated();
+    void whatALoadSaysIsTranslated_data();
+    void whatALoadSaysIsTranslated();
     void englishNeedsNoCatalogue_data();
     void englishNeedsNoCatalogue();
     void cataloguesBesideThePluginCountToo_data();
@@ -98,19 +101,45 @@ void TestLanguages::numbersAndTheUsualProductsFollowTheLanguage()
 void TestLanguages::everyTextOfTheDisplayIsTranslated_data()
 {
     QTest::addColumn<QString>("code");
-    for (const char *code : {"de", "fr", "es", "pt_BR"})
+    for (const char *code : {"terminal_de", "terminal_fr", "terminal_es", "terminal_pt_BR", "backend_de"})
         QTest::newRow(code) << QString::fromLatin1(code);
 }
 
 void TestLanguages::everyTextOfTheDisplayIsTranslated()
 {
     QFETCH(QString, code);
-    QFile file(sourcePath("Simulator/Terminal/translations/terminal_%1.ts").arg(code));
+    QFile file(sourcePath("Simulator/Terminal/translations/%1.ts").arg(code));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString catalogue = QString::fromUtf8(file.readAll());
     QVERIFY(catalogue.count(QStringLiteral("<translation>")) > 10);
     QVERIFY(!catalogue.contains(QStringLiteral("type=\"unfinished\"")));
     QVERIFY(!catalogue.contains(QStringLiteral("<translation></translation>")));
+}
+
+void TestLanguages::whatALoadSaysIsTranslated_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("refusal");
+    QTest::addColumn<QString>("finding");
+    QTest::newRow("de") << "de"
+                        << "/no/such.shp: diese Datei gibt es nicht"
+                        << "Spalte „A“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält";
+    // In English as long as nobody has translated it.
+    QTest::newRow("fr") << "fr"
+                        << "/no/such.shp: there is no such file"
+                        << "column \"A\" is a guess: nothing in its name says that it holds rates";
+}
+
+void TestLanguages::whatALoadSaysIsTranslated()
+{
+    QFETCH(QString, code);
+    QCOMPARE(Languages::install(code, QDir(pluginFolder())), QString());
+    LoadRequest request;
+    request.products = {MachineProduct()};
+    request.path = QStringLiteral("/no/such.shp");
+    QTEST(PrescriptionBackend::check(request, 12.0).error, "refusal");
+    request.path = sourcePath("Tests/fixtures/two-strips.geojson");
+    QTEST(PrescriptionBackend::check(request, 12.0).findings.value(0).text, "finding");
 }
 
 void TestLanguages::englishNeedsNoCatalogue_data()

@@ -1,5 +1,6 @@
 #include "coveragecheck.h"
 
+#include "Backend/backendtext.h"
 #include "findingtext.h"
 #include "planeshape.h"
 #include "ringcrossings.h"
@@ -53,8 +54,8 @@ bool CoverageCheck::run(FindingList &findings)
     if (RingCrossings::count(edges, mostCrossings) > mostCrossings) {
         MapFinding finding;
         finding.text =
-            QStringLiteral("the polygons' edges cross each other more than %1 times; overlaps and gaps are not "
-                           "told one by one")
+            BackendText::tr("the polygons' edges cross each other more than %1 times; overlaps and gaps are not "
+                            "told one by one")
                 .arg(mostCrossings);
         findings.add(finding, HUGE_VAL);
         return !control.isCancelled();
@@ -112,10 +113,10 @@ void CoverageCheck::tellGap(const PlanePolygon &gap, FindingList &findings)
     finding.place = QPointF(point.x, point.y);
     finding.extent = PlaneShape::rectangle(PlaneShape::extent(gap));
     finding.records = surroundings.records;
-    finding.text = QStringLiteral("no polygon covers %1 inside the field (%2 m wide)")
+    finding.text = BackendText::tr("no polygon covers %1 inside the field (%2 m wide)")
                        .arg(FindingText::squareMetres(area), QString::number(width, 'f', isSliver ? 2 : 1));
     if (!finding.records.isEmpty())
-        finding.text += QStringLiteral(", beside %1").arg(FindingText::records(finding.records));
+        finding.text += BackendText::tr(", beside %1").arg(FindingText::records(finding.records));
     findings.add(finding, area);
 }
 
@@ -204,10 +205,10 @@ void CoverageCheck::compare(unsigned a, unsigned b, FindingList &findings)
     finding.extent = PlaneShape::rectangle(extent);
     const QString who = FindingText::records(finding.records);
     if (one.record == other.record)
-        finding.text = QStringLiteral("parts of %1 overlap on %2").arg(who, FindingText::squareMetres(area));
+        finding.text = BackendText::tr("parts of %1 overlap on %2").arg(who, FindingText::squareMetres(area));
     else if (isSame)
-        finding.text = QStringLiteral("%1 have the same shape, %2").arg(who, FindingText::squareMetres(area));
+        finding.text = BackendText::tr("%1 have the same shape, %2").arg(who, FindingText::squareMetres(area));
     else
-        finding.text = QStringLiteral("%1 overlap on %2").arg(who, FindingText::squareMetres(area));
+        finding.text = BackendText::tr("%1 overlap on %2").arg(who, FindingText::squareMetres(area));
     findings.add(finding, area);
 }

@@ -1,5 +1,7 @@
 #include "findinglist.h"
 
+#include "Backend/backendtext.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,19 +11,19 @@ QString nounOf(MapFinding::Kind kind)
 {
     switch (kind) {
     case MapFinding::Kind::Overlap:
-        return QStringLiteral("overlaps");
+        return BackendText::tr("overlaps");
     case MapFinding::Kind::Gap:
-        return QStringLiteral("gaps");
+        return BackendText::tr("gaps");
     case MapFinding::Kind::Sliver:
-        return QStringLiteral("slivers");
+        return BackendText::tr("slivers");
     case MapFinding::Kind::Narrow:
-        return QStringLiteral("narrow polygons");
+        return BackendText::tr("narrow polygons");
     case MapFinding::Kind::Outlier:
-        return QStringLiteral("rates far from the rest");
+        return BackendText::tr("rates far from the rest");
     case MapFinding::Kind::Duplicate:
-        return QStringLiteral("polygons of the same shape");
+        return BackendText::tr("polygons of the same shape");
     default:
-        return QStringLiteral("findings of this kind");
+        return BackendText::tr("findings of this kind");
     }
 }
 
@@ -54,13 +56,13 @@ MapFinding FindingList::summary(MapFinding::Kind kind, const Share &share)
 {
     MapFinding finding;
     finding.kind = kind;
-    finding.text = QStringLiteral("%1 more %2").arg(QString::number(share.others), nounOf(kind));
+    finding.text = BackendText::tr("%1 more %2").arg(QString::number(share.others), nounOf(kind));
     finding.records = share.otherRecords;
     std::sort(finding.records.begin(), finding.records.end());
     finding.records.erase(std::unique(finding.records.begin(), finding.records.end()), finding.records.end());
     if (share.otherArea > 0.0) {
         finding.area = share.otherArea;
-        finding.text += QStringLiteral(", %1 m2 in all").arg(share.otherArea, 0, 'f', 1);
+        finding.text += BackendText::tr(", %1 m2 in all").arg(share.otherArea, 0, 'f', 1);
     }
     return finding;
 }

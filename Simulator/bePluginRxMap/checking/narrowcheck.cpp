@@ -1,5 +1,6 @@
 #include "narrowcheck.h"
 
+#include "Backend/backendtext.h"
 #include "coveragecheck.h"
 #include "findingtext.h"
 #include "planeshape.h"
@@ -58,7 +59,7 @@ void NarrowCheck::tellSliver(unsigned place, FindingList &findings) const
     finding.area = MapView::area(polygon);
     finding.extent = PlaneShape::rectangle(polygon.extent);
     finding.place = finding.extent.center();
-    finding.text = QStringLiteral("record %1 is only %2 m wide").arg(polygon.record).arg(widths[place], 0, 'f', 2);
+    finding.text = BackendText::tr("record %1 is only %2 m wide").arg(polygon.record).arg(widths[place], 0, 'f', 2);
     findings.add(finding, -widths[place]);
 }
 
@@ -127,9 +128,9 @@ MapFinding NarrowCheck::findingOf(const Area &area) const
     finding.place = PlaneShape::rectangle(map.polygons()[area.places.front()].extent).center();
     const QList<int> records = recordsOf(area);
     finding.records = records.mid(0, MapFinding::mostRecords);
-    const QString one = QStringLiteral("%1 is %2 m wide, narrower than the machine (%3 m)");
+    const QString one = BackendText::tr("%1 is %2 m wide, narrower than the machine (%3 m)");
     const QString many =
-        QStringLiteral("%1 have the same rate and are %2 m wide together, narrower than the machine (%3 m)");
+        BackendText::tr("%1 have the same rate and are %2 m wide together, narrower than the machine (%3 m)");
     finding.text =
         (records.size() == 1 ? one : many)
             .arg(FindingText::records(records), QString::number(area.width, 'f', 1), QString::number(machineWidth));
@@ -141,7 +142,7 @@ MapFinding NarrowCheck::findingOf(const std::vector<Area> &areas) const
     const Area &narrowest =
         *std::min_element(areas.begin(), areas.end(), [](const Area &a, const Area &b) { return a.width < b.width; });
     MapFinding finding = findingOf(narrowest);
-    finding.text = QStringLiteral("%1 areas of one rate are narrower than the machine (%2 m), the narrowest %3 m (%4)")
+    finding.text = BackendText::tr("%1 areas of one rate are narrower than the machine (%2 m), the narrowest %3 m (%4)")
                        .arg(QString::number(areas.size()), QString::number(machineWidth),
                             QString::number(narrowest.width, 'f', 1), FindingText::records(finding.records));
     finding.records.clear();

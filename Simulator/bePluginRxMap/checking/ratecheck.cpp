@@ -8,6 +8,7 @@
 
 #include "ratecheck.h"
 
+#include "Backend/backendtext.h"
 #include "planeshape.h"
 #include "statistics.h"
 
@@ -128,7 +129,7 @@ void RateCheck::tellFar(std::vector<Entry> sorted, FindingList &findings) const
         }
         finding.extent = PlaneShape::rectangle(extent);
         finding.text =
-            QStringLiteral("%1 in column \"%2\" (%3) is far from the other rates, %4 to %5")
+            BackendText::tr("%1 in column \"%2\" (%3) is far from the other rates, %4 to %5")
                 .arg(numberText(rate), column.name, column.unit, numberText(usual.least), numberText(usual.greatest));
         findings.add(finding, std::fabs(rate - usual.greatest));
     }
@@ -157,7 +158,7 @@ void RateCheck::tellTotals(const std::vector<Entry> &all, FindingList &findings)
     MapFinding finding;
     finding.kind = MapFinding::Kind::Total;
     finding.text =
-        QStringLiteral("column \"%1\" looks like totals, not rates: its numbers grow with the area of the polygons")
+        BackendText::tr("column \"%1\" looks like totals, not rates: its numbers grow with the area of the polygons")
             .arg(column.name);
     findings.add(finding, correlation);
 }

@@ -1,5 +1,6 @@
 #include "localplane.h"
 
+#include "Backend/backendtext.h"
 #include "projectionapproximation.h"
 
 #include <algorithm>
@@ -126,14 +127,14 @@ bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QS
     const bool isGeographic = !map.reference || map.reference->IsGeographic();
     if (isGeographic && !areDegrees(x, y)) {
         error = map.reference
-            ? QStringLiteral("its coordinates are no longitudes and latitudes")
-            : map.lackOfReference + QStringLiteral(", and its coordinates are no longitudes and latitudes");
+            ? BackendText::tr("its coordinates are no longitudes and latitudes")
+            : map.lackOfReference + BackendText::tr(", and its coordinates are no longitudes and latitudes");
         return false;
     }
     std::vector<double> longitudes;
     std::vector<double> latitudes;
     if (!edgePlaces(map, x, y, longitudes, latitudes)) {
-        error = QStringLiteral("its coordinate system \"%1\" cannot be projected there")
+        error = BackendText::tr("its coordinate system \"%1\" cannot be projected there")
                     .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
         return false;
     }
@@ -146,7 +147,7 @@ bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QS
     const double width = earthRadius * radians(extent.east - extent.west) * std::cos(radians(nearestEquator));
     if (std::max(width, height) <= widestMap)
         return true;
-    error = QStringLiteral("extends over %1 km; no field does").arg(std::max(width, height) / 1000.0, 0, 'f', 0);
+    error = BackendText::tr("extends over %1 km; no field does").arg(std::max(width, height) / 1000.0, 0, 'f', 0);
     return false;
 }
 
@@ -163,7 +164,7 @@ bool LocalPlane::project(const RawPrescription &map, std::vector<double> &xs, st
     if (plane.importFromProj4(definition.toLatin1().constData()) == OGRERR_NONE)
         toPlane.reset(OGRCreateCoordinateTransformation(source.get(), &plane));
     if (!toPlane) {
-        error = QStringLiteral("its coordinate system \"%1\" cannot be projected")
+        error = BackendText::tr("its coordinate system \"%1\" cannot be projected")
                     .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
         return false;
     }

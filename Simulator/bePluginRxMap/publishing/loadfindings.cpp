@@ -1,5 +1,6 @@
 #include "loadfindings.h"
 
+#include "Backend/backendtext.h"
 #include "planeshape.h"
 
 #include <algorithm>
@@ -17,8 +18,8 @@ QString textOf(const std::vector<int> &records)
     for (size_t i = 0; i < records.size() && i < size_t(mostTold); ++i)
         numbers.append(QString::number(records[i]));
     const int more = int(records.size()) - numbers.size();
-    return (records.size() == 1 ? QStringLiteral("record ") : QStringLiteral("records "))
-        + numbers.join(QStringLiteral(", ")) + (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString());
+    return (records.size() == 1 ? BackendText::tr("record ") : BackendText::tr("records "))
+        + numbers.join(QStringLiteral(", ")) + (more > 0 ? BackendText::tr(" and %1 more").arg(more) : QString());
 }
 
 /// Area and extent of all parts of the records; the place is the middle of the first part.

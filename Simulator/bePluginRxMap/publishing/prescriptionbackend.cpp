@@ -1,5 +1,6 @@
 #include "Backend/prescriptionbackend.h"
 
+#include "Backend/backendtext.h"
 #include "columnpolicy.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionloader.h"
@@ -55,7 +56,7 @@ LoadReport PrescriptionBackend::loadAndWait(const LoadRequest &request)
         QEventLoop loop;
     };
     const auto wait = std::make_shared<Wait>();
-    wait->outcome = PrescriptionBackendPrivate::refuse(request.path, QStringLiteral("loading was given up"));
+    wait->outcome = PrescriptionBackendPrivate::refuse(request.path, BackendText::tr("loading was given up"));
     const std::shared_ptr<LoadJob> job = d->enqueue(request, [wait](const LoadReport &report) {
         wait->outcome = report;
         wait->loop.quit();
@@ -107,7 +108,7 @@ LoadReport PrescriptionBackend::check(const LoadRequest &request, double machine
     const std::optional<QList<MapFinding>> findings = MapChecker::findings(map->checkInput(), machineWidth, control);
     if (!findings)
         return PrescriptionBackendPrivate::refuse(request.path,
-                                                  QStringLiteral("cannot be checked, there is not enough memory"));
+                                                  BackendText::tr("cannot be checked, there is not enough memory"));
     map->report.findings += *findings;
     return map->report;
 }

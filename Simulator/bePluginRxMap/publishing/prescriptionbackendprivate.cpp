@@ -1,5 +1,6 @@
 #include "prescriptionbackendprivate.h"
 
+#include "Backend/backendtext.h"
 #include "Backend/prescriptionbackend.h"
 #include "prescriptionloader.h"
 
@@ -54,7 +55,7 @@ PrescriptionBackendPrivate::~PrescriptionBackendPrivate()
     jobs.clear();
     for (const std::shared_ptr<LoadJob> &job : unfinished) {
         if (job->done)
-            job->done(refuse(job->request.path, QStringLiteral("loading was cancelled")));
+            job->done(refuse(job->request.path, BackendText::tr("loading was cancelled")));
     }
     while (!entries.empty())
         entries.pop_back();
@@ -133,7 +134,7 @@ void PrescriptionBackendPrivate::work(const std::shared_ptr<LoadJob> &job, const
 void PrescriptionBackendPrivate::finishSurvey(SurveyReport survey)
 {
     if (jobs.front()->cancelled)
-        survey.error = refuse(survey.path, QStringLiteral("loading was cancelled")).error;
+        survey.error = refuse(survey.path, BackendText::tr("loading was cancelled")).error;
     jobs.pop_front();
     startNext();
     Q_EMIT q->surveyed(survey);
@@ -143,7 +144,7 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
 {
     const std::shared_ptr<LoadJob> job = jobs.front();
     if (map->report.isOk() && job->cancelled)
-        map->report = refuse(map->report.path, QStringLiteral("loading was cancelled"));
+        map->report = refuse(map->report.path, BackendText::tr("loading was cancelled"));
     const bool isChange = map->report.isOk();
     if (isChange && !map->report.columnProducts.isEmpty())
         Q_EMIT q->productsMade(map->report.columnProducts);
@@ -207,7 +208,7 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
     checker.drop(report.group);
     if (!entry.map->publish(std::move(map), channels, settings)) {
         shareOut({});
-        return refuse(report.path, QStringLiteral("the group name \"%1\" is taken").arg(report.group));
+        return refuse(report.path, BackendText::tr("the group name \"%1\" is taken").arg(report.group));
     }
     entries.push_back(std::move(entry));
     useDefaultRates(report);

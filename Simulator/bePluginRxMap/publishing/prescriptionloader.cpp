@@ -1,5 +1,6 @@
 #include "prescriptionloader.h"
 
+#include "Backend/backendtext.h"
 #include "columnproducts.h"
 #include "duplicatepolygons.h"
 #include "filesurvey.h"
@@ -37,7 +38,7 @@ LoadRequest expecting(LoadRequest request)
 
 QString tangleText(int record)
 {
-    return QStringLiteral("record %1 was left out, its rings cross each other or themselves more than %2 times")
+    return BackendText::tr("record %1 was left out, its rings cross each other or themselves more than %2 times")
         .arg(QString::number(record), QString::number(RingRepair::mostCrossings));
 }
 
@@ -103,7 +104,7 @@ bool PrescriptionLoader::attempt(const std::function<bool()> &work)
     try {
         return work();
     } catch (const std::exception &failure) {
-        return fail(QStringLiteral("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
+        return fail(BackendText::tr("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
     }
 }
 
@@ -137,7 +138,7 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
     }
     FileSurvey(source, polygons).addPicture(survey);
     control.report(1.0);
-    return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
+    return !control.isCancelled() || fail(BackendText::tr("loading was cancelled"));
 }
 
 bool PrescriptionLoader::loadInto(LoadedMap &map)
@@ -164,7 +165,7 @@ bool PrescriptionLoader::readPolygons(LoadedMap &map, ColumnJudge judge)
     LoadControl reading = control;
     reading.progress = [this](double fraction) { control.report(shareOfReading * fraction); };
     if (control.isCancelled())
-        return fail(QStringLiteral("loading was cancelled"));
+        return fail(BackendText::tr("loading was cancelled"));
     if (!policy.refusal().isEmpty())
         return fail(policy.refusal());
     for (const QString &warning : policy.warnings())
@@ -183,19 +184,19 @@ bool PrescriptionLoader::place(LoadedMap &map)
 {
     if (source.rings.empty()) {
         if (!source.otherRecords.empty())
-            return fail(QStringLiteral("holds points or lines, not polygons"));
-        return fail(source.notFiniteRecords.empty() ? QStringLiteral("holds no polygon")
-                                                    : QStringLiteral("holds no polygon with finite coordinates"));
+            return fail(BackendText::tr("holds points or lines, not polygons"));
+        return fail(source.notFiniteRecords.empty() ? BackendText::tr("holds no polygon")
+                                                    : BackendText::tr("holds no polygon with finite coordinates"));
     }
     findings->addCounted(Kind::StrayPolygon, StrayPolygons::remove(source),
-                         {QStringLiteral("polygon that lies more than 100 km from the others was left out"),
-                          QStringLiteral("polygons that lie more than 100 km from the others were left out")});
+                         {BackendText::tr("polygon that lies more than 100 km from the others was left out"),
+                          BackendText::tr("polygons that lie more than 100 km from the others were left out")});
     QString reason;
     GeographicExtent extent;
     if (!LocalPlane::locate(source, extent, reason))
         return fail(reason);
     if (!source.reference)
-        tell(Kind::ReferenceSystem, source.lackOfReference + QStringLiteral("; taken as WGS 84"));
+        tell(Kind::ReferenceSystem, source.lackOfReference + BackendText::tr("; taken as WGS 84"));
     const double longitude = 0.5 * (extent.west + extent.east);
     const double latitude = 0.5 * (extent.south + extent.north);
     const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
@@ -203,7 +204,7 @@ bool PrescriptionLoader::place(LoadedMap &map)
     });
     map.plane = near == planes.end() ? LocalPlane(longitude, latitude) : *near;
     if (near == planes.end() && !planes.empty())
-        findings->remark(QStringLiteral("lies %1 km from what is loaded and gets a plane of its own")
+        findings->remark(BackendText::tr("lies %1 km from what is loaded and gets a plane of its own")
                              .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
     if (!map.plane.project(source, xs, ys, reason))
         return fail(reason);
@@ -251,7 +252,7 @@ bool PrescriptionLoader::repairRings()
     for (size_t ring = 0, reported = 0; ring < source.rings.size();) {
         ring = repair.append(source, xs, ys, ring, outcome);
         if (control.isCancelled())
-            return fail(QStringLiteral("loading was cancelled"));
+            return fail(BackendText::tr("loading was cancelled"));
         if (ring - reported < ringsPerReport && ring < source.rings.size())
             continue;
         reported = ring;
@@ -262,19 +263,19 @@ bool PrescriptionLoader::repairRings()
     std::vector<int> dropped = source.droppedRings;
     dropped.insert(dropped.end(), outcome.dropped.begin(), outcome.dropped.end());
     findings->addCounted(Kind::Skipped, dropped,
-                         {QStringLiteral("ring that encloses nothing was left out"),
-                          QStringLiteral("rings that enclose nothing were left out")});
+                         {BackendText::tr("ring that encloses nothing was left out"),
+                          BackendText::tr("rings that enclose nothing were left out")});
     for (const int record : outcome.tangled)
         tell(Kind::Skipped, tangleText(record), record);
     findings->addCounted(Kind::LooseHole, outcome.looseHoles,
-                         {QStringLiteral("hole lies in no polygon and was left out"),
-                          QStringLiteral("holes lie in no polygon and were left out")});
-    findings->addCounted(Kind::Repaired, outcome.repaired,
-                         {QStringLiteral("polygon had to be repaired"), QStringLiteral("polygons had to be repaired")},
-                         polygons);
+                         {BackendText::tr("hole lies in no polygon and was left out"),
+                          BackendText::tr("holes lie in no polygon and were left out")});
+    findings->addCounted(
+        Kind::Repaired, outcome.repaired,
+        {BackendText::tr("polygon had to be repaired"), BackendText::tr("polygons had to be repaired")}, polygons);
     if (polygons.empty() && !outcome.tangled.empty())
         return fail(tangleText(outcome.tangled.front()));
-    return !polygons.empty() || fail(QStringLiteral("holds no polygon that encloses anything"));
+    return !polygons.empty() || fail(BackendText::tr("holds no polygon that encloses anything"));
 }
 
 void PrescriptionLoader::makeProducts()
@@ -336,8 +337,8 @@ void PrescriptionLoader::tellGaps()
         }
         const QString column = report->columns.at(static_cast<int>(i));
         findings->addCounted(Kind::Skipped, gaps,
-                             {QStringLiteral("record has no rate in column \"%1\"").arg(column),
-                              QStringLiteral("records have no rate in column \"%1\"").arg(column)},
+                             {BackendText::tr("record has no rate in column \"%1\"").arg(column),
+                              BackendText::tr("records have no rate in column \"%1\"").arg(column)},
                              polygons);
     }
 }
@@ -367,22 +368,22 @@ void PrescriptionLoader::dropHidden()
     for (const PlanePolygon &polygon : hidden)
         records.push_back(polygon.record);
     findings->addCounted(Kind::Duplicate, records,
-                         {QStringLiteral("polygon is hidden under a later one of the same shape"),
-                          QStringLiteral("polygons are hidden under later ones of the same shape")},
+                         {BackendText::tr("polygon is hidden under a later one of the same shape"),
+                          BackendText::tr("polygons are hidden under later ones of the same shape")},
                          hidden);
 }
 
 bool PrescriptionLoader::arrange()
 {
     if (polygons.empty())
-        return fail(QStringLiteral("no polygon has a rate"));
+        return fail(BackendText::tr("no polygon has a rate"));
     if (control.isCancelled())
-        return fail(QStringLiteral("loading was cancelled"));
+        return fail(BackendText::tr("loading was cancelled"));
     arrangement = HoleArrangement::arrange(polygons);
     findings->addCounted(
         Kind::LooseHole, arrangement.misplaced,
-        {QStringLiteral("hole cannot be drawn as one"), QStringLiteral("holes cannot be drawn as such")});
-    return !control.isCancelled() || fail(QStringLiteral("loading was cancelled"));
+        {BackendText::tr("hole cannot be drawn as one"), BackendText::tr("holes cannot be drawn as such")});
+    return !control.isCancelled() || fail(BackendText::tr("loading was cancelled"));
 }
 
 void PrescriptionLoader::makeChain(LoadedMap &map) const
@@ -431,12 +432,12 @@ void PrescriptionLoader::reportCounts(LoadedMap &map)
     const auto tellSkipped = [this](const std::vector<int> &records, const QString &one, const QString &many) {
         findings->addCounted(Kind::Skipped, records, {one, many});
     };
-    tellSkipped(source.emptyRecords, QStringLiteral("record without geometry was skipped"),
-                QStringLiteral("records without geometry were skipped"));
-    tellSkipped(source.otherRecords, QStringLiteral("record that is no polygon was skipped"),
-                QStringLiteral("records that are no polygons were skipped"));
-    tellSkipped(source.notFiniteRecords, QStringLiteral("record with a coordinate that is not finite was skipped"),
-                QStringLiteral("records with a coordinate that is not finite were skipped"));
+    tellSkipped(source.emptyRecords, BackendText::tr("record without geometry was skipped"),
+                BackendText::tr("records without geometry were skipped"));
+    tellSkipped(source.otherRecords, BackendText::tr("record that is no polygon was skipped"),
+                BackendText::tr("records that are no polygons were skipped"));
+    tellSkipped(source.notFiniteRecords, BackendText::tr("record with a coordinate that is not finite was skipped"),
+                BackendText::tr("records with a coordinate that is not finite were skipped"));
     std::vector<int> records;
     for (const PlanePolygon &polygon : withoutRate) {
         if (records.empty() || records.back() != polygon.record)
@@ -444,7 +445,7 @@ void PrescriptionLoader::reportCounts(LoadedMap &map)
     }
     findings->addCounted(
         Kind::Skipped, records,
-        {QStringLiteral("record without a rate was skipped"), QStringLiteral("records without a rate were skipped")},
+        {BackendText::tr("record without a rate was skipped"), BackendText::tr("records without a rate were skipped")},
         withoutRate);
     for (const QString &warning : source.warnings)
         findings->remark(warning);

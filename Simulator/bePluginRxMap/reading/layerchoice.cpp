@@ -1,5 +1,6 @@
 #include "layerchoice.h"
 
+#include "Backend/backendtext.h"
 #include "gdalsession.h"
 #include "tablecolumns.h"
 
@@ -34,7 +35,7 @@ bool holdsArea(const OGRGeometry *geometry)
 QString lackOfPolygons(OGRLayer &layer)
 {
     if (!mayHoldPolygons(layer))
-        return QStringLiteral("holds no polygons");
+        return BackendText::tr("holds no polygons");
     // What is wrong with a layer that is not read is no reason to refuse another.
     const GdalSession own;
     layer.ResetReading();
@@ -50,7 +51,7 @@ QString lackOfPolygons(OGRLayer &layer)
     layer.ResetReading();
     if (hasPolygons)
         return {};
-    return records == 0 ? QStringLiteral("holds no records") : QStringLiteral("holds no polygons");
+    return records == 0 ? BackendText::tr("holds no records") : BackendText::tr("holds no polygons");
 }
 
 QString quoted(const QString &name)
@@ -115,12 +116,12 @@ void LayerChoice::judgeColumns(Offer &offer) const
         if (place >= 0)
             ++offer.columns;
         else if (offer.lack.isEmpty())
-            offer.lack = QStringLiteral("has no column \"%1\"").arg(wanted);
+            offer.lack = BackendText::tr("has no column \"%1\"").arg(wanted);
     }
     if (isAnyNamed)
         offer.chance = RateChance::Named;
     else if (offer.chance == RateChance::None)
-        offer.lack = QStringLiteral("has no column that looks like a rate");
+        offer.lack = BackendText::tr("has no column that looks like a rate");
 }
 
 int LayerChoice::named(const RawPrescription &map)
@@ -128,8 +129,8 @@ int LayerChoice::named(const RawPrescription &map)
     const int place = TableColumns::find(map.layers, request.layer);
     if (place < 0)
         reason =
-            QStringLiteral("has no layer \"%1\" with polygons; it has %2")
-                .arg(request.layer, map.layers.isEmpty() ? QStringLiteral("none") : TableColumns::list(map.layers));
+            BackendText::tr("has no layer \"%1\" with polygons; it has %2")
+                .arg(request.layer, map.layers.isEmpty() ? BackendText::tr("none") : TableColumns::list(map.layers));
     return place;
 }
 
@@ -148,11 +149,11 @@ int LayerChoice::firstThatFits(const RawPrescription &map)
     for (size_t i = 0; i < offers.size(); ++i)
         unfit.append(quoted(map.layers.at(static_cast<int>(i))) + QLatin1Char(' ') + offers[i].lack);
     if (unfit.isEmpty())
-        reason = QStringLiteral("holds no layer");
+        reason = BackendText::tr("holds no layer");
     else if (dataset.GetLayerCount() == 1)
         reason = unfit.first();
     else
-        reason = QStringLiteral("none of its layers will do: ") + TableColumns::list(unfit);
+        reason = BackendText::tr("none of its layers will do: ") + TableColumns::list(unfit);
     return -1;
 }
 
@@ -166,7 +167,7 @@ OGRLayer *LayerChoice::take(int place, RawPrescription &map)
     const QString taken = others.takeAt(place);
     if (request.layer.isEmpty() && !others.isEmpty())
         map.warnings.append(
-            QStringLiteral("of its layers %1 is loaded, not %2").arg(taken, TableColumns::list(others)));
+            BackendText::tr("of its layers %1 is loaded, not %2").arg(taken, TableColumns::list(others)));
     map.layer = map.layers.at(place);
     return offers[static_cast<size_t>(place)].layer;
 }

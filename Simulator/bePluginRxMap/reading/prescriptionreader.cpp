@@ -1,5 +1,6 @@
 #include "prescriptionreader.h"
 
+#include "Backend/backendtext.h"
 #include "gdalsession.h"
 #include "layerchoice.h"
 #include "prescriptionfile.h"
@@ -46,7 +47,7 @@ bool PrescriptionReader::mayRead(const QString &path)
 
 bool PrescriptionReader::checkTask()
 {
-    return request.task.isEmpty() || fail(QStringLiteral("has no task \"%1\"; it has no tasks").arg(request.task));
+    return request.task.isEmpty() || fail(BackendText::tr("has no task \"%1\"; it has no tasks").arg(request.task));
 }
 
 bool PrescriptionReader::read(RawPrescription &map)
@@ -98,10 +99,10 @@ void PrescriptionReader::readReference(OGRLayer &layer, const PrescriptionFile &
     const OGRSpatialReference *reference = layer.GetSpatialRef();
     const QString definition = reference == nullptr ? file.definitionFile() : QString();
     if (reference != nullptr && isUndefined(*reference))
-        map.lackOfReference = QStringLiteral("its coordinate system \"%1\" does not say where on the earth it is")
+        map.lackOfReference = BackendText::tr("its coordinate system \"%1\" does not say where on the earth it is")
                                   .arg(QString::fromUtf8(reference->GetName()));
     else if (reference != nullptr)
         map.reference.reset(reference->Clone());
     else if (!definition.isEmpty())
-        map.lackOfReference = QStringLiteral("its coordinate system (%1) cannot be read").arg(definition);
+        map.lackOfReference = BackendText::tr("its coordinate system (%1) cannot be read").arg(definition);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/backendtext.h"
 #include "Backend/placerates.h"
 
 #include <QString>
@@ -94,7 +95,7 @@ struct RawPrescription {
     /// Null when the file names no coordinate system.
     SpatialReference reference;
     /// Said of the file where `reference` is null.
-    QString lackOfReference = QStringLiteral("names no coordinate system");
+    QString lackOfReference = BackendText::tr("names no coordinate system");
     int records = 0;
     /// For each record of a grid the equal cells that it stands for; a record behind the last one is one thing.
     std::vector<int> cells;

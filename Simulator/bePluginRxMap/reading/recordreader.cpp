@@ -1,5 +1,6 @@
 #include "recordreader.h"
 
+#include "Backend/backendtext.h"
 #include "shapereader.h"
 #include "tablecolumns.h"
 #include "textrate.h"
@@ -94,7 +95,7 @@ bool RecordReader::chooseColumns(RawPrescription &map)
     const int count = layer.GetLayerDefn()->GetFieldCount();
     if (count > TableColumns::most)
         return fail(
-            QStringLiteral("has %1 columns; files with more than %2 are not read").arg(count).arg(TableColumns::most));
+            BackendText::tr("has %1 columns; files with more than %2 are not read").arg(count).arg(TableColumns::most));
     const std::vector<SourceColumn> table = TableColumns::read(*layer.GetLayerDefn(), map.columnNames);
     for (const SourceColumn &column : table) {
         if (column.isText)
@@ -116,11 +117,11 @@ bool RecordReader::takeWantedColumns(const std::vector<SourceColumn> &table, Raw
         const int place = TableColumns::find(map.columnNames, name);
         if (place < 0)
             return fail(
-                QStringLiteral("has no column \"%1\"; it has %2").arg(name, TableColumns::list(map.columnNames)));
+                BackendText::tr("has no column \"%1\"; it has %2").arg(name, TableColumns::list(map.columnNames)));
         const auto column =
             std::find_if(table.begin(), table.end(), [place](const auto &c) { return c.field == place; });
         if (column == table.end())
-            return fail(QStringLiteral("column \"%1\" holds no numbers").arg(map.columnNames.at(place)));
+            return fail(BackendText::tr("column \"%1\" holds no numbers").arg(map.columnNames.at(place)));
         if (!taken.contains(place))
             map.columns.push_back(*column);
         taken.append(place);
@@ -156,9 +157,9 @@ bool RecordReader::readRecords(RawPrescription &map)
     ShapeReader shapes(map);
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (control.isCancelled())
-            return fail(QStringLiteral("loading was cancelled"));
+            return fail(BackendText::tr("loading was cancelled"));
         if (static_cast<double>(map.records) * static_cast<double>(map.columns.size()) > mostValues)
-            return fail(QStringLiteral("has more records than can be read with %1 columns; name those that are wanted")
+            return fail(BackendText::tr("has more records than can be read with %1 columns; name those that are wanted")
                             .arg(map.columns.size()));
         readValues(*feature, map);
         shapes.read(feature->GetGeometryRef());
@@ -166,7 +167,7 @@ bool RecordReader::readRecords(RawPrescription &map)
         if (map.records % 256 == 0)
             control.report(std::min(1.0, map.records / expected));
     }
-    return map.records > 0 || fail(QStringLiteral("holds no records"));
+    return map.records > 0 || fail(BackendText::tr("holds no records"));
 }
 
 void RecordReader::readValues(const OGRFeature &feature, RawPrescription &map)

@@ -1,5 +1,7 @@
 #include "tablecolumns.h"
 
+#include "Backend/backendtext.h"
+
 #include <ogrsf_frmts.h>
 
 std::vector<SourceColumn> TableColumns::read(OGRFeatureDefn &definition, QStringList &names)
@@ -40,6 +42,6 @@ QString TableColumns::list(const QStringList &names)
     constexpr int mostNamed = 20;
     if (names.size() <= mostNamed)
         return names.join(QStringLiteral(", "));
-    return QStringLiteral("%1 and %2 more")
+    return BackendText::tr("%1 and %2 more")
         .arg(names.mid(0, mostNamed).join(QStringLiteral(", ")), QString::number(names.size() - mostNamed));
 }

@@ -1,5 +1,6 @@
 #include "columnpolicy.h"
 
+#include "Backend/backendtext.h"
 #include "columncontent.h"
 #include "columnname.h"
 #include "columnproducts.h"
@@ -55,8 +56,8 @@ void tellEntries(const RawPrescription &source, const SourceColumn &column, Colu
     for (const int record : column.unreadable)
         count += source.cellsOf(record);
     if (count > 0) {
-        const QString text = count == 1 ? QStringLiteral("%1 entry of column \"%2\" is no rate and was left out")
-                                        : QStringLiteral("%1 entries of column \"%2\" are no rates and were left out");
+        const QString text = count == 1 ? BackendText::tr("%1 entry of column \"%2\" is no rate and was left out")
+                                        : BackendText::tr("%1 entries of column \"%2\" are no rates and were left out");
         MapFinding told = finding(MapFinding::Kind::NotANumber, text.arg(QString::number(count), column.name));
         for (size_t i = 0; i < std::min(column.unreadable.size(), size_t(MapFinding::mostRecords)); ++i)
             told.records.append(column.unreadable[i]);
@@ -65,7 +66,7 @@ void tellEntries(const RawPrescription &source, const SourceColumn &column, Colu
     if (!column.ambiguous.isEmpty())
         decision.findings.append(
             finding(MapFinding::Kind::NotANumber,
-                    QStringLiteral("the comma in \"%1\" of column \"%2\" is taken to set off decimals")
+                    BackendText::tr("the comma in \"%1\" of column \"%2\" is taken to set off decimals")
                         .arg(column.ambiguous, column.name)));
 }
 
@@ -80,13 +81,13 @@ ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const Q
     const bool isAnyDriven =
         std::any_of(products.begin(), products.end(), [](const MachineProduct &product) { return product.isDriven; });
     if (products.isEmpty() || (names.isEmpty() && !isAnyDriven))
-        reason = QStringLiteral("there is no product to load it for");
+        reason = BackendText::tr("there is no product to load it for");
     else if (names.size() > products.size())
-        reason = QStringLiteral("%1 columns are named, but the machine has %2 products")
+        reason = BackendText::tr("%1 columns are named, but the machine has %2 products")
                      .arg(names.size())
                      .arg(products.size());
     else if (!names.isEmpty() && areEmpty(names))
-        reason = QStringLiteral("no column is named for any product");
+        reason = BackendText::tr("no column is named for any product");
     else
         leaveOutUndriven();
     if (reason.isEmpty())
@@ -106,14 +107,14 @@ RateChance ColumnPolicy::chanceOf(const SourceColumn &column)
 void ColumnPolicy::readUnits(const QStringList &texts)
 {
     if (texts.size() > products.size())
-        reason = QStringLiteral("%1 units are named, but the machine has %2 products")
+        reason = BackendText::tr("%1 units are named, but the machine has %2 products")
                      .arg(texts.size())
                      .arg(products.size());
     for (int i = 0; i < texts.size() && reason.isEmpty(); ++i) {
         RateUnit &unit = operatorUnits[static_cast<size_t>(i)];
         unit = RateUnit::fromText(texts.at(i));
         if (!unit.isKnown() && !texts.at(i).isEmpty())
-            reason = QStringLiteral("\"%1\" is no unit of a rate").arg(texts.at(i));
+            reason = BackendText::tr("\"%1\" is no unit of a rate").arg(texts.at(i));
     }
 }
 
@@ -123,7 +124,7 @@ void ColumnPolicy::leaveOutUndriven()
         const MachineProduct &product = products.at(i);
         if (product.isDriven || names.at(i).isEmpty())
             continue;
-        remarks.append(QStringLiteral("column \"%1\" is left out, product %2 (%3) takes no prescription")
+        remarks.append(BackendText::tr("column \"%1\" is left out, product %2 (%3) takes no prescription")
                            .arg(names.at(i), QString::number(i + 1), product.name));
         names[i].clear();
     }
@@ -143,7 +144,7 @@ ColumnPolicy::Decision ColumnPolicy::decide(const RawPrescription &source,
     for (Feed &feed : decision.feeds) {
         const SourceColumn &column = source.columns[static_cast<size_t>(feed.column)];
         if (!ColumnContent::hasRates(column)) {
-            decision.error = QStringLiteral("column \"%1\" holds no rates").arg(column.name);
+            decision.error = BackendText::tr("column \"%1\" holds no rates").arg(column.name);
             break;
         }
         tellEntries(source, column, decision);
@@ -174,7 +175,7 @@ void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColum
             unfit.append(QStringLiteral("\"%1\" (%2)")
                              .arg(source.columns[static_cast<size_t>(column.place)].name, column.unit.unit.text()));
     }
-    const QString line = QStringLiteral("no product that a prescription may drive fits the unit of %1")
+    const QString line = BackendText::tr("no product that a prescription may drive fits the unit of %1")
                              .arg(QStringList(unfit.mid(0, maxTold)).join(QStringLiteral(", ")));
     if (likely.columns().empty())
         decision.error = likely.reasonForNone();
@@ -209,22 +210,23 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     using Kind = MapFinding::Kind;
     const auto tell = [&decision](Kind kind, const QString &text) { decision.findings.append(finding(kind, text)); };
     if (!told.isSure)
-        tell(Kind::GuessedColumn,
-             QStringLiteral("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
+        tell(
+            Kind::GuessedColumn,
+            BackendText::tr("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));
     if (unit.mixed != nullptr)
         tell(Kind::UnitUnknown,
-             QStringLiteral("column \"%1\" gives different units (\"%2\", \"%3\") and is not used for column \"%4\"")
+             BackendText::tr("column \"%1\" gives different units (\"%2\", \"%3\") and is not used for column \"%4\"")
                  .arg(unit.mixed->name, unit.mixed->text, unit.mixed->other, column.name));
     if (!unit.unknownText.isEmpty())
-        tell(
-            Kind::UnitUnknown,
-            QStringLiteral("\"%1\", given for column \"%2\", is no unit of a rate").arg(unit.unknownText, column.name));
+        tell(Kind::UnitUnknown,
+             BackendText::tr("\"%1\", given for column \"%2\", is no unit of a rate")
+                 .arg(unit.unknownText, column.name));
     if (!unit.unit.isKnown() && !base.isEmpty())
         tell(Kind::UnitUnknown,
-             QStringLiteral("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));
+             BackendText::tr("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));
     else if (!unit.unit.fits(product.kind))
         tell(Kind::UnitMismatch,
-             QStringLiteral("column \"%1\" is in %2, which does not fit product %3 (%4); taken as %5")
+             BackendText::tr("column \"%1\" is in %2, which does not fit product %3 (%4); taken as %5")
                  .arg(column.name, unit.unit.text(), QString::number(told.product), product.name, base));
 }
 
@@ -293,7 +295,7 @@ ColumnShares ColumnPolicy::share(const QList<File> &files, const QStringList &na
             for (const File &candidate : files)
                 paths.append(candidate.path);
             shares.error =
-                QStringLiteral("--columns: no column \"%1\" in %2").arg(column, paths.join(QStringLiteral(", ")));
+                BackendText::tr("--columns: no column \"%1\" in %2").arg(column, paths.join(QStringLiteral(", ")));
             shares.columns.clear();
             return shares;
         }

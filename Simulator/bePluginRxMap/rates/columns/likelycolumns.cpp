@@ -1,5 +1,6 @@
 #include "likelycolumns.h"
 
+#include "Backend/backendtext.h"
 #include "columncontent.h"
 #include "columnname.h"
 
@@ -115,8 +116,8 @@ QString LikelyColumns::reasonForNone() const
             empty.append(candidate.name);
     }
     if (!empty.isEmpty())
-        return QStringLiteral("holds no rates: no record has one in %1").arg(empty.join(QStringLiteral(", ")));
+        return BackendText::tr("holds no rates: no record has one in %1").arg(empty.join(QStringLiteral(", ")));
     const QString columns =
-        source.columnNames.isEmpty() ? QStringLiteral("none") : source.columnNames.join(QStringLiteral(", "));
-    return QStringLiteral("has no column that looks like a rate; name one (its columns: %1)").arg(columns);
+        source.columnNames.isEmpty() ? BackendText::tr("none") : source.columnNames.join(QStringLiteral(", "));
+    return BackendText::tr("has no column that looks like a rate; name one (its columns: %1)").arg(columns);
 }

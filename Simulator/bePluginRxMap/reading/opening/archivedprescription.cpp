@@ -1,5 +1,6 @@
 #include "archivedprescription.h"
 
+#include "Backend/backendtext.h"
 #include "prescriptionfile.h"
 
 #include <QDir>
@@ -31,7 +32,7 @@ QString list(const std::vector<const ZipArchive::Entry *> &entries)
             paths.append(entry->path);
     }
     const int more = static_cast<int>(entries.size()) - paths.size();
-    return paths.join(QStringLiteral(", ")) + (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString());
+    return paths.join(QStringLiteral(", ")) + (more > 0 ? BackendText::tr(" and %1 more").arg(more) : QString());
 }
 
 } // namespace
@@ -62,7 +63,7 @@ QString ArchivedPrescription::unpack(const QDir &folder)
     for (const ZipArchive::Entry *part : parts)
         size += part->size;
     if (size > ZipArchive::mostBytes) {
-        fail(QStringLiteral("\"%1\" in it has more than %2 MB").arg(main->path).arg(ZipArchive::mostBytes >> 20));
+        fail(BackendText::tr("\"%1\" in it has more than %2 MB").arg(main->path).arg(ZipArchive::mostBytes >> 20));
         return {};
     }
     const QString base = folder.filePath(QFileInfo(main->name()).completeBaseName());
@@ -91,12 +92,13 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
     keepDocument(found);
     if (found.size() == 1)
         return found.front();
-    const QString place = inner.isEmpty() ? QString() : QStringLiteral(" in \"%1\"").arg(inner);
+    const QString place = inner.isEmpty() ? QString() : BackendText::tr(" in \"%1\"").arg(inner);
     if (found.empty())
-        fail(QStringLiteral("is an archive that holds no prescription%1").arg(place));
+        fail(BackendText::tr("is an archive that holds no prescription%1").arg(place));
     else
-        fail(QStringLiteral("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
-                 .arg(place, list(found)));
+        fail(
+            BackendText::tr("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
+                .arg(place, list(found)));
     return nullptr;
 }
 
@@ -146,5 +148,6 @@ bool ArchivedPrescription::write(const ZipArchive::Entry &entry, const QString &
         return fail(archive.error());
     QFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-    return isWritten || fail(QStringLiteral("\"%1\" in it cannot be unpacked: %2").arg(entry.path, file.errorString()));
+    return isWritten
+        || fail(BackendText::tr("\"%1\" in it cannot be unpacked: %2").arg(entry.path, file.errorString()));
 }

@@ -1,5 +1,6 @@
 #include "prescriptionfile.h"
 
+#include "Backend/backendtext.h"
 #include "archivedprescription.h"
 #include "gdalsession.h"
 #include "shapefilecheck.h"
@@ -52,12 +53,12 @@ bool PrescriptionFile::check()
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return fail(QStringLiteral("there is no such file"));
+        return fail(BackendText::tr("there is no such file"));
     if (info.isDir())
-        return fail(QStringLiteral("is a folder, not a file"));
+        return fail(BackendText::tr("is a folder, not a file"));
     // A pipe would be waited on without end.
     if (!info.isFile())
-        return fail(QStringLiteral("is no plain file"));
+        return fail(BackendText::tr("is no plain file"));
     if (!isShapefile())
         return true;
     const QString problem = ShapefileCheck::problem(path);
@@ -88,7 +89,7 @@ bool PrescriptionFile::unpack()
         return true;
     unpacked = std::make_unique<QTemporaryDir>();
     if (!unpacked->isValid())
-        return fail(QStringLiteral("cannot be unpacked: %1").arg(unpacked->errorString()));
+        return fail(BackendText::tr("cannot be unpacked: %1").arg(unpacked->errorString()));
     ArchivedPrescription prescription(archive, inner);
     path = prescription.unpack(QDir(unpacked->path()));
     return !path.isEmpty() || fail(prescription.error());
@@ -104,9 +105,9 @@ bool PrescriptionFile::open(const GdalSession &session)
         return true;
     const QString failure = session.firstFailure();
     return fail(failure.isEmpty()
-                    ? QStringLiteral("is none of the formats that are read: Shapefile, GeoPackage, "
-                                     "GeoJSON (also as a text sequence), KML, FlatGeobuf, GML, task data, or "
-                                     "one of them in a .zip")
+                    ? BackendText::tr("is none of the formats that are read: Shapefile, GeoPackage, "
+                                      "GeoJSON (also as a text sequence), KML, FlatGeobuf, GML, task data, or "
+                                      "one of them in a .zip")
                     : failure);
 }
 

@@ -1,5 +1,7 @@
 #include "shapefilecheck.h"
 
+#include "Backend/backendtext.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -16,7 +18,7 @@ QString partsProblem(const QString &shapePath)
     for (const char *extension : {"shx", "dbf", "prj", "cpg"}) {
         const QString part = ShapefileCheck::partPath(shapePath, QLatin1String(extension));
         if (!part.isEmpty() && !QFileInfo(part).isFile())
-            return QStringLiteral("the .%1 beside it is no plain file").arg(QLatin1String(extension));
+            return BackendText::tr("the .%1 beside it is no plain file").arg(QLatin1String(extension));
     }
     return {};
 }
@@ -31,7 +33,7 @@ QString shapeKindProblem(quint32 kind)
 {
     switch (kind) {
     case 0:
-        return QStringLiteral("holds no shapes");
+        return BackendText::tr("holds no shapes");
     case 5:
     case 15:
     case 25:
@@ -42,13 +44,13 @@ QString shapeKindProblem(quint32 kind)
     case 18:
     case 21:
     case 28:
-        return QStringLiteral("holds points, not polygons");
+        return BackendText::tr("holds points, not polygons");
     case 3:
     case 13:
     case 23:
-        return QStringLiteral("holds lines, not polygons");
+        return BackendText::tr("holds lines, not polygons");
     default:
-        return QStringLiteral("holds shapes of unknown kind %1").arg(kind);
+        return BackendText::tr("holds shapes of unknown kind %1").arg(kind);
     }
 }
 
@@ -56,15 +58,15 @@ QString shapesProblem(const QString &path)
 {
     const QByteArray header = readHeader(path, shapeHeaderSize);
     if (header.isEmpty())
-        return QStringLiteral("cannot be read or is empty");
+        return BackendText::tr("cannot be read or is empty");
     if (header.size() < 4 || qFromBigEndian<qint32>(header.constData()) != shapeFileCode)
-        return QStringLiteral("is no Shapefile");
+        return BackendText::tr("is no Shapefile");
     if (header.size() < shapeHeaderSize)
-        return QStringLiteral("is cut short within its header");
+        return BackendText::tr("is cut short within its header");
     const qint64 size = QFileInfo(path).size();
     const qint64 declared = 2 * static_cast<qint64>(qFromBigEndian<quint32>(header.constData() + 24));
     if (size < declared)
-        return QStringLiteral("is cut short: %1 of %2 bytes").arg(size).arg(declared);
+        return BackendText::tr("is cut short: %1 of %2 bytes").arg(size).arg(declared);
     return shapeKindProblem(qFromLittleEndian<quint32>(header.constData() + 32));
 }
 
@@ -79,15 +81,15 @@ QString tableProblem(const QString &path, qint64 shapes)
 {
     const QByteArray header = readHeader(path, tableHeaderSize);
     if (header.size() < tableHeaderSize)
-        return QStringLiteral("the .dbf beside it is cut short within its header");
+        return BackendText::tr("the .dbf beside it is cut short within its header");
     const qint64 rows = qFromLittleEndian<quint32>(header.constData() + 4);
     const qint64 begin = qFromLittleEndian<quint16>(header.constData() + 8);
     const qint64 rowSize = qFromLittleEndian<quint16>(header.constData() + 10);
     if (rows < shapes)
-        return QStringLiteral("the .dbf beside it has %1 rows for %2 shapes").arg(rows).arg(shapes);
+        return BackendText::tr("the .dbf beside it has %1 rows for %2 shapes").arg(rows).arg(shapes);
     const qint64 size = QFileInfo(path).size();
     if (size < begin + rows * rowSize)
-        return QStringLiteral("the .dbf beside it is cut short: %1 of %2 bytes").arg(size).arg(begin + rows * rowSize);
+        return BackendText::tr("the .dbf beside it is cut short: %1 of %2 bytes").arg(size).arg(begin + rows * rowSize);
     return {};
 }
 
@@ -113,10 +115,10 @@ QString ShapefileCheck::problem(const QString &path)
         return parts;
     const qint64 count = shapeCount(partPath(path, QStringLiteral("shx")));
     if (count < 0)
-        return QStringLiteral("there is no usable .shx beside it");
+        return BackendText::tr("there is no usable .shx beside it");
     const QString table = partPath(path, QStringLiteral("dbf"));
     if (table.isEmpty())
-        return QStringLiteral("there is no .dbf beside it");
+        return BackendText::tr("there is no .dbf beside it");
     return tableProblem(table, count);
 }
 

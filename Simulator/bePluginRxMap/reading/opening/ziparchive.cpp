@@ -1,5 +1,7 @@
 #include "ziparchive.h"
 
+#include "Backend/backendtext.h"
+
 #include <QFileInfo>
 #include <QTextCodec>
 #include <QtEndian>
@@ -101,18 +103,18 @@ bool ZipArchive::open()
     const QByteArray tail = bytesAt(begin, endSize + longestComment);
     const int place = tail.lastIndexOf(endSignature);
     if (place < 0 || tail.size() - place < endSize)
-        return fail(QStringLiteral("is an archive that is cut short"));
+        return fail(BackendText::tr("is an archive that is cut short"));
     const int count = shortAt(tail, place + 10);
     const qint64 size = longAt(tail, place + 12);
     if (shortAt(tail, place + 4) != 0 || count != shortAt(tail, place + 8))
-        return fail(QStringLiteral("is one part of an archive"));
+        return fail(BackendText::tr("is one part of an archive"));
     if (count > mostEntries || size > largestDirectory)
-        return fail(QStringLiteral("is an archive of more than %1 files").arg(mostEntries));
+        return fail(BackendText::tr("is an archive of more than %1 files").arg(mostEntries));
     // Something may stand before the archive, which its own offsets do not count.
     const qint64 offset = begin + place - size;
     const QByteArray directory = bytesAt(offset, size);
     if (directory.size() != size)
-        return fail(QStringLiteral("is an archive with a damaged directory"));
+        return fail(BackendText::tr("is an archive with a damaged directory"));
     return readDirectory(directory, count, offset - longAt(tail, place + 16));
 }
 
@@ -124,7 +126,7 @@ bool ZipArchive::readDirectory(const QByteArray &directory, int count, qint64 sh
         const int nameSize = isWhole ? shortAt(directory, place + 28) : 0;
         const int name = place + directoryEntrySize;
         if (!isWhole || directory.size() - name < nameSize)
-            return fail(QStringLiteral("is an archive with a damaged directory"));
+            return fail(BackendText::tr("is an archive with a damaged directory"));
         Entry entry;
         entry.isEncrypted = (shortAt(directory, place + 8) & 1) != 0;
         entry.method = shortAt(directory, place + 10);
@@ -135,7 +137,7 @@ bool ZipArchive::readDirectory(const QByteArray &directory, int count, qint64 sh
         // Some programs separate folders as their system does.
         entry.path = decode(directory.mid(name, nameSize)).replace(QLatin1Char('\\'), QLatin1Char('/'));
         if (leavesArchive(entry.path))
-            return fail(QStringLiteral("the path of its entry \"%1\" leaves the archive").arg(entry.path));
+            return fail(BackendText::tr("the path of its entry \"%1\" leaves the archive").arg(entry.path));
         if (!entry.path.endsWith(QLatin1Char('/')))
             files.push_back(entry);
         place = name + nameSize + shortAt(directory, place + 30) + shortAt(directory, place + 32);
@@ -152,9 +154,9 @@ const ZipArchive::Entry *ZipArchive::entry(const QString &path) const
 bool ZipArchive::unpack(const Entry &entry, QByteArray &bytes)
 {
     if (entry.isEncrypted)
-        return fail(QStringLiteral("\"%1\" in it is encrypted").arg(entry.path));
+        return fail(BackendText::tr("\"%1\" in it is encrypted").arg(entry.path));
     if (entry.size > mostBytes || entry.packedSize > mostBytes)
-        return fail(QStringLiteral("\"%1\" in it has more than %2 MB").arg(entry.path).arg(mostBytes >> 20));
+        return fail(BackendText::tr("\"%1\" in it has more than %2 MB").arg(entry.path).arg(mostBytes >> 20));
     const QByteArray header = bytesAt(entry.offset, fileHeaderSize);
     const bool isHeader = header.size() == fileHeaderSize && header.startsWith(fileSignature);
     const QByteArray packed = isHeader
@@ -166,9 +168,9 @@ bool ZipArchive::unpack(const Entry &entry, QByteArray &bytes)
         return true;
     }
     if (isWhole && entry.method != 0 && entry.method != 8)
-        return fail(QStringLiteral("\"%1\" in it is packed in a way that is not known").arg(entry.path));
+        return fail(BackendText::tr("\"%1\" in it is packed in a way that is not known").arg(entry.path));
     return (isWhole && entry.method == 8 && inflate(entry, packed, bytes))
-        || fail(QStringLiteral("\"%1\" in it is damaged").arg(entry.path));
+        || fail(BackendText::tr("\"%1\" in it is damaged").arg(entry.path));
 }
 
 bool ZipArchive::inflate(const Entry &entry, const QByteArray &packed, QByteArray &bytes)

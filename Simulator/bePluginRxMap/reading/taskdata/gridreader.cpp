@@ -1,5 +1,6 @@
 #include "gridreader.h"
 
+#include "Backend/backendtext.h"
 #include "taskcolumns.h"
 #include "taskdatafolder.h"
 
@@ -36,8 +37,8 @@ bool GridReader::read(const TaskGrid &grid, RawPrescription &map)
     const TreatmentZone *zone = task.zone(grid.zone);
     if (grid.type != codesType && zone == nullptr)
         return fail(grid.zone == Task::noZone
-                        ? QStringLiteral("%1: the grid names no treatment zone (J)").arg(grid.place)
-                        : QStringLiteral("%1: there is no treatment zone %2").arg(grid.place).arg(grid.zone));
+                        ? BackendText::tr("%1: the grid names no treatment zone (J)").arg(grid.place)
+                        : BackendText::tr("%1: there is no treatment zone %2").arg(grid.place).arg(grid.zone));
     QByteArray bytes;
     if (!checkSize(grid, zone) || !readBytes(grid, bytes))
         return false;
@@ -57,15 +58,15 @@ bool GridReader::checkSize(const TaskGrid &grid, const TreatmentZone *zone)
 {
     cells += grid.columns * grid.rows;
     if (cells > mostCells || columns.areTooMany(cells))
-        return fail(QStringLiteral("%1: the grid of %2 x %3 cells is too large")
+        return fail(BackendText::tr("%1: the grid of %2 x %3 cells is too large")
                         .arg(grid.place, QString::number(grid.rows), QString::number(grid.columns)));
     if (grid.south + grid.cellHeight * static_cast<double>(grid.rows) > 90.0
         || grid.west + grid.cellWidth * static_cast<double>(grid.columns) > 180.0)
-        return fail(QStringLiteral("%1: the grid does not end on the earth").arg(grid.place));
+        return fail(BackendText::tr("%1: the grid does not end on the earth").arg(grid.place));
     bytesPerCell =
         grid.type == codesType ? 1 : static_cast<qint64>(sizeof(qint32)) * static_cast<qint64>(zone->values.size());
     return bytesPerCell > 0
-        || fail(QStringLiteral("%1: treatment zone %2 has no values").arg(grid.place).arg(grid.zone));
+        || fail(BackendText::tr("%1: treatment zone %2 has no values").arg(grid.place).arg(grid.zone));
 }
 
 bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
@@ -75,7 +76,7 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
         base.chop(4);
     file = folder.find(base, QStringLiteral("BIN"));
     if (file.isEmpty())
-        return fail(QStringLiteral("%1: there is no file %2.BIN beside it").arg(grid.place, base));
+        return fail(BackendText::tr("%1: there is no file %2.BIN beside it").arg(grid.place, base));
     const qint64 wanted = grid.rows * grid.columns * bytesPerCell;
     QString error;
     // A file too long is not read at all.
@@ -84,8 +85,8 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
     if (bytes.size() == wanted)
         return true;
     const qint64 found = std::max(folder.sizeOf(file), qint64(bytes.size()));
-    return fail(QStringLiteral("%1 is too %2 for %3 x %4 cells: %5 of %6 bytes")
-                    .arg(file, found < wanted ? QStringLiteral("short") : QStringLiteral("long"))
+    return fail(BackendText::tr("%1 is too %2 for %3 x %4 cells: %5 of %6 bytes")
+                    .arg(file, found < wanted ? BackendText::tr("short") : BackendText::tr("long"))
                     .arg(grid.rows)
                     .arg(grid.columns)
                     .arg(found)
@@ -96,7 +97,7 @@ bool GridReader::join(const TaskGrid &grid, GridRectangles &joined)
 {
     for (qint64 row = 0; row < grid.rows; ++row) {
         if (control.isCancelled())
-            return fail(QStringLiteral("loading was cancelled"));
+            return fail(BackendText::tr("loading was cancelled"));
         joined.addRow();
         if ((row + 1) * grid.columns / cellsPerReport > row * grid.columns / cellsPerReport)
             control.report(static_cast<double>(row + 1) / static_cast<double>(grid.rows));
@@ -124,7 +125,7 @@ bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, const 
         const auto code = static_cast<quint8>(*bytesOf(rectangle, grid, bytes));
         const std::vector<double> &rate = rates[code];
         if (rate.empty())
-            return fail(QStringLiteral("%1: there is no treatment zone %2, which row %3, column %4 names")
+            return fail(BackendText::tr("%1: there is no treatment zone %2, which row %3, column %4 names")
                             .arg(file)
                             .arg(code)
                             .arg(rectangle.row + 1)

@@ -1,5 +1,6 @@
 #include "taskdatafolder.h"
 
+#include "Backend/backendtext.h"
 #include "ziparchive.h"
 
 #include <QDir>
@@ -93,7 +94,7 @@ QString TaskDataFolder::find(const QString &baseName, const QString &extension) 
 bool TaskDataFolder::read(const QString &name, qint64 most, QByteArray &bytes, QString &error) const
 {
     if (sizeOf(name) > most) {
-        error = QStringLiteral("%1 has more than %2 bytes").arg(name).arg(most);
+        error = BackendText::tr("%1 has more than %2 bytes").arg(name).arg(most);
         return false;
     }
     return archive ? unpack(name, bytes, error) : readFile(name, bytes, error);
@@ -106,7 +107,7 @@ bool TaskDataFolder::readFile(const QString &name, QByteArray &bytes, QString &e
     bytes = size > 0 ? file.read(size) : QByteArray();
     const bool isRead = size >= 0 && file.error() == QFileDevice::NoError;
     if (!isRead)
-        error = QStringLiteral("%1 cannot be read: %2").arg(name, file.errorString());
+        error = BackendText::tr("%1 cannot be read: %2").arg(name, file.errorString());
     return isRead;
 }
 

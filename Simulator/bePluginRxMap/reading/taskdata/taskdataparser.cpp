@@ -1,5 +1,6 @@
 #include "taskdataparser.h"
 
+#include "Backend/backendtext.h"
 #include "taskdatafolder.h"
 
 #include <cmath>
@@ -40,7 +41,7 @@ bool TaskDataParser::fail(const QString &text)
 
 QString TaskDataParser::place() const
 {
-    return QStringLiteral("%1, line %2").arg(file).arg(xml->lineNumber());
+    return BackendText::tr("%1, line %2").arg(file).arg(xml->lineNumber());
 }
 
 void TaskDataParser::note(const QString &what, QString &problem) const
@@ -71,7 +72,7 @@ bool TaskDataParser::parseFile(const QString &name)
     if (reader.readNextStartElement()) {
         const bool isMain = reader.name() == QLatin1String("ISO11783_TaskData");
         if (!isMain && reader.name() != QLatin1String("XFC"))
-            isFine = fail(noted(file, QStringLiteral("holds no task data but <%1>").arg(reader.name().toString())));
+            isFine = fail(noted(file, BackendText::tr("holds no task data but <%1>").arg(reader.name().toString())));
         if (isMain)
             readVersion();
         while (isFine && reader.readNextStartElement())
@@ -90,8 +91,8 @@ void TaskDataParser::readVersion()
     bool isNumber = false;
     const int major = version.toInt(&isNumber);
     if (!isNumber || major < 2 || major > 4)
-        data->warnings.append(
-            noted(place(), QStringLiteral("version \"%1\" of task data is not known, read as version 4").arg(version)));
+        data->warnings.append(noted(
+            place(), BackendText::tr("version \"%1\" of task data is not known, read as version 4").arg(version)));
 }
 
 bool TaskDataParser::readTopElement()
@@ -120,11 +121,11 @@ bool TaskDataParser::readReference()
     xml->skipCurrentElement();
     const QString name = folder.find(wanted, QStringLiteral("XML"));
     if (name.isEmpty())
-        return fail(noted(where, QStringLiteral("there is no file %1.XML beside it").arg(wanted)));
+        return fail(noted(where, BackendText::tr("there is no file %1.XML beside it").arg(wanted)));
     if (files.contains(name))
-        return fail(noted(where, QStringLiteral("the reference to %1 goes round in a circle").arg(name)));
+        return fail(noted(where, BackendText::tr("the reference to %1 goes round in a circle").arg(name)));
     if (files.size() >= mostFiles)
-        return fail(noted(where, QStringLiteral("refers to more than %1 files").arg(mostFiles)));
+        return fail(noted(where, BackendText::tr("refers to more than %1 files").arg(mostFiles)));
     return parseFile(name);
 }
 
@@ -156,7 +157,7 @@ void TaskDataParser::readZone(Task &task)
     TreatmentZone zone;
     zone.code = static_cast<int>(whole("A", 0, highest, Task::noZone, task.problem));
     if (zone.code == Task::noZone)
-        note(QStringLiteral("the treatment zone has no code"), task.problem);
+        note(BackendText::tr("the treatment zone has no code"), task.problem);
     while (xml->readNextStartElement()) {
         if (xml->name() == QLatin1String("PDV"))
             readValue(zone, task.problem);
@@ -174,7 +175,7 @@ void TaskDataParser::readValue(TreatmentZone &zone, QString &problem)
     bool isNumber = false;
     value.number = text("A").toInt(&isNumber, 16);
     if (!isNumber || value.number < 0)
-        note(QStringLiteral("A=\"%1\" of PDV is no hexadecimal number").arg(text("A")), problem);
+        note(BackendText::tr("A=\"%1\" of PDV is no hexadecimal number").arg(text("A")), problem);
     value.value = whole("B", lowest, highest, ProcessValue::none, problem);
     value.product = text("C");
     value.device = text("D");
@@ -197,9 +198,9 @@ void TaskDataParser::readGrid(Task &task)
     grid.type = static_cast<int>(whole("I", 1, 2, 0, task.problem));
     grid.zone = static_cast<int>(whole("J", 0, 254, Task::noZone, task.problem));
     if (!(grid.cellHeight > 0.0 && grid.cellWidth > 0.0))
-        note(QStringLiteral("the grid's cells have no size"), task.problem);
+        note(BackendText::tr("the grid's cells have no size"), task.problem);
     if (grid.columns == 0 || grid.rows == 0 || grid.type == 0)
-        note(QStringLiteral("the grid lacks its columns (E), rows (F) or type (I)"), task.problem);
+        note(BackendText::tr("the grid lacks its columns (E), rows (F) or type (I)"), task.problem);
     task.grids.push_back(grid);
     xml->skipCurrentElement();
 }
@@ -279,10 +280,10 @@ double TaskDataParser::number(const char *attribute, double least, double most, 
     const double value = xml->attributes().value(QLatin1String(attribute)).trimmed().toDouble(&isNumber);
     if (isNumber && value >= least && value <= most)
         return value;
-    const char *const what = isNumber && std::isfinite(value) ? "is out of range" : "is no number";
-    note(QStringLiteral("%1=\"%2\" of %3 %4")
-             .arg(QLatin1String(attribute), text(attribute), xml->name().toString(), QLatin1String(what)),
-         problem);
+    const bool isFinite = isNumber && std::isfinite(value);
+    const QString line =
+        isFinite ? BackendText::tr("%1=\"%2\" of %3 is out of range") : BackendText::tr("%1=\"%2\" of %3 is no number");
+    note(line.arg(QLatin1String(attribute), text(attribute), xml->name().toString()), problem);
     return std::numeric_limits<double>::quiet_NaN();
 }
 
@@ -295,7 +296,7 @@ qint64 TaskDataParser::whole(const char *attribute, qint64 least, qint64 most, q
     const qint64 value = written.toLongLong(&isNumber);
     if (isNumber && value >= least && value <= most)
         return value;
-    note(QStringLiteral("%1=\"%2\" of %3 is no whole number from %4 to %5")
+    note(BackendText::tr("%1=\"%2\" of %3 is no whole number from %4 to %5")
              .arg(QLatin1String(attribute), written, xml->name().toString())
              .arg(least)
              .arg(most),

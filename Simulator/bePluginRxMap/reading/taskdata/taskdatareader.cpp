@@ -1,5 +1,6 @@
 #include "taskdatareader.h"
 
+#include "Backend/backendtext.h"
 #include "gdalsession.h"
 #include "gridreader.h"
 #include "shapereader.h"
@@ -83,7 +84,7 @@ bool TaskDataReader::read(RawPrescription &map)
         return false;
     TaskColumns columns(*task, data);
     if (columns.areTooMany())
-        return fail(QStringLiteral("task %1 has more than %2 process data variables")
+        return fail(BackendText::tr("task %1 has more than %2 process data variables")
                         .arg(task->name(), QString::number(TaskColumns::most)));
     map.columns = columns.columns();
     map.columnNames = namesOf(map.columns);
@@ -120,7 +121,7 @@ bool TaskDataReader::open(RawPrescription &map)
 bool TaskDataReader::chooseTask(RawPrescription &map)
 {
     if (data.tasks.empty())
-        return fail(QStringLiteral("%1 holds no task").arg(folder.mainFile()));
+        return fail(BackendText::tr("%1 holds no task").arg(folder.mainFile()));
     QStringList all;
     for (const Task &any : data.tasks) {
         all.append(any.name());
@@ -131,9 +132,9 @@ bool TaskDataReader::chooseTask(RawPrescription &map)
             task = &any;
     }
     if (task == nullptr && !request.task.isEmpty())
-        return fail(QStringLiteral("has no task \"%1\"; it has %2").arg(request.task, all.join(QStringLiteral(", "))));
+        return fail(BackendText::tr("has no task \"%1\"; it has %2").arg(request.task, all.join(QStringLiteral(", "))));
     if (task == nullptr || !task->hasPrescription())
-        return fail(QStringLiteral("task %1 holds no prescription: it has neither zones with polygons nor a grid")
+        return fail(BackendText::tr("task %1 holds no prescription: it has neither zones with polygons nor a grid")
                         .arg(task == nullptr ? all.join(QStringLiteral(", ")) : task->name()));
     if (!task->problem.isEmpty())
         return fail(task->problem);
@@ -141,7 +142,7 @@ bool TaskDataReader::chooseTask(RawPrescription &map)
     QStringList others = map.tasks;
     others.removeOne(map.task);
     if (request.task.isEmpty() && !others.isEmpty())
-        map.warnings.append(QStringLiteral("task \"%1\" is loaded; there is a prescription in %2, too")
+        map.warnings.append(BackendText::tr("task \"%1\" is loaded; there is a prescription in %2, too")
                                 .arg(map.task, others.join(QStringLiteral(", "))));
     return true;
 }
@@ -149,10 +150,10 @@ bool TaskDataReader::chooseTask(RawPrescription &map)
 bool TaskDataReader::checkColumns(const RawPrescription &map)
 {
     if (map.columns.empty())
-        return fail(QStringLiteral("task %1 holds no prescription: its zones have no values").arg(task->name()));
+        return fail(BackendText::tr("task %1 holds no prescription: its zones have no values").arg(task->name()));
     for (const QString &name : request.columns) {
         if (!name.isEmpty() && TableColumns::find(map.columnNames, name) < 0)
-            return fail(QStringLiteral("has no column \"%1\"; it has %2")
+            return fail(BackendText::tr("has no column \"%1\"; it has %2")
                             .arg(name, map.columnNames.join(QStringLiteral(", "))));
     }
     return true;
@@ -175,9 +176,9 @@ bool TaskDataReader::readZones(const TaskColumns &columns, RawPrescription &map)
         if (zone.polygons.empty())
             continue;
         if (columns.areTooMany(map.records + 1))
-            return fail(QStringLiteral("task %1 has too many zones with too many values").arg(task->name()));
+            return fail(BackendText::tr("task %1 has too many zones with too many values").arg(task->name()));
         if (control.isCancelled())
-            return fail(QStringLiteral("loading was cancelled"));
+            return fail(BackendText::tr("loading was cancelled"));
         OGRMultiPolygon shape;
         for (const std::vector<TaskRing> &rings : zone.polygons)
             addPolygon(rings, shape);
@@ -196,7 +197,7 @@ void TaskDataReader::readBoundary(RawPrescription &map) const
     if (field == data.fields.constEnd())
         return;
     if (!field->problem.isEmpty()) {
-        map.warnings.append(QStringLiteral("the field's boundary is left out: %1").arg(field->problem));
+        map.warnings.append(BackendText::tr("the field's boundary is left out: %1").arg(field->problem));
         return;
     }
     SourceBoundary &boundary = map.boundary;
@@ -211,12 +212,12 @@ void TaskDataReader::readBoundary(RawPrescription &map) const
 
 void TaskDataReader::warnOfMissingZones(RawPrescription &map) const
 {
-    const auto check = [this, &map](int code, const char *what) {
+    const auto check = [this, &map](int code, const QString &what) {
         if (code != Task::noZone && task->zone(code) == nullptr)
-            map.warnings.append(QStringLiteral("task %1 names treatment zone %2 for %3, which is not there")
-                                    .arg(task->name(), QString::number(code), QLatin1String(what)));
+            map.warnings.append(BackendText::tr("task %1 names treatment zone %2 for %3, which is not there")
+                                    .arg(task->name(), QString::number(code), what));
     };
-    check(task->outOfFieldZone, "places out of the field");
-    check(task->defaultZone, "places without a zone");
-    check(task->positionLostZone, "a lost position");
+    check(task->outOfFieldZone, BackendText::tr("places out of the field"));
+    check(task->defaultZone, BackendText::tr("places without a zone"));
+    check(task->positionLostZone, BackendText::tr("a lost position"));
 }
