@@ -407,14 +407,15 @@ void PrescriptionLoader::buildLegends(LoadedMap &map) const
         std::vector<float> column;
         std::vector<int> cells;
         column.reserve(polygons.size());
-        cells.reserve(polygons.size());
+        cells.reserve(source.cells.size());
         double amount = 0.0;
         for (const PlanePolygon &polygon : polygons) {
             const float rate = rates.at(polygon.record, i);
             if (!std::isnan(rate))
                 amount += static_cast<double>(rate) * areas[column.size()] / squareMetresPerHectare;
             column.push_back(rate);
-            cells.push_back(source.cellsOf(polygon.record));
+            if (!source.cells.empty())
+                cells.push_back(source.cellsOf(polygon.record));
         }
         const int product = map.report.sources.at(static_cast<int>(i)).product - 1;
         const auto legend = LegendBuilder::build(column, request.products.at(product).displayFactor, cells);

@@ -23,6 +23,16 @@ double published(double limit)
     return static_cast<double>(static_cast<float>(std::min(limit, greatest)));
 }
 
+/// Place of the first of `bounds`, which ascend, that is not passed; of the last where all are. Counted rather than
+/// looked for: a jump that depends on the rate would be foreseen for few rates of a large map.
+template <typename IsPassed> size_t placeAmong(const std::vector<double> &bounds, IsPassed isPassed)
+{
+    size_t passed = 0;
+    for (const double bound : bounds)
+        passed += isPassed(bound) ? 1U : 0U;
+    return std::min(passed, bounds.size() - 1);
+}
+
 /// A class for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
 std::vector<double> singleRates(const std::vector<float> &finite, double factor)
 {
@@ -43,7 +53,8 @@ std::vector<double> singleRates(const std::vector<float> &finite, double factor)
     return limits;
 }
 
-/// Rates above zero, and for each how many polygons up to there have one.
+/// Rates above zero, and for each how many polygons up to there have one; the latter only where a rate stands for
+/// several.
 struct PositiveRates {
     std::vector<float> rates;
     std::vector<size_t> ends;
@@ -51,19 +62,21 @@ struct PositiveRates {
     PositiveRates(const std::vector<float> &all, const std::vector<int> &counts)
     {
         rates.reserve(all.size());
-        ends.reserve(all.size());
+        ends.reserve(counts.size());
         size_t end = 0;
         for (size_t i = 0; i < all.size(); ++i) {
             if (!std::isfinite(all[i]) || all[i] <= 0.0F)
                 continue;
-            end += counts.empty() ? 1U : static_cast<size_t>(counts[i]);
             rates.push_back(all[i]);
-            ends.push_back(end);
+            if (!counts.empty())
+                ends.push_back(end += static_cast<size_t>(counts[i]));
         }
     }
-    size_t polygons() const { return ends.empty() ? 0 : ends.back(); }
+    size_t polygons() const { return ends.empty() ? rates.size() : ends.back(); }
     float of(size_t polygon) const
     {
+        if (ends.empty())
+            return rates[polygon];
         return rates[static_cast<size_t>(std::upper_bound(ends.begin(), ends.end(), polygon) - ends.begin())];
     }
 };
@@ -136,17 +149,16 @@ std::vector<double> fittedLimits(const std::vector<double> &shownLimits, const s
         limits.push_back(published(limit / factor));
         ends.push_back((limit + 0.5 * ShownRate::step(limit)) / factor);
     }
-    std::vector<bool> isUsed(limits.size(), false);
+    std::vector<char> isUsed(limits.size(), 0);
     for (const float number : finite) {
         const auto rate = static_cast<double>(number);
-        const auto end = std::find_if(ends.begin(), ends.end(), [rate](double bound) { return rate < bound; });
-        const auto place = static_cast<size_t>((end == ends.end() ? end - 1 : end) - ends.begin());
+        const size_t place = placeAmong(ends, [rate](double end) { return rate >= end; });
         limits[place] = std::max(limits[place], rate);
-        isUsed[place] = true;
+        isUsed[place] = 1;
     }
     std::vector<double> used;
     for (size_t i = 0; i < limits.size(); ++i) {
-        if (isUsed[i])
+        if (isUsed[i] != 0)
             used.push_back(limits[i]);
     }
     return used;
@@ -210,8 +222,8 @@ QList<double> LegendBuilder::areasOf(const QList<OrvikTypes::RX_RATECOLOR> &clas
     std::vector<double> sums(limits.size(), 0.0);
     for (size_t i = 0; i < rates.size() && !limits.empty(); ++i) {
         const auto rate = static_cast<double>(rates[i]);
-        const auto entry = std::find_if(limits.begin(), limits.end(), [rate](double limit) { return limit >= rate; });
-        sums[static_cast<size_t>((entry == limits.end() ? entry - 1 : entry) - limits.begin())] += areas[i];
+        // What is not a number passes all.
+        sums[placeAmong(limits, [rate](double limit) { return !(limit >= rate); })] += areas[i];
     }
     return QList<double>(sums.begin(), sums.end());
 }
