@@ -58,7 +58,7 @@ struct TextColumn {
     QString other = {};
 };
 
-/// A ring of a record, in the file's own coordinates.
+/// A ring of a record, in the file's own coordinates; closed implicitly from the last vertex to the first.
 struct SourceRing {
     size_t first = 0; ///< Index of its first vertex in RawPrescription::xs and ys.
     size_t count = 0;

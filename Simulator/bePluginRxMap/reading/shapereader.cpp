@@ -69,6 +69,7 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
         map.ys.resize(first + count);
         if (count > 0)
             ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
+        dropClosingVertex(first);
         if (isFinite(first) && !enclosesSomething(first)) {
             map.xs.resize(first);
             map.ys.resize(first);
@@ -77,8 +78,17 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
                 return;
             continue;
         }
-        map.rings.push_back({first, static_cast<size_t>(count), map.records, i >= 0});
+        map.rings.push_back({first, map.xs.size() - first, map.records, i >= 0});
     }
+}
+
+void ShapeReader::dropClosingVertex(size_t first)
+{
+    const size_t count = map.xs.size() - first;
+    if (count < 2 || map.xs.back() != map.xs[first] || map.ys.back() != map.ys[first])
+        return;
+    map.xs.pop_back();
+    map.ys.pop_back();
 }
 
 bool ShapeReader::isFinite(size_t first) const

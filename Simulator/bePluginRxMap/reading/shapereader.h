@@ -20,6 +20,8 @@ private:
     /// False when the geometry holds no areas, but points or lines.
     bool appendGeometry(const OGRGeometry &geometry);
     void appendPolygon(const OGRPolygon &polygon);
+    /// Of the ring whose vertices are those from `first` on.
+    void dropClosingVertex(size_t first);
     /// Of the vertices from `first` on.
     bool isFinite(size_t first) const;
     /// Whether the vertices from `first` on hold at least three different places.

@@ -21,6 +21,9 @@ void ShapeReaderTest::readsPartsHolesAndHeights()
     QCOMPARE(map.rings.size(), size_t(4));
     QVERIFY(!map.rings[0].isHole && !map.rings[1].isHole && map.rings[2].isHole && !map.rings[3].isHole);
     QCOMPARE(map.rings[2].record, 0);
+    // Without the closing vertex.
+    QCOMPARE(map.rings[0].count, size_t(4));
+    QCOMPARE(map.rings[1].first, size_t(4));
     QCOMPARE(map.xs[map.rings[1].first], 500100.0);
     QCOMPARE(map.ys[map.rings[2].first], 5500010.0);
 }
@@ -87,7 +90,7 @@ void ShapeReaderTest::countsRecordsWithCoordinatesThatAreNotFinite()
     QCOMPARE(map.notFiniteRecords.size(), size_t(2));
     QCOMPARE(map.rings.size(), size_t(1));
     QCOMPARE(map.rings[0].record, 2);
-    QCOMPARE(map.xs.size(), size_t(5));
+    QCOMPARE(map.xs.size(), size_t(4));
 }
 
 void ShapeReaderTest::countsRingsOfFewerThanThreePlaces()
