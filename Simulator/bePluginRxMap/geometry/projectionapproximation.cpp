@@ -8,25 +8,26 @@ namespace {
 
 constexpr double maxError = 1e-5;
 
-template <std::size_t size> using Square = std::array<std::array<double, size>, size>;
+using Square = ProjectionApproximation::Coefficients;
+using Places = std::array<double, ProjectionApproximation::mostTerms>;
 
 /// Chebyshev nodes: the zeros of the Chebyshev polynomial of that degree. A polynomial through a smooth function's
 /// values there comes near the best one of its degree, without the swings near the ends that evenly spaced nodes give.
-template <std::size_t size> std::array<double, size> chebyshevNodes()
+Places chebyshevNodes(std::size_t count)
 {
-    std::array<double, size> result;
-    for (std::size_t i = 0; i < size; ++i)
-        result[i] = std::cos(std::acos(-1.0) * (2.0 * static_cast<double>(i) + 1.0) / (2.0 * size));
+    Places result = {};
+    for (std::size_t i = 0; i < count; ++i)
+        result[i] =
+            std::cos(std::acos(-1.0) * (2.0 * static_cast<double>(i) + 1.0) / (2.0 * static_cast<double>(count)));
     return result;
 }
 
-/// Turns values at the nodes into the coefficients of the powers: the inverse of the nodes' Vandermonde matrix, by
+/// Turns values at `size` nodes into the coefficients of the powers: the inverse of the nodes' Vandermonde matrix, by
 /// Gauss-Jordan elimination with partial pivoting.
-template <std::size_t size> Square<size> powersFromValues()
+Square powersFromValues(const Places &places, std::size_t size)
 {
-    Square<size> left = {};
-    Square<size> right = {};
-    const std::array<double, size> places = chebyshevNodes<size>();
+    Square left = {};
+    Square right = {};
     for (std::size_t i = 0; i < size; ++i) {
         right[i][i] = 1.0;
         for (std::size_t k = 0; k < size; ++k)
@@ -55,11 +56,11 @@ template <std::size_t size> Square<size> powersFromValues()
     return right;
 }
 
-/// `powers` times `values` times `powers` transposed.
-template <std::size_t size> Square<size> coefficients(const Square<size> &powers, const Square<size> &values)
+/// `powers` times `values` times `powers` transposed, of which `size` rows and columns count.
+Square coefficients(const Square &powers, const Square &values, std::size_t size)
 {
-    Square<size> half = {};
-    Square<size> result = {};
+    Square half = {};
+    Square result = {};
     for (std::size_t i = 0; i < size; ++i)
         for (std::size_t k = 0; k < size; ++k)
             for (std::size_t n = 0; n < size; ++n)
@@ -74,14 +75,14 @@ template <std::size_t size> Square<size> coefficients(const Square<size> &powers
 } // namespace
 
 ProjectionApproximation::Block ProjectionApproximation::values(const Coefficients &coefficients, const Block &us,
-                                                               const Block &vs)
+                                                               const Block &vs) const
 {
     // Horner's method in both directions.
     Block result = {};
-    for (std::size_t i = size; i-- > 0;) {
+    for (std::size_t i = terms; i-- > 0;) {
         Block row;
-        row.fill(coefficients[i][size - 1]);
-        for (std::size_t k = size - 1; k-- > 0;)
+        row.fill(coefficients[i][terms - 1]);
+        for (std::size_t k = terms - 1; k-- > 0;)
             for (std::size_t n = 0; n < blockSize; ++n)
                 row[n] = row[n] * vs[n] + coefficients[i][k];
         for (std::size_t n = 0; n < blockSize; ++n)
@@ -127,32 +128,49 @@ bool ProjectionApproximation::fit(const Exact &exact, double minX, double maxX, 
     middleY = 0.5 * (minY + maxY);
     halfWidth = std::max(minHalfWidth, 0.5 * (maxX - minX));
     halfHeight = std::max(minHalfWidth, 0.5 * (maxY - minY));
-    const std::array<double, size> places = chebyshevNodes<size>();
-    Coefficients xs;
-    Coefficients ys;
-    for (std::size_t i = 0; i < size; ++i) {
-        for (std::size_t k = 0; k < size; ++k) {
-            xs[i][k] = middleX + places[i] * halfWidth;
-            ys[i][k] = middleY + places[k] * halfHeight;
+    // The lower degree does for a farm.
+    for (const std::size_t count : {fewTerms, mostTerms}) {
+        interpolate(exact, count);
+        if (isGoodEnough(exact))
+            return true;
+    }
+    return false;
+}
+
+void ProjectionApproximation::interpolate(const Exact &exact, std::size_t count)
+{
+    terms = count;
+    const Places places = chebyshevNodes(terms);
+    std::vector<double> xs;
+    std::vector<double> ys;
+    for (std::size_t i = 0; i < terms; ++i) {
+        for (std::size_t k = 0; k < terms; ++k) {
+            xs.push_back(middleX + places[i] * halfWidth);
+            ys.push_back(middleY + places[k] * halfHeight);
         }
     }
-    exact(size * size, xs[0].data(), ys[0].data());
-    const Square<size> powers = powersFromValues<size>();
-    forX = coefficients(powers, xs);
-    forY = coefficients(powers, ys);
-    return isGoodEnough(exact);
+    exact(xs.size(), xs.data(), ys.data());
+    Square valuesX = {};
+    Square valuesY = {};
+    for (std::size_t i = 0; i < terms; ++i) {
+        std::copy_n(xs.begin() + static_cast<std::ptrdiff_t>(i * terms), terms, valuesX[i].begin());
+        std::copy_n(ys.begin() + static_cast<std::ptrdiff_t>(i * terms), terms, valuesY[i].begin());
+    }
+    const Square powers = powersFromValues(places, terms);
+    forX = coefficients(powers, valuesX, terms);
+    forY = coefficients(powers, valuesY, terms);
 }
 
 bool ProjectionApproximation::isGoodEnough(const Exact &exact) const
 {
     // Between the nodes and at the corners, where the error is greatest.
-    constexpr std::size_t steps = 2 * size;
+    const std::size_t steps = 2 * terms;
     std::vector<double> xs;
     std::vector<double> ys;
     for (std::size_t i = 0; i <= steps; ++i) {
         for (std::size_t k = 0; k <= steps; ++k) {
-            xs.push_back(middleX + halfWidth * (2.0 * static_cast<double>(i) / steps - 1.0));
-            ys.push_back(middleY + halfHeight * (2.0 * static_cast<double>(k) / steps - 1.0));
+            xs.push_back(middleX + halfWidth * (2.0 * static_cast<double>(i) / static_cast<double>(steps) - 1.0));
+            ys.push_back(middleY + halfHeight * (2.0 * static_cast<double>(k) / static_cast<double>(steps) - 1.0));
         }
     }
     std::vector<double> exactXs = xs;

@@ -5,10 +5,15 @@
 #include <functional>
 
 /// Stands in for a map projection over the small piece of the earth that a prescription covers: two polynomials of
-/// degree five in either direction, through exactly projected Chebyshev nodes, which take a fraction of the
-/// projection's time for each vertex.
+/// degree three in either direction, or five where these are not good enough, through exactly projected Chebyshev
+/// nodes, which take a fraction of the projection's time for each vertex.
 class ProjectionApproximation {
 public:
+    /// Of a polynomial, in either direction.
+    static constexpr std::size_t fewTerms = 4;
+    static constexpr std::size_t mostTerms = 6;
+    /// Of u to the power of the row times v to the power of the column.
+    using Coefficients = std::array<std::array<double, mostTerms>, mostTerms>;
     /// Projects `count` places in their arrays; the exact projection.
     using Exact = std::function<void(std::size_t count, double *xs, double *ys)>;
 
@@ -21,14 +26,12 @@ public:
     void apply(std::size_t count, double *xs, double *ys) const;
 
 private:
-    static constexpr std::size_t size = 6;
-    using Coefficients = std::array<std::array<double, size>, size>;
-
     /// So many places are projected in step, which lets the processor work on two at a time.
     static constexpr std::size_t blockSize = 8;
     using Block = std::array<double, blockSize>;
 
-    static Block values(const Coefficients &coefficients, const Block &us, const Block &vs);
+    void interpolate(const Exact &exact, std::size_t count);
+    Block values(const Coefficients &coefficients, const Block &us, const Block &vs) const;
     void applyToBlock(double *xs, double *ys) const;
     bool isGoodEnough(const Exact &exact) const;
 
@@ -36,6 +39,7 @@ private:
     double middleY = 0.0;
     double halfWidth = 1.0;
     double halfHeight = 1.0;
+    std::size_t terms = fewTerms;
     Coefficients forX = {};
     Coefficients forY = {};
 };

@@ -101,6 +101,7 @@ void ProjectionApproximationTest::standsInForTheProjectionOfAField_data()
     QTest::addColumn<double>("size");
     QTest::newRow("a field") << 0.01;
     QTest::newRow("a farm") << 0.2;
+    QTest::newRow("farms all over a district") << 0.8;
     QTest::newRow("a region, too large to stand in for") << 6.0;
 }
 
