@@ -85,15 +85,32 @@ bool isSamePolygon(const PlanePolygon &a, const PlanePolygon &b)
     return std::equal(holesOfA.begin(), holesOfA.end(), holesOfB.begin(), holesOfB.end(), isSameRing);
 }
 
-/// Hash and place of each polygon; equal hashes stand together, in the order of their places.
-std::vector<std::pair<std::uint64_t, size_t>> sortedHashes(const std::vector<PlanePolygon> &polygons)
+/// Hash and place of each polygon whose hash may be another's too; equal hashes stand together, in the order of their
+/// places. Of most maps that is one in twenty, which leaves little to sort: each hash marks a bit (Bloom 1970, with one
+/// function), and one that is alone at its bit is no other's.
+std::vector<std::pair<std::uint64_t, size_t>> repeatedHashes(const std::vector<PlanePolygon> &polygons)
 {
-    std::vector<std::pair<std::uint64_t, size_t>> hashes;
+    size_t bits = 1024;
+    while (bits < 16 * polygons.size())
+        bits *= 2;
+    std::vector<bool> isMarked(bits, false);
+    std::vector<bool> isShared(bits, false);
+    std::vector<std::uint64_t> hashes;
     hashes.reserve(polygons.size());
-    for (const PlanePolygon &polygon : polygons)
-        hashes.emplace_back(hashOf(polygon), hashes.size());
-    std::sort(hashes.begin(), hashes.end());
-    return hashes;
+    for (const PlanePolygon &polygon : polygons) {
+        hashes.push_back(hashOf(polygon));
+        const size_t bit = hashes.back() & (bits - 1);
+        if (isMarked[bit])
+            isShared[bit] = true;
+        isMarked[bit] = true;
+    }
+    std::vector<std::pair<std::uint64_t, size_t>> repeated;
+    for (size_t i = 0; i < hashes.size(); ++i) {
+        if (isShared[hashes[i] & (bits - 1)])
+            repeated.emplace_back(hashes[i], i);
+    }
+    std::sort(repeated.begin(), repeated.end());
+    return repeated;
 }
 
 } // namespace
@@ -101,7 +118,7 @@ std::vector<std::pair<std::uint64_t, size_t>> sortedHashes(const std::vector<Pla
 std::vector<PlanePolygon> DuplicatePolygons::drop(std::vector<PlanePolygon> &polygons,
                                                   const std::function<bool(int, int)> &hides)
 {
-    const std::vector<std::pair<std::uint64_t, size_t>> hashes = sortedHashes(polygons);
+    const std::vector<std::pair<std::uint64_t, size_t>> hashes = repeatedHashes(polygons);
     std::vector<size_t> hidden;
     for (auto earlier = hashes.begin(); earlier != hashes.end(); ++earlier) {
         const PlanePolygon &polygon = polygons[earlier->second];

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void asksWhetherTheLaterOneMayStand();
     void takesNegativeZeroForZero();
     void findsWhatComparingEachPairFinds();
+    void findsTheFewRepeatedOnesOfALargeMap();
 };
 
 void DuplicatePolygonsTest::keepsTheLastOfEqualPolygons()
@@ -153,6 +154,22 @@ void DuplicatePolygonsTest::findsWhatComparingEachPairFinds()
         QCOMPARE(int(DuplicatePolygons::drop(polygons, hides).size()), 40 - expected.size());
         QCOMPARE(recordsOf(polygons), expected);
     }
+}
+
+void DuplicatePolygonsTest::findsTheFewRepeatedOnesOfALargeMap()
+{
+    std::vector<PlanePolygon> polygons;
+    constexpr int side = 300;
+    for (int cell = 0; cell < side * side; ++cell)
+        polygons.push_back(polygonOf(cell, square(10.0 * (cell % side), 10.0 * (cell / side), 10.0)));
+    QVERIFY(DuplicatePolygons::drop(polygons, always).empty());
+    QList<int> repeated;
+    for (int cell = 0; cell < side * side; cell += 1000) {
+        repeated.append(cell);
+        polygons.push_back(polygonOf(side * side + cell, turned(polygons[static_cast<size_t>(cell)].outer)));
+    }
+    QCOMPARE(recordsOf(DuplicatePolygons::drop(polygons, always)), repeated);
+    QCOMPARE(polygons.size(), size_t(side * side));
 }
 
 RXMAP_TEST(DuplicatePolygonsTest, Core)
