@@ -22,6 +22,8 @@ struct RingExtent {
 };
 
 /// Finds rings by their extents: an R-tree (Guttman 1984) that is packed, since all extents are there when it is built.
+/// Its entries are runs of rings, each of which keeps its extent in single precision, rounded outward: all that is
+/// asked for is found, and now and then a ring whose extent ends within three last digits beside it.
 class RingTree {
 public:
     /// Places of rings in the list that the tree was built from, in no order.
