@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr size_t minVerticesForSlabs = 48;
 constexpr size_t edgesPerSlab = 4;
 
 } // namespace
@@ -20,7 +19,7 @@ SlabIndex::SlabIndex(const PlaneVertex *ringVertices, size_t vertexCount)
         minY = std::min(minY, vertices[i].y);
         maxY = std::max(maxY, vertices[i].y);
     }
-    if (count >= minVerticesForSlabs && maxY > minY)
+    if (pays(count) && maxY > minY)
         buildSlabs();
 }
 

@@ -30,6 +30,10 @@ struct SharedEdgeCrossing {
 /// test looks at the edges of one slab only. The vertices are not copied and must outlive the index.
 class SlabIndex {
 public:
+    /// Whether a ring is long enough for the index to be worth keeping; one of fewer vertices is looked at edge by
+    /// edge.
+    static constexpr bool pays(size_t count) { return count >= 48; }
+
     SlabIndex(const PlaneVertex *vertices, size_t count);
 
     /// False for a ring without vertices, and for a point that is not a number.

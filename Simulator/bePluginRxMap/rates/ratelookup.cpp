@@ -6,46 +6,20 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <numeric>
 
 using OrvikTypes::RX_POLYGON;
 
 namespace {
 
-struct PlacedHole {
-    int outer;
-    const RX_POLYGON *hole;
-};
-
-/// The holes that the renderer cuts out, sorted by the outer ring that they are cut from.
-std::vector<PlacedHole> placed(const std::vector<const RX_POLYGON *> &holes, const std::vector<int> &takers)
-{
-    std::vector<PlacedHole> result;
-    for (size_t i = 0; i < holes.size(); ++i) {
-        if (takers[i] != RendererHoleRule::nowhere)
-            result.push_back({takers[i], holes[i]});
-    }
-    std::stable_sort(result.begin(), result.end(),
-                     [](const PlacedHole &a, const PlacedHole &b) { return a.outer < b.outer; });
-    return result;
-}
-
-/// The outer rings or the holes of a chain, in its order.
-std::vector<const RX_POLYGON *> ringsOf(const RX_POLYGON *first, unsigned count, bool holes)
-{
-    std::vector<const RX_POLYGON *> result;
-    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
-        if (record->isHole == holes)
-            result.push_back(record);
-    }
-    return result;
-}
-
-std::vector<RingExtent> extentsOf(const std::vector<const RX_POLYGON *> &rings)
+std::vector<RingExtent> extentsOf(const RX_POLYGON *first, unsigned count)
 {
     std::vector<RingExtent> result;
-    result.reserve(rings.size());
-    for (const RX_POLYGON *ring : rings)
-        result.push_back(RingExtent::of(ring->vertices, ring->vertexCount));
+    result.reserve(count);
+    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
+        if (!record->isHole)
+            result.push_back(RingExtent::of(record->vertices, record->vertexCount));
+    }
     return result;
 }
 
@@ -58,28 +32,49 @@ bool RateLookup::Answer::hasRate(int mapping) const
 
 RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount, const std::vector<int> &takers)
     : mappings(mappingCount)
-    , tree(extentsOf(ringsOf(first, count, false)))
+    , tree(extentsOf(first, count))
 {
-    const std::vector<const RX_POLYGON *> outerRecords = ringsOf(first, count, false);
-    outers.reserve(outerRecords.size());
-    for (const RX_POLYGON *record : outerRecords)
-        outers.push_back({SlabIndex(record->vertices, record->vertexCount), record->rates});
-    for (const PlacedHole &hole : placed(ringsOf(first, count, true), takers)) {
-        Outer &outer = outers[static_cast<size_t>(hole.outer)];
-        if (outer.holeCount++ == 0)
-            outer.firstHole = static_cast<unsigned>(holes.size());
-        holes.emplace_back(hole.hole->vertices, hole.hole->vertexCount);
+    std::vector<const RX_POLYGON *> holes;
+    outers.reserve(count - std::min<size_t>(count, takers.size()));
+    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
+        if (record->isHole)
+            holes.push_back(record);
+        else
+            outers.push_back({record});
     }
+    for (size_t i = 0; i < holes.size(); ++i) {
+        if (takers[i] != RendererHoleRule::nowhere)
+            detailOf(outers[static_cast<size_t>(takers[i])])
+                .holes.emplace_back(holes[i]->vertices, holes[i]->vertexCount);
+    }
+    for (Outer &outer : outers) {
+        if (SlabIndex::pays(outer.record->vertexCount))
+            detailOf(outer).ring = std::make_unique<SlabIndex>(outer.record->vertices, outer.record->vertexCount);
+    }
+}
+
+RateLookup::Detail &RateLookup::detailOf(Outer &outer)
+{
+    if (outer.detail == none) {
+        outer.detail = static_cast<unsigned>(details.size());
+        details.emplace_back();
+    }
+    return details[outer.detail];
 }
 
 bool RateLookup::covers(unsigned number, double x, double y) const
 {
     const Outer &outer = outers[number];
-    bool inside = outer.ring.contains(x, y, SharedEdgeCrossing());
+    const Detail *detail = outer.detail == none ? nullptr : &details[outer.detail];
+    const bool isInRing = detail != nullptr && detail->ring
+        ? detail->ring->contains(x, y, SharedEdgeCrossing())
+        : SlabIndex(outer.record->vertices, outer.record->vertexCount).contains(x, y, SharedEdgeCrossing());
+    if (detail == nullptr)
+        return isInRing;
     // The renderer fills by the even-odd rule over all contours of a polygon.
-    for (unsigned i = outer.firstHole; i < outer.firstHole + outer.holeCount; ++i)
-        inside ^= holes[i].contains(x, y, SharedEdgeCrossing());
-    return inside;
+    return std::accumulate(
+        detail->holes.begin(), detail->holes.end(), isInRing,
+        [x, y](bool isInside, const SlabIndex &hole) { return isInside != hole.contains(x, y, SharedEdgeCrossing()); });
 }
 
 RateLookup::Answer RateLookup::ratesAt(double x, double y) const
@@ -97,7 +92,7 @@ RateLookup::Answer RateLookup::ratesAt(double x, double y) const
     for (auto hit = hits.begin(); hit != end; ++hit) {
         for (size_t i = 0; i < mappings; ++i) {
             if (std::isnan(rates[i]))
-                rates[i] = outers[*hit].rates[i];
+                rates[i] = outers[*hit].record->rates[i];
             hasAny = hasAny || !std::isnan(rates[i]);
         }
     }

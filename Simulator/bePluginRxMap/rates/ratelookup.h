@@ -7,6 +7,8 @@
 
 #include <QList>
 
+#include <limits>
+#include <memory>
 #include <vector>
 
 /// The rates at points of a published map; everybody who needs a rate asks this.
@@ -33,16 +35,23 @@ public:
 private:
     bool covers(unsigned outer, double x, double y) const;
 
+    static constexpr unsigned none = std::numeric_limits<unsigned>::max();
+
+    /// A map may have very many short outer rings without holes, of which this is all that is kept beside their
+    /// extents.
     struct Outer {
-        SlabIndex ring;
-        const float *rates;
-        /// The holes cut from it: holes[firstHole ... firstHole + holeCount).
-        unsigned firstHole = 0;
-        unsigned holeCount = 0;
+        const OrvikTypes::RX_POLYGON *record;
+        unsigned detail = none; ///< Place among the details.
     };
+    struct Detail {
+        std::unique_ptr<SlabIndex> ring; ///< Null for a short ring.
+        std::vector<SlabIndex> holes;    ///< Those that are cut from it.
+    };
+
+    Detail &detailOf(Outer &outer);
 
     size_t mappings;
     std::vector<Outer> outers; ///< In the order of drawing.
-    std::vector<SlabIndex> holes;
+    std::vector<Detail> details;
     RingTree tree;
 };

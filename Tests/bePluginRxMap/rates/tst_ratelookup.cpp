@@ -4,6 +4,7 @@
 #include "ratelookup.h"
 #include "wholemaptest.h"
 
+#include <array>
 #include <cmath>
 #include <deque>
 #include <limits>
@@ -71,6 +72,8 @@ private Q_SLOTS:
     void agreesWithLookingAtEveryRing();
     void givesEachPointOnASharedEdgeToOneCell_data();
     void givesEachPointOnASharedEdgeToOneCell();
+    void tellsApartWhatSinglePrecisionDoesNot_data();
+    void tellsApartWhatSinglePrecisionDoesNot();
 };
 
 void RateLookupTest::answersForEveryMapping()
@@ -236,6 +239,54 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
         taken += takers;
     }
     QVERIFY(taken > 5);
+}
+
+void RateLookupTest::tellsApartWhatSinglePrecisionDoesNot_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("size");
+    QTest::newRow("at the origin") << 0.0 << 10.0;
+    QTest::newRow("off the grid") << 1.0 / 3.0 << 10.0 / 7.0;
+    QTest::newRow("far away") << -1e6 / 3.0 << 10.0 / 7.0;
+    QTest::newRow("far away, smaller than a last digit") << 1e7 / 3.0 << 0.01 / 7.0;
+}
+
+void RateLookupTest::tellsApartWhatSinglePrecisionDoesNot()
+{
+    QFETCH(double, from);
+    QFETCH(double, size);
+    constexpr int side = 12;
+    std::mt19937 random(9);
+    std::deque<std::array<PlaneVertex, 4>> squares;
+    std::deque<float> rates;
+    std::deque<RX_POLYGON> chain;
+    const auto add = [&](int column, int row) {
+        const double x[] = {from + column * size, from + (column + 1) * size};
+        const double y[] = {from + row * size, from + (row + 1) * size};
+        squares.push_back({{{x[0], y[0]}, {x[1], y[0]}, {x[1], y[1]}, {x[0], y[1]}}});
+        rates.push_back(static_cast<float>(rates.size()));
+        chain.push_back({size * size, 0, squares.back().data(), 4, &rates.back(), false, nullptr});
+        if (chain.size() > 1)
+            chain[chain.size() - 2].next = &chain.back();
+    };
+    for (int cell = 0; cell < side * side; ++cell) {
+        add(cell % side, cell / side);
+        // The last of equal ones counts.
+        if (random() % 7 == 0)
+            add(cell % side, cell / side);
+    }
+    const RateLookup lookup(&chain.front(), static_cast<unsigned>(chain.size()), 1, {});
+    constexpr double end = std::numeric_limits<double>::infinity();
+    for (const auto &square : squares) {
+        for (const PlaneVertex &corner : square) {
+            for (const double x : {corner.x, std::nextafter(corner.x, -end), std::nextafter(corner.x, end)}) {
+                for (const double y : {corner.y, std::nextafter(corner.y, -end), std::nextafter(corner.y, end)}) {
+                    const RateLookup::Answer answer = lookup.ratesAt(x, y);
+                    QVERIFY(isSame(answer.rates.value(0, std::nanf("")), plainRate(&chain.front(), 0, x, y)));
+                }
+            }
+        }
+    }
 }
 
 RXMAP_TEST(RateLookupTest, Core)

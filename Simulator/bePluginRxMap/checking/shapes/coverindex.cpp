@@ -6,9 +6,6 @@ using OrvikTypes::RX_POLYGON;
 
 namespace {
 
-/// Rings up to this length are looked at edge by edge.
-constexpr unsigned shortRing = 32;
-
 std::vector<RingExtent> extentsOf(const std::vector<PlaneRing> &rings)
 {
     std::vector<RingExtent> extents;
@@ -50,7 +47,7 @@ CoverIndex::CoverIndex(const MapView &view)
 bool CoverIndex::contains(const RX_POLYGON &ring, std::unique_ptr<SlabIndex> &slabs, const PlaneVertex &point)
 {
     const SharedEdgeCrossing rule;
-    if (ring.vertexCount <= shortRing)
+    if (!SlabIndex::pays(ring.vertexCount))
         return SlabIndex(ring.vertices, ring.vertexCount).contains(point.x, point.y, rule);
     if (!slabs)
         slabs = std::make_unique<SlabIndex>(ring.vertices, ring.vertexCount);
