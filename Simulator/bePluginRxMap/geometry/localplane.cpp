@@ -33,8 +33,8 @@ double radians(double degrees)
 
 SpatialReference worldReference()
 {
-    SpatialReference reference(new OGRSpatialReference);
-    reference->SetWellKnownGeogCS("WGS84");
+    // A copy of the process's own: one made anew is looked up in the projection database.
+    SpatialReference reference(OGRSpatialReference::GetWGS84SRS()->Clone());
     reference->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     return reference;
 }

@@ -90,8 +90,7 @@ bool TaskDataReader::read(RawPrescription &map)
     map.columnNames = namesOf(map.columns);
     if (!checkColumns(map))
         return false;
-    map.reference.reset(new OGRSpatialReference);
-    map.reference->SetWellKnownGeogCS("WGS84");
+    map.reference.reset(OGRSpatialReference::GetWGS84SRS()->Clone());
     if (!readGrids(columns, map) || !readZones(columns, map))
         return false;
     readBoundary(map);
