@@ -49,14 +49,6 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-bool isLarge(const RawPrescription &map)
-{
-    GeographicExtent extent;
-    QString reason;
-    return !LocalPlane::locate(map, extent, reason)
-        || !(LocalPlane(extent.west, extent.south).distanceTo(extent.east, extent.north) <= farAway);
-}
-
 /// Whether each part lies far from the middle of them; empty where that cannot be told.
 std::vector<bool> areFar(const RawPrescription &map, const std::vector<Part> &parts)
 {
@@ -122,9 +114,14 @@ void removeParts(RawPrescription &map, const std::vector<Part> &parts, const std
 
 } // namespace
 
+bool StrayPolygons::mayBeWithin(const GeographicExtent &extent)
+{
+    return !(LocalPlane(extent.west, extent.south).distanceTo(extent.east, extent.north) <= farAway);
+}
+
 std::vector<int> StrayPolygons::remove(RawPrescription &map)
 {
-    if (map.rings.size() < 2 || !isLarge(map))
+    if (map.rings.size() < 2)
         return {};
     const std::vector<Part> parts = partsOf(map);
     const std::vector<bool> far = areFar(map, parts);

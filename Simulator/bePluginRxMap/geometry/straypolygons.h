@@ -2,6 +2,7 @@
 
 #include <vector>
 
+struct GeographicExtent;
 struct RawPrescription;
 
 /// Polygons that lie so far from the others of a map that their places must be wrong, as those do whose position was
@@ -13,6 +14,8 @@ struct RawPrescription;
 /// map of two halves far from each other is none with strays.
 class StrayPolygons {
 public:
-    /// Takes them out of the map; the record of each.
+    /// False for the extent of a map that is too small to have any.
+    static bool mayBeWithin(const GeographicExtent &extent);
+    /// Takes them out of a map that may have some, or that has no place on the earth; the record of each.
     static std::vector<int> remove(RawPrescription &map);
 };

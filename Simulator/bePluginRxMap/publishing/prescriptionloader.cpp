@@ -188,12 +188,16 @@ bool PrescriptionLoader::place(LoadedMap &map)
         return fail(source.notFiniteRecords.empty() ? BackendText::tr("holds no polygon")
                                                     : BackendText::tr("holds no polygon with finite coordinates"));
     }
-    findings->addCounted(Kind::StrayPolygon, StrayPolygons::remove(source),
-                         {BackendText::tr("polygon that lies more than 100 km from the others was left out"),
-                          BackendText::tr("polygons that lie more than 100 km from the others were left out")});
     QString reason;
     GeographicExtent extent;
-    if (!LocalPlane::locate(source, extent, reason))
+    bool isLocated = LocalPlane::locate(source, extent, reason);
+    if (!isLocated || StrayPolygons::mayBeWithin(extent)) {
+        findings->addCounted(Kind::StrayPolygon, StrayPolygons::remove(source),
+                             {BackendText::tr("polygon that lies more than 100 km from the others was left out"),
+                              BackendText::tr("polygons that lie more than 100 km from the others were left out")});
+        isLocated = LocalPlane::locate(source, extent, reason);
+    }
+    if (!isLocated)
         return fail(reason);
     if (!source.reference)
         tell(Kind::ReferenceSystem, source.lackOfReference + BackendText::tr("; taken as WGS 84"));
