@@ -2,12 +2,13 @@
 
 #include "Framework/rxpolygon.h"
 
+#include <memory_resource>
 #include <vector>
 
 /// A vertex of the local plane, metres: x east, y north.
 using PlaneVertex = OrvikTypes::RX_POLYGONVERTEX;
-/// A ring, closed implicitly from the last vertex to the first.
-using PlaneRing = std::vector<PlaneVertex>;
+/// A ring, closed implicitly from the last vertex to the first. One that is moved keeps its memory, a copy has its own.
+using PlaneRing = std::pmr::vector<PlaneVertex>;
 
 /// A straight line between two vertices.
 struct PlaneEdge {

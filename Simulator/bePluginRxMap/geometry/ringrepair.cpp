@@ -42,15 +42,16 @@ PlaneRing fileRing(const RawPrescription &map, const SourceRing &ring)
 
 } // namespace
 
-RingRepair::RingRepair(double maxCoordinate)
+RingRepair::RingRepair(double maxCoordinate, std::pmr::memory_resource *rings)
     : gridSize(gridFor(maxCoordinate))
+    , memory(rings)
 {
 }
 
 PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<double> &ys,
                               const SourceRing &ring) const
 {
-    PlaneRing result;
+    PlaneRing result(memory);
     result.reserve(ring.count);
     const double perMetre = 1.0 / gridSize;
     for (size_t i = ring.first; i < ring.first + ring.count; ++i) {
@@ -86,9 +87,7 @@ void RingRepair::appendRepaired(const PlanePolygon &polygon, Outcome &outcome) c
 size_t RingRepair::append(const RawPrescription &map, const std::vector<double> &xs, const std::vector<double> &ys,
                           size_t firstRing, Outcome &outcome) const
 {
-    PlanePolygon polygon;
-    polygon.record = map.rings[firstRing].record;
-    polygon.outer = snapped(xs, ys, map.rings[firstRing]);
+    PlanePolygon polygon = {snapped(xs, ys, map.rings[firstRing]), {}, map.rings[firstRing].record};
     size_t end = firstRing + 1;
     for (; end < map.rings.size() && map.rings[end].isHole; ++end) {
         PlaneRing hole = snapped(xs, ys, map.rings[end]);

@@ -30,8 +30,9 @@ public:
     /// polygon.
     static constexpr size_t mostCrossings = 200000;
 
-    /// `maxCoordinate`: greatest absolute coordinate of the map, metres.
-    explicit RingRepair(double maxCoordinate);
+    /// `maxCoordinate`: greatest absolute coordinate of the map, metres. `rings` is where the rings live, those that
+    /// were repaired excepted; it is not owned, and outlives them.
+    explicit RingRepair(double maxCoordinate, std::pmr::memory_resource *rings = std::pmr::get_default_resource());
 
     double grid() const { return gridSize; }
     /// `xs` and `ys` are the map's coordinates in metres, in the order of the file's own ones, which are in `map`.
@@ -46,4 +47,5 @@ private:
 
     GeosContext geos;
     double gridSize;
+    std::pmr::memory_resource *memory;
 };

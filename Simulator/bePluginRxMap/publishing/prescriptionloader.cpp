@@ -249,7 +249,7 @@ bool PrescriptionLoader::repairRings()
         if (std::isfinite(xs[i]) && std::isfinite(ys[i]))
             maxCoordinate = std::max({maxCoordinate, std::fabs(xs[i]), std::fabs(ys[i])});
     }
-    const RingRepair repair(maxCoordinate);
+    const RingRepair repair(maxCoordinate, &ringMemory);
     RingRepair::Outcome outcome;
     outcome.polygons.reserve(source.rings.size());
     const double rings = static_cast<double>(source.rings.size());

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <memory_resource>
 #include <optional>
 #include <vector>
 
@@ -65,6 +66,8 @@ private:
     RawPrescription source;
     std::vector<double> xs;
     std::vector<double> ys;
+    /// Of the polygons' rings: had in few large blocks, and given back as such.
+    std::pmr::monotonic_buffer_resource ringMemory;
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;
     RateTable rates;
