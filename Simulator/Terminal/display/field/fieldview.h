@@ -3,6 +3,7 @@
 #include "camera.h"
 #include "fieldcanvas.h"
 #include "fieldscene.h"
+#include "restingmemory.h"
 
 #include <QImage>
 #include <QWidget>
@@ -94,4 +95,5 @@ private:
     bool isDragging = false;
     bool isPinching = false;
     QImage colors;
+    RestingMemory restingMemory{this};
 };

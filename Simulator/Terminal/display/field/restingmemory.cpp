@@ -1,0 +1,46 @@
+#include "restingmemory.h"
+
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <QOpenGLWidget>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr int restMs = 1000;
+/// Blocks from this size on are had from the system one by one, and given back when they are freed, bytes.
+constexpr int largeBlock = 1 << 20;
+/// So much that is free at the heap's end is kept: a frame's triangles would else be had anew for each frame, bytes.
+constexpr int keptHeap = 1 << 26;
+
+} // namespace
+
+RestingMemory::RestingMemory(QOpenGLWidget *drawnView)
+    : view(drawnView)
+{
+    // Left to itself the allocator comes to keep blocks of up to 32 MB, most of all those of a loading thread, which it
+    // never gives back: 150 bytes for each cell of a map.
+    mallopt(M_MMAP_THRESHOLD, largeBlock);
+    mallopt(M_TRIM_THRESHOLD, keptHeap);
+    rest.setSingleShot(true);
+    rest.setInterval(restMs);
+    connect(view, &QOpenGLWidget::frameSwapped, &rest, qOverload<>(&QTimer::start));
+    connect(&rest, &QTimer::timeout, this, &RestingMemory::giveBack);
+}
+
+void RestingMemory::giveBack()
+{
+    // Software OpenGL keeps all triangles of a frame until the next one begins, nearly 400 bytes for each cell of a
+    // map. This one is empty, and leaves the view's colours as they are.
+    if (view->isValid()) {
+        view->makeCurrent();
+        QOpenGLFunctions &gl = *QOpenGLContext::currentContext()->functions();
+        gl.glFinish();
+        gl.glClear(GL_STENCIL_BUFFER_BIT);
+        gl.glFinish();
+        view->doneCurrent();
+    }
+    // What was freed lies between what is kept, where the allocator leaves it.
+    malloc_trim(0);
+}

@@ -1,0 +1,72 @@
+#include "fieldviewtest.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+/// Of this process, megabytes.
+double residentMegabytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    status.open(QIODevice::ReadOnly);
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').front().toDouble() / 1024.0;
+    }
+    return 0.0;
+}
+
+/// Much that was freed between the little that is kept.
+std::vector<std::unique_ptr<char[]>> scattered()
+{
+    constexpr size_t blocks = 4000;
+    constexpr size_t block = 16384;
+    std::vector<std::unique_ptr<char[]>> all;
+    for (size_t i = 0; i < blocks; ++i)
+        all.push_back(std::make_unique<char[]>(block));
+    for (size_t i = 0; i < blocks; ++i) {
+        if (i % 8 != 0)
+            all[i].reset();
+    }
+    return all;
+}
+
+} // namespace
+
+class TestRestingMemory : public FieldViewTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void givesBackWhatWasFreedOnceTheViewIsAtRest();
+    void leavesThePictureAsItIs();
+};
+
+void TestRestingMemory::givesBackWhatWasFreedOnceTheViewIsAtRest()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("the sanitizer's allocator keeps what is freed");
+#endif
+    const double before = residentMegabytes();
+    const auto kept = scattered();
+    QVERIFY(residentMegabytes() > before + 40.0);
+    view->repaint();
+    QTRY_VERIFY(residentMegabytes() < before + 20.0);
+}
+
+void TestRestingMemory::leavesThePictureAsItIs()
+{
+    QSignalSpy frames(view.data(), &QOpenGLWidget::frameSwapped);
+    view->repaint();
+    QTRY_VERIFY(!frames.isEmpty());
+    const QImage drawn = view->grabFramebuffer();
+    constexpr int longerThanTheRestMs = 1300;
+    QTest::qWait(longerThanTheRestMs);
+    QCOMPARE(view->grabFramebuffer(), drawn);
+}
+
+RXMAP_TEST(TestRestingMemory, Widgets)
+#include "tst_restingmemory.moc"
