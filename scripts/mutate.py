@@ -29,7 +29,7 @@ RESULTS = os.path.join(WORK, "results.tsv")
 # Sources, the programs that test them, and the tests among theirs that do.
 ROOMS = [
     ("Plugins/uiPluginRxMap/**/*", ["plugin-tests", "plugin-map-tests", "plugin-dialog-tests", "rxmap-hostile"]),
-    ("Simulator/bePluginRxMap/geometry/*", ["backend-tests"]),
+    ("Simulator/bePluginRxMap/geometry/*/*", ["backend-tests"]),
     ("Simulator/Machine/control/*", ["machine-tests"]),
 ]
 
