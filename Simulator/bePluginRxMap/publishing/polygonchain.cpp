@@ -79,3 +79,16 @@ void PolygonChain::append(const PlaneRing &ring, bool isHole, float *rates)
     ++count;
     outerCount += isHole ? 0 : 1;
 }
+
+std::vector<double> PolygonChain::polygonAreas() const
+{
+    std::vector<double> areas;
+    areas.reserve(outerCount);
+    for (const RX_POLYGON *record = first(); record != nullptr; record = record->next) {
+        if (record->isHole)
+            areas.back() -= record->area;
+        else
+            areas.push_back(record->area);
+    }
+    return areas;
+}

@@ -392,6 +392,7 @@ bool PrescriptionLoader::arrange()
 
 void PrescriptionLoader::makeChain(LoadedMap &map) const
 {
+    map.records.reserve(polygons.size());
     for (const PlanePolygon &polygon : polygons)
         map.records.push_back(polygon.record);
     map.joinedHoles = arrangement.joined;
@@ -403,23 +404,20 @@ void PrescriptionLoader::makeChain(LoadedMap &map) const
 void PrescriptionLoader::buildLegends(LoadedMap &map) const
 {
     constexpr double squareMetresPerHectare = 10000.0;
-    std::vector<double> areas;
-    areas.reserve(polygons.size());
-    for (const PlanePolygon &polygon : polygons)
-        areas.push_back(polygonArea(polygon));
+    const std::vector<double> areas = map.chain->polygonAreas();
     for (size_t i = 0; i < rates.mappings(); ++i) {
         std::vector<float> column;
         std::vector<int> cells;
-        column.reserve(polygons.size());
+        column.reserve(map.records.size());
         cells.reserve(source.cells.size());
         double amount = 0.0;
-        for (const PlanePolygon &polygon : polygons) {
-            const float rate = rates.at(polygon.record, i);
+        for (const int record : map.records) {
+            const float rate = rates.at(record, i);
             if (!std::isnan(rate))
                 amount += static_cast<double>(rate) * areas[column.size()] / squareMetresPerHectare;
             column.push_back(rate);
             if (!source.cells.empty())
-                cells.push_back(source.cellsOf(polygon.record));
+                cells.push_back(source.cellsOf(record));
         }
         const int product = map.report.sources.at(static_cast<int>(i)).product - 1;
         const auto legend = LegendBuilder::build(column, request.products.at(product).displayFactor, cells);

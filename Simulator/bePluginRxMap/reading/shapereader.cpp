@@ -19,13 +19,13 @@ void ShapeReader::read(const OGRGeometry *geometry)
     }
     const size_t firstRing = map.rings.size();
     const size_t firstVertex = map.xs.size();
+    isRecordFinite = true;
     const bool hasAreas = appendGeometry(*geometry);
-    const bool finite = isFinite(firstVertex);
-    if (hasAreas && finite && map.rings.size() > firstRing)
+    if (hasAreas && isRecordFinite && map.rings.size() > firstRing)
         return;
     if (!hasAreas)
         map.otherRecords.push_back(map.records);
-    else if (!finite)
+    else if (!isRecordFinite)
         map.notFiniteRecords.push_back(map.records);
     else
         map.emptyRecords.push_back(map.records);
@@ -70,7 +70,9 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
         if (count > 0)
             ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
         dropClosingVertex(first);
-        if (isFinite(first) && !enclosesSomething(first)) {
+        const bool isRingFinite = isFinite(first);
+        isRecordFinite = isRecordFinite && isRingFinite;
+        if (isRingFinite && !enclosesSomething(first)) {
             map.xs.resize(first);
             map.ys.resize(first);
             map.droppedRings.push_back(map.records);

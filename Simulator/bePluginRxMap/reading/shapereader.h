@@ -28,4 +28,5 @@ private:
     bool enclosesSomething(size_t first) const;
 
     RawPrescription &map;
+    bool isRecordFinite = true;
 };
