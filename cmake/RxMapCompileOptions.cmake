@@ -1,8 +1,6 @@
 # Warnings, sanitizers and the language standard, in one place: link rxmap_cxx14 or rxmap_cxx17.
 
-# clang has no -Wshadow=local; its -Wshadow says less than that of g++, which also minds a constructor's parameters.
-set(RXMAP_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor
-    $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>
+set(RXMAP_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Wshadow
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 if(RXMAP_WERROR)
     list(APPEND RXMAP_WARNINGS -Werror)

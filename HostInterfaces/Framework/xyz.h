@@ -7,10 +7,10 @@ namespace OrvikTypes {
 /// A point of the field's local plane: x east, y north, z up, in metres.
 struct XYZ {
     XYZ() = default;
-    XYZ(double x, double y, double z)
-        : x(x)
-        , y(y)
-        , z(z)
+    XYZ(double givenX, double givenY, double givenZ)
+        : x(givenX)
+        , y(givenY)
+        , z(givenZ)
     {
     }
 

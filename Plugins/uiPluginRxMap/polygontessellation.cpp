@@ -36,9 +36,9 @@ void makeRoom(int vertices)
 
 } // namespace
 
-PolygonTessellation::PolygonTessellation(GLUtesselator *tessellator, QVector<Vertex> &triangles)
-    : tessellator(tessellator)
-    , triangles(triangles)
+PolygonTessellation::PolygonTessellation(GLUtesselator *givenTessellator, QVector<Vertex> &givenTriangles)
+    : tessellator(givenTessellator)
+    , triangles(givenTriangles)
 {
 }
 

@@ -50,9 +50,9 @@ DataBrokerGroup *findRxMapGroup(const DataBroker &broker, const DbGroupAAM &aam)
 
 } // namespace
 
-RxMap3D::RxMap3D(DataBroker *broker, QObject *parent)
+RxMap3D::RxMap3D(DataBroker *givenBroker, QObject *parent)
     : QObject(parent)
-    , broker(broker)
+    , broker(givenBroker)
 {
     updateRxMapGroup();
 }

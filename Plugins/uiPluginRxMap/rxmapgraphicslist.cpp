@@ -21,9 +21,9 @@ template <typename Group> Group *findGroupOf(const DataBroker *broker, const QSt
 
 } // namespace
 
-RxMapGraphicsList::RxMapGraphicsList(DataBroker *broker, QObject *parent)
-    : UiGraphicsList(broker, parent)
-    , rxMap3D(new RxMap3D(broker, this))
+RxMapGraphicsList::RxMapGraphicsList(DataBroker *givenBroker, QObject *parent)
+    : UiGraphicsList(givenBroker, parent)
+    , rxMap3D(new RxMap3D(givenBroker, this))
 {
     objects.append(rxMap3D);
     unitsConverter = findGroupOf<DbGroupQmlUnitsConverter>(broker, QStringLiteral("QmlUnitsConverter"));

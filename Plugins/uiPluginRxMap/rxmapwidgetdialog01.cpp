@@ -44,10 +44,10 @@ void writeBack(DataBroker *broker, const QList<QPointer<DbGroupRxMap>> groups,
 
 } // namespace
 
-RxMapWidgetDialog01::RxMapWidgetDialog01(DataBroker *broker, QDir &imageDir, QWidget *parent)
+RxMapWidgetDialog01::RxMapWidgetDialog01(DataBroker *givenBroker, QDir &givenImageDir, QWidget *parent)
     : QDialog(parent)
-    , broker(broker)
-    , imageDir(imageDir)
+    , broker(givenBroker)
+    , imageDir(givenImageDir)
 {
     setObjectName(QStringLiteral("rxMapSettings"));
     setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);

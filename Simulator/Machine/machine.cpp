@@ -68,13 +68,13 @@ DbGroupProductGroupInfo::RateKind rateKindOf(const Product &product)
 
 } // namespace
 
-Machine::Machine(DataBroker *broker, PrescriptionBackend *backend, const Products &products, UnitSystem units,
+Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Products &products, UnitSystem givenUnits,
                  QObject *parent)
     : QObject(parent)
-    , broker(broker)
+    , broker(givenBroker)
     , prescriptions(backend)
     , allProducts(products)
-    , units(units)
+    , units(givenUnits)
 {
     publishTerminal();
     for (int number = 1; number <= allProducts.size(); ++number)

@@ -11,7 +11,8 @@
 
 namespace {
 
-/// How often the wall's clock is looked at, milliseconds; seldom, so that a terminal at rest leaves the processor alone.
+/// How often the wall's clock is looked at, milliseconds; seldom, so that a terminal at rest leaves the processor
+/// alone.
 constexpr int movingInterval = Simulation::stepMs / 2;
 constexpr int restingInterval = 1000;
 /// By then what the machine has metered has ended, too.
@@ -19,11 +20,11 @@ constexpr int stepsUntilRest = 100;
 
 } // namespace
 
-Simulation::Simulation(Machine *machine, const SimulationClock *wall, QObject *parent)
+Simulation::Simulation(Machine *machine, const SimulationClock *givenWall, QObject *parent)
     : QObject(parent)
     , machineModel(machine)
-    , wall(wall)
-    , lastWall(wall != nullptr ? wall->now() : 0)
+    , wall(givenWall)
+    , lastWall(givenWall != nullptr ? givenWall->now() : 0)
     , vehicleModel(new Vehicle(machine->gpsSolution(), &clock))
     , rateController(new RateController(machine))
 {

@@ -41,8 +41,8 @@ bool isNear(const QColor &a, const QColor &b)
 /// Looks at parts of the active product's map from near and compares there, point by point.
 class CloseLook {
 public:
-    explicit CloseLook(Terminal &terminal)
-        : terminal(terminal)
+    explicit CloseLook(Terminal &givenTerminal)
+        : terminal(givenTerminal)
     {
     }
 

@@ -54,9 +54,9 @@ QString asText(const FieldPicture &picture, int pixel)
 
 } // namespace
 
-HostileHost::HostileHost(PluginLibrary &library, FieldView &view)
-    : view(view)
-    , library(library)
+HostileHost::HostileHost(PluginLibrary &givenLibrary, FieldView &givenView)
+    : view(givenView)
+    , library(givenLibrary)
 {
     view.makeContext();
     auto *units = new DbGroupQmlUnitsConverter(QStringLiteral("QmlUnitsConverter"));

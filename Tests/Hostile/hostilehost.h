@@ -133,8 +133,8 @@ private:
 /// While it lives no trap springs.
 class Quiet {
 public:
-    explicit Quiet(HostileHost &host)
-        : host(host)
+    explicit Quiet(HostileHost &givenHost)
+        : host(givenHost)
     {
         ++host.quietness;
     }

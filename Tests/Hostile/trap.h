@@ -9,11 +9,11 @@ class Trap : public QObject {
 public:
     enum Kind { BeforeRead, AfterRead, Validator, Subscriber };
 
-    Trap(HostileHost &host, int accesses, int action)
-        : QObject(&host)
-        , host(host)
-        , accesses(accesses)
-        , action(action)
+    Trap(HostileHost &givenHost, int givenAccesses, int givenAction)
+        : QObject(&givenHost)
+        , host(givenHost)
+        , accesses(givenAccesses)
+        , action(givenAction)
     {
     }
 

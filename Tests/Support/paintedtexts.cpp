@@ -28,8 +28,8 @@ public:
 
 class TextDevice : public QPaintDevice {
 public:
-    explicit TextDevice(const QSize &size)
-        : size(size)
+    explicit TextDevice(const QSize &givenSize)
+        : size(givenSize)
     {
     }
 

@@ -7,22 +7,22 @@
 
 void TestBase::init()
 {
-    watch.reset();
-    watch.reset(new MessageWatch);
+    messageWatch.reset();
+    messageWatch.reset(new MessageWatch);
 }
 
 void TestBase::cleanup()
 {
-    QVERIFY2(!watch.isNull(), "init() does not call TestBase::init()");
-    const QStringList complaints = watch->complaints();
-    watch.reset();
+    QVERIFY2(!messageWatch.isNull(), "init() does not call TestBase::init()");
+    const QStringList complaints = messageWatch->complaints();
+    messageWatch.reset();
     if (!complaints.isEmpty())
         QFAIL(qPrintable(complaints.join(QLatin1Char('\n'))));
 }
 
 MessageWatch &TestBase::messages()
 {
-    return *watch;
+    return *messageWatch;
 }
 
 QString TestBase::realData(const QString &relativePath)

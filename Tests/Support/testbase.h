@@ -24,7 +24,7 @@ protected:
     static QString realData(const QString &relativePath);
 
 private:
-    QScopedPointer<MessageWatch> watch;
+    QScopedPointer<MessageWatch> messageWatch;
 };
 
 /// Skips the test function, with a message, where the real prescriptions are absent.

@@ -45,10 +45,10 @@ using Probe = RxMapGraphicsListProbe;
 /// A drawable that notes what is done with it.
 class NotingDrawable : public Object3D {
 public:
-    NotingDrawable(QString name, QStringList &notes, const RxMapGraphicsList &list)
-        : name(name)
-        , notes(notes)
-        , list(list)
+    NotingDrawable(QString givenName, QStringList &givenNotes, const RxMapGraphicsList &givenList)
+        : name(givenName)
+        , notes(givenNotes)
+        , list(givenList)
     {
     }
     ~NotingDrawable() override
@@ -78,8 +78,8 @@ private:
 /// A drawable whose initialisation ends the list.
 class EndingDrawable : public Object3D {
 public:
-    explicit EndingDrawable(RxMapGraphicsList *list)
-        : list(list)
+    explicit EndingDrawable(RxMapGraphicsList *givenList)
+        : list(givenList)
     {
     }
 

@@ -16,9 +16,9 @@ namespace {
 /// The holes that no outer ring has taken yet.
 class LiveHoles {
 public:
-    explicit LiveHoles(const QVector<RX_POLYGON *> &holes)
-        : holes(holes)
-        , isIndexed(holes.size(), false)
+    explicit LiveHoles(const QVector<RX_POLYGON *> &givenHoles)
+        : holes(givenHoles)
+        , isIndexed(givenHoles.size(), false)
         , index(boxes())
     {
     }

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-DataBrokerGroupPrivate::DataBrokerGroupPrivate(const QString &name)
-    : name(name)
+DataBrokerGroupPrivate::DataBrokerGroupPrivate(const QString &givenName)
+    : name(givenName)
 {
 }
 

@@ -9,8 +9,8 @@
 /// is constant within each.
 class Actuator {
 public:
-    explicit Actuator(const ActuatorSettings &settings)
-        : settings(settings)
+    explicit Actuator(const ActuatorSettings &givenSettings)
+        : settings(givenSettings)
     {
     }
 

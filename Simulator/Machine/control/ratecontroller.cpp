@@ -13,9 +13,9 @@
 #include <cmath>
 #include <utility>
 
-RateController::RateController(Machine *machine, QObject *parent)
+RateController::RateController(Machine *givenMachine, QObject *parent)
     : QObject(parent)
-    , machine(machine)
+    , machine(givenMachine)
 {
     addChannels();
     connect(machine, &Machine::productsChanged, this, &RateController::addChannels);

@@ -5,9 +5,9 @@
 #include <ogr_spatialref.h>
 
 struct FieldPlane::Transformation {
-    explicit Transformation(OGRCoordinateTransformation *toPlane)
-        : toPlane(toPlane)
-        , toEarth(toPlane != nullptr ? toPlane->GetInverse() : nullptr)
+    explicit Transformation(OGRCoordinateTransformation *givenToPlane)
+        : toPlane(givenToPlane)
+        , toEarth(givenToPlane != nullptr ? givenToPlane->GetInverse() : nullptr)
     {
     }
     ~Transformation()

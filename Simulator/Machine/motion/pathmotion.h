@@ -6,8 +6,8 @@
 /// Along a path, stopping at its end.
 class PathMotion : public Motion {
 public:
-    explicit PathMotion(DrivePath path)
-        : path(std::move(path))
+    explicit PathMotion(DrivePath givenPath)
+        : path(std::move(givenPath))
     {
     }
 

@@ -7,8 +7,8 @@
 /// North and south over the middle of an area, turning about at its border; speeds are reached at once.
 class ShuttleMotion : public Motion {
 public:
-    explicit ShuttleMotion(const QRectF &area)
-        : area(area)
+    explicit ShuttleMotion(const QRectF &givenArea)
+        : area(givenArea)
     {
     }
     /// The middle of the area's south border, looking north.

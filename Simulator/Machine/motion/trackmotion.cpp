@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-TrackMotion::TrackMotion(std::unique_ptr<TrackReader> read, double antennaOffset)
+TrackMotion::TrackMotion(std::unique_ptr<TrackReader> read, double givenAntennaOffset)
     : track(std::move(read))
-    , antennaOffset(antennaOffset)
+    , antennaOffset(givenAntennaOffset)
 {
     if (track->next(from))
         goesOn = track->next(to);

@@ -14,9 +14,9 @@ constexpr double fastest = 100.0;
 
 } // namespace
 
-TrackReader::TrackReader(const QString &path, const std::shared_ptr<const FieldPlane> &plane)
+TrackReader::TrackReader(const QString &path, const std::shared_ptr<const FieldPlane> &givenPlane)
     : file(path)
-    , plane(plane)
+    , plane(givenPlane)
 {
     problem = regularFileProblem(path);
     if (problem.isEmpty() && !file.open(QIODevice::ReadOnly))

@@ -10,12 +10,12 @@
 
 #include <cmath>
 
-Vehicle::Vehicle(DbGroupGpsSolution *solution, const SimulationClock *clock, QObject *parent)
+Vehicle::Vehicle(DbGroupGpsSolution *givenSolution, const SimulationClock *givenClock, QObject *parent)
     : QObject(parent)
-    , solution(solution)
-    , clock(clock)
+    , solution(givenSolution)
+    , clock(givenClock)
     , motion(std::make_unique<ShuttleMotion>(QRectF()))
-    , lastAdvance(clock->now())
+    , lastAdvance(givenClock->now())
 {
     publish();
 }

@@ -12,9 +12,9 @@ QByteArray text(double value)
 
 } // namespace
 
-CsvRecord::CsvRecord(const QString &path)
-    : RecordWriter(path)
-    , file(path)
+CsvRecord::CsvRecord(const QString &givenPath)
+    : RecordWriter(givenPath)
+    , file(givenPath)
 {
 }
 

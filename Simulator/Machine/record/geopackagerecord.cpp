@@ -53,8 +53,8 @@ OGRPolygon strip(const RecordEntry &entry)
 
 } // namespace
 
-GeoPackageRecord::GeoPackageRecord(const QString &path)
-    : RecordWriter(path)
+GeoPackageRecord::GeoPackageRecord(const QString &givenPath)
+    : RecordWriter(givenPath)
 {
 }
 

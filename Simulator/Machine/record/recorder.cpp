@@ -4,9 +4,9 @@
 #include "simulation.h"
 #include "vehicle.h"
 
-Recorder::Recorder(Simulation *simulation, QObject *parent)
+Recorder::Recorder(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
+    , simulation(givenSimulation)
 {
     connect(simulation, &Simulation::stepped, this, &Recorder::record);
 }

@@ -25,8 +25,8 @@ public:
     QString error() const { return problem; }
 
 protected:
-    explicit RecordWriter(const QString &path)
-        : path(path)
+    explicit RecordWriter(const QString &givenPath)
+        : path(givenPath)
     {
     }
 

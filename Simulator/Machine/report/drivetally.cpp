@@ -38,12 +38,12 @@ void DriveTally::ProductTally::add(double prescribed, double applied, double are
     errors.add(applied - prescribed, area);
 }
 
-DriveTally::DriveTally(Simulation *simulation, Ground ground, QObject *parent)
+DriveTally::DriveTally(Simulation *givenSimulation, Ground givenGround, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
-    , ground(ground)
-    , tallies(size_t(simulation->machine()->products().size()))
-    , firstTime(simulation->seconds())
+    , simulation(givenSimulation)
+    , ground(givenGround)
+    , tallies(size_t(givenSimulation->machine()->products().size()))
+    , firstTime(givenSimulation->seconds())
     , lastTime(firstTime)
 {
     connect(simulation, &Simulation::stepped, this, &DriveTally::count);

@@ -89,9 +89,9 @@ Result<DrivePath> FieldDrive::plan(const Simulation &simulation, const SwathOpti
     return SwathPlan::make(FieldArea(std::move(rings)), options);
 }
 
-FieldDrive::FieldDrive(Simulation *simulation, DrivePath path)
-    : simulation(simulation)
-    , path(std::move(path))
+FieldDrive::FieldDrive(Simulation *givenSimulation, DrivePath givenPath)
+    : simulation(givenSimulation)
+    , path(std::move(givenPath))
 {
     simulation->vehicle()->follow(this->path);
 }

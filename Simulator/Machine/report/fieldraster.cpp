@@ -32,13 +32,13 @@ std::vector<double> crossingsAt(double y, const QPolygonF &ring)
 
 } // namespace
 
-FieldRaster::FieldRaster(Simulation *simulation, const QRectF &area, QObject *parent)
+FieldRaster::FieldRaster(Simulation *givenSimulation, const QRectF &givenArea, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
-    , area(area)
-    , cell(std::max(leastCell, std::max(area.width(), area.height()) / mostCells))
-    , cells(std::clamp(int(std::ceil(area.width() / cell)), 1, mostCells),
-            std::clamp(int(std::ceil(area.height() / cell)), 1, mostCells))
+    , simulation(givenSimulation)
+    , area(givenArea)
+    , cell(std::max(leastCell, std::max(givenArea.width(), givenArea.height()) / mostCells))
+    , cells(std::clamp(int(std::ceil(givenArea.width() / cell)), 1, mostCells),
+            std::clamp(int(std::ceil(givenArea.height() / cell)), 1, mostCells))
 {
     const Grid empty(size_t(cells.width()) * size_t(cells.height()), std::numeric_limits<float>::quiet_NaN());
     prescribedRates.assign(size_t(simulation->machine()->products().size()), empty);

@@ -21,9 +21,9 @@ constexpr std::array<double, 6> paces{1.0, 2.0, 5.0, 10.0, 20.0, 50.0};
 
 } // namespace
 
-DriveControls::DriveControls(Simulation *simulation, QObject *parent)
+DriveControls::DriveControls(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
+    , simulation(givenSimulation)
     , nextSpeed(FieldDrive::usualSpeed)
 {
     connect(vehicle(), &Vehicle::moved, this, &DriveControls::changed);

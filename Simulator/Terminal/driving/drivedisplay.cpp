@@ -13,13 +13,13 @@
 #include "terminalwindow.h"
 #include "vehicle.h"
 
-DriveDisplay::DriveDisplay(TerminalWindow *window, Simulation *simulation, QObject *parent)
+DriveDisplay::DriveDisplay(TerminalWindow *givenWindow, Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
-    , window(window)
-    , simulation(simulation)
-    , controls(new DriveControls(simulation, this))
-    , history(simulation)
-    , ground(simulation)
+    , window(givenWindow)
+    , simulation(givenSimulation)
+    , controls(new DriveControls(givenSimulation, this))
+    , history(givenSimulation)
+    , ground(givenSimulation)
     , layer(&ground)
 {
     auto *panel = new DrivePanel(controls);

@@ -7,10 +7,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-DriveKeys::DriveKeys(DriveControls *controls, DrivePanel *panel, QObject *parent)
+DriveKeys::DriveKeys(DriveControls *givenControls, DrivePanel *givenPanel, QObject *parent)
     : QObject(parent)
-    , controls(controls)
-    , panel(panel)
+    , controls(givenControls)
+    , panel(givenPanel)
 {
     qApp->installEventFilter(this);
 }

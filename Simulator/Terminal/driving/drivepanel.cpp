@@ -17,9 +17,9 @@ constexpr int refreshTime = 100;
 
 } // namespace
 
-DrivePanel::DrivePanel(DriveControls *controls, QWidget *parent)
+DrivePanel::DrivePanel(DriveControls *givenControls, QWidget *parent)
     : QWidget(parent)
-    , controls(controls)
+    , controls(givenControls)
 {
     setObjectName(QStringLiteral("drivePanel"));
     addDriving();

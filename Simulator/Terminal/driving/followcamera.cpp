@@ -10,10 +10,10 @@ constexpr double mostMetresPerPixel = 0.25;
 
 } // namespace
 
-FollowCamera::FollowCamera(FieldView *view, const Vehicle *vehicle, QObject *parent)
+FollowCamera::FollowCamera(FieldView *givenView, const Vehicle *givenVehicle, QObject *parent)
     : QObject(parent)
-    , view(view)
-    , vehicle(vehicle)
+    , view(givenView)
+    , vehicle(givenVehicle)
 {
     frame.setSingleShot(true);
     frame.setInterval(frameTime);

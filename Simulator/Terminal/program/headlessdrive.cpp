@@ -25,8 +25,8 @@ namespace {
 /// Tells how far something is and how long it is likely to take, at every tenth of it.
 class ProgressLine {
 public:
-    explicit ProgressLine(const char *what)
-        : what(what)
+    explicit ProgressLine(const char *givenWhat)
+        : what(givenWhat)
     {
         passed.start();
     }

@@ -17,10 +17,10 @@ constexpr int holdPoll = 20;
 
 } // namespace
 
-ScriptControl::ScriptControl(const QString &name, QObject *gui, QObject *parent)
+ScriptControl::ScriptControl(const QString &givenName, QObject *givenGui, QObject *parent)
     : QObject(parent)
-    , name(name)
-    , gui(gui)
+    , name(givenName)
+    , gui(givenGui)
 {
 }
 

@@ -61,10 +61,10 @@ QString unknownOption(const QJSValue &options, const QStringList &known)
 
 } // namespace
 
-ScriptDriving::ScriptDriving(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent)
+ScriptDriving::ScriptDriving(Terminal *givenTerminal, const std::atomic<bool> *givenIsInterrupted, QObject *parent)
     : QObject(parent)
-    , terminal(terminal)
-    , isInterrupted(isInterrupted)
+    , terminal(givenTerminal)
+    , isInterrupted(givenIsInterrupted)
 {
 }
 

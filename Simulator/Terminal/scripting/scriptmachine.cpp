@@ -7,9 +7,9 @@
 
 #include <QJSEngine>
 
-ScriptMachine::ScriptMachine(Terminal *terminal, QObject *parent)
+ScriptMachine::ScriptMachine(Terminal *givenTerminal, QObject *parent)
     : QObject(parent)
-    , terminal(terminal)
+    , terminal(givenTerminal)
 {
 }
 

@@ -44,9 +44,9 @@ QString describe(const QJSValue &error, const QString &name)
 
 } // namespace
 
-ScriptRunner::ScriptRunner(Terminal *terminal, QObject *parent)
+ScriptRunner::ScriptRunner(Terminal *givenTerminal, QObject *parent)
     : QObject(parent)
-    , terminal(terminal)
+    , terminal(givenTerminal)
 {
 }
 

@@ -131,8 +131,8 @@ QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 
 } // namespace
 
-ScriptTerminal::ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent)
-    : ScriptDriving(terminal, isInterrupted, parent)
+ScriptTerminal::ScriptTerminal(Terminal *givenTerminal, const std::atomic<bool> *givenIsInterrupted, QObject *parent)
+    : ScriptDriving(givenTerminal, givenIsInterrupted, parent)
 {
 }
 

@@ -6,8 +6,8 @@
 #include <memory>
 #include <ogr_geometry.h>
 
-ShapeReader::ShapeReader(RawPrescription &map)
-    : map(map)
+ShapeReader::ShapeReader(RawPrescription &givenMap)
+    : map(givenMap)
 {
 }
 

@@ -9,8 +9,8 @@ namespace {
 /// Notes its end.
 class Module : public QObject, public BasePlugInProvides {
 public:
-    explicit Module(bool *isGone)
-        : isGone(isGone)
+    explicit Module(bool *givenIsGone)
+        : isGone(givenIsGone)
     {
     }
     ~Module() override { *isGone = true; }

@@ -164,7 +164,7 @@ void tst_NumericKeypad::showsTextAndLimits()
 
 void tst_NumericKeypad::leavesTheFieldFree_data()
 {
-    QTest::addColumn<QRect>("field");
+    QTest::addColumn<QRect>("fieldPlace");
     QTest::addColumn<QPoint>("place");
     const QRect fieldShape(0, 0, 176, 56);
     // A keypad of 400 × 420 on a display of 1280 × 800.
@@ -179,9 +179,9 @@ void tst_NumericKeypad::leavesTheFieldFree_data()
 
 void tst_NumericKeypad::leavesTheFieldFree()
 {
-    QFETCH(QRect, field);
+    QFETCH(QRect, fieldPlace);
     const QRect screen(0, 0, 1280, 800);
-    QTEST(NumericKeypad::placeBeside(field, QSize(400, 420), screen), "place");
+    QTEST(NumericKeypad::placeBeside(fieldPlace, QSize(400, 420), screen), "place");
 }
 
 void tst_NumericKeypad::staysWithinTheDisplay()

@@ -17,9 +17,9 @@ constexpr double fullTurn = 6.28318530717958648;
 /// A square raster of integers; outside of it everything is -1.
 class Raster {
 public:
-    explicit Raster(int side)
-        : side(side)
-        , values(static_cast<std::size_t>(side) * static_cast<std::size_t>(side), -1)
+    explicit Raster(int givenSide)
+        : side(givenSide)
+        , values(static_cast<std::size_t>(givenSide) * static_cast<std::size_t>(givenSide), -1)
     {
     }
 
@@ -117,9 +117,9 @@ Raster zonesOf(const Raster &classes, std::vector<std::pair<int, int>> &firstCel
 /// middle of the cells' edges, so that rings that meet at a corner do not touch.
 class BorderWalk {
 public:
-    BorderWalk(const Raster &zones, std::vector<bool> &walked)
-        : zones(zones)
-        , walked(walked)
+    BorderWalk(const Raster &givenZones, std::vector<bool> &givenWalked)
+        : zones(givenZones)
+        , walked(givenWalked)
     {
     }
 

@@ -27,10 +27,11 @@ namespace {
 /// Acts on the dialog that is under construction, once, before a property is read for the first time.
 class FirstRead {
 public:
-    FirstRead(DataBrokerGroup &group, const char *property, std::function<void(RxMapWidgetDialog01 &)> action)
-        : group(group)
-        , property(property)
-        , action(action)
+    FirstRead(DataBrokerGroup &givenGroup, const char *givenProperty,
+              std::function<void(RxMapWidgetDialog01 &)> givenAction)
+        : group(givenGroup)
+        , property(givenProperty)
+        , action(givenAction)
     {
         group.setBeforeReadHook(property, &FirstRead::called, this);
     }

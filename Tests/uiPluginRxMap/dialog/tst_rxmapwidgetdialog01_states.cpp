@@ -35,9 +35,9 @@ namespace {
 /// Runs something at every read of the standstill while it lives.
 class PollHook {
 public:
-    PollHook(GpsGroup &gps, std::function<void()> atPoll)
-        : gps(gps)
-        , atPoll(std::move(atPoll))
+    PollHook(GpsGroup &givenGps, std::function<void()> givenAtPoll)
+        : gps(givenGps)
+        , atPoll(std::move(givenAtPoll))
     {
         gps.setBeforeReadHook(
             "vehicleIsStopped", [](void *argument) { static_cast<PollHook *>(argument)->atPoll(); }, this);

@@ -76,8 +76,8 @@ void addTouchingRings()
 
 } // namespace
 
-RandomMap::RandomMap(const RandomKind &kind, unsigned int seed)
-    : kind(kind)
+RandomMap::RandomMap(const RandomKind &givenKind, unsigned int seed)
+    : kind(givenKind)
     , random(seed)
 {
     const int rings = 2 + below(14);

@@ -39,9 +39,9 @@ int decimalsOf(double step)
 
 } // namespace
 
-Chart::Chart(QXmlStreamWriter *page, const QRectF &range)
-    : page(page)
-    , range(range)
+Chart::Chart(QXmlStreamWriter *givenPage, const QRectF &givenRange)
+    : page(givenPage)
+    , range(givenRange)
 {
     page->writeStartElement(QStringLiteral("svg"));
     page->writeAttribute(QStringLiteral("viewBox"), QStringLiteral("0 0 %1 %2").arg(width).arg(height));

@@ -45,12 +45,12 @@ QString inPercent(double part, double whole)
 
 } // namespace
 
-ProductSection::ProductSection(const DrivenField &field, int number)
-    : field(field)
-    , number(number)
-    , product(field.simulation->machine()->products().at(number - 1))
-    , tally(field.tally->products().at(size_t(number - 1)))
-    , units(*field.simulation->machine(), number)
+ProductSection::ProductSection(const DrivenField &givenField, int givenNumber)
+    : field(givenField)
+    , number(givenNumber)
+    , product(givenField.simulation->machine()->products().at(givenNumber - 1))
+    , tally(givenField.tally->products().at(size_t(givenNumber - 1)))
+    , units(*givenField.simulation->machine(), givenNumber)
 {
     const Machine &machine = *field.simulation->machine();
     if (product.underVra)

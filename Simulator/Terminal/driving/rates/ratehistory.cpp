@@ -5,10 +5,10 @@
 #include "simulation.h"
 #include "vehicle.h"
 
-RateHistory::RateHistory(Simulation *simulation, QObject *parent)
+RateHistory::RateHistory(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
-    , all(size_t(simulation->machine()->products().size()))
+    , simulation(givenSimulation)
+    , all(size_t(givenSimulation->machine()->products().size()))
 {
     connect(simulation, &Simulation::stepped, this, &RateHistory::take);
     connect(simulation->machine(), &Machine::productsChanged, this,

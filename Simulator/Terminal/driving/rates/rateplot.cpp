@@ -20,10 +20,10 @@ constexpr int textPixels = 15;
 
 } // namespace
 
-RatePlot::RatePlot(const Machine *machine, const RateHistory *history, QWidget *parent)
+RatePlot::RatePlot(const Machine *givenMachine, const RateHistory *givenHistory, QWidget *parent)
     : QWidget(parent)
-    , machine(machine)
-    , history(history)
+    , machine(givenMachine)
+    , history(givenHistory)
 {
     setObjectName(QStringLiteral("ratePlot"));
     setAccessibleName(tr("Rates of the last half minute"));

@@ -43,9 +43,9 @@ void drawFitting(QPainter &painter, const QRect &cell, int flags, QFont font, co
 
 } // namespace
 
-RateTable::RateTable(const Simulation *simulation, QWidget *parent)
+RateTable::RateTable(const Simulation *givenSimulation, QWidget *parent)
     : QWidget(parent)
-    , simulation(simulation)
+    , simulation(givenSimulation)
 {
     setObjectName(QStringLiteral("rateTable"));
     setAccessibleName(tr("Rates now"));

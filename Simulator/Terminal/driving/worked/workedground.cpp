@@ -22,9 +22,9 @@ bool isSame(const Pose &a, const Pose &b)
 
 } // namespace
 
-WorkedGround::WorkedGround(Simulation *simulation, QObject *parent)
+WorkedGround::WorkedGround(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
-    , simulation(simulation)
+    , simulation(givenSimulation)
 {
     connect(simulation, &Simulation::stepped, this, &WorkedGround::take);
     connect(simulation->machine(), &Machine::mapsChanged, this, &WorkedGround::findLegends);

@@ -41,8 +41,8 @@ void addStrip(std::vector<Vertex> &vertices, const WorkedGround::Strip &strip, c
 
 } // namespace
 
-WorkedLayer::WorkedLayer(WorkedGround *ground)
-    : ground(ground)
+WorkedLayer::WorkedLayer(WorkedGround *givenGround)
+    : ground(givenGround)
 {
 }
 

@@ -15,10 +15,10 @@ const QSize viewSize(200, 150);
 /// Covers the left half of the view with its colour, if it has one, and notes when it is called.
 class Veil : public Object3D {
 public:
-    Veil(float order, const QColor &color, QStringList *journal)
-        : order(order)
-        , color(color)
-        , journal(journal)
+    Veil(float givenOrder, const QColor &givenColor, QStringList *givenJournal)
+        : order(givenOrder)
+        , color(givenColor)
+        , journal(givenJournal)
     {
     }
 

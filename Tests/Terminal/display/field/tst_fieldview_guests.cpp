@@ -43,9 +43,9 @@ struct Found {
 /// Notes the state that it is called with, and leaves another one behind.
 class RudeGuest : public Object3D {
 public:
-    RudeGuest(float order, QList<Found> *journal)
-        : order(order)
-        , journal(journal)
+    RudeGuest(float givenOrder, QList<Found> *givenJournal)
+        : order(givenOrder)
+        , journal(givenJournal)
     {
     }
 

@@ -31,8 +31,8 @@ public:
 /// Makes whatever it is asked for, except widgets that are called "absent".
 class SamplePlugin : public UiPluginBase {
 public:
-    explicit SamplePlugin(const QStringList &names)
-        : names(names)
+    explicit SamplePlugin(const QStringList &givenNames)
+        : names(givenNames)
     {
     }
 
