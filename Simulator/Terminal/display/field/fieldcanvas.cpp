@@ -66,3 +66,17 @@ QImage FieldCanvas::draw(FieldScene &scene, const Camera &camera, FieldScene::Ai
         return image;
     return image.convertToFormat(QImage::Format_RGB32);
 }
+
+void FieldCanvas::forgetFrame()
+{
+    if (!isValid() || !drawn)
+        return;
+    makeCurrent();
+    drawn->bind();
+    QOpenGLFunctions &gl = *context.functions();
+    gl.glFinish();
+    gl.glClear(GL_COLOR_BUFFER_BIT);
+    gl.glFinish();
+    drawn->release();
+    doneCurrent();
+}

@@ -28,6 +28,10 @@ public:
     /// One frame of `scene` as `camera` sees it, in `pixels`. Null without a context.
     QImage draw(FieldScene &scene, const Camera &camera, FieldScene::Aids aids, const QSize &pixels, Edges edges);
 
+    /// Begins and ends an empty frame: software OpenGL keeps all triangles of the last one until then, nearly 400 bytes
+    /// for each cell of a map.
+    void forgetFrame();
+
 private:
     Q_DISABLE_COPY(FieldCanvas)
 

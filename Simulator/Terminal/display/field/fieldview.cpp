@@ -186,6 +186,7 @@ void FieldView::paintEvent(QPaintEvent *)
     const QImage frame = canvas.draw(scene, eye, FieldScene::Aids::Shown, pixels.size(), FieldCanvas::Edges::Smooth);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(toPixels.inverted().mapRect(QRectF(pixels)), frame);
+    restingMemory.drawn();
 }
 
 bool FieldView::event(QEvent *event)

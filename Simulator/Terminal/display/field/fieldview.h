@@ -86,6 +86,7 @@ private:
 
     Camera eye;
     FieldCanvas canvas;
+    RestingMemory restingMemory{canvas};
     FieldScene scene;
     QRectF freeArea;
     QRectF framed;
@@ -95,5 +96,4 @@ private:
     bool isDragging = false;
     bool isPinching = false;
     QImage colors;
-    RestingMemory restingMemory{this};
 };

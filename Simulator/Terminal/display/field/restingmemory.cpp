@@ -1,8 +1,6 @@
 #include "restingmemory.h"
 
-#include <QOpenGLContext>
-#include <QOpenGLFunctions>
-#include <QOpenGLWidget>
+#include "fieldcanvas.h"
 
 #include <malloc.h>
 
@@ -16,8 +14,8 @@ constexpr int keptHeap = 1 << 26;
 
 } // namespace
 
-RestingMemory::RestingMemory(QOpenGLWidget *drawnView)
-    : view(drawnView)
+RestingMemory::RestingMemory(FieldCanvas &fieldCanvas)
+    : canvas(fieldCanvas)
 {
     // Left to itself the allocator comes to keep blocks of up to 32 MB, most of all those of a loading thread, which it
     // never gives back: 150 bytes for each cell of a map.
@@ -25,22 +23,12 @@ RestingMemory::RestingMemory(QOpenGLWidget *drawnView)
     mallopt(M_TRIM_THRESHOLD, keptHeap);
     rest.setSingleShot(true);
     rest.setInterval(restMs);
-    connect(view, &QOpenGLWidget::frameSwapped, &rest, qOverload<>(&QTimer::start));
     connect(&rest, &QTimer::timeout, this, &RestingMemory::giveBack);
 }
 
 void RestingMemory::giveBack()
 {
-    // Software OpenGL keeps all triangles of a frame until the next one begins, nearly 400 bytes for each cell of a
-    // map. This one is empty, and leaves the view's colours as they are.
-    if (view->isValid()) {
-        view->makeCurrent();
-        QOpenGLFunctions &gl = *QOpenGLContext::currentContext()->functions();
-        gl.glFinish();
-        gl.glClear(GL_STENCIL_BUFFER_BIT);
-        gl.glFinish();
-        view->doneCurrent();
-    }
+    canvas.forgetFrame();
     // What was freed lies between what is kept, where the allocator leaves it.
     malloc_trim(0);
 }

@@ -3,19 +3,22 @@
 #include <QObject>
 #include <QTimer>
 
-class QOpenGLWidget;
+class FieldCanvas;
 
-/// Gives back the memory that loading and drawing have left behind, once a view has not been drawn for a second.
+/// Gives back the memory that loading and drawing have left behind, once the field has not been drawn for a second.
 class RestingMemory : public QObject {
     Q_OBJECT
 
 public:
-    /// `view` is not owned and outlives this object.
-    explicit RestingMemory(QOpenGLWidget *view);
+    /// `canvas` is not owned and outlives this object.
+    explicit RestingMemory(FieldCanvas &canvas);
+
+    /// The field has been drawn.
+    void drawn() { rest.start(); }
 
 private:
     void giveBack();
 
-    QOpenGLWidget *view;
+    FieldCanvas &canvas;
     QTimer rest;
 };

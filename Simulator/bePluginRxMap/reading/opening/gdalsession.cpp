@@ -39,8 +39,8 @@ GdalSession::GdalSession()
     CPLSetThreadLocalConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
     // The other parser follows entities out of the file.
     CPLSetThreadLocalConfigOption("GML_PARSER", "EXPAT");
-    // A coordinate system that the projection database does not know is compared with all that it does know for up to two
-    // seconds otherwise; it is used as it is written either way.
+    // A coordinate system that the projection database does not know is compared with all that it does know for up to
+    // two seconds otherwise; it is used as it is written either way.
     CPLSetThreadLocalConfigOption("USE_OSR_FIND_MATCHES", "NO");
 }
 
