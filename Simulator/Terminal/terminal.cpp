@@ -146,14 +146,14 @@ Vehicle *Terminal::vehicle() const
 
 QStringList Terminal::loadPlugins(const QDir &folder, const QDir &images)
 {
-    const PluginScanner::Findings findings = PluginScanner::scan(folder);
-    for (const PluginScanner::Plugin &plugin : findings.plugins) {
+    const PluginScanner::Findings found = PluginScanner::scan(folder);
+    for (const PluginScanner::Plugin &plugin : found.plugins) {
         plugin.instance->init(&dataBroker, folder, images);
         plugins.append(plugin.instance);
     }
     installGraphicsLists();
     display->guidancePage()->setPlugins(plugins, &dataBroker);
-    return findings.complaints;
+    return found.complaints;
 }
 
 void Terminal::installGraphicsLists()
@@ -411,12 +411,24 @@ void Terminal::showVehicle()
     display->statusBar()->setSpeed(vehicle()->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
 }
 
+QRectF Terminal::fieldInUse() const
+{
+    const std::optional<QPointF> origin = planeOrigin();
+    QRectF used;
+    const QList<LoadReport> maps = prescriptions->maps();
+    for (const LoadReport &map : maps) {
+        if (map.origin == origin && !columnsOf(map.group).isEmpty())
+            used |= map.bounds;
+    }
+    return used;
+}
+
 void Terminal::frameField()
 {
-    const std::optional<QRectF> all = bounds();
-    if (!all || *all == framedBounds)
+    const QRectF used = fieldInUse();
+    if (used.isNull() || used == framedBounds)
         return;
-    framedBounds = *all;
-    vehicle()->setArea(*all);
-    display->fieldView()->frame(*all);
+    framedBounds = used;
+    vehicle()->setArea(used);
+    display->fieldView()->frame(used);
 }

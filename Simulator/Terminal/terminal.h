@@ -122,6 +122,8 @@ private:
     /// What the legend says of the map that feeds the active product.
     LegendPanel::Content legendOf(const ActiveMap &map) const;
     void showVehicle();
+    /// Where the maps lie that feed a product, metres of the plane of bounds(); null without any.
+    QRectF fieldInUse() const;
     void frameField();
 
     DataBroker dataBroker;

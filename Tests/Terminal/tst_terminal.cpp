@@ -1,4 +1,5 @@
 #include "fieldscene.h"
+#include "fieldview.h"
 #include "layerwriter.h"
 #include "legendpanel.h"
 #include "machine.h"
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void theNewestMapTakesAProductOverAndGivesItBack();
     void aMapThatIsLoadedAgainTakesTheDefaultRatesInUse();
     void farMapsAreFramedOneByOne();
+    void aMapThatFeedsNothingIsNotFramed();
     void aBadFileLeavesTheMapAsItWas();
     void moreColumnsThanProductsAreRefused();
     void theThreeUnitSystemsAgree();
@@ -95,6 +97,23 @@ void TestTerminal::farMapsAreFramedOneByOne()
     QCOMPARE(terminal().bounds().value(), report.bounds);
     QVERIFY(terminal().close(report.group));
     QCOMPARE(terminal().bounds().value(), near);
+}
+
+void TestTerminal::aMapThatFeedsNothingIsNotFramed()
+{
+    QTemporaryDir folder;
+    QFile source(TerminalHost::fixture("overlap.geojson"));
+    QFile neighbour(folder.filePath(QStringLiteral("neighbour.geojson")));
+    QVERIFY(source.open(QIODevice::ReadOnly) && neighbour.open(QIODevice::WriteOnly));
+    neighbour.write(source.readAll().replace("5500", "5509"));
+    neighbour.close();
+    QVERIFY(open("overlap.geojson", {"rate"}).isOk());
+    const LoadReport report = terminal().open({{neighbour.fileName()}, {QStringLiteral("rate")}}).first();
+    QVERIFY(report.isOk());
+    // Both lie on one plane, and only the second feeds the product.
+    QVERIFY(terminal().bounds()->height() > 9000.0);
+    QVERIFY(terminal().window()->fieldView()->camera().metresPerPixel(report.bounds.center()) < 1.0);
+    QVERIFY(terminal().mapColor(report.bounds.topLeft() + QPointF(1.0, 1.0)) != FieldScene::groundColor());
 }
 
 void TestTerminal::aBadFileLeavesTheMapAsItWas()
