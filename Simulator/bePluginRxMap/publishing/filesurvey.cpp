@@ -96,9 +96,20 @@ void FileSurvey::classify(const SourceColumn &column, double displayFactor, Surv
     told.shareWithoutRate = records > 0 ? static_cast<double>(without) / records : 0.0;
 }
 
+bool FileSurvey::hasRate(int record) const
+{
+    return std::any_of(source.columns.begin(), source.columns.end(), [record](const SourceColumn &column) {
+        return std::isfinite(column.values[static_cast<size_t>(record)]);
+    });
+}
+
 void FileSurvey::addPicture(SurveyReport &report) const
 {
-    const RecordPicture picture(polygons, SurveyReport::pictureSide);
+    // A field's border without a rate leaves what lies below it to be seen, on the map too.
+    std::vector<PlanePolygon> drawn = polygons;
+    std::stable_partition(drawn.begin(), drawn.end(),
+                          [this](const PlanePolygon &polygon) { return !hasRate(polygon.record); });
+    const RecordPicture picture(drawn, SurveyReport::pictureSide);
     report.polygons = static_cast<int>(polygons.size());
     report.pictureSize = picture.size();
     report.recordAtPixel = picture.records();

@@ -22,6 +22,7 @@ public:
 private:
     /// `displayFactor`: from the file's unit to the one in which the classes are round.
     SurveyedColumn describe(int place, double displayFactor = 1.0) const;
+    bool hasRate(int record) const; ///< In any column.
     void classify(const SourceColumn &column, double displayFactor, SurveyedColumn &told) const;
 
     const RawPrescription &source;

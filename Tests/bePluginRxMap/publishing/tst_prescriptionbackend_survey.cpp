@@ -21,6 +21,7 @@ private Q_SLOTS:
     void tellsAllColumnsOfALayerWhereNoLayerHasARate();
     void namesAColumnByItsNumberWhereItsNameStandsForAnother();
     void tellsWhichRecordIsSeenWhere();
+    void aBorderWithoutARateHidesNothing();
     void classesEachRecord();
     void refusesWhatALoadRefuses_data();
     void refusesWhatALoadRefuses();
@@ -247,6 +248,19 @@ void PrescriptionBackendSurveyTest::tellsWhichRecordIsSeenWhere()
     QCOMPARE(at(0.5, 0.5), 2);
     // The pond around the island.
     QCOMPARE(at(0.43, 0.5), -1);
+}
+
+void PrescriptionBackendSurveyTest::aBorderWithoutARateHidesNothing()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"Dose", 1.0}};
+    sketch.rows = {{squareText(10, 50, 0.001), {120.0}}, {squareText(10, 50, 0.001), {QVariant()}}};
+    const QString path = folder.filePath(QStringLiteral("border.shp"));
+    QVERIFY(sketch.write(path));
+    const SurveyReport report = survey(requestFor(path));
+    QCOMPARE(report.polygons, 2);
+    QVERIFY(!report.recordAtPixel.contains(1));
+    QVERIFY(report.recordAtPixel.contains(0));
 }
 
 void PrescriptionBackendSurveyTest::classesEachRecord()
