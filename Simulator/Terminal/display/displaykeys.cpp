@@ -14,9 +14,9 @@ constexpr double panStep = 80.0; // Pixels.
 
 } // namespace
 
-DisplayKeys::DisplayKeys(QWidget *display, FieldView *view)
-    : display(display)
-    , view(view)
+DisplayKeys::DisplayKeys(QWidget *givenDisplay, FieldView *givenView)
+    : display(givenDisplay)
+    , view(givenView)
 {
 }
 

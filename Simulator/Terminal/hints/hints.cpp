@@ -18,17 +18,18 @@ const QString optionsWidget = QStringLiteral("RxMapWidget");
 
 } // namespace
 
-Hints::Hints(TerminalWindow *window, const PrescriptionBackend *backend, QSettings *settings, QObject *parent)
+Hints::Hints(TerminalWindow *givenWindow, const PrescriptionBackend *givenBackend, QSettings *givenSettings,
+             QObject *parent)
     : QObject(parent)
-    , window(window)
-    , backend(backend)
-    , settings(settings)
-    , card(new HintCard(window))
+    , window(givenWindow)
+    , backend(givenBackend)
+    , settings(givenSettings)
+    , card(new HintCard(givenWindow))
 {
     connect(window->guidancePage(), &GuidancePage::touchedShortly, this, &Hints::tellOfLongTouch);
     connect(card, &HintCard::closed, this, [this] {
         if (std::exchange(isGreeting, false))
-            this->settings->setValue(greetedKey, true);
+            settings->setValue(greetedKey, true);
     });
 }
 

@@ -174,7 +174,7 @@ QSize firstSize(const CommandLine &line, double scale)
         return (scale * QSizeF(TerminalWindow::displaySize)).toSize();
     // What a task shows is as large everywhere.
     return line.isInteractive() ? ScreenMemory().sizeOn(QGuiApplication::primaryScreen()->availableSize())
-                               : TerminalWindow::displaySize;
+                                : TerminalWindow::displaySize;
 }
 
 QString runTasks(Terminal &terminal, const CommandLine &line)

@@ -16,9 +16,9 @@ namespace {
 /// Draws everything but texts onto a picture; of a text it notes what lies under it at that moment.
 class GroundEngine : public QPaintEngine {
 public:
-    explicit GroundEngine(QImage *picture)
+    explicit GroundEngine(QImage *givenPicture)
         : QPaintEngine(AllFeatures)
-        , picture(picture)
+        , picture(givenPicture)
     {
     }
 
@@ -26,22 +26,22 @@ public:
     bool end() override { return painter.end(); }
     Type type() const override { return User; }
 
-    void updateState(const QPaintEngineState &state) override
+    void updateState(const QPaintEngineState &next) override
     {
-        painter.setTransform(state.transform());
-        painter.setPen(state.pen());
-        painter.setBrush(state.brush());
-        painter.setBrushOrigin(state.brushOrigin());
-        painter.setOpacity(state.opacity());
+        painter.setTransform(next.transform());
+        painter.setPen(next.pen());
+        painter.setBrush(next.brush());
+        painter.setBrushOrigin(next.brushOrigin());
+        painter.setOpacity(next.opacity());
         painter.setRenderHints(painter.renderHints(), false);
-        painter.setRenderHints(state.renderHints());
-        painter.setCompositionMode(state.compositionMode());
-        if ((state.state() & DirtyClipEnabled) != 0)
-            painter.setClipping(state.isClipEnabled());
-        if ((state.state() & DirtyClipRegion) != 0)
-            painter.setClipRegion(state.clipRegion(), state.clipOperation());
-        if ((state.state() & DirtyClipPath) != 0)
-            painter.setClipPath(state.clipPath(), state.clipOperation());
+        painter.setRenderHints(next.renderHints());
+        painter.setCompositionMode(next.compositionMode());
+        if ((next.state() & DirtyClipEnabled) != 0)
+            painter.setClipping(next.isClipEnabled());
+        if ((next.state() & DirtyClipRegion) != 0)
+            painter.setClipRegion(next.clipRegion(), next.clipOperation());
+        if ((next.state() & DirtyClipPath) != 0)
+            painter.setClipPath(next.clipPath(), next.clipOperation());
     }
 
     void drawPath(const QPainterPath &path) override { painter.drawPath(path); }
