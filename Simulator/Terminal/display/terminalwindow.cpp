@@ -7,6 +7,7 @@
 #include "productselector.h"
 #include "statusbar.h"
 #include "symbols.h"
+#include "theme.h"
 #include "touchbutton.h"
 #include "windowstack.h"
 
@@ -222,8 +223,27 @@ void TerminalWindow::dropEvent(QDropEvent *event)
     Q_EMIT dropped(files, others);
 }
 
+void TerminalWindow::markKeyboard(const QEvent &event)
+{
+    bool isKey = false;
+    if (event.type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent &>(event).key();
+        isKey = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    }
+    const bool isTouch = event.type() == QEvent::MouseButtonPress || event.type() == QEvent::TouchBegin;
+    if (!isKey && !isTouch)
+        return;
+    if (!Theme::showFocus(isKey))
+        return;
+    mapOverlay->update();
+    page->viewport()->update();
+    if (QWidget *control = QApplication::focusWidget())
+        control->update();
+}
+
 bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
 {
+    markKeyboard(*event);
     // A dialog places itself on the display, which on a desk is this window, wherever it stands.
     auto *dialog = event->type() == QEvent::Show && !event->spontaneous() ? qobject_cast<QDialog *>(watched) : nullptr;
     if (dialog != nullptr && dialog->isWindow() && !dialog->property(placedProperty).toBool()) {

@@ -65,6 +65,8 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Marks what has the keyboard from a tabulator key on, until a finger is used.
+    void markKeyboard(const QEvent &event);
 
 private:
     void addZoomButtons();

@@ -334,10 +334,12 @@ void OpenWindow::keyPressEvent(QKeyEvent *event)
         return;
     case Qt::Key_Up:
     case Qt::Key_Left:
+        Theme::showFocus(true);
         focusNextPrevChild(false);
         return;
     case Qt::Key_Down:
     case Qt::Key_Right:
+        Theme::showFocus(true);
         focusNextPrevChild(true);
         return;
     default:

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void theTabulatorReachesEveryControl();
     void whatHasTheKeyboardIsSeen_data();
     void whatHasTheKeyboardIsSeen();
+    void aFingerHasNoUseForTheMark();
     void enterTouchesAButton();
     void arrowsMoveTheMap_data();
     void arrowsMoveTheMap();
@@ -144,6 +145,20 @@ void TestKeyboard::whatHasTheKeyboardIsSeen()
         QCoreApplication::processEvents();
         QVERIFY2(with != painter->grab().toImage(), qPrintable(control->objectName()));
     }
+}
+
+void TestKeyboard::aFingerHasNoUseForTheMark()
+{
+    FieldView *view = terminal().window()->fieldView();
+    QWidget *overlay = terminal().window()->overlay();
+    view->setFocus(Qt::ActiveWindowFocusReason);
+    QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(2, 2));
+    const QImage touched = overlay->grab().toImage();
+    press(Qt::Key_Tab);
+    view->setFocus(Qt::TabFocusReason);
+    QVERIFY(overlay->grab().toImage() != touched);
+    QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(overlay->grab().toImage(), touched);
 }
 
 void TestKeyboard::enterTouchesAButton()

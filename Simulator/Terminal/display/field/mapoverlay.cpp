@@ -178,12 +178,12 @@ void MapOverlay::drawScaleBar(QPainter &painter) const
     most = isLong ? most / feetPerMile : most;
     const double length = roundLength(most);
     const double pixels = length * (isLong ? feetPerMile : 1.0) / perPixel;
-    const auto text = [](double number) { return ShownNumber::inLanguage(QString::number(number)); };
+    const auto shown = [](double number) { return ShownNumber::inLanguage(QString::number(number)); };
     QString label;
     if (isMetric)
-        label = length >= 1000.0 ? tr("%1 km").arg(text(length / 1000.0)) : tr("%1 m").arg(text(length));
+        label = length >= 1000.0 ? tr("%1 km").arg(shown(length / 1000.0)) : tr("%1 m").arg(shown(length));
     else
-        label = (isLong ? tr("%1 mi") : tr("%1 ft")).arg(text(length));
+        label = (isLong ? tr("%1 mi") : tr("%1 ft")).arg(shown(length));
 
     const QPointF start(freeArea.left() + 22.0, freeArea.bottom() - 24.0);
     Theme::drawPanel(painter, QRectF(start.x() - 14.0, start.y() - 34.0, pixels + 28.0, 48.0), Theme::panel());
@@ -218,7 +218,7 @@ void MapOverlay::drawAim(QPainter &painter) const
 {
     constexpr double reach = 26.0;
     constexpr double gap = 8.0;
-    if (!isAimed)
+    if (!isAimed || !Theme::isFocusShown())
         return;
     const QPointF middle = freeArea.center();
     for (const QPen &pen : {QPen(Theme::textOnAccent(), 7.0), QPen(Theme::accent(), 3.0)}) {

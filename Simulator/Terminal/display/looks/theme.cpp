@@ -2,9 +2,13 @@
 
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 constexpr double radius = 10.0;
+
+bool focusShown = false;
 
 Theme::Colors dayColors()
 {
@@ -166,8 +170,20 @@ void Theme::drawPanel(QPainter &painter, const QRectF &area, const QColor &color
     painter.drawRoundedRect(area, radius, radius);
 }
 
+bool Theme::showFocus(bool isShown)
+{
+    return std::exchange(focusShown, isShown) != isShown;
+}
+
+bool Theme::isFocusShown()
+{
+    return focusShown;
+}
+
 void Theme::drawFocus(QPainter &painter, const QRectF &area, bool onAccent)
 {
+    if (!focusShown)
+        return;
     constexpr double width = 3.0;
     const double half = width / 2.0;
     painter.setRenderHint(QPainter::Antialiasing);

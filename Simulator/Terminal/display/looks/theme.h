@@ -69,6 +69,9 @@ QFont font(int pixels, bool bold = false);
 
 /// Fills a rounded panel.
 void drawPanel(QPainter &painter, const QRectF &area, const QColor &color);
+/// Whether what has the keyboard is marked: a finger has no use for that. False where it was so already.
+bool showFocus(bool isShown);
+bool isFocusShown();
 /// Frames what has the keyboard.
 void drawFocus(QPainter &painter, const QRectF &area, bool onAccent);
 

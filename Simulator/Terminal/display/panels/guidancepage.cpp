@@ -33,6 +33,8 @@ GuidancePage::GuidancePage(QWidget *parent)
     viewport()->setAutoFillBackground(false);
     setRenderHint(QPainter::SmoothPixmapTransform);
     setFocusPolicy(Qt::TabFocus);
+    // A finger leaves the keyboard where it is.
+    viewport()->setFocusPolicy(Qt::NoFocus);
     setAccessibleName(tr("Guidance page"));
 }
 
