@@ -421,7 +421,7 @@ void TestTerminalSimulator::aReportIsAPageInTheChosenLanguageAndUnits()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray page = file.readAll();
     QVERIFY(page.startsWith("<!DOCTYPE html>") && page.endsWith("</html>\n"));
-    for (const char *text : {"Bericht einer Fahrt", "Saatgut (k/ac)", "Ausgebracht", "three-zones.geojson"})
+    for (const char *text : {"Bericht einer Fahrt", "Seed (k/ac)", "Ausgebracht", "three-zones.geojson"})
         QVERIFY2(page.contains(text), text);
 }
 

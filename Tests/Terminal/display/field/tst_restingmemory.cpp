@@ -46,7 +46,7 @@ private Q_SLOTS:
 
 void TestRestingMemory::givesBackWhatWasFreedOnceTheViewIsAtRest()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef RXMAP_SANITIZED
     QSKIP("the sanitizer's allocator keeps what is freed");
 #endif
     const double before = residentMegabytes();
