@@ -38,7 +38,7 @@ void declareOptions(QCommandLineParser &parser)
     parser.addPositionalArgument(
         QStringLiteral("PRESCRIPTION"),
         QStringLiteral("prescription to open: Shapefile, GeoPackage, GeoJSON, KML, FlatGeobuf, "
-                       "GML or task data"),
+                       "GML or task data, also in a .zip"),
         QStringLiteral("[PRESCRIPTION...]"));
     parser.addOptions({
         {columnsOption, QStringLiteral("rate columns for products 1, 2, ... (default: the most likely ones)"),
@@ -69,8 +69,9 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("LON,LAT")},
         {screenshotOption, QStringLiteral("draw, save the window as PNG and exit"), QStringLiteral("FILE")},
         {scriptOption, QStringLiteral("run a script and exit with its result"), QStringLiteral("FILE.js")},
-        {driveOption, QStringLiteral("drive the whole field without a display, write what came of it and exit"),
-         QStringLiteral("REPORT.json")},
+        {driveOption,
+         QStringLiteral("drive the whole field without a display, write what came of it (.json or .html) and exit"),
+         QStringLiteral("REPORT")},
         {recordOption, QStringLiteral("with --drive: record every step (.csv or .gpkg)"), QStringLiteral("FILE")},
         {tuneOption, QStringLiteral("with --drive: look for the look-ahead that puts changes nearest to the borders")},
         {checkOption,
