@@ -1,6 +1,7 @@
 #include "paintedtexts.h"
 
-#include <QPaintDevice>
+#include "enginedevice.h"
+
 #include <QPaintEngine>
 #include <QWidget>
 
@@ -26,47 +27,11 @@ public:
     QStringList texts;
 };
 
-class TextDevice : public QPaintDevice {
-public:
-    explicit TextDevice(const QSize &givenSize)
-        : size(givenSize)
-    {
-    }
-
-    QPaintEngine *paintEngine() const override { return &engine; }
-    const QStringList &texts() const { return engine.texts; }
-
-protected:
-    int metric(PaintDeviceMetric wanted) const override
-    {
-        constexpr int dotsPerInch = 96;
-        switch (wanted) {
-        case PdmWidth:
-            return size.width();
-        case PdmHeight:
-            return size.height();
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return dotsPerInch;
-        case PdmDevicePixelRatio:
-            return 1;
-        default:
-            return QPaintDevice::metric(wanted);
-        }
-    }
-
-private:
-    QSize size;
-    mutable TextEngine engine;
-};
-
 } // namespace
 
 QStringList paintedTexts(QWidget &widget)
 {
-    TextDevice device(widget.size());
+    EngineDevice<TextEngine> device(widget.size());
     widget.render(&device, QPoint(), QRegion(), QWidget::DrawChildren);
-    return device.texts();
+    return device.noted().texts;
 }

@@ -1,9 +1,9 @@
 #include "paintedcontrasts.h"
 
 #include "contrast.h"
+#include "enginedevice.h"
 
 #include <QImage>
-#include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -87,43 +87,6 @@ private:
     QPainter painter;
 };
 
-class GroundDevice : public QPaintDevice {
-public:
-    explicit GroundDevice(QImage *picture)
-        : size(picture->size())
-        , engine(picture)
-    {
-    }
-
-    QPaintEngine *paintEngine() const override { return &engine; }
-    QList<PaintedText> texts() const { return engine.texts; }
-
-protected:
-    int metric(PaintDeviceMetric wanted) const override
-    {
-        constexpr int dotsPerInch = 96;
-        switch (wanted) {
-        case PdmWidth:
-            return size.width();
-        case PdmHeight:
-            return size.height();
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return dotsPerInch;
-        case PdmDevicePixelRatio:
-            return 1;
-        default:
-            return QPaintDevice::metric(wanted);
-        }
-    }
-
-private:
-    QSize size;
-    mutable GroundEngine engine;
-};
-
 } // namespace
 
 double PaintedText::contrast() const
@@ -135,7 +98,7 @@ QList<PaintedText> paintedContrasts(QWidget &widget, const QColor &backdrop)
 {
     QImage picture(widget.size(), QImage::Format_RGB32);
     picture.fill(backdrop);
-    GroundDevice device(&picture);
+    EngineDevice<GroundEngine> device(picture.size(), &picture);
     widget.render(&device, QPoint(), QRegion(), QWidget::DrawChildren);
-    return device.texts();
+    return device.noted().texts;
 }
