@@ -5,8 +5,7 @@
 #include <utility>
 
 /// Has an engine of the test's own note what a widget paints, as on a display of so many `pixels` at 96 dots per inch.
-template <class Engine>
-class EngineDevice : public QPaintDevice {
+template <class Engine> class EngineDevice : public QPaintDevice {
 public:
     template <class... Arguments>
     explicit EngineDevice(const QSize &pixels, Arguments &&...ofEngine)
