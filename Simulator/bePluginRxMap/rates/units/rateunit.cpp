@@ -33,13 +33,21 @@ bool isSubstance(const QString &word)
     return words.contains(word) || isNutrient(word);
 }
 
+/// Whether the two words at `place` are no unit that was taken apart but a product and its unit: "C_l_ha" is of a
+/// product C, as "A_l_ha" is of a product A.
+template <typename Unit> bool isNamedByLetter(const QHash<QString, const Unit *> &units, const Words &words, int place)
+{
+    const QString unit = words.value(place + 1);
+    return words.at(place).size() == 1 && unit.size() == 1 && units.contains(unit);
+}
+
 /// Takes the unit that begins at `place`, of as many words as possible; null, and nothing taken, when none does.
 template <typename Unit> const Unit *take(const QHash<QString, const Unit *> &units, const Words &words, int &place)
 {
     constexpr int mostWords = 3;
     for (int count = std::min(mostWords, words.size() - place); count > 0; --count) {
         const auto found = units.constFind(words.mid(place, count).join(QString()));
-        if (found == units.constEnd())
+        if (found == units.constEnd() || (count == 2 && isNamedByLetter(units, words, place)))
             continue;
         place += count;
         return *found;

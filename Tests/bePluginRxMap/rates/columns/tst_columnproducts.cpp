@@ -60,6 +60,8 @@ void ColumnProductsTest::columnsMakeProducts_data()
                         const Names &products) { QTest::newRow(tag) << columns << named << units << products; };
     row("by their units", {"UREA_KG_HA", "GPA", "Mais_seeds_m2", "AREA_HA"}, {}, {},
         {"1:Urea, weight", "2:GPA, volume", "3:Mais, count"});
+    row("letters", {"A_kg_ha", "B_l_ha", "C_l_ha", "M_l_ha"}, {}, {},
+        {"1:A, weight", "2:B, volume", "3:C, volume", "4:M, volume"});
     row("more than a machine usually has", {"A_kg_ha", "B_kg_ha", "Lime_l_ha", "D_lb_ac"}, {}, {},
         {"1:A, weight", "2:B, weight", "3:Lime, volume", "4:D, weight"});
     row("seed by weight", {"SEED_kg_ha"}, {}, {}, {"1:Seed, weight"});

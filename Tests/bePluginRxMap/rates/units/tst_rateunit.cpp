@@ -86,6 +86,15 @@ void RateUnitTest::findsUnitsInNames_data()
     row("RateMlHa", "mL/ha");
     row("Dose_mL_ha", "mL/ha");
     row("N_galperac", "gal/ac");
+    // A letter before a unit of one letter is a product's name.
+    for (const char *name : {"C_l_ha", "c_l_ha", "C L/ha", "M_l_ha", "K_l_ha"})
+        row(name, "L/ha");
+    for (const char *name : {"cl_ha", "cL_ha", "Rate_cL_ha"})
+        row(name, "cL/ha");
+    row("k_g_ha", "g/ha");
+    row("P_t_ac", "t/ac");
+    row("k_seeds_ac", "1000/ac");
+    row("kg_m_2", "kg/m2");
     row("Rate (lb/ac)", "lb/ac");
     row("lbs/1000ft2", "lb/1000 ft2");
     // Cut at ten characters.
