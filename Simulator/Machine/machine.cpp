@@ -17,8 +17,6 @@
 #include "Framework/productlineitem.h"
 #include "bePluginRxMap/rxmaploader.h"
 
-#include <QMap>
-
 namespace {
 
 QString numbered(const char *prefix, int number)
@@ -214,6 +212,17 @@ void Machine::describeProduct(int number)
     groups.node->internalSetIsCarrier(product.isCarrier);
     groups.bin->internalSetCompositionShortName(product.shortName);
     groups.bin->internalSetBinNumber(product.bin);
+}
+
+QMap<int, QString> Machine::columnsOf(const QString &group) const
+{
+    QMap<int, QString> columns;
+    for (int number = 1; number <= allProducts.size(); ++number) {
+        const ActiveMap map = ActiveMap::find(*broker, productGroupName(number));
+        if (map.isValid() && map.groupName == group)
+            columns.insert(number, map.columnName);
+    }
+    return columns;
 }
 
 bool Machine::setActiveProduct(int number)

@@ -5,6 +5,7 @@
 #include "unitsystem.h"
 
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -45,6 +46,9 @@ public:
     static QString productGroupName(int number);
     static QString aamGroupName(int number);
     static QString binGroupName(int number);
+
+    /// The columns of a map that feed products now, by product number.
+    QMap<int, QString> columnsOf(const QString &group) const;
 
     int activeProduct() const { return active; }
     /// False, and nothing changes, when there is no such product.

@@ -31,6 +31,7 @@ FileOpening::FileOpening(Terminal *owner)
     connect(display->statusBar(), &StatusBar::touched, this, &FileOpening::giveWay);
     connect(display, &TerminalWindow::dropped, this, &FileOpening::take);
     connect(openWindow, &OpenWindow::shownChanged, button, &TouchButton::setChecked);
+    connect(openWindow, &OpenWindow::closeWanted, terminal, &Terminal::close);
     // Later: the button that asks for it is still on the stack, and loading runs an event loop of its own.
     connect(openWindow, &OpenWindow::wanted, this, [this](const OpenRequest &request) {
         QMetaObject::invokeMethod(
@@ -43,7 +44,7 @@ void FileOpening::toggle()
     // A dialog of a plug-in keeps the terminal as it is.
     const bool mayOpen = QApplication::activeModalWidget() == nullptr;
     if (mayOpen && openWindow->isVisible())
-        openWindow->leave();
+        openWindow->goBack();
     else if (mayOpen)
         openWindow->showFiles();
     button->setChecked(openWindow->isVisible());
@@ -67,12 +68,23 @@ void FileOpening::take(const QStringList &files, const QStringList &others)
         openWindow->preview(files);
 }
 
+void FileOpening::closeUnused()
+{
+    const QList<LoadReport> maps = terminal->backend()->maps();
+    for (const LoadReport &map : maps) {
+        if (terminal->columnsOf(map.group).isEmpty())
+            terminal->close(map.group);
+    }
+}
+
 void FileOpening::load(const OpenRequest &request)
 {
     const QPointer<FileOpening> self = this;
     const LoadReport report = terminal->open(request).last();
     if (!self)
         return;
+    if (report.isOk())
+        closeUnused();
     int first = 0;
     for (const RateSource &source : report.sources)
         first = first == 0 ? source.product : std::min(first, source.product);

@@ -29,6 +29,8 @@ private:
     void giveWay(QAbstractButton *other);
     void take(const QStringList &files, const QStringList &others);
     void load(const OpenRequest &request);
+    /// Closes the maps whose products a newer one has taken over.
+    void closeUnused();
 
     Terminal *terminal;
     QSettings settings;

@@ -73,7 +73,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , driveRecorder(new Recorder(simulated.data()))
     , display(new TerminalWindow(setup.products))
     , opening(new FileOpening(this))
-    , findings(new FindingsDisplay(prescriptions.data(), simulated->vehicle(), display.data()))
+    , findings(new FindingsDisplay(machineModel.data(), simulated->vehicle(), display.data()))
     , viewPace(display->fieldView())
 {
     initialiseResources();
@@ -127,7 +127,9 @@ void Terminal::connectDisplay()
             machineModel->setActiveProduct(fed.first());
     });
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
-        display->statusBar()->setProgress(QFileInfo(path).fileName(), fraction);
+        // The open window has a bar of its own for what it waits for.
+        const bool isShownThere = opening->window()->isVisible() && opening->window()->isBusy();
+        display->statusBar()->setProgress(isShownThere ? QString() : QFileInfo(path).fileName(), fraction);
     });
     const auto endProgress = [this] { display->statusBar()->setProgress(QString(), 0.0); };
     connect(prescriptions.data(), &PrescriptionBackend::finished, this, endProgress);
@@ -239,13 +241,7 @@ QString Terminal::activeColumn() const
 
 QMap<int, QString> Terminal::columnsOf(const QString &group) const
 {
-    QMap<int, QString> columns;
-    for (int number = 1; number <= machineModel->products().size(); ++number) {
-        const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
-        if (map.isValid() && map.groupName == group)
-            columns.insert(number, map.columnName);
-    }
-    return columns;
+    return machineModel->columnsOf(group);
 }
 
 TouchAnswer Terminal::answerAt(const QPointF &field) const
@@ -333,8 +329,10 @@ void Terminal::followMaps()
 {
     QStringList names;
     const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps)
-        names.append(QFileInfo(map.path).fileName());
+    for (const LoadReport &map : maps) {
+        if (!columnsOf(map.group).isEmpty())
+            names.append(QFileInfo(map.path).fileName());
+    }
     display->statusBar()->setMaps(names);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     display->guidancePage()->rebuild();

@@ -1,8 +1,11 @@
 #include "machine.h"
 #include "openwindow.h"
+#include "paintedtexts.h"
 #include "simulation.h"
+#include "statusbar.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
+#include "theme.h"
 #include "wheelbar.h"
 
 #include <QAbstractButton>
@@ -14,6 +17,11 @@ class TestFileOpening : public TerminalTest {
 
 private Q_SLOTS:
     void theFolderButtonShowsAndHidesTheWindow();
+    void theFolderButtonGoesBackAStep();
+    void openFilesAreListedAndClosedByTouch();
+    void aFileWhoseProductsWereTakenOverIsClosed();
+    void aFileOpenedAgainReplacesItself();
+    void oneBarShowsTheProgress();
     void theFolderButtonDoesNothingWhileADialogIsOpen();
     void aDroppedFileIsOpenedThroughTheWindow();
     void theFirstFileBringsItsProducts();
@@ -23,6 +31,15 @@ private Q_SLOTS:
     void keysDoNotDriveUnderTheWindow();
 
 private:
+    /// As the operator does who changes nothing.
+    void openByTouch(const char *fixture)
+    {
+        Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QLatin1String(fixture))}, {});
+        QTRY_VERIFY(button("openAccept") != nullptr);
+        button("openAccept")->click();
+        QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    }
+    QString statusBar() { return paintedTexts(*terminal().window()->statusBar()).join(QLatin1Char('|')); }
     QAbstractButton *button(const char *name)
     {
         const QList<QAbstractButton *> all = terminal().window()->findChildren<QAbstractButton *>(QLatin1String(name));
@@ -43,6 +60,89 @@ void TestFileOpening::theFolderButtonShowsAndHidesTheWindow()
     QTest::mouseClick(button("openButton"), Qt::LeftButton);
     QTest::mouseClick(button("openButton"), Qt::LeftButton);
     QVERIFY(!window->isVisible() && !button("openButton")->isChecked());
+}
+
+void TestFileOpening::theFolderButtonGoesBackAStep()
+{
+    openByTouch("three-zones.geojson");
+    Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("columnRow0Product")->click();
+    for (const char *seen : {"openAccept", "fileRow0"}) {
+        button("openButton")->click();
+        QVERIFY2(button(seen) != nullptr, seen);
+        QVERIFY(button("openButton")->isChecked());
+    }
+    button("openButton")->click();
+    QVERIFY(!terminal().openWindow()->isVisible() && !button("openButton")->isChecked());
+}
+
+void TestFileOpening::openFilesAreListedAndClosedByTouch()
+{
+    openByTouch("three-zones.geojson");
+    openByTouch("overlap.geojson");
+    QTRY_VERIFY(button("findingsButton") != nullptr);
+    QVERIFY2(statusBar().contains(QStringLiteral("three-zones.geojson  \u00b7  overlap.geojson")),
+             qPrintable(statusBar()));
+    terminal().machine()->setActiveProduct(1);
+    const QPointF inTheZones(-100, 0);
+    button("openButton")->click();
+    QVERIFY(button("fileClose0") == nullptr);
+    button("placeOpen")->click();
+    QCOMPARE(button("fileRow0")->text(), QStringLiteral("three-zones.geojson"));
+    QVERIFY(paintedTexts(*button("fileRow0")).contains(QStringLiteral("feeds Fertiliser, Herbicide")));
+    QVERIFY(paintedTexts(*button("fileRow1")).contains(QStringLiteral("feeds Seed")));
+    QVERIFY(button("fileClose1")->height() >= Theme::touchTarget);
+    button("fileClose1")->click();
+    // The product goes back to the file that had it, on the map, too, and the findings go.
+    QVERIFY(paintedTexts(*button("fileRow0")).contains(QStringLiteral("feeds Seed, Fertiliser, Herbicide")));
+    QVERIFY(button("fileRow1") == nullptr && button("findingsButton") == nullptr);
+    QVERIFY(!statusBar().contains(QLatin1String("overlap")));
+    QVERIFY(!terminal().touch(inTheZones).isEmpty());
+    button("fileClose0")->click();
+    QVERIFY(button("fileRow0") == nullptr);
+    QVERIFY(terminal().backend()->maps().isEmpty());
+    QCOMPARE(terminal().touch(inTheZones), QString());
+}
+
+void TestFileOpening::aFileWhoseProductsWereTakenOverIsClosed()
+{
+    openByTouch("overlap.geojson");
+    QTRY_VERIFY(button("findingsButton") != nullptr);
+    openByTouch("three-zones.geojson");
+    QCOMPARE(terminal().backend()->maps().size(), 1);
+    QVERIFY(!statusBar().contains(QLatin1String("overlap")));
+    QVERIFY(button("findingsButton") == nullptr);
+}
+
+void TestFileOpening::aFileOpenedAgainReplacesItself()
+{
+    openByTouch("three-zones.geojson");
+    button("openButton")->click();
+    button("placeOpen")->click();
+    button("fileRow0")->click();
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("columnRow0Product")->click();
+    button("choice0")->click();
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    const QList<LoadReport> maps = terminal().backend()->maps();
+    QCOMPARE(maps.size(), 1);
+    QCOMPARE(terminal().columnsOf(maps.first().group).keys(), QList<int>({2, 3}));
+}
+
+void TestFileOpening::oneBarShowsTheProgress()
+{
+    const QString loading = QStringLiteral("Loading three-zones.geojson");
+    QStringList shownInBar;
+    connect(terminal().backend(), &PrescriptionBackend::progress, &terminal(),
+            [this, &shownInBar] { shownInBar.append(statusBar()); });
+    openByTouch("three-zones.geojson");
+    QVERIFY(!shownInBar.isEmpty());
+    QVERIFY2(shownInBar.filter(loading).isEmpty(), qPrintable(shownInBar.join(QLatin1Char('\n'))));
+    shownInBar.clear();
+    QVERIFY(open("three-zones.geojson", {}).isOk());
+    QVERIFY(!shownInBar.filter(loading).isEmpty());
 }
 
 void TestFileOpening::theFolderButtonDoesNothingWhileADialogIsOpen()

@@ -13,6 +13,7 @@ class TestFindingsDisplay : public TerminalTest {
 private Q_SLOTS:
     void aCleanMapShowsNoButton();
     void theButtonCountsAndGoesWithTheMap();
+    void aMapThatFeedsNothingIsNotCounted();
     void aTouchedFindingIsShownOnTheMap();
     void theMapOfATouchedFindingIsShown();
     void whatLiesNowhereCannotBeTouched();
@@ -40,10 +41,21 @@ void TestFindingsDisplay::theButtonCountsAndGoesWithTheMap()
     QTRY_VERIFY(button("findingsButton")->isVisible());
     QCOMPARE(button("findingsButton")->text(), QStringLiteral("2"));
     QVERIFY(!find<QWidget>("findingsPage")->isVisible());
-    QVERIFY(open("bow-tie.geojson", {"rate"}).isOk());
+    QVERIFY(open("bow-tie.geojson", {QString(), "rate"}).isOk());
     QTRY_COMPARE(button("findingsButton")->text(), QStringLiteral("4"));
     QVERIFY(terminal().close(overlap.group));
     QCOMPARE(button("findingsButton")->text(), QStringLiteral("2"));
+}
+
+void TestFindingsDisplay::aMapThatFeedsNothingIsNotCounted()
+{
+    QVERIFY(open("overlap.geojson", {"rate"}).isOk());
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    const LoadReport zones = open("three-zones.geojson", {"SEED_K_HA"});
+    QVERIFY(!button("findingsButton")->isVisible());
+    QVERIFY(terminal().close(zones.group));
+    QCOMPARE(button("findingsButton")->text(), QStringLiteral("2"));
+    QVERIFY(button("findingsButton")->isVisible());
 }
 
 void TestFindingsDisplay::aTouchedFindingIsShownOnTheMap()

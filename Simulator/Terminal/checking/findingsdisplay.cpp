@@ -2,6 +2,7 @@
 
 #include "Backend/prescriptionbackend.h"
 #include "fieldview.h"
+#include "machine.h"
 #include "mapoverlay.h"
 #include "shownnumber.h"
 #include "statusbar.h"
@@ -28,9 +29,10 @@ QRectF viewAround(const QRectF &extent)
 
 } // namespace
 
-FindingsDisplay::FindingsDisplay(PrescriptionBackend *prescriptions, const Vehicle *machine, TerminalWindow *display)
-    : backend(prescriptions)
-    , vehicle(machine)
+FindingsDisplay::FindingsDisplay(const Machine *terminalMachine, const Vehicle *driven, TerminalWindow *display)
+    : machine(terminalMachine)
+    , backend(machine->backend())
+    , vehicle(driven)
     , window(display)
     , button(new TouchButton(QString()))
     , page(new FindingsPage(display))
@@ -68,11 +70,15 @@ void FindingsDisplay::update()
     entries.clear();
     const QHash<QString, QList<MapFinding>> known = std::exchange(findings, {});
     const QList<LoadReport> maps = backend->maps();
+    const auto isUsed = [this](const LoadReport &map) { return !machine->columnsOf(map.group).isEmpty(); };
+    const bool areSeveral = std::count_if(maps.begin(), maps.end(), isUsed) > 1;
     for (const LoadReport &map : maps) {
-        const QString file = maps.size() > 1 ? QFileInfo(map.path).fileName() : QString();
+        const QString file = areSeveral ? QFileInfo(map.path).fileName() : QString();
         if (!known.contains(map.group))
             continue;
         findings.insert(map.group, known.value(map.group));
+        if (!isUsed(map))
+            continue;
         for (const MapFinding &finding : known.value(map.group))
             entries.append({file, map.group, finding});
     }

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QObject>
 
+class Machine;
 class PrescriptionBackend;
 class TerminalWindow;
 class TouchButton;
@@ -18,7 +19,7 @@ class FindingsDisplay : public QObject {
 
 public:
     /// None of these is owned; all outlive this.
-    FindingsDisplay(PrescriptionBackend *backend, const Vehicle *vehicle, TerminalWindow *window);
+    FindingsDisplay(const Machine *machine, const Vehicle *vehicle, TerminalWindow *window);
 
     /// Takes the list away.
     void leave();
@@ -30,11 +31,12 @@ Q_SIGNALS:
 private:
     void check(const LoadReport &report);
     void take(const QString &group, const QList<MapFinding> &found);
-    /// What is found in the maps that are loaded, oldest first.
+    /// What is found in the maps that feed a product, oldest first.
     void update();
     void toggle();
     void show(int number);
 
+    const Machine *machine;
     PrescriptionBackend *backend;
     const Vehicle *vehicle;
     TerminalWindow *window;

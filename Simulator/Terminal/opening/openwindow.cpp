@@ -5,17 +5,14 @@
 #include "filepage.h"
 #include "machine.h"
 #include "messagepage.h"
-#include "pager.h"
 #include "previewpage.h"
 #include "progresspage.h"
 #include "theme.h"
 #include "unitpage.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStackedLayout>
 
@@ -51,8 +48,12 @@ void OpenWindow::connectPages()
         if (isVisible() && !isBusy() && last.isOk())
             survey(last.path, last.layer, last.task);
     });
+    connect(machine, &Machine::mapsChanged, this, &OpenWindow::followMaps);
+    followMaps();
     connect(files, &FilePage::recentWanted, this, [this] { files->showRecent(recent.paths()); });
-    connect(files, &FilePage::fileChosen, this, [this](const QString &path) { preview({path}); });
+    connect(files, &FilePage::openFilesWanted, this, [this] { files->showOpen(openFiles()); });
+    connect(files, &FilePage::fileChosen, this, &OpenWindow::chooseFile);
+    connect(files, &FilePage::closeWanted, this, &OpenWindow::closeWanted);
     connect(files, &FilePage::left, this, &OpenWindow::leave);
     connect(progress, &ProgressPage::cancelled, this, &OpenWindow::giveUp);
     connect(message, &MessagePage::left, this, &OpenWindow::goBack);
@@ -98,19 +99,56 @@ void OpenWindow::showProgress(const QString &text, Busy what)
 void OpenWindow::showFiles()
 {
     const QStringList paths = recent.paths();
-    if (paths.isEmpty())
-        files->showFolder(QDir::homePath());
-    else
+    if (!recent.folder().isEmpty())
+        files->showFolder(recent.folder());
+    else if (!paths.isEmpty())
         files->showRecent(paths);
+    else
+        files->showFolder(QDir::homePath());
     showPage(files);
+}
+
+void OpenWindow::chooseFile(const QString &path)
+{
+    if (files->place() == FilePage::Place::Folder)
+        recent.setFolder(QFileInfo(path).path());
+    preview({path});
+}
+
+QList<FileEntry> OpenWindow::openFiles() const
+{
+    QList<FileEntry> entries;
+    const QList<LoadReport> maps = machine->backend()->maps();
+    for (const LoadReport &map : maps) {
+        QStringList products;
+        const QList<int> numbers = machine->columnsOf(map.group).keys();
+        for (const int number : numbers)
+            products.append(machine->products().at(number - 1).name);
+        const QString note =
+            products.isEmpty() ? tr("feeds no product") : tr("feeds %1").arg(products.join(QStringLiteral(", ")));
+        const QFileInfo info(map.path);
+        entries.append({map.path, info.fileName(), false, info.exists(), note, map.group});
+    }
+    return entries;
+}
+
+void OpenWindow::followMaps()
+{
+    const QList<FileEntry> entries = openFiles();
+    files->setOpenCount(entries.size());
+    if (files->place() == FilePage::Place::Open)
+        files->showOpen(entries);
 }
 
 void OpenWindow::returnToFiles()
 {
-    if (files->showsFolder())
-        showPage(files);
-    else
+    if (files->place() == FilePage::Place::Recent && recent.paths().isEmpty()) {
         showFiles();
+        return;
+    }
+    if (files->place() == FilePage::Place::Recent)
+        files->showRecent(recent.paths());
+    showPage(files);
 }
 
 void OpenWindow::preview(const QStringList &paths)
@@ -239,133 +277,6 @@ void OpenWindow::goBack()
         waiting.clear();
         returnToFiles();
     }
-}
-
-void OpenWindow::ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer)
-{
-    whenChosen = std::move(answer);
-    choice->ask(question, options, current);
-    showPage(choice);
-}
-
-void OpenWindow::askLayer()
-{
-    ask(tr("Which layer?"), last.layers, last.layers.indexOf(last.layer),
-        [this](int place) { survey(last.path, last.layers.at(place), last.task); });
-}
-
-void OpenWindow::askTask()
-{
-    ask(tr("Which task?"), last.tasks, last.tasks.indexOf(last.task),
-        [this](int place) { survey(last.path, last.layer, last.tasks.at(place)); });
-}
-
-void OpenWindow::askOther()
-{
-    if (last.layers.size() > 1)
-        askLayer();
-    else
-        askTask();
-}
-
-void OpenWindow::askProduct(int index)
-{
-    QStringList options{tr("None")};
-    QList<int> numbers{0};
-    const QList<MachineProduct> products = selection.fedProducts();
-    for (int number = 1; number <= products.size(); ++number) {
-        if (!products.at(number - 1).isDriven)
-            continue;
-        options.append(QStringLiteral("%1. %2").arg(QString::number(number), products.at(number - 1).name));
-        numbers.append(number);
-    }
-    ask(tr("Which product does %1 feed?").arg(selection.column(index).name), options,
-        numbers.indexOf(selection.product(index)), [this, index, numbers](int place) {
-            selection.setProduct(index, numbers.at(place));
-            previews->refresh();
-            showPage(previews);
-        });
-}
-
-void OpenWindow::askUnit(int index)
-{
-    askedColumn = index;
-    const MachineProduct product = selection.fedProducts().at(selection.product(index) - 1);
-    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name),
-              PrescriptionBackend::rateUnits(product.kind), selection.unit(index), selection.column(index).unit);
-    showPage(unit);
-}
-
-Pager *OpenWindow::currentPager() const
-{
-    QWidget *page = pages->currentWidget();
-    if (page == files)
-        return files->pager();
-    if (page == previews)
-        return previews->pager();
-    return page == choice ? choice->pager() : nullptr;
-}
-
-bool OpenWindow::pressFocused()
-{
-    auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
-    if (button == nullptr || !isAncestorOf(button))
-        return false;
-    button->click();
-    return true;
-}
-
-void OpenWindow::keyPressEvent(QKeyEvent *event)
-{
-    Pager *pager = currentPager();
-    switch (event->key()) {
-    case Qt::Key_Escape:
-        goBack();
-        return;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!pressFocused() && pages->currentWidget() == previews)
-            accept();
-        return;
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        if (pager != nullptr)
-            pager->turn(event->key() == Qt::Key_PageUp ? -1 : 1);
-        return;
-    case Qt::Key_Up:
-    case Qt::Key_Left:
-        Theme::showFocus(true);
-        focusNextPrevChild(false);
-        return;
-    case Qt::Key_Down:
-    case Qt::Key_Right:
-        Theme::showFocus(true);
-        focusNextPrevChild(true);
-        return;
-    default:
-        QWidget::keyPressEvent(event);
-    }
-}
-
-bool OpenWindow::focusNextPrevChild(bool next)
-{
-    QWidget *from = QApplication::focusWidget();
-    if (from == nullptr || !isAncestorOf(from))
-        from = this;
-    const auto step = [next](QWidget *widget) {
-        return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-    };
-    // What lies under the window is out of reach.
-    for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
-        // Of the buttons of a group Qt lets the tabulator reach only the checked one.
-        const bool takesKeys =
-            (widget->focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QAbstractButton *>(widget) != nullptr;
-        if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && takesKeys) {
-            widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-            return true;
-        }
-    }
-    return false;
 }
 
 void OpenWindow::mousePressEvent(QMouseEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "choicememory.h"
+#include "folderlisting.h"
 #include "openselection.h"
 #include "recentfiles.h"
 
@@ -30,7 +31,7 @@ public:
     /// `machine` and `settings`, in which files and choices are remembered, are not owned and outlive the window.
     OpenWindow(Machine *machine, QSettings &settings, QWidget *parent = nullptr);
 
-    /// Shows the files to choose from.
+    /// Shows the files to choose from: the folder used last, else the recent files, else what is at home.
     void showFiles();
     /// Shows what these files hold, one after the other.
     void preview(const QStringList &paths);
@@ -38,6 +39,8 @@ public:
     void refuse(const QString &reason);
     /// Takes what came of a load that was wanted.
     void finish(const LoadReport &report);
+    /// To the page before; from the files to choose from out of the window.
+    void goBack();
     /// Hides the window; what it was reading is given up.
     void leave();
     /// Whether it waits for a file to be read.
@@ -46,6 +49,8 @@ public:
 Q_SIGNALS:
     /// The operator wants this loaded; finish() is to follow.
     void wanted(const OpenRequest &request);
+    /// The operator wants this map closed.
+    void closeWanted(const QString &group);
     /// It was shown or hidden.
     void shownChanged(bool isShown);
 
@@ -63,14 +68,16 @@ private:
     void connectPages();
     void connectPreview();
     void showPage(QWidget *page);
-    /// To the folder that the file was taken from; the recent files where there is none.
+    void chooseFile(const QString &path);
+    QList<FileEntry> openFiles() const;
+    void followMaps();
+    /// To where the file was taken from.
     void returnToFiles();
     void showProgress(const QString &text, Busy what);
     void survey(const QString &path, const QString &layer, const QString &task);
     void takeSurvey(const SurveyReport &survey);
     void showNext();
     void tell(const QString &reason, QWidget *behind);
-    void goBack();
     void giveUp();
     void accept();
     bool pressFocused();

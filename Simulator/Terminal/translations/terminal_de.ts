@@ -221,6 +221,34 @@
         <source>is no longer there</source>
         <translation>ist nicht mehr da</translation>
     </message>
+    <message>
+        <source>Opened</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Opened prescriptions</source>
+        <translation>Geöffnete Applikationskarten</translation>
+    </message>
+    <message>
+        <source>No prescription is open.</source>
+        <translation>Keine Applikationskarte ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -524,6 +552,14 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>In welcher Einheit ist %1?</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>für kein Produkt</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>für %1</translation>
     </message>
 </context>
 <context>

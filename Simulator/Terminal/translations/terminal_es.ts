@@ -221,6 +221,34 @@
         <source>is no longer there</source>
         <translation>ya no está</translation>
     </message>
+    <message>
+        <source>Opened</source>
+        <translation>Abiertos</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Opened prescriptions</source>
+        <translation>Prescripciones abiertas</translation>
+    </message>
+    <message>
+        <source>No prescription is open.</source>
+        <translation>No hay ninguna prescripción abierta.</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 archivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 archivos</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -524,6 +552,14 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>¿En qué unidad está %1?</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>no alimenta nada</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimenta %1</translation>
     </message>
 </context>
 <context>

@@ -221,6 +221,34 @@
         <source>is no longer there</source>
         <translation>n’est plus là</translation>
     </message>
+    <message>
+        <source>Opened</source>
+        <translation>Ouverts</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Opened prescriptions</source>
+        <translation>Prescriptions ouvertes</translation>
+    </message>
+    <message>
+        <source>No prescription is open.</source>
+        <translation>Aucune prescription n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 fichier</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 fichiers</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -524,6 +552,14 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>Dans quelle unité est %1 ?</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>n’alimente rien</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimente %1</translation>
     </message>
 </context>
 <context>

@@ -221,6 +221,34 @@
         <source>is no longer there</source>
         <translation>não está mais lá</translation>
     </message>
+    <message>
+        <source>Opened</source>
+        <translation>Abertos</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Opened prescriptions</source>
+        <translation>Prescrições abertas</translation>
+    </message>
+    <message>
+        <source>No prescription is open.</source>
+        <translation>Nenhuma prescrição está aberta.</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fechar %1</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -524,6 +552,14 @@
     <message>
         <source>In which unit is %1?</source>
         <translation>Em qual unidade está %1?</translation>
+    </message>
+    <message>
+        <source>feeds no product</source>
+        <translation>não alimenta nada</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimenta %1</translation>
     </message>
 </context>
 <context>

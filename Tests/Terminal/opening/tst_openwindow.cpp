@@ -34,6 +34,7 @@ private Q_SLOTS:
     void filesComeOneAfterTheOther();
     void openedFilesAreRecentAndGoneOnesCannotBeTouched();
     void foldersAreEntered();
+    void theFolderUsedLastIsShownFirst();
     void anotherLayerIsChosen();
     void keysDoWhatTouchesDo();
     void allControlsAreBigEnoughForAGlove();
@@ -364,6 +365,37 @@ void TestOpenWindow::foldersAreEntered()
     touch(QStringLiteral("pageDown"));
     touch(QStringLiteral("openCancel"));
     QVERIFY(!window->isVisible());
+}
+
+void TestOpenWindow::theFolderUsedLastIsShownFirst()
+{
+    const QString stick = folder->filePath(QStringLiteral("stick"));
+    QVERIFY(QDir().mkpath(stick));
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), stick + QStringLiteral("/map.geojson")));
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder->path().toLocal8Bit());
+    startWindow();
+    window->showFiles();
+    qputenv("HOME", home);
+    touch(QStringLiteral("fileRow0"));
+    touch(QStringLiteral("fileRow0"));
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("openAccept"));
+    QTRY_VERIFY(!window->isVisible());
+    startWindow();
+    window->showFiles();
+    QVERIFY(find(QStringLiteral("folderUp"))->isEnabled());
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+    // Back from a recent file is back to these.
+    touch(QStringLiteral("placeRecent"));
+    touch(QStringLiteral("fileRow0"));
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("openBack"));
+    QVERIFY(!find(QStringLiteral("folderUp"))->isEnabled());
+    QVERIFY(QDir(stick).removeRecursively());
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+    QVERIFY(!find(QStringLiteral("fileRow0"))->isEnabled());
 }
 
 void TestOpenWindow::anotherLayerIsChosen()

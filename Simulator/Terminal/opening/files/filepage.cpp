@@ -3,6 +3,7 @@
 #include "caption.h"
 #include "listrow.h"
 #include "pager.h"
+#include "shownnumber.h"
 #include "symbols.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -73,6 +74,9 @@ QWidget *FilePage::makePlaces()
     recent = addPlace(layout, tr("Recent"), QStringLiteral("placeRecent"));
     recent->setCheckable(true);
     connect(recent, &TouchButton::clicked, this, &FilePage::recentWanted);
+    open = addPlace(layout, tr("Opened"), QStringLiteral("placeOpen"));
+    open->setCheckable(true);
+    connect(open, &TouchButton::clicked, this, &FilePage::openFilesWanted);
     const auto addFolder = [this, layout](const QString &text, const QString &name, const QString &path) {
         connect(addPlace(layout, text, name), &TouchButton::clicked, this, [this, path] { showFolder(path); });
     };
@@ -103,27 +107,57 @@ QWidget *FilePage::makeRows()
     emptyText->setFont(Theme::font(titlePixels));
     emptyText->setWordWrap(true);
     layout->addWidget(emptyText);
-    for (int place = 0; place < rowsPerPage; ++place) {
-        auto *row = new ListRow(list);
-        row->setObjectName(QStringLiteral("fileRow%1").arg(place));
-        row->setFixedHeight(row->sizeHint().height());
-        layout->addWidget(row);
-        rows.append(row);
-        connect(row, &ListRow::clicked, this, [this, place] { choose(entries.at(pages->first() + place)); });
-    }
+    for (int place = 0; place < rowsPerPage; ++place)
+        layout->addWidget(makeRow(place));
     layout->addStretch();
     return list;
+}
+
+QWidget *FilePage::makeRow(int place)
+{
+    auto *pair = new QWidget(this);
+    auto *layout = new QHBoxLayout(pair);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::margin / 2);
+    auto *row = new ListRow(pair);
+    row->setObjectName(QStringLiteral("fileRow%1").arg(place));
+    row->setFixedHeight(row->sizeHint().height());
+    auto *closer = new TouchButton(tr("Close"), pair);
+    closer->setObjectName(QStringLiteral("fileClose%1").arg(place));
+    closer->setFixedSize(closeWidth, Theme::touchTarget);
+    layout->addWidget(row, 1);
+    layout->addWidget(closer);
+    rows.append(row);
+    closers.append(closer);
+    connect(row, &ListRow::clicked, this, [this, place] { choose(entries.at(pages->first() + place)); });
+    connect(closer, &TouchButton::clicked, this,
+            [this, place] { Q_EMIT closeWanted(entries.at(pages->first() + place).group); });
+    return pair;
 }
 
 void FilePage::showRecent(const QStringList &paths)
 {
     folder.clear();
+    shown = Place::Recent;
     show(tr("Recent prescriptions"), FolderListing::ofFiles(paths), tr("No prescription was opened here before."));
+}
+
+void FilePage::showOpen(const QList<FileEntry> &files)
+{
+    folder.clear();
+    shown = Place::Open;
+    show(tr("Opened prescriptions"), files, tr("No prescription is open."));
+}
+
+void FilePage::setOpenCount(int count)
+{
+    open->setNote(count == 1 ? tr("1 file") : tr("%1 files").arg(ShownNumber::text(count)));
 }
 
 void FilePage::showFolder(const QString &path)
 {
     folder = path;
+    shown = Place::Folder;
     const bool isReadable = QDir(path).isReadable();
     show(QDir::toNativeSeparators(path), FolderListing::of(path),
          isReadable ? tr("Nothing in this folder can be opened.") : tr("This folder cannot be read."));
@@ -133,7 +167,8 @@ void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, 
 {
     title->setText(heading);
     entries = newEntries;
-    recent->setChecked(folder.isEmpty());
+    recent->setChecked(shown == Place::Recent);
+    open->setChecked(shown == Place::Open);
     up->setEnabled(!folder.isEmpty() && !QDir(folder).isRoot());
     emptyText->setText(whenEmpty);
     emptyText->setVisible(entries.isEmpty());
@@ -144,18 +179,23 @@ void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, 
 void FilePage::showPage()
 {
     for (int place = 0; place < rows.size(); ++place) {
-        ListRow *row = rows.at(place);
         const int index = pages->first() + place;
-        row->setVisible(index < entries.size());
-        if (index >= entries.size())
-            continue;
-        const FileEntry &entry = entries.at(index);
-        row->setText(entry.name);
-        row->setNotes(entry.isThere ? (entry.note.isEmpty() ? QStringList() : QStringList(entry.note))
-                                    : QStringList(tr("is no longer there")));
-        row->setEnabled(entry.isThere);
-        row->setSymbol(entry.isFolder ? Symbols::folder() : Symbols::file());
+        rows.at(place)->setVisible(index < entries.size());
+        closers.at(place)->setVisible(index < entries.size() && !entries.at(index).group.isEmpty());
+        if (index < entries.size())
+            fill(place, entries.at(index));
     }
+}
+
+void FilePage::fill(int place, const FileEntry &entry)
+{
+    ListRow *row = rows.at(place);
+    row->setText(entry.name);
+    row->setNotes(entry.isThere ? (entry.note.isEmpty() ? QStringList() : QStringList(entry.note))
+                                : QStringList(tr("is no longer there")));
+    row->setEnabled(entry.isThere);
+    row->setSymbol(entry.isFolder ? Symbols::folder() : Symbols::file());
+    closers.at(place)->setAccessibleName(tr("Close %1").arg(entry.name));
 }
 
 void FilePage::choose(const FileEntry &entry)

@@ -11,8 +11,10 @@ struct FileEntry {
     bool isFolder = false;
     /// Whether it is still there.
     bool isThere = true;
-    /// Where it lies, or its size and age.
+    /// Where it lies, or its size and age; of an open file what it feeds.
     QString note;
+    /// Of the map that is open of it; empty for a file that is not open.
+    QString group = {};
 };
 
 /// What a folder holds that may be opened: folders, and files that may be prescriptions.

@@ -6,8 +6,9 @@
 namespace {
 
 const QString key = QStringLiteral("recentFiles");
+const QString folderKey = QStringLiteral("lastFolder");
 
-}
+} // namespace
 
 RecentFiles::RecentFiles(QSettings &appSettings)
     : settings(appSettings)
@@ -26,4 +27,15 @@ void RecentFiles::add(const QString &path)
     files.removeAll(absolute);
     files.prepend(absolute);
     settings.setValue(key, QStringList(files.mid(0, most)));
+}
+
+QString RecentFiles::folder() const
+{
+    const QString path = settings.value(folderKey).toString();
+    return !path.isEmpty() && QFileInfo(path).isDir() ? path : QString();
+}
+
+void RecentFiles::setFolder(const QString &path)
+{
+    settings.setValue(folderKey, QFileInfo(path).absoluteFilePath());
 }

@@ -16,6 +16,10 @@ public:
     QStringList paths() const;
     void add(const QString &path);
 
+    /// Where a file was looked for last and found; empty where that folder is gone, or there was none.
+    QString folder() const;
+    void setFolder(const QString &path);
+
 private:
     QSettings &settings;
 };

@@ -1,0 +1,62 @@
+// What the open window asks the operator about a file.
+#include "Backend/prescriptionbackend.h"
+#include "choicepage.h"
+#include "machine.h"
+#include "openwindow.h"
+#include "previewpage.h"
+#include "unitpage.h"
+
+void OpenWindow::ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer)
+{
+    whenChosen = std::move(answer);
+    choice->ask(question, options, current);
+    showPage(choice);
+}
+
+void OpenWindow::askLayer()
+{
+    ask(tr("Which layer?"), last.layers, last.layers.indexOf(last.layer),
+        [this](int place) { survey(last.path, last.layers.at(place), last.task); });
+}
+
+void OpenWindow::askTask()
+{
+    ask(tr("Which task?"), last.tasks, last.tasks.indexOf(last.task),
+        [this](int place) { survey(last.path, last.layer, last.tasks.at(place)); });
+}
+
+void OpenWindow::askOther()
+{
+    if (last.layers.size() > 1)
+        askLayer();
+    else
+        askTask();
+}
+
+void OpenWindow::askProduct(int index)
+{
+    QStringList options{tr("None")};
+    QList<int> numbers{0};
+    const QList<MachineProduct> products = selection.fedProducts();
+    for (int number = 1; number <= products.size(); ++number) {
+        if (!products.at(number - 1).isDriven)
+            continue;
+        options.append(QStringLiteral("%1. %2").arg(QString::number(number), products.at(number - 1).name));
+        numbers.append(number);
+    }
+    ask(tr("Which product does %1 feed?").arg(selection.column(index).name), options,
+        numbers.indexOf(selection.product(index)), [this, index, numbers](int place) {
+            selection.setProduct(index, numbers.at(place));
+            previews->refresh();
+            showPage(previews);
+        });
+}
+
+void OpenWindow::askUnit(int index)
+{
+    askedColumn = index;
+    const MachineProduct product = selection.fedProducts().at(selection.product(index) - 1);
+    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name),
+              PrescriptionBackend::rateUnits(product.kind), selection.unit(index), selection.column(index).unit);
+    showPage(unit);
+}
