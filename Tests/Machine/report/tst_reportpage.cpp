@@ -20,6 +20,7 @@ private Q_SLOTS:
     void initTestCase();
     void itIsWholeAndNeedsNothingElse();
     void picturesShowPlanAndDriveInTheLegendsColours();
+    void whatIsAppliedWithoutARateHasAColourOfItsOwn();
     void classesAddUp();
     void theFarthestChangesAreListed();
     void numbersAreInTheOperatorsUnits_data();
@@ -158,6 +159,28 @@ void TestReportPage::picturesShowPlanAndDriveInTheLegendsColours()
     }
 }
 
+void TestReportPage::whatIsAppliedWithoutARateHasAColourOfItsOwn()
+{
+    const QImage prescribed = picture(0);
+    const QImage applied = picture(1);
+    const QColor own(0x88, 0x88, 0x88);
+    int outside = 0;
+    for (int row = 0; row < applied.height(); ++row) {
+        for (int column = 0; column < applied.width(); ++column) {
+            const bool isOutside = prescribed.pixelColor(column, row).alpha() == 0;
+            if (applied.pixelColor(column, row).alpha() == 0)
+                continue;
+            QCOMPARE(applied.pixelColor(column, row) == own, isOutside);
+            outside += isOutside ? 1 : 0;
+        }
+    }
+    QVERIFY(outside > 0);
+    // The table of classes is the legend.
+    const int swatch = page.indexOf("background:" + own.name().toLatin1());
+    QVERIFY(swatch > 0);
+    QVERIFY(page.indexOf("No rate prescribed", swatch) - swatch < 30);
+}
+
 void TestReportPage::classesAddUp()
 {
     const QStringList cells = texts("td");
@@ -169,7 +192,7 @@ void TestReportPage::classesAddUp()
     QVERIFY(std::fabs(number(low + 1) - 0.432) < 0.01);
     QVERIFY(std::fabs(number(low + 2) - 50.0 * number(low + 1)) < 0.3);
     QVERIFY(std::fabs(number(low + 8) - 80.0 * number(low + 7)) < 0.3);
-    QCOMPARE(cells.at(first - 6), QStringLiteral("No rate prescribed"));
+    QCOMPARE(texts("span").last(), QStringLiteral("No rate prescribed"));
     for (int column = 1; column <= 3; ++column)
         QVERIFY(std::fabs(number(low + column) + number(low + 6 + column) + number(low + 12 + column)
                           - number(first + column))

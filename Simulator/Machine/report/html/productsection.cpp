@@ -18,6 +18,8 @@
 
 namespace {
 
+/// Ground that was worked where no rate is prescribed; in no legend.
+const QColor withoutRate(0x88, 0x88, 0x88);
 const QString dash = QStringLiteral(" \u2013 ");
 
 void writeCells(QXmlStreamWriter &page, const char *kind, const QStringList &cells)
@@ -25,6 +27,20 @@ void writeCells(QXmlStreamWriter &page, const char *kind, const QStringList &cel
     page.writeStartElement(QStringLiteral("tr"));
     for (const QString &cell : cells)
         page.writeTextElement(QLatin1String(kind), cell);
+    page.writeEndElement();
+}
+
+/// A table that is wider than a narrow screen scrolls by itself.
+void startTable(QXmlStreamWriter &page)
+{
+    page.writeStartElement(QStringLiteral("div"));
+    page.writeAttribute(QStringLiteral("class"), QStringLiteral("wide"));
+    page.writeStartElement(QStringLiteral("table"));
+}
+
+void endTable(QXmlStreamWriter &page)
+{
+    page.writeEndElement();
     page.writeEndElement();
 }
 
@@ -88,7 +104,9 @@ void ProductSection::writePictures(QXmlStreamWriter &page) const
         return map.classColor(double(field.raster->prescribed(number, column, row)));
     });
     writePicture(page, tr("Applied"), [this](int column, int row) {
-        return map.appliedColor(double(field.raster->applied(number, column, row)), hasSingleRates);
+        const double applied = double(field.raster->applied(number, column, row));
+        const bool isPrescribed = !std::isnan(field.raster->prescribed(number, column, row));
+        return isPrescribed || std::isnan(applied) ? map.appliedColor(applied, hasSingleRates) : withoutRate;
     });
     page.writeEndElement();
     const double width = units.length(field.raster->size().width() * field.raster->cellSize());
@@ -139,7 +157,7 @@ void ProductSection::writeClasses(QXmlStreamWriter &page) const
             classes[size_t(place)] += ground;
     }
     page.writeTextElement(QStringLiteral("h3"), tr("Area and amount by class"));
-    page.writeStartElement(QStringLiteral("table"));
+    startTable(page);
     writeCells(page, "th",
                {inBrackets(tr("Class"), units.rateUnit()), inBrackets(tr("Area"), units.areaUnit()),
                 inBrackets(tr("Planned"), units.amountUnit()), inBrackets(tr("Applied"), units.amountUnit()),
@@ -149,9 +167,9 @@ void ProductSection::writeClasses(QXmlStreamWriter &page) const
             writeClass(page, className(int(i)), map.legend.at(int(i)).color, classes[i]);
     }
     if (tally.unprescribed.area > 0.0)
-        writeClass(page, tr("No rate prescribed"), {}, tally.unprescribed);
+        writeClass(page, tr("No rate prescribed"), withoutRate, tally.unprescribed);
     writeClass(page, tr("Total"), {}, total, true);
-    page.writeEndElement();
+    endTable(page);
 }
 
 void ProductSection::writeClass(QXmlStreamWriter &page, const QString &name, const QColor &color,
@@ -234,7 +252,7 @@ void ProductSection::writeChanges(QXmlStreamWriter &page) const
     const size_t shown = std::min(changes.size(), size_t(mostChanges));
     if (shown < changes.size())
         page.writeTextElement(QStringLiteral("p"), tr("The %1 that are farthest from their borders:").arg(mostChanges));
-    page.writeStartElement(QStringLiteral("table"));
+    startTable(page);
     writeCells(page, "th",
                {inBrackets(tr("East of the middle"), units.lengthUnit()),
                 inBrackets(tr("North of the middle"), units.lengthUnit()), inBrackets(tr("From"), units.rateUnit()),
@@ -242,7 +260,7 @@ void ProductSection::writeChanges(QXmlStreamWriter &page) const
                 inBrackets(tr("Late"), QStringLiteral("s"))});
     for (size_t i = 0; i < shown; ++i)
         writeChange(page, changes[i]);
-    page.writeEndElement();
+    endTable(page);
 }
 
 void ProductSection::writeChange(QXmlStreamWriter &page, const BorderWatch::Change &change) const

@@ -19,7 +19,7 @@ class ProductSection {
 
 public:
     /// Rows of the table of changes.
-    static constexpr int mostChanges = 40;
+    static constexpr int mostChanges = 12;
 
     /// By number from 1. `field` outlives it.
     ProductSection(const DrivenField &field, int number);

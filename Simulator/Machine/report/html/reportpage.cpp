@@ -19,7 +19,8 @@ const char style[] = "body{font:15px/1.45 sans-serif;color:#222;background:#fff;
                      "table{border-collapse:collapse;font-variant-numeric:tabular-nums}"
                      "th,td{padding:3px 12px;border-bottom:1px solid #ddd;text-align:right}"
                      "th:first-child,td:first-child{text-align:left}tr.total td{font-weight:bold}"
-                     ".maps{display:flex;gap:16px}figure{flex:1;margin:0}figcaption{font-weight:bold}"
+                     ".maps{display:flex;flex-wrap:wrap;gap:16px}figure{flex:1 1 "
+                     "300px;margin:0}.wide{overflow-x:auto}figcaption{font-weight:bold}"
                      ".maps img{width:100%;border:1px solid #bbb;background:#eee;image-rendering:pixelated}"
                      ".swatch{display:inline-block;width:22px;height:14px;margin-right:8px;border:1px solid #888;"
                      "vertical-align:middle}"
@@ -65,6 +66,9 @@ void ReportPage::writeHead(QXmlStreamWriter &page)
     page.writeStartElement(QStringLiteral("head"));
     page.writeEmptyElement(QStringLiteral("meta"));
     page.writeAttribute(QStringLiteral("charset"), QStringLiteral("utf-8"));
+    page.writeEmptyElement(QStringLiteral("meta"));
+    page.writeAttribute(QStringLiteral("name"), QStringLiteral("viewport"));
+    page.writeAttribute(QStringLiteral("content"), QStringLiteral("width=device-width"));
     page.writeTextElement(QStringLiteral("title"), tr("Report of a drive"));
     page.writeTextElement(QStringLiteral("style"), QLatin1String(style));
     page.writeEndElement();
