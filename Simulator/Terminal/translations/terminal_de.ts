@@ -802,8 +802,8 @@
         <translation>jetzt</translation>
     </message>
     <message>
-        <source>Prescribed</source>
-        <translation>Soll</translation>
+        <source>Plan here</source>
+        <translation>Soll hier</translation>
     </message>
     <message>
         <source>Applied</source>

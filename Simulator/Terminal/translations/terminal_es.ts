@@ -802,8 +802,8 @@
         <translation>ahora</translation>
     </message>
     <message>
-        <source>Prescribed</source>
-        <translation>Prescrita</translation>
+        <source>Plan here</source>
+        <translation>Plan aquí</translation>
     </message>
     <message>
         <source>Applied</source>

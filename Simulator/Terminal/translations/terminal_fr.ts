@@ -802,8 +802,8 @@
         <translation>présent</translation>
     </message>
     <message>
-        <source>Prescribed</source>
-        <translation>Préconisée</translation>
+        <source>Plan here</source>
+        <translation>Plan ici</translation>
     </message>
     <message>
         <source>Applied</source>

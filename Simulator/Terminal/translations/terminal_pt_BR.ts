@@ -802,8 +802,8 @@
         <translation>agora</translation>
     </message>
     <message>
-        <source>Prescribed</source>
-        <translation>Prescrita</translation>
+        <source>Plan here</source>
+        <translation>Plano aqui</translation>
     </message>
     <message>
         <source>Applied</source>

@@ -138,6 +138,6 @@ void RatePlot::drawKey(QPainter &painter, const QRectF &row) const
         painter.drawText(QRectF(left, row.top(), row.right() - left, row.height()), Qt::AlignVCenter, text);
         left += painter.fontMetrics().horizontalAdvance(text) + 16.0;
     };
-    add(Theme::prescribed(), tr("Prescribed"));
+    add(Theme::prescribed(), tr("Plan here"));
     add(Theme::accent(), tr("Applied"));
 }

@@ -265,7 +265,7 @@ void TestDriveStrip::thePlotNamesItsAxes()
     RatePlot plot(&bench->machine, &history);
     plot.resize(277, 164);
     const QStringList texts = paintedTexts(plot);
-    for (const char *text : {"Prescribed", "Applied", "k/ha", "now", "\u221215 s", "0", "50.0", "100"})
+    for (const char *text : {"Plan here", "Applied", "k/ha", "now", "\u221215 s", "0", "50.0", "100"})
         QVERIFY2(texts.contains(QString::fromUtf8(text)), qPrintable(texts.join(QLatin1Char('|'))));
     bench->machine.setActiveProduct(2);
     QVERIFY(paintedTexts(plot).contains(QStringLiteral("kg/ha")));
