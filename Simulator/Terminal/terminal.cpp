@@ -28,7 +28,9 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QVector3D>
 
 #include <algorithm>
@@ -55,6 +57,14 @@ const QString noMap = QStringLiteral("no map is loaded that says where the field
 QString tooFar()
 {
     return QStringLiteral("is more than %1 km from the field").arg(FieldPlane::reach / 1000.0);
+}
+
+/// A prescription, or whatever else somebody has there.
+bool isOtherThanPicture(const QString &path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && file.size() > 0
+        && QImageReader::imageFormat(&file) != "png";
 }
 
 } // namespace
@@ -319,6 +329,8 @@ QColor Terminal::mapColor(const QPointF &field)
 
 QString Terminal::saveScreenshot(const QString &path)
 {
+    if (isOtherThanPicture(path))
+        return QStringLiteral("%1: is there already and no PNG picture").arg(path);
     QByteArray picture;
     QBuffer buffer(&picture);
     display->screenshot().save(&buffer, "png");

@@ -101,7 +101,7 @@ public:
     Result<QPointF> toEarth(const QPointF &field) const;
     /// What is drawn at a field point, see FieldView::colorAt().
     QColor mapColor(const QPointF &field);
-    /// Saves the display as it is seen; the reason when it cannot.
+    /// Saves the display as it is seen, as PNG; the reason when it cannot, or when another kind of file is there.
     QString saveScreenshot(const QString &path);
     /// Draws again: something may look different.
     void refresh();

@@ -18,6 +18,7 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -64,10 +65,13 @@ QString writingProblem(const QString &path)
 QString outputProblem(const CommandLine &line)
 {
     for (const QString &output : {line.drive, line.record}) {
-        for (const QString &prescription : line.prescriptions) {
-            if (!output.isEmpty() && QFileInfo(output) == QFileInfo(prescription))
-                return QStringLiteral("%1: is the prescription itself").arg(output);
-        }
+        const auto isOutput = [&output](const QString &input) {
+            return !output.isEmpty() && QFileInfo(output) == QFileInfo(input);
+        };
+        if (std::any_of(line.prescriptions.begin(), line.prescriptions.end(), isOutput))
+            return QStringLiteral("%1: is the prescription itself").arg(output);
+        if (isOutput(line.productFile))
+            return QStringLiteral("%1: is the products' file itself").arg(output);
     }
     const QString problem = writingProblem(line.drive);
     return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(line.drive, problem);

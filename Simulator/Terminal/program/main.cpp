@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcessEnvironment>
 
 #include <cstdio>
 #include <cstdlib>
@@ -60,6 +61,21 @@ void reserveStandardStreams()
         close(opened);
 }
 
+/// What somebody has set for other programs that read maps, in the environment or in a file for all of them, must not
+/// change how this one reads them.
+void dropSettingsOfOtherPrograms()
+{
+    const QStringList names = QProcessEnvironment::systemEnvironment().keys();
+    for (const QString &name : names) {
+        for (const char *prefix : {"CPL_", "GDAL_", "GML_", "KML_", "LIBKML_", "OGR_", "OSR_", "SHAPE_"}) {
+            // Where the library has its own tables is the installation's to say.
+            if (name.startsWith(QLatin1String(prefix)) && name != QLatin1String("GDAL_DATA"))
+                qunsetenv(name.toLocal8Bit().constData());
+        }
+    }
+    qputenv("GDAL_CONFIG_FILE", "/dev/null");
+}
+
 /// Nobody may take for complete what could not be printed.
 int end(const QString &error)
 {
@@ -72,6 +88,7 @@ int end(const QString &error)
 int main(int argc, char *argv[])
 {
     reserveStandardStreams();
+    dropSettingsOfOtherPrograms();
     std::set_terminate(endWithoutMemory);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void helpIsPrinted();
     void aPointIsDescribedInTheOperatorsUnits();
     void aFilesControlBytesStayOffTheOutput();
+    void settingsForOtherProgramsChangeNothing_data();
+    void settingsForOtherProgramsChangeNothing();
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
     void aScriptThatOutgrowsTheMemoryEndsWithALine();
@@ -158,6 +160,29 @@ void TestTerminalSimulator::aFilesControlBytesStayOffTheOutput()
         QVERIFY2(line.contains(QLatin1String("two?lines?[31m.geojson: product"))
                      || line.contains(QLatin1String("): Rx Rate: ")),
                  qPrintable(line));
+}
+
+void TestTerminalSimulator::settingsForOtherProgramsChangeNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    const QByteArray setting = "OGR_GEOJSON_MAX_OBJ_SIZE=0.00001\n";
+    QTest::newRow("in the environment") << "OGR_GEOJSON_MAX_OBJ_SIZE"
+                                        << "0.00001";
+    QTest::newRow("in a file") << "GDAL_CONFIG_FILE" << write("[configoptions]\n" + setting, "readers.rc");
+    QDir(folder.path()).mkpath(QStringLiteral("home/.gdal"));
+    write("[configoptions]\n" + setting, "home/.gdal/gdalrc");
+    QTest::newRow("in the home folder") << "HOME" << folder.filePath(QStringLiteral("home"));
+}
+
+void TestTerminalSimulator::settingsForOtherProgramsChangeNothing()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(name, value);
+    const Outcome outcome = run({"--describe", "-100,0", zones()}, environment);
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
 }
 
 void TestTerminalSimulator::aPictureIsSaved()
@@ -451,6 +476,9 @@ void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine_data()
         << folder.filePath(QStringLiteral("full.html")) + ": No space left on device";
     QTest::newRow("record is the prescription")
         << QStringList{"--drive", report, "--record", linkedZones} << linkedZones + ": is the prescription itself";
+    const QString productFile = products("mine.json", R"("width": 12)");
+    QTest::newRow("report is the products' file") << QStringList{"--drive", productFile, "--products", productFile}
+                                                  << productFile + ": is the products' file itself";
     QTest::newRow("record nowhere") << QStringList{"--drive", report, "--record", "/nowhere/a.csv"}
                                     << "/nowhere/a.csv: No such file or directory";
 }

@@ -290,6 +290,10 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("backwards", "terminal.drive(-1);", "out of range");
     row("wait backwards", "terminal.wait(-5);", "cannot wait");
     row("picture in no folder", "terminal.screenshot('/no/such/folder/p.png');", "/no/such/folder/p.png: ");
+    row("picture over another file",
+        "terminal.record(folder + '/drive.csv'); terminal.run(1); terminal.record('');"
+        "terminal.screenshot(folder + '/drive.csv');",
+        "drive.csv: is there already and no PNG picture");
     row("picture without a name", "terminal.screenshot('');", "a picture needs a file name");
 }
 
