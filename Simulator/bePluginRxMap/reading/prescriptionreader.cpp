@@ -14,12 +14,16 @@
 
 namespace {
 
-/// Whether the coordinate system says nothing of where on the earth it is: one of a drawing or of a site, or one that
-/// only stands for none, as GeoPackages have it.
+/// Whether the coordinate system only stands for none, as GeoPackages have it; some versions of GDAL hand it out.
+bool standsForNone(const OGRSpatialReference &reference)
+{
+    return QByteArray(reference.GetName()).toLower().startsWith("undefined");
+}
+
+/// Whether the coordinate system says nothing of where on the earth it is: one of a drawing or of a site.
 bool isUndefined(const OGRSpatialReference &reference)
 {
-    const QByteArray name = QByteArray(reference.GetName()).toLower();
-    return reference.IsLocal() != 0 || name.startsWith("undefined") || name == "unknown";
+    return reference.IsLocal() != 0 || QByteArray(reference.GetName()).toLower() == "unknown";
 }
 
 } // namespace
@@ -96,7 +100,8 @@ void PrescriptionReader::readReference(OGRLayer &layer, const PrescriptionFile &
 {
     // A Shapefile's definition is read only now; what is wrong with it is said by other means.
     const GdalSession own;
-    const OGRSpatialReference *reference = layer.GetSpatialRef();
+    const OGRSpatialReference *given = layer.GetSpatialRef();
+    const OGRSpatialReference *reference = given == nullptr || standsForNone(*given) ? nullptr : given;
     const QString definition = reference == nullptr ? file.definitionFile() : QString();
     if (reference != nullptr && isUndefined(*reference))
         map.lackOfReference = BackendText::tr("its coordinate system \"%1\" does not say where on the earth it is")
@@ -106,6 +111,6 @@ void PrescriptionReader::readReference(OGRLayer &layer, const PrescriptionFile &
     else if (!definition.isEmpty())
         map.lackOfReference = BackendText::tr("its coordinate system (%1) cannot be read").arg(definition);
     // Each ring would else count itself among the reference's holders and out again, a tenth of the time of reading.
-    if (reference != nullptr && layer.GetLayerDefn()->GetGeomFieldCount() > 0)
+    if (given != nullptr && layer.GetLayerDefn()->GetGeomFieldCount() > 0)
         layer.GetLayerDefn()->GetGeomFieldDefn(0)->SetSpatialRef(nullptr);
 }

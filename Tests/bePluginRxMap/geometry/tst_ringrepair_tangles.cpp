@@ -243,7 +243,8 @@ void RingRepairTanglesTest::endsWhenItIsCancelled()
     timer.start();
     worker.join();
     QVERIFY(wasRunning);
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    // Uncancelled it takes more than twice as long in the quickest build.
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void RingRepairTanglesTest::leavesOtherThreadsAlone()

@@ -143,7 +143,8 @@ void PrescriptionBackendLoadingTest::cancelsTheRepairOfATangleAtOnce()
     });
     const LoadReport report = backend->loadAndWait(requestFor(path));
     QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
-    QVERIFY2(sinceCancel.elapsed() < 1000, qPrintable(QString::number(sinceCancel.elapsed())));
+    // Uncancelled it takes more than twice as long in the quickest build.
+    QVERIFY2(sinceCancel.elapsed() < 5000, qPrintable(QString::number(sinceCancel.elapsed())));
 }
 
 void PrescriptionBackendLoadingTest::putsDefaultRatesOfTaskDataIntoUse()
