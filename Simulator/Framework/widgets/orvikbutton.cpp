@@ -36,6 +36,8 @@ QFont scaled(QFont font, qreal share)
 QFont fittedFont(const QFont &font, const QString &text, qreal width)
 {
     QFont fitted = font;
+    // Versions of a font differ in their pairs: what fits would fit on some machines only.
+    fitted.setKerning(false);
     for (int percent = 100 - textPercentStep;
          percent >= minTextPercent && QFontMetricsF(fitted).horizontalAdvance(text) > width; percent -= textPercentStep)
         fitted = scaled(font, percent / 100.0);
