@@ -7,7 +7,13 @@ namespace {
 
 bool put(QFileDevice &file, const QByteArray &content)
 {
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+    // A disk that fills up takes a part first, without a reason; the next part tells it.
+    bool isTaken = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    for (qint64 done = 0, taken = 0; isTaken && done < content.size(); done += taken) {
+        taken = file.write(content.constData() + done, content.size() - done);
+        isTaken = taken > 0;
+    }
+    return isTaken;
 }
 
 } // namespace

@@ -337,3 +337,8 @@ QString CommandLine::helpText()
     declareOptions(parser);
     return parser.helpText();
 }
+
+bool CommandLine::printsAnswer() const
+{
+    return wantsHelp || describe || at || check || !script.isEmpty();
+}

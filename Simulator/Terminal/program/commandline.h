@@ -48,6 +48,8 @@ struct CommandLine {
 
     /// The operator uses the display: it is not a task that ends by itself.
     bool isInteractive() const;
+    /// What was asked for goes to standard output, not to a file or the display alone.
+    bool printsAnswer() const;
 
     /// `arguments` begin with the program's name.
     static Result<CommandLine> parse(const QStringList &arguments);

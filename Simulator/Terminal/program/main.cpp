@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QProcessEnvironment>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -50,15 +51,26 @@ void provideRuntimeFolder()
 }
 
 /// Where the shell closed a standard stream, the display's socket would take its place, and what is printed would go to
-/// the display.
-void reserveStandardStreams()
+/// the display. Returns whether standard output was closed.
+bool reserveStandardStreams()
 {
+    bool isOutputClosed = false;
     int opened = 0;
-    do
+    do {
         opened = open("/dev/null", O_RDWR);
-    while (opened >= 0 && opened <= STDERR_FILENO);
+        isOutputClosed = isOutputClosed || opened == STDOUT_FILENO;
+    } while (opened >= 0 && opened <= STDERR_FILENO);
     if (opened >= 0)
         close(opened);
+    return isOutputClosed;
+}
+
+/// What is printed then is an error, as on a full device.
+void refuseOutput()
+{
+    const int full = open("/dev/full", O_WRONLY);
+    dup2(full, STDOUT_FILENO);
+    close(full);
 }
 
 /// What somebody has set for other programs that read maps, in the environment or in a file for all of them, must not
@@ -87,7 +99,9 @@ int end(const QString &error)
 
 int main(int argc, char *argv[])
 {
-    reserveStandardStreams();
+    const bool isOutputClosed = reserveStandardStreams();
+    // A limit of a file's size is told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     dropSettingsOfOtherPrograms();
     std::set_terminate(endWithoutMemory);
     QStringList arguments;
@@ -96,6 +110,8 @@ int main(int argc, char *argv[])
     Result<CommandLine> line = CommandLine::parse(arguments);
     if (!line.isOk())
         return complain(line.error);
+    if (isOutputClosed && line.value.printsAnswer())
+        refuseOutput();
     if (line.value.wantsHelp) {
         const QCoreApplication named(argc, argv);
         std::fputs(CommandLine::helpText().toLocal8Bit().constData(), stdout);

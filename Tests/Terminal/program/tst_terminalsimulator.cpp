@@ -331,21 +331,18 @@ void TestTerminalSimulator::itRunsWithClosedStreams()
 void TestTerminalSimulator::aFullDiskLeavesThePictureBefore()
 {
     const QTemporaryDir pictures;
-    const QString path = write("before", "map.png");
+    const QString path = folder.filePath(QStringLiteral("before.png"));
+    QVERIFY(QImage(3, 2, QImage::Format_RGB32).save(path));
     const QString target = QDir(pictures.path()).filePath(QStringLiteral("map.png"));
     for (const bool wasThere : {false, true}) {
         QCOMPARE(wasThere, wasThere && QFile::copy(path, target));
-        const Outcome outcome = runInShell(QStringLiteral("trap '' XFSZ; ulimit -f 16; exec \"$@\""),
+        const Outcome outcome = runInShell(QStringLiteral("ulimit -f 16; exec \"$@\""),
                                            {"--screenshot", target, "--columns", "SEED_K_HA", zones()});
         QCOMPARE(outcome.status, 1);
-        QVERIFY2(outcome.errors.startsWith(QStringLiteral("terminal-simulator: %1: ").arg(target)),
-                 qPrintable(outcome.errors));
-        QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+        QCOMPARE(outcome.errors, QStringLiteral("terminal-simulator: %1: File too large\n").arg(target));
         QCOMPARE(QDir(pictures.path()).entryList(QDir::Files | QDir::Hidden).size(), wasThere ? 1 : 0);
     }
-    QFile kept(target);
-    QVERIFY(kept.open(QIODevice::ReadOnly));
-    QCOMPARE(kept.readAll(), QByteArray("before"));
+    QCOMPARE(QImage(target).size(), QSize(3, 2));
 }
 
 void TestTerminalSimulator::outputIntoAFullDeviceIsAnError_data()
@@ -359,6 +356,11 @@ void TestTerminalSimulator::outputIntoAFullDeviceIsAnError_data()
                                           << "standard output";
     QTest::newRow("help") << QStringList{"--help"} << ">/dev/full"
                           << "standard output";
+    QTest::newRow("a point into a closed stream")
+        << QStringList{"--columns", "SEED_K_HA", "--describe", "0,0", zones()} << ">&-"
+        << "standard output";
+    QTest::newRow("help into a closed stream") << QStringList{"--help"} << ">&-"
+                                               << "standard output";
     QTest::newRow("a picture") << QStringList{"--screenshot", "/dev/full", zones()} << ""
                                << "/dev/full: ";
 }
