@@ -87,9 +87,9 @@ bool PrescriptionFile::unpack()
     const QString archive = ZipArchive::find(path, inner);
     if (archive.isEmpty())
         return true;
-    unpacked = std::make_unique<QTemporaryDir>();
+    unpacked = std::make_unique<UnpackingFolder>();
     if (!unpacked->isValid())
-        return fail(BackendText::tr("cannot be unpacked: %1").arg(unpacked->errorString()));
+        return fail(BackendText::tr("cannot be unpacked: %1").arg(unpacked->error()));
     ArchivedPrescription prescription(archive, inner);
     path = prescription.unpack(QDir(unpacked->path()));
     return !path.isEmpty() || fail(prescription.error());

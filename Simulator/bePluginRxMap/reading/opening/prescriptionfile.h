@@ -1,8 +1,9 @@
 #pragma once
 
+#include "unpackingfolder.h"
+
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <gdal_priv.h>
 #include <memory>
@@ -34,7 +35,7 @@ private:
     CPLStringList options() const;
 
     QString path;
-    std::unique_ptr<QTemporaryDir> unpacked;
+    std::unique_ptr<UnpackingFolder> unpacked;
     GDALDatasetUniquePtr data;
     QString reason;
 };

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+/// A folder for what is unpacked; it goes with this object. What a program left behind that was ended meanwhile goes
+/// when the next such folder is made.
+class UnpackingFolder {
+public:
+    /// How the folders' names begin, in the system's folder for temporary files.
+    static const char prefix[];
+
+    UnpackingFolder();
+    ~UnpackingFolder();
+
+    bool isValid() const { return folder.isValid(); }
+    QString path() const { return folder.path(); }
+    QString error() const { return folder.errorString(); }
+
+private:
+    Q_DISABLE_COPY(UnpackingFolder)
+
+    QTemporaryDir folder;
+    /// A descriptor of the folder whose lock says that it is in use.
+    int inUse;
+};
