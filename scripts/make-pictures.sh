@@ -24,7 +24,7 @@ mkdir -p "$pictures"
 photograph() {
     {
         echo "var sample = \"$sample\", pictures = \"$pictures\";"
-        cat Tests/EndToEnd/helpers.js "$1"
+        cat Tests/EndToEnd/scripts/helpers.js "$1"
     } >"$scratch/script.js"
     # The same display everywhere, whatever somebody has: the pictures are compared.
     with_virtual_display "$program" --script "$scratch/script.js" "${@:2}"
@@ -32,7 +32,7 @@ photograph() {
 
 photograph scripts/pictures/map.js
 photograph scripts/pictures/opening.js --open docs/examples/to-check.geojson
-photograph Tests/EndToEnd/drive-by-touch.js
+photograph Tests/EndToEnd/scripts/drive-by-touch.js
 
 # What a report shows of the second product: prescribed and applied, the third and fourth of its pictures.
 "$program" --drive "$scratch/report.html" "$sample" >/dev/null 2>"$scratch/progress" || {

@@ -48,7 +48,7 @@ SimulatorRun runOperatorScript(const QString &script, const QStringList &argumen
 
 QString scriptText(const QString &name)
 {
-    QFile file(sourcePath("Tests/EndToEnd/") + name);
+    QFile file(sourcePath("Tests/EndToEnd/scripts/") + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
