@@ -58,6 +58,16 @@ void LoadFindings::add(const MapFinding &finding)
     remark(finding.text);
 }
 
+void LoadFindings::add(MapFinding::Kind kind, const QString &text, int record)
+{
+    MapFinding finding;
+    finding.kind = kind;
+    finding.text = text;
+    if (record >= 0)
+        finding.records.append(record);
+    add(finding);
+}
+
 void LoadFindings::addCounted(MapFinding::Kind kind, const std::vector<int> &records, const Words &words,
                               const std::vector<PlanePolygon> &polygons)
 {

@@ -20,6 +20,8 @@ public:
     /// A remark on the load, not on the map.
     void remark(const QString &text);
     void add(const MapFinding &finding);
+    /// `record`: the one it is about, from 0; -1 for the whole file.
+    void add(MapFinding::Kind kind, const QString &text, int record = -1);
     /// One finding about all of these records, which it names; nothing where there are none. A record counts as often
     /// as it stands there. `polygons`: where the records that are polygons lie.
     void addCounted(MapFinding::Kind kind, const std::vector<int> &records, const Words &words,

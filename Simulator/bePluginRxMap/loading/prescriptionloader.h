@@ -37,24 +37,17 @@ private:
     bool surveyInto(LoadedMap &map, SurveyReport &survey);
     /// Reads the file and makes polygons of it on the map's plane.
     bool readPolygons(LoadedMap &map, ColumnJudge judge);
+    bool placePolygons(LoadedMap &map);
     bool fail(const QString &text);
-    void tell(MapFinding::Kind kind, const QString &text, int record = -1);
+    /// False, with the reason in the report, when the load was cancelled.
+    bool goesOn();
 
-    bool place(LoadedMap &map);
-    void placeBoundary(LoadedMap &map) const;
-    bool repairRings();
     /// Makes the products from the columns where the machine takes them from the file.
     void makeProducts();
     bool chooseColumns(LoadedMap &map);
-    void dropRecordsWithoutRate();
-    void dropHidden();
-    /// Tells of records that have a rate, but not in every column.
-    void tellGaps();
-    void countRings(LoadedMap &map) const;
     bool arrange();
     void makeChain(LoadedMap &map) const;
     void buildLegends(LoadedMap &map) const;
-    void reportCounts(LoadedMap &map);
 
     LoadRequest request;
     ColumnPolicy policy;
@@ -64,13 +57,9 @@ private:
     std::optional<LoadFindings> findings;
 
     RawPrescription source;
-    std::vector<double> xs;
-    std::vector<double> ys;
     /// Of the polygons' rings: had in few large blocks, and given back as such.
     std::pmr::monotonic_buffer_resource ringMemory;
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;
     RateTable rates;
-    /// What has no rate in any column, and is left out.
-    std::vector<PlanePolygon> withoutRate;
 };
