@@ -1,5 +1,6 @@
 #include "documentpage.h"
 
+#include "files.h"
 #include "paths.h"
 
 #include <QDir>
@@ -42,9 +43,7 @@ QStringList cellsOf(const QString &row)
 DocumentPage::DocumentPage(const QString &path)
     : name(path)
 {
-    QFile file(sourcePath("") + path);
-    if (file.open(QIODevice::ReadOnly))
-        content = QString::fromUtf8(file.readAll());
+    content = QString::fromUtf8(readFile(sourcePath("") + path));
 }
 
 QStringList DocumentPage::readersPages()

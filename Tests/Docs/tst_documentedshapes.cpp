@@ -1,4 +1,5 @@
 #include "documentpage.h"
+#include "files.h"
 #include "paths.h"
 #include "simulatorrun.h"
 #include "testbase.h"
@@ -94,18 +95,14 @@ QString callRow(const QString &call, int column)
 
 QJsonObject readJson(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    return QJsonDocument::fromJson(readFile(path)).object();
 }
 
 } // namespace
 
 void DocumentedShapesTest::initTestCase()
 {
-    QFile track(folder.filePath(QStringLiteral("track.csv")));
-    QVERIFY(track.open(QIODevice::WriteOnly));
-    track.write("time,x,y\n0,0,0\n1,3,0\nnothing\n2,6,0\n");
-    track.close();
+    writeFile(folder.filePath(QStringLiteral("track.csv")), "time,x,y\n0,0,0\n1,3,0\nnothing\n2,6,0\n");
     const SimulatorRun run = runScript(QStringLiteral(R"js(
 const folder = "%1";
 const returned = {open: terminal.open("%2"), bounds: terminal.bounds(), toField: terminal.toField(-93.4, 42.1),

@@ -1,4 +1,5 @@
 #include "documentpage.h"
+#include "files.h"
 #include "paths.h"
 #include "testbase.h"
 
@@ -44,10 +45,7 @@ QStringList allPages()
 QSet<QString> textsOf(const QString &catalogue)
 {
     QSet<QString> texts;
-    QFile file(catalogue);
-    if (!file.open(QIODevice::ReadOnly))
-        return texts;
-    for (QXmlStreamReader reader(&file); !reader.atEnd(); reader.readNext()) {
+    for (QXmlStreamReader reader(readFile(catalogue)); !reader.atEnd(); reader.readNext()) {
         if (reader.isStartElement() && reader.name() == QLatin1String("source"))
             texts.insert(reader.readElementText());
     }
@@ -70,11 +68,8 @@ QByteArray utf16(const QString &text)
 
 void DocumentedTextsTest::initTestCase()
 {
-    for (const QString &path : QStringLiteral(RXMAP_BINARIES).split(QLatin1Char('|'))) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        binaries += file.readAll();
-    }
+    for (const QString &path : QStringLiteral(RXMAP_BINARIES).split(QLatin1Char('|')))
+        binaries += readFile(path);
     translated = textsOf(sourcePath("Simulator/Terminal/translations/terminal_de.ts"))
         + textsOf(sourcePath("Plugins/uiPluginRxMap/translations/uiPluginRxMap_de.ts"));
     QVERIFY(translated.size() > 50);

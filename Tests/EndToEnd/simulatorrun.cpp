@@ -1,5 +1,6 @@
 #include "simulatorrun.h"
 
+#include "files.h"
 #include "paths.h"
 
 #include <QDir>
@@ -48,8 +49,7 @@ SimulatorRun runOperatorScript(const QString &script, const QStringList &argumen
 
 QString scriptText(const QString &name)
 {
-    QFile file(sourcePath("Tests/EndToEnd/scripts/") + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(readFile(sourcePath("Tests/EndToEnd/scripts/") + name));
 }
 
 QString sampleField()
@@ -65,11 +65,10 @@ QString simulatorProgram()
 
 QStringList darkDesktop(const QString &folder)
 {
-    QFile colors(QDir(folder).filePath(QStringLiteral("kdeglobals")));
-    if (!colors.open(QIODevice::WriteOnly))
-        return {};
+    QByteArray colors;
     for (const char *set : {"Window", "View", "Button"})
-        colors.write(QByteArray("[Colors:") + set + "]\nBackgroundNormal=20,20,20\nForegroundNormal=250,250,250\n");
+        colors += QByteArray("[Colors:") + set + "]\nBackgroundNormal=20,20,20\nForegroundNormal=250,250,250\n";
+    writeFile(QDir(folder).filePath(QStringLiteral("kdeglobals")), colors);
     return {QStringLiteral("XDG_CONFIG_HOME=") + folder, QStringLiteral("QT_QPA_PLATFORMTHEME=kde"),
             QStringLiteral("XDG_CURRENT_DESKTOP=KDE"), QStringLiteral("KDE_SESSION_VERSION=5"),
             QStringLiteral("QT_STYLE_OVERRIDE=Windows")};

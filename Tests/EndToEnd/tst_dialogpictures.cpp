@@ -1,3 +1,4 @@
+#include "files.h"
 #include "picture.h"
 #include "simulatorrun.h"
 #include "testbase.h"
@@ -74,10 +75,8 @@ void TestDialogPictures::photographNotUnderVraFromTheStart()
 
 void TestDialogPictures::photographWith(const QStringList &products, const QString &columns, const QString &state)
 {
-    QFile file(folder.filePath(state + QStringLiteral(".json")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QStringLiteral("[%1]").arg(products.join(QLatin1Char(','))).toUtf8());
-    file.close();
+    const QString file = writeFile(folder.filePath(state + QStringLiteral(".json")),
+                                   QStringLiteral("[%1]").arg(products.join(QLatin1Char(','))).toUtf8());
     const QString script = QStringLiteral(R"js(
 terminal.open("%1", {columns: [%2]});
 terminal.find("rxOptions").longTouch();
@@ -87,7 +86,7 @@ terminal.find("doneButton").touch();
 )js");
     const QString picture = folder.filePath(state + QStringLiteral(".png"));
     const SimulatorRun run =
-        runScript(script.arg(sampleField(), columns, picture), {QStringLiteral("--products"), file.fileName()});
+        runScript(script.arg(sampleField(), columns, picture), {QStringLiteral("--products"), file});
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
 }
 

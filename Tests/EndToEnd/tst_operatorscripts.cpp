@@ -1,3 +1,4 @@
+#include "files.h"
 #include "paths.h"
 #include "simulatorrun.h"
 #include "testbase.h"
@@ -119,9 +120,7 @@ void TestOperatorScripts::theLookAheadIsSeenInTheRates()
     runChecked(QStringLiteral("var zones = \"%1\"; var folder = \"%2\";\n")
                    .arg(sourcePath("Tests/fixtures/three-zones.geojson"), folder.path())
                + scriptText(QStringLiteral("look-ahead.js")));
-    QFile record(folder.filePath(QStringLiteral("rest.csv")));
-    QVERIFY(record.open(QIODevice::ReadOnly));
-    QCOMPARE(record.readAll().count('\n'), 201);
+    QCOMPARE(readFile(folder.filePath(QStringLiteral("rest.csv"))).count('\n'), 201);
 }
 
 void TestOperatorScripts::masterAndShutoffAreSeenInTheRates()

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "simulatorrun.h"
 #include "testbase.h"
 
@@ -44,9 +45,7 @@ double inBaseUnits(const QString &unit)
 
 QString writeProducts(const QTemporaryDir &folder, const QByteArray &products)
 {
-    QFile file(folder.filePath(QStringLiteral("products.json")));
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(products) == products.size();
-    return written ? file.fileName() : QString();
+    return writeFile(folder.filePath(QStringLiteral("products.json")), products);
 }
 
 } // namespace

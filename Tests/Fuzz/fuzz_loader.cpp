@@ -1,5 +1,6 @@
 // A byte for the format, then the parts of a prescription: each but the last after two bytes of its length.
 #include "chaincheck.h"
+#include "files.h"
 #include "fixture.h"
 #include "fuzzinput.h"
 #include "prescriptionloader.h"
@@ -36,8 +37,7 @@ void writeParts(const Format &format, const QTemporaryDir &folder, FuzzInput &in
 {
     for (const char *part : format.parts) {
         const QByteArray content = part == format.parts.back() ? input.rest() : input.bytes(input.number<quint16>());
-        QFile file(folder.filePath(QLatin1String(part)));
-        require(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), "the part can be written");
+        require(!writeFile(folder.filePath(QLatin1String(part)), content).isEmpty(), "the part can be written");
     }
 }
 

@@ -1,4 +1,5 @@
 // A script for a terminal of its own, in a folder with a prescription ("zones.geojson") and a track ("track.csv").
+#include "files.h"
 #include "fuzzinput.h"
 #include "paths.h"
 #include "scriptrunner.h"
@@ -19,9 +20,8 @@ bool enterFolder(const QString &folder)
 {
     // The user's own settings stay as they are.
     qputenv("XDG_CONFIG_HOME", folder.toLocal8Bit());
-    QFile track(folder + QStringLiteral("/track.csv"));
-    return QDir::setCurrent(folder) && track.open(QIODevice::WriteOnly)
-        && track.write("time,x,y\n0,0,0\n1,1,1\n2,2,2\n") > 0
+    return QDir::setCurrent(folder)
+        && !writeFile(QStringLiteral("track.csv"), "time,x,y\n0,0,0\n1,1,1\n2,2,2\n").isEmpty()
         && QFile::copy(TerminalHost::fixture(QStringLiteral("three-zones.geojson")), QStringLiteral("zones.geojson"));
 }
 

@@ -1,5 +1,6 @@
 #include "footprint.h"
 
+#include "files.h"
 #include "liveobjects.h"
 
 #include <QDir>
@@ -15,9 +16,8 @@ Footprint Footprint::now()
     malloc_trim(0);
     const struct mallinfo2 heap = mallinfo2();
     now.heap = qint64(heap.uordblks + heap.hblkhd);
-    QFile memory(QStringLiteral("/proc/self/statm"));
-    if (memory.open(QIODevice::ReadOnly))
-        now.resident = memory.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+    now.resident =
+        readFile(QStringLiteral("/proc/self/statm")).split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
     const auto entriesOf = [](const char *folder) {
         return QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
     };

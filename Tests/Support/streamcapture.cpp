@@ -1,5 +1,7 @@
 #include "streamcapture.h"
 
+#include "files.h"
+
 #include <QFile>
 
 #include <unistd.h>
@@ -22,6 +24,5 @@ StreamCapture::~StreamCapture()
 
 QString StreamCapture::written() const
 {
-    QFile reader(file.fileName());
-    return reader.open(QIODevice::ReadOnly) ? QString::fromUtf8(reader.readAll()) : QString();
+    return QString::fromUtf8(readFile(file.fileName()));
 }

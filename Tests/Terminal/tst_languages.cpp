@@ -1,4 +1,5 @@
 #include "Backend/prescriptionbackend.h"
+#include "files.h"
 #include "languages.h"
 #include "paths.h"
 #include "productfile.h"
@@ -48,24 +49,15 @@ void TestLanguages::aLanguageIsFoundByItsCode_data()
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("ownText");
-    QTest::newRow("de") << "de"
-                        << "Auf alle Produkte anwenden"
-                        << "PRODUKTE";
-    QTest::newRow("fr") << "fr"
-                        << "Appliquer à tous les produits"
-                        << "PRODUITS";
-    QTest::newRow("es") << "es"
-                        << "Aplicar a todos los productos"
-                        << "PRODUCTOS";
-    QTest::newRow("pt_BR") << "pt_BR"
-                           << "Aplicar a todos os produtos"
-                           << "PRODUTOS";
-    QTest::newRow("pt-br") << "pt-br"
-                           << "Aplicar a todos os produtos"
-                           << "PRODUTOS";
-    QTest::newRow("pt-BR") << "pt-BR"
-                           << "Aplicar a todos os produtos"
-                           << "PRODUTOS";
+    const auto row = [](const char *title, const char *code, const char *text, const char *ownText) {
+        QTest::newRow(title) << code << text << ownText;
+    };
+    row("de", "de", "Auf alle Produkte anwenden", "PRODUKTE");
+    row("fr", "fr", "Appliquer à tous les produits", "PRODUITS");
+    row("es", "es", "Aplicar a todos los productos", "PRODUCTOS");
+    row("pt_BR", "pt_BR", "Aplicar a todos os produtos", "PRODUTOS");
+    row("pt-br", "pt-br", "Aplicar a todos os produtos", "PRODUTOS");
+    row("pt-BR", "pt-BR", "Aplicar a todos os produtos", "PRODUTOS");
 }
 
 void TestLanguages::aLanguageIsFoundByItsCode()
@@ -108,9 +100,8 @@ void TestLanguages::everyTextOfTheDisplayIsTranslated_data()
 void TestLanguages::everyTextOfTheDisplayIsTranslated()
 {
     QFETCH(QString, code);
-    QFile file(sourcePath("Simulator/Terminal/translations/%1.ts").arg(code));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString catalogue = QString::fromUtf8(file.readAll());
+    const QString catalogue =
+        QString::fromUtf8(readFile(sourcePath("Simulator/Terminal/translations/%1.ts").arg(code)));
     QVERIFY(catalogue.count(QStringLiteral("<translation>")) > 10);
     QVERIFY(!catalogue.contains(QStringLiteral("type=\"unfinished\"")));
     QVERIFY(!catalogue.contains(QStringLiteral("<translation></translation>")));
@@ -195,12 +186,9 @@ void TestLanguages::aLanguageWithoutACatalogueIsRefused()
 void TestLanguages::aDamagedCatalogueIsNamed()
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("uiPluginRxMap_de.qm")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("no catalogue at all");
-    file.close();
+    const QString file = writeFile(folder.filePath(QStringLiteral("uiPluginRxMap_de.qm")), "no catalogue at all");
     const QString error = Languages::install(QStringLiteral("de"), QDir(folder.path()));
-    QVERIFY2(error.startsWith(file.fileName()), qPrintable(error));
+    QVERIFY2(error.startsWith(file), qPrintable(error));
 }
 
 RXMAP_TEST(TestLanguages, Core)

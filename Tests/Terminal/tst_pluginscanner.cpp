@@ -1,3 +1,4 @@
+#include "files.h"
 #include "pluginscanner.h"
 #include "testbase.h"
 
@@ -23,18 +24,11 @@ private:
     /// Copies a built module into `folder`.
     static bool put(const QString &module, const QTemporaryDir &folder) { return put(module, folder, module); }
     static bool put(const QString &module, const QTemporaryDir &folder, const QString &name);
-    static bool write(const QByteArray &content, const QString &name, const QTemporaryDir &folder);
 };
 
 bool TestPluginScanner::put(const QString &module, const QTemporaryDir &folder, const QString &name)
 {
     return QFile::copy(QStringLiteral(RXMAP_MODULES "/") + module, folder.filePath(name));
-}
-
-bool TestPluginScanner::write(const QByteArray &content, const QString &name, const QTemporaryDir &folder)
-{
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
 void TestPluginScanner::aGoodPluginIsFound()
@@ -52,20 +46,16 @@ void TestPluginScanner::brokenFilesAreReportedByNameAndReason_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("text") << "text.so"
-                          << "is no shared library";
-    QTest::newRow("empty") << "empty.so"
-                           << "is no shared library";
-    QTest::newRow("cut off") << "cutoff.so"
-                             << "is no Qt plug-in";
-    QTest::newRow("library") << "plainlibrary.so"
-                             << "is no Qt plug-in";
-    QTest::newRow("other identifier") << "otheridentifier.so"
-                                      << "has the identifier \"com.example.ImageFormat/1.0\"";
-    QTest::newRow("missing symbol") << "missingsymbol.so"
-                                    << "rxmapFunctionThatNobodyHas";
-    QTest::newRow("lacks the interface") << "lacksinterface.so"
-                                         << "lacks the interface \"com.orvik.UiPluginInterface/4\"";
+    const auto row = [](const char *title, const char *file, const char *reason) {
+        QTest::newRow(title) << file << reason;
+    };
+    row("text", "text.so", "is no shared library");
+    row("empty", "empty.so", "is no shared library");
+    row("cut off", "cutoff.so", "is no Qt plug-in");
+    row("library", "plainlibrary.so", "is no Qt plug-in");
+    row("other identifier", "otheridentifier.so", "has the identifier \"com.example.ImageFormat/1.0\"");
+    row("missing symbol", "missingsymbol.so", "rxmapFunctionThatNobodyHas");
+    row("lacks the interface", "lacksinterface.so", "lacks the interface \"com.orvik.UiPluginInterface/4\"");
 }
 
 void TestPluginScanner::brokenFilesAreReportedByNameAndReason()
@@ -74,14 +64,15 @@ void TestPluginScanner::brokenFilesAreReportedByNameAndReason()
     QFETCH(QString, reason);
     QTemporaryDir folder;
     if (file == QLatin1String("text.so"))
-        QVERIFY(write("not a library\n", file, folder));
+        QVERIFY(!writeFile(folder.filePath(file), "not a library\n").isEmpty());
     else if (file == QLatin1String("empty.so"))
-        QVERIFY(write("", file, folder));
+        QVERIFY(!writeFile(folder.filePath(file), "").isEmpty());
     else if (file == QLatin1String("cutoff.so"))
-        QVERIFY(write(QByteArray("\x7f"
-                                 "ELF\x02\x01\x01",
-                                 7),
-                      file, folder));
+        QVERIFY(!writeFile(folder.filePath(file),
+                           QByteArray("\x7f"
+                                      "ELF\x02\x01\x01",
+                                      7))
+                     .isEmpty());
     else
         QVERIFY(put(file, folder));
     const PluginScanner::Findings findings = PluginScanner::scan(QDir(folder.path()));
@@ -99,7 +90,7 @@ void TestPluginScanner::brokenFilesDoNotHideAGoodOne()
     QVERIFY(put(QStringLiteral("lacksinterface.so"), folder));
     QVERIFY(put(QStringLiteral("goodplugin.so"), folder));
     QVERIFY(put(QStringLiteral("plainlibrary.so"), folder));
-    QVERIFY(write("readme", QStringLiteral("readme.txt"), folder));
+    QVERIFY(!writeFile(folder.filePath(QStringLiteral("readme.txt")), "readme").isEmpty());
     const PluginScanner::Findings findings = PluginScanner::scan(QDir(folder.path()));
     QCOMPARE(findings.plugins.size(), 1);
     QCOMPARE(findings.complaints.size(), 2);

@@ -1,5 +1,6 @@
 #include "fieldscene.h"
 #include "fieldview.h"
+#include "files.h"
 #include "layerwriter.h"
 #include "legendpanel.h"
 #include "machine.h"
@@ -78,14 +79,11 @@ void TestTerminal::aMapThatIsLoadedAgainTakesTheDefaultRatesInUse()
 void TestTerminal::farMapsAreFramedOneByOne()
 {
     QTemporaryDir folder;
-    QFile source(TerminalHost::fixture("overlap.geojson"));
-    QFile far(folder.filePath(QStringLiteral("far.geojson")));
-    QVERIFY(source.open(QIODevice::ReadOnly) && far.open(QIODevice::WriteOnly));
-    far.write(source.readAll().replace("5500", "5530"));
-    far.close();
+    const QString far = writeFile(folder.filePath(QStringLiteral("far.geojson")),
+                                  readFile(TerminalHost::fixture("overlap.geojson")).replace("5500", "5530"));
     QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
     const QRectF near = terminal().bounds().value();
-    const LoadReport report = terminal().open({{far.fileName()}, {QString(), QStringLiteral("rate")}}).first();
+    const LoadReport report = terminal().open({{far}, {QString(), QStringLiteral("rate")}}).first();
     QVERIFY(report.isOk());
     QVERIFY(report.warnings.join(QLatin1Char(' ')).contains(QStringLiteral("30 km")));
     QCOMPARE(terminal().bounds().value(), near);
@@ -102,13 +100,10 @@ void TestTerminal::farMapsAreFramedOneByOne()
 void TestTerminal::aMapThatFeedsNothingIsNotFramed()
 {
     QTemporaryDir folder;
-    QFile source(TerminalHost::fixture("overlap.geojson"));
-    QFile neighbour(folder.filePath(QStringLiteral("neighbour.geojson")));
-    QVERIFY(source.open(QIODevice::ReadOnly) && neighbour.open(QIODevice::WriteOnly));
-    neighbour.write(source.readAll().replace("5500", "5509"));
-    neighbour.close();
+    const QString neighbour = writeFile(folder.filePath(QStringLiteral("neighbour.geojson")),
+                                        readFile(TerminalHost::fixture("overlap.geojson")).replace("5500", "5509"));
     QVERIFY(open("overlap.geojson", {"rate"}).isOk());
-    const LoadReport report = terminal().open({{neighbour.fileName()}, {QStringLiteral("rate")}}).first();
+    const LoadReport report = terminal().open({{neighbour}, {QStringLiteral("rate")}}).first();
     QVERIFY(report.isOk());
     // Both lie on one plane, and only the second feeds the product.
     QVERIFY(terminal().bounds()->height() > 9000.0);

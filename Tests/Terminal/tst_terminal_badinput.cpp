@@ -1,5 +1,6 @@
 #include "fieldscene.h"
 #include "fieldview.h"
+#include "files.h"
 #include "layerwriter.h"
 #include "machine.h"
 #include "terminalhost.h"
@@ -80,8 +81,7 @@ QString TestTerminalBadInput::write(const LayerSketch &sketch, const QString &na
 
 QString TestTerminalBadInput::writeText(const QString &name)
 {
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write("This is no map.\n") > 0 ? file.fileName() : QString();
+    return writeFile(folder.filePath(name), "This is no map.\n");
 }
 
 QString TestTerminalBadInput::truncated(const QString &name)

@@ -1,6 +1,7 @@
 #include "activemap.h"
 #include "fieldscene.h"
 #include "fieldview.h"
+#include "files.h"
 #include "legendpanel.h"
 #include "machine.h"
 #include "mapoverlay.h"
@@ -27,10 +28,9 @@ QString writeRow(const QTemporaryDir &folder, int cells)
                             .arg(west + 0.001, 0, 'f', 3)
                             .arg(i + 1));
     }
-    QFile file(folder.filePath(QStringLiteral("row.geojson")));
-    file.open(QIODevice::WriteOnly);
-    file.write(QStringLiteral(R"({"type":"FeatureCollection","features":[%1]})").arg(features.join(',')).toUtf8());
-    return file.fileName();
+    return writeFile(
+        folder.filePath(QStringLiteral("row.geojson")),
+        QStringLiteral(R"({"type":"FeatureCollection","features":[%1]})").arg(features.join(',')).toUtf8());
 }
 
 } // namespace

@@ -38,6 +38,9 @@ void tst_NumericEntry::takesOnlyKeysWithinTheLimits_data()
     QTest::addColumn<Limits>("limits");
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
+    const auto row = [](const char *title, const Limits &limits, const QString &keys, const char *text) {
+        QTest::newRow(title) << limits << keys << text;
+    };
 
     const Limits none = [](NumericEntry &) {};
     const Limits threeAndOne = [](NumericEntry &entry) { entry.setSizeLimits(3, 1); };
@@ -50,75 +53,43 @@ void tst_NumericEntry::takesOnlyKeysWithinTheLimits_data()
     const Limits belowZero = [](NumericEntry &entry) { entry.setRange(-50.0, -10.0, 0); };
     const Limits tenths = [](NumericEntry &entry) { entry.setRange(0.1, 0.3, 1); };
 
-    QTest::newRow("a fourth digit") << threeAndOne << "1234"
-                                    << "123";
-    QTest::newRow("the most digits") << threeAndOne << "999.9"
-                                     << "999.9";
-    QTest::newRow("a second decimal") << threeAndOne << "2.57"
-                                      << "2.5";
-    QTest::newRow("two decimals where there may be two") << threeAndTwo << "2.57"
-                                                         << "2.57";
-    QTest::newRow("a second point") << threeAndTwo << "2.5.7"
-                                    << "2.57";
-    QTest::newRow("the point of a whole number") << threeAndNone << "2.5"
-                                                 << "25";
-    QTest::newRow("no digit before the point") << noneAndTwo << "5.25"
-                                               << "0.25";
-    QTest::newRow("a minus in a size") << threeAndOne << "-5"
-                                       << "5";
-    QTest::newRow("a letter") << threeAndOne << "e5x"
-                              << "5";
-    QTest::newRow("a foreign digit") << threeAndOne << QString(QChar(0x0665)) + QLatin1Char('5') << "5";
-    QTest::newRow("a leading point") << threeAndOne << ".5"
-                                     << "0.5";
-    QTest::newRow("a digit after a lone zero") << threeAndOne << "0075"
-                                               << "75";
-    QTest::newRow("zeros after the point") << threeAndTwo << "0.05"
-                                           << "0.05";
+    row("a fourth digit", threeAndOne, "1234", "123");
+    row("the most digits", threeAndOne, "999.9", "999.9");
+    row("a second decimal", threeAndOne, "2.57", "2.5");
+    row("two decimals where there may be two", threeAndTwo, "2.57", "2.57");
+    row("a second point", threeAndTwo, "2.5.7", "2.57");
+    row("the point of a whole number", threeAndNone, "2.5", "25");
+    row("no digit before the point", noneAndTwo, "5.25", "0.25");
+    row("a minus in a size", threeAndOne, "-5", "5");
+    row("a letter", threeAndOne, "e5x", "5");
+    row("a foreign digit", threeAndOne, QString(QChar(0x0665)) + QLatin1Char('5'), "5");
+    row("a leading point", threeAndOne, ".5", "0.5");
+    row("a digit after a lone zero", threeAndOne, "0075", "75");
+    row("zeros after the point", threeAndTwo, "0.05", "0.05");
 
-    QTest::newRow("the largest value") << toFiveThousand << "5000.0"
-                                       << "5000.0";
-    QTest::newRow("over by a digit") << toFiveThousand << "5001"
-                                     << "500";
-    QTest::newRow("over by a decimal") << toFiveThousand << "5000.1"
-                                       << "5000.";
-    QTest::newRow("over by a place") << toFiveThousand << "12345"
-                                     << "1234";
-    QTest::newRow("a second decimal of a range") << toFiveThousand << "12.34"
-                                                 << "12.3";
-    QTest::newRow("a minus over zero") << toFiveThousand << "-1"
-                                       << "1";
+    row("the largest value", toFiveThousand, "5000.0", "5000.0");
+    row("over by a digit", toFiveThousand, "5001", "500");
+    row("over by a decimal", toFiveThousand, "5000.1", "5000.");
+    row("over by a place", toFiveThousand, "12345", "1234");
+    row("a second decimal of a range", toFiveThousand, "12.34", "12.3");
+    row("a minus over zero", toFiveThousand, "-1", "1");
 
-    QTest::newRow("below, but may grow") << tenToFifty << "12"
-                                         << "12";
-    QTest::newRow("cannot become large enough") << tenToFifty << "6"
-                                                << "";
-    QTest::newRow("zero below the range") << tenToFifty << "0"
-                                          << "";
-    QTest::newRow("a decimal below the range") << tenToFifty << "1.5"
-                                               << "15";
+    row("below, but may grow", tenToFifty, "12", "12");
+    row("cannot become large enough", tenToFifty, "6", "");
+    row("zero below the range", tenToFifty, "0", "");
+    row("a decimal below the range", tenToFifty, "1.5", "15");
 
-    QTest::newRow("a negative value") << aroundZero << "-12.5"
-                                      << "-12.5";
-    QTest::newRow("under by a decimal") << aroundZero << "-12.51"
-                                        << "-12.5";
-    QTest::newRow("over on the other side") << aroundZero << "8"
-                                            << "";
-    QTest::newRow("a minus inside") << aroundZero << "1-2"
-                                    << "1";
-    QTest::newRow("a point after the minus") << aroundZero << "-.5"
-                                             << "-0.5";
-    QTest::newRow("a negative range") << belowZero << "-7-20"
-                                      << "-20";
-    QTest::newRow("a positive value in a negative range") << belowZero << "20"
-                                                          << "";
-    QTest::newRow("limits that no double holds") << tenths << "0.3"
-                                                 << "0.3";
-    QTest::newRow("beyond limits that no double holds") << tenths << "0.4"
-                                                        << "0.";
+    row("a negative value", aroundZero, "-12.5", "-12.5");
+    row("under by a decimal", aroundZero, "-12.51", "-12.5");
+    row("over on the other side", aroundZero, "8", "");
+    row("a minus inside", aroundZero, "1-2", "1");
+    row("a point after the minus", aroundZero, "-.5", "-0.5");
+    row("a negative range", belowZero, "-7-20", "-20");
+    row("a positive value in a negative range", belowZero, "20", "");
+    row("limits that no double holds", tenths, "0.3", "0.3");
+    row("beyond limits that no double holds", tenths, "0.4", "0.");
 
-    QTest::newRow("no limits") << none << "-123456.654321"
-                               << "-123456.654321";
+    row("no limits", none, "-123456.654321", "-123456.654321");
 }
 
 void tst_NumericEntry::takesOnlyKeysWithinTheLimits()
@@ -136,29 +107,23 @@ void tst_NumericEntry::saysWhyAKeyIsNotTaken_data()
     QTest::addColumn<Limits>("limits");
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("reason");
+    const auto row = [](const char *title, const Limits &limits, const char *keys, const QString &reason) {
+        QTest::newRow(title) << limits << keys << reason;
+    };
     const Limits none = [](NumericEntry &) {};
     const Limits threeAndOne = [](NumericEntry &entry) { entry.setSizeLimits(3, 1); };
     const Limits whole = [](NumericEntry &entry) { entry.setRange(-5.0, 40.0, 0); };
-    QTest::newRow("a key that is taken") << threeAndOne << "2" << QString();
-    QTest::newRow("the last digit that is taken") << threeAndOne << "999.9" << QString();
-    QTest::newRow("a digit too many") << threeAndOne << "1234"
-                                      << "Beyond 0 \u2013 999.9";
-    QTest::newRow("a decimal too many") << threeAndOne << "2.57"
-                                        << "Decimals: 1 at most";
-    QTest::newRow("a minus") << threeAndOne << "-"
-                             << "Beyond 0 \u2013 999.9";
-    QTest::newRow("below the range") << whole << "-6"
-                                     << "Beyond -5 \u2013 40";
-    QTest::newRow("above the range") << whole << "41"
-                                     << "Beyond -5 \u2013 40";
-    QTest::newRow("the point of a whole number") << whole << "3."
-                                                 << "Whole numbers only";
-    QTest::newRow("a second point") << threeAndOne << "2.5."
-                                    << "That would be no number";
-    QTest::newRow("a letter") << threeAndOne << "2x"
-                              << "That would be no number";
-    QTest::newRow("without limits") << none << "12345678901234567"
-                                    << "Too many digits";
+    row("a key that is taken", threeAndOne, "2", QString());
+    row("the last digit that is taken", threeAndOne, "999.9", QString());
+    row("a digit too many", threeAndOne, "1234", "Beyond 0 \u2013 999.9");
+    row("a decimal too many", threeAndOne, "2.57", "Decimals: 1 at most");
+    row("a minus", threeAndOne, "-", "Beyond 0 \u2013 999.9");
+    row("below the range", whole, "-6", "Beyond -5 \u2013 40");
+    row("above the range", whole, "41", "Beyond -5 \u2013 40");
+    row("the point of a whole number", whole, "3.", "Whole numbers only");
+    row("a second point", threeAndOne, "2.5.", "That would be no number");
+    row("a letter", threeAndOne, "2x", "That would be no number");
+    row("without limits", none, "12345678901234567", "Too many digits");
 }
 
 void tst_NumericEntry::saysWhyAKeyIsNotTaken()

@@ -27,32 +27,18 @@ void TestShownNumber::aLanguageHasItsOwnSeparators_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("plain");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("English") << "en"
-                             << "12345.60"
-                             << "12,345.60";
-    QTest::newRow("German") << "de"
-                            << "12345.60"
-                            << "12.345,60";
-    QTest::newRow("German, a fraction") << "de"
-                                        << "0.07"
-                                        << "0,07";
-    QTest::newRow("German, below zero") << "de"
-                                        << "-1234.5"
-                                        << "-1.234,5";
-    QTest::newRow("German, whole") << "de"
-                                   << "5932"
-                                   << "5.932";
-    QTest::newRow("German, a power of ten") << "de"
-                                            << "1.23457e+06"
-                                            << "1,23457e+06";
-    QTest::newRow("Portuguese of Brazil") << "pt_BR"
-                                          << "1234.5"
-                                          << "1.234,5";
-    QTest::newRow("French") << "fr"
-                            << "1234.5" << QStringLiteral("1\u202f234,5");
-    QTest::newRow("none chosen") << "C"
-                                 << "12345.60"
-                                 << "12345.60";
+    const auto row = [](const char *title, const char *language, const char *plain, const QString &shown) {
+        QTest::newRow(title) << language << plain << shown;
+    };
+    row("English", "en", "12345.60", "12,345.60");
+    row("German", "de", "12345.60", "12.345,60");
+    row("German, a fraction", "de", "0.07", "0,07");
+    row("German, below zero", "de", "-1234.5", "-1.234,5");
+    row("German, whole", "de", "5932", "5.932");
+    row("German, a power of ten", "de", "1.23457e+06", "1,23457e+06");
+    row("Portuguese of Brazil", "pt_BR", "1234.5", "1.234,5");
+    row("French", "fr", "1234.5", QStringLiteral("1\u202f234,5"));
+    row("none chosen", "C", "12345.60", "12345.60");
 }
 
 void TestShownNumber::aLanguageHasItsOwnSeparators()

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "machinebench.h"
 #include "recorder.h"
 #include "testbase.h"
@@ -34,11 +35,7 @@ private Q_SLOTS:
 private:
     /// Drives 5 s over a border, 4 m/s, and records it.
     QString drive(const QString &name);
-    static QList<QByteArray> lines(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
-    }
+    static QList<QByteArray> lines(const QString &path) { return readFile(path).split('\n'); }
 
     QScopedPointer<QTemporaryDir> folder;
     QTemporaryDir links;
@@ -93,9 +90,7 @@ void TestRecorder::twoDrivesAreTheSameToTheByte()
     QFETCH(QString, name);
     QByteArray records[2];
     for (QByteArray &record : records) {
-        QFile file(drive(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        record = file.readAll();
+        record = readFile(drive(name));
         // What a clock would change, changes from one second to the next.
         QTest::qWait(&record == &records[0] ? 1100 : 0);
     }

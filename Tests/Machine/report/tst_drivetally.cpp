@@ -1,5 +1,6 @@
 #include "drivetally.h"
 #include "fielddrive.h"
+#include "files.h"
 #include "machinebench.h"
 #include "testbase.h"
 #include "vehicle.h"
@@ -104,11 +105,9 @@ void TestDriveTally::areasAreThoseOfTheStripsCutWithTheMap()
 {
     QFETCH(int, seed);
     std::mt19937 random(static_cast<unsigned>(seed));
-    QFile file(folder.filePath(QStringLiteral("map.geojson")));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(randomMap(random)) > 0);
-    file.close();
+    const QString file = writeFile(folder.filePath(QStringLiteral("map.geojson")), randomMap(random));
     MachineBench bench;
-    const LoadReport report = bench.load(file.fileName(), {QStringLiteral("A")});
+    const LoadReport report = bench.load(file, {QStringLiteral("A")});
     QVERIFY2(report.isOk(), qPrintable(report.error));
     const auto *map = qobject_cast<DbGroupRxMap *>(bench.broker.getGroup(report.group, false));
     MachineSize size = bench.simulation.vehicle()->size();

@@ -1,18 +1,12 @@
+#include "files.h"
 #include "paths.h"
-#include "terminalhost.h"
-#include "testbase.h"
+#include "programtest.h"
 
 #include <QFileInfo>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 /// The program as it is started from a shell.
-class TestTerminalSimulator : public TestBase {
+class TestTerminalSimulator : public ProgramTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -39,73 +33,7 @@ private Q_SLOTS:
     void outputIntoAFullDeviceIsAnError();
     void aDriverWithoutShadersIsNamed_data();
     void aDriverWithoutShadersIsNamed();
-    void aFieldIsDrivenWithoutADisplay();
-    void aReportIsAPageInTheChosenLanguageAndUnits();
-    void whatCannotBeDrivenEndsWithOneLine_data();
-    void whatCannotBeDrivenEndsWithOneLine();
-
-private:
-    struct Outcome {
-        int status;
-        QString output;
-        QString errors;
-    };
-
-    static Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment);
-    static Outcome run(const QStringList &arguments, const QProcessEnvironment &environment);
-    static Outcome run(const QStringList &arguments)
-    {
-        return run(arguments, QProcessEnvironment::systemEnvironment());
-    }
-    /// The program with its arguments behind it as a shell's "$@".
-    static Outcome runInShell(const QString &line, const QStringList &arguments);
-    static QProcessEnvironment withoutDisplay()
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("DISPLAY"));
-        // Qt's platform for no display keeps its screen to the end, which is no leak of the program's.
-        environment.insert(QStringLiteral("ASAN_OPTIONS"),
-                           environment.value(QStringLiteral("ASAN_OPTIONS")) + ":detect_leaks=0");
-        return environment;
-    }
-    static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
-    QString write(const QByteArray &content, const QString &name);
-
-    QTemporaryDir folder;
 };
-
-TestTerminalSimulator::Outcome TestTerminalSimulator::run(const QStringList &arguments,
-                                                          const QProcessEnvironment &environment)
-{
-    return run(QStringLiteral(RXMAP_PROGRAM), arguments, environment);
-}
-
-TestTerminalSimulator::Outcome TestTerminalSimulator::runInShell(const QString &line, const QStringList &arguments)
-{
-    return run(QStringLiteral("/bin/sh"),
-               QStringList({QStringLiteral("-c"), line, QStringLiteral("sh"), QStringLiteral(RXMAP_PROGRAM)})
-                   + arguments,
-               QProcessEnvironment::systemEnvironment());
-}
-
-TestTerminalSimulator::Outcome TestTerminalSimulator::run(const QString &program, const QStringList &arguments,
-                                                          const QProcessEnvironment &environment)
-{
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, QString(),
-                QStringLiteral("did not end by itself: ") + QString::fromUtf8(process.readAllStandardError())};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-QString TestTerminalSimulator::write(const QByteArray &content, const QString &name)
-{
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
-}
 
 void TestTerminalSimulator::badArgumentsEndWithOneLine_data()
 {
@@ -222,10 +150,7 @@ void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
     QTemporaryDir plugins;
     QVERIFY(QFile::copy(buildPath("Plugins/uiPluginRxMap/libuiPluginRxMap.so"),
                         plugins.filePath(QStringLiteral("libuiPluginRxMap.so"))));
-    QFile broken(plugins.filePath(QStringLiteral("libbroken.so")));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("text");
-    broken.close();
+    writeFile(plugins.filePath(QStringLiteral("libbroken.so")), "text");
     const Outcome outcome =
         run({"--plugin-dir", plugins.path(), "--columns", "SEED_K_HA", "--describe", "0,0", zones()});
     QCOMPARE(outcome.status, 0);
@@ -404,96 +329,6 @@ void TestTerminalSimulator::aDriverWithoutShadersIsNamed()
     QVERIFY2(outcome.errors.contains(lack), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFile::exists(path));
-}
-
-void TestTerminalSimulator::aFieldIsDrivenWithoutADisplay()
-{
-    const QProcessEnvironment environment = withoutDisplay();
-    QByteArray records[2];
-    for (QByteArray &record : records) {
-        const QString report = folder.filePath(QStringLiteral("report.json"));
-        const QString recordPath = folder.filePath(QStringLiteral("drive.csv"));
-        // Tuning leaves the drive that is recorded as it is.
-        QStringList arguments{"--drive", report, "--record", recordPath, "--columns", "SEED_K_HA", zones()};
-        const bool isTuned = &record == &records[0];
-        if (isTuned)
-            arguments.prepend("--tune");
-        const Outcome outcome = run(arguments, environment);
-        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-        QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("driving: \\d0 %, about \\d+ s left"))),
-                 qPrintable(outcome.output));
-        QFile file(report);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QJsonObject all = QJsonDocument::fromJson(file.readAll()).object();
-        QCOMPARE(all.value(QStringLiteral("file")).toString(), zones());
-        const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
-        QCOMPARE(seed.value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 16);
-        // Dead time and time constant of the standard machine's seed, within a step.
-        QVERIFY(!isTuned || std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
-        QFile rows(recordPath);
-        QVERIFY(rows.open(QIODevice::ReadOnly));
-        record = rows.readAll();
-    }
-    QVERIFY(records[0].count('\n') > 5000);
-    QCOMPARE(records[0], records[1]);
-}
-
-void TestTerminalSimulator::aReportIsAPageInTheChosenLanguageAndUnits()
-{
-    const QString path = folder.filePath(QStringLiteral("report.html"));
-    const Outcome outcome = run(
-        {"--drive", path, "--language", "de", "--units", "us", "--columns", "SEED_K_HA", zones()}, withoutDisplay());
-    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray page = file.readAll();
-    QVERIFY(page.startsWith("<!DOCTYPE html>") && page.endsWith("</html>\n"));
-    for (const char *text : {"Bericht einer Fahrt", "Seed (k/ac)", "Ausgebracht", "three-zones.geojson"})
-        QVERIFY2(page.contains(text), text);
-}
-
-void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("reason");
-    const QString report = folder.filePath(QStringLiteral("report-of-nothing.json"));
-    const QString linkedZones = folder.filePath(QStringLiteral("zones.gpkg"));
-    QFile::link(zones(), linkedZones);
-    const auto products = [this](const char *name, const QByteArray &machine) {
-        return write("{" + machine + R"(, "products": [{"name": "A", "kind": "count"}]})", QLatin1String(name));
-    };
-    QTest::newRow("field narrower than the machine")
-        << QStringList{"--drive", report, "--products", products("wide.json", R"("width": 150)")}
-        << zones() + ": the field is 100.0 m wide, narrower than the machine's 150 m";
-    QTest::newRow("no width") << QStringList{"--drive", report, "--products", products("none.json", R"("width": 0)")}
-                              << folder.filePath(QStringLiteral("none.json"))
-            + ": \"width\" is 0; a number from 0.5 to 200 is wanted";
-    QTest::newRow("report nowhere") << QStringList{"--drive", "/nowhere/a.json"} << "/nowhere/a.json: ";
-    QDir(folder.path()).mkdir(QStringLiteral("folder.html"));
-    QTest::newRow("report is a folder") << QStringList{"--drive", folder.filePath(QStringLiteral("folder.html"))}
-                                        << folder.filePath(QStringLiteral("folder.html")) + ": is a folder, not a file";
-    QFile::link(QStringLiteral("/dev/full"), folder.filePath(QStringLiteral("full.html")));
-    QTest::newRow("report on a full disk")
-        << QStringList{"--drive", folder.filePath(QStringLiteral("full.html"))}
-        << folder.filePath(QStringLiteral("full.html")) + ": No space left on device";
-    QTest::newRow("record is the prescription")
-        << QStringList{"--drive", report, "--record", linkedZones} << linkedZones + ": is the prescription itself";
-    const QString productFile = products("mine.json", R"("width": 12)");
-    QTest::newRow("report is the products' file") << QStringList{"--drive", productFile, "--products", productFile}
-                                                  << productFile + ": is the products' file itself";
-    QTest::newRow("record nowhere") << QStringList{"--drive", report, "--record", "/nowhere/a.csv"}
-                                    << "/nowhere/a.csv: No such file or directory";
-}
-
-void TestTerminalSimulator::whatCannotBeDrivenEndsWithOneLine()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, reason);
-    const Outcome outcome = run(arguments + QStringList{"--columns", "SEED_K_HA", zones()}, withoutDisplay());
-    QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.startsWith("terminal-simulator: " + reason), qPrintable(outcome.errors));
-    QCOMPARE(outcome.errors.count('\n'), 1);
-    QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
 }
 
 RXMAP_TEST(TestTerminalSimulator, Core)

@@ -60,33 +60,23 @@ void TestScriptRunner::anUncaughtErrorNamesFileAndLine_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("error");
-    QTest::newRow("thrown error") << "\n\nthrow new Error('broken');"
-                                  << "test.js:3: Error: broken";
-    QTest::newRow("thrown text") << "throw 'broken';"
-                                 << "test.js: Error: broken";
-    QTest::newRow("unknown name") << "var a = 1;\nnothing();"
-                                  << "test.js:2: ReferenceError: nothing is not defined";
-    QTest::newRow("syntax") << "\nvar = 3;"
-                            << "test.js:2: SyntaxError: ";
-    QTest::newRow("unknown property") << "\nterminal.foo = 1;"
-                                      << "test.js:2: TypeError: the terminal has no \"foo\"";
-    QTest::newRow("refused value") << "\nterminal.activeProduct = 99;"
-                                   << "test.js:2: Error: no product 99";
+    const auto row = [](const char *title, const QString &program, const char *error) {
+        QTest::newRow(title) << program << error;
+    };
+    row("thrown error", "\n\nthrow new Error('broken');", "test.js:3: Error: broken");
+    row("thrown text", "throw 'broken';", "test.js: Error: broken");
+    row("unknown name", "var a = 1;\nnothing();", "test.js:2: ReferenceError: nothing is not defined");
+    row("syntax", "\nvar = 3;", "test.js:2: SyntaxError: ");
+    row("unknown property", "\nterminal.foo = 1;", "test.js:2: TypeError: the terminal has no \"foo\"");
+    row("refused value", "\nterminal.activeProduct = 99;", "test.js:2: Error: no product 99");
     const QString endless = QStringLiteral("var list = [1]; list[1] = list;\n");
-    QTest::newRow("endless list printed") << endless + "print(list);"
-                                          << "test.js:2: RangeError: ";
-    QTest::newRow("endless list thrown") << endless + "throw list;"
-                                         << "test.js: Error: what was thrown has no text";
-    QTest::newRow("endless message") << "var e = new Error; e.message = e; throw e;"
-                                     << "test.js: Error: what was thrown has no text";
-    QTest::newRow("long text printed") << "\nprint('x'.repeat(17000000));"
-                                       << "test.js:2: RangeError: a text of more than";
-    QTest::newRow("long list printed") << "\nprint(new Array(1e9));"
-                                       << "test.js:2: RangeError: a text of more than";
-    QTest::newRow("long text thrown") << "throw 'x'.repeat(17000000);"
-                                      << "test.js: Error: xxx";
-    QTest::newRow("long message") << "\nthrow new Error('x'.repeat(17000000));"
-                                  << "test.js:2: Error: xxx";
+    row("endless list printed", endless + "print(list);", "test.js:2: RangeError: ");
+    row("endless list thrown", endless + "throw list;", "test.js: Error: what was thrown has no text");
+    row("endless message", "var e = new Error; e.message = e; throw e;", "test.js: Error: what was thrown has no text");
+    row("long text printed", "\nprint('x'.repeat(17000000));", "test.js:2: RangeError: a text of more than");
+    row("long list printed", "\nprint(new Array(1e9));", "test.js:2: RangeError: a text of more than");
+    row("long text thrown", "throw 'x'.repeat(17000000);", "test.js: Error: xxx");
+    row("long message", "\nthrow new Error('x'.repeat(17000000));", "test.js:2: Error: xxx");
 }
 
 void TestScriptRunner::anUncaughtErrorNamesFileAndLine()

@@ -80,34 +80,29 @@ void TestScriptValue::whatIsNoSuchRecordIsRefused_data()
     QTest::addColumn<QVariant>("plain");
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("reason");
+    const auto row = [](const char *title, const QVariant &plain, int type, const char *reason) {
+        QTest::newRow(title) << plain << type << reason;
+    };
     const int settings = qMetaTypeId<QList<RX_SETTINGS>>();
-    QTest::newRow("no list") << QVariant(5) << settings << "a list is expected";
-    QTest::newRow("list of numbers") << QVariant(QVariantList{5}) << settings << "an object is expected";
-    QTest::newRow("unknown field") << QVariant(QVariantList{QVariantMap{{"speed", 5}}}) << settings
-                                   << "unknown field \"speed\"";
-    QTest::newRow("wrong type") << QVariant(QVariantMap{{"x", "east"}}) << qMetaTypeId<XYZ>()
-                                << "\"x\" has the wrong type";
+    row("no list", QVariant(5), settings, "a list is expected");
+    row("list of numbers", QVariant(QVariantList{5}), settings, "an object is expected");
+    row("unknown field", QVariant(QVariantList{QVariantMap{{"speed", 5}}}), settings, "unknown field \"speed\"");
+    row("wrong type", QVariant(QVariantMap{{"x", "east"}}), qMetaTypeId<XYZ>(), "\"x\" has the wrong type");
     const auto setting = [](const char *field, const QVariant &value) {
         return QVariant(QVariantList{QVariantMap{{field, value}}});
     };
-    QTest::newRow("fraction for a whole number")
-        << setting("onLookAheadMs", 1.6) << settings << "\"onLookAheadMs\" has the wrong type";
-    QTest::newRow("too great a number") << setting("onLookAheadMs", 1e12) << settings
-                                        << "\"onLookAheadMs\" has the wrong type";
-    QTest::newRow("no number") << setting("onLookAheadMs", qQNaN()) << settings
-                               << "\"onLookAheadMs\" has the wrong type";
-    QTest::newRow("word for a truth") << setting("isMaster", "nonsense") << settings
-                                      << "\"isMaster\" has the wrong type";
-    QTest::newRow("word for a colour") << QVariant(
-        QVariantList{QVariant(QVariantList{QVariantMap{{"rate", 1.0}, {"color", "reddish"}}})})
-                                       << qMetaTypeId<QList<QList<RX_RATECOLOR>>>() << "\"color\" has the wrong type";
-    QTest::newRow("fraction for an index")
-        << QVariant(QVariantList{QVariantMap{{"auxIndices", QVariantList{1, 2.5}}}})
-        << qMetaTypeId<QList<RX_DBFCOLUMN_TO_RATECAL_MAPPING>>() << "a whole number is expected";
-    QTest::newRow("rate beyond single precision")
-        << QVariant(QVariantList{1e300}) << qMetaTypeId<QList<float>>() << "a number is expected";
-    QTest::newRow("texts for rates") << QVariant(QVariantList{"much"}) << qMetaTypeId<QList<float>>()
-                                     << "a number is expected";
+    row("fraction for a whole number", setting("onLookAheadMs", 1.6), settings, "\"onLookAheadMs\" has the wrong type");
+    row("too great a number", setting("onLookAheadMs", 1e12), settings, "\"onLookAheadMs\" has the wrong type");
+    row("no number", setting("onLookAheadMs", qQNaN()), settings, "\"onLookAheadMs\" has the wrong type");
+    row("word for a truth", setting("isMaster", "nonsense"), settings, "\"isMaster\" has the wrong type");
+    row("word for a colour",
+        QVariant(QVariantList{QVariant(QVariantList{QVariantMap{{"rate", 1.0}, {"color", "reddish"}}})}),
+        qMetaTypeId<QList<QList<RX_RATECOLOR>>>(), "\"color\" has the wrong type");
+    row("fraction for an index", QVariant(QVariantList{QVariantMap{{"auxIndices", QVariantList{1, 2.5}}}}),
+        qMetaTypeId<QList<RX_DBFCOLUMN_TO_RATECAL_MAPPING>>(), "a whole number is expected");
+    row("rate beyond single precision", QVariant(QVariantList{1e300}), qMetaTypeId<QList<float>>(),
+        "a number is expected");
+    row("texts for rates", QVariant(QVariantList{"much"}), qMetaTypeId<QList<float>>(), "a number is expected");
 }
 
 void TestScriptValue::whatIsNoSuchRecordIsRefused()

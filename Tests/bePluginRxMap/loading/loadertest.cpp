@@ -1,5 +1,7 @@
 #include "loadertest.h"
 
+#include <cmath>
+
 using OrvikTypes::RX_POLYGON;
 
 std::unique_ptr<LoadedMap> LoaderTest::load(const LoadRequest &request, const std::vector<LocalPlane> &planes)
@@ -11,6 +13,22 @@ std::unique_ptr<LoadedMap> LoaderTest::load(const LoadRequest &request, const st
 std::unique_ptr<LoadedMap> LoaderTest::load(const QString &path, const QStringList &columns)
 {
     return load(requestFor(path, columns));
+}
+
+LoadRequest LoaderTest::usualRequest(const QString &path)
+{
+    using Info = DbGroupProductGroupInfo;
+    LoadRequest request = requestFor(path);
+    request.products[0].kind = Info::CountRate;
+    request.products[1].kind = Info::WeightRate;
+    request.products[2].kind = Info::VolumeRate;
+    return request;
+}
+
+double LoaderTest::rateAt(const LoadedMap &map, double x, double y, int mapping)
+{
+    const RateLookup::Answer answer = map.lookup->ratesAt(x, y);
+    return answer.rates.isEmpty() ? std::nan("") : double(answer.rates.at(mapping));
 }
 
 double LoaderTest::areaOf(const LoadedMap &map)

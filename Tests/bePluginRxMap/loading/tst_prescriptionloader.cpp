@@ -1,3 +1,4 @@
+#include "files.h"
 #include "gdalsession.h"
 #include "loadertest.h"
 
@@ -188,17 +189,15 @@ void PrescriptionLoaderTest::saysThatACoordinateSystemCannotBeRead()
     sketch.fields = {{"rate", 1.0}};
     sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
     const QString path = write(sketch, "a.shp");
-    QFile file(folder.filePath(QStringLiteral("a.prj")));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(definition) == definition.size());
-    file.close();
+    const QString reference = folder.filePath(QStringLiteral("a.prj"));
+    writeFile(reference, definition);
     const auto map = load(path);
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
     QCOMPARE(map->report.warnings,
              QStringList(path + QStringLiteral(": ") + said + QStringLiteral("; taken as WGS 84")));
     sketch.rows = {{squareText(700000.0, 5300000.0, 100.0), {1.0}}};
     QCOMPARE(write(sketch, "a.shp"), path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(definition) == definition.size());
-    file.close();
+    writeFile(reference, definition);
     QCOMPARE(load(path)->report.error,
              path + QStringLiteral(": ") + said
                  + QStringLiteral(", and its coordinates are no longitudes and latitudes"));

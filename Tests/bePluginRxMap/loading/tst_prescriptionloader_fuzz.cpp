@@ -1,5 +1,6 @@
 // Damaged files: whatever the bytes, a load ends with a map that holds together or with one line that says why not.
 #include "chaincheck.h"
+#include "files.h"
 #include "fixture.h"
 #include "layerwriter.h"
 #include "prescriptionloader.h"
@@ -124,10 +125,7 @@ void PrescriptionLoaderFuzz::survivesDamagedTaskData()
 
 void PrescriptionLoaderFuzz::loadDamaged(const QString &target, const QString &part, unsigned records, int rounds)
 {
-    QFile file(part);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray whole = file.readAll();
-    file.close();
+    const QByteArray whole = readFile(part);
 
     const auto load = [&target] { return PrescriptionLoader(requestFor(target), {}, LoadControl()).load(); };
     const auto undamaged = load();
@@ -138,9 +136,7 @@ void PrescriptionLoaderFuzz::loadDamaged(const QString &target, const QString &p
     std::mt19937 random(static_cast<unsigned>(whole.size()));
     int loaded = 0;
     for (int round = 0; round < rounds; ++round) {
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(damaged(whole, random));
-        file.close();
+        writeFile(part, damaged(whole, random));
         const auto map = load();
         if (map->report.isOk())
             QVERIFY(holdsTogether(*map));

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "fixture.h"
 #include "paths.h"
 #include "prescriptionloader.h"
@@ -44,12 +45,9 @@ void SampleFieldTest::isWhatItsProgramMakes()
     QTemporaryDir made;
     const QString path = made.filePath(QStringLiteral("sample-field.shp"));
     QCOMPARE(QProcess::execute(QStringLiteral(RXMAP_MAKE_SAMPLE), {path}), 0);
-    QFile fresh(made.filePath(QStringLiteral("sample-field.") + extension));
-    QFile kept(folder() + QStringLiteral("/sample-field.") + extension);
-    QVERIFY(fresh.open(QIODevice::ReadOnly));
-    QVERIFY(kept.open(QIODevice::ReadOnly));
-    QVERIFY(kept.size() > 0);
-    QVERIFY(fresh.readAll() == kept.readAll());
+    const QByteArray kept = readFile(folder() + QStringLiteral("/sample-field.") + extension);
+    QVERIFY(!kept.isEmpty());
+    QVERIFY(readFile(made.filePath(QStringLiteral("sample-field.") + extension)) == kept);
 }
 
 void SampleFieldTest::coversAboutFortyHectares()

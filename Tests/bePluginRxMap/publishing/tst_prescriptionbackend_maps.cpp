@@ -1,4 +1,5 @@
 #include "backendtest.h"
+#include "files.h"
 
 #include "bePluginRxMap/rxmaploader.h"
 
@@ -142,13 +143,8 @@ void PrescriptionBackendMapsTest::sharesOnePlaneAmongNeighbouringMaps()
 void PrescriptionBackendMapsTest::givesAFarMapAPlaneOfItsOwn()
 {
     QTemporaryDir folder;
-    const QString far = folder.filePath(QStringLiteral("far.geojson"));
-    QFile file(fixture("overlap.geojson"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QFile copy(far);
-    QVERIFY(copy.open(QIODevice::WriteOnly));
-    copy.write(file.readAll().replace("5500", "5530"));
-    copy.close();
+    const QString far = writeFile(folder.filePath(QStringLiteral("far.geojson")),
+                                  readFile(fixture("overlap.geojson")).replace("5500", "5530"));
     load("three-zones.geojson");
     const LoadReport report = backend->loadAndWait(requestFor(far));
     QVERIFY2(report.isOk(), qPrintable(report.error));

@@ -27,10 +27,6 @@ private Q_SLOTS:
     void refusesWhatALoadRefuses();
     void publishesNothing();
     void isCancelled();
-    void unitsAreThoseThatRatesOfTheKindAreWrittenIn_data();
-    void unitsAreThoseThatRatesOfTheKindAreWrittenIn();
-    void takesRatesToBaseUnits_data();
-    void takesRatesToBaseUnits();
 
 private:
     SurveyReport survey(const LoadRequest &request);
@@ -315,53 +311,6 @@ void PrescriptionBackendSurveyTest::isCancelled()
     const auto report = surveyed.first().first().value<SurveyReport>();
     QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
     QVERIFY(survey(requestFor(fixture("three-zones.geojson"))).isOk());
-}
-
-void PrescriptionBackendSurveyTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("amounts");
-    using Info = DbGroupProductGroupInfo;
-    QTest::newRow("count") << int(Info::CountRate) << "1000 seeds million";
-    QTest::newRow("weight") << int(Info::WeightRate) << "kg g mg dt t lb oz cwt ton";
-    QTest::newRow("volume") << int(Info::VolumeRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";
-    QTest::newRow("injection") << int(Info::InjectionRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";
-    for (const auto kind : {Info::RatioRate, Info::PressureRate, Info::UnknownRate})
-        QTest::addRow("kind %d", int(kind)) << int(kind) << "";
-}
-
-void PrescriptionBackendSurveyTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn()
-{
-    QFETCH(int, kind);
-    const auto rateKind = DbGroupProductGroupInfo::RateKind(kind);
-    const RateUnitParts parts = PrescriptionBackend::rateUnits(rateKind);
-    QTEST(parts.amounts.join(QLatin1Char(' ')), "amounts");
-    QCOMPARE(parts.areas.isEmpty(), parts.amounts.isEmpty());
-    for (const QString &amount : parts.amounts) {
-        for (const QString &area : parts.areas)
-            QVERIFY2(PrescriptionBackend::rateFactor(amount + QLatin1Char('/') + area, rateKind) > 0.0,
-                     qPrintable(amount + QLatin1Char('/') + area));
-    }
-}
-
-void PrescriptionBackendSurveyTest::takesRatesToBaseUnits_data()
-{
-    QTest::addColumn<QString>("unit");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<double>("factor");
-    using Info = DbGroupProductGroupInfo;
-    QTest::newRow("base") << "kg/ha" << int(Info::WeightRate) << 1.0;
-    QTest::newRow("lb/ac") << "lb/ac" << int(Info::WeightRate) << 0.45359237 / 0.40468564224;
-    QTest::newRow("oz of a liquid") << "oz/ac" << int(Info::VolumeRate) << 3.785411784 / 128.0 / 0.40468564224;
-    QTest::newRow("other basis") << "L/ha" << int(Info::WeightRate) << 0.0;
-    QTest::newRow("none") << "" << int(Info::WeightRate) << 0.0;
-}
-
-void PrescriptionBackendSurveyTest::takesRatesToBaseUnits()
-{
-    QFETCH(QString, unit);
-    QFETCH(int, kind);
-    QTEST(PrescriptionBackend::rateFactor(unit, DbGroupProductGroupInfo::RateKind(kind)), "factor");
 }
 
 RXMAP_TEST(PrescriptionBackendSurveyTest, Core)

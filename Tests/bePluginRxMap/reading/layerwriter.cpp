@@ -1,5 +1,6 @@
 #include "layerwriter.h"
 
+#include "files.h"
 #include "gdalsession.h"
 
 #include <QFile>
@@ -96,8 +97,7 @@ bool packFiles(const QString &archive, const QList<QPair<QString, QString>> &fil
     VSILFILE *open = VSIFOpenL(whole.constData(), "wb");
     bool isPacked = open != nullptr;
     for (const auto &[name, path] : files) {
-        QFile source(path);
-        const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+        const QByteArray bytes = readFile(path);
         VSILFILE *entry = VSIFOpenL((whole + '/' + name.toUtf8()).constData(), "wb");
         const auto size = static_cast<size_t>(bytes.size());
         isPacked = isPacked && entry != nullptr && VSIFWriteL(bytes.constData(), 1, size, entry) == size

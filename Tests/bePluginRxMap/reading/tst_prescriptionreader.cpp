@@ -1,4 +1,5 @@
 #include "columnpolicy.h"
+#include "files.h"
 #include "readertest.h"
 
 #include <algorithm>
@@ -99,11 +100,7 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead()
     QFETCH(QString, name);
     QFETCH(QByteArray, content);
     QFETCH(QString, reason);
-    QFile file(folder->filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    QVERIFY(!read(folder->filePath(name)));
+    QVERIFY(!read(writeFile(folder->filePath(name), content)));
     QVERIFY(!error.isEmpty());
     QVERIFY(!error.contains(QLatin1Char('\n')));
     QVERIFY2(error.contains(reason), qPrintable(error));

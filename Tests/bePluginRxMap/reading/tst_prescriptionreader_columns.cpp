@@ -1,3 +1,4 @@
+#include "files.h"
 #include "readertest.h"
 
 #include <cmath>
@@ -113,13 +114,11 @@ void PrescriptionReaderColumnsTest::refusesATableOfTooManyColumns()
     QByteArray properties;
     for (int i = 0; i < 10000; ++i)
         properties += (i == 0 ? "\"rate_" : ", \"rate_") + QByteArray::number(i) + "\": 1.5";
-    QFile file(path("a.geojson"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
+    writeFile(
+        path("a.geojson"),
         "{\"type\": \"FeatureCollection\", \"features\": [{\"type\": \"Feature\", \"properties\": {" + properties
-        + "}, \"geometry\": {\"type\": \"Polygon\", \"coordinates\": [[[11, 48], [11.001, 48], [11, 48.001], [11, "
-          "48]]]}}]}");
-    file.close();
+            + "}, \"geometry\": {\"type\": \"Polygon\", \"coordinates\": [[[11, 48], [11.001, 48], [11, 48.001], [11, "
+              "48]]]}}]}");
     QVERIFY(!read(path("a.geojson")));
     QCOMPARE(error, QStringLiteral("has 10000 columns; files with more than 2048 are not read"));
 }
@@ -210,12 +209,9 @@ void PrescriptionReaderColumnsTest::refusesAColumnThatHoldsNoNumbers()
 
 void PrescriptionReaderColumnsTest::leavesTrueAndFalseOutOfTheLikelyColumns()
 {
-    QFile file(path("a.geojson"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"({"type": "FeatureCollection", "features": [{"type": "Feature",
+    writeFile(path("a.geojson"), R"({"type": "FeatureCollection", "features": [{"type": "Feature",
         "properties": {"rate": true, "rate_b": 7.5},
         "geometry": {"type": "Polygon", "coordinates": [[[11, 48], [11.001, 48], [11, 48.001], [11, 48]]]}}]})");
-    file.close();
     QVERIFY2(read(path("a.geojson")), qPrintable(error));
     QCOMPARE(map.columns.size(), size_t(1));
     QCOMPARE(map.columns[0].name, QStringLiteral("rate_b"));

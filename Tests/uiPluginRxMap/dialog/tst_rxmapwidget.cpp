@@ -1,3 +1,4 @@
+#include "files.h"
 #include "testbase.h"
 #include "widgetpage.h"
 
@@ -103,11 +104,8 @@ void TestRxMapWidget::theFontIsTheTerminals()
 {
     QFETCH(QByteArray, settings);
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("terminal.ini")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(settings);
-    file.close();
-    DialogHost host(3, file.fileName());
+    const QString file = writeFile(folder.filePath(QStringLiteral("terminal.ini")), settings);
+    DialogHost host(3, file);
     WidgetPage page(host);
     QTEST(widgetFont(page.widget).family(), "family");
     QCOMPARE(widgetFont(page.widget).weight(), 50);

@@ -127,44 +127,27 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog_data()
     QTest::addColumn<bool>("settingsWritten");
     QTest::addColumn<double>("mappingRate");
     QTest::addColumn<double>("loaderRate");
+    const auto row = [](const char *title, const char *missing, const char *lookAhead, const QString &caption,
+                        const char *rate, bool settingsWritten, double mappingRate, double loaderRate) {
+        QTest::newRow(title) << missing << lookAhead << caption << rate << settingsWritten << mappingRate << loaderRate;
+    };
     const QString caption = QStringLiteral("Default Rate (kg/ha)");
-    QTest::newRow("nothing") << "nothing"
-                             << "3.0" << caption << "4" << true << 12.5 << 12.5;
-    QTest::newRow("map") << "map"
-                         << "0.0" << caption << "????" << false << 4.0 << 12.5;
-    QTest::newRow("other class") << "map of another class"
-                                 << "0.0" << caption << "????" << false << 4.0 << 12.5;
-    QTest::newRow("settings") << "settings"
-                              << "0.0" << caption << "4" << false << 12.5 << 12.5;
-    QTest::newRow("units") << "units"
-                           << "3.0"
-                           << ""
-                           << "0" << true << 4.0 << 3.0;
-    QTest::newRow("gps") << "gps"
-                         << "3.0" << caption << "4" << true << 12.5 << 12.5;
+    row("nothing", "nothing", "3.0", caption, "4", true, 12.5, 12.5);
+    row("map", "map", "0.0", caption, "????", false, 4.0, 12.5);
+    row("other class", "map of another class", "0.0", caption, "????", false, 4.0, 12.5);
+    row("settings", "settings", "0.0", caption, "4", false, 12.5, 12.5);
+    row("units", "units", "3.0", "", "0", true, 4.0, 3.0);
+    row("gps", "gps", "3.0", caption, "4", true, 12.5, 12.5);
     // No product has given its factors yet, so that what is typed counts as 0.
-    QTest::newRow("products") << "products"
-                              << "3.0"
-                              << ""
-                              << "0" << true << 0.0 << 3.0;
+    row("products", "products", "3.0", "", "0", true, 0.0, 3.0);
     // The factors are those of the product before.
-    QTest::newRow("node") << "node"
-                          << "3.0"
-                          << ""
-                          << "4" << true << 12.5 << 12.5;
-    QTest::newRow("loader") << "loader"
-                            << "3.0" << caption << "4" << true << 12.5 << 3.0;
+    row("node", "node", "3.0", "", "4", true, 12.5, 12.5);
+    row("loader", "loader", "3.0", caption, "4", true, 12.5, 3.0);
     // Without bins no product is under control, so Done cancels; the master falls to the first product.
-    QTest::newRow("bins") << "bins"
-                          << "3.0" << caption << "4" << false << 4.0 << 12.5;
-    QTest::newRow("images") << "images"
-                            << "3.0" << caption << "4" << true << 12.5 << 12.5;
-    QTest::newRow("group removed") << "group removed while open"
-                                   << "3.0" << caption << "4" << false << 4.0 << 12.5;
-    QTest::newRow("everything") << "everything"
-                                << "0.0"
-                                << ""
-                                << "????" << false << 4.0 << 3.0;
+    row("bins", "bins", "3.0", caption, "4", false, 4.0, 12.5);
+    row("images", "images", "3.0", caption, "4", true, 12.5, 12.5);
+    row("group removed", "group removed while open", "3.0", caption, "4", false, 4.0, 12.5);
+    row("everything", "everything", "0.0", "", "????", false, 4.0, 3.0);
 }
 
 void TestDialogMissing::missingPiecesLeaveAUsableDialog()

@@ -69,7 +69,8 @@ QFont font(int pixels, bool bold = false);
 
 /// Fills a rounded panel.
 void drawPanel(QPainter &painter, const QRectF &area, const QColor &color);
-/// Whether what has the keyboard is marked: a finger has no use for that. False where it was so already.
+/// Whether what has the keyboard is marked: a finger has no use for that. False where it was so already. By design one
+/// for the whole program, as the theme is: there is one operator, and controls of every window draw themselves by it.
 bool showFocus(bool isShown);
 bool isFocusShown();
 /// Frames what has the keyboard.

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "samplegroup.h"
 #include "testbase.h"
 
@@ -68,11 +69,9 @@ void TestDataBrokerValues::settingsAreReadByDottedPath()
     QFETCH(QByteArray, setting);
     QFETCH(QString, value);
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("terminal.ini")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\nlanguage=de\n[main.general]\nfont=DejaVu Sans\n[display]\ncontrast=7\nunit=\xe2\x80\xb0\n");
-    file.close();
-    const DataBroker broker(file.fileName());
+    const DataBroker broker(writeFile(
+        folder.filePath(QStringLiteral("terminal.ini")),
+        "[General]\nlanguage=de\n[main.general]\nfont=DejaVu Sans\n[display]\ncontrast=7\nunit=\xe2\x80\xb0\n"));
     QVariant found;
     QCOMPARE(broker.getIniSetting(setting.constData(), found, QStringLiteral("other"), true),
              int(DataBrokerGroup::Success));

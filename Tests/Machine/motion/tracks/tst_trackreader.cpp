@@ -1,4 +1,5 @@
 #include "allocationmeter.h"
+#include "files.h"
 #include "testbase.h"
 #include "trackreader.h"
 
@@ -42,9 +43,7 @@ void TestTrackReader::init()
 
 QString TestTrackReader::write(const QByteArray &content)
 {
-    const QString path = folder.filePath(QStringLiteral("track"));
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? path : QString();
+    return writeFile(folder.filePath(QStringLiteral("track")), content);
 }
 
 QByteArray TestTrackReader::withChecksum(const QByteArray &body)

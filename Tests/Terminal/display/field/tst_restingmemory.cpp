@@ -1,4 +1,5 @@
 #include "fieldviewtest.h"
+#include "files.h"
 
 #include <QFile>
 
@@ -10,9 +11,7 @@ namespace {
 /// Of this process, megabytes.
 double residentMegabytes()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray &line : status.readAll().split('\n')) {
+    for (const QByteArray &line : readFile(QStringLiteral("/proc/self/status")).split('\n')) {
         if (line.startsWith("VmRSS:"))
             return line.mid(6).trimmed().split(' ').front().toDouble() / 1024.0;
     }

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "gdalsession.h"
 #include "layerwriter.h"
 #include "prescriptionfile.h"
@@ -32,7 +33,6 @@ private:
     /// Packs files; "name=fixture" packs the file of that name in `files` under another one.
     bool pack(const QStringList &entries) const { return pack(archive(), entries); }
     bool pack(const QString &path, const QStringList &entries) const;
-    static QByteArray bytesOf(const QString &path);
     QString errorOf(const QString &path) const;
 
     QTemporaryDir folder;
@@ -52,11 +52,8 @@ void ArchivedPrescriptionTest::initTestCase()
     QVERIFY(sketch.write(files.filePath("a.kml")));
     sketch.name = "other";
     QVERIFY(sketch.write(files.filePath("b.kml")));
-    QFile links(files.filePath("links.kml"));
-    QVERIFY(links.open(QIODevice::WriteOnly) && links.write("<kml><Document><NetworkLink/></Document></kml>") > 0);
-    links.close();
-    QFile text(files.filePath("a.json"));
-    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("{\"crop\": \"maize\"}") > 0);
+    writeFile(files.filePath("links.kml"), "<kml><Document><NetworkLink/></Document></kml>");
+    writeFile(files.filePath("a.json"), "{\"crop\": \"maize\"}");
 }
 
 void ArchivedPrescriptionTest::init()
@@ -73,12 +70,6 @@ bool ArchivedPrescriptionTest::pack(const QString &path, const QStringList &entr
     return packFiles(path, packed);
 }
 
-QByteArray ArchivedPrescriptionTest::bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QString ArchivedPrescriptionTest::errorOf(const QString &path) const
 {
     const GdalSession session;
@@ -91,28 +82,22 @@ void ArchivedPrescriptionTest::opensThePrescriptionOfAnArchive_data()
     QTest::addColumn<QStringList>("entries");
     QTest::addColumn<QString>("inner");
     QTest::addColumn<QString>("layer");
+    const auto row = [](const char *title, const QStringList &entries, const char *inner, const char *layer) {
+        QTest::newRow(title) << entries << inner << layer;
+    };
     const QStringList shapes{"a.shp", "a.shx", "a.dbf", "a.prj"};
     const QStringList capitals{"NORTH/A.SHP=a.shp", "NORTH/A.SHX=a.shx", "NORTH/A.DBF=a.dbf", "NORTH/A.PRJ=a.prj"};
     const QStringList two = capitals + QStringList{"south/b.gpkg=a.gpkg"};
-    QTest::newRow("Shapefile") << shapes << ""
-                               << "a";
-    QTest::newRow("Shapefile in a folder, in capitals") << capitals << ""
-                                                        << "A";
-    QTest::newRow("GeoPackage") << QStringList{"a.gpkg"} << ""
-                                << "layer";
-    QTest::newRow("KML") << QStringList{"doc.kml=a.kml", "files/a.png=a.json"} << ""
-                         << "layer";
-    QTest::newRow("beside a description")
-        << QStringList{"about.json=a.json", "a.gpkg", "__MACOSX/a.gpkg=a.json", "._a.gpkg=a.json"} << ""
-        << "layer";
-    QTest::newRow("beside an archive") << QStringList{"old.zip=a.json", "a.gpkg"} << ""
-                                       << "layer";
-    QTest::newRow("one of two") << two << "/north/a.shp"
-                                << "A";
-    QTest::newRow("the other one") << two << "/south/b.gpkg"
-                                   << "layer";
-    QTest::newRow("the one in a folder") << two << "/north"
-                                         << "A";
+    row("Shapefile", shapes, "", "a");
+    row("Shapefile in a folder, in capitals", capitals, "", "A");
+    row("GeoPackage", QStringList{"a.gpkg"}, "", "layer");
+    row("KML", QStringList{"doc.kml=a.kml", "files/a.png=a.json"}, "", "layer");
+    row("beside a description", QStringList{"about.json=a.json", "a.gpkg", "__MACOSX/a.gpkg=a.json", "._a.gpkg=a.json"},
+        "", "layer");
+    row("beside an archive", QStringList{"old.zip=a.json", "a.gpkg"}, "", "layer");
+    row("one of two", two, "/north/a.shp", "A");
+    row("the other one", two, "/south/b.gpkg", "layer");
+    row("the one in a folder", two, "/north", "A");
 }
 
 void ArchivedPrescriptionTest::opensThePrescriptionOfAnArchive()
@@ -202,28 +187,24 @@ void ArchivedPrescriptionTest::refusesDamage()
     QFETCH(int, place);
     QFETCH(QByteArray, bytes);
     QVERIFY(pack({"in/a.gpkg=a.gpkg"}));
-    QByteArray content = bytesOf(archive());
+    QByteArray content = readFile(archive());
     const int begin = content.lastIndexOf(part);
     QVERIFY(begin > 0);
     content.replace(begin + place, bytes.size(), bytes);
-    QFile file(archive());
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
+    writeFile(archive(), content);
     QTEST(errorOf(archive()), "reason");
 }
 
 void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
 {
     QVERIFY(pack({"a.shp", "a.shx", "a.dbf"}));
-    QByteArray content = bytesOf(archive());
+    QByteArray content = readFile(archive());
     // Each says that it has 100 MB.
     int parts = 0;
     for (int at = content.indexOf("PK\x01\x02"); at >= 0; at = content.indexOf("PK\x01\x02", at + 1), ++parts)
         content.replace(at + 24, 4, QByteArray("\0\0\x40\6", 4));
     QCOMPARE(parts, 3);
-    QFile file(archive());
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
+    writeFile(archive(), content);
     QCOMPARE(errorOf(archive()), QStringLiteral("\"a.shp\" in it has more than 256 MB"));
 }
 
@@ -247,9 +228,7 @@ void ArchivedPrescriptionTest::checksWhatIsStoredWithoutCompression()
         QByteArray whole = file + directory + end;
         if (isDamaged)
             whole.replace("[]", "{}");
-        QFile packed(archive());
-        QVERIFY(packed.open(QIODevice::WriteOnly) && packed.write(whole) == whole.size());
-        packed.close();
+        writeFile(archive(), whole);
         QCOMPARE(errorOf(archive()), isDamaged ? "\"a.geojson\" in it is damaged" : "is opened");
     }
 }

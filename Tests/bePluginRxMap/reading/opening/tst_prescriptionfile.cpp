@@ -1,3 +1,4 @@
+#include "files.h"
 #include "gdalsession.h"
 #include "layerwriter.h"
 #include "prescriptionfile.h"
@@ -154,9 +155,7 @@ void PrescriptionFileTest::writesNothingBesideTheFile()
             GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
         written->ReleaseResultSet(written->ExecuteSQL("PRAGMA journal_mode = WAL", nullptr, nullptr));
     }
-    QFile content(path);
-    QVERIFY(content.open(QIODevice::ReadOnly));
-    const QByteArray before = content.readAll();
+    const QByteArray before = readFile(path);
     const QStringList files = QDir(folder.path()).entryList(QDir::Files);
     QStringList filesMeanwhile;
     {
@@ -168,8 +167,7 @@ void PrescriptionFileTest::writesNothingBesideTheFile()
     }
     QCOMPARE(filesMeanwhile, files);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), files);
-    QVERIFY(content.seek(0));
-    QCOMPARE(content.readAll(), before);
+    QCOMPARE(readFile(path), before);
 }
 
 void PrescriptionFileTest::readsWhatStandsInAJournal()

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "layerwriter.h"
 #include "shapefilecheck.h"
 #include "testbase.h"
@@ -44,15 +45,12 @@ void ShapefileCheckTest::init()
 
 QByteArray ShapefileCheckTest::content(const char *extension) const
 {
-    QFile file(part(extension));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(part(extension));
 }
 
 void ShapefileCheckTest::replace(const char *extension, const QByteArray &bytes) const
 {
-    QFile file(part(extension));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(bytes);
+    writeFile(part(extension), bytes);
 }
 
 void ShapefileCheckTest::findsNothingWrongWithAWholeShapefile()

@@ -1,5 +1,7 @@
 #include "taskdatasketch.h"
 
+#include "files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QtEndian>
@@ -7,12 +9,6 @@
 #include <cpl_conv.h>
 
 namespace {
-
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 QByteArray degrees(double value)
 {
@@ -39,9 +35,9 @@ QByteArray TaskDataSketch::xml() const
 
 bool TaskDataSketch::write(const QString &folder) const
 {
-    bool isWritten = QDir().mkpath(folder) && writeFile(folder + '/' + QString::fromLatin1(mainFile), xml());
+    bool isWritten = QDir().mkpath(folder) && !writeFile(folder + '/' + QString::fromLatin1(mainFile), xml()).isEmpty();
     for (auto file = files.begin(); file != files.end(); ++file)
-        isWritten = writeFile(folder + '/' + QString::fromLatin1(file.key()), *file) && isWritten;
+        isWritten = !writeFile(folder + '/' + QString::fromLatin1(file.key()), *file).isEmpty() && isWritten;
     return isWritten;
 }
 

@@ -1,5 +1,6 @@
 // Task data that cannot be used: one line each, with file and place.
 
+#include "files.h"
 #include "readertest.h"
 #include "taskdatasketch.h"
 
@@ -129,11 +130,8 @@ void TaskDataReaderRefusalsTest::refusesWhatItCannotRead()
 void TaskDataReaderRefusalsTest::refusesCutOffXml()
 {
     const QByteArray whole = Sketch{Sketch::task("TSK1", zone())}.xml();
-    QFile file(path("TASKDATA.XML"));
     for (int size = 0; size < whole.size() - 1; size += 7) {
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(whole.left(size));
-        file.close();
+        writeFile(path("TASKDATA.XML"), whole.left(size));
         map = RawPrescription();
         QVERIFY2(!read(folder->path()), qPrintable(QString::number(size)));
         QVERIFY2(error.startsWith("TASKDATA.XML, line ") && !error.contains('\n'), qPrintable(error));

@@ -44,22 +44,18 @@ void TestDialogRateUnits::aRateIsShownAndStoredInItsUnit_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<double>("stored");
-    QTest::newRow("count, us") << "count" << 0 << "Default Rate (k/ac)"
-                               << "20" << 32.0;
-    QTest::newRow("ratio, metric") << "ratio" << 1 << "Default Rate (L/L)"
-                                   << "40" << 16.0;
-    QTest::newRow("injection, turf") << "injection" << 2 << "Default Rate (fl oz/tu)"
-                                     << "80" << 8.0;
-    QTest::newRow("volume, us") << "volume" << 0 << "Default Rate (gal/ac)"
-                                << "160" << 4.0;
-    QTest::newRow("weight, us") << "weight" << 0 << "Default Rate (lb/ac)"
-                                << "320" << 2.0;
-    QTest::newRow("weight, metric") << "weight" << 1 << "Default Rate (kg/ha)"
-                                    << "320" << 2.0;
-    QTest::newRow("weight, turf") << "weight" << 2 << "Default Rate (lb/tu)"
-                                  << "320" << 2.0;
-    QTest::newRow("pressure") << "pressure" << 2 << "Default Rate (bar)"
-                              << "640" << 1.0;
+    const auto row = [](const char *title, const char *kind, int areaUnitSystem, const char *caption, const char *shown,
+                        double stored) {
+        QTest::newRow(title) << kind << areaUnitSystem << caption << shown << stored;
+    };
+    row("count, us", "count", 0, "Default Rate (k/ac)", "20", 32.0);
+    row("ratio, metric", "ratio", 1, "Default Rate (L/L)", "40", 16.0);
+    row("injection, turf", "injection", 2, "Default Rate (fl oz/tu)", "80", 8.0);
+    row("volume, us", "volume", 0, "Default Rate (gal/ac)", "160", 4.0);
+    row("weight, us", "weight", 0, "Default Rate (lb/ac)", "320", 2.0);
+    row("weight, metric", "weight", 1, "Default Rate (kg/ha)", "320", 2.0);
+    row("weight, turf", "weight", 2, "Default Rate (lb/tu)", "320", 2.0);
+    row("pressure", "pressure", 2, "Default Rate (bar)", "640", 1.0);
 }
 
 void TestDialogRateUnits::aRateIsShownAndStoredInItsUnit()

@@ -195,43 +195,22 @@ void TestDialogLayout::lineEditsTakeTheirLimits_data()
     QTest::addColumn<QString>("control");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
+    const auto row = [](const char *title, const char *control, const char *typed, const char *shown) {
+        QTest::newRow(title) << control << typed << shown;
+    };
     // The key that would leave the limits is refused, what was typed before it stays.
-    QTest::newRow("look-ahead, three digits") << "lookAheadEdit"
-                                              << "1234"
-                                              << "123";
-    QTest::newRow("look-ahead, one decimal") << "lookAheadEdit"
-                                             << "123.78"
-                                             << "123.7";
-    QTest::newRow("look-ahead, largest") << "lookAheadEdit"
-                                         << "999.9"
-                                         << "999.9";
-    QTest::newRow("look-ahead, half a second") << "lookAheadEdit"
-                                               << "0.5"
-                                               << "0.5";
-    QTest::newRow("rate, none") << "defaultRateEdit"
-                                << "0"
-                                << "0";
-    QTest::newRow("rate, below one") << "defaultRateEdit"
-                                     << "0.5"
-                                     << "0.5";
-    QTest::newRow("rate, largest") << "defaultRateEdit"
-                                   << "5000"
-                                   << "5000";
-    QTest::newRow("rate, largest with decimal") << "defaultRateEdit"
-                                                << "5000.0"
-                                                << "5000.0";
-    QTest::newRow("rate, just above") << "defaultRateEdit"
-                                      << "5000.1"
-                                      << "5000.";
-    QTest::newRow("rate, above") << "defaultRateEdit"
-                                 << "5001"
-                                 << "500";
-    QTest::newRow("rate, one decimal") << "defaultRateEdit"
-                                       << "4999.98"
-                                       << "4999.9";
-    QTest::newRow("rate, negative") << "defaultRateEdit"
-                                    << "-1"
-                                    << "1";
+    row("look-ahead, three digits", "lookAheadEdit", "1234", "123");
+    row("look-ahead, one decimal", "lookAheadEdit", "123.78", "123.7");
+    row("look-ahead, largest", "lookAheadEdit", "999.9", "999.9");
+    row("look-ahead, half a second", "lookAheadEdit", "0.5", "0.5");
+    row("rate, none", "defaultRateEdit", "0", "0");
+    row("rate, below one", "defaultRateEdit", "0.5", "0.5");
+    row("rate, largest", "defaultRateEdit", "5000", "5000");
+    row("rate, largest with decimal", "defaultRateEdit", "5000.0", "5000.0");
+    row("rate, just above", "defaultRateEdit", "5000.1", "5000.");
+    row("rate, above", "defaultRateEdit", "5001", "500");
+    row("rate, one decimal", "defaultRateEdit", "4999.98", "4999.9");
+    row("rate, negative", "defaultRateEdit", "-1", "1");
 }
 
 void TestDialogLayout::lineEditsTakeTheirLimits()

@@ -1,5 +1,6 @@
 #include "dialoghost.h"
 #include "dialogprobe.h"
+#include "files.h"
 #include "testbase.h"
 
 #include "Framework/orvikimage.h"
@@ -230,12 +231,9 @@ void TestDialogLooks::theFontFamilyIsTheTerminals()
     QFETCH(QByteArray, settings);
     QFETCH(QString, family);
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("terminal.ini")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(settings);
-    file.close();
+    const QString file = writeFile(folder.filePath(QStringLiteral("terminal.ini")), settings);
     const ColoredImages images;
-    DialogHost host(3, file.fileName());
+    DialogHost host(3, file);
     host.images = images.dir();
     Opened opened(host);
     QCOMPARE(opened.probe.dialogFont().family(), family);

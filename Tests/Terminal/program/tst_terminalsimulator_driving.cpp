@@ -1,0 +1,106 @@
+#include "files.h"
+#include "programtest.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+/// The program as it drives a field without a display.
+class TestTerminalSimulatorDriving : public ProgramTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFieldIsDrivenWithoutADisplay();
+    void aReportIsAPageInTheChosenLanguageAndUnits();
+    void whatCannotBeDrivenEndsWithOneLine_data();
+    void whatCannotBeDrivenEndsWithOneLine();
+};
+
+void TestTerminalSimulatorDriving::aFieldIsDrivenWithoutADisplay()
+{
+    const QProcessEnvironment environment = withoutDisplay();
+    QByteArray records[2];
+    for (QByteArray &record : records) {
+        const QString report = folder.filePath(QStringLiteral("report.json"));
+        const QString recordPath = folder.filePath(QStringLiteral("drive.csv"));
+        // Tuning leaves the drive that is recorded as it is.
+        QStringList arguments{"--drive", report, "--record", recordPath, "--columns", "SEED_K_HA", zones()};
+        const bool isTuned = &record == &records[0];
+        if (isTuned)
+            arguments.prepend("--tune");
+        const Outcome outcome = run(arguments, environment);
+        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+        QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("driving: \\d0 %, about \\d+ s left"))),
+                 qPrintable(outcome.output));
+        const QJsonObject all = QJsonDocument::fromJson(readFile(report)).object();
+        QCOMPARE(all.value(QStringLiteral("file")).toString(), zones());
+        const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
+        QCOMPARE(seed.value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 16);
+        // Dead time and time constant of the standard machine's seed, within a step.
+        QVERIFY(!isTuned || std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
+        record = readFile(recordPath);
+    }
+    QVERIFY(records[0].count('\n') > 5000);
+    QCOMPARE(records[0], records[1]);
+}
+
+void TestTerminalSimulatorDriving::aReportIsAPageInTheChosenLanguageAndUnits()
+{
+    const QString path = folder.filePath(QStringLiteral("report.html"));
+    const Outcome outcome = run(
+        {"--drive", path, "--language", "de", "--units", "us", "--columns", "SEED_K_HA", zones()}, withoutDisplay());
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    const QByteArray page = readFile(path);
+    QVERIFY(page.startsWith("<!DOCTYPE html>") && page.endsWith("</html>\n"));
+    for (const char *text : {"Bericht einer Fahrt", "Seed (k/ac)", "Ausgebracht", "three-zones.geojson"})
+        QVERIFY2(page.contains(text), text);
+}
+
+void TestTerminalSimulatorDriving::whatCannotBeDrivenEndsWithOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const QString report = folder.filePath(QStringLiteral("report-of-nothing.json"));
+    const QString linkedZones = folder.filePath(QStringLiteral("zones.gpkg"));
+    QFile::link(zones(), linkedZones);
+    const auto products = [this](const char *name, const QByteArray &machine) {
+        return write("{" + machine + R"(, "products": [{"name": "A", "kind": "count"}]})", QLatin1String(name));
+    };
+    QTest::newRow("field narrower than the machine")
+        << QStringList{"--drive", report, "--products", products("wide.json", R"("width": 150)")}
+        << zones() + ": the field is 100.0 m wide, narrower than the machine's 150 m";
+    QTest::newRow("no width") << QStringList{"--drive", report, "--products", products("none.json", R"("width": 0)")}
+                              << folder.filePath(QStringLiteral("none.json"))
+            + ": \"width\" is 0; a number from 0.5 to 200 is wanted";
+    QTest::newRow("report nowhere") << QStringList{"--drive", "/nowhere/a.json"} << "/nowhere/a.json: ";
+    QDir(folder.path()).mkdir(QStringLiteral("folder.html"));
+    QTest::newRow("report is a folder") << QStringList{"--drive", folder.filePath(QStringLiteral("folder.html"))}
+                                        << folder.filePath(QStringLiteral("folder.html")) + ": is a folder, not a file";
+    QFile::link(QStringLiteral("/dev/full"), folder.filePath(QStringLiteral("full.html")));
+    QTest::newRow("report on a full disk")
+        << QStringList{"--drive", folder.filePath(QStringLiteral("full.html"))}
+        << folder.filePath(QStringLiteral("full.html")) + ": No space left on device";
+    QTest::newRow("record is the prescription")
+        << QStringList{"--drive", report, "--record", linkedZones} << linkedZones + ": is the prescription itself";
+    const QString productFile = products("mine.json", R"("width": 12)");
+    QTest::newRow("report is the products' file") << QStringList{"--drive", productFile, "--products", productFile}
+                                                  << productFile + ": is the products' file itself";
+    QTest::newRow("record nowhere") << QStringList{"--drive", report, "--record", "/nowhere/a.csv"}
+                                    << "/nowhere/a.csv: No such file or directory";
+}
+
+void TestTerminalSimulatorDriving::whatCannotBeDrivenEndsWithOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    const Outcome outcome = run(arguments + QStringList{"--columns", "SEED_K_HA", zones()}, withoutDisplay());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.startsWith("terminal-simulator: " + reason), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count('\n'), 1);
+    QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
+}
+
+RXMAP_TEST(TestTerminalSimulatorDriving, Core)
+#include "tst_terminalsimulator_driving.moc"
