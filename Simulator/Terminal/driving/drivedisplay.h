@@ -20,7 +20,6 @@ public:
     DriveDisplay(TerminalWindow *window, Simulation *simulation, QObject *parent = nullptr);
     ~DriveDisplay() override;
 
-    DriveControls *driveControls() const { return controls; }
     WorkedGround *workedGround() { return &ground; }
 
 private:

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -262,33 +263,24 @@ QString readTheme(const QString &text, CommandLine &line)
 
 QString readOptions(const QCommandLineParser &parser, CommandLine &line)
 {
+    const std::pair<QString, QString (*)(const QString &, CommandLine &)> readers[] = {
+        {unitsOption, readUnits},       {themeOption, readTheme}, {columnsOption, readColumns},
+        {describeOption, readDescribe}, {atOption, readAt},       {sourceUnitsOption, readSourceUnits}};
     QString error = checkValues(parser);
-    if (error.isEmpty() && parser.isSet(unitsOption))
-        error = readUnits(parser.value(unitsOption), line);
-    if (error.isEmpty() && parser.isSet(themeOption))
-        error = readTheme(parser.value(themeOption), line);
-    if (error.isEmpty() && parser.isSet(columnsOption))
-        error = readColumns(parser.value(columnsOption), line);
-    if (error.isEmpty() && parser.isSet(describeOption))
-        error = readDescribe(parser.value(describeOption), line);
-    if (error.isEmpty() && parser.isSet(atOption))
-        error = readAt(parser.value(atOption), line);
-    if (error.isEmpty() && parser.isSet(sourceUnitsOption))
-        error = readSourceUnits(parser.value(sourceUnitsOption), line);
-    if (error.isEmpty() && parser.isSet(productsOption))
-        error = requireFile(productsOption, parser.value(productsOption));
-    if (error.isEmpty() && parser.isSet(scriptOption))
-        error = requireFile(scriptOption, parser.value(scriptOption));
+    for (const auto &[option, read] : readers) {
+        if (error.isEmpty() && parser.isSet(option))
+            error = read(parser.value(option), line);
+    }
+    for (const QString &option : {productsOption, scriptOption}) {
+        if (error.isEmpty() && parser.isSet(option))
+            error = requireFile(option, parser.value(option));
+    }
     if (error.isEmpty() && parser.isSet(pluginDirOption))
         error = requireFolder(pluginDirOption, parser.value(pluginDirOption));
-    if (error.isEmpty())
-        error = checkDrive(parser);
-    if (error.isEmpty())
-        error = checkCheck(parser);
-    if (error.isEmpty())
-        error = checkPrescription(parser);
-    if (error.isEmpty())
-        error = checkOpen(parser);
+    for (const auto check : {checkDrive, checkCheck, checkPrescription, checkOpen}) {
+        if (error.isEmpty())
+            error = check(parser);
+    }
     return error;
 }
 

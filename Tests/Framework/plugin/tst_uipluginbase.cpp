@@ -1,7 +1,7 @@
+#include "leastplugin.h"
 #include "testbase.h"
 
 #include "Framework/databroker.h"
-#include "Framework/uipluginbase.h"
 
 namespace {
 
@@ -17,8 +17,8 @@ UiGWidget *newWidget()
     return new UiGWidget(QStringLiteral("UiPlugin"), QStringLiteral("Widget"), 0, 0, QDir(), QPointF(), nullptr, false);
 }
 
-/// The least that a plug-in must answer itself.
-class SamplePlugin : public UiPluginBase {
+/// Shows what the base keeps.
+class SamplePlugin : public LeastPlugin {
 public:
     using UiPluginBase::dataBroker;
     using UiPluginBase::graphicsLists;
@@ -26,24 +26,9 @@ public:
     using UiPluginBase::imageDir;
     using UiPluginBase::pluginDir;
 
-    QStringList getGuidancePageWidgetNames() override { return {}; }
-    QMap<QString, QString> getGuidancePageWidgetLibraryCategories() override { return {}; }
     QMap<QString, QString> getGuidancePageWidgetLibraryImageNames() override
     {
         return {{QStringLiteral("Widget"), QStringLiteral("image.png")}};
-    }
-    QMap<QString, QString> getGuidancePageWidgetLibraryDisplayNames() override { return {}; }
-    QMap<QString, QString> getFeatureNames() override { return {}; }
-    QStringList getConfigPanelWidgetNames() override { return {}; }
-    QStringList getGraphicsListNames() override { return {}; }
-    QPointer<UiGraphicsList> createUiGraphicsList(QString, DataBroker *) override { return {}; }
-    QPointer<UiGWidget> createUiGWidget(QString, int, int, QPointF, DataBroker *) override { return {}; }
-    QPointer<UiQmlWidget> createUiQmlWidget(QString, QPointF, QDeclarativeView *, DataBroker *) override { return {}; }
-    QString getPluginName() override { return QStringLiteral("SamplePlugin"); }
-    void getPluginVersion(unsigned long &major, unsigned long &minor) override
-    {
-        major = 1;
-        minor = 0;
     }
 };
 
@@ -160,8 +145,8 @@ void TestUiPluginBase::bothBasesReachTheSameObject()
     SamplePlugin plugin;
     UiPluginInterface &asInterface = plugin;
     BasePlugInProvides &asProvider = plugin;
-    QCOMPARE(asInterface.getPluginName(), QStringLiteral("SamplePlugin"));
-    QCOMPARE(asProvider.getPluginName(), QStringLiteral("SamplePlugin"));
+    QCOMPARE(asInterface.getPluginName(), QStringLiteral("LeastPlugin"));
+    QCOMPARE(asProvider.getPluginName(), QStringLiteral("LeastPlugin"));
     unsigned long major = 0;
     unsigned long minor = 9;
     asProvider.getPluginVersion(major, minor);

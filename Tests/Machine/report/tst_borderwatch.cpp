@@ -3,6 +3,27 @@
 
 #include <cmath>
 
+namespace {
+
+/// 50, from the border at step 51 on 80, from the one at `secondBorder` on 50 again, at 10 steps a second and 2 m/s; 80
+/// is put out after step `begin` until `end`. Then the implement goes up.
+BorderWatch crossStrip(int secondBorder, int begin, int end)
+{
+    BorderWatch watch;
+    watch.begin(0.0, 0.0, 50.0);
+    for (int step = 1; step <= 120; ++step) {
+        if (step == 51)
+            watch.border(5.0, 10.0, {}, 80.0);
+        if (step == secondBorder)
+            watch.border(0.1 * (step - 1), 0.2 * (step - 1), {}, 50.0);
+        watch.step(0.1 * step, 0.2 * step, step > begin && step <= end ? 80.0 : 50.0);
+    }
+    watch.end();
+    return watch;
+}
+
+} // namespace
+
 /// How early or late a rate changes.
 class TestBorderWatch : public TestBase {
     Q_OBJECT
@@ -60,17 +81,8 @@ void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount()
 
 void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
 {
-    // 50, from 5.5 s on 80, from 9.5 s on 50 again, each half a second late; then the implement goes up.
-    BorderWatch watch;
-    watch.begin(0.0, 0.0, 50.0);
-    for (int step = 1; step <= 120; ++step) {
-        if (step == 51)
-            watch.border(5.0, 10.0, {}, 80.0);
-        if (step == 91)
-            watch.border(9.0, 18.0, {}, 50.0);
-        watch.step(0.1 * step, 0.2 * step, step > 55 && step <= 95 ? 80.0 : 50.0);
-    }
-    watch.end();
+    // From 5.5 s on 80, from 9.5 s on 50 again: each half a second late.
+    const BorderWatch watch = crossStrip(91, 55, 95);
     QCOMPARE(watch.changes().size(), size_t(2));
     for (const BorderWatch::Change &change : watch.changes()) {
         QVERIFY2(std::fabs(change.late.seconds - 0.5) < 1e-9, qPrintable(QString::number(change.late.seconds)));
@@ -82,16 +94,7 @@ void TestBorderWatch::whatComesAfterTheMiddleIsTheNextBorders()
 {
     // 80 from 5 to 7 s, applied from 6.4 to 8.4 s. Up to the middle at 6 s nothing of it came, so the first change is
     // as late as can be told, and the second must have what the first one lacks.
-    BorderWatch watch;
-    watch.begin(0.0, 0.0, 50.0);
-    for (int step = 1; step <= 120; ++step) {
-        if (step == 51)
-            watch.border(5.0, 10.0, {}, 80.0);
-        if (step == 71)
-            watch.border(7.0, 14.0, {}, 50.0);
-        watch.step(0.1 * step, 0.2 * step, step > 64 && step <= 84 ? 80.0 : 50.0);
-    }
-    watch.end();
+    const BorderWatch watch = crossStrip(71, 64, 84);
     QCOMPARE(watch.changes().size(), size_t(2));
     for (const BorderWatch::Change &change : watch.changes())
         QVERIFY2(std::fabs(change.late.seconds - 1.0) < 1e-9, qPrintable(QString::number(change.late.seconds)));

@@ -1,4 +1,5 @@
 #include "duplicatepolygons.h"
+#include "planesketch.h"
 #include "testbase.h"
 
 #include <algorithm>
@@ -6,25 +7,11 @@
 
 namespace {
 
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
-}
-
 PlaneRing turned(PlaneRing ring)
 {
     std::reverse(ring.begin(), ring.end());
     std::rotate(ring.begin(), ring.begin() + 1, ring.end());
     return ring;
-}
-
-PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<PlaneRing> &holes = {})
-{
-    PlanePolygon polygon;
-    polygon.record = record;
-    polygon.outer = outer;
-    polygon.holes = holes;
-    return polygon;
 }
 
 /// Whether two rings of different vertices are the same except for their start and direction.

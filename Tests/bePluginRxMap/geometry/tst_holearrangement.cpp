@@ -1,21 +1,8 @@
 #include "holearrangement.h"
+#include "planesketch.h"
 #include "testbase.h"
 
 namespace {
-
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
-}
-
-PlanePolygon polygonOf(int record, const PlaneRing &outer, const std::vector<PlaneRing> &holes = {})
-{
-    PlanePolygon polygon;
-    polygon.record = record;
-    polygon.outer = outer;
-    polygon.holes = holes;
-    return polygon;
-}
 
 QList<int> recordsOf(const std::vector<PlanePolygon> &polygons)
 {

@@ -1,4 +1,5 @@
 #include "holebridge.h"
+#include "planesketch.h"
 #include "slabindex.h"
 #include "testbase.h"
 
@@ -6,11 +7,6 @@
 #include <random>
 
 namespace {
-
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
-}
 
 bool covers(const PlanePolygon &polygon, double x, double y)
 {

@@ -1,12 +1,8 @@
+#include "planesketch.h"
 #include "rendererholerule.h"
 #include "testbase.h"
 
 namespace {
-
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
-}
 
 std::vector<RingView> outersOf(const std::vector<PlaneRing> &rings)
 {

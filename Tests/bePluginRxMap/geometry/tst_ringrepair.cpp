@@ -1,3 +1,4 @@
+#include "planesketch.h"
 #include "ringrepair.h"
 #include "testbase.h"
 
@@ -27,11 +28,6 @@ RingRepair::Outcome repair(const RawPrescription &map, double farthest = 1000.0)
     for (size_t ring = 0; ring < map.rings.size();)
         ring = ringRepair.append(map, map.xs, map.ys, ring, outcome);
     return outcome;
-}
-
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
 }
 
 PlaneRing star(int count, std::mt19937 &random)

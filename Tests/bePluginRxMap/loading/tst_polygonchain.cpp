@@ -1,14 +1,10 @@
+#include "planesketch.h"
 #include "polygonchain.h"
 #include "testbase.h"
 
 using OrvikTypes::RX_POLYGON;
 
 namespace {
-
-PlaneRing square(double x, double y, double side)
-{
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
-}
 
 std::vector<PlanePolygon> twoPolygons()
 {

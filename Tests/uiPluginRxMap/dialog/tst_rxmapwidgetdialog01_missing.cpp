@@ -1,5 +1,4 @@
-#include "dialoghost.h"
-#include "dialogprobe.h"
+#include "openeddialog.h"
 #include "testbase.h"
 
 /// The dialog where the host lacks something that it needs.
@@ -16,17 +15,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-struct Opened {
-    explicit Opened(DialogHost &host)
-        : dialog(&host.broker, host.images, nullptr)
-        , probe(dialog)
-    {
-    }
-
-    RxMapWidgetDialog01 dialog;
-    DialogProbe probe;
-};
 
 /// Types and switches whatever the third product offers, and unlocks it first.
 void useEveryControl(Opened &opened)

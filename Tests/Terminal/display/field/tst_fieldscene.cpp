@@ -1,5 +1,6 @@
 #include "camera.h"
 #include "fieldscene.h"
+#include "guestlist.h"
 #include "testbase.h"
 
 #include "Framework/uigraphicslist.h"
@@ -40,22 +41,6 @@ private:
     float order;
     QColor color;
     QStringList *journal;
-};
-
-class VeilList : public UiGraphicsList {
-public:
-    explicit VeilList(const QList<Object3D *> &veils)
-        : UiGraphicsList(nullptr)
-    {
-        objects = veils;
-    }
-    ~VeilList() override { qDeleteAll(objects); }
-    QString getPointDescription(QVector3D) override { return {}; }
-    void init() override
-    {
-        for (Object3D *object : qAsConst(objects))
-            object->init();
-    }
 };
 
 } // namespace
@@ -146,8 +131,8 @@ void TestFieldScene::aMapsColourOnTheGroundIsHalfWay()
 
 void TestFieldScene::listsAreInitialisedOnceTheSceneIs()
 {
-    VeilList early({new Veil(1.0F, QColor(), &journal)});
-    VeilList late({new Veil(2.0F, QColor(), &journal)});
+    GuestList early({new Veil(1.0F, QColor(), &journal)});
+    GuestList late({new Veil(2.0F, QColor(), &journal)});
     FieldScene scene;
     scene.addGraphicsList(&early);
     QCOMPARE(journal, QStringList());
@@ -159,8 +144,8 @@ void TestFieldScene::listsAreInitialisedOnceTheSceneIs()
 
 void TestFieldScene::drawablesOfAllListsComeInTheirOrder()
 {
-    VeilList first({new Veil(3.0F, QColor(), &journal), new Veil(-4.99F, QColor(), &journal)});
-    VeilList second({new Veil(0.5F, QColor(), &journal)});
+    GuestList first({new Veil(3.0F, QColor(), &journal), new Veil(-4.99F, QColor(), &journal)});
+    GuestList second({new Veil(0.5F, QColor(), &journal)});
     FieldScene scene;
     scene.initialize();
     scene.addGraphicsList(&first);
@@ -174,8 +159,8 @@ void TestFieldScene::drawablesOfTheSameOrderComeAsTheyWereAdded()
 {
     const QColor below(10, 20, 30);
     const QColor above(40, 50, 60);
-    VeilList first({new Veil(1.0F, below, &journal)});
-    VeilList second({new Veil(1.0F, above, &journal)});
+    GuestList first({new Veil(1.0F, below, &journal)});
+    GuestList second({new Veil(1.0F, above, &journal)});
     FieldScene scene;
     scene.initialize();
     scene.addGraphicsList(&first);
@@ -204,7 +189,7 @@ void TestFieldScene::aGuestThatCutsTheViewDoesNotCutTheNextFrame()
     FieldScene scene;
     scene.initialize();
     {
-        VeilList list({new Veil(1.0F, QColor(Qt::red), &journal)});
+        GuestList list({new Veil(1.0F, QColor(Qt::red), &journal)});
         scene.addGraphicsList(&list);
         const QImage veiled = frame(scene, FieldScene::Aids::Hidden);
         QCOMPARE(veiled.pixelColor(5, 5), QColor(Qt::red));

@@ -1,4 +1,5 @@
 #include "fieldviewtest.h"
+#include "guestlist.h"
 
 #include "Framework/uigraphicslist.h"
 
@@ -112,22 +113,6 @@ private:
     QList<Found> *journal;
     GLuint buffer = 0;
     GLuint vertexArray = 0;
-};
-
-class GuestList : public UiGraphicsList {
-public:
-    explicit GuestList(const QList<Object3D *> &guests)
-        : UiGraphicsList(nullptr)
-    {
-        objects = guests;
-    }
-    ~GuestList() override { qDeleteAll(objects); }
-    QString getPointDescription(QVector3D) override { return {}; }
-    void init() override
-    {
-        for (Object3D *object : qAsConst(objects))
-            object->init();
-    }
 };
 
 } // namespace

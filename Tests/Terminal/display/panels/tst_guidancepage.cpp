@@ -1,8 +1,8 @@
 #include "guidancepage.h"
+#include "leastplugin.h"
 #include "testbase.h"
 
 #include "Framework/databroker.h"
-#include "Framework/uipluginbase.h"
 
 #include <QGraphicsScene>
 #include <QSignalSpy>
@@ -29,7 +29,7 @@ public:
 };
 
 /// Makes whatever it is asked for, except widgets that are called "absent".
-class SamplePlugin : public UiPluginBase {
+class SamplePlugin : public LeastPlugin {
 public:
     explicit SamplePlugin(const QStringList &givenNames)
         : names(givenNames)
@@ -49,16 +49,6 @@ public:
         ++deletions;
         UiPluginBase::deleteGWidget(widget);
     }
-    QMap<QString, QString> getGuidancePageWidgetLibraryCategories() override { return {}; }
-    QMap<QString, QString> getGuidancePageWidgetLibraryImageNames() override { return {}; }
-    QMap<QString, QString> getGuidancePageWidgetLibraryDisplayNames() override { return {}; }
-    QMap<QString, QString> getFeatureNames() override { return {}; }
-    QStringList getConfigPanelWidgetNames() override { return {}; }
-    QStringList getGraphicsListNames() override { return {}; }
-    QPointer<UiGraphicsList> createUiGraphicsList(QString, DataBroker *) override { return {}; }
-    QPointer<UiQmlWidget> createUiQmlWidget(QString, QPointF, QDeclarativeView *, DataBroker *) override { return {}; }
-    QString getPluginName() override { return QStringLiteral("sample"); }
-    void getPluginVersion(unsigned long &major, unsigned long &minor) override { major = minor = 1; }
 
     QStringList names;
     QList<QPointer<SampleWidget>> made;

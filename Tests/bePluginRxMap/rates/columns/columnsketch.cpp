@@ -1,5 +1,7 @@
 #include "columnsketch.h"
 
+#include "planesketch.h"
+
 #include <utility>
 
 SourceColumn ColumnSketch::column(const QString &name, std::vector<double> values, std::vector<int> unreadable)
@@ -34,18 +36,13 @@ RawPrescription ColumnSketch::tableOf(const QStringList &names)
     return mapOf(std::move(columns));
 }
 
-static PlaneRing square(double side)
-{
-    return {{0.0, 0.0}, {side, 0.0}, {side, side}, {0.0, side}};
-}
-
 std::vector<PlanePolygon> ColumnSketch::polygons()
 {
-    return {{square(10.0), {}, 0},
-            {square(10.0), {}, 0},
-            {square(20.0), {}, 1},
-            {square(30.0), {square(10.0)}, 2},
-            {square(10.0), {}, 3}};
+    return {{square(0.0, 0.0, 10.0), {}, 0},
+            {square(0.0, 0.0, 10.0), {}, 0},
+            {square(0.0, 0.0, 20.0), {}, 1},
+            {square(0.0, 0.0, 30.0), {square(0.0, 0.0, 10.0)}, 2},
+            {square(0.0, 0.0, 10.0), {}, 3}};
 }
 
 MachineProduct ColumnSketch::product(const char *name, DbGroupProductGroupInfo::RateKind kind)

@@ -1,5 +1,4 @@
-#include "dialoghost.h"
-#include "dialogprobe.h"
+#include "openeddialog.h"
 #include "testbase.h"
 
 #include "Framework/orvikimage.h"
@@ -32,21 +31,6 @@ private Q_SLOTS:
     void membersKeepTheirSizes();
     void membersLieInTheirOrder();
 };
-
-namespace {
-
-struct Opened {
-    explicit Opened(DialogHost &host)
-        : dialog(&host.broker, host.images, nullptr)
-        , probe(dialog)
-    {
-    }
-
-    RxMapWidgetDialog01 dialog;
-    DialogProbe probe;
-};
-
-} // namespace
 
 void TestDialogLayout::theDialogHasTheSizeOfItsBackgroundAndIsCentred_data()
 {

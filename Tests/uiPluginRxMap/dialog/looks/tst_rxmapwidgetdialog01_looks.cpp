@@ -1,6 +1,5 @@
-#include "dialoghost.h"
-#include "dialogprobe.h"
 #include "files.h"
+#include "openeddialog.h"
 #include "testbase.h"
 
 #include "Framework/orvikimage.h"
@@ -34,17 +33,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-struct Opened {
-    explicit Opened(DialogHost &host)
-        : dialog(&host.broker, host.images, nullptr)
-        , probe(dialog)
-    {
-    }
-
-    RxMapWidgetDialog01 dialog;
-    DialogProbe probe;
-};
 
 /// A folder with the dialog's images, each in one colour of its own.
 class ColoredImages {
