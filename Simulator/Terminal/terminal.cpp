@@ -1,13 +1,12 @@
 #include "terminal.h"
 
-#include "activemap.h"
 #include "drivedisplay.h"
-#include "fieldplane.h"
 #include "fieldview.h"
 #include "fileopening.h"
 #include "findingsdisplay.h"
 #include "guidancepage.h"
 #include "hints.h"
+#include "legendcontent.h"
 #include "machine.h"
 #include "mapoverlay.h"
 #include "openwindow.h"
@@ -15,7 +14,6 @@
 #include "productselector.h"
 #include "querylistener.h"
 #include "recorder.h"
-#include "reportunits.h"
 #include "screenwindow.h"
 #include "simulation.h"
 #include "statusbar.h"
@@ -33,8 +31,6 @@
 #include <QImageReader>
 #include <QVector3D>
 
-#include <algorithm>
-
 /// A static library's resources have to be asked for, from outside of any namespace.
 static void initialiseResources()
 {
@@ -50,13 +46,6 @@ LoadReport unused(const QString &path)
     report.path = path;
     report.warnings.append(QStringLiteral("%1: not opened, it feeds no product").arg(path));
     return report;
-}
-
-const QString noMap = QStringLiteral("no map is loaded that says where the field is");
-
-QString tooFar()
-{
-    return QStringLiteral("is more than %1 km from the field").arg(FieldPlane::reach / 1000.0);
 }
 
 /// A prescription, or whatever else somebody has there.
@@ -79,6 +68,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , dataBroker(QString(), TerminalWindow::displaySize)
     , prescriptions(new PrescriptionBackend(&dataBroker))
     , machineModel(new Machine(&dataBroker, prescriptions.data(), setup.products, units))
+    , loadedMaps(dataBroker, *prescriptions, *machineModel)
     , simulated(new Simulation(machineModel.data(), &clock))
     , driveRecorder(new Recorder(simulated.data()))
     , display(new TerminalWindow(setup.products))
@@ -246,7 +236,7 @@ bool Terminal::close(const QString &group)
 
 QString Terminal::activeColumn() const
 {
-    return ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct())).columnName;
+    return loadedMaps.active().columnName;
 }
 
 QMap<int, QString> Terminal::columnsOf(const QString &group) const
@@ -256,7 +246,7 @@ QMap<int, QString> Terminal::columnsOf(const QString &group) const
 
 TouchAnswer Terminal::answerAt(const QPointF &field) const
 {
-    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct()));
+    const ActiveMap map = loadedMaps.active();
     const QueryListener query(dataBroker, map);
     TouchAnswer answer;
     for (const QPointer<UiGraphicsList> &list : graphicsLists) {
@@ -274,52 +264,6 @@ QString Terminal::touch(const QPointF &field)
     const TouchAnswer answer = answerAt(field);
     display->overlay()->showBubble(field, answer.text, answer.color);
     return answer.text;
-}
-
-std::optional<QPointF> Terminal::planeOrigin() const
-{
-    const QList<LoadReport> maps = prescriptions->maps();
-    if (maps.isEmpty())
-        return {};
-    const QString active =
-        ActiveMap::find(dataBroker, Machine::productGroupName(machineModel->activeProduct())).groupName;
-    const auto shown =
-        std::find_if(maps.begin(), maps.end(), [&active](const LoadReport &map) { return map.group == active; });
-    return shown != maps.end() ? shown->origin : maps.last().origin;
-}
-
-std::optional<QRectF> Terminal::bounds() const
-{
-    const std::optional<QPointF> origin = planeOrigin();
-    if (!origin)
-        return {};
-    QRectF all;
-    const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps) {
-        if (map.origin == *origin)
-            all |= map.bounds;
-    }
-    return all;
-}
-
-Result<QPointF> Terminal::toField(const QPointF &degrees) const
-{
-    const std::optional<QPointF> origin = planeOrigin();
-    if (!origin)
-        return Result<QPointF>::failure(noMap);
-    if (!FieldPlane::areDegrees(degrees))
-        return Result<QPointF>::failure(QStringLiteral("is no longitude and latitude"));
-    const std::optional<QPointF> field = FieldPlane(*origin).toField(degrees);
-    return field ? Result<QPointF>{*field, {}} : Result<QPointF>::failure(tooFar());
-}
-
-Result<QPointF> Terminal::toEarth(const QPointF &field) const
-{
-    const std::optional<QPointF> origin = planeOrigin();
-    if (!origin)
-        return Result<QPointF>::failure(noMap);
-    const std::optional<QPointF> degrees = FieldPlane(*origin).toEarth(field);
-    return degrees ? Result<QPointF>{*degrees, {}} : Result<QPointF>::failure(tooFar());
 }
 
 QColor Terminal::mapColor(const QPointF &field)
@@ -354,46 +298,15 @@ void Terminal::followMaps()
 void Terminal::showLegend()
 {
     const int number = machineModel->activeProduct();
-    const ActiveMap map = ActiveMap::find(dataBroker, Machine::productGroupName(number));
-    display->legend()->show(legendOf(map));
+    const ActiveMap map = loadedMaps.active();
+    const LoadReport report = loadedMaps.reportOf(map);
+    display->legend()->show(legendContent(*machineModel, report, map));
     display->productSelector()->setActiveProduct(number);
-    display->overlay()->setBoundary(reportOf(map).boundary);
+    display->overlay()->setBoundary(report.boundary);
     display->overlay()->showBubble(QPointF(), QString(), QColor());
     // Another product's map may lie elsewhere.
     frameField();
     refresh();
-}
-
-LoadReport Terminal::reportOf(const ActiveMap &map) const
-{
-    const QList<LoadReport> reports = prescriptions->maps();
-    for (const LoadReport &report : reports) {
-        if (report.group == map.groupName)
-            return report;
-    }
-    return {};
-}
-
-LegendPanel::Content Terminal::legendOf(const ActiveMap &map) const
-{
-    const int number = machineModel->activeProduct();
-    const ReportUnits units(*machineModel, number);
-    const LoadReport report = reportOf(map);
-    LegendPanel::Content content;
-    content.product = machineModel->products().at(number - 1).name;
-    content.source = report.sources.value(map.mapping);
-    content.classes = map.legend;
-    content.hasSingleRates = report.hasSingleRates.value(map.mapping);
-    content.factor = units.rate(1.0);
-    content.unit = units.rateUnit();
-    // One for the polygons without a rate may follow.
-    const QList<double> areas = report.areas.value(map.mapping).mid(0, map.legend.size());
-    for (const double area : areas)
-        content.areas.append(units.area(area));
-    content.areaUnit = units.areaUnit();
-    content.amount = units.amount(report.amounts.value(map.mapping));
-    content.amountUnit = units.amountUnit();
-    return content;
 }
 
 void Terminal::refresh()
@@ -421,21 +334,9 @@ void Terminal::showVehicle()
     display->statusBar()->setSpeed(vehicle()->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
 }
 
-QRectF Terminal::fieldInUse() const
-{
-    const std::optional<QPointF> origin = planeOrigin();
-    QRectF used;
-    const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps) {
-        if (map.origin == origin && !columnsOf(map.group).isEmpty())
-            used |= map.bounds;
-    }
-    return used;
-}
-
 void Terminal::frameField()
 {
-    const QRectF used = fieldInUse();
+    const QRectF used = loadedMaps.boundsInUse();
     if (used.isNull() || used == framedBounds)
         return;
     framedBounds = used;

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Backend/prescriptionbackend.h"
-#include "legendpanel.h"
+#include "loadedmaps.h"
 #include "openrequest.h"
 #include "productfile.h"
 #include "repaintthrottle.h"
-#include "result.h"
 #include "simulationclock.h"
 #include "terminalwindow.h"
 #include "touchanswer.h"
@@ -24,7 +23,6 @@
 
 #include <optional>
 
-struct ActiveMap;
 class DriveDisplay;
 class FileOpening;
 class FindingsDisplay;
@@ -90,15 +88,14 @@ public:
     TouchAnswer answerAt(const QPointF &field) const;
     /// Touches the ground at a field point (metres): a bubble there shows the answer. Returns its text.
     QString touch(const QPointF &field);
-    /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
-    /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
-    std::optional<QRectF> bounds() const;
-    /// Where the plane of the maps in bounds() touches the earth, degrees of longitude and latitude; nothing when no
-    /// map is loaded.
-    std::optional<QPointF> planeOrigin() const;
-    /// From degrees of longitude and latitude to metres of that plane and back; the reason when there is no way.
-    Result<QPointF> toField(const QPointF &degrees) const;
-    Result<QPointF> toEarth(const QPointF &field) const;
+
+    // As of LoadedMaps.
+
+    std::optional<QRectF> bounds() const { return loadedMaps.bounds(); }
+    std::optional<QPointF> planeOrigin() const { return loadedMaps.planeOrigin(); }
+    Result<QPointF> toField(const QPointF &degrees) const { return loadedMaps.toField(degrees); }
+    Result<QPointF> toEarth(const QPointF &field) const { return loadedMaps.toEarth(field); }
+
     /// What is drawn at a field point, see FieldView::colorAt().
     QColor mapColor(const QPointF &field);
     /// Saves the display as it is seen, as PNG; the reason when it cannot, or when another kind of file is there.
@@ -117,19 +114,14 @@ private:
     void installGraphicsLists();
     void followMaps();
     void showLegend();
-    /// What came of the map's load; an empty report where there is no map.
-    LoadReport reportOf(const ActiveMap &map) const;
-    /// What the legend says of the map that feeds the active product.
-    LegendPanel::Content legendOf(const ActiveMap &map) const;
     void showVehicle();
-    /// Where the maps lie that feed a product, metres of the plane of bounds(); null without any.
-    QRectF fieldInUse() const;
     void frameField();
 
     DataBroker dataBroker;
     RealClock clock;
     QScopedPointer<PrescriptionBackend> prescriptions;
     QScopedPointer<Machine> machineModel;
+    LoadedMaps loadedMaps;
     QScopedPointer<Simulation> simulated;
     QScopedPointer<Recorder> driveRecorder;
     QScopedPointer<TerminalWindow> display;

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Backend/loadreport.h"
+#include "activemap.h"
+#include "result.h"
+
+#include <QPointF>
+#include <QRectF>
+
+#include <optional>
+
+class DataBroker;
+class Machine;
+class PrescriptionBackend;
+
+/// The maps that are loaded, as the machine takes them: which of them feed its products, and where they lie.
+class LoadedMaps {
+public:
+    /// None is owned; all outlive this.
+    LoadedMaps(const DataBroker &broker, const PrescriptionBackend &backend, const Machine &machine);
+
+    /// The map that feeds the active product.
+    ActiveMap active() const;
+    /// What came of the map's load; an empty report where there is no map.
+    LoadReport reportOf(const ActiveMap &map) const;
+
+    /// Where the plane of the maps in bounds() touches the earth, degrees of longitude and latitude; nothing when no
+    /// map is loaded.
+    std::optional<QPointF> planeOrigin() const;
+    /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
+    /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
+    std::optional<QRectF> bounds() const;
+    /// From degrees of longitude and latitude to metres of that plane and back; the reason when there is no way.
+    Result<QPointF> toField(const QPointF &degrees) const;
+    Result<QPointF> toEarth(const QPointF &field) const;
+    /// Where the maps lie that feed a product, metres of the plane of bounds(); null without any.
+    QRectF boundsInUse() const;
+
+private:
+    const DataBroker &broker;
+    const PrescriptionBackend &backend;
+    const Machine &machine;
+};
