@@ -40,8 +40,8 @@ QMatrix4x4 viewOf(const QVector<Vertex> &vertices)
 /// The draw calls alone, with the program bound and the arrays set.
 class BareFrame {
 public:
-    BareFrame(const QVector<Vertex> &vertices, const QMatrix4x4 &view)
-        : vertices(vertices)
+    BareFrame(const QVector<Vertex> &bank, const QMatrix4x4 &view)
+        : vertices(bank)
     {
         program.addShaderFromSourceFile(QOpenGLShader::Vertex, QStringLiteral(":/colorpoly_vert.glsl"));
         program.addShaderFromSourceFile(QOpenGLShader::Fragment, QStringLiteral(":/colorpoly_frag.glsl"));

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-PlainNames::PlainNames(std::unique_ptr<benchmark::BenchmarkReporter> reporter)
-    : reporter(std::move(reporter))
+PlainNames::PlainNames(std::unique_ptr<benchmark::BenchmarkReporter> givenReporter)
+    : reporter(std::move(givenReporter))
 {
 }
 
