@@ -54,8 +54,9 @@ void RecordSelection::dropHidden(std::vector<PlanePolygon> &polygons)
         }
         return true;
     };
-    std::vector<PlanePolygon> hidden = DuplicatePolygons::drop(polygons, hides);
+    const std::vector<PlanePolygon> hidden = DuplicatePolygons::drop(polygons, hides);
     std::vector<int> records;
+    records.reserve(hidden.size());
     for (const PlanePolygon &polygon : hidden)
         records.push_back(polygon.record);
     findings.addCounted(Kind::Duplicate, records,
@@ -73,7 +74,7 @@ void RecordSelection::tellGaps(const std::vector<PlanePolygon> &polygons, const 
             if (!isKnown && std::isnan(rates.at(polygon.record, i)))
                 gaps.push_back(polygon.record);
         }
-        const QString column = columns.at(static_cast<int>(i));
+        const QString &column = columns.at(static_cast<int>(i));
         findings.addCounted(Kind::Skipped, gaps,
                             {BackendText::tr("record has no rate in column \"%1\"").arg(column),
                              BackendText::tr("records have no rate in column \"%1\"").arg(column)},
