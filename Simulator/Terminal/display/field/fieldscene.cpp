@@ -75,32 +75,54 @@ void FieldScene::draw(const Camera &camera, Aids shown)
     std::stable_sort(drawables.begin(), drawables.end(),
                      [](const Object3D *a, const Object3D *b) { return a->drawingOrder() < b->drawingOrder(); });
     const QMatrix4x4 matrix = camera.matrix();
+    const Target target = currentTarget();
     for (Object3D *drawable : drawables) {
-        setGuestState();
+        setGuestState(target);
         drawable->draw(matrix);
     }
-    // Guests may leave anything behind; what Qt composes afterwards starts from known ground.
-    setGuestState();
+    // Guests may leave anything behind; what reads the frame afterwards starts from known ground.
+    setGuestState(target);
     glUseProgram(0);
 }
 
-void FieldScene::setGuestState()
+FieldScene::Target FieldScene::currentTarget()
 {
+    Target target{};
+    glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target.framebuffer);
+    glGetIntegerv(GL_VIEWPORT, target.viewport.data());
+    return target;
+}
+
+void FieldScene::setGuestState(const Target &target)
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, GLuint(target.framebuffer));
+    glViewport(target.viewport[0], target.viewport[1], target.viewport[2], target.viewport[3]);
     glEnable(GL_BLEND);
     glBlendEquation(GL_FUNC_ADD);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    glDisable(GL_DEPTH_TEST);
-    glDisable(GL_CULL_FACE);
-    glDisable(GL_STENCIL_TEST);
-    glDisable(GL_SCISSOR_TEST);
+    for (const GLenum effect : {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST, GL_SAMPLE_COVERAGE,
+                                GL_SAMPLE_ALPHA_TO_COVERAGE})
+        glDisable(effect);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glActiveTexture(GL_TEXTURE0);
-    QOpenGLContext *context = QOpenGLContext::currentContext();
-    const char *extension = context->isOpenGLES() ? "GL_OES_vertex_array_object" : "GL_ARB_vertex_array_object";
-    if (context->format().majorVersion() >= 3 || context->hasExtension(extension))
-        context->extraFunctions()->glBindVertexArray(0);
+    setNewerState();
     glBindBuffer(GL_ARRAY_BUFFER, 0);
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
+}
+
+void FieldScene::setNewerState()
+{
+    QOpenGLContext *context = QOpenGLContext::currentContext();
+    const bool isNew = context->format().majorVersion() >= 3;
+    const char *extension = context->isOpenGLES() ? "GL_OES_vertex_array_object" : "GL_ARB_vertex_array_object";
+    if (isNew || context->hasExtension(extension))
+        context->extraFunctions()->glBindVertexArray(0);
+    if (!context->isOpenGLES())
+        glDisable(GL_COLOR_LOGIC_OP);
+    if (!context->isOpenGLES() || isNew) {
+        for (const GLenum length : {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH})
+            glPixelStorei(length, 0);
+    }
 }
 
 QList<Object3D *> FieldScene::guests() const

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QPointer>
 
+#include <array>
+
 class Camera;
 class UiGraphicsList;
 
@@ -27,11 +29,20 @@ public:
     /// Adds a drawing aid of the host's own (not owned) and initialises it, once the scene itself is.
     void addAid(Object3D *aid);
     void removeAid(Object3D *aid) { aids.removeAll(aid); }
-    /// Draws one frame; without the aids only the ground and the guests' drawables.
+    /// Draws one frame into the framebuffer and the viewport that are set; without the aids only the ground and the
+    /// guests' drawables.
     void draw(const Camera &camera, Aids shown);
 
 private:
-    void setGuestState();
+    /// Where a frame goes, in OpenGL's numbers.
+    struct Target {
+        GLint framebuffer;
+        std::array<GLint, 4> viewport;
+    };
+
+    Target currentTarget();
+    void setGuestState(const Target &target);
+    void setNewerState();
     QList<Object3D *> guests() const;
     void fitGrid(const Camera &camera);
 

@@ -28,6 +28,11 @@ const StateValue promisedState[] = {
     {"culling", GL_CULL_FACE, GL_FALSE},
     {"stencil test", GL_STENCIL_TEST, GL_FALSE},
     {"scissor test", GL_SCISSOR_TEST, GL_FALSE},
+    {"logical operation", GL_COLOR_LOGIC_OP, GL_FALSE},
+    {"sample coverage", GL_SAMPLE_COVERAGE, GL_FALSE},
+    {"coverage by opacity", GL_SAMPLE_ALPHA_TO_COVERAGE, GL_FALSE},
+    {"length of rows that are read", GL_PACK_ROW_LENGTH, 0},
+    {"length of rows that are handed over", GL_UNPACK_ROW_LENGTH, 0},
     {"active texture", GL_ACTIVE_TEXTURE, GL_TEXTURE0},
     {"array buffer", GL_ARRAY_BUFFER_BINDING, 0},
     {"element buffer", GL_ELEMENT_ARRAY_BUFFER_BINDING, 0},
@@ -39,6 +44,7 @@ struct Found {
     QList<GLint> values;
     GLint vertexArray;
     QList<GLint> colorMask;
+    QList<GLint> target;
 };
 
 /// Notes the state that it is called with, and leaves another one behind.
@@ -78,7 +84,7 @@ public:
 private:
     void noteState()
     {
-        Found found{order, {}, 0, {}};
+        Found found{order, {}, 0, {}, {}};
         for (const StateValue &value : promisedState) {
             GLint now = -1;
             glGetIntegerv(value.key, &now);
@@ -89,6 +95,11 @@ private:
         GLint mask[4] = {};
         glGetIntegerv(GL_COLOR_WRITEMASK, mask);
         found.colorMask = {mask[0], mask[1], mask[2], mask[3]};
+        GLint viewport[4] = {};
+        glGetIntegerv(GL_VIEWPORT, viewport);
+        GLint framebuffer = 0;
+        glGetIntegerv(GL_FRAMEBUFFER_BINDING, &framebuffer);
+        found.target = {framebuffer, viewport[0], viewport[1], viewport[2], viewport[3]};
         journal->append(found);
     }
 
@@ -100,6 +111,12 @@ private:
         for (const GLenum test : {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST})
             glEnable(test);
         glScissor(0, 0, 1, 1);
+        for (const GLenum effect : {GL_COLOR_LOGIC_OP, GL_SAMPLE_COVERAGE, GL_SAMPLE_ALPHA_TO_COVERAGE})
+            glEnable(effect);
+        for (const GLenum length : {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH})
+            glPixelStorei(length, 3);
+        glViewport(0, 0, 1, 1);
+        glBindFramebuffer(GL_FRAMEBUFFER, 0);
         glColorMask(GL_FALSE, GL_TRUE, GL_FALSE, GL_TRUE);
         glActiveTexture(GL_TEXTURE3);
         glBindBuffer(GL_ARRAY_BUFFER, buffer);
@@ -148,6 +165,8 @@ void TestFieldViewGuests::guestsAreCalledInDrawingOrderWithAKnownState()
                      qPrintable(QStringLiteral("call %1: %2 is %3").arg(i).arg(value.name).arg(found.values.at(v))));
         }
         QCOMPARE(found.vertexArray, 0);
+        QCOMPARE(found.target, journal.first().target);
+        QVERIFY(found.target.first() > 0);
         QCOMPARE(found.colorMask, (QList<GLint>{GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE}));
     }
 }
