@@ -248,12 +248,14 @@ TouchAnswer Terminal::answerAt(const QPointF &field) const
 {
     const ActiveMap map = loadedMaps.active();
     const QueryListener query(dataBroker, map);
-    TouchAnswer answer;
+    QStringList texts;
     for (const QPointer<UiGraphicsList> &list : graphicsLists) {
         if (list)
-            answer.text += list->getPointDescription(QVector3D(float(field.x()), float(field.y()), 0.0F));
+            texts.append(list->getPointDescription(QVector3D(float(field.x()), float(field.y()), 0.0F)).trimmed());
     }
-    answer.text = answer.text.trimmed();
+    texts.removeAll(QString());
+    TouchAnswer answer;
+    answer.text = texts.join(QLatin1Char('\n'));
     if (!answer.text.isEmpty())
         answer.color = map.classColor(query.rate());
     return answer;

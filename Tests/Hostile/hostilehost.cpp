@@ -27,7 +27,6 @@
 
 namespace {
 
-constexpr std::size_t mostWidgets = 4;
 constexpr std::size_t mostDialogs = 3;
 constexpr int mostSprings = 8;
 

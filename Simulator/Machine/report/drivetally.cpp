@@ -25,17 +25,17 @@ DriveTally::RateClass &DriveTally::RateClass::operator+=(const RateClass &other)
     return *this;
 }
 
-void DriveTally::ProductTally::add(double prescribed, double applied, double area)
+void DriveTally::ProductTally::add(double prescribed, double applied, double squareMetres)
 {
-    const double hectares = area / squareMetresOfHectare;
+    const double hectares = squareMetres / squareMetresOfHectare;
     const bool isPrescribed = !std::isnan(prescribed);
-    RateClass &ground = isPrescribed ? classes[prescribed] : unprescribed;
-    ground.area += area;
-    ground.applied += applied * hectares;
+    RateClass &ofRate = isPrescribed ? classes[prescribed] : unprescribed;
+    ofRate.area += squareMetres;
+    ofRate.applied += applied * hectares;
     if (!isPrescribed)
         return;
-    ground.planned += prescribed * hectares;
-    errors.add(applied - prescribed, area);
+    ofRate.planned += prescribed * hectares;
+    errors.add(applied - prescribed, squareMetres);
 }
 
 DriveTally::DriveTally(Simulation *givenSimulation, Ground givenGround, QObject *parent)

@@ -36,7 +36,7 @@ public:
         BorderWatch borders;
 
         /// Adds ground of one prescribed rate, not a number for none, to which `applied` was applied.
-        void add(double prescribed, double applied, double area);
+        void add(double prescribed, double applied, double squareMetres);
     };
 
     /// What is counted beside the lateness of changes.

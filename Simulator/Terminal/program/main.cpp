@@ -29,7 +29,8 @@ int complain(const QString &reason)
 }
 
 /// Qt's own code cannot be unwound when a script's text or list outgrows the memory; that must be a plain error, too.
-[[noreturn]] void endWithoutMemory()
+/// Nor can it when a plug-in throws: that is the plug-in's fault, and said before the end.
+[[noreturn]] void endByException()
 {
     try {
         if (const std::exception_ptr thrown = std::current_exception())
@@ -37,6 +38,9 @@ int complain(const QString &reason)
     } catch (const std::bad_alloc &) {
         std::fputs("terminal-simulator: there is not enough memory\n", stderr);
         _exit(1);
+    } catch (const std::exception &thrown) {
+        std::fprintf(stderr, "terminal-simulator: an exception that nobody caught, maybe a plug-in's: %s\n",
+                     thrown.what());
     } catch (...) {
     }
     std::abort();
@@ -103,7 +107,7 @@ int main(int argc, char *argv[])
     // A limit of a file's size is told like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     dropSettingsOfOtherPrograms();
-    std::set_terminate(endWithoutMemory);
+    std::set_terminate(endByException);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aScriptsResultIsTheExitStatus();
     void aScriptThatOutgrowsTheMemoryEndsWithALine();
     void brokenPluginsAreReportedAndSkipped();
+    void textsOfSeveralPluginsStandApart();
     void withoutADisplayItSaysSo_data();
     void withoutADisplayItSaysSo();
     void withoutOpenGlItSaysSo();
@@ -157,6 +158,20 @@ void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
     QVERIFY2(outcome.output.contains(QLatin1String(": Rx Rate: 80.00 (SEED_K_HA, 1000/ha)\n")),
              qPrintable(outcome.output));
     QCOMPARE(outcome.errors, QStringLiteral("libbroken.so: is no shared library\n"));
+}
+
+void TestTerminalSimulator::textsOfSeveralPluginsStandApart()
+{
+    const QTemporaryDir plugins;
+    const QDir target(plugins.path());
+    const QString map = buildPath("Plugins/uiPluginRxMap/libuiPluginRxMap.so");
+    QVERIFY(QFile::link(map, target.filePath(QStringLiteral("map.so"))));
+    QVERIFY(QFile::link(QStringLiteral(RXMAP_PLACE_PLUGIN), target.filePath(QStringLiteral("place.so"))));
+    const Outcome outcome =
+        run({"--plugin-dir", plugins.path(), "--columns", "SEED_K_HA", "--describe", "-100,0", zones()});
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    QVERIFY2(outcome.output.contains(QLatin1String("Rx Rate: 70.00; -100 m east, 0 m north (SEED_K_HA")),
+             qPrintable(outcome.output));
 }
 
 void TestTerminalSimulator::withoutADisplayItSaysSo_data()

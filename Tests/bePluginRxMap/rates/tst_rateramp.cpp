@@ -36,7 +36,7 @@ Triple seen(const Triple &rgb, int blindness)
     const double *m = matrices[blindness];
     Triple result = {};
     for (int i = 0; i < 3; ++i)
-        result[i] = std::max(0.0, m[3 * i] * rgb[0] + m[3 * i + 1] * rgb[1] + m[3 * i + 2] * rgb[2]);
+        result[size_t(i)] = std::max(0.0, m[3 * i] * rgb[0] + m[3 * i + 1] * rgb[1] + m[3 * i + 2] * rgb[2]);
     return result;
 }
 

@@ -16,7 +16,7 @@ class UiPluginPlace : public UiPluginBase {
     QStringList getGraphicsListNames() override { return {"PlaceList"}; }
     QPointer<UiGraphicsList> createUiGraphicsList(QString, DataBroker *broker) override
     {
-        return new PlaceList(broker);
+        return new PlaceList(broker, this);
     }
     QStringList getGuidancePageWidgetNames() override { return {}; }
     Texts getGuidancePageWidgetLibraryCategories() override { return {}; }

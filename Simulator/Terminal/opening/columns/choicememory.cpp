@@ -74,6 +74,8 @@ std::optional<FileChoices> ChoiceMemory::of(const QString &path) const
 
 void ChoiceMemory::keep(const QString &path, const FileChoices &choices)
 {
+    // Another terminal may have kept something meanwhile.
+    settings.sync();
     const QString name = nameOf(path);
     QVariantList files{toMap(name, choices)};
     const QVariantList before = settings.value(key).toList();
@@ -82,4 +84,5 @@ void ChoiceMemory::keep(const QString &path, const FileChoices &choices)
             files.append(file);
     }
     settings.setValue(key, files);
+    settings.sync();
 }

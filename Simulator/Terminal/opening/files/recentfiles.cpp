@@ -22,11 +22,14 @@ QStringList RecentFiles::paths() const
 
 void RecentFiles::add(const QString &path)
 {
+    // Another terminal may have opened something meanwhile.
+    settings.sync();
     const QString absolute = QFileInfo(path).absoluteFilePath();
     QStringList files = paths();
     files.removeAll(absolute);
     files.prepend(absolute);
     settings.setValue(key, QStringList(files.mid(0, most)));
+    settings.sync();
 }
 
 QString RecentFiles::folder() const

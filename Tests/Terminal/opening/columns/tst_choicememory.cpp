@@ -8,6 +8,7 @@ class TestChoiceMemory : public TestBase {
 private Q_SLOTS:
     void init();
     void choicesOutliveTheProgram();
+    void whatAnotherTerminalKeptStays();
     void theFilesOfLongAgoAreForgotten();
     void aFileIsTheSameHoweverItIsReached();
 
@@ -42,6 +43,23 @@ void TestChoiceMemory::choicesOutliveTheProgram()
     QCOMPARE(found->columns.first().productName, QStringLiteral("Slurry"));
     QCOMPARE(found->columns.first().unit, QStringLiteral("m3/ha"));
     QVERIFY(!ChoiceMemory(*settings).of(QStringLiteral("/b.shp")));
+}
+
+void TestChoiceMemory::whatAnotherTerminalKeptStays()
+{
+    ChoiceMemory(*settings).keep(QStringLiteral("/a.shp"), {});
+    settings->sync();
+    // Within one program all settings of a file are one; the other's file is put in place of it.
+    const QString others = folder->filePath(QStringLiteral("others.ini"));
+    QVERIFY(QFile::copy(file(), others));
+    {
+        QSettings other(others, QSettings::IniFormat);
+        ChoiceMemory(other).keep(QStringLiteral("/b.shp"), {});
+    }
+    QVERIFY(QFile::remove(file()) && QFile::copy(others, file()));
+    ChoiceMemory(*settings).keep(QStringLiteral("/c.shp"), {});
+    for (const char *path : {"/a.shp", "/b.shp", "/c.shp"})
+        QVERIFY2(ChoiceMemory(*settings).of(QLatin1String(path)), path);
 }
 
 void TestChoiceMemory::theFilesOfLongAgoAreForgotten()
