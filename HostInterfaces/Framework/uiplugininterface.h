@@ -65,7 +65,8 @@ public:
     virtual QMap<QString, QString> getFeatureImageNames() { return {}; }
     virtual QStringList getConfigPanelWidgetNames() = 0;
     virtual QStringList getGraphicsListNames() = 0;
-    /// The plug-in owns the list, and may delete an earlier one when it makes a new one. Null for a name that it does not offer.
+    /// The plug-in owns the list, and may delete an earlier one when it makes a new one. Null for a name that it does
+    /// not offer.
     virtual QPointer<UiGraphicsList> createUiGraphicsList(QString name, DataBroker *broker) = 0;
     /// `x`, `y`: place in the page's grid; `position`: top left corner on the page, pixels. Null for a name that the
     /// plug-in does not offer.

@@ -33,8 +33,14 @@ public:
     double cellSize() const { return cell; }
     /// Base units, of a product by number from 1; not a number where nothing was prescribed, or nothing passed. Row 0
     /// is the northernmost.
-    float prescribed(int number, int column, int row) const { return prescribedRates[size_t(number - 1)][index(column, row)]; }
-    float applied(int number, int column, int row) const { return appliedRates[size_t(number - 1)][index(column, row)]; }
+    float prescribed(int number, int column, int row) const
+    {
+        return prescribedRates[size_t(number - 1)][index(column, row)];
+    }
+    float applied(int number, int column, int row) const
+    {
+        return appliedRates[size_t(number - 1)][index(column, row)];
+    }
 
 private:
     using Grid = std::vector<float>;
