@@ -35,12 +35,13 @@ QFont scaled(QFont font, qreal share)
 /// The font, made smaller step by step, as far as it stays readable, until the text fits the width.
 QFont fittedFont(const QFont &font, const QString &text, qreal width)
 {
-    QFont fitted = font;
     // Versions of a font differ in their pairs: what fits would fit on some machines only.
-    fitted.setKerning(false);
+    QFont unpaired = font;
+    unpaired.setKerning(false);
+    QFont fitted = unpaired;
     for (int percent = 100 - textPercentStep;
          percent >= minTextPercent && QFontMetricsF(fitted).horizontalAdvance(text) > width; percent -= textPercentStep)
-        fitted = scaled(font, percent / 100.0);
+        fitted = scaled(unpaired, percent / 100.0);
     return fitted;
 }
 
