@@ -24,6 +24,7 @@ private Q_SLOTS:
     void textsOfSeveralPluginsStandApart();
     void withoutADisplayItSaysSo_data();
     void withoutADisplayItSaysSo();
+    void aDisplayThatGoesEndsItWithALine();
     void withoutOpenGlItSaysSo();
     void itSpeaksTheOperatorsLanguage();
     void aMissingImageIsNamed();
@@ -201,6 +202,27 @@ void TestTerminalSimulator::withoutADisplayItSaysSo()
     QCOMPARE(none.status, 1);
     QCOMPARE(none.errors,
              QStringLiteral("terminal-simulator: there is no display that can be opened; start it under xvfb-run\n"));
+}
+
+void TestTerminalSimulator::aDisplayThatGoesEndsItWithALine()
+{
+    QProcess server;
+    server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1")});
+    QVERIFY(server.waitForReadyRead(30000));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + QString::fromLatin1(server.readLine().trimmed()));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(RXMAP_PROGRAM),
+                  {QStringLiteral("--script"), write("print('shown'); terminal.wait(60000);", "wait.js"), zones()});
+    QVERIFY(program.waitForReadyRead(60000));
+    QTRY_VERIFY_WITH_TIMEOUT(program.peek(10000).contains("shown"), 60000);
+    server.kill();
+    QVERIFY(server.waitForFinished() && program.waitForFinished(30000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray errors = program.readAllStandardError();
+    QVERIFY2(errors.endsWith("terminal-simulator: the display's server is gone\n"), errors.constData());
 }
 
 void TestTerminalSimulator::withoutOpenGlItSaysSo()

@@ -1,0 +1,111 @@
+#include "process.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcessEnvironment>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <fcntl.h>
+#include <new>
+#include <unistd.h>
+
+namespace {
+
+bool wasOutputClosed = false;
+bool isDisplayWatched = false;
+
+/// Qt's own code cannot be unwound when a script's text or list outgrows the memory; that must be a plain error, too.
+/// Nor can it when a plug-in throws: that is the plug-in's fault, and said before the end.
+[[noreturn]] void endByException()
+{
+    try {
+        if (const std::exception_ptr thrown = std::current_exception())
+            std::rethrow_exception(thrown);
+    } catch (const std::bad_alloc &) {
+        std::fputs("terminal-simulator: there is not enough memory\n", stderr);
+        _exit(1);
+    } catch (const std::exception &thrown) {
+        std::fprintf(stderr, "terminal-simulator: an exception that nobody caught, maybe a plug-in's: %s\n",
+                     thrown.what());
+    } catch (...) {
+    }
+    std::abort();
+}
+
+/// A closed stream's place would be taken by the display's socket, and what is printed would go to the display.
+void reserveStandardStreams()
+{
+    int opened = 0;
+    do {
+        opened = open("/dev/null", O_RDWR);
+        wasOutputClosed = wasOutputClosed || opened == STDOUT_FILENO;
+    } while (opened >= 0 && opened <= STDERR_FILENO);
+    if (opened >= 0)
+        close(opened);
+}
+
+/// What somebody has set for other programs that read maps, in the environment or in a file for all of them, must not
+/// change how this one reads them.
+void dropSettingsOfOtherPrograms()
+{
+    const QStringList names = QProcessEnvironment::systemEnvironment().keys();
+    for (const QString &name : names) {
+        for (const char *prefix : {"CPL_", "GDAL_", "GML_", "KML_", "LIBKML_", "OGR_", "OSR_", "SHAPE_"}) {
+            // Where the library has its own tables is the installation's to say.
+            if (name.startsWith(QLatin1String(prefix)) && name != QLatin1String("GDAL_DATA"))
+                qunsetenv(name.toLocal8Bit().constData());
+        }
+    }
+    qputenv("GDAL_CONFIG_FILE", "/dev/null");
+}
+
+void endWithoutDisplay()
+{
+    if (!isDisplayWatched)
+        return;
+    std::fputs("terminal-simulator: the display's server is gone\n", stderr);
+    std::fflush(stdout);
+    _exit(1);
+}
+
+} // namespace
+
+void Process::prepare()
+{
+    reserveStandardStreams();
+    // A limit of a file's size is told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    dropSettingsOfOtherPrograms();
+    std::set_terminate(endByException);
+}
+
+void Process::refuseLostOutput()
+{
+    if (!wasOutputClosed)
+        return;
+    const int full = open("/dev/full", O_WRONLY);
+    dup2(full, STDOUT_FILENO);
+    close(full);
+}
+
+void Process::provideRuntimeFolder()
+{
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR",
+                QFile::encodeName(QDir::temp().filePath(QStringLiteral("runtime-%1").arg(getuid()))));
+}
+
+Process::DisplayWatch::DisplayWatch()
+{
+    isDisplayWatched = true;
+    // Registered last, called first.
+    std::atexit(endWithoutDisplay);
+}
+
+Process::DisplayWatch::~DisplayWatch()
+{
+    isDisplayWatched = false;
+}
