@@ -7,6 +7,7 @@
 #include "testbase.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -112,13 +113,16 @@ void TestLanguages::whatALoadSaysIsTranslated_data()
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("refusal");
     QTest::addColumn<QString>("finding");
+    QTest::addColumn<QString>("figure");
     QTest::newRow("de") << "de"
                         << "/no/such.shp: diese Datei gibt es nicht"
-                        << "Spalte „A“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält";
+                        << "Spalte „A“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält"
+                        << " auf [0-9]+,[0-9] m2$";
     // In English as long as nobody has translated it.
     QTest::newRow("fr") << "fr"
                         << "/no/such.shp: there is no such file"
-                        << "column \"A\" is a guess: nothing in its name says that it holds rates";
+                        << "column \"A\" is a guess: nothing in its name says that it holds rates"
+                        << " on [0-9]+\\.[0-9] m2$";
 }
 
 void TestLanguages::whatALoadSaysIsTranslated()
@@ -131,6 +135,10 @@ void TestLanguages::whatALoadSaysIsTranslated()
     QTEST(PrescriptionBackend::check(request, 12.0).error, "refusal");
     request.path = sourcePath("Tests/fixtures/two-strips.geojson");
     QTEST(PrescriptionBackend::check(request, 12.0).findings.value(0).text, "finding");
+    request.path = sourcePath("Tests/fixtures/overlap.geojson");
+    QFETCH(QString, figure);
+    const QString overlap = PrescriptionBackend::check(request, 12.0).findings.last().text;
+    QVERIFY2(QRegularExpression(figure).match(overlap).hasMatch(), qPrintable(overlap));
 }
 
 void TestLanguages::englishNeedsNoCatalogue_data()

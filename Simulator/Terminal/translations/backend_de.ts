@@ -695,5 +695,10 @@
         <source>a lost position</source>
         <translation>eine verlorene Position</translation>
     </message>
+    <message>
+        <source>.</source>
+        <comment>decimal separator</comment>
+        <translation>,</translation>
+    </message>
 </context>
 </TS>

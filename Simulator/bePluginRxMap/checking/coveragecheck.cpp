@@ -114,7 +114,7 @@ void CoverageCheck::tellGap(const PlanePolygon &gap, FindingList &findings)
     finding.extent = PlaneShape::rectangle(PlaneShape::extent(gap));
     finding.records = surroundings.records;
     finding.text = BackendText::tr("no polygon covers %1 inside the field (%2 m wide)")
-                       .arg(FindingText::squareMetres(area), QString::number(width, 'f', isSliver ? 2 : 1));
+                       .arg(FindingText::squareMetres(area), BackendText::number(width, 'f', isSliver ? 2 : 1));
     if (!finding.records.isEmpty())
         finding.text += BackendText::tr(", beside %1").arg(FindingText::records(finding.records));
     findings.add(finding, area);

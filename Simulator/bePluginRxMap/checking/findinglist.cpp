@@ -62,7 +62,7 @@ MapFinding FindingList::summary(MapFinding::Kind kind, const Share &share)
     finding.records.erase(std::unique(finding.records.begin(), finding.records.end()), finding.records.end());
     if (share.otherArea > 0.0) {
         finding.area = share.otherArea;
-        finding.text += BackendText::tr(", %1 m2 in all").arg(share.otherArea, 0, 'f', 1);
+        finding.text += BackendText::tr(", %1 m2 in all").arg(BackendText::number(share.otherArea, 'f', 1));
     }
     return finding;
 }

@@ -8,7 +8,7 @@
 
 QString FindingText::squareMetres(double area)
 {
-    return QStringLiteral("%1 m2").arg(area, 0, 'f', area < 10.0 ? 2 : 1);
+    return QStringLiteral("%1 m2").arg(BackendText::number(area, 'f', area < 10.0 ? 2 : 1));
 }
 
 QString FindingText::records(const QList<int> &records)

@@ -59,7 +59,9 @@ void NarrowCheck::tellSliver(unsigned place, FindingList &findings) const
     finding.area = MapView::area(polygon);
     finding.extent = PlaneShape::rectangle(polygon.extent);
     finding.place = finding.extent.center();
-    finding.text = BackendText::tr("record %1 is only %2 m wide").arg(polygon.record).arg(widths[place], 0, 'f', 2);
+    finding.text = BackendText::tr("record %1 is only %2 m wide")
+                       .arg(polygon.record)
+                       .arg(BackendText::number(widths[place], 'f', 2));
     findings.add(finding, -widths[place]);
 }
 
@@ -131,9 +133,9 @@ MapFinding NarrowCheck::findingOf(const Area &area) const
     const QString one = BackendText::tr("%1 is %2 m wide, narrower than the machine (%3 m)");
     const QString many =
         BackendText::tr("%1 have the same rate and are %2 m wide together, narrower than the machine (%3 m)");
-    finding.text =
-        (records.size() == 1 ? one : many)
-            .arg(FindingText::records(records), QString::number(area.width, 'f', 1), QString::number(machineWidth));
+    finding.text = (records.size() == 1 ? one : many)
+                       .arg(FindingText::records(records), BackendText::number(area.width, 'f', 1),
+                            BackendText::number(machineWidth, 'g', 6));
     return finding;
 }
 
@@ -143,8 +145,8 @@ MapFinding NarrowCheck::findingOf(const std::vector<Area> &areas) const
         *std::min_element(areas.begin(), areas.end(), [](const Area &a, const Area &b) { return a.width < b.width; });
     MapFinding finding = findingOf(narrowest);
     finding.text = BackendText::tr("%1 areas of one rate are narrower than the machine (%2 m), the narrowest %3 m (%4)")
-                       .arg(QString::number(areas.size()), QString::number(machineWidth),
-                            QString::number(narrowest.width, 'f', 1), FindingText::records(finding.records));
+                       .arg(QString::number(areas.size()), BackendText::number(machineWidth, 'g', 6),
+                            BackendText::number(narrowest.width, 'f', 1), FindingText::records(finding.records));
     finding.records.clear();
     finding.area = 0.0;
     for (const Area &area : areas) {

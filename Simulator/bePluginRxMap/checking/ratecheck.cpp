@@ -28,7 +28,7 @@ constexpr double leastCorrelation = 0.9;
 
 QString numberText(double value)
 {
-    return QString::number(value, 'g', 6);
+    return BackendText::number(value, 'g', 6);
 }
 
 /// The different rates but zero, which says that nothing is wanted, ascending.

@@ -6,4 +6,11 @@
 /// is about stands before them.
 class BackendText {
     Q_DECLARE_TR_FUNCTIONS(BackendText)
+
+public:
+    /// A number within such a text, as QString::number() writes it but with the decimal separator of its language.
+    static QString number(double value, char format, int precision)
+    {
+        return QString::number(value, format, precision).replace(QLatin1Char('.'), tr(".", "decimal separator"));
+    }
 };
