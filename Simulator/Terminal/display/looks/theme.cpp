@@ -23,6 +23,8 @@ Theme::Colors dayColors()
     colors.disabledText = QColor(94, 104, 114);
     colors.accentText = QColor(0, 84, 156);
     colors.textOnAccent = QColor(255, 255, 255);
+    colors.caution = QColor(255, 196, 60);
+    colors.textOnCaution = QColor(16, 24, 32);
     colors.prescribed = QColor(190, 104, 0);
     colors.ground = QColor(222, 216, 202);
     colors.groundLine = QColor(40, 44, 36);
@@ -42,6 +44,8 @@ Theme::Colors nightColors()
     colors.disabledText = QColor(146, 156, 166);
     colors.accentText = QColor(255, 198, 0);
     colors.textOnAccent = QColor(14, 18, 22);
+    colors.caution = QColor(150, 56, 0);
+    colors.textOnCaution = QColor(255, 255, 255);
     colors.prescribed = QColor(120, 200, 255);
     colors.ground = QColor(38, 42, 38);
     colors.groundLine = QColor(214, 220, 204);
@@ -117,6 +121,16 @@ QColor Theme::accent()
 QColor Theme::textOnAccent()
 {
     return now().textOnAccent;
+}
+
+QColor Theme::caution()
+{
+    return now().caution;
+}
+
+QColor Theme::textOnCaution()
+{
+    return now().textOnCaution;
 }
 
 QColor Theme::text()

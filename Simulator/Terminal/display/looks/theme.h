@@ -26,6 +26,8 @@ struct Colors {
     QColor disabledText; ///< on panel and disabledButton
     QColor accentText;   ///< on panel and button
     QColor textOnAccent;
+    QColor caution; ///< ground of what the operator is to see to
+    QColor textOnCaution;
     QColor prescribed; ///< of a plot's line, beside one of the accent's
     QColor ground;     ///< under the map
     QColor groundLine; ///< of the grid on the ground
@@ -56,6 +58,8 @@ QColor pressedButton();
 QColor disabledButton();
 QColor accent();
 QColor textOnAccent();
+QColor caution();
+QColor textOnCaution();
 QColor text();
 QColor faintText();
 QColor disabledText();

@@ -1,6 +1,7 @@
 #include "touchbutton.h"
 
 #include "buttonlook.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QKeyEvent>
@@ -12,6 +13,8 @@ namespace {
 
 constexpr int textPixels = 24;
 constexpr int notePixels = 15;
+/// A longer text goes on in another line.
+constexpr int leastPixels = 15;
 constexpr int inset = 10;
 
 } // namespace
@@ -27,6 +30,12 @@ void TouchButton::setNote(const QString &newNote)
 {
     note = newNote;
     setAccessibleDescription(note);
+    update();
+}
+
+void TouchButton::setCaution(bool isWanted)
+{
+    wantsCaution = isWanted;
     update();
 }
 
@@ -55,7 +64,9 @@ void TouchButton::keyPressEvent(QKeyEvent *event)
 void TouchButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
+    ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
+    if (wantsCaution && isEnabled() && !isDown())
+        look = {Theme::caution(), Theme::textOnCaution(), Theme::textOnCaution(), Theme::textOnCaution(), false};
     Theme::drawPanel(painter, rect(), look.ground);
     if (hasFocus())
         Theme::drawFocus(painter, rect(), look.isOnAccent);
@@ -74,15 +85,19 @@ void TouchButton::drawTexts(QPainter &painter, const ButtonLook &look) const
     QFont font = Theme::font(textPixels, true);
     const double needed = QFontMetricsF(font).horizontalAdvance(text());
     if (needed > inner.width())
-        font.setPixelSize(std::max(notePixels, int(textPixels * inner.width() / needed)));
+        font.setPixelSize(std::max(leastPixels, int(textPixels * inner.width() / needed)));
     painter.setFont(font);
     painter.setPen(look.text);
-    const QString shown = QFontMetrics(font).elidedText(text(), Qt::ElideRight, inner.width());
+    const QFontMetrics metrics(font);
+    const int noteHeight = note.isEmpty() ? 0 : QFontMetrics(Theme::font(notePixels)).height();
+    const int most = std::max(1, (height() - noteHeight) / metrics.height());
+    const QStringList lines = TextLines::of(text(), metrics, inner.width(), most);
+    const QString shown = lines.join(QLatin1Char('\n'));
     if (note.isEmpty()) {
         painter.drawText(inner, Qt::AlignCenter, shown);
         return;
     }
-    const int middle = height() / 2 + 2;
+    const int middle = height() / 2 + 2 + (lines.size() - 1) * metrics.height() / 2;
     painter.drawText(QRect(inner.left(), 0, inner.width(), middle), Qt::AlignHCenter | Qt::AlignBottom, shown);
     painter.setFont(Theme::font(notePixels));
     painter.setPen(look.note);

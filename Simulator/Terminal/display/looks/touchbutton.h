@@ -15,6 +15,9 @@ public:
 
     /// A second, smaller line under the text.
     void setNote(const QString &note);
+    /// Whether it stands out as something that the operator is to see to.
+    void setCaution(bool isWanted);
+    bool isCaution() const { return wantsCaution; }
     /// A picture in place of the text, which then only names the button.
     void setSymbol(const QPainterPath &symbol);
     QSize sizeHint() const override;
@@ -27,5 +30,6 @@ private:
     void drawTexts(QPainter &painter, const ButtonLook &look) const;
 
     QString note;
+    bool wantsCaution = false;
     QPainterPath symbol;
 };

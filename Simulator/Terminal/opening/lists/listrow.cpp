@@ -2,11 +2,10 @@
 
 #include "buttonlook.h"
 #include "symbols.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QPainter>
-
-#include <algorithm>
 
 namespace {
 
@@ -15,21 +14,10 @@ constexpr int longTextPixels = 17;
 constexpr int notePixels = 16;
 constexpr int textHeight = 28;
 constexpr int noteHeight = 21;
+/// Of a line where a text takes several; as many of them and of the notes as there is room for.
+constexpr int longTextHeight = 20;
 constexpr int inset = 16;
 constexpr int markWidth = 8;
-
-/// A text that is longer than a line, on two lines, broken between words where that is possible.
-QStringList onTwoLines(const QString &text, const QFontMetrics &metrics, int width)
-{
-    int length = text.size();
-    while (length > 1 && metrics.horizontalAdvance(text.left(length)) > width)
-        --length;
-    const int word =
-        std::max(text.lastIndexOf(QLatin1Char(' '), length), text.lastIndexOf(QLatin1Char('_'), length - 1));
-    if (length < text.size() && word > 0)
-        length = word + 1;
-    return {text.left(length).trimmed(), text.mid(length)};
-}
 
 } // namespace
 
@@ -89,12 +77,11 @@ void ListRow::drawTexts(QPainter &painter, const QRect &area, const ButtonLook &
     QStringList texts{text()};
     painter.setFont(Theme::font(textPixels, true));
     int lineHeight = textHeight;
-    const int twoLines = 2 * noteHeight;
-    if (painter.fontMetrics().horizontalAdvance(text()) > area.width()
-        && twoLines + notes.size() * noteHeight <= height()) {
+    const int most = height() / longTextHeight - notes.size();
+    if (painter.fontMetrics().horizontalAdvance(text()) > area.width() && most > 1) {
         painter.setFont(Theme::font(longTextPixels, true));
-        texts = onTwoLines(text(), painter.fontMetrics(), area.width());
-        lineHeight = noteHeight;
+        texts = TextLines::of(text(), painter.fontMetrics(), area.width(), most);
+        lineHeight = longTextHeight;
     }
     const int all = texts.size() * lineHeight + notes.size() * noteHeight;
     QRect line(area.left(), (height() - all) / 2, area.width(), lineHeight);

@@ -31,6 +31,7 @@ const Pair pairs[] = {
     {"accent's text on panel", &Theme::Colors::accentText, &Theme::Colors::panel, leastContrast},
     {"accent's text on button", &Theme::Colors::accentText, &Theme::Colors::button, leastContrast},
     {"text on accent", &Theme::Colors::textOnAccent, &Theme::Colors::accent, leastContrast},
+    {"text on caution", &Theme::Colors::textOnCaution, &Theme::Colors::caution, leastContrast},
 };
 
 } // namespace

@@ -13,7 +13,7 @@ class TestTouchButton : public TestBase {
 private Q_SLOTS:
     void itIsBigEnoughForAGlove();
     void itShowsItsTextAndItsNote();
-    void aTextThatIsTooLongIsShortened();
+    void aTextThatIsTooLongTakesSeveralLines();
     void colorsTellItsState();
     void theKeyboardReachesIt();
     void aSymbolStandsForTheText();
@@ -45,18 +45,21 @@ void TestTouchButton::itShowsItsTextAndItsNote()
     QCOMPARE(paintedTexts(button), (QStringList{"Seed", "Bin 1"}));
 }
 
-void TestTouchButton::aTextThatIsTooLongIsShortened()
+void TestTouchButton::aTextThatIsTooLongTakesSeveralLines()
 {
     const QString longText = QStringLiteral("A product with a very long name indeed");
     TouchButton button(longText);
     button.setNote(longText);
-    button.resize(100, 88);
-    const QStringList texts = paintedTexts(button);
-    QCOMPARE(texts.size(), 2);
-    for (const QString &text : texts) {
-        QVERIFY2(text.endsWith(QChar(0x2026)), qPrintable(text));
-        QVERIFY(longText.startsWith(text.chopped(1)));
-    }
+    button.resize(140, 98);
+    QStringList texts = paintedTexts(button);
+    const QString note = texts.takeLast();
+    QVERIFY2(note.endsWith(QChar(0x2026)) && longText.startsWith(note.chopped(1)), qPrintable(note));
+    QVERIFY(texts.size() > 1);
+    QCOMPARE(texts.join(QLatin1Char(' ')), longText);
+    // Where lines are no room for all of it either.
+    button.resize(100, 60);
+    texts = paintedTexts(button);
+    QVERIFY2(texts.at(texts.size() - 2).contains(QChar(0x2026)), qPrintable(texts.join(QLatin1Char('|'))));
     // A text that is only a little too long is written smaller instead.
     button.setText(QStringLiteral("Fertiliser"));
     QCOMPARE(paintedTexts(button).first(), QStringLiteral("Fertiliser"));

@@ -1,0 +1,33 @@
+#include "textlines.h"
+
+#include <algorithm>
+
+namespace {
+
+/// How much of the text fits into a line: up to the end of a word if one ends there.
+int fitting(const QString &text, const QFontMetrics &metrics, int width)
+{
+    int length = text.size();
+    while (length > 1 && metrics.horizontalAdvance(text.left(length)) > width)
+        --length;
+    if (length == text.size())
+        return length;
+    const int word =
+        std::max(text.lastIndexOf(QLatin1Char(' '), length), text.lastIndexOf(QLatin1Char('_'), length - 1));
+    return word > 0 ? word + 1 : length;
+}
+
+} // namespace
+
+QStringList TextLines::of(const QString &text, const QFontMetrics &metrics, int width, int most)
+{
+    QStringList lines;
+    QString rest = text;
+    while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > width) {
+        const int length = fitting(rest, metrics, width);
+        lines.append(rest.left(length).trimmed());
+        rest = rest.mid(length);
+    }
+    lines.append(metrics.elidedText(rest, Qt::ElideMiddle, width));
+    return lines;
+}
