@@ -17,6 +17,10 @@
 #include "Framework/productlineitem.h"
 #include "bePluginRxMap/rxmaploader.h"
 
+#include <QFileInfo>
+#include <QMap>
+
+#include <algorithm>
 namespace {
 
 QString numbered(const char *prefix, int number)
@@ -64,6 +68,23 @@ DbGroupProductGroupInfo::RateKind rateKindOf(const Product &product)
     return DbGroupProductGroupInfo::UnknownRate;
 }
 
+bool isSame(const Product &one, const Product &other)
+{
+    return one.name == other.name && one.kind == other.kind;
+}
+
+/// The products that columns make of those that there are. There are never fewer, and one that stays what it was keeps
+/// all that the operator set.
+Products remade(const QList<ColumnProduct> &columns, const Products &present)
+{
+    Products products = SuggestedProducts::of(columns, present.size());
+    for (int i = 0; i < present.size(); ++i) {
+        if (isSame(products.at(i), present.at(i)))
+            products[i] = present.at(i);
+    }
+    return products;
+}
+
 } // namespace
 
 Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Products &products, UnitSystem givenUnits,
@@ -100,10 +121,11 @@ void Machine::listProducts()
 
 void Machine::takeProducts(const QList<ColumnProduct> &columns)
 {
-    if (!areProductsOpen)
-        return;
+    const Products made = remade(columns, productsInUse());
     const int before = allProducts.size();
-    allProducts = SuggestedProducts::of(columns);
+    if (!areProductsOpen || std::equal(made.begin(), made.end(), allProducts.begin(), allProducts.end(), isSame))
+        return;
+    allProducts = made;
     for (int number = 1; number <= before; ++number)
         describeProduct(number);
     for (int number = before + 1; number <= allProducts.size(); ++number)
@@ -112,18 +134,59 @@ void Machine::takeProducts(const QList<ColumnProduct> &columns)
     Q_EMIT productsChanged();
 }
 
+void Machine::leaveProductsOpen()
+{
+    takesProductsFromFiles = true;
+    areProductsOpen = true;
+}
+
+void Machine::settleProducts()
+{
+    areProductsOpen = areProductsOpen && prescriptions->maps().isEmpty();
+}
+
+Products Machine::productsInUse() const
+{
+    Products products = allProducts;
+    for (int i = 0; i < products.size(); ++i)
+        products[i].defaultRate = prescriptions->loader(i)->defaultRate;
+    return products;
+}
+
 void Machine::enterProducts(LoadRequest &request) const
 {
     request.products = loadedProducts();
-    if (!areProductsOpen)
+    if (areProductsOpen)
+        request.makeProducts = maker();
+}
+
+void Machine::offerProducts(LoadRequest &request) const
+{
+    request.products = loadedProducts();
+    if (!takesProductsFromFiles || (keepsProducts && keepsProducts()))
         return;
-    // Called in another thread, which may not ask the broker. The products that stand in are of all kinds there are.
-    QMap<DbGroupProductGroupInfo::RateKind, double> factors;
-    for (const MachineProduct &product : qAsConst(request.products))
-        factors.insert(product.kind, product.displayFactor);
-    request.makeProducts = [factors](const QList<ColumnProduct> &columns) {
+    request.makeProducts = maker();
+    const QList<LoadReport> maps = prescriptions->maps();
+    for (const LoadReport &map : maps) {
+        const QList<int> fed = columnsOf(map.group).keys();
+        for (const int number : fed)
+            request.products[number - 1].isInUse = QFileInfo(map.path) != QFileInfo(request.path);
+    }
+}
+
+Machine::ProductMaker Machine::maker() const
+{
+    // Called in another thread, which may not ask the broker.
+    const auto *converter =
+        qobject_cast<DbGroupQmlUnitsConverter *>(broker->getGroup(QStringLiteral("QmlUnitsConverter"), false));
+    const QMap<DbGroupProductGroupInfo::RateKind, double> factors{
+        {DbGroupProductGroupInfo::CountRate, converter->getCountRateToDisplay()},
+        {DbGroupProductGroupInfo::VolumeRate, converter->getVolumeRateToDisplay()},
+        {DbGroupProductGroupInfo::WeightRate, converter->getWeightRateToDisplay()}};
+    const Products present = productsInUse();
+    return [factors, present](const QList<ColumnProduct> &columns) {
         QList<MachineProduct> made;
-        const Products products = SuggestedProducts::of(columns);
+        const Products products = remade(columns, present);
         for (const Product &product : products)
             made.append({product.name, productGroupName(made.size() + 1), rateKindOf(product), product.defaultRate,
                          product.underVra, false, factors.value(rateKindOf(product), 1.0)});
@@ -133,14 +196,12 @@ void Machine::enterProducts(LoadRequest &request) const
 
 Products Machine::productsFor(const QList<ColumnProduct> &columns) const
 {
-    return columns.isEmpty() ? allProducts : SuggestedProducts::of(columns);
+    return columns.isEmpty() ? allProducts : remade(columns, productsInUse());
 }
 
 QList<MachineProduct> Machine::loadedProductsFor(const QList<ColumnProduct> &columns) const
 {
-    LoadRequest request;
-    enterProducts(request);
-    return columns.isEmpty() || !request.makeProducts ? request.products : request.makeProducts(columns);
+    return columns.isEmpty() ? loadedProducts() : maker()(columns);
 }
 
 QList<MachineProduct> Machine::loadedProducts() const
@@ -242,7 +303,7 @@ void Machine::announceActiveProduct()
 
 void Machine::followMaps()
 {
-    areProductsOpen = areProductsOpen && prescriptions->maps().isEmpty();
+    settleProducts();
     for (int number = 1; number <= productGroups.size(); ++number) {
         const QString feeding = allProducts.at(number - 1).underVra
             ? ActiveMap::find(*broker, productGroupName(number)).groupName

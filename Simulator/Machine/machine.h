@@ -10,6 +10,8 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 class DataBroker;
 class DbGroupBin;
 class DbGroupGpsSolution;
@@ -30,10 +32,17 @@ public:
             QObject *parent = nullptr);
 
     /// The first prescription that is loaded from now on tells the products; those that there are stand in for them.
-    void leaveProductsOpen() { areProductsOpen = true; }
+    void leaveProductsOpen();
+    /// While a map is loaded, the next one does not.
+    void settleProducts();
+    /// Says when products that the operator is offered stay as they are whatever a prescription brings.
+    void keepProductsWhile(const std::function<bool()> &condition) { keepsProducts = condition; }
     /// Says for which products a prescription is to be loaded: the machine's, or those that are made from its columns
     /// while they are open.
     void enterProducts(LoadRequest &request) const;
+    /// The same for an operator who sees beforehand what comes of it, where the machine takes its products from
+    /// prescriptions: one that takes over all products in use brings its own, as the first one did.
+    void offerProducts(LoadRequest &request) const;
     /// The products of a file that was looked at: made from its columns, or the machine's where there are none.
     Products productsFor(const QList<ColumnProduct> &columns) const;
     QList<MachineProduct> loadedProductsFor(const QList<ColumnProduct> &columns) const;
@@ -74,6 +83,12 @@ private:
         DbGroupBin *bin;
     };
 
+    using ProductMaker = std::function<QList<MachineProduct>(const QList<ColumnProduct> &)>;
+
+    /// Makes products of a file's columns, see LoadRequest.
+    ProductMaker maker() const;
+    /// With the default rates in use.
+    Products productsInUse() const;
     void publishTerminal();
     void publishProduct(int number);
     /// Makes the groups of a product what it is.
@@ -88,6 +103,8 @@ private:
     Products allProducts;
     UnitSystem units;
     bool areProductsOpen = false;
+    bool takesProductsFromFiles = false;
+    std::function<bool()> keepsProducts;
     int active = 1;
     DbGroupJob *job = nullptr;
     DbGroupGpsSolution *gps = nullptr;

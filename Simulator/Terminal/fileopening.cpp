@@ -68,11 +68,13 @@ void FileOpening::take(const QStringList &files, const QStringList &others)
         openWindow->preview(files);
 }
 
-void FileOpening::closeUnused()
+void FileOpening::closeReplaced(const LoadReport &newest)
 {
+    // Products that were made anew are not those that the others fed.
+    const bool areProductsNew = !newest.columnProducts.isEmpty();
     const QList<LoadReport> maps = terminal->backend()->maps();
     for (const LoadReport &map : maps) {
-        if (terminal->columnsOf(map.group).isEmpty())
+        if (map.group != newest.group && (areProductsNew || terminal->columnsOf(map.group).isEmpty()))
             terminal->close(map.group);
     }
 }
@@ -84,7 +86,7 @@ void FileOpening::load(const OpenRequest &request)
     if (!self)
         return;
     if (report.isOk())
-        closeUnused();
+        closeReplaced(report);
     int first = 0;
     for (const RateSource &source : report.sources)
         first = first == 0 ? source.product : std::min(first, source.product);

@@ -8,6 +8,7 @@ class OpenWindow;
 class QAbstractButton;
 class Terminal;
 class TouchButton;
+struct LoadReport;
 struct OpenRequest;
 
 /// The ways to the open window, a button in the status bar and files that are dropped onto the display, and what comes
@@ -29,8 +30,8 @@ private:
     void giveWay(QAbstractButton *other);
     void take(const QStringList &files, const QStringList &others);
     void load(const OpenRequest &request);
-    /// Closes the maps whose products a newer one has taken over.
-    void closeUnused();
+    /// Closes the maps whose products the newest one has taken over.
+    void closeReplaced(const LoadReport &newest);
 
     Terminal *terminal;
     QSettings settings;

@@ -29,6 +29,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QScopeGuard>
 #include <QVector3D>
 
 /// A static library's resources have to be asked for, from outside of any namespace.
@@ -78,6 +79,9 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
 {
     initialiseResources();
     vehicle()->setSize(setup.size);
+    machineModel->keepProductsWhile([this] {
+        return driveRecorder->isRecording() || (!vehicle()->isStopped() && !prescriptions->maps().isEmpty());
+    });
     if (setup.takesProductsFromFile)
         machineModel->leaveProductsOpen();
     connectDisplay();
@@ -195,6 +199,12 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
 {
     QList<LoadReport> reports;
     LoadRequest load{{}, request.columns, request.units, {}, request.layer, request.task};
+    if (request.columnProducts && !request.columnProducts->isEmpty())
+        machineModel->leaveProductsOpen();
+    const auto settle = qScopeGuard([machine = QPointer<Machine>(machineModel.data())] {
+        if (machine)
+            machine->settleProducts();
+    });
     enterProducts(request, load);
     const ColumnShares shares = PrescriptionBackend::shareColumns(request.paths, load);
     if (!shares.isOk()) {

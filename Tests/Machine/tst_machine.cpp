@@ -40,6 +40,8 @@ private Q_SLOTS:
     void sixteenProductsAreCountedThrough();
     void productsThatStandInGiveWayToThoseOfTheFirstMap();
     void aMachineWithItsOwnProductsKeepsThem();
+    void productsAreOfferedAnewWhereNoneStaysInUse();
+    void productsMadeAgainKeepWhatWasSet();
 
 private:
     void build(const Products &products, UnitSystem units = UnitSystem::Metric);
@@ -319,6 +321,57 @@ void TestMachine::aMachineWithItsOwnProductsKeepsThem()
     machine->enterProducts(request);
     QCOMPARE(backend->loadAndWait(request).columnProducts.size(), 0);
     QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
+}
+
+void TestMachine::productsAreOfferedAnewWhereNoneStaysInUse()
+{
+    const auto offered = [this](const QString &path) {
+        LoadRequest request;
+        request.path = path;
+        machine->offerProducts(request);
+        return request;
+    };
+    const QString zones = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+    const QString other = TerminalHost::fixture(QStringLiteral("two-strips.geojson"));
+    QVERIFY(!offered(zones).makeProducts);
+    machine->leaveProductsOpen();
+    QVERIFY(offered(zones).makeProducts != nullptr);
+    LoadRequest request = offered(zones);
+    request.columns = QStringList{"", "FERT_KG_HA"};
+    QVERIFY(backend->loadAndWait(request).isOk());
+    QVERIFY(offered(other).products.at(1).isInUse && !offered(other).products.at(0).isInUse);
+    QVERIFY(offered(other).makeProducts != nullptr);
+    // A file does not stand in its own way.
+    QVERIFY(!offered(zones).products.at(1).isInUse);
+    bool isKept = true;
+    machine->keepProductsWhile([&isKept] { return isKept; });
+    QVERIFY(!offered(other).makeProducts);
+    isKept = false;
+    QVERIFY(offered(other).makeProducts != nullptr);
+    machine->keepProductsWhile({});
+}
+
+void TestMachine::productsMadeAgainKeepWhatWasSet()
+{
+    const QString path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+    const auto load = [this, &path](const QStringList &columns) {
+        machine->leaveProductsOpen();
+        LoadRequest request;
+        request.path = path;
+        request.columns = columns;
+        machine->offerProducts(request);
+        return backend->loadAndWait(request).isOk();
+    };
+    QVERIFY(load({"FERT_KG_HA", "HERB_L_HA", "SEED_K_HA", "FERT_KG_HA"}));
+    backend->loader(1)->defaultRate = 7.5;
+    const QSignalSpy changes(machine.data(), &Machine::productsChanged);
+    QVERIFY(load({"FERT_KG_HA", "HERB_L_HA", "SEED_K_HA", "FERT_KG_HA"}));
+    QCOMPARE(changes.size(), 0);
+    QVERIFY(load({"SEED_K_HA", "HERB_L_HA"}));
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(machine->products().size(), 4);
+    QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
+    QCOMPARE(backend->loader(1)->defaultRate, 7.5);
 }
 
 RXMAP_TEST(TestMachine, Core)

@@ -1,3 +1,4 @@
+#include "layerwriter.h"
 #include "machine.h"
 #include "openwindow.h"
 #include "paintedtexts.h"
@@ -6,10 +7,12 @@
 #include "terminaltest.h"
 #include "terminalwindow.h"
 #include "theme.h"
+#include "vehicle.h"
 #include "wheelbar.h"
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QTemporaryDir>
 
 /// The ways to the open window of a whole terminal.
 class TestFileOpening : public TerminalTest {
@@ -25,6 +28,9 @@ private Q_SLOTS:
     void theFolderButtonDoesNothingWhileADialogIsOpen();
     void aDroppedFileIsOpenedThroughTheWindow();
     void theFirstFileBringsItsProducts();
+    void aFileThatReplacesAllBringsItsProducts();
+    void productsStayWhereOneIsInUseOrTheMachineMoves();
+    void filesWantedTogetherShareTheProducts();
     void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
@@ -32,13 +38,42 @@ private Q_SLOTS:
 
 private:
     /// As the operator does who changes nothing.
-    void openByTouch(const char *fixture)
+    void openByTouch(const QString &path)
     {
-        Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QLatin1String(fixture))}, {});
+        Q_EMIT terminal().window()->dropped({path}, {});
         QTRY_VERIFY(button("openAccept") != nullptr);
-        button("openAccept")->click();
+        accept();
         QTRY_VERIFY(!terminal().openWindow()->isVisible());
     }
+    /// Units that are not known are taken as they are assumed.
+    void accept()
+    {
+        button("openAccept")->click();
+        if (button("choice0") != nullptr)
+            button("choice0")->click();
+    }
+    void openByTouch(const char *fixture) { openByTouch(TerminalHost::fixture(QLatin1String(fixture))); }
+    /// A prescription with these columns.
+    QString write(const char *name, const QList<LayerField> &fields)
+    {
+        LayerSketch sketch;
+        sketch.fields = fields;
+        QList<QVariant> rates;
+        for (int i = 0; i < fields.size(); ++i)
+            rates.append(100.0 + i);
+        sketch.rows = {{squareText(10, 50, 0.001), rates}};
+        const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".shp"));
+        return sketch.write(path) ? path : QString();
+    }
+    QStringList productNames()
+    {
+        QStringList names;
+        for (const Product &product : terminal().machine()->products())
+            names.append(product.name);
+        return names;
+    }
+    QString remark() { return terminal().window()->findChild<QLabel *>(QStringLiteral("openRemark"))->text(); }
+    QTemporaryDir folder;
     QString statusBar() { return paintedTexts(*terminal().window()->statusBar()).join(QLatin1Char('|')); }
     QAbstractButton *button(const char *name)
     {
@@ -124,7 +159,7 @@ void TestFileOpening::aFileOpenedAgainReplacesItself()
     QTRY_VERIFY(button("openAccept") != nullptr);
     button("columnRow0Product")->click();
     button("choice0")->click();
-    button("openAccept")->click();
+    accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     const QList<LoadReport> maps = terminal().backend()->maps();
     QCOMPARE(maps.size(), 1);
@@ -161,7 +196,7 @@ void TestFileOpening::aDroppedFileIsOpenedThroughTheWindow()
     QTRY_VERIFY(button("openAccept") != nullptr);
     button("columnRow0Product")->click();
     button("choice0")->click();
-    button("openAccept")->click();
+    accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(terminal().backend()->maps().size(), 1);
     // What the file feeds is shown.
@@ -183,12 +218,64 @@ void TestFileOpening::theFirstFileBringsItsProducts()
     button("columnRow1Product")->click();
     QCOMPARE(button("choice3")->text(), QStringLiteral("3. Herb"));
     button("choice2")->click();
-    button("openAccept")->click();
+    accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(terminal().machine()->products().at(1).name, QStringLiteral("Fert"));
     QCOMPARE(button("selectProduct2")->text(), QStringLiteral("Fert"));
     QCOMPARE(terminal().machine()->activeProduct(), 2);
     QCOMPARE(terminal().activeColumn(), QStringLiteral("FERT_KG_HA"));
+}
+
+void TestFileOpening::aFileThatReplacesAllBringsItsProducts()
+{
+    terminal().machine()->leaveProductsOpen();
+    openByTouch(write("urea", {{"UREA_KG_HA", 1.0}}));
+    QCOMPARE(productNames(), QStringList({"Urea", "Seed", "Herbicide"}));
+    const QString lime = write("lime", {{"LIME_T_HA", 1.0}});
+    Q_EMIT terminal().window()->dropped({lime}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QCOMPARE(button("columnRow0Product")->text(), QStringLiteral("Lime"));
+    QVERIFY(remark().contains(QStringLiteral("Replaces urea.shp")));
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(productNames(), QStringList({"Lime", "Seed", "Herbicide"}));
+    QCOMPARE(button("selectProduct1")->text(), QStringLiteral("Lime"));
+    QCOMPARE(terminal().backend()->maps().size(), 1);
+    // Not so for a script, whose products are what they were.
+    QVERIFY(terminal().open({{write("urea", {{"UREA_KG_HA", 1.0}})}}).first().isOk());
+    QCOMPARE(productNames().first(), QStringLiteral("Lime"));
+}
+
+void TestFileOpening::productsStayWhereOneIsInUseOrTheMachineMoves()
+{
+    terminal().machine()->leaveProductsOpen();
+    openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
+    const QStringList names = productNames();
+    Q_EMIT terminal().window()->dropped({write("lime", {{"LIME_T_HA", 1.0}})}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    const auto number = names.indexOf(QStringLiteral("Urea")) + 1;
+    QCOMPARE(button("columnRow0Product")->text(), QStringLiteral("Urea"));
+    QVERIFY2(remark().contains(QStringLiteral("Takes Urea over from both.shp")), qPrintable(remark()));
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(productNames(), names);
+    QCOMPARE(terminal().machine()->columnsOf(terminal().backend()->maps().last().group).keys(), QList<int>{number});
+    QVERIFY(terminal().close(terminal().backend()->maps().first().group));
+    terminal().vehicle()->drive(2.0);
+    openByTouch(write("mop", {{"MOP_KG_HA", 1.0}}));
+    QCOMPARE(productNames(), names);
+}
+
+void TestFileOpening::filesWantedTogetherShareTheProducts()
+{
+    terminal().machine()->leaveProductsOpen();
+    Q_EMIT terminal().window()->dropped({write("urea", {{"UREA_KG_HA", 1.0}}), write("rate", {{"RATE", 1.0}})}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    accept();
+    QTRY_COMPARE(terminal().backend()->maps().size(), 1);
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QCOMPARE(button("columnRow0Product")->text(), QStringLiteral("Seed"));
+    QCOMPARE(productNames().first(), QStringLiteral("Urea"));
 }
 
 void TestFileOpening::whatWasGuessedIsToldAfterwards()
@@ -208,9 +295,10 @@ void TestFileOpening::whatWasGuessedIsToldAfterwards()
     QCOMPARE(loadedUnasked.filter(QStringLiteral("is not known, taken as kg/ha")).size(), 2);
     Q_EMIT terminal().window()->dropped({file}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
-    button("openAccept")->click();
+    accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
-    QCOMPARE(findings(), loadedUnasked);
+    // But for the units, which were asked for.
+    QCOMPARE(findings(), loadedUnasked.filter(QStringLiteral("is a guess")));
 }
 
 void TestFileOpening::whatIsNoFileIsRefusedVisibly()

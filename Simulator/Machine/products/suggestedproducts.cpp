@@ -48,9 +48,9 @@ Products spareProducts(const QList<ColumnProduct> &columns)
 
 } // namespace
 
-Products SuggestedProducts::of(const QList<ColumnProduct> &columns)
+Products SuggestedProducts::of(const QList<ColumnProduct> &columns, int least)
 {
-    int count = ProductFile::standard().size();
+    int count = std::max(least, ProductFile::standard().size());
     for (const ColumnProduct &column : columns)
         count = std::max(count, column.number);
     Products spare = spareProducts(columns);

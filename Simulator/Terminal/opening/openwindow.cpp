@@ -65,6 +65,11 @@ void OpenWindow::connectPages()
         selection.setUnit(askedColumn, text);
         previews->refresh();
         showPage(previews);
+        // What is left to the file is asked for again at the next "Open".
+        const bool goesOn = isOpening && !text.isEmpty();
+        isOpening = false;
+        if (goesOn)
+            accept();
     });
 }
 
@@ -155,10 +160,12 @@ void OpenWindow::preview(const QStringList &paths)
 {
     waiting.append(paths);
     const bool isLookedAt = isVisible() && pages->currentWidget() != files;
-    if (!isLookedAt)
+    if (!isLookedAt) {
+        together.clear();
         showNext();
-    else if (pages->currentWidget() == previews)
+    } else if (pages->currentWidget() == previews) {
         previews->show(selection, waiting.size());
+    }
 }
 
 void OpenWindow::showNext()
@@ -177,7 +184,15 @@ void OpenWindow::survey(const QString &path, const QString &layer, const QString
     ++surveys;
     showProgress(tr("Reading %1").arg(QFileInfo(path).fileName()), Busy::Surveying);
     LoadRequest request{path, {}, {}, {}, layer, task};
-    machine->enterProducts(request);
+    if (together.isEmpty())
+        machine->offerProducts(request);
+    else
+        machine->enterProducts(request);
+    for (const QString &group : qAsConst(together)) {
+        const QList<int> fed = machine->columnsOf(group).keys();
+        for (const int number : fed)
+            request.products[number - 1].isFed = true;
+    }
     machine->backend()->survey(request);
 }
 
@@ -227,6 +242,16 @@ void OpenWindow::accept()
 {
     if (!selection.feedsAny())
         return;
+    const QList<int> open = selection.withoutUnit();
+    isOpening = !open.isEmpty();
+    if (isOpening)
+        askUnits(open);
+    else
+        load();
+}
+
+void OpenWindow::load()
+{
     showProgress(tr("Opening %1").arg(QFileInfo(selection.survey().path).fileName()), Busy::Loading);
     Q_EMIT wanted(selection.request());
 }
@@ -237,6 +262,7 @@ void OpenWindow::finish(const LoadReport &report)
     if (report.isOk()) {
         recent.add(selection.survey().path);
         memory.keep(selection.survey().path, selection.choices());
+        together.append(report.group);
         showNext();
     } else if (isGivenUp) {
         if (isVisible())
@@ -255,6 +281,7 @@ void OpenWindow::giveUp()
 void OpenWindow::leave()
 {
     waiting.clear();
+    isOpening = false;
     if (isBusy())
         giveUp();
     hide();
@@ -271,9 +298,10 @@ void OpenWindow::goBack()
         showNext();
     else if (page == message && behindMessage == previews)
         showPage(previews);
-    else if (page == choice || page == unit)
+    else if (page == choice || page == unit) {
+        isOpening = false;
         showPage(last.isOk() ? static_cast<QWidget *>(previews) : message);
-    else {
+    } else {
         waiting.clear();
         returnToFiles();
     }

@@ -80,12 +80,15 @@ private:
     void tell(const QString &reason, QWidget *behind);
     void giveUp();
     void accept();
+    void load();
     bool pressFocused();
     void ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer);
     void askLayer();
     void askTask();
     void askProduct(int index);
     void askUnit(int index);
+    /// In which unit these columns are that tell none; what is open then is opened.
+    void askUnits(const QList<int> &columns);
     void askOther();
     Pager *currentPager() const;
 
@@ -104,6 +107,7 @@ private:
     QStringList waiting; ///< Files to be shown after the one that is.
     int surveys = 0;     ///< That were asked for and have not ended; the last one counts.
     bool isGivenUp = false;
+    QStringList together; ///< Groups of the files that were opened of those wanted together with the one that is shown.
     /// What was chosen for the file before, as long as its layer and task are tried.
     std::optional<FileChoices> remembered;
     SurveyReport last;
@@ -111,4 +115,5 @@ private:
     QWidget *behindMessage = nullptr;
     std::function<void(int)> whenChosen;
     int askedColumn = 0;
+    bool isOpening = false; ///< The operator wants the file opened once its units are told.
 };

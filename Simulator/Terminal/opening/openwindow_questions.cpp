@@ -60,3 +60,25 @@ void OpenWindow::askUnit(int index)
               PrescriptionBackend::rateUnits(product.kind), selection.unit(index), selection.column(index).unit);
     showPage(unit);
 }
+
+void OpenWindow::askUnits(const QList<int> &columns)
+{
+    QStringList assumed;
+    QStringList options;
+    for (const int index : columns) {
+        if (!assumed.contains(selection.assumedUnit(index)))
+            assumed.append(selection.assumedUnit(index));
+        options.append(tr("Choose the unit of %1").arg(selection.column(index).name));
+    }
+    options.prepend(tr("Open as %1").arg(assumed.join(QStringLiteral(", "))));
+    ask(tr("The file does not tell in which unit it is"), options, -1, [this, columns](int place) {
+        if (place > 0) {
+            askUnit(columns.at(place - 1));
+            return;
+        }
+        for (const int index : columns)
+            selection.setUnit(index, selection.assumedUnit(index));
+        previews->refresh();
+        accept();
+    });
+}

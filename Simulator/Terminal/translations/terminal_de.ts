@@ -274,11 +274,11 @@
     </message>
     <message>
         <source>Rate far from the rest</source>
-        <translation>Rate weit von den übrigen</translation>
+        <translation>Menge weit ab von den übrigen</translation>
     </message>
     <message>
         <source>Totals, not rates</source>
-        <translation>Summen statt Raten</translation>
+        <translation>Summen statt Mengen</translation>
     </message>
     <message>
         <source>Unit not known</source>
@@ -306,11 +306,11 @@
     </message>
     <message>
         <source>Polygon far away</source>
-        <translation>Polygon weit entfernt</translation>
+        <translation>Fläche weit entfernt</translation>
     </message>
     <message>
         <source>Hole without a polygon</source>
-        <translation>Loch ohne Polygon</translation>
+        <translation>Loch ohne Fläche</translation>
     </message>
     <message>
         <source>Narrower than the machine</source>
@@ -561,6 +561,18 @@
         <source>feeds %1</source>
         <translation>für %1</translation>
     </message>
+    <message>
+        <source>Choose the unit of %1</source>
+        <translation>Einheit von %1 wählen</translation>
+    </message>
+    <message>
+        <source>Open as %1</source>
+        <translation>Als %1 öffnen</translation>
+    </message>
+    <message>
+        <source>The file does not tell in which unit it is</source>
+        <translation>Die Datei nennt ihre Einheit nicht</translation>
+    </message>
 </context>
 <context>
     <name>Pager</name>
@@ -614,6 +626,14 @@
     <message>
         <source>No product</source>
         <translation>Kein Produkt</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>Ersetzt %1</translation>
+    </message>
+    <message>
+        <source>Takes %1 over from %2</source>
+        <translation>Übernimmt %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,18 @@
         <source>feeds %1</source>
         <translation>alimenta %1</translation>
     </message>
+    <message>
+        <source>Choose the unit of %1</source>
+        <translation>Elegir la unidad de %1</translation>
+    </message>
+    <message>
+        <source>Open as %1</source>
+        <translation>Abrir como %1</translation>
+    </message>
+    <message>
+        <source>The file does not tell in which unit it is</source>
+        <translation>El archivo no indica su unidad</translation>
+    </message>
 </context>
 <context>
     <name>Pager</name>
@@ -614,6 +626,14 @@
     <message>
         <source>No product</source>
         <translation>Ningún producto</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>Sustituye a %1</translation>
+    </message>
+    <message>
+        <source>Takes %1 over from %2</source>
+        <translation>Toma %1 de %2</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,18 @@
         <source>feeds %1</source>
         <translation>alimente %1</translation>
     </message>
+    <message>
+        <source>Choose the unit of %1</source>
+        <translation>Choisir l’unité de %1</translation>
+    </message>
+    <message>
+        <source>Open as %1</source>
+        <translation>Ouvrir en %1</translation>
+    </message>
+    <message>
+        <source>The file does not tell in which unit it is</source>
+        <translation>Le fichier n’indique pas son unité</translation>
+    </message>
 </context>
 <context>
     <name>Pager</name>
@@ -614,6 +626,14 @@
     <message>
         <source>No product</source>
         <translation>Aucun produit</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>Remplace %1</translation>
+    </message>
+    <message>
+        <source>Takes %1 over from %2</source>
+        <translation>Reprend %1 de %2</translation>
     </message>
 </context>
 <context>

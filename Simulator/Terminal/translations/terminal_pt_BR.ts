@@ -561,6 +561,18 @@
         <source>feeds %1</source>
         <translation>alimenta %1</translation>
     </message>
+    <message>
+        <source>Choose the unit of %1</source>
+        <translation>Escolher a unidade de %1</translation>
+    </message>
+    <message>
+        <source>Open as %1</source>
+        <translation>Abrir como %1</translation>
+    </message>
+    <message>
+        <source>The file does not tell in which unit it is</source>
+        <translation>O arquivo não informa sua unidade</translation>
+    </message>
 </context>
 <context>
     <name>Pager</name>
@@ -614,6 +626,14 @@
     <message>
         <source>No product</source>
         <translation>Nenhum produto</translation>
+    </message>
+    <message>
+        <source>Replaces %1</source>
+        <translation>Substitui %1</translation>
+    </message>
+    <message>
+        <source>Takes %1 over from %2</source>
+        <translation>Assume %1 de %2</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,7 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
     for (size_t i = 0; i < decision.feeds.size() && decision.error.isEmpty(); ++i) {
         const ColumnPolicy::Feed &feed = decision.feeds[i];
         isFed[static_cast<size_t>(feed.column)] = true;
-        SurveyedColumn column = describe(feed.column, feed.factor * feed.displayFactor);
+        SurveyedColumn column = describe(feed.column);
         const RateSource &told = decision.sources.at(static_cast<int>(i));
         // What the product's kind makes of it: ounces of a liquid are fluid ounces.
         if (!column.unit.isEmpty())
@@ -41,7 +41,7 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
     return decision.error;
 }
 
-SurveyedColumn FileSurvey::describe(int place, double displayFactor) const
+SurveyedColumn FileSurvey::describe(int place) const
 {
     const SourceColumn &column = source.columns[static_cast<size_t>(place)];
     const ColumnUnit unit = units.of(place);
@@ -52,36 +52,19 @@ SurveyedColumn FileSurvey::describe(int place, double displayFactor) const
     told.unit = unit.unit.text();
     told.unitFrom = unit.from;
     told.isSure = LikelyColumns::saysRates(column);
-    classify(column, displayFactor, told);
+    measure(column, told);
     return told;
 }
 
-void FileSurvey::classify(const SourceColumn &column, double displayFactor, SurveyedColumn &told) const
+void FileSurvey::measure(const SourceColumn &column, SurveyedColumn &told) const
 {
-    std::vector<float> rates;
-    std::vector<int> counts;
-    rates.reserve(polygons.size());
-    counts.reserve(polygons.size());
-    for (const PlanePolygon &polygon : polygons) {
-        rates.push_back(static_cast<float>(column.values[static_cast<size_t>(polygon.record)]));
-        counts.push_back(source.cellsOf(polygon.record));
-    }
-    const LegendBuilder::Legend legend = LegendBuilder::build(rates, displayFactor, counts);
-    told.legend = legend.classes;
-    told.hasSingleRates = legend.hasSingleRates;
+    told.rates.reserve(source.records);
     told.leastRate = HUGE_VAL;
     int records = 0;
     int without = 0;
-    told.classes = QByteArray(source.records, '\0');
     for (int record = 0; record < source.records; ++record) {
         const double rate = column.values[static_cast<size_t>(record)];
-        const auto isIn = [rate](const OrvikTypes::RX_RATECOLOR &entry) {
-            return static_cast<double>(static_cast<float>(rate)) <= entry.rate;
-        };
-        // No rate is in no class: the last entry stands for it.
-        const auto entry = std::find_if(told.legend.begin(), told.legend.end(), isIn);
-        const auto last = std::max<std::ptrdiff_t>(0, told.legend.size() - 1);
-        told.classes[record] = static_cast<char>(std::min<std::ptrdiff_t>(last, entry - told.legend.begin()));
+        told.rates.append(static_cast<float>(rate));
         if (!hasPolygon[static_cast<size_t>(record)])
             continue;
         const int cells = source.cellsOf(record);
@@ -94,6 +77,32 @@ void FileSurvey::classify(const SourceColumn &column, double displayFactor, Surv
     }
     told.leastRate = std::min(told.leastRate, told.greatestRate);
     told.shareWithoutRate = records > 0 ? static_cast<double>(without) / records : 0.0;
+}
+
+SurveyedClasses FileSurvey::classesOf(const SurveyReport &survey, int column, double factor, double displayFactor)
+{
+    const auto inBaseUnit = [factor](float rate) { return static_cast<float>(factor * static_cast<double>(rate)); };
+    const QVector<float> &ofRecords = survey.columns.at(column).rates;
+    std::vector<float> rates;
+    std::vector<int> cells;
+    rates.reserve(static_cast<size_t>(survey.records.size()));
+    cells.reserve(static_cast<size_t>(survey.cells.size()));
+    for (const int record : survey.records) {
+        rates.push_back(inBaseUnit(ofRecords.at(record)));
+        if (!survey.cells.isEmpty())
+            cells.push_back(survey.cells.at(record));
+    }
+    const LegendBuilder::Legend legend = LegendBuilder::build(rates, displayFactor, cells);
+    SurveyedClasses classes{legend.classes, legend.hasSingleRates, QByteArray(ofRecords.size(), '\0')};
+    for (int record = 0; record < ofRecords.size(); ++record) {
+        const auto rate = static_cast<double>(inBaseUnit(ofRecords.at(record)));
+        const auto isIn = [rate](const OrvikTypes::RX_RATECOLOR &entry) { return rate <= entry.rate; };
+        // No rate is in no class: the last entry stands for it.
+        const auto entry = std::find_if(legend.classes.begin(), legend.classes.end(), isIn);
+        const auto last = std::max<std::ptrdiff_t>(0, legend.classes.size() - 1);
+        classes.ofRecords[record] = static_cast<char>(std::min<std::ptrdiff_t>(last, entry - legend.classes.begin()));
+    }
+    return classes;
 }
 
 bool FileSurvey::hasRate(int record) const
@@ -111,6 +120,10 @@ void FileSurvey::addPicture(SurveyReport &report) const
                           [this](const PlanePolygon &polygon) { return !hasRate(polygon.record); });
     const RecordPicture picture(drawn, SurveyReport::pictureSide);
     report.polygons = static_cast<int>(polygons.size());
+    for (const PlanePolygon &polygon : polygons)
+        report.records.append(polygon.record);
+    for (int record = 0; record < source.records && !source.cells.empty(); ++record)
+        report.cells.append(source.cellsOf(record));
     report.pictureSize = picture.size();
     report.recordAtPixel = picture.records();
 }

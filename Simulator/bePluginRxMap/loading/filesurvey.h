@@ -18,12 +18,14 @@ public:
     /// without the file's name; empty when something can.
     QString addColumns(const ColumnPolicy &policy, SurveyReport &report) const;
     void addPicture(SurveyReport &report) const;
+    /// As PrescriptionBackend::classesOf().
+    static SurveyedClasses classesOf(const SurveyReport &survey, int column, double factor, double displayFactor);
 
 private:
-    /// `displayFactor`: from the file's unit to the one in which the classes are round.
-    SurveyedColumn describe(int place, double displayFactor = 1.0) const;
+    SurveyedColumn describe(int place) const;
     bool hasRate(int record) const; ///< In any column.
-    void classify(const SourceColumn &column, double displayFactor, SurveyedColumn &told) const;
+    /// Enters its rates, and what they are together.
+    void measure(const SourceColumn &column, SurveyedColumn &told) const;
 
     const RawPrescription &source;
     const std::vector<PlanePolygon> &polygons;

@@ -9,6 +9,7 @@
 #include "legendbuilder.h"
 #include "recordselection.h"
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <utility>
@@ -18,10 +19,19 @@ namespace {
 constexpr double shareOfReading = 0.6;
 constexpr double shareOfGeometry = 0.3;
 
+bool isAnyInUse(const QList<MachineProduct> &products)
+{
+    return std::any_of(products.begin(), products.end(), [](const MachineProduct &any) { return any.isInUse; });
+}
+
 /// The products as far as they are known before the file is read.
 LoadRequest expecting(LoadRequest request)
 {
-    if (request.makeProducts)
+    if (!request.makeProducts)
+        return request;
+    if (!request.columnProducts.isEmpty())
+        request.products = request.makeProducts(request.columnProducts);
+    else if (!isAnyInUse(request.products))
         request.products = request.makeProducts(ColumnProducts(request.columns, request.units).expected());
     return request;
 }
@@ -168,9 +178,22 @@ bool PrescriptionLoader::placePolygons(LoadedMap &map)
     return lack.isEmpty() || fail(lack);
 }
 
+bool PrescriptionLoader::replacesAllInUse() const
+{
+    if (!isAnyInUse(request.products))
+        return true;
+    const QList<RateSource> sources = policy.decide(source, polygons).sources;
+    for (int number = 1; number <= request.products.size(); ++number) {
+        const auto isFed = [number](const RateSource &fed) { return fed.product == number; };
+        if (request.products.at(number - 1).isInUse && std::none_of(sources.begin(), sources.end(), isFed))
+            return false;
+    }
+    return true;
+}
+
 void PrescriptionLoader::makeProducts()
 {
-    if (!request.makeProducts)
+    if (!request.makeProducts || (request.columnProducts.isEmpty() && !replacesAllInUse()))
         return;
     report->columnProducts = request.columnProducts;
     if (report->columnProducts.isEmpty())

@@ -44,6 +44,8 @@ private:
 
     /// Makes the products from the columns where the machine takes them from the file.
     void makeProducts();
+    /// Whether the file, unasked, takes over all products that others feed.
+    bool replacesAllInUse() const;
     bool chooseColumns(LoadedMap &map);
     bool arrange();
     void makeChain(LoadedMap &map) const;

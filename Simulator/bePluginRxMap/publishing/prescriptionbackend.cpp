@@ -2,6 +2,7 @@
 
 #include "Backend/backendtext.h"
 #include "columnpolicy.h"
+#include "filesurvey.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionloader.h"
 #include "prescriptionreader.h"
@@ -91,6 +92,17 @@ RateUnitParts PrescriptionBackend::rateUnits(DbGroupProductGroupInfo::RateKind k
     for (const AreaUnit &area : UnitTable::areas())
         parts.areas.append(QString::fromLatin1(area.symbol));
     return parts;
+}
+
+SurveyedClasses PrescriptionBackend::classesOf(const SurveyReport &survey, int column, double factor,
+                                               double displayFactor)
+{
+    return FileSurvey::classesOf(survey, column, factor, displayFactor);
+}
+
+QString PrescriptionBackend::baseUnit(DbGroupProductGroupInfo::RateKind kind)
+{
+    return RateUnit::baseText(kind);
 }
 
 double PrescriptionBackend::rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind)

@@ -11,6 +11,7 @@ class TestSuggestedProducts : public TestBase {
 private Q_SLOTS:
     void columnsBecomeProducts_data();
     void columnsBecomeProducts();
+    void thereAreNeverFewerThanBefore();
     void allButTheNameIsThatOfTheStandardProductOfTheKind();
 };
 
@@ -51,6 +52,14 @@ void TestSuggestedProducts::columnsBecomeProducts()
         QVERIFY(product.underVra);
     }
     QTEST(names, "products");
+}
+
+void TestSuggestedProducts::thereAreNeverFewerThanBefore()
+{
+    const Products products = SuggestedProducts::of({{"UAN", DbGroupProductGroupInfo::VolumeRate, 1}}, 5);
+    QCOMPARE(products.size(), 5);
+    QCOMPARE(products.first().name, QStringLiteral("UAN"));
+    QCOMPARE(products.last().name, QStringLiteral("Product 5"));
 }
 
 void TestSuggestedProducts::allButTheNameIsThatOfTheStandardProductOfTheKind()

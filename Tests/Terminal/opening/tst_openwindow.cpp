@@ -1,4 +1,5 @@
 #include "Backend/prescriptionbackend.h"
+#include "Backend/shownrate.h"
 #include "layerwriter.h"
 #include "machine.h"
 #include "openwindow.h"
@@ -7,6 +8,7 @@
 #include "productfile.h"
 #include "testbase.h"
 #include "theme.h"
+#include "touchbutton.h"
 
 #include "Framework/databroker.h"
 
@@ -26,6 +28,9 @@ private Q_SLOTS:
     void eachColumnHasARow();
     void theColumnTouchedIsShown();
     void productAndUnitChosenAreLoaded();
+    void openAsksForUnitsThatAreNotKnown();
+    void classesAreThoseOfTheLoadedMap();
+    void longNamesAreShownWhole();
     void choicesAreRememberedUntilTheColumnsChange();
     void whatIsRefusedIsSaidWithItsReason_data();
     void whatIsRefusedIsSaidWithItsReason();
@@ -44,12 +49,14 @@ private:
     /// The control of that name that is seen.
     QWidget *find(const QString &name) const;
     void touch(const QString &name);
+    /// Opens what is shown; units that are not known are taken as they are assumed.
+    void accept();
     QString text(const QString &name) const;
     /// Until the page with this control is seen.
     bool waitFor(const char *name) const;
     void startWindow();
     /// A prescription with these columns, each of rate 1 and 2 in its two records.
-    QString write(const QList<QByteArray> &columns);
+    QString write(const QList<QByteArray> &columns, const QString &name = QStringLiteral("sketch.shp"));
     /// A file that takes seconds to read.
     QString writeTangle();
 
@@ -115,6 +122,13 @@ void TestOpenWindow::touch(const QString &name)
     QTest::mouseClick(control, Qt::LeftButton);
 }
 
+void TestOpenWindow::accept()
+{
+    touch(QStringLiteral("openAccept"));
+    if (find(QStringLiteral("choice0")) != nullptr)
+        touch(QStringLiteral("choice0"));
+}
+
 QString TestOpenWindow::text(const QString &name) const
 {
     QWidget *control = find(name);
@@ -129,7 +143,7 @@ bool TestOpenWindow::waitFor(const char *name) const
     return QTest::qWaitFor([this, name] { return find(QLatin1String(name)) != nullptr; }, 20000);
 }
 
-QString TestOpenWindow::write(const QList<QByteArray> &columns)
+QString TestOpenWindow::write(const QList<QByteArray> &columns, const QString &name)
 {
     LayerSketch sketch;
     QList<QVariant> low;
@@ -140,7 +154,9 @@ QString TestOpenWindow::write(const QList<QByteArray> &columns)
         high.append(2.0);
     }
     sketch.rows = {{squareText(10, 50, 0.001), low}, {squareText(10.001, 50, 0.001), high}};
-    const QString path = folder->filePath(QStringLiteral("sketch.shp"));
+    if (name.endsWith(QLatin1String(".geojson")))
+        sketch.driver = "GeoJSON";
+    const QString path = folder->filePath(name);
     return sketch.write(path) ? path : QString();
 }
 
@@ -212,12 +228,81 @@ void TestOpenWindow::productAndUnitChosenAreLoaded()
     QCOMPARE(text(QStringLiteral("columnRow1Unit")), QStringLiteral("lb/ac"));
     touch(QStringLiteral("columnRow1"));
     QVERIFY(paintedTexts(*find(QStringLiteral("openLegend"))).contains(QStringLiteral("135.06")));
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().columns, QStringList({"", "FERT_KG_HA", "HERB_L_HA"}));
     QCOMPARE(requests.first().units, QStringList({"", "lb/ac", ""}));
     QCOMPARE(backend->maps().size(), 1);
     QCOMPARE(backend->maps().first().sources.first().unitFrom, RateSource::UnitFrom::Operator);
+}
+
+void TestOpenWindow::openAsksForUnitsThatAreNotKnown()
+{
+    const auto isCaution = [this](const char *name) {
+        return static_cast<TouchButton *>(find(QLatin1String(name)))->isCaution();
+    };
+    window->preview({fixture("two-strips.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    QVERIFY(isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
+    touch(QStringLiteral("openAccept"));
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as 1000/ha, kg/ha"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of A"));
+    touch(QStringLiteral("choice1"));
+    touch(QStringLiteral("unitAmount2"));
+    touch(QStringLiteral("unitArea0"));
+    touch(QStringLiteral("unitAccept"));
+    // It goes on with the other one.
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as kg/ha"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of B"));
+    QVERIFY(requests.isEmpty());
+    touch(QStringLiteral("openBack"));
+    QVERIFY(!isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
+    // Only "Open" opens.
+    touch(QStringLiteral("columnRow0Unit"));
+    touch(QStringLiteral("unitAccept"));
+    QVERIFY(find(QStringLiteral("openAccept")) != nullptr);
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().units, QStringList({"million/ha", "kg/ha"}));
+    // What was told once is not asked again.
+    window->preview({fixture("two-strips.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    QVERIFY(!isCaution("columnRow1Unit"));
+}
+
+void TestOpenWindow::classesAreThoseOfTheLoadedMap()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"UREA_KG_HA", 1.0}};
+    for (int record = 0; record < 60; ++record)
+        sketch.rows.append({squareText(10 + 0.001 * record, 50, 0.001), {100.0 + 3.7 * record}});
+    const QString path = folder->filePath(QStringLiteral("many.shp"));
+    QVERIFY(sketch.write(path));
+    window->preview({path});
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("columnRow0Unit"));
+    touch(QStringLiteral("unitAmount5"));
+    touch(QStringLiteral("unitArea1"));
+    touch(QStringLiteral("unitAccept"));
+    const QString shown = paintedTexts(*find(QStringLiteral("openLegend"))).join(QLatin1Char('|'));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    const QList<OrvikTypes::RX_RATECOLOR> classes = backend->maps().first().legends.first();
+    QCOMPARE(classes.size(), 7);
+    for (const OrvikTypes::RX_RATECOLOR &entry : classes)
+        QVERIFY2(shown.contains(ShownRate::text(entry.rate)), qPrintable(shown));
+}
+
+void TestOpenWindow::longNamesAreShownWhole()
+{
+    machine->leaveProductsOpen();
+    window->preview({write({"Winter wheat compound fertiliser in autumn kg/ha"}, QStringLiteral("long.geojson"))});
+    QVERIFY(waitFor("openAccept"));
+    for (const char *name : {"columnRow0", "columnRow0Product"}) {
+        const QString painted = paintedTexts(*find(QLatin1String(name))).join(QLatin1Char(' '));
+        QVERIFY2(!painted.contains(QChar(0x2026)), qPrintable(painted));
+        QVERIFY2(painted.contains(QLatin1String("utumn")), qPrintable(painted));
+    }
 }
 
 void TestOpenWindow::choicesAreRememberedUntilTheColumnsChange()
@@ -228,7 +313,7 @@ void TestOpenWindow::choicesAreRememberedUntilTheColumnsChange()
     QCOMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("SEED_K_HA"));
     touch(QStringLiteral("columnRow0Product"));
     touch(QStringLiteral("choice0"));
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     startWindow();
     window->preview({path});
@@ -258,7 +343,7 @@ void TestOpenWindow::whatIsRefusedIsSaidWithItsReason()
     QFETCH(QString, reason);
     window->preview({fixture("overlap.geojson")});
     QVERIFY(waitFor("openAccept"));
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     window->preview({path});
     QVERIFY(waitFor("openMessage"));
@@ -299,7 +384,7 @@ void TestOpenWindow::loadingIsCancelled()
         wasLoading = backend->isLoading();
         touch(QStringLiteral("openCancel"));
     });
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(wasLoading);
     QVERIFY(waitFor("openAccept"));
     QVERIFY(backend->maps().isEmpty());
@@ -312,14 +397,14 @@ void TestOpenWindow::filesComeOneAfterTheOther()
                      fixture("two-strips.geojson")});
     QVERIFY(waitFor("openAccept"));
     QVERIFY(find(QStringLiteral("openSkip")) != nullptr);
-    touch(QStringLiteral("openAccept"));
+    accept();
     QVERIFY(waitFor("openMessage"));
     touch(QStringLiteral("openBack"));
     QVERIFY(waitFor("columnRow2"));
     touch(QStringLiteral("openSkip"));
     QTRY_COMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("A"));
     QVERIFY(find(QStringLiteral("openSkip")) == nullptr);
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(backend->maps().size(), 2);
 }
@@ -330,7 +415,7 @@ void TestOpenWindow::openedFilesAreRecentAndGoneOnesCannotBeTouched()
     for (const QString &file : {path, fixture("overlap.geojson")}) {
         window->preview({file});
         QVERIFY(waitFor("openAccept"));
-        touch(QStringLiteral("openAccept"));
+        accept();
         QTRY_VERIFY(!window->isVisible());
     }
     window->showFiles();
@@ -380,7 +465,7 @@ void TestOpenWindow::theFolderUsedLastIsShownFirst()
     touch(QStringLiteral("fileRow0"));
     touch(QStringLiteral("fileRow0"));
     QVERIFY(waitFor("openAccept"));
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     startWindow();
     window->showFiles();
@@ -428,7 +513,7 @@ void TestOpenWindow::anotherLayerIsChosen()
     touch(QStringLiteral("openLayer"));
     touch(QStringLiteral("choice1"));
     QTRY_COMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("second_rate"));
-    touch(QStringLiteral("openAccept"));
+    accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().layer, QStringLiteral("second"));
     // It is chosen at once the next time.

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void suggestsWhatALoadWouldFeed();
     void aLoadTakesEachColumnInTheUnitThatWasTold_data();
     void aLoadTakesEachColumnInTheUnitThatWasTold();
+    void aLoadHasTheClassesThatWereTold_data();
     void aLoadHasTheClassesThatWereTold();
     void tellsAllColumnsWhereNoneLooksLikeARate();
     void tellsAllColumnsOfALayerWhereNoLayerHasARate();
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void classesEachRecord();
     void refusesWhatALoadRefuses_data();
     void refusesWhatALoadRefuses();
+    void productsAreMadeAnewWhereNoneStaysInUse_data();
+    void productsAreMadeAnewWhereNoneStaysInUse();
     void publishesNothing();
     void isCancelled();
 
@@ -153,9 +156,19 @@ void PrescriptionBackendSurveyTest::aLoadTakesEachColumnInTheUnitThatWasTold()
     QTEST(units, "units");
 }
 
+void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<double>("displayFactor");
+    QTest::newRow("as suggested") << QString() << 0.8921785;
+    QTest::newRow("in another unit") << "lb/ac" << 0.8921785;
+    QTest::newRow("for a metric display") << "cwt/ac" << 1.0;
+}
+
 void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold()
 {
-    constexpr double poundsPerAcre = 0.8921785;
+    QFETCH(QString, unit);
+    QFETCH(double, displayFactor);
     LayerSketch sketch;
     sketch.fields = {{"Rate_g_m2", 1.0}};
     for (int record = 0; record < 60; ++record)
@@ -164,15 +177,17 @@ void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold()
     QVERIFY(sketch.write(path));
     LoadRequest request = requestFor(path);
     request.products[0].kind = DbGroupProductGroupInfo::WeightRate;
-    request.products[0].displayFactor = poundsPerAcre;
+    request.products[0].displayFactor = displayFactor;
+    request.units = QStringList{unit};
     const LoadReport loaded = backend->loadAndWait(request);
-    const SurveyedColumn told = survey(request).columns.value(0);
-    const double factor = PrescriptionBackend::rateFactor(told.unit, request.products[0].kind);
-    QCOMPARE(factor, 10.0);
-    QVERIFY(!loaded.hasSingleRates.value(0));
+    const SurveyReport report = survey(request);
+    const QString chosen = unit.isEmpty() ? report.columns.value(0).unit : unit;
+    const double factor = PrescriptionBackend::rateFactor(chosen, request.products[0].kind);
+    const SurveyedClasses told = PrescriptionBackend::classesOf(report, 0, factor, displayFactor);
+    QVERIFY(!loaded.hasSingleRates.value(0) && !told.hasSingleRates);
     QCOMPARE(told.legend.size(), loaded.legends.first().size());
     for (int i = 0; i < told.legend.size(); ++i)
-        QCOMPARE(float(factor * told.legend.at(i).rate), float(loaded.legends.first().at(i).rate));
+        QCOMPARE(float(told.legend.at(i).rate), float(loaded.legends.first().at(i).rate));
 }
 
 void PrescriptionBackendSurveyTest::tellsAllColumnsWhereNoneLooksLikeARate()
@@ -262,14 +277,14 @@ void PrescriptionBackendSurveyTest::aBorderWithoutARateHidesNothing()
 void PrescriptionBackendSurveyTest::classesEachRecord()
 {
     const SurveyReport report = survey(requestFor(fixture("partly-without-rate.geojson")));
-    const SurveyedColumn &seed = report.columns.first();
-    QCOMPARE(seed.classes.size(), 4);
+    const SurveyedClasses seed = PrescriptionBackend::classesOf(report, 0, 1.0, 1.0);
+    QCOMPARE(seed.ofRecords.size(), 4);
     QCOMPARE(seed.legend.size(), 3);
     QVERIFY(seed.hasSingleRates);
-    QCOMPARE(seed.legend.at(seed.classes.at(0)).rate, 10.0);
-    QCOMPARE(seed.legend.at(seed.classes.at(2)).rate, 12.0);
+    QCOMPARE(seed.legend.at(seed.ofRecords.at(0)).rate, 10.0);
+    QCOMPARE(seed.legend.at(seed.ofRecords.at(2)).rate, 12.0);
     for (const int record : {1, 3})
-        QCOMPARE(seed.legend.at(seed.classes.at(record)).color.alpha(), 0);
+        QCOMPARE(seed.legend.at(seed.ofRecords.at(record)).color.alpha(), 0);
 }
 
 void PrescriptionBackendSurveyTest::refusesWhatALoadRefuses_data()
@@ -288,6 +303,30 @@ void PrescriptionBackendSurveyTest::refusesWhatALoadRefuses()
     QVERIFY(!loaded.error.isEmpty());
     QCOMPARE(surveyed.error, loaded.error);
     QVERIFY(surveyed.columns.isEmpty());
+}
+
+void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse_data()
+{
+    QTest::addColumn<QList<int>>("inUse");
+    QTest::addColumn<bool>("areMade");
+    QTest::newRow("none") << QList<int>() << true;
+    QTest::newRow("what the file feeds") << QList<int>{2} << true;
+    QTest::newRow("what it does not feed") << QList<int>{1, 2} << false;
+}
+
+void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse()
+{
+    QFETCH(QList<int>, inUse);
+    LoadRequest request = requestFor(write({{"LIME_T_HA", 1.0}}, {1.0}));
+    request.products[1].kind = DbGroupProductGroupInfo::WeightRate;
+    for (const int number : inUse)
+        request.products[number - 1].isInUse = true;
+    const QList<MachineProduct> made{{"Lime", "system.productGroup.1", DbGroupProductGroupInfo::WeightRate}};
+    request.makeProducts = [made](const QList<ColumnProduct> &) { return made; };
+    const SurveyReport report = survey(request);
+    QTEST(!report.columnProducts.isEmpty(), "areMade");
+    // The second of the machine's is measured by weight.
+    QCOMPARE(report.columns.first().product, report.columnProducts.isEmpty() ? 2 : 1);
 }
 
 void PrescriptionBackendSurveyTest::publishesNothing()

@@ -62,6 +62,7 @@ void ColumnRow::show(const OpenSelection &selection, int index)
     const QString text = selection.unit(index);
     unit->setText(text.isEmpty() ? QStringLiteral("?") : text);
     unit->setNote(unitNote(selection, index));
+    unit->setCaution(selection.withoutUnit().contains(index));
     unit->setEnabled(number > 0 && !PrescriptionBackend::rateUnits(products.at(number - 1).kind).amounts.isEmpty());
 }
 

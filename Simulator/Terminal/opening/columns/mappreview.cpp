@@ -13,14 +13,13 @@ MapPreview::MapPreview(QWidget *parent)
     setFixedSize(SurveyReport::pictureSide + 2 * Theme::margin, SurveyReport::pictureSide + 2 * Theme::margin);
 }
 
-void MapPreview::show(const SurveyReport &survey, int index)
+void MapPreview::show(const SurveyReport &survey, const SurveyedClasses &classes)
 {
-    const SurveyedColumn &column = survey.columns.at(index);
     const QRgb ground = FieldScene::groundColor().rgb();
     picture = QImage(survey.pictureSize, QImage::Format_RGB32);
     picture.fill(ground);
     QVector<QRgb> colors;
-    for (const OrvikTypes::RX_RATECOLOR &entry : column.legend)
+    for (const OrvikTypes::RX_RATECOLOR &entry : classes.legend)
         colors.append(entry.color.alpha() == 0 ? ground : FieldScene::onGround(entry.color).rgb());
     int pixel = 0;
     for (int y = 0; y < picture.height(); ++y) {
@@ -28,7 +27,7 @@ void MapPreview::show(const SurveyReport &survey, int index)
         for (int x = 0; x < picture.width(); ++x) {
             const int record = survey.recordAtPixel.at(pixel++);
             if (record >= 0)
-                line[x] = colors.at(column.classes.at(record));
+                line[x] = colors.value(classes.ofRecords.at(record), ground);
         }
     }
     update();

@@ -12,8 +12,7 @@ class MapPreview : public QWidget {
 public:
     explicit MapPreview(QWidget *parent = nullptr);
 
-    /// `index`: of the survey's columns.
-    void show(const SurveyReport &survey, int index);
+    void show(const SurveyReport &survey, const SurveyedClasses &classes);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -63,6 +63,23 @@ bool OpenSelection::feedsAny() const
     return std::any_of(entries.begin(), entries.end(), [](const Entry &entry) { return entry.product > 0; });
 }
 
+QList<int> OpenSelection::withoutUnit() const
+{
+    QList<int> columns;
+    for (int index = 0; index < size(); ++index) {
+        const bool mayHaveOne =
+            fed(index) != nullptr && !PrescriptionBackend::rateUnits(fed(index)->kind).amounts.isEmpty();
+        if (mayHaveOne && unitState(index) == UnitState::Assumed)
+            columns.append(index);
+    }
+    return columns;
+}
+
+QString OpenSelection::assumedUnit(int index) const
+{
+    return PrescriptionBackend::baseUnit(fed(index)->kind);
+}
+
 OpenRequest OpenSelection::request() const
 {
     OpenRequest request{{report.path}};

@@ -43,6 +43,10 @@ public:
     double factor(int index) const;
 
     bool feedsAny() const;
+    /// The columns that feed a product whose rates have a unit, in one that is not known.
+    QList<int> withoutUnit() const;
+    /// The unit that is assumed of such a column.
+    QString assumedUnit(int index) const;
     OpenRequest request() const;
     FileChoices choices() const;
     /// Takes what was chosen before, unless the file's columns are others now. A column whose product is not there any

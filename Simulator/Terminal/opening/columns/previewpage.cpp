@@ -1,5 +1,6 @@
 #include "previewpage.h"
 
+#include "Backend/prescriptionbackend.h"
 #include "caption.h"
 #include "columntable.h"
 #include "legendpanel.h"
@@ -12,6 +13,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QSet>
 #include <QVBoxLayout>
 
 namespace {
@@ -22,10 +24,10 @@ constexpr int buttonWidth = 200;
 constexpr int choiceWidth = 300;
 
 /// What a legend shows: not what stands for "no rate".
-QList<OrvikTypes::RX_RATECOLOR> drawnClasses(const SurveyedColumn &column)
+QList<OrvikTypes::RX_RATECOLOR> drawnClasses(const SurveyedClasses &all)
 {
     QList<OrvikTypes::RX_RATECOLOR> classes;
-    for (const OrvikTypes::RX_RATECOLOR &entry : column.legend) {
+    for (const OrvikTypes::RX_RATECOLOR &entry : all.legend) {
         if (entry.color.alpha() > 0)
             classes.append(entry);
     }
@@ -152,28 +154,59 @@ void PreviewPage::refresh()
     showColumn(table->shownColumn());
     accept->setEnabled(selection->feedsAny());
     accept->setChecked(accept->isEnabled());
-    const QString polygons = tr("Polygons: %1").arg(ShownNumber::text(survey.polygons));
-    const QString lack = selection->feedsAny() ? QString() : tr("Choose a product for a column to open the file.");
-    remark->setText(lack.isEmpty() ? polygons : polygons + QLatin1Char('\n') + lack);
+    QStringList remarks{tr("Polygons: %1").arg(ShownNumber::text(survey.polygons))};
+    if (selection->feedsAny())
+        remarks.append(replacements());
+    else
+        remarks.append(tr("Choose a product for a column to open the file."));
+    remark->setText(remarks.join(QLatin1Char('\n')));
+}
+
+QStringList PreviewPage::replacements() const
+{
+    QSet<int> taken;
+    for (int index = 0; index < selection->size(); ++index)
+        taken.insert(selection->product(index));
+    QStringList remarks;
+    const QList<LoadReport> maps = machine->backend()->maps();
+    for (const LoadReport &other : maps) {
+        const QFileInfo file(other.path);
+        const QList<int> fed = machine->columnsOf(other.group).keys();
+        QStringList products;
+        for (const int number : fed) {
+            if (taken.contains(number))
+                products.append(machine->products().at(number - 1).name);
+        }
+        const bool isReplaced = !selection->survey().columnProducts.isEmpty() || products.size() == fed.size();
+        if (file == QFileInfo(selection->survey().path))
+            continue;
+        if (isReplaced)
+            remarks.append(tr("Replaces %1").arg(file.fileName()));
+        else if (!products.isEmpty())
+            remarks.append(tr("Takes %1 over from %2").arg(products.join(QStringLiteral(", ")), file.fileName()));
+    }
+    return remarks;
 }
 
 void PreviewPage::showColumn(int index)
 {
     const SurveyedColumn &column = selection->column(index);
-    map->show(selection->survey(), index);
     const int number = selection->product(index);
+    const double displayFactor = number > 0 ? selection->fedProducts().at(number - 1).displayFactor : 1.0;
+    const SurveyedClasses classes =
+        PrescriptionBackend::classesOf(selection->survey(), index, selection->factor(index), displayFactor);
+    map->show(selection->survey(), classes);
     LegendPanel::Content content;
     content.product = tr("No product");
     content.source = {column.name, selection->unit(index), column.unitFrom, number, column.isSure};
     if (selection->isUnitChosen(index))
         content.source.unitFrom = RateSource::UnitFrom::Operator;
-    content.classes = drawnClasses(column);
-    content.hasSingleRates = column.hasSingleRates;
+    content.classes = drawnClasses(classes);
+    content.hasSingleRates = classes.hasSingleRates;
+    content.factor = displayFactor;
     content.unit = column.unit;
     if (number > 0) {
-        const MachineProduct &product = selection->fedProducts().at(number - 1);
-        content.product = product.name;
-        content.factor = selection->factor(index) * product.displayFactor;
+        content.product = selection->fedProducts().at(number - 1).name;
         content.unit = rateUnit(machine->productsFor(selection->survey().columnProducts).at(number - 1).rateKind(),
                                 machine->unitSystem());
     }

@@ -48,6 +48,8 @@ private:
     QWidget *makeFoot();
     TouchButton *addButton(QHBoxLayout *layout, const QString &text, const char *name, void (PreviewPage::*signal)());
     void showColumn(int index);
+    /// What becomes of the files that are open.
+    QStringList replacements() const;
 
     const Machine *machine;
     const OpenSelection *selection = nullptr;

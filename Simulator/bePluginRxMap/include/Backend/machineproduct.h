@@ -19,4 +19,6 @@ struct MachineProduct {
     bool isFed = false;
     /// Takes its rates from base units to the operator's: what is round in a legend, and which rates are told apart.
     double displayFactor = 1.0;
+    /// Whether a map of another file that is open feeds it.
+    bool isInUse = false;
 };

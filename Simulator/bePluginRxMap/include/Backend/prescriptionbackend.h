@@ -42,10 +42,15 @@ public:
     /// Starts to look at a file without publishing anything; waits its turn as a load does, and surveyed() follows.
     /// Columns and units of the request do not count.
     void survey(const LoadRequest &request);
+    /// The classes that a load of a surveyed column has, by place, whose rates `factor` takes to the base unit of a
+    /// product with that display factor. Limits are in the base unit.
+    static SurveyedClasses classesOf(const SurveyReport &survey, int column, double factor, double displayFactor);
     /// Whether a file of that name, or a folder with what it holds, may be a prescription.
     static bool mayBePrescription(const QString &path);
     /// The units in which rates of that kind are written; none for a kind that is not written as an amount per area.
     static RateUnitParts rateUnits(DbGroupProductGroupInfo::RateKind kind);
+    /// The unit in which rates of that kind are kept; empty for an unknown kind.
+    static QString baseUnit(DbGroupProductGroupInfo::RateKind kind);
     /// Takes rates in that unit ("lb/ac") to the base unit of the kind; 0 where it is no unit of such rates.
     static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
 

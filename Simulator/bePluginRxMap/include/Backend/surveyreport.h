@@ -29,11 +29,17 @@ struct SurveyedColumn {
     bool isSure = false;
     /// Number from 1 of the product that it feeds unasked; 0 for none.
     int product = 0;
+    /// For each record; not a number where it has none.
+    QVector<float> rates;
+};
+
+/// The rates of a surveyed column in the classes of a legend.
+struct SurveyedClasses {
     /// As in LoadReport.
     QList<OrvikTypes::RX_RATECOLOR> legend;
     bool hasSingleRates = false;
     /// For each record the place of its class in `legend`.
-    QByteArray classes;
+    QByteArray ofRecords;
 };
 
 /// What a file holds, for the operator to choose from.
@@ -58,6 +64,10 @@ struct SurveyReport {
     /// Why no product can be fed unasked, in one line that names the file; empty when one can.
     QString lackOfFeeds;
     int polygons = 0;
+    /// For each polygon its record.
+    QVector<int> records;
+    /// For each record the number of cells of a grid that it stands for; empty where that is one each.
+    QVector<int> cells;
     /// A picture of the map, north up: for each pixel, line by line, the record that is seen there, -1 for none.
     QSize pictureSize;
     QVector<int> recordAtPixel;
