@@ -14,6 +14,9 @@
 namespace {
 
 constexpr double minGridPixels = 22.0;
+constexpr GLenum switchedOff[] = {GL_DEPTH_TEST,   GL_CULL_FACE,       GL_STENCIL_TEST,
+                                  GL_SCISSOR_TEST, GL_SAMPLE_COVERAGE, GL_SAMPLE_ALPHA_TO_COVERAGE};
+constexpr GLenum rowLengths[] = {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH};
 
 } // namespace
 
@@ -100,8 +103,7 @@ void FieldScene::setGuestState(const Target &target)
     glEnable(GL_BLEND);
     glBlendEquation(GL_FUNC_ADD);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    for (const GLenum effect : {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST, GL_SAMPLE_COVERAGE,
-                                GL_SAMPLE_ALPHA_TO_COVERAGE})
+    for (const GLenum effect : switchedOff)
         glDisable(effect);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glActiveTexture(GL_TEXTURE0);
@@ -120,7 +122,7 @@ void FieldScene::setNewerState()
     if (!context->isOpenGLES())
         glDisable(GL_COLOR_LOGIC_OP);
     if (!context->isOpenGLES() || isNew) {
-        for (const GLenum length : {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH})
+        for (const GLenum length : rowLengths)
             glPixelStorei(length, 0);
     }
 }

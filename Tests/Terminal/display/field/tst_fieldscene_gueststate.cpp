@@ -87,7 +87,8 @@ public:
         gl->glDisable(GL_BLEND);
         gl->glBlendEquation(GL_FUNC_SUBTRACT);
         gl->glBlendFunc(GL_ZERO, GL_DST_COLOR);
-        for (const GLenum test : {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST})
+        constexpr GLenum tests[] = {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST};
+        for (const GLenum test : tests)
             gl->glEnable(test);
         gl->glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
         gl->glActiveTexture(GL_TEXTURE1);

@@ -108,12 +108,18 @@ private:
         glDisable(GL_BLEND);
         glBlendEquation(GL_FUNC_REVERSE_SUBTRACT);
         glBlendFuncSeparate(GL_ONE, GL_ONE, GL_ZERO, GL_ZERO);
-        for (const GLenum test : {GL_DEPTH_TEST, GL_CULL_FACE, GL_STENCIL_TEST, GL_SCISSOR_TEST})
-            glEnable(test);
+        constexpr GLenum effects[] = {GL_DEPTH_TEST,
+                                      GL_CULL_FACE,
+                                      GL_STENCIL_TEST,
+                                      GL_SCISSOR_TEST,
+                                      GL_COLOR_LOGIC_OP,
+                                      GL_SAMPLE_COVERAGE,
+                                      GL_SAMPLE_ALPHA_TO_COVERAGE};
+        constexpr GLenum rowLengths[] = {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH};
         glScissor(0, 0, 1, 1);
-        for (const GLenum effect : {GL_COLOR_LOGIC_OP, GL_SAMPLE_COVERAGE, GL_SAMPLE_ALPHA_TO_COVERAGE})
+        for (const GLenum effect : effects)
             glEnable(effect);
-        for (const GLenum length : {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH})
+        for (const GLenum length : rowLengths)
             glPixelStorei(length, 3);
         glViewport(0, 0, 1, 1);
         glBindFramebuffer(GL_FRAMEBUFFER, 0);
