@@ -700,5 +700,17 @@
         <comment>decimal separator</comment>
         <translation>,</translation>
     </message>
+    <message>
+        <source>cannot be read with &quot;%1&quot; beside it: %2</source>
+        <translation>kann mit „%1“ daneben nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>is being changed by another program</source>
+        <translation>wird gerade von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>cannot be copied: %1</source>
+        <translation>kann nicht kopiert werden: %1</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "Backend/backendtext.h"
 #include "archivedprescription.h"
 #include "gdalsession.h"
+#include "journaleddatabase.h"
 #include "shapefilecheck.h"
 #include "tablecodepage.h"
 
@@ -71,9 +72,9 @@ CPLStringList PrescriptionFile::options() const
     CPLStringList options;
     options.SetNameValue("WRITE_GFS", "NO");
     options.SetNameValue("DOWNLOAD_SCHEMA", "NO");
-    // A database would else be opened for writing to tidy up its journal. A journal that is there holds part of the
-    // data. By design: not where the name holds a percent sign, which would be decoded.
-    if (!QFileInfo::exists(path + QStringLiteral("-wal")) && !nameForGdal(path).contains('%'))
+    // A database would else be opened for writing to tidy up its journal. By design: not where the name holds a percent
+    // sign, which would be decoded.
+    if (!isJournaled && !nameForGdal(path).contains('%'))
         options.SetNameValue("IMMUTABLE", "YES");
     const QByteArray codePage = isShapefile() ? TableCodePage::guess(path) : QByteArray();
     if (!codePage.isEmpty())
@@ -95,11 +96,26 @@ bool PrescriptionFile::unpack()
     return !path.isEmpty() || fail(prescription.error());
 }
 
+bool PrescriptionFile::takeJournal()
+{
+    JournaledDatabase database(path);
+    isJournaled = database.hasJournal();
+    if (!isJournaled)
+        return true;
+    unpacked = std::make_unique<UnpackingFolder>();
+    if (!unpacked->isValid())
+        return fail(BackendText::tr("cannot be copied: %1").arg(unpacked->error()));
+    path = database.copyTo(QDir(unpacked->path()));
+    return !path.isEmpty() || fail(database.error());
+}
+
 bool PrescriptionFile::open(const GdalSession &session)
 {
-    if (!unpack() || !check())
+    if (!unpack() || !check() || !takeJournal())
         return false;
-    data.reset(GDALDataset::Open(nameForGdal(path).constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
+    // A change that was broken off can be taken back only by who may write; it is the copy that is written to.
+    const unsigned int access = isJournaled ? GDAL_OF_UPDATE : GDAL_OF_READONLY;
+    data.reset(GDALDataset::Open(nameForGdal(path).constData(), GDAL_OF_VECTOR | access,
                                  isShapefile() ? shapefileOnly : otherFormats, options().List()));
     if (data)
         return true;

@@ -31,10 +31,13 @@ private:
     bool fail(const QString &text);
     bool check();
     bool unpack();
+    /// A database with a journal beside it is read from a copy.
+    bool takeJournal();
     bool isShapefile() const;
     CPLStringList options() const;
 
     QString path;
+    bool isJournaled = false;
     std::unique_ptr<UnpackingFolder> unpacked;
     GDALDatasetUniquePtr data;
     QString reason;

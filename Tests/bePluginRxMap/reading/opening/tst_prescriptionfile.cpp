@@ -44,6 +44,31 @@ private:
     bool isOpen = false;
 };
 
+QByteArray bigEndian(quint32 number)
+{
+    const quint32 swapped = htonl(number);
+    return {reinterpret_cast<const char *>(&swapped), sizeof swapped};
+}
+
+/// The journal of a change to a database that held `before`, as it lies there while the change goes on: all pages, each
+/// with its number and the sum of each 200th byte from behind.
+QByteArray rollbackJournal(const QByteArray &before)
+{
+    const int pageSize = (quint8(before.at(16)) << 8) + quint8(before.at(17));
+    const int pages = before.size() / pageSize;
+    QByteArray journal = QByteArray::fromHex("d9d505f920a163d7") + bigEndian(pages) + bigEndian(0) + bigEndian(pages)
+        + bigEndian(512) + bigEndian(pageSize);
+    journal.append(QByteArray(512 - journal.size(), '\0'));
+    for (int page = 0; page < pages; ++page) {
+        const QByteArray content = before.mid(page * pageSize, pageSize);
+        quint32 sum = 0;
+        for (int i = pageSize - 200; i > 0; i -= 200)
+            sum += quint8(content.at(i));
+        journal += bigEndian(page + 1) + content + bigEndian(sum);
+    }
+    return journal;
+}
+
 } // namespace
 
 /// How a file is opened; what is in it is a matter of those who read it.
@@ -57,12 +82,17 @@ private Q_SLOTS:
     void opensNoConnections();
     void writesNothingBesideTheFile_data();
     void writesNothingBesideTheFile();
+    void readsWhatStandsInAJournal_data();
     void readsWhatStandsInAJournal();
+    void takesBackAChangeThatWasBrokenOff();
     void reachesForNoNetwork();
 
 private:
     static LayerSketch sketch(const char *driver);
     QString write(const char *driver, const QString &name);
+    static GDALDatasetUniquePtr change(const QString &path, std::initializer_list<const char *> statements);
+    /// NaN when the file cannot be opened.
+    static double rateIn(const QString &path);
 
     QTemporaryDir folder;
 };
@@ -85,6 +115,23 @@ QString PrescriptionFileTest::write(const char *driver, const QString &name)
     const bool isWritten = sketch(driver).write(plain) && QFile::rename(plain, path);
     QFile::remove(folder.filePath(QStringLiteral("plain.xsd")));
     return isWritten ? path : QString();
+}
+
+GDALDatasetUniquePtr PrescriptionFileTest::change(const QString &path, std::initializer_list<const char *> statements)
+{
+    GDALDatasetUniquePtr written(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+    for (const char *statement : statements)
+        written->ReleaseResultSet(written->ExecuteSQL(statement, nullptr, nullptr));
+    return written;
+}
+
+double PrescriptionFileTest::rateIn(const QString &path)
+{
+    const GdalSession session;
+    PrescriptionFile file(path);
+    const bool isOpen = file.open(session);
+    const OGRFeatureUniquePtr record(isOpen ? file.dataset().GetLayer(0)->GetNextFeature() : nullptr);
+    return record ? record->GetFieldAsDouble(0) : qQNaN();
 }
 
 void PrescriptionFileTest::takesAPathForTheNameOfAFile_data()
@@ -151,9 +198,7 @@ void PrescriptionFileTest::writesNothingBesideTheFile()
     QVERIFY(!path.isEmpty());
     if (driver == "GPKG") {
         const GdalSession session;
-        const GDALDatasetUniquePtr written(
-            GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
-        written->ReleaseResultSet(written->ExecuteSQL("PRAGMA journal_mode = WAL", nullptr, nullptr));
+        change(path, {"PRAGMA journal_mode = WAL"});
     }
     const QByteArray before = readFile(path);
     const QStringList files = QDir(folder.path()).entryList(QDir::Files);
@@ -170,18 +215,51 @@ void PrescriptionFileTest::writesNothingBesideTheFile()
     QCOMPARE(readFile(path), before);
 }
 
+void PrescriptionFileTest::readsWhatStandsInAJournal_data()
+{
+    QTest::addColumn<bool>("isLeftBehind");
+    QTest::newRow("of a program that goes on") << false;
+    QTest::newRow("of one that was ended, in a folder that cannot be written") << true;
+}
+
 void PrescriptionFileTest::readsWhatStandsInAJournal()
 {
-    const QString path = write("GPKG", QStringLiteral("open.gpkg"));
+    QFETCH(bool, isLeftBehind);
+    const QString open = write("GPKG", QStringLiteral("open.gpkg"));
     const GdalSession session;
-    const GDALDatasetUniquePtr written(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
-    written->ReleaseResultSet(written->ExecuteSQL("PRAGMA journal_mode = WAL", nullptr, nullptr));
-    written->ReleaseResultSet(written->ExecuteSQL("UPDATE layer SET rate = 7", nullptr, nullptr));
-    QVERIFY(QFile::exists(path + QStringLiteral("-wal")));
-    PrescriptionFile file(path);
-    QVERIFY2(file.open(session), qPrintable(file.error()));
-    const OGRFeatureUniquePtr record(file.dataset().GetLayer(0)->GetNextFeature());
-    QCOMPARE(record->GetFieldAsDouble(0), 7.0);
+    const GDALDatasetUniquePtr written = change(open, {"PRAGMA journal_mode = WAL", "UPDATE layer SET rate = 7"});
+    QVERIFY(QFile::exists(open + QStringLiteral("-wal")));
+    const QTemporaryDir others;
+    QString path = open;
+    if (isLeftBehind) {
+        path = others.filePath(QStringLiteral("left.gpkg"));
+        QVERIFY(QFile::copy(open, path) && QFile::copy(open + QStringLiteral("-wal"), path + QStringLiteral("-wal")));
+        QFile::setPermissions(others.path(), QFile::ReadOwner | QFile::ExeOwner);
+    }
+    const QByteArray before = readFile(path) + readFile(path + QStringLiteral("-wal"));
+    const QStringList files = QFileInfo(path).dir().entryList(QDir::Files);
+    QCOMPARE(rateIn(path), 7.0);
+    QCOMPARE(readFile(path) + readFile(path + QStringLiteral("-wal")), before);
+    QCOMPARE(QFileInfo(path).dir().entryList(QDir::Files), files);
+    QFile::setPermissions(others.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void PrescriptionFileTest::takesBackAChangeThatWasBrokenOff()
+{
+    const QString path = write("GPKG", QStringLiteral("broken-off.gpkg"));
+    const QByteArray before = readFile(path);
+    const QString journal = path + QStringLiteral("-journal");
+    {
+        const GdalSession session;
+        change(path, {"UPDATE layer SET rate = 7"});
+    }
+    QCOMPARE(rateIn(path), 7.0);
+    const QByteArray after = readFile(path);
+    QVERIFY(after.size() == before.size() && !QFile::exists(journal));
+    writeFile(journal, rollbackJournal(before));
+    QCOMPARE(rateIn(path), 1.0);
+    QCOMPARE(readFile(path), after);
+    QCOMPARE(readFile(journal), rollbackJournal(before));
 }
 
 void PrescriptionFileTest::reachesForNoNetwork()
