@@ -62,6 +62,10 @@
         <source>from the name</source>
         <translation>aus dem Namen</translation>
     </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
 </context>
 <context>
     <name>DriveControls</name>

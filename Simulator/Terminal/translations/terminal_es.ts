@@ -62,6 +62,10 @@
         <source>from the name</source>
         <translation>del nombre</translation>
     </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
 </context>
 <context>
     <name>DriveControls</name>

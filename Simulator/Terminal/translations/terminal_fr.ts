@@ -62,6 +62,10 @@
         <source>from the name</source>
         <translation>du nom</translation>
     </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
 </context>
 <context>
     <name>DriveControls</name>

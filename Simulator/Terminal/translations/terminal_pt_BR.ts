@@ -62,6 +62,10 @@
         <source>from the name</source>
         <translation>do nome</translation>
     </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidade</translation>
+    </message>
 </context>
 <context>
     <name>DriveControls</name>

@@ -33,9 +33,11 @@ DisplayStates::DisplayStates(TerminalHost &host)
 
 QStringList DisplayStates::names()
 {
-    return {QStringLiteral("no map"),  QStringLiteral("map"),      QStringLiteral("driving"), QStringLiteral("by hand"),
-            QStringLiteral("files"),   QStringLiteral("preview"),  QStringLiteral("product"), QStringLiteral("unit"),
-            QStringLiteral("message"), QStringLiteral("findings"), QStringLiteral("greeting")};
+    return {QStringLiteral("no map"),     QStringLiteral("map"),      QStringLiteral("driving"),
+            QStringLiteral("by hand"),    QStringLiteral("files"),    QStringLiteral("preview"),
+            QStringLiteral("product"),    QStringLiteral("unit"),     QStringLiteral("message"),
+            QStringLiteral("findings"),   QStringLiteral("greeting"), QStringLiteral("opened"),
+            QStringLiteral("unit wanted")};
 }
 
 bool DisplayStates::open(const char *file, const char *column)
@@ -70,9 +72,9 @@ bool DisplayStates::openMap()
     return open("three-zones.geojson", "SEED_K_HA");
 }
 
-bool DisplayStates::showPreview()
+bool DisplayStates::showPreview(const char *file)
 {
-    terminal.openWindow()->preview({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))});
+    terminal.openWindow()->preview({TerminalHost::fixture(QLatin1String(file))});
     return QTest::qWaitFor([this] { return seen(terminal, QStringLiteral("openAccept")) != nullptr; }, longest);
 }
 
@@ -86,6 +88,10 @@ bool DisplayStates::bring(const QString &name)
         return touch(QStringLiteral("openButton")) && touch(QStringLiteral("placeRoot"));
     if (name == QLatin1String("preview"))
         return showPreview();
+    if (name == QLatin1String("unit wanted"))
+        return showPreview("two-strips.geojson");
+    if (name == QLatin1String("opened"))
+        return openMap() && touch(QStringLiteral("openButton")) && touch(QStringLiteral("placeOpen"));
     if (name == QLatin1String("product"))
         return showPreview() && touch(QStringLiteral("columnRow0Product"));
     if (name == QLatin1String("unit"))

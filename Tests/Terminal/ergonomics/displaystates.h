@@ -22,7 +22,7 @@ private:
     bool openMap();
     bool touch(const QString &control);
     bool drive(bool isByHand);
-    bool showPreview();
+    bool showPreview(const char *file = "three-zones.geojson");
 
     Terminal &terminal;
 };
