@@ -16,9 +16,7 @@
 FileOpening::FileOpening(Terminal *owner)
     : QObject(owner)
     , terminal(owner)
-    , settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("rxmap"),
-               QStringLiteral("terminal-simulator"))
-    , openWindow(new OpenWindow(owner->machine(), settings, owner->window()))
+    , openWindow(new OpenWindow(owner->machine(), settings.values(), owner->window()))
     , button(new TouchButton(tr("Open a prescription")))
 {
     TerminalWindow *display = terminal->window();

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "operatorsettings.h"
+
 #include <QObject>
-#include <QSettings>
 #include <QStringList>
 
 class OpenWindow;
@@ -22,7 +23,7 @@ public:
 
     OpenWindow *window() const { return openWindow; }
     /// What the terminal remembers of its operator.
-    QSettings *remembered() { return &settings; }
+    OperatorSettings *remembered() { return &settings; }
 
 private:
     void toggle();
@@ -34,7 +35,7 @@ private:
     void closeReplaced(const LoadReport &newest);
 
     Terminal *terminal;
-    QSettings settings;
+    OperatorSettings settings;
     OpenWindow *openWindow;
     TouchButton *button;
 };

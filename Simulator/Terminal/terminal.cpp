@@ -10,6 +10,7 @@
 #include "machine.h"
 #include "mapoverlay.h"
 #include "openwindow.h"
+#include "operatorsettings.h"
 #include "pluginscanner.h"
 #include "productselector.h"
 #include "querylistener.h"
@@ -189,9 +190,14 @@ bool Terminal::show(const QSize &size)
     return display->fieldView()->isValid();
 }
 
+OperatorSettings *Terminal::remembered() const
+{
+    return opening->remembered();
+}
+
 void Terminal::greet()
 {
-    hints.reset(new Hints(display.data(), prescriptions.data(), opening->remembered()));
+    hints.reset(new Hints(display.data(), prescriptions.data(), &remembered()->values()));
     hints->greet();
 }
 

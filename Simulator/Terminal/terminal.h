@@ -29,6 +29,7 @@ class FindingsDisplay;
 class Hints;
 class Machine;
 class OpenWindow;
+class OperatorSettings;
 class Recorder;
 class ScreenWindow;
 class Simulation;
@@ -66,6 +67,7 @@ public:
     /// Null until the display is shown.
     DriveDisplay *driving() const { return driveDisplay.data(); }
     OpenWindow *openWindow() const;
+    OperatorSettings *remembered() const;
 
     /// Tells an operator who is new to the terminal how it is used; what was told once is not told again.
     void greet();

@@ -8,6 +8,7 @@
 #include "machine.h"
 #include "neededimages.h"
 #include "openwindow.h"
+#include "operatorsettings.h"
 #include "pointdescription.h"
 #include "productfile.h"
 #include "ratesourcetext.h"
@@ -168,13 +169,14 @@ void showOpenWindow(Terminal &terminal, const QStringList &files)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-QSize firstSize(const CommandLine &line, double scale)
+QSize firstSize(Terminal &terminal, const CommandLine &line, double scale)
 {
     if (scale > 0.0)
         return (scale * QSizeF(TerminalWindow::displaySize)).toSize();
     // What a task shows is as large everywhere.
-    return line.isInteractive() ? ScreenMemory().sizeOn(QGuiApplication::primaryScreen()->availableSize())
-                                : TerminalWindow::displaySize;
+    return line.isInteractive()
+        ? ScreenMemory(terminal.remembered()->values()).sizeOn(QGuiApplication::primaryScreen()->availableSize())
+        : TerminalWindow::displaySize;
 }
 
 QString runTasks(Terminal &terminal, const CommandLine &line)
@@ -187,9 +189,16 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
     // The operator may have closed the display while the prescriptions were loading.
     if (error.isEmpty() && line.isInteractive() && terminal.window()->isVisible()) {
         QApplication::exec();
-        ScreenMemory().keep(terminal.screen()->plainSize());
+        ScreenMemory(terminal.remembered()->values()).keep(terminal.screen()->plainSize());
     }
     return error;
+}
+
+/// What does not end the run.
+void tell(const QString &complaint)
+{
+    if (!complaint.isEmpty())
+        writeErrorLine(complaint);
 }
 
 } // namespace
@@ -211,6 +220,7 @@ QString runTerminal(const CommandLine &line, double scale)
     }
 
     Terminal terminal(setup, line.units);
+    tell(terminal.remembered()->complaint());
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();
     // No time passes but what is driven: each drive begins at the same moment.
@@ -218,7 +228,7 @@ QString runTerminal(const CommandLine &line, double scale)
         terminal.simulation()->setTimeFactor(0.0);
     if (isShown)
         error = loadPlugins(terminal, pluginFolder);
-    if (error.isEmpty() && isShown && !terminal.show(firstSize(line, scale)))
+    if (error.isEmpty() && isShown && !terminal.show(firstSize(terminal, line, scale)))
         error = QStringLiteral("the display has no OpenGL");
     if (error.isEmpty() && line.isInteractive())
         terminal.greet();
@@ -230,5 +240,7 @@ QString runTerminal(const CommandLine &line, double scale)
     if (!error.isEmpty())
         return error;
     showFedProduct(terminal);
-    return isShown ? runTasks(terminal, line) : runDrive(terminal, line);
+    error = isShown ? runTasks(terminal, line) : runDrive(terminal, line);
+    tell(terminal.remembered()->keep());
+    return error;
 }

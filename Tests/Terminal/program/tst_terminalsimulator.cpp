@@ -17,6 +17,7 @@ private Q_SLOTS:
     void aFilesControlBytesStayOffTheOutput();
     void settingsForOtherProgramsChangeNothing_data();
     void settingsForOtherProgramsChangeNothing();
+    void damagedSettingsAreToldAndPutAside();
     void aPictureIsSaved();
     void aScriptsResultIsTheExitStatus();
     void aScriptThatOutgrowsTheMemoryEndsWithALine();
@@ -113,6 +114,23 @@ void TestTerminalSimulator::settingsForOtherProgramsChangeNothing()
     environment.insert(name, value);
     const Outcome outcome = run({"--describe", "-100,0", zones()}, environment);
     QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+}
+
+void TestTerminalSimulator::damagedSettingsAreToldAndPutAside()
+{
+    QDir(folder.path()).mkpath(QStringLiteral("kept/rxmap"));
+    const QString path =
+        write("[General]\nchoices=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n", "kept/rxmap/terminal-simulator.ini");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.filePath(QStringLiteral("kept")));
+    const QString script = write("terminal.find('openButton').touch();", "folder.js");
+    const Outcome outcome = run({"--script", script}, environment);
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors,
+             QStringLiteral("%1: is damaged; what the terminal remembers is not used, the file is now %1.damaged\n")
+                 .arg(path));
+    QVERIFY(QFile::exists(path + QStringLiteral(".damaged")));
+    QCOMPARE(run({"--script", script}, environment).errors, QString());
 }
 
 void TestTerminalSimulator::aPictureIsSaved()

@@ -2,15 +2,16 @@
 
 #include "screenfit.h"
 
+#include <QSettings>
+
 namespace {
 
 const QString sizeKey = QStringLiteral("window/size");
 
 }
 
-ScreenMemory::ScreenMemory()
-    : settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("rxmap"),
-               QStringLiteral("terminal-simulator"))
+ScreenMemory::ScreenMemory(QSettings &appSettings)
+    : settings(appSettings)
 {
 }
 

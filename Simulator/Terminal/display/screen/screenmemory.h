@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QSettings>
 #include <QSize>
+
+class QSettings;
 
 /// Remembers how large the operator had the program's window last.
 class ScreenMemory {
 public:
-    /// In the operator's settings.
-    ScreenMemory();
+    /// `settings` is not owned and outlives this.
+    explicit ScreenMemory(QSettings &settings);
 
     /// Units of the screen. Never larger than `available`, what the desktop leaves of the screen; where nothing is
     /// remembered, ScreenFit::firstSize().
@@ -15,5 +16,5 @@ public:
     void keep(const QSize &size);
 
 private:
-    QSettings settings;
+    QSettings &settings;
 };

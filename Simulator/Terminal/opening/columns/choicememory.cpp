@@ -1,6 +1,8 @@
 #include "choicememory.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QSettings>
 #include <QVariantMap>
 
@@ -54,6 +56,12 @@ FileChoices choicesFrom(const QVariantMap &map)
     return choices;
 }
 
+/// As text: a damaged list of Qt's own is unpacked without asking how large it is.
+QVariantList filesIn(const QSettings &settings)
+{
+    return QJsonDocument::fromJson(settings.value(key).toString().toUtf8()).array().toVariantList();
+}
+
 } // namespace
 
 ChoiceMemory::ChoiceMemory(QSettings &appSettings)
@@ -64,7 +72,7 @@ ChoiceMemory::ChoiceMemory(QSettings &appSettings)
 std::optional<FileChoices> ChoiceMemory::of(const QString &path) const
 {
     const QString name = nameOf(path);
-    const QVariantList files = settings.value(key).toList();
+    const QVariantList files = filesIn(settings);
     for (const QVariant &file : files) {
         if (file.toMap().value(pathKey).toString() == name)
             return choicesFrom(file.toMap());
@@ -78,11 +86,12 @@ void ChoiceMemory::keep(const QString &path, const FileChoices &choices)
     settings.sync();
     const QString name = nameOf(path);
     QVariantList files{toMap(name, choices)};
-    const QVariantList before = settings.value(key).toList();
+    const QVariantList before = filesIn(settings);
     for (const QVariant &file : before) {
         if (files.size() < mostFiles && file.toMap().value(pathKey).toString() != name)
             files.append(file);
     }
-    settings.setValue(key, files);
+    const QJsonDocument text(QJsonArray::fromVariantList(files));
+    settings.setValue(key, QString::fromUtf8(text.toJson(QJsonDocument::Compact)));
     settings.sync();
 }
