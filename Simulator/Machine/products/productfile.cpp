@@ -28,6 +28,8 @@ const QMap<QString, Product::Kind> &kinds()
 }
 
 constexpr double longestTime = 60.0; // Seconds.
+/// Base units: what any machine can bring out, and single precision and the dialog can hold.
+constexpr double greatestRate = 1.0e6;
 
 const QMap<QString, double ActuatorSettings::*> &actuatorFields()
 {
@@ -84,8 +86,8 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
         product.bin = int(bin);
     } else if (plain == QLatin1String("defaultrate")) {
         const double rate = value.toDouble(-1.0);
-        if (!(rate >= 0.0))
-            return complaint(QStringLiteral("a number from 0"));
+        if (!(rate >= 0.0 && rate <= greatestRate))
+            return complaint(QStringLiteral("a number from 0 to 1000000"));
         product.defaultRate = rate;
     } else if (plain == QLatin1String("undervra") || plain == QLatin1String("iscarrier")) {
         if (!value.isBool())
@@ -96,8 +98,9 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
         if (field == actuatorFields().constEnd())
             return QStringLiteral("unknown key %1").arg(written(key));
         const double number = value.toDouble(-1.0);
-        if (!(number >= 0.0))
-            return complaint(QStringLiteral("a number from 0"));
+        const bool isRate = plain.endsWith(QLatin1String("rate"));
+        if (!(number >= 0.0 && (!isRate || number <= greatestRate)))
+            return complaint(isRate ? QStringLiteral("a number from 0 to 1000000") : QStringLiteral("a number from 0"));
         product.actuator.*field.value() = number;
     }
     return {};

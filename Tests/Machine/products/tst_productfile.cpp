@@ -68,9 +68,13 @@ void TestProductFile::badFilesAreRefusedInOneLine_data()
     QTest::newRow("bin 0") << QByteArray(R"([{"name": "A", "kind": "count", "bin": 0}])") << "\"bin\"";
     QTest::newRow("half a bin") << QByteArray(R"([{"name": "A", "kind": "count", "bin": 1.5}])") << "\"bin\"";
     QTest::newRow("rate below zero") << QByteArray(R"([{"name": "A", "kind": "count", "defaultRate": -1}])")
-                                     << "\"defaultRate\" is -1; a number from 0 is wanted";
+                                     << "\"defaultRate\" is -1; a number from 0 to 1000000 is wanted";
     QTest::newRow("rate is a text") << QByteArray(R"([{"name": "A", "kind": "count", "defaultRate": "5"}])")
-                                    << "\"defaultRate\" is \"5\"; a number from 0 is wanted";
+                                    << "\"defaultRate\" is \"5\"; a number from 0 to 1000000 is wanted";
+    for (const char *key : {"defaultRate", "minRate", "maxRate"})
+        QTest::addRow("%s that no machine brings out", key)
+            << QByteArray("[{\"name\": \"A\", \"kind\": \"count\", \"") + key + "\": 1e39}]"
+            << QStringLiteral("product 1: \"%1\" is 1e+39; a number from 0 to 1000000 is wanted").arg(key);
     QTest::newRow("control is a number") << QByteArray(R"([{"name": "A", "kind": "count", "underVra": 1}])")
                                          << "\"underVra\" is 1; true or false is wanted";
     QTest::newRow("unknown key") << QByteArray(R"([{"name": "A", "kind": "count", "colour": "red"}])")

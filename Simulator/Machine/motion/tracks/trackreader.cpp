@@ -11,6 +11,8 @@ namespace {
 constexpr qint64 longestLine = 1000;
 /// Metres per second; who is faster has jumped.
 constexpr double fastest = 100.0;
+/// Seconds since 1970 up to the year 10000; no clock tells more.
+constexpr double latest = 253402300800.0;
 
 } // namespace
 
@@ -72,6 +74,8 @@ void TrackReader::complain(const QString &reason)
 
 QString TrackReader::misfit(TrackPoint &point)
 {
+    if (std::fabs(point.time) >= latest)
+        return QStringLiteral("its time is beyond the year 9999");
     if (lastTime && point.time < *lastTime)
         return QStringLiteral("goes back in time");
     if (!point.hasFix)
@@ -84,6 +88,8 @@ QString TrackReader::misfit(TrackPoint &point)
         point.place = *place;
         point.isInDegrees = false;
     }
+    if (std::hypot(point.place.x(), point.place.y()) > FieldPlane::reach)
+        return QStringLiteral("lies off the field's plane");
     if (!lastPlaced)
         return {};
     const QPointF moved = point.place - lastPlaced->place;

@@ -131,6 +131,8 @@ void TestTrackReader::badLinesAreLeftOutAndCounted_data()
     csv("endless number", "1,inf,0", "its position is none");
     csv("back in time", "-1,1,0", "goes back in time");
     csv("a jump", "1,5000,0", "jumps by 5000 m");
+    csv("a place far off", "1,1e300,0", "lies off the field's plane");
+    csv("a time that no clock tells", "1e300,1,0", "its time is beyond the year 9999");
 }
 
 void TestTrackReader::badLinesAreLeftOutAndCounted()
@@ -179,6 +181,8 @@ void TestTrackReader::aTrackWithoutPositionsIsRefused_data()
                                  << ": holds no position";
     QTest::newRow("another table") << QByteArray("a,b\n1,2\n")
                                    << ": holds no position; line 1: is no head with \"time\"";
+    QTest::newRow("places far off") << QByteArray("time,x,y\n0,1e300,0\n1,1e300,0\n")
+                                    << ": holds no position; line 2: lies off the field's plane";
     QTest::newRow("no text") << QByteArray(3000, '\xff') << ": holds no position; line 1: is longer than 1000";
 }
 
