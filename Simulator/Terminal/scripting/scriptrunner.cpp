@@ -17,6 +17,8 @@
 
 namespace {
 
+/// Of a script's file; nobody writes a longer one.
+constexpr qint64 mostBytes = qint64(16) << 20;
 /// How long calls of a script that is being ended wait for their answer at most, milliseconds.
 constexpr unsigned long answerSlice = 10;
 
@@ -58,7 +60,16 @@ QString ScriptRunner::run(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(path, file.errorString());
-    return evaluate(QString::fromUtf8(file.readAll()), path);
+    if (file.size() > mostBytes)
+        return QStringLiteral("%1: has more than %2 MB").arg(path).arg(mostBytes >> 20);
+    const QByteArray program = file.readAll();
+    // The engine would take the text before it for the whole.
+    const int nul = program.indexOf('\0');
+    if (nul >= 0)
+        return QStringLiteral("%1:%2: holds a NUL byte, so it is no text")
+            .arg(path)
+            .arg(program.left(nul).count('\n') + 1);
+    return evaluate(QString::fromUtf8(program), path);
 }
 
 QString ScriptRunner::evaluate(const QString &program, const QString &name)

@@ -1,3 +1,4 @@
+#include "files.h"
 #include "scriptrunner.h"
 #include "terminalhost.h"
 #include "terminalwindow.h"
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void anUncaughtErrorNamesFileAndLine();
     void aMissingScriptIsNamed();
     void onlyAPlainFileIsRunAsScript();
+    void whatIsNoScriptIsRefused();
     void aScriptGoesOnWhileADialogIsOpen();
     void aDialogThatWasLeftOpenIsClosedAtTheEnd();
     void theDialogsEditsComeThrough();
@@ -102,6 +104,16 @@ void TestScriptRunner::onlyAPlainFileIsRunAsScript()
     QCOMPARE(runner.run(QStringLiteral("/dev/null")), QStringLiteral("/dev/null: is no plain file"));
     QCOMPARE(runner.run(folder->path()), folder->path() + QStringLiteral(": is a folder, not a file"));
     QCOMPARE(runner.run(pipe), pipe + QStringLiteral(": is no plain file"));
+}
+
+void TestScriptRunner::whatIsNoScriptIsRefused()
+{
+    const QString path = folder->filePath(QStringLiteral("no-script.js"));
+    ScriptRunner runner(&host->terminal());
+    writeFile(path, QByteArray("print('a');\n\0\nthrow 1;", 21));
+    QCOMPARE(runner.run(path), path + QStringLiteral(":2: holds a NUL byte, so it is no text"));
+    writeFile(path, QByteArray((16 << 20) + 1, ' '));
+    QCOMPARE(runner.run(path), path + QStringLiteral(": has more than 16 MB"));
 }
 
 void TestScriptRunner::aScriptGoesOnWhileADialogIsOpen()
