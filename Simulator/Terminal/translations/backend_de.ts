@@ -712,5 +712,13 @@
         <source>cannot be copied: %1</source>
         <translation>kann nicht kopiert werden: %1</translation>
     </message>
+    <message>
+        <source>cannot be loaded, there is not enough memory</source>
+        <translation>kann nicht geladen werden, der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace {
@@ -92,6 +93,8 @@ bool PrescriptionLoader::attempt(const std::function<bool()> &work)
 {
     try {
         return work();
+    } catch (const std::bad_alloc &) {
+        return fail(BackendText::tr("cannot be loaded, there is not enough memory"));
     } catch (const std::exception &failure) {
         return fail(BackendText::tr("cannot be loaded: %1").arg(QString::fromUtf8(failure.what())));
     }

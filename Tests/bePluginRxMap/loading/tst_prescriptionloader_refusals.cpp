@@ -7,6 +7,7 @@ class PrescriptionLoaderRefusalsTest : public LoaderTest {
 private Q_SLOTS:
     void saysWhyItCannotLoad_data();
     void saysWhyItCannotLoad();
+    void saysThatMemoryRanOut();
     void refusesColumnsThatCanFeedNothing();
     void refusesATruncatedShapefile();
     void refusesShapefilesWhosePartsDoNotFit();
@@ -55,6 +56,15 @@ void PrescriptionLoaderRefusalsTest::saysWhyItCannotLoad()
     QVERIFY2(map->report.error.startsWith(path + QStringLiteral(": ")), qPrintable(map->report.error));
     QVERIFY2(map->report.error.contains(reason), qPrintable(map->report.error));
     QVERIFY(!map->report.error.contains(QLatin1Char('\n')));
+}
+
+void PrescriptionLoaderRefusalsTest::saysThatMemoryRanOut()
+{
+    const QString path = fixture("bow-tie.geojson");
+    LoadControl control;
+    control.progress = [](double) { throw std::bad_alloc(); };
+    const auto map = PrescriptionLoader(usualRequest(path), {}, control).load();
+    QCOMPARE(map->report.error, path + QStringLiteral(": cannot be loaded, there is not enough memory"));
 }
 
 void PrescriptionLoaderRefusalsTest::refusesColumnsThatCanFeedNothing()

@@ -60,6 +60,11 @@ bool PrescriptionFile::check()
     // A pipe would be waited on without end.
     if (!info.isFile())
         return fail(BackendText::tr("is no plain file"));
+    // A reader would take what it cannot open for another format.
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(BackendText::tr("cannot be opened: %1").arg(file.errorString()));
+    file.close();
     if (!isShapefile())
         return true;
     const QString problem = ShapefileCheck::problem(path);

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void readsWhatStandsInAJournal_data();
     void readsWhatStandsInAJournal();
     void takesBackAChangeThatWasBrokenOff();
+    void saysWhyAFileCannotBeOpened();
     void reachesForNoNetwork();
 
 private:
@@ -260,6 +261,18 @@ void PrescriptionFileTest::takesBackAChangeThatWasBrokenOff()
     QCOMPARE(rateIn(path), 1.0);
     QCOMPARE(readFile(path), after);
     QCOMPARE(readFile(journal), rollbackJournal(before));
+}
+
+void PrescriptionFileTest::saysWhyAFileCannotBeOpened()
+{
+    if (geteuid() == 0)
+        QSKIP("who may do everything can open everything");
+    const QString path = write("GeoJSON", QStringLiteral("rates.geojson"));
+    QVERIFY(QFile::setPermissions(path, {}));
+    const GdalSession session;
+    PrescriptionFile file(path);
+    QVERIFY(!file.open(session));
+    QCOMPARE(file.error(), QStringLiteral("cannot be opened: Permission denied"));
 }
 
 void PrescriptionFileTest::reachesForNoNetwork()
