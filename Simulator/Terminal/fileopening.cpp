@@ -80,7 +80,7 @@ void FileOpening::closeReplaced(const LoadReport &newest)
 void FileOpening::load(const OpenRequest &request)
 {
     const QPointer<FileOpening> self = this;
-    const LoadReport report = terminal->open(request).last();
+    const LoadReport report = terminal->open(request).constLast();
     if (!self)
         return;
     if (report.isOk())

@@ -24,7 +24,8 @@ QStringList NeededImages::names()
 
 QString NeededImages::problem(const QDir &folder)
 {
-    for (const QString &name : names()) {
+    const QStringList needed = names();
+    for (const QString &name : needed) {
         const QString path = folder.filePath(name);
         if (!QFileInfo::exists(path))
             return QStringLiteral("%1: this image is missing").arg(path);

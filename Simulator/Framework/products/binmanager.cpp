@@ -34,7 +34,7 @@ BinManager *BinManager::instance(DataBroker *broker)
 QList<QObject *> BinManager::loadedFilteredProducts() const
 {
     QList<QObject *> products;
-    for (const QPointer<QObject> &product : d->products)
+    for (const QPointer<QObject> &product : qAsConst(d->products))
         products.append(product);
     return products;
 }

@@ -91,7 +91,8 @@ QString readColumns(const QString &text, CommandLine &line)
 
 QString readSourceUnits(const QString &text, CommandLine &line)
 {
-    for (const QString &unit : text.split(QLatin1Char(',')))
+    const QStringList units = text.split(QLatin1Char(','));
+    for (const QString &unit : units)
         line.sourceUnits.append(unit.trimmed());
     if (line.sourceUnits.join(QString()).isEmpty())
         return QStringLiteral("--source-units %1: names no unit").arg(text);

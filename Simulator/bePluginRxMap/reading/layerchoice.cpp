@@ -162,7 +162,7 @@ OGRLayer *LayerChoice::take(int place, RawPrescription &map)
     if (place < 0)
         return nullptr;
     QStringList others;
-    for (const QString &name : map.layers)
+    for (const QString &name : qAsConst(map.layers))
         others.append(quoted(name));
     const QString taken = others.takeAt(place);
     if (request.layer.isEmpty() && !others.isEmpty())

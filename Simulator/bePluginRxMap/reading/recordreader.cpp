@@ -113,7 +113,7 @@ bool RecordReader::chooseColumns(RawPrescription &map)
 bool RecordReader::takeWantedColumns(const std::vector<SourceColumn> &table, RawPrescription &map)
 {
     QVector<int> taken;
-    for (const QString &name : wanted) {
+    for (const QString &name : qAsConst(wanted)) {
         const int place = TableColumns::find(map.columnNames, name);
         if (place < 0)
             return fail(

@@ -53,7 +53,7 @@ AllocationMeter::Pause::~Pause()
     isMetering = wasMetering;
 }
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef RXMAP_SANITIZED
 
 extern "C" {
 

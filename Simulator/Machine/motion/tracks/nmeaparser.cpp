@@ -20,7 +20,7 @@ QString unpack(const QByteArray &line, QByteArray &body)
     if (star < 0)
         return {};
     unsigned char sum = 0;
-    for (const char c : body)
+    for (const char c : qAsConst(body))
         sum ^= static_cast<unsigned char>(c);
     bool isNumber = false;
     const uint stated = text.mid(star + 1).toUInt(&isNumber, 16);

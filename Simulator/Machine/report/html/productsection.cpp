@@ -71,7 +71,8 @@ ProductSection::ProductSection(const DrivenField &givenField, int givenNumber)
     const Machine &machine = *field.simulation->machine();
     if (product.underVra)
         map = ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(number));
-    for (const LoadReport &report : machine.backend()->maps()) {
+    const QList<LoadReport> maps = machine.backend()->maps();
+    for (const LoadReport &report : maps) {
         if (report.group == map.groupName)
             hasSingleRates = report.hasSingleRates.value(map.mapping);
     }

@@ -41,7 +41,7 @@ void FieldScene::initialize()
     for (Object3D *aid : qAsConst(aids))
         aid->init();
     isInitialised = true;
-    for (const QPointer<UiGraphicsList> &list : lists) {
+    for (const QPointer<UiGraphicsList> &list : qAsConst(lists)) {
         if (list)
             list->init();
     }

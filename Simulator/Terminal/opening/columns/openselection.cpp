@@ -8,7 +8,7 @@ OpenSelection::OpenSelection(const SurveyReport &survey, const QList<MachineProd
     : report(survey)
     , products(machineProducts)
 {
-    for (const SurveyedColumn &column : report.columns)
+    for (const SurveyedColumn &column : qAsConst(report.columns))
         entries.append({column.product, {}});
 }
 

@@ -86,7 +86,7 @@ void ListRow::drawTexts(QPainter &painter, const QRect &area, const ButtonLook &
     const int all = texts.size() * lineHeight + notes.size() * noteHeight;
     QRect line(area.left(), (height() - all) / 2, area.width(), lineHeight);
     painter.setPen(look.text);
-    for (const QString &part : texts) {
+    for (const QString &part : qAsConst(texts)) {
         draw(line, Qt::AlignLeft, part);
         line.translate(0, lineHeight);
     }

@@ -150,7 +150,7 @@ bool TaskDataReader::checkColumns(const RawPrescription &map)
 {
     if (map.columns.empty())
         return fail(BackendText::tr("task %1 holds no prescription: its zones have no values").arg(task->name()));
-    for (const QString &name : request.columns) {
+    for (const QString &name : qAsConst(request.columns)) {
         if (!name.isEmpty() && TableColumns::find(map.columnNames, name) < 0)
             return fail(BackendText::tr("has no column \"%1\"; it has %2")
                             .arg(name, map.columnNames.join(QStringLiteral(", "))));
