@@ -21,6 +21,7 @@ QString nameOf(const QString &path)
 QVariantMap toMap(const ColumnChoice &choice)
 {
     return {{QStringLiteral("column"), choice.column},
+            {QStringLiteral("isProductChosen"), choice.isProductChosen},
             {QStringLiteral("product"), choice.product},
             {QStringLiteral("productName"), choice.productName},
             {QStringLiteral("unit"), choice.unit}};
@@ -28,8 +29,9 @@ QVariantMap toMap(const ColumnChoice &choice)
 
 ColumnChoice columnFrom(const QVariantMap &map)
 {
-    return {map.value(QStringLiteral("column")).toString(), map.value(QStringLiteral("product")).toInt(),
-            map.value(QStringLiteral("productName")).toString(), map.value(QStringLiteral("unit")).toString()};
+    return {map.value(QStringLiteral("column")).toString(), map.value(QStringLiteral("isProductChosen")).toBool(),
+            map.value(QStringLiteral("product")).toInt(), map.value(QStringLiteral("productName")).toString(),
+            map.value(QStringLiteral("unit")).toString()};
 }
 
 QVariantMap toMap(const QString &path, const FileChoices &choices)

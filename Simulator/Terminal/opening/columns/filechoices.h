@@ -4,10 +4,11 @@
 #include <QString>
 #include <QStringList>
 
-/// What the operator chose for one column of a file.
+/// What the operator chose for one column of a file; what is not chosen is left to the program.
 struct ColumnChoice {
     /// As SurveyedColumn::key.
     QString column;
+    bool isProductChosen = false;
     /// Number from 1, and name, of the product that the column feeds; 0 for none.
     int product = 0;
     QString productName;
@@ -21,5 +22,6 @@ struct FileChoices {
     QString task;
     /// All columns of the table that was chosen from.
     QStringList columnNames;
+    /// Those that something was chosen for.
     QList<ColumnChoice> columns;
 };

@@ -9,7 +9,7 @@ OpenSelection::OpenSelection(const SurveyReport &survey, const QList<MachineProd
     , products(machineProducts)
 {
     for (const SurveyedColumn &column : qAsConst(report.columns))
-        entries.append({column.product, {}});
+        entries.append({column.product, {}, false});
 }
 
 const MachineProduct *OpenSelection::fed(int index) const
@@ -26,6 +26,7 @@ void OpenSelection::setProduct(int index, int number)
     }
     Entry &entry = entries[index];
     entry.product = number;
+    entry.isProductChosen = true;
     const MachineProduct *product = fed(index);
     if (product != nullptr && PrescriptionBackend::rateFactor(entry.unit, product->kind) == 0.0)
         entry.unit.clear();
@@ -104,9 +105,14 @@ FileChoices OpenSelection::choices() const
 {
     FileChoices choices{report.layer, report.task, report.columnNames, {}};
     for (int index = 0; index < size(); ++index) {
-        const MachineProduct *product = fed(index);
-        const QString name = product != nullptr ? product->name : QString();
-        choices.columns.append({column(index).key, entries.at(index).product, name, entries.at(index).unit});
+        const Entry &entry = entries.at(index);
+        ColumnChoice choice{column(index).key, entry.isProductChosen, 0, {}, entry.unit};
+        if (entry.isProductChosen && fed(index) != nullptr) {
+            choice.product = entry.product;
+            choice.productName = fed(index)->name;
+        }
+        if (entry.isProductChosen || !entry.unit.isEmpty())
+            choices.columns.append(choice);
     }
     return choices;
 }
@@ -130,20 +136,15 @@ void OpenSelection::apply(const FileChoices &choices)
 {
     if (choices.columnNames != report.columnNames)
         return;
-    for (Entry &entry : entries)
-        entry.product = 0;
-    // What was chosen and is there goes before what would be fed where it is not.
-    for (const bool isForThere : {false, true}) {
-        for (const ColumnChoice &choice : choices.columns) {
-            const auto place = std::find_if(report.columns.begin(), report.columns.end(),
-                                            [&choice](const SurveyedColumn &any) { return any.key == choice.column; });
-            const int number = stillThere(choice);
-            const bool isThere = choice.product == 0 || number > 0;
-            if (place == report.columns.end() || isThere != isForThere)
-                continue;
-            const int index = int(place - report.columns.begin());
-            setUnit(index, choice.unit);
-            setProduct(index, isThere ? number : place->product);
-        }
+    for (const ColumnChoice &choice : choices.columns) {
+        const auto place = std::find_if(report.columns.begin(), report.columns.end(),
+                                        [&choice](const SurveyedColumn &any) { return any.key == choice.column; });
+        if (place == report.columns.end())
+            continue;
+        const int index = int(place - report.columns.begin());
+        setUnit(index, choice.unit);
+        const int number = stillThere(choice);
+        if (choice.isProductChosen && (choice.product == 0 || number > 0))
+            setProduct(index, number);
     }
 }

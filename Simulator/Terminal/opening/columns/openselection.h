@@ -32,6 +32,7 @@ public:
 
     /// Number from 1 of the product that a column feeds; 0 for none.
     int product(int index) const { return entries.at(index).product; }
+    /// What the operator chooses; a column that fed that product feeds none then.
     void setProduct(int index, int number);
     /// Of the column's rates, as chosen, else as the file says; empty when it is not known.
     QString unit(int index) const;
@@ -48,6 +49,7 @@ public:
     /// The unit that is assumed of such a column.
     QString assumedUnit(int index) const;
     OpenRequest request() const;
+    /// What the operator chose, none of what the program did unasked.
     FileChoices choices() const;
     /// Takes what was chosen before, unless the file's columns are others now. A column whose product is not there any
     /// more feeds what it would unasked.
@@ -57,6 +59,7 @@ private:
     struct Entry {
         int product = 0;
         QString unit;
+        bool isProductChosen = false;
     };
 
     /// Number from 1 of the product that was chosen; 0 where it is not there.

@@ -28,8 +28,10 @@ void TestChoiceMemory::init()
 
 void TestChoiceMemory::choicesOutliveTheProgram()
 {
-    const FileChoices kept{
-        "zones", "Task 1", {"Rate", "Gülle, m3"}, {{"Gülle, m3", 2, "Slurry", "m3/ha"}, {"Rate", 0, {}, {}}}};
+    const FileChoices kept{"zones",
+                           "Task 1",
+                           {"Rate", "Gülle, m3"},
+                           {{"Gülle, m3", true, 2, "Slurry", "m3/ha"}, {"Rate", false, 0, {}, "kg/ha"}}};
     ChoiceMemory(*settings).keep(QStringLiteral("/a.shp"), kept);
     settings.reset(new QSettings(file(), QSettings::IniFormat));
     const std::optional<FileChoices> found = ChoiceMemory(*settings).of(QStringLiteral("/a.shp"));
@@ -39,6 +41,8 @@ void TestChoiceMemory::choicesOutliveTheProgram()
     QCOMPARE(found->columnNames, kept.columnNames);
     QCOMPARE(found->columns.size(), 2);
     QCOMPARE(found->columns.first().column, QStringLiteral("Gülle, m3"));
+    QVERIFY(found->columns.first().isProductChosen);
+    QVERIFY(!found->columns.last().isProductChosen);
     QCOMPARE(found->columns.first().product, 2);
     QCOMPARE(found->columns.first().productName, QStringLiteral("Slurry"));
     QCOMPARE(found->columns.first().unit, QStringLiteral("m3/ha"));

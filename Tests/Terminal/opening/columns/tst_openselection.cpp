@@ -16,6 +16,8 @@ private Q_SLOTS:
     void aUnitThatDoesNotFitIsSaidToBeSo();
     void aChosenUnitGoesWithTheProductItIsNoUnitOf();
     void formerChoicesAreTaken();
+    void onlyWhatTheOperatorTouchedIsKept();
+    void whatTheProgramChoseOnceDoesNotStayChosen();
     void formerChoicesOfOtherColumnsOrProductsAreNot();
     void aFormerProductIsFoundByItsNameElseTheSuggestionStands();
 
@@ -132,6 +134,35 @@ void TestOpenSelection::formerChoicesAreTaken()
     QCOMPARE(again.product(0), 0);
     QCOMPARE(again.product(1), 3);
     QCOMPARE(again.unit(1), QStringLiteral("gal/ac"));
+}
+
+void TestOpenSelection::onlyWhatTheOperatorTouchedIsKept()
+{
+    QVERIFY(selection.choices().columns.isEmpty());
+    selection.setUnit(0, QStringLiteral("t/ha"));
+    selection.setProduct(1, 2); // takes it from the first
+    const QList<ColumnChoice> kept = selection.choices().columns;
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(kept.first().unit, QStringLiteral("t/ha"));
+    QVERIFY(!kept.first().isProductChosen);
+    QVERIFY(kept.last().isProductChosen);
+}
+
+void TestOpenSelection::whatTheProgramChoseOnceDoesNotStayChosen()
+{
+    const FileChoices former = selection.choices();
+    survey.columns[0].product = 0;
+    survey.columns[1].product = 1;
+    OpenSelection again(survey, products);
+    again.apply(former);
+    QCOMPARE(again.product(0), 0);
+    QCOMPARE(again.product(1), 1);
+    again.setProduct(0, 1);
+    OpenSelection third(survey, products);
+    third.apply(again.choices());
+    QCOMPARE(third.product(0), 1);
+    QCOMPARE(third.product(1), 0);
+    QCOMPARE(third.choices().columns.size(), 1);
 }
 
 void TestOpenSelection::formerChoicesOfOtherColumnsOrProductsAreNot()
