@@ -170,6 +170,8 @@ QString checkCheck(const QCommandLineParser &parser)
 /// What says how prescriptions are read needs one.
 QString checkPrescription(const QCommandLineParser &parser)
 {
+    if (parser.positionalArguments().contains(QString()))
+        return QStringLiteral("the name of a prescription is missing");
     if (!parser.positionalArguments().isEmpty())
         return {};
     if (parser.isSet(columnsOption))
@@ -227,6 +229,9 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
         return Result<CommandLine>::failure(reason);
     }
     CommandLine line;
+    line.wantsHelp = parser.isSet(helpOption);
+    if (line.wantsHelp)
+        return {line, {}};
     const QString error = readOptions(parser, line);
     if (!error.isEmpty())
         return Result<CommandLine>::failure(error);
@@ -244,7 +249,6 @@ Result<CommandLine> CommandLine::parse(const QStringList &arguments)
     line.tune = parser.isSet(tuneOption);
     line.check = parser.isSet(checkOption);
     line.json = parser.isSet(jsonOption);
-    line.wantsHelp = parser.isSet(helpOption);
     return {line, {}};
 }
 

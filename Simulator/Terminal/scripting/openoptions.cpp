@@ -70,6 +70,8 @@ QString problem(const QJSValue &options)
 
 Result<OpenRequest> OpenOptions::read(const QString &path, const QJSValue &options)
 {
+    if (path.isEmpty())
+        return Result<OpenRequest>::failure(QStringLiteral("open() needs the name of a file"));
     if (options.isUndefined())
         return {{{path}}, {}};
     const QString reason = problem(options);

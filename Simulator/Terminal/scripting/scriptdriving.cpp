@@ -130,6 +130,10 @@ void ScriptDriving::steer(double curvature)
 
 QJSValue ScriptDriving::replay(const QString &path)
 {
+    if (path.isEmpty()) {
+        fail(QStringLiteral("replay() needs the name of a file"));
+        return {};
+    }
     const auto summary = onGui([&] {
         const std::optional<QPointF> origin = terminal->planeOrigin();
         const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;

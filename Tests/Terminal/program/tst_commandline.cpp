@@ -25,6 +25,7 @@ private Q_SLOTS:
     void columnsAreListedAsInCsv();
     void aTaskIsNotInteractive_data();
     void aTaskIsNotInteractive();
+    void theHelpIsShownWhateverElseIsWanted();
     void theHelpTellsWhatHoldsWithoutAnOption_data();
     void theHelpTellsWhatHoldsWithoutAnOption();
 
@@ -82,6 +83,8 @@ void TestCommandLine::badArgumentsAreRefusedInOneLine_data()
                                      << "--drive does not go with --at";
     QTest::newRow("report of another kind")
         << QStringList{"--drive", "a.pdf", "map.shp"} << "--drive a.pdf: a report is a .json or .html file";
+    QTest::newRow("prescription without a name")
+        << QStringList{"--check", "map.shp", ""} << "the name of a prescription is missing";
     QTest::newRow("value for a switch") << QStringList{"--help=yes"} << "help";
 }
 
@@ -219,6 +222,13 @@ void TestCommandLine::aTaskIsNotInteractive()
     QVERIFY2(line.isOk(), qPrintable(line.error));
     QTEST(line.value.isInteractive(), "isInteractive");
     QVERIFY(!line.value.theme);
+}
+
+void TestCommandLine::theHelpIsShownWhateverElseIsWanted()
+{
+    const Result<CommandLine> line = parse({"--help", "--check"});
+    QVERIFY2(line.isOk(), qPrintable(line.error));
+    QVERIFY(line.value.wantsHelp);
 }
 
 void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption_data()

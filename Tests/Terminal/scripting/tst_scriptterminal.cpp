@@ -257,6 +257,8 @@ void TestScriptTerminal::failuresAreThrownWithTheirReason_data()
     row("no field", "terminal.follow({kind: 'swaths'});", "there is no field to drive");
     row("tight turn", "terminal.steer(1);", "tighter than the machine can turn");
     row("no track", "terminal.replay('/no/such.nmea');", "/no/such.nmea: there is no such file");
+    row("a track without a name", "terminal.replay('');", "replay() needs the name of a file");
+    row("a map without a name", "terminal.open(null);", "open() needs the name of a file");
     row("a track that is none", "terminal.replay(zones);", "holds no position; line 1: is no head");
     row("rates of no product", "terminal.rates(4);", "no product 4");
     row("record nowhere", "terminal.record('/nowhere/a.csv');", "/nowhere/a.csv: No such file or directory");
