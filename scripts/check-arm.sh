@@ -19,7 +19,7 @@ if [[ -z "$folder" ]]; then
 fi
 export RXMAP_SYSROOT="$folder/debian"
 libraries=(qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev libglu1-mesa-dev libgl1-mesa-dev
-    libgl1-mesa-dri libgdal-dev libgeos-dev libboost-dev fonts-liberation)
+    libgl1-mesa-dri libgdal-dev libsqlite3-dev libgeos-dev libboost-dev fonts-liberation)
 
 # Unpacked, not installed: nothing of it runs, so what the maintainers' scripts would choose is chosen here.
 make_debian() {

@@ -5,7 +5,7 @@ packages=(
     g++ cmake ninja-build ccache
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools
     libglu1-mesa-dev libgl1-mesa-dev libgl1-mesa-dri
-    libgdal-dev libgeos-dev libboost-dev
+    libgdal-dev libsqlite3-dev libgeos-dev libboost-dev
     librsvg2-bin help2man fonts-liberation xvfb xauth x11-xkb-utils
 )
 

@@ -718,7 +718,11 @@
     </message>
     <message>
         <source>cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>ist leer</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "prescriptionreader.h"
 
 #include "Backend/backendtext.h"
+#include "databaseinterrupt.h"
 #include "gdalsession.h"
 #include "layerchoice.h"
 #include "prescriptionfile.h"
@@ -44,9 +45,12 @@ bool PrescriptionReader::fail(const QString &text)
 
 bool PrescriptionReader::mayRead(const QString &path)
 {
-    const QStringList archives{QStringLiteral("zip"), QStringLiteral("kmz")};
-    return (PrescriptionFile::endings() + archives).contains(QFileInfo(path).suffix(), Qt::CaseInsensitive)
-        || !TaskDataFolder(path).mainFile().isEmpty();
+    const QFileInfo info(path);
+    if (info.isDir())
+        return !TaskDataFolder(path).mainFile().isEmpty();
+    const QStringList others{QStringLiteral("xml"), QStringLiteral("zip"), QStringLiteral("kmz")};
+    return info.isFile() && info.size() > 0
+        && (PrescriptionFile::endings() + others).contains(info.suffix(), Qt::CaseInsensitive);
 }
 
 bool PrescriptionReader::checkTask()
@@ -63,6 +67,12 @@ bool PrescriptionReader::read(RawPrescription &map)
     PrescriptionFile file(request.path);
     if (!file.open(session))
         return fail(file.error());
+    const DatabaseInterrupt interrupt(file.dataset(), control.cancelled);
+    return readLayer(file, session, map) || (control.isCancelled() && fail(BackendText::tr("loading was cancelled")));
+}
+
+bool PrescriptionReader::readLayer(const PrescriptionFile &file, const GdalSession &session, RawPrescription &map)
+{
     LayerChoice choice(file.dataset(), request, judge);
     OGRLayer *layer = checkTask() ? choice.choose(map) : nullptr;
     // Where there is nothing to read, what GDAL met with says more.

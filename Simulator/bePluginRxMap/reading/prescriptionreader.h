@@ -4,6 +4,7 @@
 #include "rawprescription.h"
 #include "readrequest.h"
 
+class GdalSession;
 class OGRLayer;
 class PrescriptionFile;
 
@@ -13,7 +14,8 @@ class PrescriptionReader {
 public:
     PrescriptionReader(const ReadRequest &request, ColumnJudge judge, const LoadControl &control);
 
-    /// Whether the path may be that of a prescription: a file of that name, or task data.
+    /// Whether the path may be that of a prescription: a file of that name, or a folder of task data. No file is
+    /// opened, since reading may block. Files without a size are none: those of the system have content for all that.
     static bool mayRead(const QString &path);
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
@@ -25,6 +27,7 @@ public:
 private:
     bool fail(const QString &text);
     bool checkTask();
+    bool readLayer(const PrescriptionFile &file, const GdalSession &session, RawPrescription &map);
     static void readReference(OGRLayer &layer, const PrescriptionFile &file, RawPrescription &map);
 
     ReadRequest request;

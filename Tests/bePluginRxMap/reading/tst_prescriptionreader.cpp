@@ -4,7 +4,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <gdal_priv.h>
 #include <sys/stat.h>
+#include <thread>
+
+namespace {
+
+/// Puts a view in place of the file's only layer. False when GDAL cannot.
+bool makeView(const QString &path, const QByteArray &query)
+{
+    CPLErrorReset();
+    const GDALDatasetUniquePtr data(
+        GDALDataset::Open(QFile::encodeName(path).constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+    if (!data)
+        return false;
+    for (const QByteArray &statement :
+         {QByteArray("CREATE VIEW zones AS " + query),
+          QByteArray("INSERT INTO gpkg_contents (table_name, data_type, identifier, srs_id) "
+                     "VALUES ('zones', 'features', 'zones', 4326)"),
+          QByteArray("INSERT INTO gpkg_geometry_columns VALUES ('zones', 'geom', 'POLYGON', 4326, 0, 0)"),
+          QByteArray("DELETE FROM gpkg_geometry_columns WHERE table_name = 'layer'"),
+          QByteArray("DELETE FROM gpkg_contents WHERE table_name = 'layer'")})
+        data->ExecuteSQL(statement.constData(), nullptr, nullptr);
+    return CPLGetLastErrorType() < CE_Failure;
+}
+
+} // namespace
 
 class PrescriptionReaderTest : public ReaderTest {
     Q_OBJECT
@@ -16,7 +41,10 @@ private Q_SLOTS:
     void refusesFilesThatItCannotRead();
     void refusesWhatIsNoPlainFile_data();
     void refusesWhatIsNoPlainFile();
+    void readsNoFileWhoseSizeIsZero();
     void endsWhenItIsCancelled();
+    void aViewWithoutEndEndsWhenItIsCancelled_data();
+    void aViewWithoutEndEndsWhenItIsCancelled();
     void reportsProgress();
 };
 
@@ -80,8 +108,7 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("text") << "a.geojson" << QByteArray("just some text")
                           << "is none of the formats that are read: Shapefile, GeoPackage";
-    QTest::newRow("nothing") << "a.gpkg" << QByteArray()
-                             << "is none of the formats that are read: Shapefile, GeoPackage";
+    QTest::newRow("nothing") << "a.gpkg" << QByteArray() << "is empty";
     QTest::newRow("text called Shapefile") << "a.shp" << QByteArray("just some text") << "is no Shapefile";
     QTest::newRow("cut GeoJSON") << "a.geojson" << QByteArray("{\"type\": \"FeatureCollection\", \"features\": [")
                                  << "";
@@ -136,6 +163,48 @@ void PrescriptionReaderTest::refusesWhatIsNoPlainFile()
     QTEST(error, "reason");
     QVERIFY(!read(QStringLiteral("/dev/null")));
     QCOMPARE(error, QStringLiteral("is no plain file"));
+}
+
+void PrescriptionReaderTest::readsNoFileWhoseSizeIsZero()
+{
+    // The system's own files have content for all that, and some of them no end.
+    QVERIFY(!read(QStringLiteral("/proc/self/status")));
+    QCOMPARE(error, QStringLiteral("is empty"));
+}
+
+void PrescriptionReaderTest::aViewWithoutEndEndsWhenItIsCancelled_data()
+{
+    QTest::addColumn<QByteArray>("view");
+    // The kind of each column is taken from the first record.
+    QTest::newRow("without a record") << QByteArray("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                                                    "SELECT fid, geom, rate FROM n, layer WHERE n.i < 0");
+    QTest::newRow("of endless records") << QByteArray(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+        "SELECT n.i AS fid, geom, rate FROM n, layer WHERE n.i < 2 OR n.i < 0");
+}
+
+void PrescriptionReaderTest::aViewWithoutEndEndsWhenItIsCancelled()
+{
+    QFETCH(QByteArray, view);
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"rate", 1.0}};
+    sketch.rows = {{squareText(11.0, 48.0, 0.001), {1.0}}};
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QVERIFY(makeView(path("a.gpkg"), view));
+    std::atomic<bool> cancelled(false);
+    LoadControl control;
+    control.cancelled = &cancelled;
+    std::thread operatorThread([&cancelled] {
+        QThread::msleep(300);
+        cancelled = true;
+    });
+    PrescriptionReader reader({path("a.gpkg")}, ColumnPolicy::chanceOf, control);
+    QVERIFY(!reader.read(map));
+    const bool wasCancelled = cancelled;
+    operatorThread.join();
+    QVERIFY(wasCancelled);
+    QCOMPARE(reader.error(), QStringLiteral("loading was cancelled"));
 }
 
 void PrescriptionReaderTest::endsWhenItIsCancelled()

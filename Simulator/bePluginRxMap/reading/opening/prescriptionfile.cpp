@@ -60,6 +60,9 @@ bool PrescriptionFile::check()
     // A pipe would be waited on without end.
     if (!info.isFile())
         return fail(BackendText::tr("is no plain file"));
+    // The system's own files, whose size is zero, may be read without end.
+    if (info.size() == 0)
+        return fail(BackendText::tr("is empty"));
     // A reader would take what it cannot open for another format.
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -65,7 +65,9 @@ ZipArchive::ZipArchive(const QString &path)
 bool ZipArchive::isArchive(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    const QFileInfo info(path);
+    // The system's own files, whose size is zero, may be read without end.
+    if (!info.isFile() || info.size() == 0 || !file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray begin = file.read(4);
     return begin == fileSignature || begin == endSignature;

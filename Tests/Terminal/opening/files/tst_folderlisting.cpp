@@ -8,19 +8,21 @@ class TestFolderListing : public TestBase {
 private Q_SLOTS:
     void foldersComeBeforeFilesThatMayBePrescriptions();
     void aFolderWithTaskDataIsOpenedNotEntered();
+    void filesAreJudgedWithoutBeingRead();
     void filesThatAreGoneAreSaidToBe();
 
 private:
-    void touch(const QString &name);
+    void touch(const QString &name, const QByteArray &content = "content");
 
     QTemporaryDir folder;
 };
 
-void TestFolderListing::touch(const QString &name)
+void TestFolderListing::touch(const QString &name, const QByteArray &content)
 {
     QVERIFY(QFileInfo(folder.filePath(name)).dir().mkpath(QStringLiteral(".")));
     QFile file(folder.filePath(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
 }
 
 void TestFolderListing::foldersComeBeforeFilesThatMayBePrescriptions()
@@ -42,6 +44,20 @@ void TestFolderListing::aFolderWithTaskDataIsOpenedNotEntered()
     QCOMPARE(entries.size(), 1);
     QCOMPARE(entries.first().name, QStringLiteral("field"));
     QVERIFY(!entries.first().isFolder);
+}
+
+void TestFolderListing::filesAreJudgedWithoutBeingRead()
+{
+    // What files hold does not count, and an empty one may be one of the system's whose reading never ends.
+    touch(QStringLiteral("judged/archive"), "PK\x03\x04");
+    touch(QStringLiteral("judged/text.zip"), "no archive");
+    touch(QStringLiteral("judged/tasks.xml"), "no task data");
+    touch(QStringLiteral("judged/empty.shp"), {});
+    QStringList names;
+    const QList<FileEntry> entries = FolderListing::of(folder.filePath(QStringLiteral("judged")));
+    for (const FileEntry &entry : entries)
+        names.append(entry.name);
+    QCOMPARE(names, QStringList({"tasks.xml", "text.zip"}));
 }
 
 void TestFolderListing::filesThatAreGoneAreSaidToBe()
