@@ -1,7 +1,9 @@
 #include "fieldview.h"
 #include "machine.h"
+#include "mapoverlay.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
+#include "theme.h"
 
 #include <QAbstractButton>
 #include <QSignalSpy>
@@ -71,7 +73,20 @@ void TestFindingsDisplay::aTouchedFindingIsShownOnTheMap()
     QVERIFY(!find<QWidget>("findingsPage")->isVisible());
     const Camera &camera = terminal().window()->fieldView()->camera();
     QVERIFY(camera.distance() < before);
+    const auto marked = [this] {
+        const QImage image = terminal().window()->overlay()->grab().toImage();
+        int pixels = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                pixels += image.pixelColor(x, y) == Theme::accent() ? 1 : 0;
+        }
+        return pixels;
+    };
+    // A touch on what is marked leaves the mark, one elsewhere takes it away.
     QVERIFY(terminal().touch(camera.target()).startsWith(QStringLiteral("Rx Rate")));
+    const int withMark = marked();
+    terminal().touch(camera.target() + QPointF(5000.0, 0.0));
+    QVERIFY2(marked() < withMark, qPrintable(QString::number(withMark)));
 }
 
 void TestFindingsDisplay::theMapOfATouchedFindingIsShown()

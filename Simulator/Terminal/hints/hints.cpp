@@ -27,6 +27,11 @@ Hints::Hints(TerminalWindow *givenWindow, const PrescriptionBackend *givenBacken
     , card(new HintCard(givenWindow))
 {
     connect(window->guidancePage(), &GuidancePage::touchedShortly, this, &Hints::tellOfLongTouch);
+    connect(window->guidancePage(), &GuidancePage::touched, this, [this](const QString &widgetName) {
+        // Whoever comes back to the button has read what was told of it.
+        if (widgetName == optionsWidget && !isGreeting)
+            card->hide();
+    });
     connect(card, &HintCard::closed, this, [this] {
         if (std::exchange(isGreeting, false))
             settings->setValue(greetedKey, true);

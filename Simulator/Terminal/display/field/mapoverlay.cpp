@@ -81,6 +81,9 @@ void MapOverlay::showBubble(const QPointF &field, const QString &newText, const 
     bubbleAt = field;
     text = newText;
     bubbleColor = color;
+    // Whoever touches the map elsewhere is done with what is marked.
+    if (!mark.contains(field))
+        mark = QRectF();
     pace.request();
 }
 

@@ -116,6 +116,8 @@ void GuidancePage::mousePressEvent(QMouseEvent *event)
 {
     touchedName = nameAt(event->pos());
     touchTime.start();
+    if (!touchedName.isEmpty())
+        Q_EMIT touched(touchedName);
     QGraphicsView::mousePressEvent(event);
 }
 

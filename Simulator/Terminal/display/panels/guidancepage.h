@@ -31,6 +31,8 @@ public:
 Q_SIGNALS:
     /// The page was built and may need another size.
     void rebuilt();
+    /// A finger comes down on a plug-in's widget of that name.
+    void touched(const QString &widgetName);
     /// A finger was on a plug-in's widget of that name, too shortly for a long touch, and nothing opened.
     void touchedShortly(const QString &widgetName);
 
