@@ -42,6 +42,12 @@ QColor ActiveMap::classColor(double rate) const
 QColor ActiveMap::appliedColor(double rate, bool hasSingleRates) const
 {
     constexpr double exactness = 0.01;
+    constexpr double farOff = 0.5;
+    const bool isBeyond = !legend.isEmpty()
+        && (rate > (1.0 + farOff) * legend.last().rate
+            || (hasSingleRates && rate < (1.0 - farOff) * legend.first().rate));
+    if (isBeyond)
+        return unplannedColor();
     if (!hasSingleRates)
         return classColor((1.0 - exactness) * rate);
     const auto isNearer = [rate](const OrvikTypes::RX_RATECOLOR &a, const OrvikTypes::RX_RATECOLOR &b) {

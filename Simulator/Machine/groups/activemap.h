@@ -29,8 +29,11 @@ struct ActiveMap {
 
     /// Colour of a rate as a machine applied it, which comes near the prescribed one without ever meeting it: where
     /// each class holds one single rate that of the nearest, else that of the class that holds all but a hundredth of
-    /// it.
+    /// it; unplannedColor() half or more beyond all of them.
     QColor appliedColor(double rate, bool hasSingleRates) const;
+
+    /// Ground that got what no class stands for; in no legend.
+    static QColor unplannedColor() { return QColor(0x88, 0x88, 0x88); }
 
     /// The first published map with a mapping for that rate channel.
     static ActiveMap find(const DataBroker &broker, const QString &rateCalName);

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aRateBelongsToTheFirstClassThatIsNotBelowIt();
     void anAppliedRateNeedsOnlyComeNear_data();
     void anAppliedRateNeedsOnlyComeNear();
+    void farBelowAllRatesIsUnplanned();
     void withoutALegendThereIsNoColour();
     void whatIsNotDrawnIsNoClass();
     void theMappingOfTheProductIsFound();
@@ -48,7 +49,9 @@ void TestActiveMap::anAppliedRateNeedsOnlyComeNear_data()
     QTest::newRow("a hair above a rate") << 10.0001 << true << QColor(Qt::green);
     QTest::newRow("nearer to the rate below") << 14.9 << true << QColor(Qt::green);
     QTest::newRow("nearer to the rate above") << 15.1 << true << QColor(Qt::blue);
-    QTest::newRow("above all") << 90.0 << true << QColor(Qt::blue);
+    QTest::newRow("a little above all") << 29.9 << true << QColor(Qt::blue);
+    QTest::newRow("far above all") << 30.1 << true << ActiveMap::unplannedColor();
+    QTest::newRow("far above a range") << 30.1 << false << ActiveMap::unplannedColor();
     QTest::newRow("no rate") << qQNaN() << true << QColor();
     QTest::newRow("no rate in a range") << qQNaN() << false << QColor();
 }
@@ -60,6 +63,16 @@ void TestActiveMap::anAppliedRateNeedsOnlyComeNear()
     ActiveMap map;
     map.legend = {{0.0, Qt::red}, {10.0, Qt::green}, {20.0, Qt::blue}};
     QTEST(map.appliedColor(rate, hasSingleRates), "color");
+}
+
+void TestActiveMap::farBelowAllRatesIsUnplanned()
+{
+    ActiveMap map;
+    map.legend = {{49.0, Qt::red}, {60.0, Qt::blue}};
+    QCOMPARE(map.appliedColor(2.0, true), ActiveMap::unplannedColor());
+    QCOMPARE(map.appliedColor(45.0, true), QColor(Qt::red));
+    // A range begins anywhere.
+    QCOMPARE(map.appliedColor(2.0, false), QColor(Qt::red));
 }
 
 void TestActiveMap::withoutALegendThereIsNoColour()

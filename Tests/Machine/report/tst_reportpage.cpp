@@ -165,16 +165,19 @@ void TestReportPage::whatIsAppliedWithoutARateHasAColourOfItsOwn()
     const QImage applied = picture(1);
     const QColor own(0x88, 0x88, 0x88);
     int outside = 0;
+    int inside = 0;
     for (int row = 0; row < applied.height(); ++row) {
         for (int column = 0; column < applied.width(); ++column) {
             const bool isOutside = prescribed.pixelColor(column, row).alpha() == 0;
             if (applied.pixelColor(column, row).alpha() == 0)
                 continue;
-            QCOMPARE(applied.pixelColor(column, row) == own, isOutside);
-            outside += isOutside ? 1 : 0;
+            QVERIFY(!isOutside || applied.pixelColor(column, row) == own);
+            (isOutside ? outside : inside) += applied.pixelColor(column, row) == own ? 1 : 0;
         }
     }
     QVERIFY(outside > 0);
+    // At its start the machine puts out next to nothing.
+    QVERIFY2(inside < 0.01 * applied.width() * applied.height(), qPrintable(QString::number(inside)));
     // The table of classes is the legend.
     const int swatch = page.indexOf("background:" + own.name().toLatin1());
     QVERIFY(swatch > 0);

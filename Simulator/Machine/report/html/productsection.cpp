@@ -18,8 +18,6 @@
 
 namespace {
 
-/// Ground that was worked where no rate is prescribed; in no legend.
-const QColor withoutRate(0x88, 0x88, 0x88);
 const QString dash = QStringLiteral(" \u2013 ");
 
 void writeCells(QXmlStreamWriter &page, const char *kind, const QStringList &cells)
@@ -107,7 +105,8 @@ void ProductSection::writePictures(QXmlStreamWriter &page) const
     writePicture(page, tr("Applied"), [this](int column, int row) {
         const double applied = double(field.raster->applied(number, column, row));
         const bool isPrescribed = !std::isnan(field.raster->prescribed(number, column, row));
-        return isPrescribed || std::isnan(applied) ? map.appliedColor(applied, hasSingleRates) : withoutRate;
+        return isPrescribed || std::isnan(applied) ? map.appliedColor(applied, hasSingleRates)
+                                                   : ActiveMap::unplannedColor();
     });
     page.writeEndElement();
     const double width = units.length(field.raster->size().width() * field.raster->cellSize());
@@ -168,7 +167,7 @@ void ProductSection::writeClasses(QXmlStreamWriter &page) const
             writeClass(page, className(int(i)), map.legend.at(int(i)).color, classes[i]);
     }
     if (tally.unprescribed.area > 0.0)
-        writeClass(page, tr("No rate prescribed"), withoutRate, tally.unprescribed);
+        writeClass(page, tr("No rate prescribed"), ActiveMap::unplannedColor(), tally.unprescribed);
     writeClass(page, tr("Total"), {}, total, true);
     endTable(page);
 }

@@ -38,6 +38,9 @@ void TestWorkedGround::init()
     bench.reset(new MachineBench(products));
     QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
     bench->set(1, 0, false, false);
+    // The rate is there before the ground is looked at: what a machine puts out at its start is far from any class.
+    bench->place({-95, 0}, 90.0, 2.0);
+    bench->simulation.run(1.0);
     ground.reset(new WorkedGround(&bench->simulation));
 }
 
@@ -59,8 +62,7 @@ void TestWorkedGround::aStraightDriveAtOneRateIsOneStrip()
         QVERIFY(qAbs(strip.corners[i].x - corners[i][0]) < 1e-4F);
         QVERIFY(qAbs(strip.corners[i].y - corners[i][1]) < 1e-4F);
     }
-    // Before the first of a hundred steps the machine stood, and nothing was commanded.
-    QVERIFY(qAbs(ground->rate(0, 1) - 49.5) < 0.01);
+    QVERIFY(qAbs(ground->rate(0, 1) - 50.0) < 0.01);
 }
 
 void TestWorkedGround::aNewClassAndATurnBeginStrips()

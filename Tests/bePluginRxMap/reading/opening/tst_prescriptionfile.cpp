@@ -56,15 +56,15 @@ QByteArray rollbackJournal(const QByteArray &before)
 {
     const int pageSize = (quint8(before.at(16)) << 8) + quint8(before.at(17));
     const int pages = before.size() / pageSize;
-    QByteArray journal = QByteArray::fromHex("d9d505f920a163d7") + bigEndian(pages) + bigEndian(0) + bigEndian(pages)
-        + bigEndian(512) + bigEndian(pageSize);
+    QByteArray journal = QByteArray::fromHex("d9d505f920a163d7") + bigEndian(quint32(pages)) + bigEndian(0)
+        + bigEndian(quint32(pages)) + bigEndian(512) + bigEndian(quint32(pageSize));
     journal.append(QByteArray(512 - journal.size(), '\0'));
     for (int page = 0; page < pages; ++page) {
         const QByteArray content = before.mid(page * pageSize, pageSize);
         quint32 sum = 0;
         for (int i = pageSize - 200; i > 0; i -= 200)
             sum += quint8(content.at(i));
-        journal += bigEndian(page + 1) + content + bigEndian(sum);
+        journal += bigEndian(quint32(page + 1)) + content + bigEndian(sum);
     }
     return journal;
 }
