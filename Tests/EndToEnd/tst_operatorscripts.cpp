@@ -19,6 +19,7 @@ private Q_SLOTS:
     void masterAndShutoffAreSeenInTheRates();
     void theFieldIsDrivenByTouch();
     void aFileIsOpenedThroughTheWindow();
+    void whatTheWindowTookForGrantedIsOnStandardError();
 
 private:
     /// Runs a script that uses check(condition, text); everything it complains of fails the test.
@@ -150,6 +151,18 @@ check(terminal.touchMap(-100, 0).includes("135.06"), terminal.touchMap(-100, 0))
 print("finished");
 )js"),
                {QStringLiteral("--open"), sourcePath("Tests/fixtures/three-zones.geojson")});
+}
+
+void TestOperatorScripts::whatTheWindowTookForGrantedIsOnStandardError()
+{
+    const SimulatorRun run =
+        runOperatorScript(QStringLiteral(R"js(
+for (const name of ["openAccept", "choice0"]) terminal.find(name).touch();
+for (let i = 0; i < 400 && terminal.groups("rxMap.*").length === 0; ++i) terminal.wait(25);
+)js"),
+                          {QStringLiteral("--open"), sourcePath("Tests/fixtures/two-strips.geojson")});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.errors.contains("two-strips.geojson: ") && run.errors.contains("is a guess"), qPrintable(run.errors));
 }
 
 RXMAP_TEST(TestOperatorScripts, Widgets)

@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 /// The ways to the open window of a whole terminal.
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void aFileThatReplacesAllBringsItsProducts();
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
+    void aFieldFarFromTheOtherIsToldBeforeAndAfter();
     void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
@@ -54,14 +56,14 @@ private:
     }
     void openByTouch(const char *fixture) { openByTouch(TerminalHost::fixture(QLatin1String(fixture))); }
     /// A prescription with these columns.
-    QString write(const char *name, const QList<LayerField> &fields)
+    QString write(const char *name, const QList<LayerField> &fields, double longitude = 10.0)
     {
         LayerSketch sketch;
         sketch.fields = fields;
         QList<QVariant> rates;
         for (int i = 0; i < fields.size(); ++i)
             rates.append(100.0 + i);
-        sketch.rows = {{squareText(10, 50, 0.001), rates}};
+        sketch.rows = {{squareText(longitude, 50, 0.001), rates}};
         const QString path = folder.filePath(QLatin1String(name) + QStringLiteral(".shp"));
         return sketch.write(path) ? path : QString();
     }
@@ -276,6 +278,29 @@ void TestFileOpening::filesWantedTogetherShareTheProducts()
     QTRY_VERIFY(button("openAccept") != nullptr);
     QCOMPARE(button("columnRow0Product")->text(), QStringLiteral("Seed"));
     QCOMPARE(productNames().first(), QStringLiteral("Urea"));
+}
+
+void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
+{
+    QSignalSpy opened(terminal().openWindow(), &OpenWindow::opened);
+    openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
+    Q_EMIT terminal().window()->dropped({write("beside", {{"SEED_K_HA", 1.0}}, 10.01)}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QVERIFY2(!remark().contains(QStringLiteral("Lies")), qPrintable(remark()));
+    terminal().openWindow()->leave();
+    Q_EMIT terminal().window()->dropped({write("far", {{"SEED_K_HA", 1.0}}, 38.0)}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QVERIFY2(remark().contains(QStringLiteral("Lies 1,989 km from both.shp")), qPrintable(remark()));
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(opened.size(), 2);
+    const QStringList warnings = opened.last().first().value<LoadReport>().warnings;
+    QVERIFY2(!warnings.filter(QStringLiteral("lies 1989 km")).isEmpty(), qPrintable(warnings.join('\n')));
+    QTRY_VERIFY(button("findingsButton") != nullptr);
+    const auto *finding = terminal().window()->findChild<QAbstractButton *>(QStringLiteral("finding0"));
+    QCOMPARE(finding->text(), QStringLiteral("lies 1,989 km from both.shp, which feeds products, too"));
+    QVERIFY(terminal().close(terminal().backend()->maps().first().group));
+    QVERIFY(button("findingsButton") == nullptr);
 }
 
 void TestFileOpening::whatWasGuessedIsToldAfterwards()

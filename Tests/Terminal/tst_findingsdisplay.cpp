@@ -1,4 +1,5 @@
 #include "fieldview.h"
+#include "layerwriter.h"
 #include "machine.h"
 #include "mapoverlay.h"
 #include "terminaltest.h"
@@ -6,7 +7,9 @@
 #include "theme.h"
 
 #include <QAbstractButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 /// What the map check finds, as the operator comes to see it.
 class TestFindingsDisplay : public TerminalTest {
@@ -19,6 +22,8 @@ private Q_SLOTS:
     void aTouchedFindingIsShownOnTheMap();
     void theMapOfATouchedFindingIsShown();
     void whatLiesNowhereCannotBeTouched();
+    void areasAreWrittenAsTheDisplayDoes_data();
+    void areasAreWrittenAsTheDisplayDoes();
 
 private:
     QAbstractButton *button(const char *name) { return find<QAbstractButton>(name); }
@@ -109,6 +114,35 @@ void TestFindingsDisplay::whatLiesNowhereCannotBeTouched()
     QVERIFY(!button("finding0")->isEnabled());
     button("findingsClose")->click();
     QVERIFY(!find<QWidget>("findingsPage")->isVisible());
+}
+
+void TestFindingsDisplay::areasAreWrittenAsTheDisplayDoes_data()
+{
+    QTest::addColumn<int>("units");
+    QTest::addColumn<double>("overlap");
+    QTest::addColumn<QString>("area");
+    QTest::newRow("large") << int(UnitSystem::Metric) << 0.0005 << " on 0\\.40 ha$";
+    QTest::newRow("large, in acres") << int(UnitSystem::Us) << 0.0005 << " on 0\\.9[89] ac$";
+    QTest::newRow("small") << int(UnitSystem::Us) << 0.0001 << QStringLiteral(" on 79[0-9]\\.[0-9] m\u00b2$");
+}
+
+void TestFindingsDisplay::areasAreWrittenAsTheDisplayDoes()
+{
+    QFETCH(int, units);
+    QFETCH(double, overlap);
+    QFETCH(QString, area);
+    host.reset();
+    host.reset(new TerminalHost(UnitSystem(units)));
+    LayerSketch sketch;
+    sketch.fields = {{"rate_kg_ha", 1.0}};
+    sketch.rows = {{squareText(10, 50, 0.001), {50.0}}, {squareText(10.001 - overlap, 50, 0.001), {60.0}}};
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("two.shp"));
+    QVERIFY(sketch.write(path));
+    QVERIFY(terminal().open({{path}}).first().isOk());
+    QTRY_VERIFY(button("finding0") != nullptr);
+    const QString text = button("finding0")->text();
+    QVERIFY2(QRegularExpression(area).match(text).hasMatch(), qPrintable(text));
 }
 
 RXMAP_TEST(TestFindingsDisplay, Widgets)

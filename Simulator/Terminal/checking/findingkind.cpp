@@ -44,6 +44,8 @@ Words wordsOf(MapFinding::Kind kind)
         return {"looseHole", QT_TRANSLATE_NOOP("FindingKind", "Hole without a polygon")};
     case MapFinding::Kind::Narrow:
         return {"narrow", QT_TRANSLATE_NOOP("FindingKind", "Narrower than the machine")};
+    case MapFinding::Kind::FarAway:
+        return {"farAway", QT_TRANSLATE_NOOP("FindingKind", "Another field")};
     }
     return {"", ""};
 }

@@ -12,8 +12,10 @@
 #include "vehicle.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -72,15 +74,20 @@ void FindingsDisplay::update()
     const QList<LoadReport> maps = backend->maps();
     const auto isUsed = [this](const LoadReport &map) { return !machine->columnsOf(map.group).isEmpty(); };
     const bool areSeveral = std::count_if(maps.begin(), maps.end(), isUsed) > 1;
+    QList<LoadReport> before;
     for (const LoadReport &map : maps) {
         const QString file = areSeveral ? QFileInfo(map.path).fileName() : QString();
-        if (!known.contains(map.group))
-            continue;
-        findings.insert(map.group, known.value(map.group));
+        if (known.contains(map.group))
+            findings.insert(map.group, known.value(map.group));
         if (!isUsed(map))
             continue;
-        for (const MapFinding &finding : known.value(map.group))
+        if (const std::optional<MapFinding> distance = distanceFrom(before, map))
+            entries.append({file, map.group, *distance});
+        before.append(map);
+        for (MapFinding finding : known.value(map.group)) {
+            finding.text = shownText(finding);
             entries.append({file, map.group, finding});
+        }
     }
     window->overlay()->setMark({}, {});
     button->setText(ShownNumber::text(entries.size()));
@@ -89,6 +96,43 @@ void FindingsDisplay::update()
     page->setEntries(entries);
     if (entries.isEmpty())
         page->hide();
+}
+
+std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> &others, const LoadReport &map)
+{
+    const LoadReport *nearest = nullptr;
+    double distance = HUGE_VAL;
+    for (const LoadReport &other : others) {
+        const double away = PrescriptionBackend::distanceBetween(other.origin, map.origin);
+        if (away < distance)
+            nearest = &other;
+        distance = std::min(distance, away);
+    }
+    // Maps of one origin share a plane.
+    if (nearest == nullptr || nearest->origin == map.origin)
+        return {};
+    MapFinding finding;
+    finding.kind = MapFinding::Kind::FarAway;
+    finding.text = tr("lies %1 km from %2, which feeds products, too")
+                       .arg(ShownNumber::text(distance / 1000.0), QFileInfo(nearest->path).fileName());
+    finding.extent = map.bounds;
+    finding.place = map.bounds.center();
+    return finding;
+}
+
+QString FindingsDisplay::shownText(const MapFinding &finding) const
+{
+    constexpr double hectare = 10000.0;
+    constexpr double acre = 4046.8564224;
+    if (!finding.area)
+        return finding.text;
+    const bool isMetric = machine->unitSystem() == UnitSystem::Metric;
+    QString area = ShownNumber::text(*finding.area, *finding.area < 10.0 ? 2 : 1) + QStringLiteral(" m\u00b2");
+    if (*finding.area >= 0.1 * hectare)
+        area = ShownNumber::text(*finding.area / (isMetric ? hectare : acre), 2)
+            + (isMetric ? QStringLiteral(" ha") : QStringLiteral(" ac"));
+    static const QRegularExpression written(QStringLiteral("[0-9]+([.,][0-9]+)? m2\\b"));
+    return QString(finding.text).replace(written, area);
 }
 
 void FindingsDisplay::toggle()

@@ -263,6 +263,7 @@ void OpenWindow::finish(const LoadReport &report)
         recent.add(selection.survey().path);
         memory.keep(selection.survey().path, selection.choices());
         together.append(report.group);
+        Q_EMIT opened(report);
         showNext();
     } else if (isGivenUp) {
         if (isVisible())

@@ -49,6 +49,8 @@ public:
 Q_SIGNALS:
     /// The operator wants this loaded; finish() is to follow.
     void wanted(const OpenRequest &request);
+    /// What was wanted is loaded.
+    void opened(const LoadReport &report);
     /// The operator wants this map closed.
     void closeWanted(const QString &group);
     /// It was shown or hidden.

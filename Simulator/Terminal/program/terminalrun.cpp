@@ -100,14 +100,19 @@ void printFeeds(const Terminal &terminal, const LoadReport &report)
         writeOutputLine(QStringLiteral("%1: feeds no product").arg(report.path));
 }
 
+void tellWarnings(const LoadReport &report)
+{
+    for (const QString &warning : report.warnings)
+        writeErrorLine(warning);
+}
+
 QString openAll(Terminal &terminal, const QStringList &paths, const CommandLine &line)
 {
     const QList<LoadReport> reports = terminal.open({paths, line.columns, line.sourceUnits, line.layer, line.task});
     for (const LoadReport &report : reports) {
         if (!report.isOk())
             return report.error;
-        for (const QString &warning : report.warnings)
-            writeErrorLine(warning);
+        tellWarnings(report);
     }
     for (const LoadReport &report : reports) {
         if (!report.group.isEmpty())
@@ -221,6 +226,7 @@ QString runTerminal(const CommandLine &line, double scale)
 
     Terminal terminal(setup, line.units);
     tell(terminal.remembered()->complaint());
+    QObject::connect(terminal.openWindow(), &OpenWindow::opened, tellWarnings);
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();
     // No time passes but what is driven: each drive begins at the same moment.

@@ -320,6 +320,10 @@
         <source>Narrower than the machine</source>
         <translation>Schmaler als die Maschine</translation>
     </message>
+    <message>
+        <source>Another field</source>
+        <translation>Ein anderes Feld</translation>
+    </message>
 </context>
 <context>
     <name>FindingsDisplay</name>
@@ -330,6 +334,10 @@
     <message>
         <source>Map check: %1</source>
         <translation>Kartenprüfung: %1</translation>
+    </message>
+    <message>
+        <source>lies %1 km from %2, which feeds products, too</source>
+        <translation>liegt %1 km von %2, das auch Produkte speist</translation>
     </message>
 </context>
 <context>
@@ -638,6 +646,10 @@
     <message>
         <source>Takes %1 over from %2</source>
         <translation>Übernimmt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Lies %1 km from %2</source>
+        <translation>Liegt %1 km von %2</translation>
     </message>
 </context>
 <context>

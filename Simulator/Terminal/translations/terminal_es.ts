@@ -320,6 +320,10 @@
         <source>Narrower than the machine</source>
         <translation>Más estrecho que la máquina</translation>
     </message>
+    <message>
+        <source>Another field</source>
+        <translation>Otro campo</translation>
+    </message>
 </context>
 <context>
     <name>FindingsDisplay</name>
@@ -330,6 +334,10 @@
     <message>
         <source>Map check: %1</source>
         <translation>Control del mapa: %1</translation>
+    </message>
+    <message>
+        <source>lies %1 km from %2, which feeds products, too</source>
+        <translation>está a %1 km de %2, que también alimenta productos</translation>
     </message>
 </context>
 <context>
@@ -638,6 +646,10 @@
     <message>
         <source>Takes %1 over from %2</source>
         <translation>Toma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Lies %1 km from %2</source>
+        <translation>Está a %1 km de %2</translation>
     </message>
 </context>
 <context>

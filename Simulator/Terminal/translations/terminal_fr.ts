@@ -320,6 +320,10 @@
         <source>Narrower than the machine</source>
         <translation>Plus étroit que la machine</translation>
     </message>
+    <message>
+        <source>Another field</source>
+        <translation>Un autre champ</translation>
+    </message>
 </context>
 <context>
     <name>FindingsDisplay</name>
@@ -330,6 +334,10 @@
     <message>
         <source>Map check: %1</source>
         <translation>Contrôle de la carte : %1</translation>
+    </message>
+    <message>
+        <source>lies %1 km from %2, which feeds products, too</source>
+        <translation>se trouve à %1 km de %2, qui alimente aussi des produits</translation>
     </message>
 </context>
 <context>
@@ -638,6 +646,10 @@
     <message>
         <source>Takes %1 over from %2</source>
         <translation>Reprend %1 de %2</translation>
+    </message>
+    <message>
+        <source>Lies %1 km from %2</source>
+        <translation>Se trouve à %1 km de %2</translation>
     </message>
 </context>
 <context>

@@ -320,6 +320,10 @@
         <source>Narrower than the machine</source>
         <translation>Mais estreito que a máquina</translation>
     </message>
+    <message>
+        <source>Another field</source>
+        <translation>Outro talhão</translation>
+    </message>
 </context>
 <context>
     <name>FindingsDisplay</name>
@@ -330,6 +334,10 @@
     <message>
         <source>Map check: %1</source>
         <translation>Verificação do mapa: %1</translation>
+    </message>
+    <message>
+        <source>lies %1 km from %2, which feeds products, too</source>
+        <translation>fica a %1 km de %2, que também alimenta produtos</translation>
     </message>
 </context>
 <context>
@@ -638,6 +646,10 @@
     <message>
         <source>Takes %1 over from %2</source>
         <translation>Assume %1 de %2</translation>
+    </message>
+    <message>
+        <source>Lies %1 km from %2</source>
+        <translation>Fica a %1 km de %2</translation>
     </message>
 </context>
 <context>

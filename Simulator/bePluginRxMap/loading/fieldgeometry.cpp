@@ -80,9 +80,13 @@ LocalPlane FieldGeometry::planeFor(const GeographicExtent &extent, const std::ve
     });
     if (near != planes.end())
         return *near;
-    if (!planes.empty())
+    if (!planes.empty()) {
+        double distance = HUGE_VAL; // to the nearest
+        for (const LocalPlane &plane : planes)
+            distance = std::min(distance, plane.distanceTo(longitude, latitude));
         findings.remark(BackendText::tr("lies %1 km from what is loaded and gets a plane of its own")
-                            .arg(planes.front().distanceTo(longitude, latitude) / 1000.0, 0, 'f', 0));
+                            .arg(distance / 1000.0, 0, 'f', 0));
+    }
     return LocalPlane(longitude, latitude);
 }
 

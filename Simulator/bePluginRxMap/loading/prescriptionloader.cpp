@@ -86,6 +86,7 @@ SurveyReport PrescriptionLoader::survey()
     survey.layers = map.report.layers;
     survey.task = map.report.task;
     survey.tasks = map.report.tasks;
+    survey.origin = map.report.origin;
     return survey;
 }
 

@@ -3,6 +3,7 @@
 #include "Backend/backendtext.h"
 #include "columnpolicy.h"
 #include "filesurvey.h"
+#include "localplane.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionloader.h"
 #include "prescriptionreader.h"
@@ -109,6 +110,11 @@ double PrescriptionBackend::rateFactor(const QString &unit, DbGroupProductGroupI
 {
     const RateUnit rateUnit = RateUnit::fromText(unit).of(kind);
     return rateUnit.isKnown() && rateUnit.fits(kind) ? rateUnit.factorTo(kind) : 0.0;
+}
+
+double PrescriptionBackend::distanceBetween(const QPointF &origin, const QPointF &other)
+{
+    return LocalPlane(origin.x(), origin.y()).distanceTo(other.x(), other.y());
 }
 
 LoadReport PrescriptionBackend::check(const LoadRequest &request, double machineWidth)

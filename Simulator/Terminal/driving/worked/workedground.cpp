@@ -29,7 +29,10 @@ WorkedGround::WorkedGround(Simulation *givenSimulation, QObject *parent)
     connect(simulation, &Simulation::stepped, this, &WorkedGround::take);
     connect(simulation->machine(), &Machine::mapsChanged, this, &WorkedGround::findLegends);
     connect(simulation->machine(), &Machine::productsChanged, this, &WorkedGround::forget);
-    connect(simulation->machine(), &Machine::activeProductChanged, this, [this] { firstChanged = oldest(); });
+    connect(simulation->machine(), &Machine::activeProductChanged, this, [this] {
+        firstChanged = oldest();
+        findPlane();
+    });
     findLegends();
 }
 
@@ -39,6 +42,7 @@ void WorkedGround::forget()
     next = 0;
     strips.clear();
     rates.clear();
+    planeOf.clear();
     findLegends();
 }
 
@@ -57,6 +61,26 @@ void WorkedGround::findLegends()
     }
     firstChanged = oldest();
     isOpen = false;
+    findPlane();
+}
+
+void WorkedGround::findPlane()
+{
+    const int before = plane;
+    const int product = simulation->machine()->activeProduct();
+    const QString group = product <= int(legends.size()) ? legends[size_t(product - 1)].map.groupName : QString();
+    const QList<LoadReport> maps = simulation->machine()->backend()->maps();
+    const auto shown =
+        std::find_if(maps.begin(), maps.end(), [&group](const LoadReport &map) { return map.group == group; });
+    // Without its map the product is driven on the plane that is there.
+    if (shown == maps.end())
+        return;
+    plane = planes.indexOf(shown->origin);
+    if (plane < 0) {
+        plane = planes.size();
+        planes.append(shown->origin);
+    }
+    isOpen = isOpen && plane == before;
 }
 
 QColor WorkedGround::appliedColor(int product, double rate) const
@@ -104,7 +128,9 @@ void WorkedGround::begin()
     if (place == strips.size()) {
         strips.push_back(strip);
         rates.resize(rates.size() + products);
+        planeOf.push_back(plane);
     }
+    planeOf[place] = plane;
     strips[place] = strip;
     std::fill_n(rates.begin() + std::ptrdiff_t(place * products), products, 0.0F);
 }
@@ -136,6 +162,9 @@ double WorkedGround::rate(qint64 number, int product) const
 
 QColor WorkedGround::color(qint64 number) const
 {
+    const int where = planeOf[size_t(slot(number))];
+    if (where >= 0 && where != plane)
+        return {};
     const int product = simulation->machine()->activeProduct();
     return appliedColor(product, rate(number, product));
 }

@@ -42,7 +42,8 @@ public:
     const Strip &strip(qint64 number) const { return strips[size_t(slot(number))]; }
     /// Mean rate of a product (by number from 1) over a strip, base units.
     double rate(qint64 number, int product) const;
-    /// The colour of the active product's applied rate in its legend; invalid without one.
+    /// The colour of the active product's applied rate in its legend; invalid without one, and where the strip lies on
+    /// another plane than the product's map.
     QColor color(qint64 number) const;
     /// Number of the first strip that looks different since this was asked last; end() when none does.
     qint64 takeChanges();
@@ -51,6 +52,8 @@ private:
     void take();
     void forget();
     void findLegends();
+    /// Enters which plane is shown.
+    void findPlane();
     /// The legend's colours of the rates that are applied, by product.
     std::vector<QColor> colorsNow() const;
     QColor appliedColor(int product, double rate) const;
@@ -61,6 +64,12 @@ private:
     std::vector<Strip> strips;
     /// Of each slot, by product.
     std::vector<float> rates;
+    /// Of each slot, place in `planes`.
+    std::vector<int> planeOf;
+    /// Origins of the planes that were shown, degrees of longitude and latitude.
+    QVector<QPointF> planes;
+    /// Place in `planes`; -1 where no map says it.
+    int plane = -1;
     qint64 next = 0;
     qint64 firstChanged = 0;
     struct Legend {

@@ -184,6 +184,10 @@ QStringList PreviewPage::replacements() const
             remarks.append(tr("Replaces %1").arg(file.fileName()));
         else if (!products.isEmpty())
             remarks.append(tr("Takes %1 over from %2").arg(products.join(QStringLiteral(", ")), file.fileName()));
+        // Maps of one origin share a plane.
+        const double distance = PrescriptionBackend::distanceBetween(other.origin, selection->survey().origin);
+        if (!isReplaced && other.origin != selection->survey().origin)
+            remarks.append(tr("Lies %1 km from %2").arg(ShownNumber::text(distance / 1000.0), file.fileName()));
     }
     return remarks;
 }

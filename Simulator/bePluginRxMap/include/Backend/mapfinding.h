@@ -26,7 +26,9 @@ struct MapFinding {
         Duplicate,
         StrayPolygon,
         LooseHole,
-        Narrow
+        Narrow,
+        /// Of maps that are loaded together; no file tells it alone.
+        FarAway
     };
 
     /// So many records are named one by one at most; the text tells how many there are.

@@ -53,6 +53,8 @@ public:
     static QString baseUnit(DbGroupProductGroupInfo::RateKind kind);
     /// Takes rates in that unit ("lb/ac") to the base unit of the kind; 0 where it is no unit of such rates.
     static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
+    /// From one plane's origin to another's (LoadReport::origin) over the earth, metres.
+    static double distanceBetween(const QPointF &origin, const QPointF &other);
 
     /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
     /// report's findings are those of the load and those of the check.

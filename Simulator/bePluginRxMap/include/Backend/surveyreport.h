@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QMetaType>
+#include <QPointF>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -63,6 +64,8 @@ struct SurveyReport {
     QList<ColumnProduct> columnProducts;
     /// Why no product can be fed unasked, in one line that names the file; empty when one can.
     QString lackOfFeeds;
+    /// As in LoadReport, of the plane that a load would take.
+    QPointF origin;
     int polygons = 0;
     /// For each polygon its record.
     QVector<int> records;

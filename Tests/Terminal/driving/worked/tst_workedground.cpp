@@ -1,5 +1,6 @@
 #include "activemap.h"
 #include "fielddrive.h"
+#include "layerwriter.h"
 #include "machinebench.h"
 #include "testbase.h"
 #include "vehicle.h"
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void aLiftedImplementLeavesNoStrip();
     void aStripHasTheColourOfWhatWasApplied();
     void aRateThatIsNearlyReachedHasItsClass();
+    void theGroundOfOneFieldIsNotDrawnOverAnother();
     void changesAreToldOnce();
     void theOldestStripsMakeRoom();
 
@@ -163,6 +165,27 @@ void TestWorkedGround::aRateThatIsNearlyReachedHasItsClass()
     QVERIFY(slow.simulation.rates(1).applied > 50.0);
     const ActiveMap legend = ActiveMap::find(slow.broker, Machine::productGroupName(1));
     QCOMPARE(worked.color(worked.end() - 1), legend.classColor(50.0));
+}
+
+void TestWorkedGround::theGroundOfOneFieldIsNotDrawnOverAnother()
+{
+    LayerSketch sketch;
+    sketch.fields = {{"rate_kg_ha", 1.0}};
+    sketch.rows = {{squareText(38, 50, 0.01), {70.0}}};
+    const QTemporaryDir folder;
+    const QString far = folder.filePath(QStringLiteral("far.shp"));
+    QVERIFY(sketch.write(far) && bench->load(far, {QString(), QStringLiteral("rate_kg_ha")}).isOk());
+    bench->set(2, 0, false, false);
+    bench->place({-50, 0}, 90.0, 2.0);
+    bench->simulation.run(10.0);
+    QVERIFY(ground->color(0).isValid());
+    bench->machine.setActiveProduct(2);
+    QVERIFY(!ground->color(0).isValid());
+    bench->simulation.run(1.0);
+    QVERIFY(ground->color(ground->end() - 1).isValid());
+    bench->machine.setActiveProduct(1);
+    QVERIFY(ground->color(0).isValid());
+    QVERIFY(!ground->color(ground->end() - 1).isValid());
 }
 
 void TestWorkedGround::changesAreToldOnce()
