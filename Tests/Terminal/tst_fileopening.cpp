@@ -125,7 +125,9 @@ void TestFileOpening::openFilesAreListedAndClosedByTouch()
     const QPointF inTheZones(-100, 0);
     button("openButton")->click();
     QVERIFY(button("fileClose0") == nullptr);
+    QCOMPARE(button("openCancel")->text(), QStringLiteral("Cancel"));
     button("placeOpen")->click();
+    QCOMPARE(button("openCancel")->text(), QStringLiteral("Done"));
     QCOMPARE(button("fileRow0")->text(), QStringLiteral("three-zones.geojson"));
     QVERIFY(paintedTexts(*button("fileRow0")).contains(QStringLiteral("feeds Fertiliser, Herbicide")));
     QVERIFY(paintedTexts(*button("fileRow1")).contains(QStringLiteral("feeds Seed")));

@@ -253,6 +253,10 @@
         <source>Close %1</source>
         <translation>%1 schließen</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>

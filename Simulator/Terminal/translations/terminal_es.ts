@@ -253,6 +253,10 @@
         <source>Close %1</source>
         <translation>Cerrar %1</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>

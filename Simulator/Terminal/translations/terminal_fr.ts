@@ -253,6 +253,10 @@
         <source>Close %1</source>
         <translation>Fermer %1</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>

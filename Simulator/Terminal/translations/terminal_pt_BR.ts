@@ -253,6 +253,10 @@
         <source>Close %1</source>
         <translation>Fechar %1</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>

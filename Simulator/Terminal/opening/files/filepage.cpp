@@ -34,13 +34,13 @@ bool isRemovable(const QStorageInfo &volume)
 FilePage::FilePage(QWidget *parent)
     : QWidget(parent)
     , title(new Caption(titlePixels, true, this))
+    , close(new TouchButton(QString(), this))
     , emptyText(new QLabel(this))
     , pages(new Pager(Qt::Vertical, this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Theme::margin, Theme::margin, Theme::margin, Theme::margin);
     auto *head = new QHBoxLayout;
-    auto *close = new TouchButton(tr("Cancel"), this);
     close->setObjectName(QStringLiteral("openCancel"));
     close->setFixedSize(closeWidth, Theme::touchTarget);
     close->setFocusPolicy(Qt::TabFocus);
@@ -167,6 +167,8 @@ void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, 
 {
     title->setText(heading);
     entries = newEntries;
+    // What was closed stays closed.
+    close->setText(shown == Place::Open ? tr("Done") : tr("Cancel"));
     recent->setChecked(shown == Place::Recent);
     open->setChecked(shown == Place::Open);
     up->setEnabled(!folder.isEmpty() && !QDir(folder).isRoot());

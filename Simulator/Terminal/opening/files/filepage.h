@@ -49,6 +49,7 @@ private:
     void choose(const FileEntry &entry);
 
     Caption *title;
+    TouchButton *close;
     QLabel *emptyText;
     TouchButton *recent = nullptr;
     TouchButton *open = nullptr;
