@@ -26,6 +26,14 @@ struct TransformationDelete {
 };
 using Transformation = std::unique_ptr<OGRCoordinateTransformation, TransformationDelete>;
 
+/// In parts: there may be more coordinates than one call takes, which versions of GDAL count by int or by size_t.
+void transform(const Transformation &transformation, size_t count, double *xs, double *ys)
+{
+    constexpr size_t part = 1U << 15U;
+    for (size_t first = 0; first < count; first += part)
+        transformation->Transform(static_cast<quint16>(std::min(part, count - first)), xs + first, ys + first);
+}
+
 double radians(double degrees)
 {
     return degrees * std::acos(-1.0) / 180.0;
@@ -108,10 +116,7 @@ bool LocalPlane::toDegrees(const RawPrescription &map, std::vector<double> &xs, 
     const Transformation toWorld(OGRCreateCoordinateTransformation(source.get(), world.get()));
     if (!toWorld)
         return false;
-    // In parts: there may be more coordinates than one call takes.
-    constexpr size_t part = 1U << 16U;
-    for (size_t first = 0; first < xs.size(); first += part)
-        toWorld->Transform(static_cast<int>(std::min(part, xs.size() - first)), &xs[first], &ys[first]);
+    transform(toWorld, xs.size(), xs.data(), ys.data());
     const bool isGeographic = source->IsGeographic() != 0;
     for (size_t i = 0; i < xs.size() && isGeographic; ++i) {
         if (!areDegrees({xs[i], xs[i]}, {ys[i], ys[i]}))
@@ -168,9 +173,7 @@ bool LocalPlane::project(const RawPrescription &map, std::vector<double> &xs, st
                     .arg(QString::fromUtf8(map.reference ? map.reference->GetName() : "WGS 84"));
         return false;
     }
-    const auto exact = [&toPlane](size_t count, double *x, double *y) {
-        toPlane->Transform(static_cast<int>(count), x, y);
-    };
+    const auto exact = [&toPlane](size_t count, double *x, double *y) { transform(toPlane, count, x, y); };
     xs = map.xs;
     ys = map.ys;
     const Range x = rangeOf(xs);
@@ -180,9 +183,6 @@ bool LocalPlane::project(const RawPrescription &map, std::vector<double> &xs, st
         smooth.apply(xs.size(), xs.data(), ys.data());
         return true;
     }
-    // In parts: there may be more coordinates than one call takes.
-    constexpr size_t part = 1U << 16U;
-    for (size_t first = 0; first < xs.size(); first += part)
-        exact(std::min(part, xs.size() - first), &xs[first], &ys[first]);
+    exact(xs.size(), xs.data(), ys.data());
     return true;
 }
