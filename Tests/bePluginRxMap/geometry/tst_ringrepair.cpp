@@ -56,6 +56,7 @@ private Q_SLOTS:
     void dropsRepeatedVertices();
     void splitsARingThatCrossesItself();
     void splitsARingThatTouchesItself();
+    void joinsAreasThatEdgesPartThatARingRunsAlongTwice();
     void countsAPolygonThatIsBrokenInTheFileOnly();
     void dropsRingsThatCollapse();
     void dropsRingsWithoutAPlace();
@@ -151,6 +152,19 @@ void RingRepairTest::splitsARingThatTouchesItself()
     QCOMPARE(outcome.repaired.size(), size_t(1));
     for (const PlanePolygon &polygon : outcome.polygons)
         QVERIFY(isSimpleRing(polygon.outer));
+}
+
+void RingRepairTest::joinsAreasThatEdgesPartThatARingRunsAlongTwice()
+{
+    // Out in a zigzag, and back in another one, by the same four edges across: five squares in a row, not parted.
+    const PlaneRing zigzag = {{0, 0},   {10, 0},  {10, 10}, {20, 10}, {20, 0},  {30, 0}, {30, 10},
+                              {40, 10}, {40, 0},  {50, 0},  {50, 10}, {40, 10}, {40, 0}, {30, 0},
+                              {30, 10}, {20, 10}, {20, 0},  {10, 0},  {10, 10}, {0, 10}};
+    const RingRepair::Outcome outcome = repair(mapOf({{zigzag, false}, {zigzag, false}, {square(8, 3, 4), true}}));
+    QCOMPARE(outcome.polygons.size(), size_t(2));
+    for (const PlanePolygon &polygon : outcome.polygons)
+        QCOMPARE(ringArea(polygon.outer), 500.0);
+    QCOMPARE(outcome.polygons[1].holes.size(), size_t(1));
 }
 
 void RingRepairTest::countsAPolygonThatIsBrokenInTheFileOnly()

@@ -50,19 +50,20 @@ CoveredFaces::Neighbours CoveredFaces::neighboursOf(const std::vector<PlanePolyg
     return neighbours;
 }
 
-std::vector<bool> CoveredFaces::oddDepths(const Neighbours &neighbours, const std::vector<bool> &isOutermost)
+std::vector<bool> CoveredFaces::among(const std::vector<PlanePolygon> &faces)
 {
-    std::vector<bool> isReached = isOutermost;
-    std::vector<bool> isOdd(neighbours.size(), false);
+    std::vector<bool> isReached(faces.size(), false);
+    const Neighbours neighbours = neighboursOf(faces, isReached);
+    std::vector<bool> isCovered(faces.size(), false);
     std::vector<size_t> layer;
-    for (size_t face = 0; face < neighbours.size(); ++face) {
-        if (isOutermost[face])
+    for (size_t face = 0; face < faces.size(); ++face) {
+        if (isReached[face])
             layer.push_back(face);
     }
-    for (bool odd = true; !layer.empty(); odd = !odd) {
+    for (bool isOdd = true; !layer.empty(); isOdd = !isOdd) {
         std::vector<size_t> next;
         for (const size_t face : layer) {
-            isOdd[face] = odd;
+            isCovered[face] = isOdd;
             for (const size_t neighbour : neighbours[face]) {
                 if (isReached[neighbour])
                     continue;
@@ -72,29 +73,5 @@ std::vector<bool> CoveredFaces::oddDepths(const Neighbours &neighbours, const st
         }
         layer.swap(next);
     }
-    return isOdd;
-}
-
-std::vector<std::vector<size_t>> CoveredFaces::groups(const std::vector<PlanePolygon> &faces)
-{
-    std::vector<bool> isOutermost(faces.size(), false);
-    const Neighbours neighbours = neighboursOf(faces, isOutermost);
-    std::vector<bool> isLeft = oddDepths(neighbours, isOutermost);
-    std::vector<std::vector<size_t>> groups;
-    for (size_t first = 0; first < faces.size(); ++first) {
-        if (!isLeft[first])
-            continue;
-        isLeft[first] = false;
-        std::vector<size_t> group = {first};
-        for (size_t i = 0; i < group.size(); ++i) {
-            for (const size_t neighbour : neighbours[group[i]]) {
-                if (!isLeft[neighbour])
-                    continue;
-                isLeft[neighbour] = false;
-                group.push_back(neighbour);
-            }
-        }
-        groups.push_back(std::move(group));
-    }
-    return groups;
+    return isCovered;
 }

@@ -10,14 +10,13 @@
 /// An edge that the ring runs along more than once parts its faces once, as in GEOS's own repair.
 class CoveredFaces {
 public:
-    /// `faces`: of a noded line work, so that two of them share whole edges or none. Returns their places in the list,
-    /// those together that share an edge; most often each is alone.
-    static std::vector<std::vector<size_t>> groups(const std::vector<PlanePolygon> &faces);
+    /// `faces`: of a noded line work, so that two of them share whole edges or none. Says for each whether it is
+    /// covered.
+    static std::vector<bool> among(const std::vector<PlanePolygon> &faces);
 
 private:
     /// For each face the faces beyond its edges.
     using Neighbours = std::vector<std::vector<size_t>>;
 
     static Neighbours neighboursOf(const std::vector<PlanePolygon> &faces, std::vector<bool> &isOutermost);
-    static std::vector<bool> oddDepths(const Neighbours &neighbours, const std::vector<bool> &isOutermost);
 };

@@ -165,18 +165,10 @@ GeosContext::Geometry GeosContext::validArea(const PlaneRing &ring) const
     // itself enclose no face.
     const std::vector<PlanePolygon> faces = facesOf(ring);
     std::vector<Geometry> areas;
-    for (const std::vector<size_t> &group : CoveredFaces::groups(faces)) {
-        std::vector<Geometry> parts;
-        for (const size_t face : group)
-            parts.push_back(polygon(faces[face].outer, faces[face].holes));
-        if (parts.size() == 1) {
-            areas.push_back(std::move(parts.front()));
-            continue;
-        }
-        const Geometry touching = collection(GEOS_GEOMETRYCOLLECTION, std::move(parts));
-        const Geometry joined = owned(touching ? GEOSUnaryUnion_r(handle, touching.get()) : nullptr);
-        for (const PlanePolygon &part : polygons(joined, 0))
-            areas.push_back(polygon(part.outer, part.holes));
+    const std::vector<bool> isCovered = CoveredFaces::among(faces);
+    for (size_t face = 0; face < faces.size(); ++face) {
+        if (isCovered[face])
+            areas.push_back(polygon(faces[face].outer, faces[face].holes));
     }
     return collection(GEOS_MULTIPOLYGON, std::move(areas));
 }
