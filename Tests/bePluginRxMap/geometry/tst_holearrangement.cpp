@@ -31,6 +31,7 @@ private Q_SLOTS:
     void joinsTheHoleInWhichAnIslandLies();
     void joinsTheHolesOfNestedIslands();
     void keepsTheOrderOfOverlappingPolygons();
+    void joinsTheOneHoleThatLiesOnAnother();
     void keepsTheOrderAroundAnIsland();
     void joinsAHoleThatIsNearlyAsLargeAsItsRing();
     void joinsAHoleThatTouchesAnEdgeItWouldFallOutOf();
@@ -97,6 +98,15 @@ void HoleArrangementTest::keepsTheOrderOfOverlappingPolygons()
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
     QCOMPARE(holesOf(polygons), size_t(0));
     QCOMPARE(ringArea(polygons[1].outer), 10000.0 - 1600.0);
+}
+
+void HoleArrangementTest::joinsTheOneHoleThatLiesOnAnother()
+{
+    std::vector<PlanePolygon> polygons = {
+        polygonOf(0, square(0, 0, 200)),
+        polygonOf(1, square(150, 50, 100), {square(210, 60, 20), square(160, 60, 20)})};
+    QCOMPARE(HoleArrangement::arrange(polygons).takers, std::vector<int>({1}));
+    QCOMPARE(ringArea(polygons[1].outer), 10000.0 - 400.0);
 }
 
 void HoleArrangementTest::keepsTheOrderAroundAnIsland()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void placesAMapWithoutACoordinateSystem();
     void refusesWhatItCannotPlace_data();
     void refusesWhatItCannotPlace();
+    void projectsNoSystemThatIsNowhereOnTheEarth();
     void acceptsAMapOfAWholeRegion();
     void measuresDistances();
 
@@ -127,6 +128,17 @@ void LocalPlaneTest::refusesWhatItCannotPlace()
     QVERIFY(!LocalPlane::locate(mapAt({x, x + size}, {y, y + size}, epsg), extent, error));
     QVERIFY(!error.isEmpty());
     QVERIFY2(error.contains(reason), qPrintable(error));
+}
+
+void LocalPlaneTest::projectsNoSystemThatIsNowhereOnTheEarth()
+{
+    RawPrescription map = mapAt({10.0}, {45.0}, 4326);
+    map.reference.reset(new OGRSpatialReference);
+    map.reference->SetLocalCS("the plans of a yard");
+    std::vector<double> xs, ys;
+    QString error;
+    QVERIFY(!LocalPlane(10.0, 45.0).project(map, xs, ys, error));
+    QVERIFY2(error.contains(QStringLiteral("\"the plans of a yard\" cannot be projected")), qPrintable(error));
 }
 
 void LocalPlaneTest::acceptsAMapOfAWholeRegion()
