@@ -55,11 +55,20 @@ void HintCard::tell(const QString &title, const QStringList &lines, const QRect 
     setGeometry(area.left() + (area.width() - wide) / 2, area.bottom() + 1 - tall - Theme::margin, wide, tall);
     show();
     raise();
+    // For Escape; what else is pressed goes on to the display.
+    setFocus();
+}
+
+void HintCard::leave()
+{
+    // Hidden with the keyboard it would hand it to a control that nobody chose.
+    clearFocus();
+    hide();
 }
 
 void HintCard::close()
 {
-    hide();
+    leave();
     Q_EMIT closed();
 }
 

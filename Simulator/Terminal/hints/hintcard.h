@@ -17,6 +17,8 @@ public:
 
     /// Shows the card in the middle of `area` (pixels of its parent), at its lower end.
     void tell(const QString &title, const QStringList &lines, const QRect &area);
+    /// Takes it away without being told so.
+    void leave();
 
 Q_SIGNALS:
     /// The operator has taken the card away.

@@ -30,7 +30,7 @@ Hints::Hints(TerminalWindow *givenWindow, const PrescriptionBackend *givenBacken
     connect(window->guidancePage(), &GuidancePage::touched, this, [this](const QString &widgetName) {
         // Whoever comes back to the button has read what was told of it.
         if (widgetName == optionsWidget && !isGreeting)
-            card->hide();
+            card->leave();
     });
     connect(card, &HintCard::closed, this, [this] {
         if (std::exchange(isGreeting, false))

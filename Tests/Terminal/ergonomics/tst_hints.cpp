@@ -1,3 +1,4 @@
+#include "fieldview.h"
 #include "guidancepage.h"
 #include "hints.h"
 #include "paintedtexts.h"
@@ -5,6 +6,7 @@
 #include "terminalwindow.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QGraphicsItem>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void whoIsGreetedOnceIsNotGreetedAgain();
+    void escapeTakesTheCardAway();
     void aTerminalThatDoesNotGreetTellsNothing();
     void aShortTouchOfTheOptionsButtonIsAnsweredOnce();
     void withoutAMapAShortTouchTellsNothing();
@@ -80,6 +83,18 @@ void TestHints::whoIsGreetedOnceIsNotGreetedAgain()
     restart();
     hints->greet();
     QVERIFY(!card()->isVisible());
+}
+
+void TestHints::escapeTakesTheCardAway()
+{
+    hints->greet();
+    // Whatever else is pressed is the display's.
+    const double distance = terminal().window()->fieldView()->camera().distance();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
+    QVERIFY(terminal().window()->fieldView()->camera().distance() < distance);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(!card()->isVisible());
+    QVERIFY(terminal().window()->focusWidget() == nullptr);
 }
 
 void TestHints::aTerminalThatDoesNotGreetTellsNothing()

@@ -125,7 +125,8 @@ void InputPassage::passKey(QKeyEvent *event)
     QWidget *popup = QApplication::activePopupWidget();
     QWidget *window = popup != nullptr ? popup : windows->foremost();
     QWidget *focused = window->focusWidget();
-    event->ignore();
+    // As Qt sends it: whoever has no use for a key ignores it.
+    event->accept();
     QCoreApplication::sendEvent(focused != nullptr ? focused : window, event);
     // What nobody wants of the display may be meant for the window around it.
     if (!event->isAccepted())
