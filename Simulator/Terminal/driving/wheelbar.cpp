@@ -1,5 +1,6 @@
 #include "wheelbar.h"
 
+#include "buttonlook.h"
 #include "theme.h"
 
 #include <QMouseEvent>
@@ -56,15 +57,17 @@ void WheelBar::hideEvent(QHideEvent *)
 void WheelBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), Theme::button());
+    const bool isOutOfReach = ButtonLook::isOutOfReach(*this);
+    const QColor ground = isOutOfReach ? Theme::disabledButton() : Theme::button();
+    Theme::drawPanel(painter, rect(), ground);
     const QPointF middle(width() / 2.0, height() / 2.0);
     painter.setPen(QPen(Theme::faintText(), 3.0, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(middle - QPointF(reach(), 0.0), middle + QPointF(reach(), 0.0));
     painter.drawLine(middle - QPointF(0.0, 14.0), middle + QPointF(0.0, 14.0));
     const QPointF knob = middle + QPointF(turned * reach(), 0.0);
     painter.setPen(QPen(Theme::textOnAccent(), 2.0));
-    painter.setBrush(Theme::accent());
+    painter.setBrush(isOutOfReach ? Theme::disabledText() : Theme::accent());
     painter.drawEllipse(knob, knobRadius, knobRadius);
-    painter.setBrush(Theme::button());
+    painter.setBrush(ground);
     painter.drawEllipse(knob, knobRadius * 0.6, knobRadius * 0.6);
 }

@@ -5,10 +5,12 @@
 #include "paintedtexts.h"
 #include "paths.h"
 #include "testbase.h"
+#include "theme.h"
 #include "touchbutton.h"
 #include "vehicle.h"
 #include "wheelbar.h"
 
+#include <QDialog>
 #include <QLabel>
 #include <QTranslator>
 
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void itShowsWhatAScriptDoes();
     void followingIsAskedForAndShown();
     void theWheelGoesBackWhenItIsLeft();
+    void whatADialogKeepsFromTheWheelLooksSo();
     void everyButtonIsBigEnoughForAGlove();
     void textsFitInEveryLanguage_data();
     void textsFitInEveryLanguage();
@@ -159,6 +162,18 @@ void TestDrivePanel::theWheelGoesBackWhenItIsLeft()
     wheel->setTurn(0.5);
     touch("driveSwaths");
     QTRY_COMPARE(wheel->turn(), 0.0);
+}
+
+void TestDrivePanel::whatADialogKeepsFromTheWheelLooksSo()
+{
+    controls->takeHand();
+    QTRY_VERIFY(panel->wheel()->isVisible());
+    const auto ground = [this] { return panel->wheel()->grab().toImage().pixelColor(panel->wheel()->width() / 2, 4); };
+    QCOMPARE(ground(), Theme::button());
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QCOMPARE(ground(), Theme::disabledButton());
 }
 
 void TestDrivePanel::everyButtonIsBigEnoughForAGlove()

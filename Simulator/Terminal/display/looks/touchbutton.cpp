@@ -65,7 +65,7 @@ void TouchButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
-    if (wantsCaution && isEnabled() && !isDown())
+    if (wantsCaution && !ButtonLook::isOutOfReach(*this) && !isDown())
         look = {Theme::caution(), Theme::textOnCaution(), Theme::textOnCaution(), Theme::textOnCaution(), false};
     Theme::drawPanel(painter, rect(), look.ground);
     if (hasFocus())

@@ -97,7 +97,8 @@ void UnseenWindows::prepare(QWidget *window)
     // Qt keeps from all other windows what belongs to a modal dialog, except from those over it.
     if (window->isModal() && seen->windowHandle() != nullptr)
         seen->windowHandle()->setTransientParent(window->windowHandle());
-    Q_EMIT changed(window->geometry());
+    // What a modal dialog keeps out of reach looks different, too.
+    Q_EMIT changed(window->isModal() ? QRect(QPoint(), display->size()) : window->geometry());
     Q_EMIT foremostChanged();
 }
 

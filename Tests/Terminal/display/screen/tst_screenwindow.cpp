@@ -5,8 +5,12 @@
 #include "screenwindow.h"
 #include "terminalwindow.h"
 #include "testbase.h"
+#include "theme.h"
+#include "touchbutton.h"
+#include "unseenwindows.h"
 
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -18,6 +22,15 @@ namespace {
 
 const QColor patchColor(1, 200, 3);
 const QRect patchPlace(400, 300, 200, 100);
+
+/// Goes at Escape.
+class Inner : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void keyPressEvent(QKeyEvent *) override { hide(); }
+};
 
 } // namespace
 
@@ -39,9 +52,12 @@ private Q_SLOTS:
     void aDialogKeepsItsPlaceAndIsTouchedWhereItIsSeen_data();
     void aDialogKeepsItsPlaceAndIsTouchedWhereItIsSeen();
     void nothingBesideADialogIsTouched();
+    void whatADialogKeepsFromTouchesLooksSo();
     void aPopupIsSeenAndClosesWhenTouchedBeside();
     void keysGoToWhatHasTheKeyboard();
     void f11FillsTheScreenAndEscapeLeaves();
+    void escapeLeavesWhatIsInnermostAlone_data();
+    void escapeLeavesWhatIsInnermostAlone();
     void aPartThatChangesIsSeen();
     void nothingIsDrawnWhileNothingChanges();
     void closingItClosesTheDisplay();
@@ -249,6 +265,28 @@ void TestScreenWindow::nothingBesideADialogIsTouched()
     QCOMPARE(touched.size(), 1);
 }
 
+void TestScreenWindow::whatADialogKeepsFromTouchesLooksSo()
+{
+    resizeTo(TerminalWindow::displaySize);
+    auto *button = display->findChild<TouchButton *>(QStringLiteral("zoomIn"));
+    const QPoint ground = button->mapTo(display.data(), QPoint(button->width() / 2, 6));
+    QCOMPARE(colorAt(ground), Theme::button());
+    QDialog dialog;
+    TouchButton done(QStringLiteral("Done"), &dialog);
+    done.setGeometry(10, 10, 100, 80);
+    dialog.setGeometry(240, 0, 300, 300);
+    dialog.setModal(true);
+    QRegion seenAnew;
+    connect(screen->findChild<UnseenWindows *>(), &UnseenWindows::changed, &dialog,
+            [&seenAnew](const QRegion &part) { seenAnew += part; });
+    dialog.show();
+    QVERIFY(seenAnew.contains(ground));
+    QCOMPARE(colorAt(ground), Theme::disabledButton());
+    QCOMPARE(colorAt(dialog.pos() + QPoint(60, 16)), Theme::button());
+    dialog.close();
+    QCOMPARE(colorAt(ground), Theme::button());
+}
+
 void TestScreenWindow::aPopupIsSeenAndClosesWhenTouchedBeside()
 {
     resizeTo(QSize(1920, 1200));
@@ -300,6 +338,29 @@ void TestScreenWindow::f11FillsTheScreenAndEscapeLeaves()
     QVERIFY(press(Qt::Key_F11));
     QVERIFY(!press(Qt::Key_Escape));
     QVERIFY(!press(Qt::Key_Escape));
+}
+
+void TestScreenWindow::escapeLeavesWhatIsInnermostAlone_data()
+{
+    QTest::addColumn<Qt::WindowFlags>("kind");
+    QTest::newRow("dialog") << Qt::WindowFlags(Qt::Dialog);
+    QTest::newRow("popup") << Qt::WindowFlags(Qt::Popup);
+    QTest::newRow("page of the display") << Qt::WindowFlags(Qt::Widget);
+}
+
+void TestScreenWindow::escapeLeavesWhatIsInnermostAlone()
+{
+    QFETCH(Qt::WindowFlags, kind);
+    Inner inner(display.data(), kind);
+    inner.setWindowModality(kind == Qt::Dialog ? Qt::ApplicationModal : Qt::NonModal);
+    QTest::keyClick(screen->windowHandle(), Qt::Key_F11);
+    inner.show();
+    inner.setFocus();
+    QTest::keyClick(screen->windowHandle(), Qt::Key_Escape);
+    QVERIFY(!inner.isVisible());
+    QVERIFY(screen->isFullScreen());
+    QTest::keyClick(screen->windowHandle(), Qt::Key_Escape);
+    QVERIFY(!screen->isFullScreen());
 }
 
 void TestScreenWindow::aPartThatChangesIsSeen()
