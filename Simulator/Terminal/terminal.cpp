@@ -122,6 +122,7 @@ void Terminal::connectDisplay()
         frameField();
     });
     connect(vehicle(), &Vehicle::moved, this, &Terminal::showVehicle);
+    connect(simulated.data(), &Simulation::timeFactorChanged, this, &Terminal::showVehicle);
     connect(opening->window(), &OpenWindow::shownChanged, findings.data(), [this](bool isShown) {
         if (isShown)
             findings->leave();
@@ -350,6 +351,7 @@ void Terminal::showVehicle()
 {
     display->overlay()->setVehicle(vehicle()->position(), vehicle()->heading());
     display->statusBar()->setSpeed(vehicle()->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
+    display->statusBar()->setPaused(simulated->timeFactor() == 0.0);
 }
 
 void Terminal::frameField()

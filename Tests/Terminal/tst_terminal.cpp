@@ -5,6 +5,8 @@
 #include "legendpanel.h"
 #include "machine.h"
 #include "paintedtexts.h"
+#include "simulation.h"
+#include "statusbar.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
 
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void ratesInTheOperatorsUnitAreTheFilesNumbers();
     void boundsAreThoseOfEverythingLoaded();
     void aPictureThatCannotBeSavedIsReported();
+    void aPauseIsToldWhereTheSpeedIs();
     void twoTerminalsMayFollowEachOther();
 };
 
@@ -214,6 +217,16 @@ void TestTerminal::aPictureThatCannotBeSavedIsReported()
     QTemporaryDir folder;
     QCOMPARE(terminal().saveScreenshot(folder.filePath("map.png")), QString());
     QCOMPARE(QImage(folder.filePath("map.png")).size(), TerminalWindow::displaySize);
+}
+
+void TestTerminal::aPauseIsToldWhereTheSpeedIs()
+{
+    StatusBar &bar = *terminal().window()->statusBar();
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
+    terminal().simulation()->setTimeFactor(0.0);
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
+    terminal().simulation()->setTimeFactor(1.0);
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
 }
 
 void TestTerminal::twoTerminalsMayFollowEachOther()

@@ -45,6 +45,7 @@ TerminalWindow::TerminalWindow(const Products &products, QWidget *parent)
     setAcceptDrops(true);
     addZoomButtons();
     addDriveButton();
+    addFullScreenButton();
     addThemeButton();
     connect(view, &FieldView::cameraChanged, this, [this] { mapOverlay->setCamera(view->camera()); });
     connect(view, &FieldView::keyboardChanged, mapOverlay, &MapOverlay::setAimed);
@@ -81,6 +82,21 @@ void TerminalWindow::addDriveButton()
     driveButton->hide();
     status->addButton(driveButton);
     connect(driveButton, &TouchButton::toggled, this, &TerminalWindow::showDriving);
+}
+
+void TerminalWindow::addFullScreenButton()
+{
+    fullScreenButton = new TouchButton(QString(), this);
+    fullScreenButton->setObjectName(QStringLiteral("fullScreenButton"));
+    status->addTool(fullScreenButton);
+    connect(fullScreenButton, &TouchButton::clicked, this, &TerminalWindow::fullScreenSwitched);
+    showFullScreen(false);
+}
+
+void TerminalWindow::showFullScreen(bool isFull)
+{
+    fullScreenButton->setText(isFull ? tr("Leave full screen") : tr("Full screen"));
+    fullScreenButton->setSymbol(isFull ? Symbols::plainWindow() : Symbols::fullScreen());
 }
 
 void TerminalWindow::addThemeButton()

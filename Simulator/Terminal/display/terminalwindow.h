@@ -42,6 +42,9 @@ public:
     /// How all that the terminal paints looks from now on. What plug-ins paint stays as it is.
     void setTheme(Theme::Kind kind);
 
+    /// Says whether the display fills the screen.
+    void showFullScreen(bool isFull);
+
     /// Where a page lies that takes the place of the map: everything below the status bar.
     static QRect pageArea();
     /// The display as it is seen, with every dialog and popup that is open over it.
@@ -51,6 +54,8 @@ Q_SIGNALS:
     /// The field is to be seen as a whole again.
     void frameRequested();
     void themeChanged();
+    /// The display is to fill the screen, or no longer.
+    void fullScreenSwitched();
     /// What drives the machine was shown, or hidden.
     void drivingShown(bool isShown);
     void closed();
@@ -71,6 +76,7 @@ protected:
 private:
     void addZoomButtons();
     void addDriveButton();
+    void addFullScreenButton();
     void addThemeButton();
     void showDriving(bool isShown);
     void arrange();
@@ -84,6 +90,7 @@ private:
     GuidancePage *page;
     QList<QWidget *> zoomButtons;
     TouchButton *driveButton = nullptr;
+    TouchButton *fullScreenButton = nullptr;
     TouchButton *themeButton = nullptr;
     QWidget *drivePanel = nullptr;
     QWidget *driveStrip = nullptr;

@@ -966,6 +966,10 @@
         <source>Loading %1</source>
         <translation>%1 wird geladen</translation>
     </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pause</translation>
+    </message>
 </context>
 <context>
     <name>TerminalWindow</name>
@@ -1000,6 +1004,14 @@
     <message>
         <source>The whole field</source>
         <translation>Das ganze Feld</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Vollbild verlassen</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
     </message>
 </context>
 <context>

@@ -966,6 +966,10 @@
         <source>Loading %1</source>
         <translation>Cargando %1</translation>
     </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
 </context>
 <context>
     <name>TerminalWindow</name>
@@ -1000,6 +1004,14 @@
     <message>
         <source>The whole field</source>
         <translation>Todo el campo</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Salir de pantalla completa</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Pantalla completa</translation>
     </message>
 </context>
 <context>

@@ -966,6 +966,10 @@
         <source>Loading %1</source>
         <translation>Chargement de %1</translation>
     </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
 </context>
 <context>
     <name>TerminalWindow</name>
@@ -1000,6 +1004,14 @@
     <message>
         <source>The whole field</source>
         <translation>Toute la parcelle</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Quitter le plein écran</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
     </message>
 </context>
 <context>

@@ -966,6 +966,10 @@
         <source>Loading %1</source>
         <translation>Carregando %1</translation>
     </message>
+    <message>
+        <source>Paused</source>
+        <translation>Em pausa</translation>
+    </message>
 </context>
 <context>
     <name>TerminalWindow</name>
@@ -1000,6 +1004,14 @@
     <message>
         <source>The whole field</source>
         <translation>O campo inteiro</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Sair da tela cheia</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Tela cheia</translation>
     </message>
 </context>
 <context>

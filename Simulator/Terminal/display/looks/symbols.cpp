@@ -3,6 +3,21 @@
 #include <QPolygonF>
 #include <QTransform>
 
+namespace {
+
+/// The corner at the lower right, four times around the middle.
+QPainterPath corners(const QPolygonF &corner)
+{
+    QPainterPath path;
+    for (int quarter = 0; quarter < 4; ++quarter) {
+        path.addPolygon(QTransform().rotate(90.0 * quarter).map(corner));
+        path.closeSubpath();
+    }
+    return path;
+}
+
+} // namespace
+
 QPainterPath Symbols::folder()
 {
     QPainterPath path;
@@ -45,4 +60,14 @@ QPainterPath Symbols::moon()
     QPainterPath shadow;
     shadow.addEllipse(QPointF(7.0, -5.0), radius - 2.0, radius - 2.0);
     return disc.subtracted(shadow);
+}
+
+QPainterPath Symbols::fullScreen()
+{
+    return corners(QPolygonF({{14, 4}, {14, 14}, {4, 14}, {4, 10}, {10, 10}, {10, 4}}));
+}
+
+QPainterPath Symbols::plainWindow()
+{
+    return corners(QPolygonF({{4, 14}, {4, 4}, {14, 4}, {14, 8}, {8, 8}, {8, 14}}));
 }

@@ -12,5 +12,8 @@ QPainterPath folder();
 QPainterPath file();
 QPainterPath sun();
 QPainterPath moon();
+/// Four corners that point outwards, or inwards.
+QPainterPath fullScreen();
+QPainterPath plainWindow();
 
 } // namespace Symbols

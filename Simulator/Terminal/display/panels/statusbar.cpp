@@ -77,10 +77,16 @@ void StatusBar::setMaps(const QStringList &names)
 
 void StatusBar::setSpeed(double metresPerSecond, bool metric)
 {
-    isMoving = metresPerSecond > 0.0;
+    isMoving = metresPerSecond != 0.0;
     const double factor = metric ? kilometresPerHour : milesPerHour;
     const QString shown = ShownNumber::text(metresPerSecond * factor, 1);
     speed = isMoving ? (metric ? tr("%1 km/h") : tr("%1 mph")).arg(shown) : tr("Stopped");
+    update();
+}
+
+void StatusBar::setPaused(bool isPausedNow)
+{
+    isPaused = isPausedNow;
     update();
 }
 
@@ -100,8 +106,8 @@ void StatusBar::paintEvent(QPaintEvent *)
 
     const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
     painter.setFont(Theme::font(22, true));
-    painter.setPen(isMoving ? Theme::accentText() : Theme::text());
-    painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, speed);
+    painter.setPen(isMoving && !isPaused ? Theme::accentText() : Theme::text());
+    painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, isPaused ? tr("Paused") : speed);
 
     QRect mapArea(inner.left(), 0, inner.width() - speedWidth - Theme::margin, height());
     if (!loading.isEmpty()) {

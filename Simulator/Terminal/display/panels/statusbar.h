@@ -20,8 +20,10 @@ public:
     void addTool(QAbstractButton *button);
     /// File names of the loaded maps, oldest first.
     void setMaps(const QStringList &names);
-    /// Metres per second; 0 reads as stopped.
+    /// Metres per second, below 0 backwards; 0 reads as stopped.
     void setSpeed(double metresPerSecond, bool metric);
+    /// While no time passes, that is told in place of the speed.
+    void setPaused(bool isPaused);
     /// `fraction` of `file`'s load; an empty file takes the bar away.
     void setProgress(const QString &file, double fraction);
 
@@ -42,6 +44,7 @@ private:
     QString maps;
     QString speed;
     bool isMoving = false;
+    bool isPaused = false;
     QString loading;
     double loaded = 0.0;
 };

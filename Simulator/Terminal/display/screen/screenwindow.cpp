@@ -35,6 +35,7 @@ ScreenWindow::ScreenWindow(TerminalWindow *terminal)
     connect(windows, &UnseenWindows::changed, this, &ScreenWindow::showPart);
     connect(windows, &UnseenWindows::foremostChanged, this, &ScreenWindow::activateForemost, Qt::QueuedConnection);
     connect(display, &TerminalWindow::closed, this, &QWidget::close);
+    connect(display, &TerminalWindow::fullScreenSwitched, this, &ScreenWindow::switchFullScreen);
     // The ground around the display, too.
     connect(display, &TerminalWindow::themeChanged, this, QOverload<>::of(&QWidget::update));
 }
@@ -113,6 +114,8 @@ bool ScreenWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate)
         QMetaObject::invokeMethod(this, &ScreenWindow::activateForemost, Qt::QueuedConnection);
+    if (event->type() == QEvent::WindowStateChange)
+        display->showFullScreen(isFullScreen());
     return QWidget::event(event);
 }
 
@@ -129,7 +132,7 @@ void ScreenWindow::keyPressEvent(QKeyEvent *event)
     const bool isAsked = event->key() == Qt::Key_F11 || (event->key() == Qt::Key_Escape && isFullScreen());
     event->setAccepted(isAsked);
     if (isAsked)
-        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        switchFullScreen();
 }
 
 void ScreenWindow::dragEnterEvent(QDragEnterEvent *event)

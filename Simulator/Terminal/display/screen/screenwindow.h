@@ -9,7 +9,8 @@ class TerminalWindow;
 class UnseenWindows;
 
 /// The program's window: shows the terminal's display with all dialogs and popups over it, as large as the window
-/// holds it in its proportions, in front of the ground's colour. F11 fills the screen with it, F11 or Escape leaves.
+/// holds it in its proportions, in front of the ground's colour. F11 and the display's button fill the
+/// screen with it and leave it again, as Escape does.
 class ScreenWindow : public QWidget {
     Q_OBJECT
 
@@ -40,6 +41,7 @@ protected:
 private:
     void showPart(const QRegion &part);
     void activateForemost();
+    void switchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
     TerminalWindow *display;
     UnseenWindows *windows;

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void itTellsTheSpeedInTheOperatorsUnit_data();
     void itTellsTheSpeedInTheOperatorsUnit();
     void aMovingVehiclesSpeedStandsOut();
+    void aPauseIsToldInPlaceOfTheSpeed();
     void aLoadShowsItsFileWhileItRuns();
     void theProgressBarGrowsWithTheLoad();
     void buttonsStandBeforeTheTexts();
@@ -78,6 +79,7 @@ void TestStatusBar::itTellsTheSpeedInTheOperatorsUnit_data()
     QTest::newRow("stopped") << 0.0 << true << "Stopped";
     QTest::newRow("stopped, us") << 0.0 << false << "Stopped";
     QTest::newRow("metric") << 2.5 << true << "9.0 km/h";
+    QTest::newRow("backwards") << -2.5 << true << "-9.0 km/h";
     // 10 miles of 1609.344 m in an hour.
     QTest::newRow("us") << 4.4704 << false << "10.0 mph";
     QTest::newRow("creeping") << 0.01 << true << "0.0 km/h";
@@ -98,6 +100,16 @@ void TestStatusBar::aMovingVehiclesSpeedStandsOut()
     QVERIFY(pixelsOf(Theme::accentText()) > 50);
     bar->setSpeed(0.0, true);
     QCOMPARE(pixelsOf(Theme::accentText()), 0);
+}
+
+void TestStatusBar::aPauseIsToldInPlaceOfTheSpeed()
+{
+    bar->setSpeed(3.0, true);
+    bar->setPaused(true);
+    QCOMPARE(paintedTexts(*bar).first(), QStringLiteral("Paused"));
+    QCOMPARE(pixelsOf(Theme::accentText()), 0);
+    bar->setPaused(false);
+    QCOMPARE(paintedTexts(*bar).first(), QStringLiteral("10.8 km/h"));
 }
 
 void TestStatusBar::aLoadShowsItsFileWhileItRuns()

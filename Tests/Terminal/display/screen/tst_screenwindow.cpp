@@ -56,6 +56,7 @@ private Q_SLOTS:
     void aPopupIsSeenAndClosesWhenTouchedBeside();
     void keysGoToWhatHasTheKeyboard();
     void f11FillsTheScreenAndEscapeLeaves();
+    void aButtonFillsTheScreenAndLeaves();
     void escapeLeavesWhatIsInnermostAlone_data();
     void escapeLeavesWhatIsInnermostAlone();
     void aPartThatChangesIsSeen();
@@ -338,6 +339,19 @@ void TestScreenWindow::f11FillsTheScreenAndEscapeLeaves()
     QVERIFY(press(Qt::Key_F11));
     QVERIFY(!press(Qt::Key_Escape));
     QVERIFY(!press(Qt::Key_Escape));
+}
+
+void TestScreenWindow::aButtonFillsTheScreenAndLeaves()
+{
+    auto *button = display->findChild<TouchButton *>(QStringLiteral("fullScreenButton"));
+    for (const bool isFull : {true, false}) {
+        touch(button->mapTo(display.data(), button->rect().center()));
+        QCOMPARE(screen->isFullScreen(), isFull);
+        QCOMPARE(button->text(), isFull ? QStringLiteral("Leave full screen") : QStringLiteral("Full screen"));
+    }
+    // However it was asked for, the button leads back.
+    QTest::keyClick(screen->windowHandle(), Qt::Key_F11);
+    QCOMPARE(button->text(), QStringLiteral("Leave full screen"));
 }
 
 void TestScreenWindow::escapeLeavesWhatIsInnermostAlone_data()
