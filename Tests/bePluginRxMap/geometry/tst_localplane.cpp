@@ -33,7 +33,8 @@ private Q_SLOTS:
     void refusesWhatItCannotPlace_data();
     void refusesWhatItCannotPlace();
     void projectsNoSystemThatIsNowhereOnTheEarth();
-    void acceptsAMapOfAWholeRegion();
+    void acceptsMapsOfAnyPlace_data();
+    void acceptsMapsOfAnyPlace();
     void measuresDistances();
 
 private:
@@ -141,11 +142,25 @@ void LocalPlaneTest::projectsNoSystemThatIsNowhereOnTheEarth()
     QVERIFY2(error.contains(QStringLiteral("\"the plans of a yard\" cannot be projected")), qPrintable(error));
 }
 
-void LocalPlaneTest::acceptsAMapOfAWholeRegion()
+void LocalPlaneTest::acceptsMapsOfAnyPlace_data()
 {
+    QTest::addColumn<QVector<double>>("xs");
+    QTest::addColumn<QVector<double>>("ys");
+    QTest::addColumn<int>("epsg");
+    QTest::newRow("a whole region") << QVector<double>{154040, 627168} << QVector<double>{4829965, 4905263} << 32635;
+    QTest::newRow("west of the date line") << QVector<double>{179.99, 180.0} << QVector<double>{-17.0, -16.99} << 4326;
+    QTest::newRow("east of the date line") << QVector<double>{-180.0, -179.99} << QVector<double>{66.0, 66.01} << 4326;
+}
+
+void LocalPlaneTest::acceptsMapsOfAnyPlace()
+{
+    QFETCH(QVector<double>, xs);
+    QFETCH(QVector<double>, ys);
+    QFETCH(int, epsg);
     GeographicExtent extent;
     QString error;
-    QVERIFY2(LocalPlane::locate(mapAt({154040, 627168}, {4829965, 4905263}, 32635), extent, error), qPrintable(error));
+    const RawPrescription map = mapAt({xs.begin(), xs.end()}, {ys.begin(), ys.end()}, epsg);
+    QVERIFY2(LocalPlane::locate(map, extent, error), qPrintable(error));
 }
 
 void LocalPlaneTest::measuresDistances()
