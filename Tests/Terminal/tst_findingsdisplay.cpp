@@ -1,4 +1,5 @@
 #include "fieldview.h"
+#include "findingunits.h"
 #include "layerwriter.h"
 #include "machine.h"
 #include "mapoverlay.h"
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void aTouchedFindingIsShownOnTheMap();
     void theMapOfATouchedFindingIsShown();
     void whatLiesNowhereCannotBeTouched();
+    void figuresAreInTheOperatorsUnits_data();
+    void figuresAreInTheOperatorsUnits();
     void areasAreWrittenAsTheDisplayDoes_data();
     void areasAreWrittenAsTheDisplayDoes();
 
@@ -116,6 +119,39 @@ void TestFindingsDisplay::whatLiesNowhereCannotBeTouched()
     QVERIFY(!find<QWidget>("findingsPage")->isVisible());
 }
 
+void TestFindingsDisplay::figuresAreInTheOperatorsUnits_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasArea");
+    QTest::addColumn<QString>("metric");
+    QTest::addColumn<QString>("us");
+    const auto row = [](const char *text, bool hasArea, const char *metric, const char *us) {
+        QTest::newRow(text) << text << hasArea << QString::fromUtf8(metric) << QString::fromUtf8(us);
+    };
+    row("record 3 is only 0.25 m wide", true, "record 3 is only 0.25 m wide", "record 3 is only 0.82 ft wide");
+    row("no polygon covers 50.0 m2 inside the field (2.5 m wide)", true,
+        "no polygon covers 50.0 m\u00b2 inside the field (2.5 m wide)",
+        "no polygon covers 538.2 ft\u00b2 inside the field (8.2 ft wide)");
+    row("7,50 m2 und 5000,0 m2, 12 m breit", true, "7.50 m\u00b2 und 0.50 ha, 12.0 m breit",
+        "80.7 ft\u00b2 und 1.24 ac, 39.4 ft breit");
+    row("column 12 m has no unit", false, "column 12 m has no unit", "column 12 m has no unit");
+}
+
+void TestFindingsDisplay::figuresAreInTheOperatorsUnits()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, hasArea);
+    MapFinding finding;
+    finding.text = text;
+    if (hasArea)
+        finding.area = 1.0;
+    QTEST(FindingUnits(UnitSystem::Metric).textOf(finding), "metric");
+    QTEST(FindingUnits(UnitSystem::Us).textOf(finding), "us");
+    QTEST(FindingUnits(UnitSystem::Turf).textOf(finding), "us");
+    QCOMPARE(FindingUnits(UnitSystem::Metric).distance(16093.44), QStringLiteral("16 km"));
+    QCOMPARE(FindingUnits(UnitSystem::Us).distance(16093.44), QStringLiteral("10 mi"));
+}
+
 void TestFindingsDisplay::areasAreWrittenAsTheDisplayDoes_data()
 {
     QTest::addColumn<int>("units");
@@ -123,7 +159,9 @@ void TestFindingsDisplay::areasAreWrittenAsTheDisplayDoes_data()
     QTest::addColumn<QString>("area");
     QTest::newRow("large") << int(UnitSystem::Metric) << 0.0005 << " on 0\\.40 ha$";
     QTest::newRow("large, in acres") << int(UnitSystem::Us) << 0.0005 << " on 0\\.9[89] ac$";
-    QTest::newRow("small") << int(UnitSystem::Us) << 0.0001 << QStringLiteral(" on 79[0-9]\\.[0-9] m\u00b2$");
+    QTest::newRow("small") << int(UnitSystem::Us) << 0.0001 << QStringLiteral(" on 8,[0-9]{3}\\.[0-9] ft\u00b2$");
+    QTest::newRow("small, in square metres")
+        << int(UnitSystem::Metric) << 0.0001 << QStringLiteral(" on 79[0-9]\\.[0-9] m\u00b2$");
 }
 
 void TestFindingsDisplay::areasAreWrittenAsTheDisplayDoes()

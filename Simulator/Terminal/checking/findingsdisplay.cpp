@@ -2,6 +2,7 @@
 
 #include "Backend/prescriptionbackend.h"
 #include "fieldview.h"
+#include "findingunits.h"
 #include "machine.h"
 #include "mapoverlay.h"
 #include "shownnumber.h"
@@ -12,7 +13,6 @@
 #include "vehicle.h"
 
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -74,6 +74,7 @@ void FindingsDisplay::update()
     const QList<LoadReport> maps = backend->maps();
     const auto isUsed = [this](const LoadReport &map) { return !machine->columnsOf(map.group).isEmpty(); };
     const bool areSeveral = std::count_if(maps.begin(), maps.end(), isUsed) > 1;
+    const FindingUnits units(machine->unitSystem());
     QList<LoadReport> before;
     for (const LoadReport &map : maps) {
         const QString file = areSeveral ? QFileInfo(map.path).fileName() : QString();
@@ -85,7 +86,7 @@ void FindingsDisplay::update()
             entries.append({file, map.group, *distance});
         before.append(map);
         for (MapFinding finding : known.value(map.group)) {
-            finding.text = shownText(finding);
+            finding.text = units.textOf(finding);
             entries.append({file, map.group, finding});
         }
     }
@@ -98,7 +99,7 @@ void FindingsDisplay::update()
         page->hide();
 }
 
-std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> &others, const LoadReport &map)
+std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> &others, const LoadReport &map) const
 {
     const LoadReport *nearest = nullptr;
     double distance = HUGE_VAL;
@@ -113,26 +114,12 @@ std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> 
         return {};
     MapFinding finding;
     finding.kind = MapFinding::Kind::FarAway;
-    finding.text = tr("lies %1 km from %2, which feeds products, too")
-                       .arg(ShownNumber::text(distance / 1000.0), QFileInfo(nearest->path).fileName());
+    finding.text =
+        tr("lies %1 from %2, which feeds products, too")
+            .arg(FindingUnits(machine->unitSystem()).distance(distance), QFileInfo(nearest->path).fileName());
     finding.extent = map.bounds;
     finding.place = map.bounds.center();
     return finding;
-}
-
-QString FindingsDisplay::shownText(const MapFinding &finding) const
-{
-    constexpr double hectare = 10000.0;
-    constexpr double acre = 4046.8564224;
-    if (!finding.area)
-        return finding.text;
-    const bool isMetric = machine->unitSystem() == UnitSystem::Metric;
-    QString area = ShownNumber::text(*finding.area, *finding.area < 10.0 ? 2 : 1) + QStringLiteral(" m\u00b2");
-    if (*finding.area >= 0.1 * hectare)
-        area = ShownNumber::text(*finding.area / (isMetric ? hectare : acre), 2)
-            + (isMetric ? QStringLiteral(" ha") : QStringLiteral(" ac"));
-    static const QRegularExpression written(QStringLiteral("[0-9]+([.,][0-9]+)? m2\\b"));
-    return QString(finding.text).replace(written, area);
 }
 
 void FindingsDisplay::toggle()

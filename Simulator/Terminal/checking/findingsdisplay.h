@@ -36,9 +36,7 @@ private:
     /// What is found in the maps that feed a product, oldest first.
     void update();
     /// What is to be told of a map that shares no plane with any of those others.
-    static std::optional<MapFinding> distanceFrom(const QList<LoadReport> &others, const LoadReport &map);
-    /// Its text with areas as the display writes them: from a tenth of a hectare on in hectares, or in acres.
-    QString shownText(const MapFinding &finding) const;
+    std::optional<MapFinding> distanceFrom(const QList<LoadReport> &others, const LoadReport &map) const;
     void toggle();
     void show(int number);
 

@@ -330,6 +330,33 @@
     </message>
 </context>
 <context>
+    <name>FindingUnits</name>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>%1 m²</source>
+        <translation>%1 m²</translation>
+    </message>
+    <message>
+        <source>%1 ft²</source>
+        <translation>%1 ft²</translation>
+    </message>
+</context>
+<context>
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
@@ -340,8 +367,8 @@
         <translation>Kartenprüfung: %1</translation>
     </message>
     <message>
-        <source>lies %1 km from %2, which feeds products, too</source>
-        <translation>liegt %1 km von %2, das auch Produkte speist</translation>
+        <source>lies %1 from %2, which feeds products, too</source>
+        <translation>liegt %1 von %2, das auch Produkte speist</translation>
     </message>
 </context>
 <context>
@@ -855,10 +882,10 @@
     </message>
 </context>
 <context>
-    <name>RateTable</name>
+    <name>RateRow</name>
     <message>
         <source>Prescription</source>
-        <translation>Karte</translation>
+        <translation>Applikationskarte</translation>
     </message>
     <message>
         <source>Default rate</source>
@@ -885,6 +912,13 @@
         <translation>Nicht geregelt</translation>
     </message>
     <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
         <source>Product</source>
         <translation>Produkt</translation>
     </message>
@@ -903,10 +937,6 @@
     <message>
         <source>Source</source>
         <translation>Quelle</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
     </message>
     <message>
         <source>Rates now</source>

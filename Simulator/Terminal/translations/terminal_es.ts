@@ -330,6 +330,33 @@
     </message>
 </context>
 <context>
+    <name>FindingUnits</name>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>%1 m²</source>
+        <translation>%1 m²</translation>
+    </message>
+    <message>
+        <source>%1 ft²</source>
+        <translation>%1 ft²</translation>
+    </message>
+</context>
+<context>
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
@@ -340,8 +367,8 @@
         <translation>Control del mapa: %1</translation>
     </message>
     <message>
-        <source>lies %1 km from %2, which feeds products, too</source>
-        <translation>está a %1 km de %2, que también alimenta productos</translation>
+        <source>lies %1 from %2, which feeds products, too</source>
+        <translation>está a %1 de %2, que también alimenta productos</translation>
     </message>
 </context>
 <context>
@@ -855,7 +882,7 @@
     </message>
 </context>
 <context>
-    <name>RateTable</name>
+    <name>RateRow</name>
     <message>
         <source>Prescription</source>
         <translation>Prescripción</translation>
@@ -885,6 +912,13 @@
         <translation>Sin control</translation>
     </message>
     <message>
+        <source>Off</source>
+        <translation>Apagado</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
         <source>Product</source>
         <translation>Producto</translation>
     </message>
@@ -903,10 +937,6 @@
     <message>
         <source>Source</source>
         <translation>Origen</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Apagado</translation>
     </message>
     <message>
         <source>Rates now</source>

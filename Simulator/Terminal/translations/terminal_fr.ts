@@ -330,6 +330,33 @@
     </message>
 </context>
 <context>
+    <name>FindingUnits</name>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 pi</translation>
+    </message>
+    <message>
+        <source>%1 m²</source>
+        <translation>%1 m²</translation>
+    </message>
+    <message>
+        <source>%1 ft²</source>
+        <translation>%1 pi²</translation>
+    </message>
+</context>
+<context>
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
@@ -340,8 +367,8 @@
         <translation>Contrôle de la carte : %1</translation>
     </message>
     <message>
-        <source>lies %1 km from %2, which feeds products, too</source>
-        <translation>se trouve à %1 km de %2, qui alimente aussi des produits</translation>
+        <source>lies %1 from %2, which feeds products, too</source>
+        <translation>se trouve à %1 de %2, qui alimente aussi des produits</translation>
     </message>
 </context>
 <context>
@@ -855,10 +882,10 @@
     </message>
 </context>
 <context>
-    <name>RateTable</name>
+    <name>RateRow</name>
     <message>
         <source>Prescription</source>
-        <translation>Carte</translation>
+        <translation>Préconisation</translation>
     </message>
     <message>
         <source>Default rate</source>
@@ -885,6 +912,13 @@
         <translation>Non piloté</translation>
     </message>
     <message>
+        <source>Off</source>
+        <translation>Arrêt</translation>
+    </message>
+</context>
+<context>
+    <name>RateTable</name>
+    <message>
         <source>Product</source>
         <translation>Produit</translation>
     </message>
@@ -903,10 +937,6 @@
     <message>
         <source>Source</source>
         <translation>Origine</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Arrêt</translation>
     </message>
     <message>
         <source>Rates now</source>

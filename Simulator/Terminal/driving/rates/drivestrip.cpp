@@ -37,7 +37,7 @@ DriveStrip::DriveStrip(Simulation *simulation, const RateHistory *history, QWidg
         showPage();
     });
     connect(simulation->machine(), &Machine::activeProductChanged, this, [this] {
-        table->showFirstPage();
+        table->showActive();
         showPage();
     });
     connect(simulation->machine(), &Machine::mapsChanged, this, [this] { pace.request(); });
@@ -59,7 +59,7 @@ void DriveStrip::showPage()
 
 QSize DriveStrip::sizeHint() const
 {
-    return QSize(0, usualHeight);
+    return QSize(0, RateTable::usualHeight());
 }
 
 void DriveStrip::resizeEvent(QResizeEvent *)

@@ -15,9 +15,6 @@ class DriveStrip : public QWidget {
     Q_OBJECT
 
 public:
-    /// Pixels.
-    static constexpr int usualHeight = 164;
-
     /// Neither is owned; both outlive the strip's use.
     DriveStrip(Simulation *simulation, const RateHistory *history, QWidget *parent = nullptr);
 

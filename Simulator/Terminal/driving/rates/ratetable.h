@@ -1,47 +1,39 @@
 #pragma once
 
-#include "ratecommand.h"
-#include "shownunit.h"
-
+#include <QList>
 #include <QWidget>
 
-#include <vector>
-
+class RateRow;
 class Simulation;
 
-/// What is prescribed, commanded and applied now, and why, a row for each product: the active one first, then the
-/// others in their order, as many as a page holds.
+/// What is prescribed, commanded and applied now, and why, a row for each product, as many as a page holds. A touched
+/// row makes its product the active one.
 class RateTable : public QWidget {
     Q_OBJECT
 
 public:
     static constexpr int rowsOfAPage = 3;
+    /// Pixels.
+    static int usualHeight();
 
     /// `simulation` is not owned and outlives the table's use.
-    explicit RateTable(const Simulation *simulation, QWidget *parent = nullptr);
+    explicit RateTable(Simulation *simulation, QWidget *parent = nullptr);
 
     int pages() const;
     /// From 0.
     int page() const { return shownPage; }
     void showNextPage();
-    /// Shows the page that begins with the active product.
-    void showFirstPage();
-    /// Why a rate is commanded, as the operator reads it.
-    static QString sourceText(CommandSource source);
+    /// Shows the page that has the active product.
+    void showActive();
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void takeProducts();
-    /// Product numbers, the active one first.
-    std::vector<int> order() const;
-    void drawHead(QPainter &painter) const;
-    void drawRow(QPainter &painter, const QRect &row, int number) const;
-    /// Where a column's text goes in a row.
-    QRect cell(const QRect &row, int column) const;
+    void showPage(int number);
 
-    const Simulation *simulation;
-    std::vector<ShownUnit> units;
+    Simulation *simulation;
+    QList<RateRow *> rows;
     int shownPage = 0;
 };

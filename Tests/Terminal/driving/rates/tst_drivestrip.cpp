@@ -3,6 +3,7 @@
 #include "paintedtexts.h"
 #include "ratehistory.h"
 #include "rateplot.h"
+#include "raterow.h"
 #include "ratetable.h"
 #include "testbase.h"
 #include "theme.h"
@@ -22,7 +23,8 @@ private Q_SLOTS:
     void aRowTellsRatesUnitAndSource();
     void aProductThatNoPrescriptionDrivesIsNotControlled();
     void ratesAreInTheOperatorsUnit();
-    void theActiveProductIsTheFirst();
+    void aTouchedRowMakesItsProductTheActiveOne();
+    void aRowIsBigEnoughForAGlove();
     void sixteenProductsArePagesOfThree();
     void aNewLookAheadIsSeenAtTheNextStep();
     void theHistoryIsOfTheGroundUnderTheImplement();
@@ -56,7 +58,7 @@ void TestDriveStrip::cleanup()
 
 QStringList TestDriveStrip::row(RateTable &table, int index)
 {
-    table.resize(515, 164);
+    table.resize(515, RateTable::usualHeight());
     // Behind the head's five texts.
     return paintedTexts(table).mid(5 + 6 * index, 6);
 }
@@ -133,13 +135,41 @@ void TestDriveStrip::ratesAreInTheOperatorsUnit()
         QCOMPARE(ShownUnit().rateText(rate), QLatin1String(text));
 }
 
-void TestDriveStrip::theActiveProductIsTheFirst()
+void TestDriveStrip::aTouchedRowMakesItsProductTheActiveOne()
+{
+    RateHistory history(&bench->simulation);
+    DriveStrip strip(&bench->simulation, &history);
+    strip.resize(792, strip.sizeHint().height());
+    strip.show();
+    const auto rowOf = [&strip](int number) {
+        return strip.findChild<RateRow *>(QStringLiteral("rateRow%1").arg(number));
+    };
+    for (const int touched : {3, 2, 2, 1}) {
+        QTest::mouseClick(rowOf(touched), Qt::LeftButton);
+        QCOMPARE(bench->machine.activeProduct(), touched);
+        for (int number = 1; number <= 3; ++number) {
+            QCOMPARE(rowOf(number)->isChecked(), number == touched);
+            QCOMPARE(rowOf(number)->text(), ProductFile::standard().at(number - 1).name);
+        }
+    }
+    bench->machine.setActiveProduct(2);
+    QVERIFY(rowOf(2)->isChecked() && !rowOf(1)->isChecked());
+    // The keyboard does as the finger.
+    QTest::keyClick(rowOf(3), Qt::Key_Return);
+    QCOMPARE(bench->machine.activeProduct(), 3);
+}
+
+void TestDriveStrip::aRowIsBigEnoughForAGlove()
 {
     RateTable table(&bench->simulation);
-    bench->machine.setActiveProduct(3);
-    QCOMPARE(row(table, 0).first(), QStringLiteral("Herbicide"));
-    QCOMPARE(row(table, 1).first(), QStringLiteral("Seed"));
-    QCOMPARE(row(table, 2).first(), QStringLiteral("Fertiliser"));
+    table.resize(515, RateTable::usualHeight());
+    table.show();
+    const QList<RateRow *> rows = table.findChildren<RateRow *>();
+    QCOMPARE(rows.size(), 3);
+    for (const RateRow *row : rows) {
+        QVERIFY(Theme::millimetresPerPixel * row->height() >= Theme::leastTouchTarget);
+        QVERIFY(table.rect().contains(row->geometry()));
+    }
 }
 
 void TestDriveStrip::sixteenProductsArePagesOfThree()
@@ -153,7 +183,7 @@ void TestDriveStrip::sixteenProductsArePagesOfThree()
     MachineBench many(products);
     RateHistory history(&many.simulation);
     DriveStrip strip(&many.simulation, &history);
-    strip.resize(792, DriveStrip::usualHeight);
+    strip.resize(792, RateTable::usualHeight());
     auto *page = strip.findChild<TouchButton *>(QStringLiteral("ratesPage"));
     auto *table = strip.findChild<RateTable *>();
     strip.show();
@@ -161,14 +191,14 @@ void TestDriveStrip::sixteenProductsArePagesOfThree()
     many.machine.setActiveProduct(5);
     QStringList seen;
     for (int pages = 0; pages < 6; ++pages) {
-        QCOMPARE(page->text(), QStringLiteral("%1/6").arg(pages + 1));
+        QCOMPARE(page->text(), QStringLiteral("%1/6").arg((pages + 1) % 6 + 1));
         seen += paintedTexts(*table).filter(QRegularExpression(QStringLiteral("^P\\d+$")));
         QTest::mouseClick(page, Qt::LeftButton);
     }
     QCOMPARE(seen.size(), 16);
-    QCOMPARE(seen.mid(0, 3), (QStringList{"P5", "P1", "P2"}));
-    QCOMPARE(seen.last(), QStringLiteral("P16"));
-    QCOMPARE(page->text(), QStringLiteral("1/6"));
+    QCOMPARE(seen.mid(0, 3), (QStringList{"P4", "P5", "P6"}));
+    QCOMPARE(seen.last(), QStringLiteral("P3"));
+    QCOMPARE(page->text(), QStringLiteral("2/6"));
     QTest::mouseClick(page, Qt::LeftButton);
     many.machine.setActiveProduct(2);
     QCOMPARE(page->text(), QStringLiteral("1/6"));
@@ -275,7 +305,7 @@ void TestDriveStrip::stepsShareADrawing()
 {
     RateHistory history(&bench->simulation);
     DriveStrip strip(&bench->simulation, &history);
-    strip.resize(792, DriveStrip::usualHeight);
+    strip.resize(792, RateTable::usualHeight());
     strip.show();
     QVERIFY(QTest::qWaitForWindowExposed(&strip));
     class Count : public QObject {

@@ -1,0 +1,62 @@
+#include "findingunits.h"
+
+#include "Backend/mapfinding.h"
+#include "shownnumber.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr double hectare = 10000.0; // Square metres.
+constexpr double acre = 4046.8564224;
+constexpr double foot = 0.3048; // Metres.
+constexpr double mile = 1609.344;
+
+} // namespace
+
+FindingUnits::FindingUnits(UnitSystem system)
+    : isMetric(system == UnitSystem::Metric)
+{
+}
+
+QString FindingUnits::textOf(const MapFinding &finding) const
+{
+    // In the back-end's language with a comma or a point.
+    static const QRegularExpression figure(QStringLiteral("\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"));
+    // Others have no figures of these kinds, but names of columns and products that may look like one.
+    if (!finding.area)
+        return finding.text;
+    QString text;
+    int end = 0;
+    QRegularExpressionMatchIterator matches = figure.globalMatch(finding.text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const double value = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
+        text += finding.text.mid(end, match.capturedStart() - end);
+        text += match.captured(2).isEmpty() ? width(value) : area(value);
+        end = match.capturedEnd();
+    }
+    return text + finding.text.mid(end);
+}
+
+QString FindingUnits::distance(double metres) const
+{
+    return isMetric ? tr("%1 km").arg(ShownNumber::text(metres / 1000.0))
+                    : tr("%1 mi").arg(ShownNumber::text(metres / mile));
+}
+
+QString FindingUnits::width(double metres) const
+{
+    constexpr double small = 1.0;
+    const double shown = isMetric ? metres : metres / foot;
+    return (isMetric ? tr("%1 m") : tr("%1 ft")).arg(ShownNumber::text(shown, shown < small ? 2 : 1));
+}
+
+QString FindingUnits::area(double squareMetres) const
+{
+    if (squareMetres >= 0.1 * hectare)
+        return ShownNumber::text(squareMetres / (isMetric ? hectare : acre), 2)
+            + (isMetric ? QStringLiteral(" ha") : QStringLiteral(" ac"));
+    const double shown = isMetric ? squareMetres : squareMetres / (foot * foot);
+    return (isMetric ? tr("%1 m\u00b2") : tr("%1 ft\u00b2")).arg(ShownNumber::text(shown, shown < 10.0 ? 2 : 1));
+}

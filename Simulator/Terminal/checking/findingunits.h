@@ -1,0 +1,27 @@
+#pragma once
+
+#include "unitsystem.h"
+
+#include <QCoreApplication>
+
+struct MapFinding;
+
+/// What is found in a map is told in metres; this writes it in the operator's units.
+class FindingUnits {
+    Q_DECLARE_TR_FUNCTIONS(FindingUnits)
+
+public:
+    explicit FindingUnits(UnitSystem system);
+
+    /// The finding's text, with widths in metres or feet, and areas from a tenth of a hectare on in hectares or acres,
+    /// smaller ones in square metres or square feet.
+    QString textOf(const MapFinding &finding) const;
+    /// "12.3 km", "7.6 mi". `metres` is long.
+    QString distance(double metres) const;
+
+private:
+    QString width(double metres) const;
+    QString area(double squareMetres) const;
+
+    bool isMetric;
+};
