@@ -29,37 +29,92 @@ bool installCatalogue(const QString &path)
     return translator->load(path) && QCoreApplication::installTranslator(translator.release());
 }
 
+const QString english = QStringLiteral("en");
+
+/// "pt_BR" of "pt-BR".
+QString withCountry(QString code)
+{
+    return code.replace(QLatin1Char('-'), QLatin1Char('_'));
+}
+
+/// "pt" of "pt_BR".
+QString withoutCountry(const QString &language)
+{
+    return language.section(QLatin1Char('_'), 0, 0);
+}
+
+QFileInfoList ownCatalogues()
+{
+    initialiseCatalogues();
+    return QDir(QStringLiteral(":/translations")).entryInfoList();
+}
+
+QFileInfoList cataloguesOf(const QDir &pluginFolder)
+{
+    QFileInfoList all;
+    for (const QString &path : {pluginFolder.path(), pluginFolder.filePath(QStringLiteral("translations"))})
+        all += QDir(path).entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    return all;
+}
+
+/// What both the display and the plug-ins speak.
+QStringList languagesWith(const QDir &pluginFolder)
+{
+    QStringList guests;
+    const QFileInfoList catalogues = cataloguesOf(pluginFolder);
+    for (const QFileInfo &catalogue : catalogues)
+        guests.append(languageOf(catalogue));
+    QStringList all{english};
+    const QFileInfoList own = ownCatalogues();
+    for (const QFileInfo &catalogue : own) {
+        if (guests.contains(languageOf(catalogue)))
+            all.append(languageOf(catalogue));
+    }
+    return all;
+}
+
 } // namespace
+
+QString Languages::suiting(const QStringList &wanted, const QDir &pluginFolder)
+{
+    const QStringList spoken = languagesWith(pluginFolder);
+    for (const QString &name : wanted) {
+        const QString language = withCountry(name);
+        if (spoken.contains(language))
+            return language;
+        for (const QString &other : spoken) {
+            if (withoutCountry(other) == withoutCountry(language))
+                return other;
+        }
+    }
+    return english;
+}
 
 QString Languages::install(const QString &code, const QDir &pluginFolder)
 {
-    QString language = code;
-    language.replace(QLatin1Char('-'), QLatin1Char('_'));
-    if (language.compare(QLatin1String("en"), Qt::CaseInsensitive) == 0) {
+    const QString language = withCountry(code);
+    if (language.compare(english, Qt::CaseInsensitive) == 0) {
         QLocale::setDefault(QLocale::English);
         return {};
     }
     bool isFound = false;
-    for (const QString &path : {pluginFolder.path(), pluginFolder.filePath(QStringLiteral("translations"))}) {
-        const QFileInfoList catalogues = QDir(path).entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
-        for (const QFileInfo &catalogue : catalogues) {
-            if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) != 0)
-                continue;
-            if (!installCatalogue(catalogue.filePath()))
-                return QStringLiteral("%1: no translation catalogue").arg(catalogue.filePath());
-            isFound = true;
-        }
+    const QFileInfoList catalogues = cataloguesOf(pluginFolder);
+    for (const QFileInfo &catalogue : catalogues) {
+        if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) != 0)
+            continue;
+        if (!installCatalogue(catalogue.filePath()))
+            return QStringLiteral("%1: no translation catalogue").arg(catalogue.filePath());
+        isFound = true;
     }
     if (!isFound)
         return QStringLiteral("--language %1: no catalogue for it in %2").arg(code, pluginFolder.path());
     // Numbers are written as it writes them.
     QLocale::setDefault(QLocale(language));
     // A language that only the plug-ins speak leaves the display's own texts as they are.
-    initialiseCatalogues();
-    const QStringList own = QDir(QStringLiteral(":/translations")).entryList();
-    for (const QString &name : own) {
-        if (languageOf(QFileInfo(name)).compare(language, Qt::CaseInsensitive) == 0)
-            installCatalogue(QStringLiteral(":/translations/") + name);
+    const QFileInfoList own = ownCatalogues();
+    for (const QFileInfo &catalogue : own) {
+        if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) == 0)
+            installCatalogue(catalogue.filePath());
     }
     return {};
 }

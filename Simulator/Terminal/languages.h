@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QDir>
-#include <QString>
+#include <QStringList>
 
 /// The user-interface languages: English is built in, the others are catalogues (*_<code>.qm) in the plug-ins' folder
 /// or its folder "translations", and the display's own, which the program carries.
@@ -10,4 +10,7 @@ public:
     /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application, and has numbers
     /// shown as it writes them (QLocale's default). Empty, or the reason when there is none.
     static QString install(const QString &code, const QDir &pluginFolder);
+    /// The code of the first language of `wanted` ("de-AT", "pt", as QLocale names them) that the display and the
+    /// plug-ins speak, of another country if need be; English where they speak none.
+    static QString suiting(const QStringList &wanted, const QDir &pluginFolder);
 };

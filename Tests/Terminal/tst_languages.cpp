@@ -19,6 +19,8 @@ private Q_SLOTS:
     void cleanup();
     void aLanguageIsFoundByItsCode_data();
     void aLanguageIsFoundByItsCode();
+    void theDesktopsLanguageIsTakenWhereItIsSpoken_data();
+    void theDesktopsLanguageIsTakenWhereItIsSpoken();
     void numbersAndTheUsualProductsFollowTheLanguage_data();
     void numbersAndTheUsualProductsFollowTheLanguage();
     void everyTextOfTheDisplayIsTranslated_data();
@@ -67,6 +69,32 @@ void TestLanguages::aLanguageIsFoundByItsCode()
     QCOMPARE(Languages::install(code, QDir(pluginFolder())), QString());
     QTEST(title(), "text");
     QTEST(QCoreApplication::translate("ProductSelector", "PRODUCTS"), "ownText");
+}
+
+void TestLanguages::theDesktopsLanguageIsTakenWhereItIsSpoken_data()
+{
+    QTest::addColumn<QStringList>("wanted");
+    QTest::addColumn<QString>("code");
+    const auto row = [](const QStringList &wanted, const char *code) {
+        QTest::newRow(qPrintable(wanted.join(QLatin1Char(' ')))) << wanted << code;
+    };
+    row({"de"}, "de");
+    row({"de-AT", "fr"}, "de");
+    row({"pt-BR"}, "pt_BR");
+    row({"pt_PT"}, "pt_BR");
+    row({"ja-JP", "es-MX", "fr"}, "es");
+    row({"en-GB", "de"}, "en");
+    row({"C"}, "en");
+    row({"ja"}, "en");
+    row({}, "en");
+}
+
+void TestLanguages::theDesktopsLanguageIsTakenWhereItIsSpoken()
+{
+    QFETCH(QStringList, wanted);
+    QTEST(Languages::suiting(wanted, QDir(pluginFolder())), "code");
+    // Half a display in another language is none.
+    QCOMPARE(Languages::suiting(wanted, QDir(buildPath("Simulator/Resources"))), QStringLiteral("en"));
 }
 
 void TestLanguages::numbersAndTheUsualProductsFollowTheLanguage_data()

@@ -28,7 +28,7 @@ void declareOptions(QCommandLineParser &parser)
          QStringLiteral("FILE")},
         {unitsOption, QStringLiteral("the operator's unit system: us, metric (default) or turf"),
          QStringLiteral("SYSTEM")},
-        {languageOption, QStringLiteral("user-interface language: en (default), de, es, fr or pt_BR"),
+        {languageOption, QStringLiteral("user-interface language: en, de, es, fr or pt_BR (default: the desktop's)"),
          QStringLiteral("CODE")},
         {themeOption, QStringLiteral("the display's looks: day or night (default: what suits the desktop)"),
          QStringLiteral("THEME")},

@@ -22,6 +22,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QScreen>
 
 #include <algorithm>
@@ -199,6 +200,14 @@ QString runTasks(Terminal &terminal, const CommandLine &line)
     return error;
 }
 
+QString languageFor(const CommandLine &line, const QDir &pluginFolder)
+{
+    if (!line.language.isEmpty())
+        return line.language;
+    // What a task prints and pictures is the same on every desktop.
+    return Languages::suiting(line.isInteractive() ? QLocale::system().uiLanguages() : QStringList(), pluginFolder);
+}
+
 /// What does not end the run.
 void tell(const QString &complaint)
 {
@@ -211,7 +220,7 @@ void tell(const QString &complaint)
 QString runTerminal(const CommandLine &line, double scale)
 {
     const QDir pluginFolder = line.pluginDir.isEmpty() ? Installation::plugins() : QDir(line.pluginDir);
-    QString error = Languages::install(line.language.isEmpty() ? QStringLiteral("en") : line.language, pluginFolder);
+    QString error = Languages::install(languageFor(line, pluginFolder), pluginFolder);
     if (error.isEmpty())
         error = NeededImages::problem(Installation::images());
     if (!error.isEmpty())

@@ -237,7 +237,8 @@ void TestCommandLine::theHelpTellsWhatHoldsWithoutAnOption_data()
     QTest::newRow("columns")
         << "--columns <A,B,...> rate columns for products 1, 2, ... (default: the most likely ones)";
     QTest::newRow("units") << "--units <SYSTEM> the operator's unit system: us, metric (default) or turf";
-    QTest::newRow("language") << "--language <CODE> user-interface language: en (default), de, es, fr or pt_BR";
+    QTest::newRow("language")
+        << "--language <CODE> user-interface language: en, de, es, fr or pt_BR (default: the desktop's)";
     QTest::newRow("plug-ins") << "--plugin-dir <DIR> where plug-ins are searched (default: the plug-in of this build)";
     QTest::newRow("help") << "-h, --help show this help";
 }

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void aDisplayThatGoesEndsItWithALine();
     void withoutOpenGlItSaysSo();
     void itSpeaksTheOperatorsLanguage();
+    void itSpeaksTheDesktopsLanguageToAnOperatorOnly_data();
+    void itSpeaksTheDesktopsLanguageToAnOperatorOnly();
     void aMissingImageIsNamed();
     void itRunsWithClosedStreams_data();
     void itRunsWithClosedStreams();
@@ -262,6 +264,33 @@ void TestTerminalSimulator::itSpeaksTheOperatorsLanguage()
     QVERIFY2(german.status == 0, qPrintable(german.errors));
     QVERIFY2(german.output.contains(QLatin1String(" 80.00 (SEED_K_HA, 1000/ha)\n")), qPrintable(german.output));
     QVERIFY2(!german.output.contains(QLatin1String("Rx Rate")), qPrintable(german.output));
+}
+
+void TestTerminalSimulator::itSpeaksTheDesktopsLanguageToAnOperatorOnly_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const QString german = QStringLiteral("diese Datei gibt es nicht");
+    const QString english = QStringLiteral("there is no such file");
+    QTest::newRow("operator") << "de_DE:en" << QStringList() << german;
+    QTest::newRow("operator with a language") << "de_DE:en" << QStringList{"--language", "en"} << english;
+    QTest::newRow("operator of an English desktop") << "en_US" << QStringList() << english;
+    QTest::newRow("task") << "de_DE:en" << QStringList{"--describe", "0,0"} << english;
+    QTest::newRow("picture") << "de_DE:en" << QStringList{"--screenshot", "never.png"} << english;
+}
+
+void TestTerminalSimulator::itSpeaksTheDesktopsLanguageToAnOperatorOnly()
+{
+    QFETCH(QString, languages);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), languages);
+    // An unreadable file ends it before anybody is needed.
+    const Outcome outcome = run(arguments + QStringList{QStringLiteral("no-such.shp")}, environment);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains(reason), qPrintable(outcome.errors));
 }
 
 void TestTerminalSimulator::aMissingImageIsNamed()
