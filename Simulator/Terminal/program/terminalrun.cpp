@@ -245,8 +245,10 @@ QString runTerminal(const CommandLine &line, double scale)
         error = loadPlugins(terminal, pluginFolder);
     if (error.isEmpty() && isShown && !terminal.show(firstSize(terminal, line, scale)))
         error = QStringLiteral("the display has no OpenGL");
-    if (error.isEmpty() && line.isInteractive())
+    if (error.isEmpty() && line.isInteractive()) {
+        terminal.screen()->keepOnScreen();
         terminal.greet();
+    }
     const QStringList files = withoutRepetition(line.prescriptions);
     if (error.isEmpty() && line.open)
         showOpenWindow(terminal, files);

@@ -39,3 +39,16 @@ QSize ScreenFit::firstSize(const QSize &available)
     const double multiple = std::max(1.0, std::floor(roomyShare * largestScale(available)));
     return (std::min(multiple, largestScale(available)) * QSizeF(TerminalWindow::displaySize)).toSize();
 }
+
+QRect ScreenFit::onScreen(const QRect &window, const QMargins &frame, const QRect &available)
+{
+    const QRect room = available.marginsRemoved(frame);
+    QRect place = window;
+    if (place.width() > room.width() || place.height() > room.height())
+        place.setSize(place.size().scaled(room.size(), Qt::KeepAspectRatio));
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    return place;
+}

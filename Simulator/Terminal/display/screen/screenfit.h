@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QPointF>
 #include <QRectF>
 #include <QSize>
@@ -22,6 +23,9 @@ public:
     /// The size that a window has at first on a screen whose free part has this size: the terminal's own, or the
     /// largest that is whole there; on screens with very many pixels a multiple of it.
     static QSize firstSize(const QSize &available);
+    /// Where a window goes that would be at `window` with that frame around it (`available`: the free part of the
+    /// screen): moved, and made smaller in its proportions, as little as has all of it seen.
+    static QRect onScreen(const QRect &window, const QMargins &frame, const QRect &available);
 
 private:
     double factor = 1.0;

@@ -12,7 +12,10 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QWindow>
+
+#include <utility>
 
 namespace {
 
@@ -55,6 +58,21 @@ ScreenWindow *ScreenWindow::find()
 QPointF ScreenWindow::placeOf(const QPointF &pixel) const
 {
     return ScreenFit(QSizeF(size())).toWindow().map(pixel);
+}
+
+void ScreenWindow::keepOnScreen()
+{
+    isToBeFitted = true;
+    if (windowHandle()->isActive())
+        fitFrame();
+}
+
+void ScreenWindow::fitFrame()
+{
+    if (!std::exchange(isToBeFitted, false) || isFullScreen() || isMaximized())
+        return;
+    setGeometry(
+        ScreenFit::onScreen(geometry(), windowHandle()->frameMargins(), windowHandle()->screen()->availableGeometry()));
 }
 
 QSize ScreenWindow::plainSize() const
@@ -112,8 +130,11 @@ void ScreenWindow::activateForemost()
 
 bool ScreenWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         QMetaObject::invokeMethod(this, &ScreenWindow::activateForemost, Qt::QueuedConnection);
+        // A desktop frames a window before it gives it the keyboard.
+        QMetaObject::invokeMethod(this, &ScreenWindow::fitFrame, Qt::QueuedConnection);
+    }
     if (event->type() == QEvent::WindowStateChange)
         display->showFullScreen(isFullScreen());
     return QWidget::event(event);

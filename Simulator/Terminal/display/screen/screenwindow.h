@@ -25,6 +25,8 @@ public:
     /// Where a pixel of the terminal is seen in this window.
     QPointF placeOf(const QPointF &pixel) const;
 
+    /// Moves and shrinks the window so that it is seen with its frame, once the desktop has put that around it.
+    void keepOnScreen();
     /// The window's size when it fills neither the screen nor what the desktop leaves of it.
     QSize plainSize() const;
 
@@ -41,10 +43,12 @@ protected:
 private:
     void showPart(const QRegion &part);
     void activateForemost();
+    void fitFrame();
     void switchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
     TerminalWindow *display;
     UnseenWindows *windows;
     InputPassage *passage = nullptr;
+    bool isToBeFitted = false;
     QSize sizeBefore; ///< Before it filled the screen.
 };

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void aPartIsShownInWholeUnits();
     void theFirstSizeSuitsTheScreen_data();
     void theFirstSizeSuitsTheScreen();
+    void aWindowIsOnTheScreenWithItsFrame_data();
+    void aWindowIsOnTheScreenWithItsFrame();
 };
 
 void TestScreenFit::theDisplayIsWholeInItsProportionsInTheMiddle_data()
@@ -64,6 +66,24 @@ void TestScreenFit::theFirstSizeSuitsTheScreen()
 {
     QFETCH(QSize, available);
     QTEST(ScreenFit::firstSize(available), "size");
+}
+
+void TestScreenFit::aWindowIsOnTheScreenWithItsFrame_data()
+{
+    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QRect>("placed");
+    QTest::newRow("stays") << QRect(60, 40, 1280, 640) << QRect(60, 40, 1280, 640);
+    QTest::newRow("title bar above the screen") << QRect(60, 0, 1200, 690) << QRect(60, 30, 1200, 690);
+    QTest::newRow("beyond the right and below") << QRect(400, 300, 1000, 600) << QRect(365, 127, 1000, 600);
+    QTest::newRow("on a screen that is gone") << QRect(-3000, -50, 640, 400) << QRect(1, 30, 640, 400);
+    QTest::newRow("as tall as the screen") << QRect(1, 30, 1165, 728) << QRect(1, 30, 1115, 697);
+    QTest::newRow("wider than the screen") << QRect(0, 30, 2728, 600) << QRect(1, 30, 1364, 300);
+}
+
+void TestScreenFit::aWindowIsOnTheScreenWithItsFrame()
+{
+    QFETCH(QRect, window);
+    QTEST(ScreenFit::onScreen(window, QMargins(1, 30, 1, 1), QRect(0, 0, 1366, 728)), "placed");
 }
 
 RXMAP_TEST(TestScreenFit, None)

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QWindow>
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void keysGoToWhatHasTheKeyboard();
     void f11FillsTheScreenAndEscapeLeaves();
     void aButtonFillsTheScreenAndLeaves();
+    void itIsKeptOnTheScreen();
     void escapeLeavesWhatIsInnermostAlone_data();
     void escapeLeavesWhatIsInnermostAlone();
     void aPartThatChangesIsSeen();
@@ -352,6 +354,25 @@ void TestScreenWindow::aButtonFillsTheScreenAndLeaves()
     // However it was asked for, the button leads back.
     QTest::keyClick(screen->windowHandle(), Qt::Key_F11);
     QCOMPARE(button->text(), QStringLiteral("Leave full screen"));
+}
+
+void TestScreenWindow::itIsKeptOnTheScreen()
+{
+    const QRect available = screen->windowHandle()->screen()->availableGeometry();
+    const QSize large = 2 * available.size();
+    resizeTo(large);
+    screen->keepOnScreen();
+    const auto activate = [this] {
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(screen.data(), &activation);
+    };
+    activate();
+    QTRY_VERIFY(available.contains(screen->geometry()));
+    // Once: the operator may have it as large as there is need.
+    resizeTo(large);
+    activate();
+    QTest::qWait(100);
+    QCOMPARE(screen->size(), large);
 }
 
 void TestScreenWindow::escapeLeavesWhatIsInnermostAlone_data()
