@@ -51,8 +51,8 @@ RingRepair::RingRepair(double maxCoordinate, std::pmr::memory_resource *rings)
 PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<double> &ys,
                               const SourceRing &ring) const
 {
-    PlaneRing result(memory);
-    result.reserve(ring.count);
+    PlaneRing result(ring.count, memory);
+    size_t kept = 0;
     const double perMetre = 1.0 / gridSize;
     for (size_t i = ring.first; i < ring.first + ring.count; ++i) {
         if (!std::isfinite(xs[i]) || !std::isfinite(ys[i]))
@@ -60,9 +60,10 @@ PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<d
         // The sum turns a negative zero into the plain one.
         const PlaneVertex vertex = {nearestWhole(xs[i] * perMetre) * gridSize + 0.0,
                                     nearestWhole(ys[i] * perMetre) * gridSize + 0.0};
-        if (result.empty() || !samePlace(result.back(), vertex))
-            result.push_back(vertex);
+        if (kept == 0 || !samePlace(result[kept - 1], vertex))
+            result[kept++] = vertex;
     }
+    result.resize(kept);
     dropRepeatedVertices(result);
     return result;
 }
