@@ -28,6 +28,8 @@ private Q_SLOTS:
     void putsItsOriginAtZero();
     void measuresEastAndNorthInMetres();
     void agreesWithTheGridOfAProjectedMap();
+    void projectsTheWorldAsItsCoordinateSystemsDo_data();
+    void projectsTheWorldAsItsCoordinateSystemsDo();
     void takesLatitudeFirstSystemsAsFilesStoreThem();
     void placesAMapWithoutACoordinateSystem();
     void refusesWhatItCannotPlace_data();
@@ -77,6 +79,39 @@ void LocalPlaneTest::agreesWithTheGridOfAProjectedMap()
     QVERIFY(plane.project(map, xs, ys, error));
     QVERIFY(std::fabs((xs[1] - xs[0]) * 0.9996 - 1000.0) < 0.001);
     QVERIFY(std::fabs((ys[2] - ys[0]) * 0.9996 - 1000.0) < 0.001);
+}
+
+void LocalPlaneTest::projectsTheWorldAsItsCoordinateSystemsDo_data()
+{
+    QTest::addColumn<QByteArray>("system");
+    QTest::newRow("none named") << QByteArray();
+    QTest::newRow("latitude first") << QByteArray("EPSG:4326");
+    QTest::newRow("longitude first") << QByteArray("OGC:CRS84");
+    QTest::newRow("a Shapefile's names") << QByteArray(
+        "GEOGCS[\"GCS_WGS_1984\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137.0,298.257223563]],"
+        "PRIMEM[\"Greenwich\",0.0],UNIT[\"Degree\",0.0174532925199433]]");
+    QTest::newRow("another datum") << QByteArray("EPSG:4314");
+    QTest::newRow("another meridian") << QByteArray("+proj=longlat +datum=WGS84 +pm=paris");
+}
+
+void LocalPlaneTest::projectsTheWorldAsItsCoordinateSystemsDo()
+{
+    QFETCH(QByteArray, system);
+    RawPrescription map = mapAt({11.0, 11.0123, 11.4, 12.5, -170.0}, {48.0, 48.01234, 47.9, 49.5, 10.0}, 0);
+    OGRSpatialReference source;
+    QCOMPARE(source.SetFromUserInput(system.isEmpty() ? "EPSG:4326" : system.constData()), OGRERR_NONE);
+    if (!system.isEmpty())
+        map.reference.reset(source.Clone());
+    source.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRSpatialReference plane;
+    plane.importFromProj4("+proj=tmerc +lat_0=48.25 +lon_0=11.5 +datum=WGS84 +units=m");
+    const std::unique_ptr<OGRCoordinateTransformation> between(OGRCreateCoordinateTransformation(&source, &plane));
+    std::vector<double> expectedXs = map.xs, expectedYs = map.ys, xs, ys;
+    QVERIFY(between->Transform(static_cast<quint16>(map.xs.size()), expectedXs.data(), expectedYs.data()));
+    QString error;
+    QVERIFY(LocalPlane(11.5, 48.25).project(map, xs, ys, error));
+    QVERIFY(xs == expectedXs);
+    QVERIFY(ys == expectedYs);
 }
 
 void LocalPlaneTest::takesLatitudeFirstSystemsAsFilesStoreThem()
