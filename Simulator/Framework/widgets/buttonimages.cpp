@@ -21,11 +21,11 @@ QPixmap pressedImage(const QPixmap &image)
     QPainter painter(&result);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(result.rect(), pressedShade);
+    const QRectF area(QPointF(), QSizeF(image.size()) / image.devicePixelRatio());
+    painter.fillRect(area, pressedShade);
     painter.setPen(QPen(pressedRing, pressedRingWidth));
     const qreal inset = pressedRingWidth / 2.0 + 2.0;
-    painter.drawRoundedRect(QRectF(result.rect()).adjusted(inset, inset, -inset, -inset), pressedRingRadius,
-                            pressedRingRadius);
+    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), pressedRingRadius, pressedRingRadius);
     return result;
 }
 
@@ -34,8 +34,8 @@ QPixmap pressedImage(const QPixmap &image)
 ButtonImages::ButtonImages(const QDir &folder, const QStringList &files)
 {
     for (const QString &file : files)
-        images.append(QPixmap(folder.filePath(file)));
-    const QPixmap first = images.value(0);
+        images.append(SharpImage(folder.filePath(file)));
+    const QPixmap first = images.value(0).plain();
     drawn = first.hasAlphaChannel() ? QRegion(first.mask()).boundingRect() : first.rect();
 }
 
@@ -64,7 +64,7 @@ bool ButtonImages::setCurrent(int index)
 
 void ButtonImages::paint(QPainter &painter, Look look) const
 {
-    const QPixmap image = images.value(shown);
+    const QPixmap image = images.value(shown).forPainter(painter);
     if (image.isNull())
         return;
     painter.save();

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "sharpimage.h"
+
 #include <QDir>
-#include <QPixmap>
 #include <QRect>
 #include <QSize>
 #include <QStringList>
@@ -28,7 +29,7 @@ public:
     void paint(QPainter &painter, Look look) const;
 
 private:
-    QVector<QPixmap> images;
+    QVector<SharpImage> images;
     QRect drawn;
     int shown = 0;
 };

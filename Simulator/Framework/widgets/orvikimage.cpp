@@ -1,12 +1,13 @@
 #include "Framework/orvikimage.h"
 
+#include "sharpimage.h"
+
 #include <QPainter>
-#include <QPixmap>
 
 class OrvikImagePrivate {
 public:
     int id = 0;
-    QPixmap image;
+    SharpImage image;
 };
 
 OrvikImage::OrvikImage(int id, QDir imageDir, QString image, QPoint position, QWidget *parent)
@@ -14,7 +15,7 @@ OrvikImage::OrvikImage(int id, QDir imageDir, QString image, QPoint position, QW
     , d(new OrvikImagePrivate)
 {
     d->id = id;
-    d->image.load(imageDir.filePath(image));
+    d->image = SharpImage(imageDir.filePath(image));
     setGeometry(QRect(position, d->image.size()));
 }
 
@@ -27,5 +28,6 @@ int OrvikImage::id() const
 
 void OrvikImage::paintEvent(QPaintEvent *)
 {
-    QPainter(this).drawPixmap(0, 0, d->image);
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, d->image.forPainter(painter));
 }

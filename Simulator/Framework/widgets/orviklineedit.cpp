@@ -3,6 +3,7 @@
 #include "numericentry.h"
 #include "numerickey.h"
 #include "numerickeypad.h"
+#include "sharpimage.h"
 #include "touchpress.h"
 
 #include <QColor>
@@ -14,7 +15,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
-#include <QPixmap>
 #include <QPointer>
 
 namespace {
@@ -51,7 +51,7 @@ public:
     OrvikLineEdit *q;
     int id = 0;
     QDir imageDir;
-    QPixmap background;
+    SharpImage background;
     NumericEntry entry;
     TouchPress touch;
     QPointer<NumericKeypad> keypad;
@@ -142,7 +142,7 @@ OrvikLineEdit::OrvikLineEdit(int id, QDir imageDir, QPoint position, QWidget *pa
 {
     d->id = id;
     d->imageDir = imageDir;
-    d->background.load(imageDir.filePath(QStringLiteral("lineEditBg.png")));
+    d->background = SharpImage(imageDir.filePath(QStringLiteral("lineEditBg.png")));
     setGeometry(QRect(position, d->background.isNull() ? sizeWithoutImage : d->background.size()));
     // Not by tabulator: a dialog would give the keyboard to its first field when it opens.
     setFocusPolicy(Qt::ClickFocus);
@@ -189,7 +189,7 @@ void OrvikLineEdit::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
-    painter.drawPixmap(0, 0, d->background);
+    painter.drawPixmap(0, 0, d->background.forPainter(painter));
     d->paintText(painter);
     if (!d->isEditing && !d->touch.looksPressed())
         return;
