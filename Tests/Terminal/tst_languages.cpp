@@ -25,6 +25,7 @@ private Q_SLOTS:
     void numbersAndTheUsualProductsFollowTheLanguage();
     void everyTextOfTheDisplayIsTranslated_data();
     void everyTextOfTheDisplayIsTranslated();
+    void germanHasAWordOfItsOwnForTheDefaultRate();
     void whatALoadSaysIsTranslated_data();
     void whatALoadSaysIsTranslated();
     void englishNeedsNoCatalogue_data();
@@ -134,6 +135,18 @@ void TestLanguages::everyTextOfTheDisplayIsTranslated()
     QVERIFY(catalogue.count(QStringLiteral("<translation>")) > 10);
     QVERIFY(!catalogue.contains(QStringLiteral("type=\"unfinished\"")));
     QVERIFY(!catalogue.contains(QStringLiteral("<translation></translation>")));
+}
+
+void TestLanguages::germanHasAWordOfItsOwnForTheDefaultRate()
+{
+    QFile catalogue(sourcePath("Simulator/Terminal/translations/terminal_de.ts"));
+    QVERIFY(catalogue.open(QIODevice::ReadOnly));
+    static const QRegularExpression word(
+        QStringLiteral("<source>([^<]*)</source>\\s*<translation>[^<]*[vV]org(?:abe|egeben)"));
+    QRegularExpressionMatchIterator found = word.globalMatch(QString::fromUtf8(catalogue.readAll()));
+    QVERIFY(found.hasNext());
+    while (found.hasNext())
+        QCOMPARE(found.next().captured(1), QStringLiteral("Default rate"));
 }
 
 void TestLanguages::whatALoadSaysIsTranslated_data()

@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>Prescribed</source>
-        <translation>Vorgegeben</translation>
+        <translation>Soll</translation>
     </message>
     <message>
         <source>Applied</source>
@@ -765,7 +765,7 @@
     </message>
     <message>
         <source>No rate prescribed</source>
-        <translation>Keine Menge vorgegeben</translation>
+        <translation>Kein Soll</translation>
     </message>
     <message>
         <source>Total</source>
@@ -773,15 +773,15 @@
     </message>
     <message>
         <source>Error: applied minus prescribed</source>
-        <translation>Fehler: ausgebracht minus vorgegeben</translation>
+        <translation>Fehler: ausgebracht minus Soll</translation>
     </message>
     <message>
         <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
-        <translation>Um höchstens %1 neben der Vorgabe: %2 der Fläche. Außerhalb des Diagramms: %3.</translation>
+        <translation>Um höchstens %1 neben dem Soll: %2 der Fläche. Außerhalb des Diagramms: %3.</translation>
     </message>
     <message>
         <source>applied minus prescribed</source>
-        <translation>ausgebracht minus vorgegeben</translation>
+        <translation>ausgebracht minus Soll</translation>
     </message>
     <message>
         <source>Early and late</source>
