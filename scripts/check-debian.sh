@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the last commit and runs all tests in a bare Debian of another suite, or with another compiler. Needs root.
-#   scripts/check-debian.sh SUITE [PACKAGE,... COMPILER]      trixie      bookworm clang,libclang-rt-dev clang++
+#   scripts/check-debian.sh SUITE [PACKAGE,... COMPILER]      trixie      bookworm clang,libclang-rt-dev,llvm clang++
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/install-packages.sh

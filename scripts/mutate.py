@@ -147,7 +147,7 @@ class Bench:
         found = {test["name"]: os.path.basename(test["command"][0]) for test in self.tests if test.get("command")}
         return {name: program for name, program in found.items() if program in programs}
 
-    def failing(self, names, seconds=60):
+    def failing(self, names, seconds=300):
         """The first tests that fail; empty when all pass."""
         if not names:
             return ""

@@ -4,9 +4,15 @@
 
 #include <QMetaObject>
 #include <QObject>
+#include <QThread>
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
+
+extern "C" {
+void AnnotateIgnoreWritesBegin(const char *file, int line);
+void AnnotateIgnoreWritesEnd(const char *file, int line);
+}
 
 namespace {
 
@@ -39,6 +45,27 @@ private:
     QSlotObjectBase *queued;
 };
 
+/// While a call is put into another thread's list of events the sanitizer looks away: Qt locks the list unseen.
+class UnseenPosting {
+public:
+    explicit UnseenPosting(const QObject &receiver)
+        : isToOther(receiver.thread() != QThread::currentThread())
+    {
+        if (isToOther)
+            AnnotateIgnoreWritesBegin(__FILE__, __LINE__);
+    }
+    ~UnseenPosting()
+    {
+        if (isToOther)
+            AnnotateIgnoreWritesEnd(__FILE__, __LINE__);
+    }
+    UnseenPosting(const UnseenPosting &) = delete;
+    UnseenPosting &operator=(const UnseenPosting &) = delete;
+
+private:
+    const bool isToOther;
+};
+
 using Invoke = bool (*)(QObject *, QtPrivate::QSlotObjectBase *, Qt::ConnectionType, void *);
 
 Invoke qtsOwn()
@@ -56,7 +83,11 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
 {
     auto *ordered = new OrderedCall(slot);
     ordered->ref();
-    const bool isDone = qtsOwn()(object, ordered, type, result);
+    const auto post = [&] {
+        const UnseenPosting unseen(*object);
+        return qtsOwn()(object, ordered, type, result);
+    };
+    const bool isDone = post();
     if (type == Qt::BlockingQueuedConnection)
         __tsan_acquire(ordered);
     ordered->destroyIfLastRef();
