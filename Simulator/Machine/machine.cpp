@@ -21,6 +21,8 @@
 #include <QMap>
 
 #include <algorithm>
+#include <utility>
+
 namespace {
 
 QString numbered(const char *prefix, int number)
@@ -73,16 +75,17 @@ bool isSame(const Product &one, const Product &other)
     return one.name == other.name && one.kind == other.kind;
 }
 
-/// The products that columns make of those that there are. There are never fewer, and one that stays what it was keeps
-/// all that the operator set.
-Products remade(const QList<ColumnProduct> &columns, const Products &present)
+/// The default rates of new products, of which there are never fewer than before. One that is what it was keeps the
+/// rate in use where that is not what it was made with: the operator set it.
+QList<double> ratesToUse(const Products &products, const Products &before, const QList<double> &ratesInUse)
 {
-    Products products = SuggestedProducts::of(columns, present.size());
-    for (int i = 0; i < present.size(); ++i) {
-        if (isSame(products.at(i), present.at(i)))
-            products[i] = present.at(i);
+    QList<double> rates;
+    for (int i = 0; i < products.size(); ++i) {
+        const bool isKept =
+            i < before.size() && isSame(products.at(i), before.at(i)) && ratesInUse.at(i) != before.at(i).defaultRate;
+        rates.append(isKept ? ratesInUse.at(i) : products.at(i).defaultRate);
     }
-    return products;
+    return rates;
 }
 
 } // namespace
@@ -99,6 +102,7 @@ Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Pr
     for (int number = 1; number <= allProducts.size(); ++number)
         publishProduct(number);
     listProducts();
+    useRates(ratesToUse(allProducts, {}, {}));
     connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
     connect(backend, &PrescriptionBackend::productsMade, this, &Machine::takeProducts);
     announceActiveProduct();
@@ -111,24 +115,30 @@ void Machine::listProducts()
         const Product &product = allProducts.at(number - 1);
         auto *item = new ProductLineItem(basisOf(product.kind));
         item->setPrimaryProductNodeGroup(broker->getGroup(numbered("system.productNode.", number), false));
-        RxMapLoader *loader = prescriptions->loader(number - 1);
-        loader->defaultRate = product.defaultRate;
-        item->setRxMapLoader(loader);
+        item->setRxMapLoader(prescriptions->loader(number - 1));
         items.append(item);
     }
     BinManager::instance(broker)->setLoadedProducts(items);
 }
 
+void Machine::useRates(const QList<double> &rates)
+{
+    for (int i = 0; i < rates.size(); ++i)
+        prescriptions->loader(i)->defaultRate = rates.at(i);
+}
+
 void Machine::takeProducts(const QList<ColumnProduct> &columns)
 {
-    const Products made = remade(columns, productsInUse());
-    const int before = allProducts.size();
-    if (!areProductsOpen || std::equal(made.begin(), made.end(), allProducts.begin(), allProducts.end(), isSame))
+    if (!areProductsOpen)
         return;
-    allProducts = made;
-    for (int number = 1; number <= before; ++number)
+    const QList<double> inUse = ratesInUse();
+    const Products before = std::exchange(allProducts, SuggestedProducts::of(columns, allProducts.size()));
+    useRates(ratesToUse(allProducts, before, inUse));
+    if (std::equal(before.begin(), before.end(), allProducts.begin(), allProducts.end(), isSame))
+        return;
+    for (int number = 1; number <= before.size(); ++number)
         describeProduct(number);
-    for (int number = before + 1; number <= allProducts.size(); ++number)
+    for (int number = before.size() + 1; number <= allProducts.size(); ++number)
         publishProduct(number);
     listProducts();
     Q_EMIT productsChanged();
@@ -145,12 +155,12 @@ void Machine::settleProducts()
     areProductsOpen = areProductsOpen && prescriptions->maps().isEmpty();
 }
 
-Products Machine::productsInUse() const
+QList<double> Machine::ratesInUse() const
 {
-    Products products = allProducts;
-    for (int i = 0; i < products.size(); ++i)
-        products[i].defaultRate = prescriptions->loader(i)->defaultRate;
-    return products;
+    QList<double> rates;
+    for (int i = 0; i < allProducts.size(); ++i)
+        rates.append(prescriptions->loader(i)->defaultRate);
+    return rates;
 }
 
 void Machine::enterProducts(LoadRequest &request) const
@@ -183,12 +193,12 @@ Machine::ProductMaker Machine::maker() const
         {DbGroupProductGroupInfo::CountRate, converter->getCountRateToDisplay()},
         {DbGroupProductGroupInfo::VolumeRate, converter->getVolumeRateToDisplay()},
         {DbGroupProductGroupInfo::WeightRate, converter->getWeightRateToDisplay()}};
-    const Products present = productsInUse();
-    return [factors, present](const QList<ColumnProduct> &columns) {
+    return [factors, before = allProducts, inUse = ratesInUse()](const QList<ColumnProduct> &columns) {
         QList<MachineProduct> made;
-        const Products products = remade(columns, present);
+        const Products products = SuggestedProducts::of(columns, before.size());
+        const QList<double> rates = ratesToUse(products, before, inUse);
         for (const Product &product : products)
-            made.append({product.name, productGroupName(made.size() + 1), rateKindOf(product), product.defaultRate,
+            made.append({product.name, productGroupName(made.size() + 1), rateKindOf(product), rates.at(made.size()),
                          product.underVra, false, factors.value(rateKindOf(product), 1.0)});
         return made;
     };
@@ -196,7 +206,7 @@ Machine::ProductMaker Machine::maker() const
 
 Products Machine::productsFor(const QList<ColumnProduct> &columns) const
 {
-    return columns.isEmpty() ? allProducts : remade(columns, productsInUse());
+    return columns.isEmpty() ? allProducts : SuggestedProducts::of(columns, allProducts.size());
 }
 
 QList<MachineProduct> Machine::loadedProductsFor(const QList<ColumnProduct> &columns) const

@@ -87,8 +87,9 @@ private:
 
     /// Makes products of a file's columns, see LoadRequest.
     ProductMaker maker() const;
-    /// With the default rates in use.
-    Products productsInUse() const;
+    /// The default rates in use, which the operator or a file may have changed, by product.
+    QList<double> ratesInUse() const;
+    void useRates(const QList<double> &rates);
     void publishTerminal();
     void publishProduct(int number);
     /// Makes the groups of a product what it is.

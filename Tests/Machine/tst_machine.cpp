@@ -13,6 +13,7 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 /// What the machine publishes for plug-ins.
 class TestMachine : public TestBase {
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void aMachineWithItsOwnProductsKeepsThem();
     void productsAreOfferedAnewWhereNoneStaysInUse();
     void productsMadeAgainKeepWhatWasSet();
+    void defaultRatesFollowTheMap();
 
 private:
     void build(const Products &products, UnitSystem units = UnitSystem::Metric);
@@ -307,7 +309,7 @@ void TestMachine::productsThatStandInGiveWayToThoseOfTheFirstMap()
     const QList<QObject *> items = BinManager::instance(broker.data())->loadedFilteredProducts();
     QCOMPARE(items.size(), 5);
     QVERIFY(qobject_cast<ProductLineItem *>(items.first())->isVolumeBasedProduct());
-    QCOMPARE(backend->loader(4)->defaultRate, 150.0);
+    QCOMPARE(backend->loader(4)->defaultRate, 135.0);
     // The next one finds them.
     QVERIFY(backend->loadAndWait(request("two-strips.geojson", {})).isOk());
     QCOMPARE(changes.size(), 1);
@@ -372,6 +374,36 @@ void TestMachine::productsMadeAgainKeepWhatWasSet()
     QCOMPARE(machine->products().size(), 4);
     QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
     QCOMPARE(backend->loader(1)->defaultRate, 7.5);
+}
+
+void TestMachine::defaultRatesFollowTheMap()
+{
+    const QTemporaryDir folder;
+    const auto load = [this, &folder](const QByteArray &rate) {
+        QFile zones(TerminalHost::fixture(QStringLiteral("three-zones.geojson")));
+        QFile changed(folder.filePath(QStringLiteral("changed.geojson")));
+        if (!zones.open(QIODevice::ReadOnly) || !changed.open(QIODevice::WriteOnly))
+            return false;
+        changed.write(zones.readAll().replace("\"SEED_K_HA\": 80.0", "\"SEED_K_HA\": " + rate));
+        changed.close();
+        machine->leaveProductsOpen();
+        LoadRequest request;
+        request.path = changed.fileName();
+        machine->offerProducts(request);
+        return backend->loadAndWait(request).isOk();
+    };
+    const auto defaultRate = [this] { return backend->loader(0)->defaultRate; };
+    QVERIFY(load("50.0"));
+    // The products are called as those that stood in.
+    QCOMPARE(machine->products().first().name, ProductFile::standard().first().name);
+    QCOMPARE(defaultRate(), 70.0);
+    QVERIFY(load("200.0"));
+    QCOMPARE(defaultRate(), 120.0);
+    backend->loader(0)->defaultRate = 99.0;
+    for (const char *rate : {"50.0", "200.0"}) {
+        QVERIFY(load(rate));
+        QCOMPARE(defaultRate(), 99.0);
+    }
 }
 
 RXMAP_TEST(TestMachine, Core)

@@ -3,6 +3,7 @@
 #include "productfile.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -18,7 +19,18 @@ Product::Kind kindOf(const ColumnProduct &column)
     }
 }
 
-/// The standard product of the column's kind under the column's name.
+/// Limits that a tenth of the rate and ten times it lie within.
+ActuatorSettings reaching(ActuatorSettings actuator, double rate)
+{
+    constexpr double reach = 10.0;
+    if (rate > 0.0) {
+        actuator.minRate = std::min(actuator.minRate, rate / reach);
+        actuator.maxRate = std::max(actuator.maxRate, rate * reach);
+    }
+    return actuator;
+}
+
+/// The standard product of the column's kind under the column's name, for such rates as the column has.
 Product productOf(const ColumnProduct &column)
 {
     const Products standard = ProductFile::standard();
@@ -26,6 +38,9 @@ Product productOf(const ColumnProduct &column)
                                     [&column](const Product &any) { return any.kind == kindOf(column); });
     product.name = column.name;
     product.shortName = ProductFile::shortNameOf(column.name);
+    product.actuator = reaching(product.actuator, column.typicalRate);
+    if (!std::isnan(column.defaultRate()))
+        product.defaultRate = column.defaultRate();
     return product;
 }
 

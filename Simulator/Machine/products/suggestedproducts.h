@@ -8,6 +8,7 @@ class SuggestedProducts {
 public:
     /// One for each column, at its number, and as many of the standard ones as it takes to have three and no gap: those
     /// first whose kind no column has. A column beyond the greatest number of products has none. `least`: so many at
-    /// least.
+    /// least. A column that was loaded gives its product the default rate that fits its rates, and limits that reach
+    /// them.
     static Products of(const QList<ColumnProduct> &columns, int least = 0);
 };

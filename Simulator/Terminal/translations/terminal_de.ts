@@ -973,6 +973,10 @@
         <source>Working width</source>
         <translation>Arbeitsbreite</translation>
     </message>
+    <message>
+        <source>Default rate of %1</source>
+        <translation>Vorgabe von %1</translation>
+    </message>
 </context>
 <context>
     <name>StatusBar</name>

@@ -973,6 +973,10 @@
         <source>Working width</source>
         <translation>Ancho de trabajo</translation>
     </message>
+    <message>
+        <source>Default rate of %1</source>
+        <translation>Dosis estándar de %1</translation>
+    </message>
 </context>
 <context>
     <name>StatusBar</name>

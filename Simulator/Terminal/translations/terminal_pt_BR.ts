@@ -973,6 +973,10 @@
         <source>Working width</source>
         <translation>Largura de trabalho</translation>
     </message>
+    <message>
+        <source>Default rate of %1</source>
+        <translation>Dose padrão de %1</translation>
+    </message>
 </context>
 <context>
     <name>StatusBar</name>

@@ -8,6 +8,7 @@
 #include "geosinterrupt.h"
 #include "legendbuilder.h"
 #include "recordselection.h"
+#include "typicalrate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -146,6 +147,7 @@ bool PrescriptionLoader::loadInto(LoadedMap &map)
         return false;
     makeChain(map);
     buildLegends(map);
+    setDefaultRates(map);
     records.tellSkipped();
     control.report(1.0);
     return true;
@@ -225,8 +227,6 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
         const MachineProduct &product = request.products.at(feed.product);
         map.report.columns.append(source.columns[static_cast<size_t>(feed.column)].name);
         map.rateCalNames.append(product.rateCalName);
-        const double given = decision.sources.at(map.defaultRates.size()).placeRates.defaultRate();
-        map.defaultRates.append(std::isnan(given) ? product.defaultRate : given);
         map.columns.push_back(
             {map.report.columns.last(), decision.sources.at(int(map.columns.size())).unit, feed.factor});
     }
@@ -260,7 +260,7 @@ void PrescriptionLoader::makeChain(LoadedMap &map) const
     map.report.bounds = map.chain->bounds();
 }
 
-void PrescriptionLoader::buildLegends(LoadedMap &map) const
+void PrescriptionLoader::buildLegends(LoadedMap &map)
 {
     constexpr double squareMetresPerHectare = 10000.0;
     const std::vector<double> areas = map.chain->polygonAreas();
@@ -284,5 +284,25 @@ void PrescriptionLoader::buildLegends(LoadedMap &map) const
         map.report.hasSingleRates.append(legend.hasSingleRates);
         map.report.areas.append(LegendBuilder::areasOf(legend.classes, column, areas));
         map.report.amounts.append(amount);
+        for (ColumnProduct &made : map.report.columnProducts) {
+            if (made.number == product + 1)
+                made.typicalRate = TypicalRate::of(column, areas, request.products.at(product).displayFactor);
+        }
+    }
+}
+
+void PrescriptionLoader::setDefaultRates(LoadedMap &map)
+{
+    for (ColumnProduct &made : map.report.columnProducts) {
+        for (const RateSource &feed : qAsConst(map.report.sources)) {
+            if (feed.product == made.number)
+                made.givenRate = feed.placeRates.defaultRate();
+        }
+    }
+    if (!map.report.columnProducts.isEmpty())
+        request.products = request.makeProducts(map.report.columnProducts);
+    for (const RateSource &feed : qAsConst(map.report.sources)) {
+        const double given = feed.placeRates.defaultRate();
+        map.defaultRates.append(std::isnan(given) ? request.products.at(feed.product - 1).defaultRate : given);
     }
 }

@@ -49,7 +49,9 @@ private:
     bool chooseColumns(LoadedMap &map);
     bool arrange();
     void makeChain(LoadedMap &map) const;
-    void buildLegends(LoadedMap &map) const;
+    void buildLegends(LoadedMap &map);
+    /// Those that the file gives, else the products'; products that are made from it get theirs by what it prescribes.
+    void setDefaultRates(LoadedMap &map);
 
     LoadRequest request;
     ColumnPolicy policy;

@@ -2,6 +2,8 @@
 #include "suggestedproducts.h"
 #include "testbase.h"
 
+#include <limits>
+
 Q_DECLARE_METATYPE(ColumnProduct)
 
 /// The machine that a file's columns make.
@@ -13,6 +15,8 @@ private Q_SLOTS:
     void columnsBecomeProducts();
     void thereAreNeverFewerThanBefore();
     void allButTheNameIsThatOfTheStandardProductOfTheKind();
+    void ratesFitThoseOfTheColumn_data();
+    void ratesFitThoseOfTheColumn();
 };
 
 void TestSuggestedProducts::columnsBecomeProducts_data()
@@ -70,6 +74,33 @@ void TestSuggestedProducts::allButTheNameIsThatOfTheStandardProductOfTheKind()
     QCOMPARE(int(made.kind), int(standard.kind));
     QCOMPARE(made.defaultRate, standard.defaultRate);
     QCOMPARE(made.actuator.maxRate, standard.actuator.maxRate);
+}
+
+void TestSuggestedProducts::ratesFitThoseOfTheColumn_data()
+{
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    QTest::addColumn<double>("typical");
+    QTest::addColumn<double>("given");
+    QTest::addColumn<double>("defaultRate");
+    QTest::addColumn<double>("least");
+    QTest::addColumn<double>("greatest");
+    QTest::newRow("not loaded") << none << none << 150.0 << 10.0 << 20000.0;
+    QTest::newRow("seed by weight") << 20.0 << none << 20.0 << 2.0 << 20000.0;
+    QTest::newRow("fertiliser") << 180.0 << none << 180.0 << 10.0 << 20000.0;
+    QTest::newRow("manure") << 30000.0 << none << 30000.0 << 10.0 << 300000.0;
+    QTest::newRow("nothing put out") << 0.0 << none << 0.0 << 10.0 << 20000.0;
+    QTest::newRow("given by the file") << 4.0 << 0.0 << 0.0 << 0.4 << 20000.0;
+}
+
+void TestSuggestedProducts::ratesFitThoseOfTheColumn()
+{
+    QFETCH(double, typical);
+    QFETCH(double, given);
+    const Product made =
+        SuggestedProducts::of({{"Wheat", DbGroupProductGroupInfo::WeightRate, 1, typical, given}}).first();
+    QTEST(made.defaultRate, "defaultRate");
+    QTEST(made.actuator.minRate, "least");
+    QTEST(made.actuator.maxRate, "greatest");
 }
 
 RXMAP_TEST(TestSuggestedProducts, None)

@@ -19,6 +19,7 @@ class TestReportPage : public TestBase {
 private Q_SLOTS:
     void initTestCase();
     void itIsWholeAndNeedsNothingElse();
+    void itsHeadTellsTheDefaultRatesOfWhatIsDriven();
     void picturesShowPlanAndDriveInTheLegendsColours();
     void whatIsAppliedWithoutARateHasAColourOfItsOwn();
     void classesAddUp();
@@ -130,6 +131,15 @@ void TestReportPage::itIsWholeAndNeedsNothingElse()
             || texts("p").contains(QStringLiteral("A look-ahead of 0.80 s puts the changes nearest to the borders.")));
     // Without tuning there is no curve.
     QCOMPARE(drive(UnitSystem::Metric, false).count("<svg"), 1);
+}
+
+void TestReportPage::itsHeadTellsTheDefaultRatesOfWhatIsDriven()
+{
+    const QStringList cells = texts("td");
+    const int place = cells.indexOf(QStringLiteral("Default rate of Seed <&\">"));
+    QVERIFY(place >= 0);
+    QCOMPARE(cells.at(place + 1), QStringLiteral("65.0 k/ha"));
+    QVERIFY(!cells.contains(QStringLiteral("Default rate of Fertiliser")));
 }
 
 void TestReportPage::picturesShowPlanAndDriveInTheLegendsColours()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void cancelsALoadThatWaitsToBePublished();
     void cancelsTheRepairOfATangleAtOnce();
     void putsDefaultRatesOfTaskDataIntoUse();
+    void givesProductsThatItMakesTheMapsRates();
     void isDestroyedWhileItLoads();
     void letsAListenerDestroyIt();
     void givesALoadUpWhenTheProgramEnds_data();
@@ -166,6 +167,26 @@ void PrescriptionBackendLoadingTest::putsDefaultRatesOfTaskDataIntoUse()
     QCOMPARE(taken.size(), 1);
     QCOMPARE(group(report.group)->getRateCalMappings().value(0).defaultRate, 148.15);
     QCOMPARE(backend->loader(0)->defaultRate, 0.0);
+}
+
+void PrescriptionBackendLoadingTest::givesProductsThatItMakesTheMapsRates()
+{
+    LoadRequest request = requestFor(fixture("three-zones.geojson"));
+    request.columns = QStringList{"FERT_KG_HA", "HERB_L_HA"};
+    request.makeProducts = [](const QList<ColumnProduct> &columns) {
+        QList<MachineProduct> made;
+        for (const ColumnProduct &column : columns)
+            made.append({column.name, QString::number(column.number), column.kind, column.defaultRate()});
+        return made;
+    };
+    const LoadReport report = backend->loadAndWait(request);
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    const auto mappings = group(report.group)->getRateCalMappings();
+    const double rates[] = {135.0, 2.75};
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(report.columnProducts.at(i).typicalRate, rates[i]);
+        QCOMPARE(mappings.at(i).defaultRate, rates[i]);
+    }
 }
 
 void PrescriptionBackendLoadingTest::isDestroyedWhileItLoads()

@@ -1,5 +1,6 @@
 #include "reportpage.h"
 
+#include "activemap.h"
 #include "drivenfield.h"
 #include "drivetally.h"
 #include "machine.h"
@@ -86,5 +87,18 @@ void ReportPage::writeSummary(QXmlStreamWriter &page, const DrivenField &field)
     writeRow(page, tr("Area worked"), withUnit(units.area(field.tally->workedArea()), units.areaUnit()));
     writeRow(page, tr("Working width"),
              withUnit(units.length(field.simulation->vehicle()->size().width), units.lengthUnit()));
+    writeDefaultRates(page, *field.simulation->machine());
     page.writeEndElement();
+}
+
+void ReportPage::writeDefaultRates(QXmlStreamWriter &page, const Machine &machine)
+{
+    const QList<MachineProduct> products = machine.loadedProducts();
+    for (int number = 1; number <= products.size(); ++number) {
+        const MachineProduct &product = products.at(number - 1);
+        const ReportUnits units(machine, number);
+        if (product.isDriven && ActiveMap::find(*machine.dataBroker(), product.rateCalName).isValid())
+            writeRow(page, tr("Default rate of %1").arg(product.name),
+                     withUnit(units.rate(product.defaultRate), units.rateUnit()));
+    }
 }

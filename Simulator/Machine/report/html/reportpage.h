@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
+class Machine;
 class QXmlStreamWriter;
 struct DrivenField;
 
@@ -17,4 +18,6 @@ public:
 private:
     static void writeHead(QXmlStreamWriter &page);
     static void writeSummary(QXmlStreamWriter &page, const DrivenField &field);
+    /// Those of the products that a prescription drives.
+    static void writeDefaultRates(QXmlStreamWriter &page, const Machine &machine);
 };

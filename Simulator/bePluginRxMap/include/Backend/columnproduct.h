@@ -4,6 +4,9 @@
 
 #include <QString>
 
+#include <cmath>
+#include <limits>
+
 /// What a column of a file says of the product that it was made for.
 struct ColumnProduct {
     /// As the column calls it: "Urea" for "UREA_KG_HA".
@@ -12,4 +15,11 @@ struct ColumnProduct {
     DbGroupProductGroupInfo::RateKind kind = DbGroupProductGroupInfo::WeightRate;
     /// Number from 1 of the product that the column is to feed.
     int number = 0;
+    /// The rate at which the map mostly puts it out (TypicalRate), base units; not a number before the file is loaded.
+    double typicalRate = std::numeric_limits<double>::quiet_NaN();
+    /// What the file gives for places without a prescription (PlaceRates); not a number where it gives nothing.
+    double givenRate = std::numeric_limits<double>::quiet_NaN();
+
+    /// What suits places without a prescription.
+    double defaultRate() const { return std::isnan(givenRate) ? typicalRate : givenRate; }
 };
