@@ -2,6 +2,7 @@
 
 #include "buttonlook.h"
 #include "findingkind.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QKeyEvent>
@@ -10,7 +11,10 @@
 namespace {
 
 constexpr int titlePixels = 22;
+constexpr int titleHeight = 27;
 constexpr int textPixels = 18;
+constexpr int textHeight = 22;
+constexpr int mostLines = 2; // Of the text.
 constexpr int inset = 16;
 
 } // namespace
@@ -50,13 +54,19 @@ void FindingRow::paintEvent(QPaintEvent *)
     Theme::drawPanel(painter, rect(), look.ground);
     if (hasFocus())
         Theme::drawFocus(painter, rect(), false);
-    const QRect inner = rect().adjusted(inset, 8, -inset, -8);
+    const int width = rect().width() - 2 * inset;
+    const QFont textFont = Theme::font(textPixels);
+    const QStringList lines = TextLines::of(text(), QFontMetrics(textFont), width, mostLines);
+    QRect line(inset, (height() - titleHeight - lines.size() * textHeight) / 2, width, titleHeight);
     painter.setPen(look.text);
     painter.setFont(Theme::font(titlePixels, true));
-    painter.drawText(inner, Qt::AlignTop | Qt::AlignLeft,
-                     painter.fontMetrics().elidedText(title, Qt::ElideMiddle, inner.width()));
-    painter.setPen(look.text);
-    painter.setFont(Theme::font(textPixels));
-    painter.drawText(inner, Qt::AlignBottom | Qt::AlignLeft,
-                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(title, Qt::ElideMiddle, width));
+    painter.setFont(textFont);
+    line.translate(0, titleHeight);
+    line.setHeight(textHeight);
+    for (const QString &part : lines) {
+        painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, part);
+        line.translate(0, textHeight);
+    }
 }

@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-/// One finding as a row that can be touched: its kind, and below what is said of it.
+/// One finding as a row that can be touched: its kind, and right below what is said of it, on two lines if it is long.
 class FindingRow : public QAbstractButton {
     Q_OBJECT
 
