@@ -24,6 +24,21 @@ bool isLitter(const ZipArchive::Entry &entry)
     return entry.name().startsWith(QLatin1Char('.')) || entry.path.startsWith(QLatin1String("__MACOSX/"));
 }
 
+/// What belongs to a prescription where it lies beside it: the other files of a Shapefile, the journals of a database.
+QStringList partsOf(const ZipArchive::Entry &main)
+{
+    const QString ending = QFileInfo(main.name()).suffix();
+    QStringList parts;
+    if (isSame(ending, QStringLiteral("shp"))) {
+        for (const char *other : {"shx", "dbf", "prj", "cpg"})
+            parts.append(main.path.left(main.path.size() - ending.size()) + QLatin1String(other));
+    } else if (isSame(ending, QStringLiteral("gpkg"))) {
+        for (const char *journal : {"-wal", "-journal"})
+            parts.append(main.path + QLatin1String(journal));
+    }
+    return parts;
+}
+
 QString list(const std::vector<const ZipArchive::Entry *> &entries)
 {
     QStringList paths;
@@ -129,13 +144,11 @@ void ArchivedPrescription::keepDocument(std::vector<const ZipArchive::Entry *> &
 std::vector<const ZipArchive::Entry *> ArchivedPrescription::withParts(const ZipArchive::Entry &main) const
 {
     std::vector<const ZipArchive::Entry *> parts{&main};
-    const QString stem = main.path.left(main.path.size() - QFileInfo(main.name()).suffix().size());
-    for (const char *ending : {"shx", "dbf", "prj", "cpg"}) {
-        const auto part =
-            std::find_if(archive.entries().begin(), archive.entries().end(), [&](const ZipArchive::Entry &entry) {
-                return isSame(entry.path, stem + QLatin1String(ending));
-            });
-        if (part != archive.entries().end() && isSame(QFileInfo(main.name()).suffix(), QStringLiteral("shp")))
+    const QStringList names = partsOf(main);
+    for (const QString &name : names) {
+        const auto part = std::find_if(archive.entries().begin(), archive.entries().end(),
+                                       [&name](const ZipArchive::Entry &entry) { return isSame(entry.path, name); });
+        if (part != archive.entries().end())
             parts.push_back(&*part);
     }
     return parts;

@@ -22,7 +22,7 @@ private:
     bool isCandidate(const ZipArchive::Entry &entry) const;
     /// Of a .kmz the document at its root is the one to open, unless it does but link to the others.
     void keepDocument(std::vector<const ZipArchive::Entry *> &found);
-    /// The entry, and the parts of a Shapefile beside it.
+    /// The entry, and what belongs to it.
     std::vector<const ZipArchive::Entry *> withParts(const ZipArchive::Entry &main) const;
     bool write(const ZipArchive::Entry &entry, const QString &path);
 

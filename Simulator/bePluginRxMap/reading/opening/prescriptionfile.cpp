@@ -108,7 +108,8 @@ bool PrescriptionFile::takeJournal()
 {
     JournaledDatabase database(path);
     isJournaled = database.hasJournal();
-    if (!isJournaled)
+    // What was unpacked is a copy already.
+    if (!isJournaled || unpacked)
         return true;
     unpacked = std::make_unique<UnpackingFolder>();
     if (!unpacked->isValid())

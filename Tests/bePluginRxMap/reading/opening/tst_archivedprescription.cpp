@@ -22,6 +22,7 @@ private Q_SLOTS:
     void refusesArchivesThatItCannotUse();
     void refusesDamage_data();
     void refusesDamage();
+    void takesTheJournalOfADatabaseAlong();
     void countsThePartsOfAShapefileTogether();
     void checksWhatIsStoredWithoutCompression();
     void opensTheDocumentOfAKmz_data();
@@ -193,6 +194,22 @@ void ArchivedPrescriptionTest::refusesDamage()
     content.replace(begin + place, bytes.size(), bytes);
     writeFile(archive(), content);
     QTEST(errorOf(archive()), "reason");
+}
+
+void ArchivedPrescriptionTest::takesTheJournalOfADatabaseAlong()
+{
+    const QString path = files.filePath(QStringLiteral("open.gpkg"));
+    QVERIFY(QFile::copy(files.filePath(QStringLiteral("a.gpkg")), path));
+    const GdalSession gdal;
+    GDALDatasetUniquePtr written(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE));
+    for (const char *statement : {"PRAGMA journal_mode = WAL", "DELETE FROM layer WHERE rate > 7"})
+        written->ReleaseResultSet(written->ExecuteSQL(statement, nullptr, nullptr));
+    QVERIFY(pack({"NORTH/A.GPKG=open.gpkg", "north/a.gpkg-wal=open.gpkg-wal"}));
+    const QByteArray before = readFile(archive());
+    PrescriptionFile file(archive());
+    QVERIFY2(file.open(gdal), qPrintable(file.error()));
+    QCOMPARE(file.dataset().GetLayer(0)->GetFeatureCount(), GIntBig(7));
+    QCOMPARE(readFile(archive()), before);
 }
 
 void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
