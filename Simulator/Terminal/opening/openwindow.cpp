@@ -10,7 +10,6 @@
 #include "theme.h"
 #include "unitpage.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
@@ -22,7 +21,7 @@ OpenWindow::OpenWindow(Machine *terminalMachine, QSettings &settings, QWidget *p
     , recent(settings)
     , memory(settings)
     , pages(new QStackedLayout(this))
-    , files(new FilePage(this))
+    , files(new FilePage(terminalMachine, recent, this))
     , previews(new PreviewPage(terminalMachine, this))
     , progress(new ProgressPage(this))
     , message(new MessagePage(this))
@@ -48,11 +47,7 @@ void OpenWindow::connectPages()
         if (isVisible() && !isBusy() && last.isOk())
             survey(last.path, last.layer, last.task);
     });
-    connect(machine, &Machine::mapsChanged, this, &OpenWindow::followMaps);
-    followMaps();
-    connect(files, &FilePage::recentWanted, this, [this] { files->showRecent(recent.paths()); });
-    connect(files, &FilePage::openFilesWanted, this, [this] { files->showOpen(openFiles()); });
-    connect(files, &FilePage::fileChosen, this, &OpenWindow::chooseFile);
+    connect(files, &FilePage::fileChosen, this, [this](const QString &path) { preview({path}); });
     connect(files, &FilePage::closeWanted, this, &OpenWindow::closeWanted);
     connect(files, &FilePage::left, this, &OpenWindow::leave);
     connect(progress, &ProgressPage::cancelled, this, &OpenWindow::giveUp);
@@ -101,58 +96,20 @@ void OpenWindow::showProgress(const QString &text, Busy what)
     showPage(progress);
 }
 
+void OpenWindow::offerSample(const QString &path)
+{
+    files->offerSample(path);
+}
+
 void OpenWindow::showFiles()
 {
-    const QStringList paths = recent.paths();
-    if (!recent.folder().isEmpty())
-        files->showFolder(recent.folder());
-    else if (!paths.isEmpty())
-        files->showRecent(paths);
-    else
-        files->showFolder(QDir::homePath());
+    files->showFirst();
     showPage(files);
-}
-
-void OpenWindow::chooseFile(const QString &path)
-{
-    if (files->place() == FilePage::Place::Folder)
-        recent.setFolder(QFileInfo(path).path());
-    preview({path});
-}
-
-QList<FileEntry> OpenWindow::openFiles() const
-{
-    QList<FileEntry> entries;
-    const QList<LoadReport> maps = machine->backend()->maps();
-    for (const LoadReport &map : maps) {
-        QStringList products;
-        const QList<int> numbers = machine->columnsOf(map.group).keys();
-        for (const int number : numbers)
-            products.append(machine->products().at(number - 1).name);
-        const QString note =
-            products.isEmpty() ? tr("feeds no product") : tr("feeds %1").arg(products.join(QStringLiteral(", ")));
-        const QFileInfo info(map.path);
-        entries.append({map.path, info.fileName(), false, info.exists(), note, map.group});
-    }
-    return entries;
-}
-
-void OpenWindow::followMaps()
-{
-    const QList<FileEntry> entries = openFiles();
-    files->setOpenCount(entries.size());
-    if (files->place() == FilePage::Place::Open)
-        files->showOpen(entries);
 }
 
 void OpenWindow::returnToFiles()
 {
-    if (files->place() == FilePage::Place::Recent && recent.paths().isEmpty()) {
-        showFiles();
-        return;
-    }
-    if (files->place() == FilePage::Place::Recent)
-        files->showRecent(recent.paths());
+    files->showAgain();
     showPage(files);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "choicememory.h"
-#include "folderlisting.h"
 #include "openselection.h"
 #include "recentfiles.h"
 
@@ -31,6 +30,8 @@ public:
     /// `machine` and `settings`, in which files and choices are remembered, are not owned and outlive the window.
     OpenWindow(Machine *machine, QSettings &settings, QWidget *parent = nullptr);
 
+    /// Offers a file, where it is there, to who has none yet.
+    void offerSample(const QString &path);
     /// Shows the files to choose from: the folder used last, else the recent files, else what is at home.
     void showFiles();
     /// Shows what these files hold, one after the other.
@@ -70,9 +71,6 @@ private:
     void connectPages();
     void connectPreview();
     void showPage(QWidget *page);
-    void chooseFile(const QString &path);
-    QList<FileEntry> openFiles() const;
-    void followMaps();
     /// To where the file was taken from.
     void returnToFiles();
     void showProgress(const QString &text, Busy what);

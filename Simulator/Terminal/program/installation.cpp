@@ -22,3 +22,8 @@ QDir Installation::images()
 {
     return besideProgram(RXMAP_INSTALLED_IMAGES, "../Resources/images");
 }
+
+QString Installation::sampleField()
+{
+    return besideProgram(RXMAP_INSTALLED_SAMPLE, "../Resources/sample").filePath(QStringLiteral("sample-field.shp"));
+}

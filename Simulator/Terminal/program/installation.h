@@ -9,5 +9,7 @@ namespace Installation {
 QDir plugins();
 /// The images that plug-ins and widgets draw.
 QDir images();
+/// A field to begin with; the file need not be there.
+QString sampleField();
 
 } // namespace Installation

@@ -236,6 +236,7 @@ QString runTerminal(const CommandLine &line, double scale)
     Terminal terminal(setup, line.units);
     tell(terminal.remembered()->complaint());
     QObject::connect(terminal.openWindow(), &OpenWindow::opened, tellWarnings);
+    terminal.openWindow()->offerSample(Installation::sampleField());
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();
     // No time passes but what is driven: each drive begins at the same moment.

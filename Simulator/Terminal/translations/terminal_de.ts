@@ -257,6 +257,10 @@
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
+    <message>
+        <source>Sample field</source>
+        <translation>Beispielfeld</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -597,14 +601,6 @@
         <translation>In welcher Einheit ist %1?</translation>
     </message>
     <message>
-        <source>feeds no product</source>
-        <translation>für kein Produkt</translation>
-    </message>
-    <message>
-        <source>feeds %1</source>
-        <translation>für %1</translation>
-    </message>
-    <message>
         <source>Choose the unit of %1</source>
         <translation>Einheit von %1 wählen</translation>
     </message>
@@ -615,6 +611,17 @@
     <message>
         <source>The file does not tell in which unit it is</source>
         <translation>Die Datei nennt ihre Einheit nicht</translation>
+    </message>
+</context>
+<context>
+    <name>OpenedFiles</name>
+    <message>
+        <source>feeds no product</source>
+        <translation>für kein Produkt</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>für %1</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>Done</source>
         <translation>Listo</translation>
     </message>
+    <message>
+        <source>Sample field</source>
+        <translation>Campo de muestra</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -597,14 +601,6 @@
         <translation>¿En qué unidad está %1?</translation>
     </message>
     <message>
-        <source>feeds no product</source>
-        <translation>no alimenta nada</translation>
-    </message>
-    <message>
-        <source>feeds %1</source>
-        <translation>alimenta %1</translation>
-    </message>
-    <message>
         <source>Choose the unit of %1</source>
         <translation>Elegir la unidad de %1</translation>
     </message>
@@ -615,6 +611,17 @@
     <message>
         <source>The file does not tell in which unit it is</source>
         <translation>El archivo no indica su unidad</translation>
+    </message>
+</context>
+<context>
+    <name>OpenedFiles</name>
+    <message>
+        <source>feeds no product</source>
+        <translation>no alimenta nada</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimenta %1</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>Done</source>
         <translation>Terminé</translation>
     </message>
+    <message>
+        <source>Sample field</source>
+        <translation>Champ d'exemple</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -597,14 +601,6 @@
         <translation>Dans quelle unité est %1 ?</translation>
     </message>
     <message>
-        <source>feeds no product</source>
-        <translation>n’alimente rien</translation>
-    </message>
-    <message>
-        <source>feeds %1</source>
-        <translation>alimente %1</translation>
-    </message>
-    <message>
         <source>Choose the unit of %1</source>
         <translation>Choisir l’unité de %1</translation>
     </message>
@@ -615,6 +611,17 @@
     <message>
         <source>The file does not tell in which unit it is</source>
         <translation>Le fichier n’indique pas son unité</translation>
+    </message>
+</context>
+<context>
+    <name>OpenedFiles</name>
+    <message>
+        <source>feeds no product</source>
+        <translation>n’alimente rien</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimente %1</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>Done</source>
         <translation>Concluído</translation>
     </message>
+    <message>
+        <source>Sample field</source>
+        <translation>Campo de exemplo</translation>
+    </message>
 </context>
 <context>
     <name>FindingKind</name>
@@ -597,14 +601,6 @@
         <translation>Em qual unidade está %1?</translation>
     </message>
     <message>
-        <source>feeds no product</source>
-        <translation>não alimenta nada</translation>
-    </message>
-    <message>
-        <source>feeds %1</source>
-        <translation>alimenta %1</translation>
-    </message>
-    <message>
         <source>Choose the unit of %1</source>
         <translation>Escolher a unidade de %1</translation>
     </message>
@@ -615,6 +611,17 @@
     <message>
         <source>The file does not tell in which unit it is</source>
         <translation>O arquivo não informa sua unidade</translation>
+    </message>
+</context>
+<context>
+    <name>OpenedFiles</name>
+    <message>
+        <source>feeds no product</source>
+        <translation>não alimenta nada</translation>
+    </message>
+    <message>
+        <source>feeds %1</source>
+        <translation>alimenta %1</translation>
     </message>
 </context>
 <context>

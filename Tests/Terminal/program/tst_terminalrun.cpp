@@ -15,6 +15,7 @@ private Q_SLOTS:
     void namesMayHoldWhatStandsForArguments();
     void tasksAreDoneInTheirOrder();
     void aScriptThatFailsEndsTheTasks();
+    void theSampleComesWithTheProgram();
     void withoutATaskItRunsUntilTheDisplayIsClosed();
     void aDisplayThatIsClosedBeforeTheMapsAreLoadedEndsTheRun();
 };
@@ -103,6 +104,20 @@ void TestTerminalRun::aScriptThatFailsEndsTheTasks()
     QCOMPARE(outcome.error, folder.filePath("bad.js") + QStringLiteral(":2: Error: no group \"x\""));
     QCOMPARE(outcome.output, QStringLiteral("before\n"));
     QVERIFY(!QFileInfo::exists(picture));
+}
+
+void TestTerminalRun::theSampleComesWithTheProgram()
+{
+    const QString script = write("terminal.find('placeSample').touch();\n"
+                                 "function isShown(name) { return terminal.find(name).visible; }\n"
+                                 "for (var i = 0; i < 200 && !isShown('openAccept'); ++i) terminal.wait(50);\n"
+                                 "terminal.find('openAccept').touch();\n"
+                                 "for (i = 0; i < 200 && isShown('openWindow'); ++i) terminal.wait(50);\n"
+                                 "print(terminal.groups('rxMap.*').join());",
+                                 "sample.js");
+    const Outcome outcome = run({"--open", "--script", script});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.output, QStringLiteral("rxMap.sample-field.shp\n"));
 }
 
 void TestTerminalRun::withoutATaskItRunsUntilTheDisplayIsClosed()

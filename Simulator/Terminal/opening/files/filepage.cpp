@@ -1,14 +1,19 @@
 #include "filepage.h"
 
+#include "Backend/prescriptionbackend.h"
 #include "caption.h"
 #include "listrow.h"
+#include "machine.h"
+#include "openedfiles.h"
 #include "pager.h"
+#include "recentfiles.h"
 #include "shownnumber.h"
 #include "symbols.h"
 #include "theme.h"
 #include "touchbutton.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QStorageInfo>
 #include <QVBoxLayout>
@@ -19,6 +24,7 @@ constexpr int rowsPerPage = 7;
 constexpr int placeWidth = 220;
 constexpr int titlePixels = 24;
 constexpr int closeWidth = 180;
+/// There is room for so many of them, the sample among them.
 constexpr int mostVolumes = 3;
 
 /// Where sticks and cards appear.
@@ -31,8 +37,10 @@ bool isRemovable(const QStorageInfo &volume)
 
 } // namespace
 
-FilePage::FilePage(QWidget *parent)
+FilePage::FilePage(const Machine *terminalMachine, RecentFiles &recentFiles, QWidget *parent)
     : QWidget(parent)
+    , machine(terminalMachine)
+    , files(recentFiles)
     , title(new Caption(titlePixels, true, this))
     , close(new TouchButton(QString(), this))
     , emptyText(new QLabel(this))
@@ -54,6 +62,8 @@ FilePage::FilePage(QWidget *parent)
     layout->addLayout(body, 1);
     connect(close, &TouchButton::clicked, this, &FilePage::left);
     connect(pages, &Pager::turned, this, &FilePage::showPage);
+    connect(machine, &Machine::mapsChanged, this, &FilePage::followMaps);
+    followMaps();
 }
 
 TouchButton *FilePage::addPlace(QVBoxLayout *layout, const QString &text, const QString &name)
@@ -73,10 +83,10 @@ QWidget *FilePage::makePlaces()
     layout->setContentsMargins(0, 0, 0, 0);
     recent = addPlace(layout, tr("Recent"), QStringLiteral("placeRecent"));
     recent->setCheckable(true);
-    connect(recent, &TouchButton::clicked, this, &FilePage::recentWanted);
+    connect(recent, &TouchButton::clicked, this, &FilePage::showRecent);
     open = addPlace(layout, tr("Opened"), QStringLiteral("placeOpen"));
     open->setCheckable(true);
-    connect(open, &TouchButton::clicked, this, &FilePage::openFilesWanted);
+    connect(open, &TouchButton::clicked, this, &FilePage::showOpen);
     const auto addFolder = [this, layout](const QString &text, const QString &name, const QString &path) {
         connect(addPlace(layout, text, name), &TouchButton::clicked, this, [this, path] { showFolder(path); });
     };
@@ -89,6 +99,10 @@ QWidget *FilePage::makePlaces()
             addFolder(QDir(volume.rootPath()).dirName(), QStringLiteral("placeVolume%1").arg(volumes++),
                       volume.rootPath());
     }
+    sample = addPlace(layout, tr("Sample field"), QStringLiteral("placeSample"));
+    connect(sample, &TouchButton::clicked, this, [this] { Q_EMIT fileChosen(samplePath); });
+    sample->hide();
+    hasRoom = volumes < mostVolumes;
     layout->addStretch();
     up = addPlace(layout, tr("Folder up"), QStringLiteral("folderUp"));
     connect(up, &TouchButton::clicked, this, [this] {
@@ -135,23 +149,51 @@ QWidget *FilePage::makeRow(int place)
     return pair;
 }
 
-void FilePage::showRecent(const QStringList &paths)
+void FilePage::showFirst()
+{
+    if (!files.folder().isEmpty())
+        showFolder(files.folder());
+    else if (!files.paths().isEmpty())
+        showRecent();
+    else
+        showFolder(QDir::homePath());
+}
+
+void FilePage::showAgain()
+{
+    if (shown == Place::Recent && files.paths().isEmpty())
+        showFirst();
+    else if (shown == Place::Recent)
+        showRecent();
+}
+
+void FilePage::offerSample(const QString &path)
+{
+    samplePath = path;
+    sample->setVisible(hasRoom && QFileInfo(path).isFile());
+}
+
+void FilePage::showRecent()
 {
     folder.clear();
     shown = Place::Recent;
-    show(tr("Recent prescriptions"), FolderListing::ofFiles(paths), tr("No prescription was opened here before."));
+    show(tr("Recent prescriptions"), FolderListing::ofFiles(files.paths()),
+         tr("No prescription was opened here before."));
 }
 
-void FilePage::showOpen(const QList<FileEntry> &files)
+void FilePage::showOpen()
 {
     folder.clear();
     shown = Place::Open;
-    show(tr("Opened prescriptions"), files, tr("No prescription is open."));
+    show(tr("Opened prescriptions"), OpenedFiles::of(*machine), tr("No prescription is open."));
 }
 
-void FilePage::setOpenCount(int count)
+void FilePage::followMaps()
 {
+    const int count = machine->backend()->maps().size();
     open->setNote(count == 1 ? tr("1 file") : tr("%1 files").arg(ShownNumber::text(count)));
+    if (shown == Place::Open)
+        showOpen();
 }
 
 void FilePage::showFolder(const QString &path)
@@ -204,8 +246,11 @@ void FilePage::choose(const FileEntry &entry)
 {
     // A copy: showing another folder replaces the entries.
     const FileEntry chosen = entry;
-    if (chosen.isFolder)
+    if (chosen.isFolder) {
         showFolder(chosen.path);
-    else
-        Q_EMIT fileChosen(chosen.path);
+        return;
+    }
+    if (shown == Place::Folder)
+        files.setFolder(QFileInfo(chosen.path).path());
+    Q_EMIT fileChosen(chosen.path);
 }

@@ -8,9 +8,11 @@
 
 class Caption;
 class ListRow;
+class Machine;
 class Pager;
 class QLabel;
 class QVBoxLayout;
+class RecentFiles;
 class TouchButton;
 
 /// The files that are open, those that were opened last, and the folders with what may be opened.
@@ -18,47 +20,54 @@ class FilePage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FilePage(QWidget *parent = nullptr);
+    /// Both are not owned and outlive the page. `recent` also keeps the folder that a file is taken from.
+    FilePage(const Machine *machine, RecentFiles &recent, QWidget *parent = nullptr);
 
-    enum class Place { Recent, Open, Folder };
-
-    void showRecent(const QStringList &paths);
-    /// `files` have groups, by which they are closed.
-    void showOpen(const QList<FileEntry> &files);
-    void showFolder(const QString &folder);
-    Place place() const { return shown; }
-    /// Says how many files are open.
-    void setOpenCount(int count);
+    /// The folder used last, else the recent files, else what is at home.
+    void showFirst();
+    /// What was shown when a file was taken.
+    void showAgain();
+    /// A file that is a place of its own, for who has none yet; none where it is not there.
+    void offerSample(const QString &path);
     Pager *pager() const { return pages; }
 
 Q_SIGNALS:
-    void recentWanted();
-    void openFilesWanted();
     void fileChosen(const QString &path);
     void closeWanted(const QString &group);
     void left();
 
 private:
+    enum class Place { Recent, Open, Folder };
+
     QWidget *makePlaces();
     TouchButton *addPlace(QVBoxLayout *layout, const QString &text, const QString &name);
     QWidget *makeRows();
     QWidget *makeRow(int place);
     void fill(int place, const FileEntry &entry);
+    void showRecent();
+    void showOpen();
+    void showFolder(const QString &path);
+    void followMaps();
     void show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty);
     void showPage();
     void choose(const FileEntry &entry);
 
+    const Machine *machine;
+    RecentFiles &files;
     Caption *title;
     TouchButton *close;
     QLabel *emptyText;
     TouchButton *recent = nullptr;
     TouchButton *open = nullptr;
+    TouchButton *sample = nullptr;
     TouchButton *up = nullptr;
     QList<ListRow *> rows;
     QList<TouchButton *> closers; ///< One beside each row.
     Pager *pages;
     QList<FileEntry> entries;
     Place shown = Place::Recent;
+    QString samplePath;
+    bool hasRoom = true; ///< For the sample.
     /// Empty while no folder is shown.
     QString folder;
 };

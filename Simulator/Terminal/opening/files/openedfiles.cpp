@@ -1,0 +1,23 @@
+#include "openedfiles.h"
+
+#include "Backend/prescriptionbackend.h"
+#include "machine.h"
+
+#include <QFileInfo>
+
+QList<FileEntry> OpenedFiles::of(const Machine &machine)
+{
+    QList<FileEntry> entries;
+    const QList<LoadReport> maps = machine.backend()->maps();
+    for (const LoadReport &map : maps) {
+        QStringList products;
+        const QList<int> numbers = machine.columnsOf(map.group).keys();
+        for (const int number : numbers)
+            products.append(machine.products().at(number - 1).name);
+        const QString note =
+            products.isEmpty() ? tr("feeds no product") : tr("feeds %1").arg(products.join(QStringLiteral(", ")));
+        const QFileInfo info(map.path);
+        entries.append({map.path, info.fileName(), false, info.exists(), note, map.group});
+    }
+    return entries;
+}

@@ -1,0 +1,126 @@
+#include "openwindowtest.h"
+#include "paintedtexts.h"
+
+/// How files are found and chosen in the open window.
+class TestOpenWindowFiles : public OpenWindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void filesComeOneAfterTheOther();
+    void openedFilesAreRecentAndGoneOnesCannotBeTouched();
+    void foldersAreEntered();
+    void theFolderUsedLastIsShownFirst();
+    void theSampleIsAPlaceWhereItIsThere();
+};
+
+void TestOpenWindowFiles::filesComeOneAfterTheOther()
+{
+    window->preview({fixture("overlap.geojson"), QStringLiteral("/no/such.shp"), fixture("three-zones.geojson"),
+                     fixture("two-strips.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    QVERIFY(find(QStringLiteral("openSkip")) != nullptr);
+    accept();
+    QVERIFY(waitFor("openMessage"));
+    touch(QStringLiteral("openBack"));
+    QVERIFY(waitFor("columnRow2"));
+    touch(QStringLiteral("openSkip"));
+    QTRY_COMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("A"));
+    QVERIFY(find(QStringLiteral("openSkip")) == nullptr);
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(backend->maps().size(), 2);
+}
+
+void TestOpenWindowFiles::openedFilesAreRecentAndGoneOnesCannotBeTouched()
+{
+    const QString path = write({"UREA_KG_HA"});
+    for (const QString &file : {path, fixture("overlap.geojson")}) {
+        window->preview({file});
+        QVERIFY(waitFor("openAccept"));
+        accept();
+        QTRY_VERIFY(!window->isVisible());
+    }
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("overlap.geojson"));
+    QCOMPARE(text(QStringLiteral("fileRow1")), QStringLiteral("sketch.shp"));
+    QVERIFY(find(QStringLiteral("fileRow1"))->isEnabled());
+    QVERIFY(QFile::remove(path));
+    window->showFiles();
+    QVERIFY(!find(QStringLiteral("fileRow1"))->isEnabled());
+    QVERIFY(paintedTexts(*find(QStringLiteral("fileRow1"))).contains(QStringLiteral("is no longer there")));
+    touch(QStringLiteral("fileRow0"));
+    QVERIFY(waitFor("openAccept"));
+}
+
+void TestOpenWindowFiles::foldersAreEntered()
+{
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("farm/field")));
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), folder->filePath(QStringLiteral("farm/field/map.geojson"))));
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder->path().toLocal8Bit());
+    startWindow();
+    window->showFiles();
+    qputenv("HOME", home);
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("farm"));
+    touch(QStringLiteral("fileRow0"));
+    touch(QStringLiteral("fileRow0"));
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+    touch(QStringLiteral("folderUp"));
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("field"));
+    touch(QStringLiteral("placeRoot"));
+    QVERIFY(!find(QStringLiteral("folderUp"))->isEnabled());
+    touch(QStringLiteral("pageDown"));
+    touch(QStringLiteral("openCancel"));
+    QVERIFY(!window->isVisible());
+}
+
+void TestOpenWindowFiles::theFolderUsedLastIsShownFirst()
+{
+    const QString stick = folder->filePath(QStringLiteral("stick"));
+    QVERIFY(QDir().mkpath(stick));
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), stick + QStringLiteral("/map.geojson")));
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder->path().toLocal8Bit());
+    startWindow();
+    window->showFiles();
+    qputenv("HOME", home);
+    touch(QStringLiteral("fileRow0"));
+    touch(QStringLiteral("fileRow0"));
+    QVERIFY(waitFor("openAccept"));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    startWindow();
+    window->showFiles();
+    QVERIFY(find(QStringLiteral("folderUp"))->isEnabled());
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+    // Back from a recent file is back to these.
+    touch(QStringLiteral("placeRecent"));
+    touch(QStringLiteral("fileRow0"));
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("openBack"));
+    QVERIFY(!find(QStringLiteral("folderUp"))->isEnabled());
+    QVERIFY(QDir(stick).removeRecursively());
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+    QVERIFY(!find(QStringLiteral("fileRow0"))->isEnabled());
+}
+
+void TestOpenWindowFiles::theSampleIsAPlaceWhereItIsThere()
+{
+    const QString place = QStringLiteral("placeSample");
+    window->showFiles();
+    QVERIFY(find(place) == nullptr);
+    window->offerSample(folder->filePath(QStringLiteral("none.shp")));
+    QVERIFY(find(place) == nullptr);
+    window->offerSample(fixture("three-zones.geojson"));
+    touch(place);
+    QVERIFY(waitFor("openAccept"));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(backend->maps().size(), 1);
+    // Its folder is none that somebody looked for a file in.
+    QCOMPARE(RecentFiles(*settings).folder(), QString());
+}
+
+RXMAP_TEST(TestOpenWindowFiles, Widgets)
+#include "tst_openwindow_files.moc"

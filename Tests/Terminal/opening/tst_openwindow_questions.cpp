@@ -1,0 +1,71 @@
+#include "openwindowtest.h"
+#include "paintedtexts.h"
+#include "touchbutton.h"
+
+/// What the open window asks before it opens a file.
+class TestOpenWindowQuestions : public OpenWindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void productAndUnitChosenAreLoaded();
+    void openAsksForUnitsThatAreNotKnown();
+};
+
+void TestOpenWindowQuestions::productAndUnitChosenAreLoaded()
+{
+    window->preview({fixture("three-zones.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("columnRow0Product"));
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("None"));
+    touch(QStringLiteral("choice0"));
+    touch(QStringLiteral("columnRow1Unit"));
+    touch(QStringLiteral("unitAmount5"));
+    touch(QStringLiteral("unitArea1"));
+    touch(QStringLiteral("unitAccept"));
+    QCOMPARE(text(QStringLiteral("columnRow1Unit")), QStringLiteral("lb/ac"));
+    touch(QStringLiteral("columnRow1"));
+    QVERIFY(paintedTexts(*find(QStringLiteral("openLegend"))).contains(QStringLiteral("135.06")));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().columns, QStringList({"", "FERT_KG_HA", "HERB_L_HA"}));
+    QCOMPARE(requests.first().units, QStringList({"", "lb/ac", ""}));
+    QCOMPARE(backend->maps().size(), 1);
+    QCOMPARE(backend->maps().first().sources.first().unitFrom, RateSource::UnitFrom::Operator);
+}
+
+void TestOpenWindowQuestions::openAsksForUnitsThatAreNotKnown()
+{
+    const auto isCaution = [this](const char *name) {
+        return static_cast<TouchButton *>(find(QLatin1String(name)))->isCaution();
+    };
+    window->preview({fixture("two-strips.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    QVERIFY(isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
+    touch(QStringLiteral("openAccept"));
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as 1000/ha, kg/ha"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of A"));
+    touch(QStringLiteral("choice1"));
+    touch(QStringLiteral("unitAmount2"));
+    touch(QStringLiteral("unitArea0"));
+    touch(QStringLiteral("unitAccept"));
+    // It goes on with the other one.
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as kg/ha"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of B"));
+    QVERIFY(requests.isEmpty());
+    touch(QStringLiteral("openBack"));
+    QVERIFY(!isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
+    // Only "Open" opens.
+    touch(QStringLiteral("columnRow0Unit"));
+    touch(QStringLiteral("unitAccept"));
+    QVERIFY(find(QStringLiteral("openAccept")) != nullptr);
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().units, QStringList({"million/ha", "kg/ha"}));
+    // What was told once is not asked again.
+    window->preview({fixture("two-strips.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    QVERIFY(!isCaution("columnRow1Unit"));
+}
+
+RXMAP_TEST(TestOpenWindowQuestions, Widgets)
+#include "tst_openwindow_questions.moc"
