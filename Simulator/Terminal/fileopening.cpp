@@ -83,8 +83,11 @@ void FileOpening::load(const OpenRequest &request)
     const LoadReport report = terminal->open(request).constLast();
     if (!self)
         return;
-    if (report.isOk())
+    if (report.isOk()) {
+        for (const QString &group : request.closes)
+            terminal->close(group);
         closeReplaced(report);
+    }
     int first = 0;
     for (const RateSource &source : report.sources)
         first = first == 0 ? source.product : std::min(first, source.product);

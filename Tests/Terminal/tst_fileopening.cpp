@@ -33,6 +33,7 @@ private Q_SLOTS:
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter();
+    void aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted();
     void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
@@ -293,7 +294,9 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
     Q_EMIT terminal().window()->dropped({write("far", {{"SEED_K_HA", 1.0}}, 38.0)}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
     QVERIFY2(remark().contains(QStringLiteral("Lies 1,989 km from both.shp")), qPrintable(remark()));
-    accept();
+    button("openAccept")->click();
+    QCOMPARE(button("choice1")->text(), QStringLiteral("Keep both open"));
+    button("choice1")->click();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(opened.size(), 2);
     const QStringList warnings = opened.last().first().value<LoadReport>().warnings;
@@ -302,6 +305,25 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
     const auto *finding = terminal().window()->findChild<QAbstractButton *>(QStringLiteral("finding0"));
     QCOMPARE(finding->text(), QStringLiteral("lies 1,989 km from both.shp, which feeds products, too"));
     QVERIFY(terminal().close(terminal().backend()->maps().first().group));
+    QVERIFY(button("findingsButton") == nullptr);
+}
+
+void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
+{
+    openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
+    const QString far = write("far", {{"SEED_K_HA", 1.0}}, 38.0);
+    Q_EMIT terminal().window()->dropped({far}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("openAccept")->click();
+    QCOMPARE(terminal().backend()->maps().size(), 1);
+    QCOMPARE(button("choice0")->text(), QStringLiteral("Close both.shp"));
+    // Back is back to the file.
+    button("openBack")->click();
+    button("openAccept")->click();
+    button("choice0")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(terminal().backend()->maps().size(), 1);
+    QCOMPARE(QFileInfo(terminal().backend()->maps().first().path), QFileInfo(far));
     QVERIFY(button("findingsButton") == nullptr);
 }
 

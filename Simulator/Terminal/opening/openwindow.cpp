@@ -204,13 +204,15 @@ void OpenWindow::accept()
     if (isOpening)
         askUnits(open);
     else
-        load();
+        askFarFields();
 }
 
-void OpenWindow::load()
+void OpenWindow::load(const QStringList &closes)
 {
     showProgress(tr("Opening %1").arg(QFileInfo(selection.survey().path).fileName()), Busy::Loading);
-    Q_EMIT wanted(selection.request());
+    OpenRequest request = selection.request();
+    request.closes = closes;
+    Q_EMIT wanted(request);
 }
 
 void OpenWindow::finish(const LoadReport &report)

@@ -80,7 +80,8 @@ private:
     void tell(const QString &reason, QWidget *behind);
     void giveUp();
     void accept();
-    void load();
+    /// `closes`: groups of the maps to close then.
+    void load(const QStringList &closes);
     bool pressFocused();
     void ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer);
     void askLayer();
@@ -89,6 +90,8 @@ private:
     void askUnit(int index);
     /// In which unit these columns are that tell none; what is open then is opened.
     void askUnits(const QList<int> &columns);
+    /// Whether fields stay open that lie on other planes; what is shown is opened then.
+    void askFarFields();
     void askOther();
     Pager *currentPager() const;
 

@@ -2,9 +2,14 @@
 #include "Backend/prescriptionbackend.h"
 #include "choicepage.h"
 #include "machine.h"
+#include "openmap.h"
 #include "openwindow.h"
 #include "previewpage.h"
+#include "shownnumber.h"
 #include "unitpage.h"
+
+#include <algorithm>
+#include <cmath>
 
 void OpenWindow::ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer)
 {
@@ -81,4 +86,27 @@ void OpenWindow::askUnits(const QList<int> &columns)
         previews->refresh();
         accept();
     });
+}
+
+void OpenWindow::askFarFields()
+{
+    QStringList fileNames;
+    QStringList groups;
+    double distance = HUGE_VAL;
+    const QList<OpenMap> maps = OpenMap::beside(selection, *machine);
+    for (const OpenMap &map : maps) {
+        if (!map.staysFarAway())
+            continue;
+        fileNames.append(map.file);
+        groups.append(map.group);
+        distance = std::min(distance, map.distance);
+    }
+    if (groups.isEmpty()) {
+        load({});
+        return;
+    }
+    const QString names = fileNames.join(QStringLiteral(", "));
+    ask(tr("%1 km from %2, which stays open").arg(ShownNumber::text(distance / 1000.0), names),
+        {tr("Close %1").arg(names), tr("Keep both open")}, 0,
+        [this, groups](int place) { load(place == 0 ? groups : QStringList()); });
 }

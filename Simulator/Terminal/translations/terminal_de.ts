@@ -612,6 +612,18 @@
         <source>The file does not tell in which unit it is</source>
         <translation>Die Datei nennt ihre Einheit nicht</translation>
     </message>
+    <message>
+        <source>%1 km from %2, which stays open</source>
+        <translation>%1 km von %2 entfernt, das offen bleibt</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
+    </message>
+    <message>
+        <source>Keep both open</source>
+        <translation>Beide offen lassen</translation>
+    </message>
 </context>
 <context>
     <name>OpenedFiles</name>

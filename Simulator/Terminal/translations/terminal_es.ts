@@ -612,6 +612,18 @@
         <source>The file does not tell in which unit it is</source>
         <translation>El archivo no indica su unidad</translation>
     </message>
+    <message>
+        <source>%1 km from %2, which stays open</source>
+        <translation>A %1 km de %2, que sigue abierto</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
+    </message>
+    <message>
+        <source>Keep both open</source>
+        <translation>Dejar ambos abiertos</translation>
+    </message>
 </context>
 <context>
     <name>OpenedFiles</name>

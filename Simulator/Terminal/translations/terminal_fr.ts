@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Sample field</source>
-        <translation>Champ d'exemple</translation>
+        <translation>Champ d&apos;exemple</translation>
     </message>
 </context>
 <context>
@@ -611,6 +611,18 @@
     <message>
         <source>The file does not tell in which unit it is</source>
         <translation>Le fichier n’indique pas son unité</translation>
+    </message>
+    <message>
+        <source>%1 km from %2, which stays open</source>
+        <translation>À %1 km de %2, qui reste ouvert</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
+    </message>
+    <message>
+        <source>Keep both open</source>
+        <translation>Garder les deux ouverts</translation>
     </message>
 </context>
 <context>

@@ -612,6 +612,18 @@
         <source>The file does not tell in which unit it is</source>
         <translation>O arquivo não informa sua unidade</translation>
     </message>
+    <message>
+        <source>%1 km from %2, which stays open</source>
+        <translation>A %1 km de %2, que continua aberto</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fechar %1</translation>
+    </message>
+    <message>
+        <source>Keep both open</source>
+        <translation>Manter ambos abertos</translation>
+    </message>
 </context>
 <context>
     <name>OpenedFiles</name>

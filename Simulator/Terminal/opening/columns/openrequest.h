@@ -20,4 +20,6 @@ struct OpenRequest {
     QString task = {};
     /// What the products were made from that were chosen among, see LoadRequest; empty: they were the machine's.
     std::optional<QList<ColumnProduct>> columnProducts = {};
+    /// Groups of maps that the operator wants closed once it is open.
+    QStringList closes = {};
 };

@@ -6,6 +6,7 @@
 #include "legendpanel.h"
 #include "machine.h"
 #include "mappreview.h"
+#include "openmap.h"
 #include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -13,7 +14,6 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QSet>
 #include <QVBoxLayout>
 
 namespace {
@@ -164,30 +164,15 @@ void PreviewPage::refresh()
 
 QStringList PreviewPage::replacements() const
 {
-    QSet<int> taken;
-    for (int index = 0; index < selection->size(); ++index)
-        taken.insert(selection->product(index));
     QStringList remarks;
-    const QList<LoadReport> maps = machine->backend()->maps();
-    for (const LoadReport &other : maps) {
-        const QFileInfo file(other.path);
-        const QList<int> fed = machine->columnsOf(other.group).keys();
-        QStringList products;
-        for (const int number : fed) {
-            if (taken.contains(number))
-                products.append(machine->products().at(number - 1).name);
-        }
-        const bool isReplaced = !selection->survey().columnProducts.isEmpty() || products.size() == fed.size();
-        if (file == QFileInfo(selection->survey().path))
-            continue;
-        if (isReplaced)
-            remarks.append(tr("Replaces %1").arg(file.fileName()));
-        else if (!products.isEmpty())
-            remarks.append(tr("Takes %1 over from %2").arg(products.join(QStringLiteral(", ")), file.fileName()));
-        // Maps of one origin share a plane.
-        const double distance = PrescriptionBackend::distanceBetween(other.origin, selection->survey().origin);
-        if (!isReplaced && other.origin != selection->survey().origin)
-            remarks.append(tr("Lies %1 km from %2").arg(ShownNumber::text(distance / 1000.0), file.fileName()));
+    const QList<OpenMap> maps = OpenMap::beside(*selection, *machine);
+    for (const OpenMap &other : maps) {
+        if (other.isReplaced)
+            remarks.append(tr("Replaces %1").arg(other.file));
+        else if (!other.taken.isEmpty())
+            remarks.append(tr("Takes %1 over from %2").arg(other.taken.join(QStringLiteral(", ")), other.file));
+        if (other.staysFarAway())
+            remarks.append(tr("Lies %1 km from %2").arg(ShownNumber::text(other.distance / 1000.0), other.file));
     }
     return remarks;
 }
