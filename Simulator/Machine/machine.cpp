@@ -178,9 +178,11 @@ void Machine::offerProducts(LoadRequest &request) const
     request.makeProducts = maker();
     const QList<LoadReport> maps = prescriptions->maps();
     for (const LoadReport &map : maps) {
+        if (QFileInfo(map.path) == QFileInfo(request.path))
+            continue;
         const QList<int> fed = columnsOf(map.group).keys();
         for (const int number : fed)
-            request.products[number - 1].isInUse = QFileInfo(map.path) != QFileInfo(request.path);
+            request.products[number - 1].inUseAt = map.origin;
     }
 }
 

@@ -41,7 +41,7 @@ public:
     /// while they are open.
     void enterProducts(LoadRequest &request) const;
     /// The same for an operator who sees beforehand what comes of it, where the machine takes its products from
-    /// prescriptions: one that takes over all products in use brings its own, as the first one did.
+    /// prescriptions: one that takes over all products in use on its plane brings its own, as the first one did.
     void offerProducts(LoadRequest &request) const;
     /// The products of a file that was looked at: made from its columns, or the machine's where there are none.
     Products productsFor(const QList<ColumnProduct> &columns) const;

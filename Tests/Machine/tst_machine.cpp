@@ -341,10 +341,10 @@ void TestMachine::productsAreOfferedAnewWhereNoneStaysInUse()
     LoadRequest request = offered(zones);
     request.columns = QStringList{"", "FERT_KG_HA"};
     QVERIFY(backend->loadAndWait(request).isOk());
-    QVERIFY(offered(other).products.at(1).isInUse && !offered(other).products.at(0).isInUse);
+    QVERIFY(offered(other).products.at(1).inUseAt && !offered(other).products.at(0).inUseAt);
     QVERIFY(offered(other).makeProducts != nullptr);
     // A file does not stand in its own way.
-    QVERIFY(!offered(zones).products.at(1).isInUse);
+    QVERIFY(!offered(zones).products.at(1).inUseAt);
     bool isKept = true;
     machine->keepProductsWhile([&isKept] { return isKept; });
     QVERIFY(!offered(other).makeProducts);

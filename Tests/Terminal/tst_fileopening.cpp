@@ -34,6 +34,7 @@ private Q_SLOTS:
     void filesWantedTogetherShareTheProducts();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter();
     void aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted();
+    void aFieldFarFromTheOtherBringsItsProducts();
     void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
@@ -48,11 +49,11 @@ private:
         accept();
         QTRY_VERIFY(!terminal().openWindow()->isVisible());
     }
-    /// Units that are not known are taken as they are assumed.
+    /// Units that are not known are taken as they are assumed, fields far away are closed.
     void accept()
     {
         button("openAccept")->click();
-        if (button("choice0") != nullptr)
+        while (button("choice0") != nullptr)
             button("choice0")->click();
     }
     void openByTouch(const char *fixture) { openByTouch(TerminalHost::fixture(QLatin1String(fixture))); }
@@ -295,7 +296,7 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
     QTRY_VERIFY(button("openAccept") != nullptr);
     QVERIFY2(remark().contains(QStringLiteral("Lies 1,989 km from both.shp")), qPrintable(remark()));
     button("openAccept")->click();
-    QCOMPARE(button("choice1")->text(), QStringLiteral("Keep both open"));
+    QCOMPARE(button("choice1")->text(), QStringLiteral("Keep both.shp open"));
     button("choice1")->click();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(opened.size(), 2);
@@ -325,6 +326,19 @@ void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
     QCOMPARE(terminal().backend()->maps().size(), 1);
     QCOMPARE(QFileInfo(terminal().backend()->maps().first().path), QFileInfo(far));
     QVERIFY(button("findingsButton") == nullptr);
+}
+
+void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
+{
+    terminal().machine()->leaveProductsOpen();
+    openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
+    Q_EMIT terminal().window()->dropped({write("far", {{"RYE_KG_HA", 1.0}}, 38.0)}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QVERIFY2(remark().contains(QStringLiteral("Replaces both.shp")), qPrintable(remark()));
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(productNames().first(), QStringLiteral("RYE"));
+    QCOMPARE(terminal().backend()->maps().size(), 1);
 }
 
 void TestFileOpening::whatWasGuessedIsToldAfterwards()

@@ -107,6 +107,6 @@ void OpenWindow::askFarFields()
     }
     const QString names = fileNames.join(QStringLiteral(", "));
     ask(tr("%1 km from %2, which stays open").arg(ShownNumber::text(distance / 1000.0), names),
-        {tr("Close %1").arg(names), tr("Keep both open")}, 0,
+        {tr("Close %1").arg(names), tr("Keep %1 open").arg(names)}, 0,
         [this, groups](int place) { load(place == 0 ? groups : QStringList()); });
 }

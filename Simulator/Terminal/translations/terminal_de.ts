@@ -621,8 +621,8 @@
         <translation>%1 schließen</translation>
     </message>
     <message>
-        <source>Keep both open</source>
-        <translation>Beide offen lassen</translation>
+        <source>Keep %1 open</source>
+        <translation>%1 offen lassen</translation>
     </message>
 </context>
 <context>

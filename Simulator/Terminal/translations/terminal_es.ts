@@ -621,8 +621,8 @@
         <translation>Cerrar %1</translation>
     </message>
     <message>
-        <source>Keep both open</source>
-        <translation>Dejar ambos abiertos</translation>
+        <source>Keep %1 open</source>
+        <translation>Dejar %1 abierto</translation>
     </message>
 </context>
 <context>

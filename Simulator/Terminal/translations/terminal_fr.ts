@@ -621,8 +621,8 @@
         <translation>Fermer %1</translation>
     </message>
     <message>
-        <source>Keep both open</source>
-        <translation>Garder les deux ouverts</translation>
+        <source>Keep %1 open</source>
+        <translation>Garder %1 ouvert</translation>
     </message>
 </context>
 <context>

@@ -621,8 +621,8 @@
         <translation>Fechar %1</translation>
     </message>
     <message>
-        <source>Keep both open</source>
-        <translation>Manter ambos abertos</translation>
+        <source>Keep %1 open</source>
+        <translation>Manter %1 aberto</translation>
     </message>
 </context>
 <context>

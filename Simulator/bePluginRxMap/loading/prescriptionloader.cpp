@@ -23,7 +23,8 @@ constexpr double shareOfGeometry = 0.3;
 
 bool isAnyInUse(const QList<MachineProduct> &products)
 {
-    return std::any_of(products.begin(), products.end(), [](const MachineProduct &any) { return any.isInUse; });
+    return std::any_of(products.begin(), products.end(),
+                       [](const MachineProduct &any) { return any.inUseAt.has_value(); });
 }
 
 /// The products as far as they are known before the file is read.
@@ -191,7 +192,9 @@ bool PrescriptionLoader::replacesAllInUse() const
     const QList<RateSource> sources = policy.decide(source, polygons).sources;
     for (int number = 1; number <= request.products.size(); ++number) {
         const auto isFed = [number](const RateSource &fed) { return fed.product == number; };
-        if (request.products.at(number - 1).isInUse && std::none_of(sources.begin(), sources.end(), isFed))
+        // What is in use in another field is not put out in this one.
+        if (request.products.at(number - 1).inUseAt == report->origin
+            && std::none_of(sources.begin(), sources.end(), isFed))
             return false;
     }
     return true;

@@ -44,7 +44,7 @@ private:
 
     /// Makes the products from the columns where the machine takes them from the file.
     void makeProducts();
-    /// Whether the file, unasked, takes over all products that others feed.
+    /// Whether the file, unasked, takes over all products that others on its plane feed.
     bool replacesAllInUse() const;
     bool chooseColumns(LoadedMap &map);
     bool arrange();

@@ -62,7 +62,7 @@ void OpenWindowTest::touch(const QString &name)
 void OpenWindowTest::accept()
 {
     touch(QStringLiteral("openAccept"));
-    if (find(QStringLiteral("choice0")) != nullptr)
+    while (find(QStringLiteral("choice0")) != nullptr)
         touch(QStringLiteral("choice0"));
 }
 

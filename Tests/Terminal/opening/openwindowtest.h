@@ -26,7 +26,7 @@ protected:
     /// The control of that name that is seen.
     QWidget *find(const QString &name) const;
     void touch(const QString &name);
-    /// Opens what is shown; units that are not known are taken as they are assumed.
+    /// Opens what is shown; units that are not known are taken as they are assumed, fields far away are to be closed.
     void accept();
     QString text(const QString &name) const;
     /// Until the page with this control is seen.

@@ -308,10 +308,12 @@ void PrescriptionBackendSurveyTest::refusesWhatALoadRefuses()
 void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse_data()
 {
     QTest::addColumn<QList<int>>("inUse");
+    QTest::addColumn<bool>("isOnThePlane");
     QTest::addColumn<bool>("areMade");
-    QTest::newRow("none") << QList<int>() << true;
-    QTest::newRow("what the file feeds") << QList<int>{2} << true;
-    QTest::newRow("what it does not feed") << QList<int>{1, 2} << false;
+    QTest::newRow("none") << QList<int>() << true << true;
+    QTest::newRow("what the file feeds") << QList<int>{2} << true << true;
+    QTest::newRow("what it does not feed") << QList<int>{1, 2} << true << false;
+    QTest::newRow("what it does not feed, elsewhere") << QList<int>{1, 2} << false << true;
 }
 
 void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse()
@@ -319,8 +321,10 @@ void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse()
     QFETCH(QList<int>, inUse);
     LoadRequest request = requestFor(write({{"LIME_T_HA", 1.0}}, {1.0}));
     request.products[1].kind = DbGroupProductGroupInfo::WeightRate;
+    QFETCH(bool, isOnThePlane);
+    const QPointF origin = isOnThePlane ? survey(request).origin : QPointF(38.0, 50.0);
     for (const int number : inUse)
-        request.products[number - 1].isInUse = true;
+        request.products[number - 1].inUseAt = origin;
     const QList<MachineProduct> made{{"Lime", "system.productGroup.1", DbGroupProductGroupInfo::WeightRate}};
     request.makeProducts = [made](const QList<ColumnProduct> &) { return made; };
     const SurveyReport report = survey(request);

@@ -24,8 +24,8 @@ struct LoadRequest {
     QString layer;
     QString task;
     /// Where the machine takes its products from the file: makes them from what the columns say, and `products` do not
-    /// count but for those in use: products are made only where the file's columns, unasked, feed all of these. It is
-    /// called in the loading thread. The report says from what they were made.
+    /// count but for those in use on the map's plane: products are made only where the file's columns, unasked, feed
+    /// all of these. It is called in the loading thread. The report says from what they were made.
     std::function<QList<MachineProduct>(const QList<ColumnProduct> &)> makeProducts = {};
     /// What the columns said when the operator chose among them; empty: what they say to the load.
     QList<ColumnProduct> columnProducts = {};

@@ -2,7 +2,10 @@
 
 #include "Framework/dbgroupproductgroupinfo.h"
 
+#include <QPointF>
 #include <QString>
+
+#include <optional>
 
 /// What a load has to know of one product of the machine.
 struct MachineProduct {
@@ -19,6 +22,7 @@ struct MachineProduct {
     bool isFed = false;
     /// Takes its rates from base units to the operator's: what is round in a legend, and which rates are told apart.
     double displayFactor = 1.0;
-    /// Whether a map of another file that is open feeds it.
-    bool isInUse = false;
+    /// The plane's origin (LoadReport::origin) of the map of another file that is open and feeds it; none where none
+    /// does.
+    std::optional<QPointF> inUseAt = {};
 };
