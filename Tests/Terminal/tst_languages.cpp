@@ -146,7 +146,7 @@ void TestLanguages::germanHasAWordOfItsOwnForTheDefaultRate()
     QRegularExpressionMatchIterator found = word.globalMatch(QString::fromUtf8(catalogue.readAll()));
     QVERIFY(found.hasNext());
     while (found.hasNext())
-        QCOMPARE(found.next().captured(1), QStringLiteral("Default rate"));
+        QVERIFY(found.next().captured(1).startsWith(QStringLiteral("Default rate")));
 }
 
 void TestLanguages::whatALoadSaysIsTranslated_data()
