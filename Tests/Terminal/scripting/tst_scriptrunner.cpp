@@ -166,7 +166,8 @@ void TestScriptRunner::screenshotsShowTheOpenDialog()
     const QImage closed(folder->filePath("closed.png"));
     QCOMPARE(open.size(), TerminalWindow::displaySize);
     QVERIFY(open.copy(240, 0, 800, 800) != closed.copy(240, 0, 800, 800));
-    QCOMPARE(open.copy(0, 0, 240, 800), closed.copy(0, 0, 240, 800));
+    // Below the products, which touches do not get to meanwhile.
+    QCOMPARE(open.copy(0, 420, 240, 380), closed.copy(0, 420, 240, 380));
 }
 
 void TestScriptRunner::aScriptThatNeverEndsCanBeInterrupted()
