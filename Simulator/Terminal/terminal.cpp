@@ -6,8 +6,8 @@
 #include "findingsdisplay.h"
 #include "guidancepage.h"
 #include "hints.h"
-#include "legendcontent.h"
 #include "machine.h"
+#include "mapdisplay.h"
 #include "mapoverlay.h"
 #include "openwindow.h"
 #include "operatorsettings.h"
@@ -76,7 +76,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , display(new TerminalWindow(setup.products))
     , opening(new FileOpening(this))
     , findings(new FindingsDisplay(machineModel.data(), simulated->vehicle(), display.data()))
-    , viewPace(display->fieldView())
+    , mapDisplay(new MapDisplay(&dataBroker, machineModel.data(), &loadedMaps, simulated.data(), display.data()))
 {
     initialiseResources();
     vehicle()->setSize(setup.size);
@@ -86,8 +86,6 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     if (setup.takesProductsFromFile)
         machineModel->leaveProductsOpen();
     connectDisplay();
-    showLegend();
-    showVehicle();
 }
 
 Terminal::~Terminal()
@@ -102,27 +100,17 @@ Terminal::~Terminal()
     }
     qDeleteAll(plugins);
     display->fieldView()->doneCurrent();
+    mapDisplay.reset();
     disconnect(machineModel.data(), nullptr, this, nullptr);
     prescriptions.reset();
 }
 
 void Terminal::connectDisplay()
 {
-    const bool isMetric = machineModel->unitSystem() == UnitSystem::Metric;
-    display->overlay()->setMetric(isMetric);
-    connect(&dataBroker, &DataBroker::groupPublished, this, &Terminal::watchGroup);
-    connect(machineModel.data(), &Machine::mapsChanged, this, &Terminal::followMaps);
-    connect(machineModel.data(), &Machine::activeProductChanged, this, &Terminal::showLegend);
     connect(machineModel.data(), &Machine::productsChanged, this,
             [this] { display->setProducts(machineModel->products()); });
     connect(display->productSelector(), &ProductSelector::chosen, machineModel.data(), &Machine::setActiveProduct);
     connect(display->fieldView(), &FieldView::touched, this, &Terminal::touch);
-    connect(display.data(), &TerminalWindow::frameRequested, this, [this] {
-        framedBounds = QRectF();
-        frameField();
-    });
-    connect(vehicle(), &Vehicle::moved, this, &Terminal::showVehicle);
-    connect(simulated.data(), &Simulation::timeFactorChanged, this, &Terminal::showVehicle);
     connect(opening->window(), &OpenWindow::shownChanged, findings.data(), [this](bool isShown) {
         if (isShown)
             findings->leave();
@@ -300,66 +288,7 @@ QString Terminal::saveScreenshot(const QString &path)
     return writeWholeFile(path, picture);
 }
 
-void Terminal::followMaps()
-{
-    QStringList names;
-    const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps) {
-        if (!columnsOf(map.group).isEmpty())
-            names.append(QFileInfo(map.path).fileName());
-    }
-    display->statusBar()->setMaps(names);
-    display->overlay()->showBubble(QPointF(), QString(), QColor());
-    display->guidancePage()->rebuild();
-    showLegend();
-}
-
-void Terminal::showLegend()
-{
-    const int number = machineModel->activeProduct();
-    const ActiveMap map = loadedMaps.active();
-    const LoadReport report = loadedMaps.reportOf(map);
-    display->legend()->show(legendContent(*machineModel, report, map));
-    display->productSelector()->setActiveProduct(number);
-    display->overlay()->setBoundary(report.boundary);
-    display->overlay()->showBubble(QPointF(), QString(), QColor());
-    // Another product's map may lie elsewhere.
-    frameField();
-    refresh();
-}
-
 void Terminal::refresh()
 {
-    display->fieldView()->forgetColors();
-    viewPace.request();
-}
-
-void Terminal::redrawMap()
-{
-    refresh();
-}
-
-void Terminal::watchGroup(const QString &name)
-{
-    // The plug-in rebuilds its drawing on every set of the count; that the display must be drawn again is the host's
-    // part.
-    if (DataBrokerGroup *group = dataBroker.getGroup(name, false))
-        group->connectPropertySetSlot("polygonCount", this, SLOT(redrawMap()), Qt::UniqueConnection, false);
-}
-
-void Terminal::showVehicle()
-{
-    display->overlay()->setVehicle(vehicle()->position(), vehicle()->heading());
-    display->statusBar()->setSpeed(vehicle()->currentSpeed(), machineModel->unitSystem() == UnitSystem::Metric);
-    display->statusBar()->setPaused(simulated->timeFactor() == 0.0);
-}
-
-void Terminal::frameField()
-{
-    const QRectF used = loadedMaps.boundsInUse();
-    if (used.isNull() || used == framedBounds)
-        return;
-    framedBounds = used;
-    vehicle()->setArea(used);
-    display->fieldView()->frame(used);
+    mapDisplay->refresh();
 }

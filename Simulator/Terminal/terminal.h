@@ -4,7 +4,6 @@
 #include "loadedmaps.h"
 #include "openrequest.h"
 #include "productfile.h"
-#include "repaintthrottle.h"
 #include "simulationclock.h"
 #include "terminalwindow.h"
 #include "touchanswer.h"
@@ -28,6 +27,7 @@ class FileOpening;
 class FindingsDisplay;
 class Hints;
 class Machine;
+class MapDisplay;
 class OpenWindow;
 class OperatorSettings;
 class Recorder;
@@ -105,19 +105,11 @@ public:
     /// Draws again: something may look different.
     void refresh();
 
-private Q_SLOTS:
-    void redrawMap();
-
 private:
     /// Says for which products to load.
     void enterProducts(const OpenRequest &request, LoadRequest &load) const;
-    void watchGroup(const QString &name);
     void connectDisplay();
     void installGraphicsLists();
-    void followMaps();
-    void showLegend();
-    void showVehicle();
-    void frameField();
 
     DataBroker dataBroker;
     RealClock clock;
@@ -131,9 +123,8 @@ private:
     QScopedPointer<DriveDisplay> driveDisplay;
     FileOpening *opening;
     QScopedPointer<FindingsDisplay> findings;
+    QScopedPointer<MapDisplay> mapDisplay;
     QScopedPointer<Hints> hints;
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
-    QRectF framedBounds;
-    RepaintThrottle viewPace;
 };
