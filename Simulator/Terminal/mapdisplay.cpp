@@ -90,7 +90,9 @@ void MapDisplay::showVehicle()
     const Vehicle &vehicle = *simulation->vehicle();
     window->overlay()->setVehicle(vehicle.position(), vehicle.heading());
     window->statusBar()->setSpeed(vehicle.currentSpeed(), machine->unitSystem() == UnitSystem::Metric);
-    window->statusBar()->setPaused(simulation->timeFactor() == 0.0);
+    // Where nothing is to move nobody waits for the time.
+    const bool isUnderWay = vehicle.wantedSpeed() != 0.0 || vehicle.currentSpeed() != 0.0;
+    window->statusBar()->setPaused(isUnderWay && simulation->timeFactor() == 0.0);
 }
 
 void MapDisplay::frameField()

@@ -9,6 +9,7 @@
 #include "statusbar.h"
 #include "terminaltest.h"
 #include "terminalwindow.h"
+#include "vehicle.h"
 
 #include "bePluginRxMap/dbgrouprxmap.h"
 #include "bePluginRxMap/rxmaploader.h"
@@ -224,9 +225,14 @@ void TestTerminal::aPauseIsToldWhereTheSpeedIs()
     StatusBar &bar = *terminal().window()->statusBar();
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
     terminal().simulation()->setTimeFactor(0.0);
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
+    // Who starts then sees why nothing moves.
+    terminal().vehicle()->drive(2.5);
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
+    terminal().simulation()->run(5.0);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
     terminal().simulation()->setTimeFactor(1.0);
-    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("9.0 km/h"));
 }
 
 void TestTerminal::twoTerminalsMayFollowEachOther()
