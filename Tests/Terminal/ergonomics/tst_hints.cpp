@@ -6,7 +6,6 @@
 #include "terminalwindow.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QGraphicsItem>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -90,9 +89,9 @@ void TestHints::escapeTakesTheCardAway()
     hints->greet();
     // Whatever else is pressed is the display's.
     const double distance = terminal().window()->fieldView()->camera().distance();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
+    QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Plus);
     QVERIFY(terminal().window()->fieldView()->camera().distance() < distance);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Escape);
     QVERIFY(!card()->isVisible());
     QVERIFY(terminal().window()->focusWidget() == nullptr);
 }
