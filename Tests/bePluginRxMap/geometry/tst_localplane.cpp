@@ -35,6 +35,7 @@ private Q_SLOTS:
     void refusesWhatItCannotPlace_data();
     void refusesWhatItCannotPlace();
     void projectsNoSystemThatIsNowhereOnTheEarth();
+    void projectsMorePlacesThanOneCallTakes();
     void acceptsMapsOfAnyPlace_data();
     void acceptsMapsOfAnyPlace();
     void measuresDistances();
@@ -175,6 +176,26 @@ void LocalPlaneTest::projectsNoSystemThatIsNowhereOnTheEarth()
     QString error;
     QVERIFY(!LocalPlane(10.0, 45.0).project(map, xs, ys, error));
     QVERIFY2(error.contains(QStringLiteral("\"the plans of a yard\" cannot be projected")), qPrintable(error));
+}
+
+void LocalPlaneTest::projectsMorePlacesThanOneCallTakes()
+{
+    // Over a region, which is too wide to be projected by an approximation.
+    constexpr size_t count = 70000;
+    std::vector<double> degreesEast, degreesNorth;
+    for (size_t i = 0; i < count; ++i) {
+        degreesEast.push_back(20.0 + 2e-4 * double(i));
+        degreesNorth.push_back(40.0 + 1e-4 * double(i));
+    }
+    const LocalPlane plane(27.0, 44.0);
+    std::vector<double> xs, ys;
+    QString error;
+    QVERIFY(plane.project(mapAt(degreesEast, degreesNorth, 4326), xs, ys, error));
+    for (size_t i = 0; i < count; i += 6999) {
+        std::vector<double> x, y;
+        QVERIFY(plane.project(mapAt({degreesEast[i]}, {degreesNorth[i]}, 4326), x, y, error));
+        QVERIFY2(std::hypot(xs[i] - x[0], ys[i] - y[0]) < 1e-6, qPrintable(QString::number(i)));
+    }
 }
 
 void LocalPlaneTest::acceptsMapsOfAnyPlace_data()

@@ -145,6 +145,7 @@ private Q_SLOTS:
     void leavesOutWhatCrossesItselfTooOften();
     void endsWhenItIsCancelled();
     void leavesOtherThreadsAlone();
+    void leavesLaterWorkOfTheThreadAlone();
 };
 
 void RingRepairTanglesTest::comesOutAsGeosMakesItValid_data()
@@ -256,6 +257,16 @@ void RingRepairTanglesTest::leavesOtherThreadsAlone()
         wasGivenUp = repair(fineScribble(50)).polygons.empty();
     }).join();
     QVERIFY(wasGivenUp);
+    QVERIFY(!repair(fineScribble(50)).polygons.empty());
+}
+
+void RingRepairTanglesTest::leavesLaterWorkOfTheThreadAlone()
+{
+    const std::atomic<bool> cancelled(true);
+    {
+        const GeosInterrupt interrupt(&cancelled);
+        QVERIFY(repair(fineScribble(50)).polygons.empty());
+    }
     QVERIFY(!repair(fineScribble(50)).polygons.empty());
 }
 
