@@ -30,6 +30,7 @@ Simulation::Simulation(Machine *machine, const SimulationClock *givenWall, QObje
 {
     takeProducts();
     connect(machine, &Machine::productsChanged, this, &Simulation::takeProducts);
+    connect(machine, &Machine::mapsChanged, this, &Simulation::takeLimits);
     // At once, so that nobody sees commands of a map that is gone.
     connect(machine, &Machine::mapsChanged, this, &Simulation::updateCommands);
     updateCommands();
@@ -49,6 +50,14 @@ void Simulation::takeProducts()
     for (const Product &product : machineModel->products())
         actuators.emplace_back(product.actuator);
     meanRates.assign(actuators.size(), 0.0);
+}
+
+void Simulation::takeLimits()
+{
+    for (size_t i = 0; i < actuators.size(); ++i) {
+        const ActuatorSettings &settings = machineModel->products().at(int(i)).actuator;
+        actuators[i].setLimits(settings.minRate, settings.maxRate);
+    }
 }
 
 bool Simulation::setTimeFactor(double newFactor)

@@ -79,6 +79,8 @@ private:
     };
 
     void takeProducts();
+    /// Products that are called as before may have other limits with another map.
+    void takeLimits();
     void updateCommands();
     /// Looks at the wall's clock as often as a machine wants that moves.
     void wake();

@@ -2,7 +2,10 @@
 #include "testbase.h"
 #include "vehicle.h"
 
+#include <QFile>
 #include <QLineF>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTimer>
 
 /// Simulated time.
@@ -15,6 +18,7 @@ private Q_SLOTS:
     void whatCannotBeDrivenInTimeIsNotMadeUpFor();
     void aStandingMachineIsSeldomLookedAt();
     void factorsOutOfRangeAreRefused();
+    void limitsFollowTheMap();
 };
 
 namespace {
@@ -115,6 +119,34 @@ void TestSimulation::factorsOutOfRangeAreRefused()
     for (const double factor : {-0.1, 50.1, qQNaN()})
         QVERIFY(!simulation.setTimeFactor(factor));
     QCOMPARE(simulation.timeFactor(), 1.0);
+}
+
+void TestSimulation::limitsFollowTheMap()
+{
+    MachineBench bench;
+    const QTemporaryDir folder;
+    const QSignalSpy changes(&bench.machine, &Machine::productsChanged);
+    for (const double rate : {80.0, 90000.0}) {
+        LoadRequest request;
+        request.path = folder.filePath(QStringLiteral("%1.geojson").arg(rate));
+        QFile map(request.path);
+        QVERIFY(map.open(QIODevice::WriteOnly));
+        map.write(QStringLiteral(R"({"type": "FeatureCollection", "features": [{"type": "Feature",
+            "properties": {"SEED_K_HA": %1}, "geometry": {"type": "Polygon", "coordinates":
+            [[[10, 50], [10.01, 50], [10.01, 50.01], [10, 50.01], [10, 50]]]}}]})")
+                      .arg(rate)
+                      .toUtf8());
+        map.close();
+        bench.machine.leaveProductsOpen();
+        bench.machine.offerProducts(request);
+        QVERIFY(bench.backend.loadAndWait(request).isOk());
+        bench.place(QPointF(), 0.0, 1.0);
+        bench.simulation.run(5.0);
+        QCOMPARE(bench.simulation.rates(1).command.commanded, rate);
+        QVERIFY(qAbs(bench.simulation.rates(1).applied - rate) < 0.1 * rate);
+    }
+    // The product is called as before.
+    QVERIFY(changes.isEmpty());
 }
 
 RXMAP_TEST(TestSimulation, Core)

@@ -3,6 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+void Actuator::setLimits(double minRate, double maxRate)
+{
+    settings.minRate = minRate;
+    settings.maxRate = maxRate;
+}
+
 double Actuator::target(const RateCommand &command) const
 {
     return command.isOn ? std::clamp(command.commanded, settings.minRate, settings.maxRate) : 0.0;

@@ -14,6 +14,8 @@ public:
     {
     }
 
+    /// What it can do from the next step on.
+    void setLimits(double minRate, double maxRate);
     /// The rate that the command stands for in the end, base units.
     double target(const RateCommand &command) const;
     /// Lets `seconds` (above 0, at every call the same) pass under that command; the mean rate meanwhile.
