@@ -32,6 +32,7 @@ private Q_SLOTS:
     void aFileThatReplacesAllBringsItsProducts();
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
+    void aFieldFarFromTheOtherIsToldBeforeAndAfter_data();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter();
     void aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted();
     void aFieldFarFromTheOtherBringsItsProducts();
@@ -284,8 +285,20 @@ void TestFileOpening::filesWantedTogetherShareTheProducts()
     QCOMPARE(productNames().first(), QStringLiteral("Urea"));
 }
 
+void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter_data()
+{
+    QTest::addColumn<int>("units");
+    QTest::addColumn<QString>("distance");
+    QTest::newRow("kilometres") << int(UnitSystem::Metric) << "1,989 km";
+    QTest::newRow("miles") << int(UnitSystem::Us) << "1,236 mi";
+}
+
 void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
 {
+    QFETCH(int, units);
+    QFETCH(QString, distance);
+    host.reset();
+    host.reset(new TerminalHost(UnitSystem(units)));
     QSignalSpy opened(terminal().openWindow(), &OpenWindow::opened);
     openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
     Q_EMIT terminal().window()->dropped({write("beside", {{"SEED_K_HA", 1.0}}, 10.01)}, {});
@@ -294,8 +307,11 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
     terminal().openWindow()->leave();
     Q_EMIT terminal().window()->dropped({write("far", {{"SEED_K_HA", 1.0}}, 38.0)}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
-    QVERIFY2(remark().contains(QStringLiteral("Lies 1,989 km from both.shp")), qPrintable(remark()));
+    QVERIFY2(remark().contains(QStringLiteral("Lies %1 from both.shp").arg(distance)), qPrintable(remark()));
     button("openAccept")->click();
+    const QStringList asked = paintedTexts(*button("choice1")->parentWidget());
+    QVERIFY2(asked.contains(QStringLiteral("%1 from both.shp, which stays open").arg(distance)),
+             qPrintable(asked.join('\n')));
     QCOMPARE(button("choice1")->text(), QStringLiteral("Keep both.shp open"));
     button("choice1")->click();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
@@ -304,7 +320,7 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
     QVERIFY2(!warnings.filter(QStringLiteral("lies 1989 km")).isEmpty(), qPrintable(warnings.join('\n')));
     QTRY_VERIFY(button("findingsButton") != nullptr);
     const auto *finding = terminal().window()->findChild<QAbstractButton *>(QStringLiteral("finding0"));
-    QCOMPARE(finding->text(), QStringLiteral("lies 1,989 km from both.shp, which feeds products, too"));
+    QCOMPARE(finding->text(), QStringLiteral("lies %1 from both.shp, which feeds products, too").arg(distance));
     QVERIFY(terminal().close(terminal().backend()->maps().first().group));
     QVERIFY(button("findingsButton") == nullptr);
 }

@@ -5,6 +5,7 @@
 #include "findingunits.h"
 #include "machine.h"
 #include "mapoverlay.h"
+#include "showndistance.h"
 #include "shownnumber.h"
 #include "statusbar.h"
 #include "terminalwindow.h"
@@ -114,9 +115,8 @@ std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> 
         return {};
     MapFinding finding;
     finding.kind = MapFinding::Kind::FarAway;
-    finding.text =
-        tr("lies %1 from %2, which feeds products, too")
-            .arg(FindingUnits(machine->unitSystem()).distance(distance), QFileInfo(nearest->path).fileName());
+    finding.text = tr("lies %1 from %2, which feeds products, too")
+                       .arg(ShownDistance::text(distance, machine->unitSystem()), QFileInfo(nearest->path).fileName());
     finding.extent = map.bounds;
     finding.place = map.bounds.center();
     return finding;

@@ -10,7 +10,6 @@ namespace {
 constexpr double hectare = 10000.0; // Square metres.
 constexpr double acre = 4046.8564224;
 constexpr double foot = 0.3048; // Metres.
-constexpr double mile = 1609.344;
 
 } // namespace
 
@@ -21,9 +20,10 @@ FindingUnits::FindingUnits(UnitSystem system)
 
 QString FindingUnits::textOf(const MapFinding &finding) const
 {
-    // In the back-end's language with a comma or a point.
-    static const QRegularExpression figure(QStringLiteral("\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"));
-    // Others have no figures of these kinds, but names of columns and products that may look like one.
+    // In the back-end's language with a comma or a point. Names are passed over, which may look like a figure.
+    static const QRegularExpression figure(
+        QStringLiteral("[\"\u201e][^\"\u201c]*[\"\u201c]|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"));
+    // Others have no figures of these kinds.
     if (!finding.area)
         return finding.text;
     QString text;
@@ -31,18 +31,14 @@ QString FindingUnits::textOf(const MapFinding &finding) const
     QRegularExpressionMatchIterator matches = figure.globalMatch(finding.text);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
+        if (match.captured(1).isEmpty())
+            continue;
         const double value = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
         text += finding.text.mid(end, match.capturedStart() - end);
         text += match.captured(2).isEmpty() ? width(value) : area(value);
         end = match.capturedEnd();
     }
     return text + finding.text.mid(end);
-}
-
-QString FindingUnits::distance(double metres) const
-{
-    return isMetric ? tr("%1 km").arg(ShownNumber::text(metres / 1000.0))
-                    : tr("%1 mi").arg(ShownNumber::text(metres / mile));
 }
 
 QString FindingUnits::width(double metres) const

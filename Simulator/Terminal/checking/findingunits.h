@@ -16,8 +16,6 @@ public:
     /// The finding's text, with widths in metres or feet, and areas from a tenth of a hectare on in hectares or acres,
     /// smaller ones in square metres or square feet.
     QString textOf(const MapFinding &finding) const;
-    /// "12.3 km", "7.6 mi". `metres` is long.
-    QString distance(double metres) const;
 
 private:
     QString width(double metres) const;

@@ -5,7 +5,7 @@
 #include "openmap.h"
 #include "openwindow.h"
 #include "previewpage.h"
-#include "shownnumber.h"
+#include "showndistance.h"
 #include "unitpage.h"
 
 #include <algorithm>
@@ -106,7 +106,7 @@ void OpenWindow::askFarFields()
         return;
     }
     const QString names = fileNames.join(QStringLiteral(", "));
-    ask(tr("%1 km from %2, which stays open").arg(ShownNumber::text(distance / 1000.0), names),
+    ask(tr("%1 from %2, which stays open").arg(ShownDistance::text(distance, machine->unitSystem()), names),
         {tr("Close %1").arg(names), tr("Keep %1 open").arg(names)}, 0,
         [this, groups](int place) { load(place == 0 ? groups : QStringList()); });
 }

@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Sample field</source>
-        <translation>Champ d&apos;exemple</translation>
+        <translation>Champ d’exemple</translation>
     </message>
 </context>
 <context>
@@ -335,14 +335,6 @@
 </context>
 <context>
     <name>FindingUnits</name>
-    <message>
-        <source>%1 km</source>
-        <translation>%1 km</translation>
-    </message>
-    <message>
-        <source>%1 mi</source>
-        <translation>%1 mi</translation>
-    </message>
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
@@ -613,8 +605,8 @@
         <translation>Le fichier n’indique pas son unité</translation>
     </message>
     <message>
-        <source>%1 km from %2, which stays open</source>
-        <translation>À %1 km de %2, qui reste ouvert</translation>
+        <source>%1 from %2, which stays open</source>
+        <translation>À %1 de %2, qui reste ouvert</translation>
     </message>
     <message>
         <source>Close %1</source>
@@ -698,8 +690,8 @@
         <translation>Reprend %1 de %2</translation>
     </message>
     <message>
-        <source>Lies %1 km from %2</source>
-        <translation>Se trouve à %1 km de %2</translation>
+        <source>Lies %1 from %2</source>
+        <translation>Se trouve à %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -995,6 +987,17 @@
     <message>
         <source>Default rate of %1</source>
         <translation>Dose standard de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShownDistance</name>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
     </message>
 </context>
 <context>

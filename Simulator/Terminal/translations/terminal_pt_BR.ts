@@ -336,14 +336,6 @@
 <context>
     <name>FindingUnits</name>
     <message>
-        <source>%1 km</source>
-        <translation>%1 km</translation>
-    </message>
-    <message>
-        <source>%1 mi</source>
-        <translation>%1 mi</translation>
-    </message>
-    <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
     </message>
@@ -613,8 +605,8 @@
         <translation>O arquivo não informa sua unidade</translation>
     </message>
     <message>
-        <source>%1 km from %2, which stays open</source>
-        <translation>A %1 km de %2, que continua aberto</translation>
+        <source>%1 from %2, which stays open</source>
+        <translation>A %1 de %2, que continua aberto</translation>
     </message>
     <message>
         <source>Close %1</source>
@@ -698,8 +690,8 @@
         <translation>Assume %1 de %2</translation>
     </message>
     <message>
-        <source>Lies %1 km from %2</source>
-        <translation>Fica a %1 km de %2</translation>
+        <source>Lies %1 from %2</source>
+        <translation>Fica a %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -995,6 +987,17 @@
     <message>
         <source>Default rate of %1</source>
         <translation>Dose padrão de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShownDistance</name>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 mi</source>
+        <translation>%1 mi</translation>
     </message>
 </context>
 <context>

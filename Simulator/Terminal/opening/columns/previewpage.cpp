@@ -7,6 +7,7 @@
 #include "machine.h"
 #include "mappreview.h"
 #include "openmap.h"
+#include "showndistance.h"
 #include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -172,7 +173,8 @@ QStringList PreviewPage::replacements() const
         else if (!other.taken.isEmpty())
             remarks.append(tr("Takes %1 over from %2").arg(other.taken.join(QStringLiteral(", ")), other.file));
         if (other.staysFarAway())
-            remarks.append(tr("Lies %1 km from %2").arg(ShownNumber::text(other.distance / 1000.0), other.file));
+            remarks.append(
+                tr("Lies %1 from %2").arg(ShownDistance::text(other.distance, machine->unitSystem()), other.file));
     }
     return remarks;
 }
