@@ -1,5 +1,6 @@
 #include "maphost.h"
 #include "paths.h"
+#include "rxmap3d.h"
 #include "rxmapgraphicslist.h"
 #include "rxmapwidget.h"
 #include "testbase.h"
@@ -184,22 +185,27 @@ void TestUiPluginRxMapFactories::aListAskedForWhileANewOneIsMadeIsReplaced()
 
 void TestUiPluginRxMapFactories::thePluginMayGoWhileItMakesAList_data()
 {
-    QTest::addColumn<bool>("withTheOldList");
-    QTest::newRow("with the old list") << true;
-    QTest::newRow("while the new one reads") << false;
+    QTest::addColumn<QString>("ending");
+    QTest::newRow("with the old list's map") << "map";
+    QTest::newRow("with the old list") << "list";
+    QTest::newRow("while the new one reads") << "";
 }
 
 void TestUiPluginRxMapFactories::thePluginMayGoWhileItMakesAList()
 {
-    QFETCH(bool, withTheOldList);
+    QFETCH(QString, ending);
     MapHost host;
     QPointer<UiPluginRxMap> plugin = new UiPluginRxMap;
     const auto end = [](void *ended) { delete *static_cast<QPointer<UiPluginRxMap> *>(ended); };
-    if (withTheOldList)
-        connect(plugin->createUiGraphicsList(listName, &host.broker).data(), &QObject::destroyed, this,
-                [&] { end(&plugin); });
-    else
+    if (ending.isEmpty()) {
         QVERIFY(host.job->setBeforeReadHook("activeAAMGroupName", end, &plugin));
+    } else {
+        const QPointer<UiGraphicsList> list = plugin->createUiGraphicsList(listName, &host.broker);
+        const QObject *ended = list;
+        if (ending == QLatin1String("map"))
+            ended = list->findChild<RxMap3D *>();
+        connect(ended, &QObject::destroyed, this, [&] { end(&plugin); });
+    }
     QVERIFY(plugin->createUiGraphicsList(listName, &host.broker).isNull());
     QVERIFY(plugin.isNull());
 }

@@ -47,6 +47,8 @@ void PrescriptionLoaderStraysTest::leavesStraysOut_data()
     QTest::newRow("one corner at 0, 0") << 4326 << 3 << QStringList{"POLYGON ((0 0, 11.001 48, 11 48.001, 0 0))"}
                                         << "record 3";
     QTest::newRow("200 km away") << 4326 << 3 << QStringList{away} << "record 3";
+    QTest::newRow("200 km away, before the others")
+        << 4326 << 0 << QStringList{away, squareText(11.0, 48.0, 0.001), squareText(11.002, 48.0, 0.001)} << "record 0";
     QTest::newRow("200 km away, between others")
         << 4326 << 1 << QStringList{away, squareText(11.002, 48.0, 0.001)} << "record 1";
     QTest::newRow("beyond the earth") << 4326 << 3 << QStringList{squareText(5000.0, 48.0, 1.0)} << "record 3";

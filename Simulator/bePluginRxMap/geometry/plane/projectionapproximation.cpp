@@ -23,7 +23,7 @@ Places chebyshevNodes(std::size_t count)
 }
 
 /// Turns values at `size` nodes into the coefficients of the powers: the inverse of the nodes' Vandermonde matrix, by
-/// Gauss-Jordan elimination with partial pivoting.
+/// Gauss-Jordan elimination; nodes that all differ leave no pivot zero.
 Square powersFromValues(const Places &places, std::size_t size)
 {
     Square left = {};
@@ -34,13 +34,6 @@ Square powersFromValues(const Places &places, std::size_t size)
             left[i][k] = std::pow(places[i], static_cast<double>(k));
     }
     for (std::size_t column = 0; column < size; ++column) {
-        std::size_t pivot = column;
-        for (std::size_t row = column + 1; row < size; ++row) {
-            if (std::fabs(left[row][column]) > std::fabs(left[pivot][column]))
-                pivot = row;
-        }
-        std::swap(left[column], left[pivot]);
-        std::swap(right[column], right[pivot]);
         for (std::size_t row = 0; row < size; ++row) {
             const double factor = row == column ? 0.0 : left[row][column] / left[column][column];
             for (std::size_t k = 0; k < size; ++k) {
