@@ -21,6 +21,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -76,7 +77,7 @@ bool isSame(const Product &one, const Product &other)
 }
 
 /// The default rates of new products, of which there are never fewer than before. One that is what it was keeps the
-/// rate in use where that is not what it was made with: the operator set it.
+/// rate in use where that is neither what it was made with nor what a file gave since: the operator set it.
 QList<double> ratesToUse(const Products &products, const Products &before, const QList<double> &ratesInUse)
 {
     QList<double> rates;
@@ -105,6 +106,7 @@ Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Pr
     useRates(ratesToUse(allProducts, {}, {}));
     connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
     connect(backend, &PrescriptionBackend::productsMade, this, &Machine::takeProducts);
+    connect(backend, &PrescriptionBackend::finished, this, &Machine::noteGivenRates);
     announceActiveProduct();
 }
 
@@ -142,6 +144,15 @@ void Machine::takeProducts(const QList<ColumnProduct> &columns)
         publishProduct(number);
     listProducts();
     Q_EMIT productsChanged();
+}
+
+void Machine::noteGivenRates(const LoadReport &report)
+{
+    for (const RateSource &source : report.sources) {
+        const double given = source.placeRates.defaultRate();
+        if (report.isOk() && !std::isnan(given))
+            allProducts[source.product - 1].defaultRate = given;
+    }
 }
 
 void Machine::leaveProductsOpen()

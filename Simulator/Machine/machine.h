@@ -20,6 +20,7 @@ class DbGroupProductGroupInfo;
 class DbGroupQuillSpan;
 class DbGroupSingleProductNode;
 class PrescriptionBackend;
+struct LoadReport;
 
 /// The machine as the broker shows it: units, job, products with their bins, nodes and application maps, position and
 /// rate controller. It keeps the groups that depend on the loaded prescriptions current. Products are numbered from 1.
@@ -90,6 +91,8 @@ private:
     /// The default rates in use, which the operator or a file may have changed, by product.
     QList<double> ratesInUse() const;
     void useRates(const QList<double> &rates);
+    /// What a file gives is in use then, and not what the operator set.
+    void noteGivenRates(const LoadReport &report);
     void publishTerminal();
     void publishProduct(int number);
     /// Makes the groups of a product what it is.

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void productsAreOfferedAnewWhereNoneStaysInUse();
     void productsMadeAgainKeepWhatWasSet();
     void defaultRatesFollowTheMap();
+    void aRateThatAFileGivesIsNoneThatWasSet();
 
 private:
     void build(const Products &products, UnitSystem units = UnitSystem::Metric);
@@ -404,6 +405,35 @@ void TestMachine::defaultRatesFollowTheMap()
         QVERIFY(load(rate));
         QCOMPARE(defaultRate(), 99.0);
     }
+}
+
+void TestMachine::aRateThatAFileGivesIsNoneThatWasSet()
+{
+    const auto loadZones = [this] {
+        machine->leaveProductsOpen();
+        LoadRequest request;
+        request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
+        request.columns = QStringList{"FERT_KG_HA"};
+        machine->offerProducts(request);
+        return backend->loadAndWait(request).isOk();
+    };
+    QVERIFY(loadZones());
+    QCOMPARE(backend->loader(0)->defaultRate, 135.0);
+    const QTemporaryDir folder;
+    QFile tasks(folder.filePath(QStringLiteral("TASKDATA.XML")));
+    QVERIFY(tasks.open(QIODevice::WriteOnly));
+    tasks.write(R"(<ISO11783_TaskData VersionMajor="4" VersionMinor="0" DataTransferOrigin="1">
+        <TSK A="TSK1" G="1" H="2"><TZN A="1"><PLN A="1"><LSG A="1"><PNT A="2" C="48" D="11"/><PNT A="2" C="48" D="11.01"/>
+        <PNT A="2" C="48.01" D="11"/><PNT A="2" C="48" D="11"/></LSG></PLN><PDV A="0006" B="9000"/></TZN>
+        <TZN A="2"><PDV A="0006" B="14815"/></TZN></TSK></ISO11783_TaskData>)");
+    tasks.close();
+    LoadRequest request;
+    request.path = folder.path();
+    machine->enterProducts(request);
+    QVERIFY(backend->loadAndWait(request).isOk());
+    QCOMPARE(backend->loader(0)->defaultRate, 148.15);
+    QVERIFY(loadZones());
+    QCOMPARE(backend->loader(0)->defaultRate, 135.0);
 }
 
 RXMAP_TEST(TestMachine, Core)
