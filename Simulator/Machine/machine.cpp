@@ -150,7 +150,8 @@ void Machine::noteGivenRates(const LoadReport &report)
 {
     for (const RateSource &source : report.sources) {
         const double given = source.placeRates.defaultRate();
-        if (report.isOk() && !std::isnan(given))
+        // Whoever loads may name products that there are not.
+        if (report.isOk() && !std::isnan(given) && source.product <= allProducts.size())
             allProducts[source.product - 1].defaultRate = given;
     }
 }

@@ -434,6 +434,16 @@ void TestMachine::aRateThatAFileGivesIsNoneThatWasSet()
     QCOMPARE(backend->loader(0)->defaultRate, 148.15);
     QVERIFY(loadZones());
     QCOMPARE(backend->loader(0)->defaultRate, 135.0);
+    // Of a product that the machine does not have it takes nothing.
+    for (int number = request.products.size(); number < 8; ++number) {
+        for (MachineProduct &product : request.products)
+            product.isDriven = false;
+        request.products.append(request.products.first());
+        request.products.last().isDriven = true;
+    }
+    QVERIFY(backend->loadAndWait(request).isOk());
+    QCOMPARE(backend->maps().last().sources.first().product, 8);
+    QCOMPARE(machine->products().size(), 3);
 }
 
 RXMAP_TEST(TestMachine, Core)
