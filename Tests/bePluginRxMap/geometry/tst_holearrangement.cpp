@@ -67,6 +67,8 @@ void HoleArrangementTest::joinsTheHoleInWhichAnIslandLies()
     QCOMPARE(arrangement.takers, std::vector<int>({0, 1, 1}));
     QCOMPARE(recordsOf(polygons), QList<int>({0, 1}));
     QCOMPARE(ringArea(polygons[0].outer), 40000.0 - 14400.0);
+    QCOMPARE(arrangement.joined.size(), size_t(1));
+    QCOMPARE(ringArea(arrangement.joined[0]), 14400.0);
     QCOMPARE(polygons[0].holes.size(), size_t(1));
     QCOMPARE(polygons[1].holes.size(), size_t(2));
 }

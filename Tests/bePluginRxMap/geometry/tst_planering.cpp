@@ -70,6 +70,8 @@ void PlaneRingTest::seesWhereSegmentsMeet_data()
     QTest::newRow("end just beside the other") << PlaneRing{{0, 0}, {10, 0}, {5, 0.0009765625}, {5, 5}} << false;
     QTest::newRow("on one line, overlapping") << PlaneRing{{0, 0}, {10, 10}, {5, 5}, {15, 15}} << true;
     QTest::newRow("on one line, apart") << PlaneRing{{0, 0}, {4, 4}, {5, 5}, {15, 15}} << false;
+    QTest::newRow("on one level, apart") << PlaneRing{{0, 0}, {4, 0}, {5, 0}, {15, 0}} << false;
+    QTest::newRow("on one upright line, apart") << PlaneRing{{0, 0}, {0, 4}, {0, 5}, {0, 15}} << false;
 }
 
 void PlaneRingTest::seesWhereSegmentsMeet()

@@ -175,6 +175,8 @@ void RingRepairTest::countsAPolygonThatIsBrokenInTheFileOnly()
     QCOMPARE(outcome.repaired.size(), size_t(0));
     QCOMPARE(outcome.polygons.size(), size_t(1));
     QVERIFY(isSimpleRing(outcome.polygons[0].outer));
+    // This hole leaves its ring in the file.
+    QCOMPARE(repair(mapOf({{square(0, 0, 100), false}, {square(90, 40, 20), true}})).repaired.size(), size_t(1));
 }
 
 void RingRepairTest::dropsRingsThatCollapse()
