@@ -26,6 +26,7 @@ Theme::Colors dayColors()
     colors.caution = QColor(255, 196, 60);
     colors.textOnCaution = QColor(16, 24, 32);
     colors.prescribed = QColor(190, 104, 0);
+    colors.applied = QColor(0, 92, 168);
     colors.ground = QColor(222, 216, 202);
     colors.groundLine = QColor(40, 44, 36);
     return colors;
@@ -46,7 +47,8 @@ Theme::Colors nightColors()
     colors.textOnAccent = QColor(14, 18, 22);
     colors.caution = QColor(150, 56, 0);
     colors.textOnCaution = QColor(255, 255, 255);
-    colors.prescribed = QColor(120, 200, 255);
+    colors.prescribed = QColor(255, 166, 40);
+    colors.applied = QColor(120, 200, 255);
     colors.ground = QColor(38, 42, 38);
     colors.groundLine = QColor(214, 220, 204);
     return colors;
@@ -156,6 +158,11 @@ QColor Theme::accentText()
 QColor Theme::prescribed()
 {
     return now().prescribed;
+}
+
+QColor Theme::applied()
+{
+    return now().applied;
 }
 
 QColor Theme::ground()

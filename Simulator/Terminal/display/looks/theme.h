@@ -28,7 +28,8 @@ struct Colors {
     QColor textOnAccent;
     QColor caution; ///< ground of what the operator is to see to
     QColor textOnCaution;
-    QColor prescribed; ///< of a plot's line, beside one of the accent's
+    QColor prescribed; ///< of a plot's line, of the same hue by day and by night, as is
+    QColor applied;    ///< that beside it
     QColor ground;     ///< under the map
     QColor groundLine; ///< of the grid on the ground
 };
@@ -65,6 +66,7 @@ QColor faintText();
 QColor disabledText();
 QColor accentText();
 QColor prescribed();
+QColor applied();
 QColor ground();
 QColor groundLine();
 

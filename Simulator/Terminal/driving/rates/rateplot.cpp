@@ -122,7 +122,7 @@ void RatePlot::drawApplied(QPainter &painter, const Axes &axes, const Samples &s
     QPolygonF line;
     for (const RateHistory::Sample &sample : samples)
         line.append(axes.at(sample.time, factor * sample.applied));
-    painter.setPen(QPen(Theme::accent(), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Theme::applied(), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(line);
 }
 
@@ -139,5 +139,5 @@ void RatePlot::drawKey(QPainter &painter, const QRectF &row) const
         left += painter.fontMetrics().horizontalAdvance(text) + 16.0;
     };
     add(Theme::prescribed(), tr("Plan here"));
-    add(Theme::accent(), tr("Applied"));
+    add(Theme::applied(), tr("Applied"));
 }

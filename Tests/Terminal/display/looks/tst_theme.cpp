@@ -47,6 +47,7 @@ private Q_SLOTS:
     void textStandsOutFromItsGround();
     void aPressedButtonLooksDifferent();
     void whatIsDrawnStandsOutFromItsGround();
+    void thePlotsLinesKeepTheirHueByNight();
     void aDarkDesktopHasNight();
     void thePaletteIsThatOfTheThemeInUse();
     void aPanelIsFilledToItsEdgesAndHasRoundCorners();
@@ -93,8 +94,19 @@ void TestTheme::whatIsDrawnStandsOutFromItsGround()
         QVERIFY(contrast(colors.accent, blended(colors.panel, Qt::black)) >= leastOfGraphics);
         QVERIFY(contrast(colors.accent, colors.button) >= leastOfGraphics);
         QVERIFY(contrast(colors.prescribed, blended(colors.panel, Qt::white)) >= leastOfGraphics);
+        QVERIFY(contrast(colors.applied, blended(colors.panel, Qt::white)) >= leastOfGraphics);
         QVERIFY(contrast(colors.text, colors.ground) >= leastOfGraphics);
     }
+}
+
+void TestTheme::thePlotsLinesKeepTheirHueByNight()
+{
+    const Theme::Colors &day = Theme::colors(Kind::Day);
+    const Theme::Colors &night = Theme::colors(Kind::Night);
+    constexpr int alike = 15; // Degrees.
+    QVERIFY(qAbs(day.prescribed.hue() - night.prescribed.hue()) <= alike);
+    QVERIFY(qAbs(day.applied.hue() - night.applied.hue()) <= alike);
+    QVERIFY(qAbs(night.prescribed.hue() - night.applied.hue()) >= 90);
 }
 
 void TestTheme::aDarkDesktopHasNight()

@@ -254,8 +254,8 @@ int TestDriveStrip::lineAt(const QImage &plot, double secondsBack)
     const int x = int(right - secondsBack / RateHistory::span * (right - left));
     for (int y = 36; y < plot.height() - 24; ++y) {
         const QColor color = plot.pixelColor(x, y);
-        if (qAbs(color.red() - Theme::accent().red()) + qAbs(color.green() - Theme::accent().green())
-                + qAbs(color.blue() - Theme::accent().blue())
+        if (qAbs(color.red() - Theme::applied().red()) + qAbs(color.green() - Theme::accent().green())
+                + qAbs(color.blue() - Theme::applied().blue())
             < 60)
             return y;
     }
