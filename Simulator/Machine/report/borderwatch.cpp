@@ -24,12 +24,20 @@ void BorderWatch::begin(double time, double way, double newTarget)
     samples.push_back({time, way, 0.0, 0.0});
     formerBorder = time - 2.0 * reach;
     target = newTarget;
+    isFilling = false;
 }
 
 void BorderWatch::step(double time, double way, double mean)
 {
     if (samples.empty())
         return;
+    constexpr double nearly = 0.01;
+    const bool isNothingYet = mean == 0.0 && samples.back().overTime == 0.0;
+    isFilling = (isFilling || isNothingYet) && borders.empty() && mean < (1.0 - nearly) * target;
+    if (isFilling) {
+        samples = {{time, way, 0.0, 0.0}};
+        return;
+    }
     const Sample &last = samples.back();
     samples.push_back({time, way, last.overTime + mean * (time - last.time), last.overWay + mean * (way - last.way)});
     while (!borders.empty() && time - borders.front().time >= reach)

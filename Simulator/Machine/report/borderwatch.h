@@ -9,7 +9,8 @@
 ///
 /// A change's moment is that of the sharp step from the rate wanted before the border to the one wanted after it that
 /// would have applied the same amount between the middles to the neighbouring borders, or within `reach` seconds where
-/// these are farther.
+/// these are farther. What is lacking where the implement goes down with nothing put out, as when the machine sets off,
+/// is no border's: the amounts count from when what is wanted is put out.
 class BorderWatch {
 public:
     static constexpr double reach = 10.0;
@@ -66,4 +67,5 @@ private:
     std::deque<Border> borders;
     double formerBorder = 0.0;
     double target = 0.0;
+    bool isFilling = false; ///< From nothing put out to what is wanted.
 };

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void aLagIsAsLateAsTheStepOfTheSameAmount();
     void neighbouringBordersShareTheWayBetweenThem();
     void whatComesAfterTheMiddleIsTheNextBorders();
+    void settingOffIsNoLateness();
     void theMedianIsTheMiddle();
 };
 
@@ -98,6 +99,22 @@ void TestBorderWatch::whatComesAfterTheMiddleIsTheNextBorders()
     QCOMPARE(watch.changes().size(), size_t(2));
     for (const BorderWatch::Change &change : watch.changes())
         QVERIFY2(std::fabs(change.late.seconds - 1.0) < 1e-9, qPrintable(QString::number(change.late.seconds)));
+}
+
+void TestBorderWatch::settingOffIsNoLateness()
+{
+    // Nothing for the first second, then 80; 84 from 5 s on, put out half a second late.
+    BorderWatch watch;
+    watch.begin(0.0, 0.0, 80.0);
+    for (int step = 1; step <= 200; ++step) {
+        if (step == 51)
+            watch.border(5.0, 15.0, {}, 84.0);
+        watch.step(0.1 * step, 0.3 * step, step <= 10 ? 0.0 : step <= 55 ? 80.0 : 84.0);
+    }
+    watch.end();
+    QCOMPARE(watch.changes().size(), size_t(1));
+    QVERIFY2(std::fabs(watch.median().seconds - 0.5) < 1e-9, qPrintable(QString::number(watch.median().seconds)));
+    QVERIFY(std::fabs(watch.median().metres - 1.5) < 1e-9);
 }
 
 void TestBorderWatch::theMedianIsTheMiddle()
