@@ -28,8 +28,10 @@ DriveControls::DriveControls(Simulation *givenSimulation, QObject *parent)
 {
     connect(vehicle(), &Vehicle::moved, this, &DriveControls::changed);
     connect(simulation, &Simulation::timeFactorChanged, this, [this](double factor) {
-        if (factor > 0.0)
+        if (factor > 0.0) {
             lastPace = factor;
+            isPausedHere = false;
+        }
         Q_EMIT changed();
     });
     connect(simulation->machine(), &Machine::mapsChanged, this, [this] {
@@ -54,6 +56,7 @@ void DriveControls::start()
     const bool needsWay = vehicle()->mode() == Motion::Mode::Shuttle || vehicle()->isOver();
     if (!needsWay || planSwaths())
         vehicle()->drive(speed());
+    endPause();
     Q_EMIT changed();
 }
 
@@ -61,6 +64,13 @@ void DriveControls::stop()
 {
     nextSpeed = speed();
     vehicle()->stop();
+    endPause();
+}
+
+void DriveControls::endPause()
+{
+    if (isPausedHere)
+        setPaused(false);
 }
 
 bool DriveControls::isUnderWay() const
@@ -139,6 +149,7 @@ bool DriveControls::isPaused() const
 void DriveControls::setPaused(bool pauses)
 {
     simulation->setTimeFactor(pauses ? 0.0 : pace());
+    isPausedHere = pauses;
 }
 
 bool DriveControls::planSwaths()

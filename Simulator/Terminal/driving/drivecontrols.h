@@ -15,7 +15,8 @@ public:
     /// `simulation` is not owned and outlives the controls.
     explicit DriveControls(Simulation *simulation, QObject *parent = nullptr);
 
-    /// Drives at speed(): by hand, along the way that there is, else along new swaths over the loaded field.
+    /// Drives at speed(): by hand, along the way that there is, else along new swaths over the loaded field. Like
+    /// stop() it ends the operator's pause: what is wanted would wait for that.
     void start();
     void stop();
     /// It is to move, and its way is not at its end.
@@ -67,9 +68,11 @@ private:
     void changeSpeed(int steps);
     void changePace(int steps);
     bool planSwaths();
+    void endPause();
 
     Simulation *simulation;
     double nextSpeed;
     double lastPace = 1.0;
+    bool isPausedHere = false; ///< And not by a script, to which time belongs then.
     QString problem;
 };

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aScriptsSpeedAndPaceAreTakenOver();
     void paceGoesByItsSteps();
     void aPauseKeepsThePace();
+    void startAndStopEndThePauseOfTheOperatorAlone();
     void pedalsDriveByHandAlone();
     void theWheelTurnsAsFarAsTheMachineCan();
     void theSignalIsLostAndFound();
@@ -178,6 +179,22 @@ void TestDriveControls::aPauseKeepsThePace()
     QCOMPARE(controls->pace(), 20.0);
     controls->setPaused(false);
     QCOMPARE(bench->simulation.timeFactor(), 20.0);
+}
+
+void TestDriveControls::startAndStopEndThePauseOfTheOperatorAlone()
+{
+    load();
+    bench->simulation.setTimeFactor(5.0);
+    controls->setPaused(true);
+    controls->start();
+    QCOMPARE(bench->simulation.timeFactor(), 5.0);
+    controls->setPaused(true);
+    controls->stop();
+    QCOMPARE(bench->simulation.timeFactor(), 5.0);
+    bench->simulation.setTimeFactor(0.0);
+    controls->start();
+    controls->stop();
+    QCOMPARE(bench->simulation.timeFactor(), 0.0);
 }
 
 void TestDriveControls::pedalsDriveByHandAlone()
