@@ -223,7 +223,7 @@ void TestFileOpening::theFirstFileBringsItsProducts()
     button("columnRow0Product")->click();
     button("choice0")->click();
     button("columnRow1Product")->click();
-    QCOMPARE(button("choice3")->text(), QStringLiteral("3. Herb"));
+    QCOMPARE(button("choice3")->text(), QStringLiteral("3. Herb (L/ha)"));
     button("choice2")->click();
     accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());

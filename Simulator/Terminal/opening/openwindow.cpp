@@ -171,6 +171,10 @@ void OpenWindow::takeSurvey(const SurveyReport &survey)
         this->survey(survey.path, {}, {});
         return;
     }
+    if (!survey.archived.isEmpty()) {
+        askArchived();
+        return;
+    }
     if (!survey.isOk()) {
         tell(survey.error, files);
         return;
@@ -250,15 +254,16 @@ void OpenWindow::leave()
 void OpenWindow::goBack()
 {
     QWidget *page = pages->currentWidget();
+    const bool isRefused = (page == message && behindMessage == files) || (page == choice && !last.archived.isEmpty());
     if (page == progress)
         giveUp();
     else if (page == files)
         leave();
-    else if (page == message && behindMessage == files && !waiting.isEmpty())
+    else if (isRefused && !waiting.isEmpty())
         showNext();
     else if (page == message && behindMessage == previews)
         showPage(previews);
-    else if (page == choice || page == unit) {
+    else if (!isRefused && (page == choice || page == unit)) {
         isOpening = false;
         showPage(last.isOk() ? static_cast<QWidget *>(previews) : message);
     } else {

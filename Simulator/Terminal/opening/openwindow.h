@@ -84,6 +84,8 @@ private:
     void load(const QStringList &closes);
     bool pressFocused();
     void ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer);
+    /// Which prescription of an archive is to be shown.
+    void askArchived();
     void askLayer();
     void askTask();
     void askProduct(int index);

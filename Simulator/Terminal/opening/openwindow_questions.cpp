@@ -8,6 +8,9 @@
 #include "showndistance.h"
 #include "unitpage.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +19,17 @@ void OpenWindow::ask(const QString &question, const QStringList &options, int cu
     whenChosen = std::move(answer);
     choice->ask(question, options, current);
     showPage(choice);
+}
+
+void OpenWindow::askArchived()
+{
+    QStringList names;
+    for (const QString &path : qAsConst(last.archived))
+        names.append(QDir(last.path).relativeFilePath(path));
+    ask(tr("Which prescription of %1?").arg(QFileInfo(last.path).fileName()), names, -1, [this](int place) {
+        waiting.prepend(last.archived.at(place));
+        showNext();
+    });
 }
 
 void OpenWindow::askLayer()
@@ -46,7 +60,9 @@ void OpenWindow::askProduct(int index)
     for (int number = 1; number <= products.size(); ++number) {
         if (!products.at(number - 1).isDriven)
             continue;
-        options.append(QStringLiteral("%1. %2").arg(QString::number(number), products.at(number - 1).name));
+        const MachineProduct &product = products.at(number - 1);
+        options.append(QStringLiteral("%1. %2 (%3)")
+                           .arg(QString::number(number), product.name, PrescriptionBackend::baseUnit(product.kind)));
         numbers.append(number);
     }
     ask(tr("Which product does %1 feed?").arg(selection.column(index).name), options,

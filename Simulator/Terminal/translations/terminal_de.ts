@@ -573,6 +573,10 @@
         <translation>%1 wird geöffnet</translation>
     </message>
     <message>
+        <source>Which prescription of %1?</source>
+        <translation>Welche Applikationskarte aus %1?</translation>
+    </message>
+    <message>
         <source>Which layer?</source>
         <translation>Welche Ebene?</translation>
     </message>

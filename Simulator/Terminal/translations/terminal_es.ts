@@ -573,6 +573,10 @@
         <translation>Abriendo %1</translation>
     </message>
     <message>
+        <source>Which prescription of %1?</source>
+        <translation>¿Qué prescripción de %1?</translation>
+    </message>
+    <message>
         <source>Which layer?</source>
         <translation>¿Qué capa?</translation>
     </message>

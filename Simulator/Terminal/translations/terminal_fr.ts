@@ -573,6 +573,10 @@
         <translation>Ouverture de %1</translation>
     </message>
     <message>
+        <source>Which prescription of %1?</source>
+        <translation>Quelle préconisation de %1 ?</translation>
+    </message>
+    <message>
         <source>Which layer?</source>
         <translation>Quelle couche ?</translation>
     </message>

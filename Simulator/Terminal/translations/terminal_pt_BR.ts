@@ -573,6 +573,10 @@
         <translation>Abrindo %1</translation>
     </message>
     <message>
+        <source>Which prescription of %1?</source>
+        <translation>Qual prescrição de %1?</translation>
+    </message>
+    <message>
         <source>Which layer?</source>
         <translation>Qual camada?</translation>
     </message>

@@ -89,6 +89,7 @@ SurveyReport PrescriptionLoader::survey()
     survey.task = map.report.task;
     survey.tasks = map.report.tasks;
     survey.origin = map.report.origin;
+    survey.archived = source.archived;
     return survey;
 }
 

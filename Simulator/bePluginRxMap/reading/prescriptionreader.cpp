@@ -43,6 +43,12 @@ bool PrescriptionReader::fail(const QString &text)
     return false;
 }
 
+bool PrescriptionReader::refuse(const PrescriptionFile &file, RawPrescription &map)
+{
+    map.archived = file.candidates();
+    return fail(file.error());
+}
+
 bool PrescriptionReader::mayRead(const QString &path)
 {
     const QFileInfo info(path);
@@ -66,7 +72,7 @@ bool PrescriptionReader::read(RawPrescription &map)
     const GdalSession session;
     PrescriptionFile file(request.path);
     if (!file.open(session))
-        return fail(file.error());
+        return refuse(file, map);
     const DatabaseInterrupt interrupt(file.dataset(), control.cancelled);
     return readLayer(file, session, map) || (control.isCancelled() && fail(BackendText::tr("loading was cancelled")));
 }

@@ -26,6 +26,8 @@ public:
 
 private:
     bool fail(const QString &text);
+    /// Of a file that cannot be opened.
+    bool refuse(const PrescriptionFile &file, RawPrescription &map);
     bool checkTask();
     bool readLayer(const PrescriptionFile &file, const GdalSession &session, RawPrescription &map);
     static void readReference(OGRLayer &layer, const PrescriptionFile &file, RawPrescription &map);

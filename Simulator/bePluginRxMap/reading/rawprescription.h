@@ -84,6 +84,8 @@ struct RawPrescription {
     QString task;
     QStringList layers;
     QStringList tasks;
+    /// As in SurveyReport.
+    QStringList archived;
     /// The columns that were read, in table order.
     std::vector<SourceColumn> columns;
     /// All columns of text, in table order.

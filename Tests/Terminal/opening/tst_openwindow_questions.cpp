@@ -1,3 +1,4 @@
+#include "layerwriter.h"
 #include "openwindowtest.h"
 #include "paintedtexts.h"
 #include "touchbutton.h"
@@ -8,8 +9,22 @@ class TestOpenWindowQuestions : public OpenWindowTest {
 
 private Q_SLOTS:
     void productAndUnitChosenAreLoaded();
+    void anArchiveWithSeveralAsksForOne();
+    void leavingTheQuestionForOneGoesOnOrBack();
     void openAsksForUnitsThatAreNotKnown();
+
+private:
+    /// An archive with two prescriptions in its folder "north".
+    QString packTwo() const;
 };
+
+QString TestOpenWindowQuestions::packTwo() const
+{
+    const QString path = folder->filePath(QStringLiteral("fields.zip"));
+    const QList<QPair<QString, QString>> entries{{QStringLiteral("north/a.geojson"), fixture("two-strips.geojson")},
+                                                 {QStringLiteral("north/b.geojson"), fixture("three-zones.geojson")}};
+    return packFiles(path, entries) ? path : QString();
+}
 
 void TestOpenWindowQuestions::productAndUnitChosenAreLoaded()
 {
@@ -17,6 +32,7 @@ void TestOpenWindowQuestions::productAndUnitChosenAreLoaded()
     QVERIFY(waitFor("openAccept"));
     touch(QStringLiteral("columnRow0Product"));
     QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("None"));
+    QCOMPARE(text(QStringLiteral("choice3")), QStringLiteral("3. Herbicide (L/ha)"));
     touch(QStringLiteral("choice0"));
     touch(QStringLiteral("columnRow1Unit"));
     touch(QStringLiteral("unitAmount5"));
@@ -31,6 +47,40 @@ void TestOpenWindowQuestions::productAndUnitChosenAreLoaded()
     QCOMPARE(requests.first().units, QStringList({"", "lb/ac", ""}));
     QCOMPARE(backend->maps().size(), 1);
     QCOMPARE(backend->maps().first().sources.first().unitFrom, RateSource::UnitFrom::Operator);
+}
+
+void TestOpenWindowQuestions::anArchiveWithSeveralAsksForOne()
+{
+    const QString archive = packTwo();
+    window->preview({archive});
+    QVERIFY(waitFor("choice1"));
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("north/a.geojson"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("north/b.geojson"));
+    touch(QStringLiteral("choice1"));
+    QVERIFY(waitFor("openAccept"));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().paths, QStringList(archive + QStringLiteral("/north/b.geojson")));
+    QCOMPARE(backend->maps().size(), 1);
+    // Of a folder of it, what is behind the folder names them.
+    window->preview({archive + QStringLiteral("/north")});
+    QVERIFY(waitFor("choice1"));
+    QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("b.geojson"));
+}
+
+void TestOpenWindowQuestions::leavingTheQuestionForOneGoesOnOrBack()
+{
+    const QString archive = packTwo();
+    window->preview({archive, fixture("three-zones.geojson")});
+    QVERIFY(waitFor("choice1"));
+    touch(QStringLiteral("openBack"));
+    QVERIFY(waitFor("openAccept"));
+    QCOMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("SEED_K_HA"));
+    touch(QStringLiteral("openCancel"));
+    window->preview({archive});
+    QVERIFY(waitFor("choice1"));
+    touch(QStringLiteral("openBack"));
+    QVERIFY(find(QStringLiteral("placeHome")) != nullptr);
 }
 
 void TestOpenWindowQuestions::openAsksForUnitsThatAreNotKnown()

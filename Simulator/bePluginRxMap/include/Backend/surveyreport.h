@@ -56,6 +56,8 @@ struct SurveyReport {
     QString task;
     QStringList layers;
     QStringList tasks;
+    /// Of an archive that holds several prescriptions: the path of each. It is not ok then.
+    QStringList archived;
     /// All columns of the table.
     QStringList columnNames;
     /// Those that feed products unasked, in product order, then the others in table order.

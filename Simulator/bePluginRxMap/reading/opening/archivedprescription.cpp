@@ -39,15 +39,11 @@ QStringList partsOf(const ZipArchive::Entry &main)
     return parts;
 }
 
-QString list(const std::vector<const ZipArchive::Entry *> &entries)
+QString list(const QStringList &paths)
 {
-    QStringList paths;
-    for (const ZipArchive::Entry *entry : entries) {
-        if (paths.size() < mostTold)
-            paths.append(entry->path);
-    }
-    const int more = static_cast<int>(entries.size()) - paths.size();
-    return paths.join(QStringLiteral(", ")) + (more > 0 ? BackendText::tr(" and %1 more").arg(more) : QString());
+    const int more = paths.size() - mostTold;
+    return paths.mid(0, mostTold).join(QStringLiteral(", "))
+        + (more > 0 ? BackendText::tr(" and %1 more").arg(more) : QString());
 }
 
 } // namespace
@@ -108,12 +104,14 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
     if (found.size() == 1)
         return found.front();
     const QString place = inner.isEmpty() ? QString() : BackendText::tr(" in \"%1\"").arg(inner);
+    for (const ZipArchive::Entry *entry : found)
+        several.append(entry->path);
     if (found.empty())
         fail(BackendText::tr("is an archive that holds no prescription%1").arg(place));
     else
         fail(
             BackendText::tr("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
-                .arg(place, list(found)));
+                .arg(place, list(several)));
     return nullptr;
 }
 

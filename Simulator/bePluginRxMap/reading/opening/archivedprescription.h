@@ -14,6 +14,8 @@ public:
     /// the reason in error(), when that cannot be done.
     QString unpack(const QDir &folder);
     QString error() const { return reason; }
+    /// Where it holds several, and none is named: their paths in the archive.
+    QStringList candidates() const { return several; }
 
 private:
     bool fail(const QString &text);
@@ -30,4 +32,5 @@ private:
     bool isKmz;
     QString inner;
     QString reason;
+    QStringList several;
 };

@@ -101,6 +101,9 @@ bool PrescriptionFile::unpack()
         return fail(BackendText::tr("cannot be unpacked: %1").arg(unpacked->error()));
     ArchivedPrescription prescription(archive, inner);
     path = prescription.unpack(QDir(unpacked->path()));
+    const QStringList candidates = prescription.candidates();
+    for (const QString &candidate : candidates)
+        several.append(archive + QLatin1Char('/') + candidate);
     return !path.isEmpty() || fail(prescription.error());
 }
 

@@ -26,6 +26,8 @@ public:
     /// Name of the file beside it that is to define its coordinate system; empty where none says anything.
     QString definitionFile() const;
     QString error() const { return reason; }
+    /// Where the path is that of an archive with several of them: the path of each.
+    QStringList candidates() const { return several; }
 
 private:
     bool fail(const QString &text);
@@ -41,4 +43,5 @@ private:
     std::unique_ptr<UnpackingFolder> unpacked;
     GDALDatasetUniquePtr data;
     QString reason;
+    QStringList several;
 };
