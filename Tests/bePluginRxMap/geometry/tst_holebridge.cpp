@@ -51,7 +51,10 @@ void HoleBridgeTest::joinsAHole_data()
     QTest::newRow("free, running the same way")
         << QVector<QPointF>{{40, 40}, {40, 60}, {60, 60}, {60, 40}} << 4 + 4 + 2;
     QTest::newRow("touching a corner") << QVector<QPointF>{{100, 100}, {60, 90}, {60, 60}, {90, 60}} << 4 + 4;
-    QTest::newRow("touching an edge") << QVector<QPointF>{{100, 50}, {50, 80}, {50, 20}} << 5 + 3;
+    QTest::newRow("touching the east edge") << QVector<QPointF>{{100, 50}, {50, 80}, {50, 20}} << 5 + 3;
+    QTest::newRow("touching the west edge") << QVector<QPointF>{{0, 50}, {50, 80}, {50, 20}} << 5 + 3;
+    QTest::newRow("touching the north edge") << QVector<QPointF>{{50, 100}, {80, 50}, {20, 50}} << 5 + 3;
+    QTest::newRow("touching the south edge") << QVector<QPointF>{{50, 0}, {80, 50}, {20, 50}} << 5 + 3;
 }
 
 void HoleBridgeTest::joinsAHole()
