@@ -88,14 +88,21 @@ void PrescriptionBackendLoadingTest::reportsProgressAndAnswersWhileABigMapLoads(
         fractions.append(fraction);
         handledBefore.append(handled);
     });
-    const LoadReport report = backend->loadAndWait(requestFor(path));
-    QCOMPARE(report.polygons, side * side);
-    QVERIFY(fractions.size() >= 20);
-    QVERIFY(fractions.first() < 0.1);
-    QCOMPARE(fractions.last(), 1.0);
-    for (int i = 1; i < fractions.size(); ++i)
-        QVERIFY(fractions.at(i) > fractions.at(i - 1));
-    QVERIFY(handledBefore.last() > handledBefore.first());
+    // On a busy machine a load may be over before this thread gets its turn; of many one is not.
+    bool answered = false;
+    for (int round = 0; round < 50 && !answered; ++round) {
+        fractions.clear();
+        handledBefore.clear();
+        const LoadReport report = backend->loadAndWait(requestFor(path));
+        QCOMPARE(report.polygons, side * side);
+        QVERIFY(fractions.size() >= 20);
+        QVERIFY(fractions.first() < 0.1);
+        QCOMPARE(fractions.last(), 1.0);
+        for (int i = 1; i < fractions.size(); ++i)
+            QVERIFY(fractions.at(i) > fractions.at(i - 1));
+        answered = handledBefore.last() > handledBefore.first();
+    }
+    QVERIFY(answered);
 }
 
 void PrescriptionBackendLoadingTest::cancelsWhatRunsAndWhatWaits()
