@@ -1,6 +1,7 @@
 #include "fieldgeometry.h"
 
 #include "Backend/backendtext.h"
+#include "dateline.h"
 #include "straypolygons.h"
 
 #include <algorithm>
@@ -56,6 +57,7 @@ QString FieldGeometry::place(const std::vector<LocalPlane> &planes, LoadedMap &m
 /// The reason when the file's coordinates cannot be taken for places on the earth.
 QString FieldGeometry::locate(GeographicExtent &extent)
 {
+    DateLine::join(source);
     QString reason;
     bool isLocated = LocalPlane::locate(source, extent, reason);
     if (!isLocated || StrayPolygons::mayBeWithin(extent)) {
@@ -87,7 +89,7 @@ LocalPlane FieldGeometry::planeFor(const GeographicExtent &extent, const std::ve
         findings.remark(BackendText::tr("lies %1 km from what is loaded and gets a plane of its own")
                             .arg(distance / 1000.0, 0, 'f', 0));
     }
-    return LocalPlane(longitude, latitude);
+    return LocalPlane(DateLine::wrapped(longitude), latitude);
 }
 
 void FieldGeometry::placeBoundary(LoadedMap &map) const

@@ -92,6 +92,9 @@ void LocalPlaneTest::projectsTheWorldAsItsCoordinateSystemsDo_data()
         "GEOGCS[\"GCS_WGS_1984\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137.0,298.257223563]],"
         "PRIMEM[\"Greenwich\",0.0],UNIT[\"Degree\",0.0174532925199433]]");
     QTest::newRow("another datum") << QByteArray("EPSG:4314");
+    // What a definition says of the way to WGS 84 counts where its own datum is another.
+    QTest::newRow("shifted, of WGS 84 itself") << QByteArray("+proj=longlat +datum=WGS84 +towgs84=100,200,300");
+    QTest::newRow("shifted") << QByteArray("+proj=longlat +ellps=WGS84 +towgs84=100,200,300");
     QTest::newRow("another meridian") << QByteArray("+proj=longlat +datum=WGS84 +pm=paris");
 }
 

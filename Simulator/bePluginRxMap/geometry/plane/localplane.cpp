@@ -1,6 +1,7 @@
 #include "localplane.h"
 
 #include "Backend/backendtext.h"
+#include "dateline.h"
 #include "projectionapproximation.h"
 
 #include <algorithm>
@@ -91,9 +92,10 @@ Range rangeOf(const std::vector<double> &values)
     return {*min, *max};
 }
 
+/// Longitudes may go on across the date line.
 bool areDegrees(const Range &x, const Range &y)
 {
-    return x.min >= -180.0 && x.max <= 180.0 && y.min >= -90.0 && y.max <= 90.0;
+    return x.min >= -360.0 && x.max <= 360.0 && y.min >= -90.0 && y.max <= 90.0;
 }
 
 /// Longitudes and latitudes of places along the edges of the extent. False when any of them has none.
@@ -141,6 +143,7 @@ bool LocalPlane::toDegrees(const RawPrescription &map, std::vector<double> &xs, 
         if (!toWorld)
             return false;
         transform(toWorld, xs.size(), xs.data(), ys.data());
+        DateLine::join(xs);
     }
     const bool isGeographic = !map.reference || map.reference->IsGeographic() != 0;
     for (size_t i = 0; i < xs.size() && isGeographic; ++i) {

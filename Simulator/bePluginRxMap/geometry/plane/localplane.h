@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// Extent in degrees of longitude and latitude.
+/// Extent in degrees of longitude and latitude; across the date line longitudes go on beyond 180 or -180.
 struct GeographicExtent {
     double west = 0.0;
     double south = 0.0;
@@ -30,8 +30,9 @@ public:
     /// Where the coordinates lie on the earth. Empty `reference`: they are taken as WGS 84 longitudes and latitudes if
     /// they can be. False, with the reason in `error`, when they cannot be placed or cover more than a field region.
     static bool locate(const RawPrescription &map, GeographicExtent &extent, QString &error);
-    /// Turns coordinates of the map's own system into degrees of longitude and latitude; those that have no place on
-    /// the earth become infinite. False when the map's coordinate system cannot be projected.
+    /// Turns coordinates of the map's own system into degrees of longitude and latitude, which go on across the date
+    /// line; those that have no place on the earth become infinite. False when the map's coordinate system cannot be
+    /// projected.
     static bool toDegrees(const RawPrescription &map, std::vector<double> &xs, std::vector<double> &ys);
     /// Sets `xs` and `ys` to the map's coordinates in metres of the plane; those that have no place in it become
     /// infinite. False, with the reason in `error`, when the map's coordinate system cannot be projected.

@@ -61,7 +61,7 @@ bool GridReader::checkSize(const TaskGrid &grid, const TreatmentZone *zone)
         return fail(BackendText::tr("%1: the grid of %2 x %3 cells is too large")
                         .arg(grid.place, QString::number(grid.rows), QString::number(grid.columns)));
     if (grid.south + grid.cellHeight * static_cast<double>(grid.rows) > 90.0
-        || grid.west + grid.cellWidth * static_cast<double>(grid.columns) > 180.0)
+        || grid.cellWidth * static_cast<double>(grid.columns) > 360.0)
         return fail(BackendText::tr("%1: the grid does not end on the earth").arg(grid.place));
     bytesPerCell =
         grid.type == codesType ? 1 : static_cast<qint64>(sizeof(qint32)) * static_cast<qint64>(zone->values.size());

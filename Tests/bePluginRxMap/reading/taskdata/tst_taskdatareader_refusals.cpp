@@ -80,7 +80,7 @@ void TaskDataReaderRefusalsTest::refusesWhatItCannotRead_data()
         "TASKDATA.XML, line 4: the grid of 2000000000 x 2000000000 cells is too large", threeValues);
     row("beyond the pole", withGrid(Sketch::grid(3, 50000, 1)),
         "TASKDATA.XML, line 4: the grid does not end on the earth", threeValues);
-    row("beyond the date line", withGrid(Sketch::grid(200000, 1, 1)),
+    row("around the earth", withGrid(Sketch::grid(400000, 1, 1)),
         "TASKDATA.XML, line 4: the grid does not end on the earth", threeValues);
     row("no columns", withGrid(Sketch::grid(0, 3, 2, "J=\"7\"")),
         "TASKDATA.XML, line 4: E=\"0\" of GRD is no whole number from 1 to 2147483647", threeValues);
