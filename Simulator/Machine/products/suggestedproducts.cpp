@@ -19,10 +19,9 @@ Product::Kind kindOf(const ColumnProduct &column)
     }
 }
 
-/// Limits that a tenth of the rate and ten times it lie within.
-ActuatorSettings reaching(ActuatorSettings actuator, double rate)
+/// Limits that the rate over `reach` and times it lie within.
+ActuatorSettings reaching(ActuatorSettings actuator, double rate, double reach)
 {
-    constexpr double reach = 10.0;
     if (rate > 0.0) {
         actuator.minRate = std::min(actuator.minRate, rate / reach);
         actuator.maxRate = std::max(actuator.maxRate, rate * reach);
@@ -38,7 +37,9 @@ Product productOf(const ColumnProduct &column)
                                     [&column](const Product &any) { return any.kind == kindOf(column); });
     product.name = column.name;
     product.shortName = ProductFile::shortNameOf(column.name);
-    product.actuator = reaching(product.actuator, column.typicalRate);
+    constexpr double aroundTheMean = 10.0;
+    product.actuator = reaching(product.actuator, column.typicalRate, aroundTheMean);
+    product.actuator = reaching(product.actuator, column.givenRate, 1.0);
     if (!std::isnan(column.defaultRate()))
         product.defaultRate = column.defaultRate();
     return product;

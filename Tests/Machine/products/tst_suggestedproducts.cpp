@@ -90,6 +90,8 @@ void TestSuggestedProducts::ratesFitThoseOfTheColumn_data()
     QTest::newRow("manure") << 30000.0 << none << 30000.0 << 10.0 << 300000.0;
     QTest::newRow("nothing put out") << 0.0 << none << 0.0 << 10.0 << 20000.0;
     QTest::newRow("given by the file") << 4.0 << 0.0 << 0.0 << 0.4 << 20000.0;
+    QTest::newRow("given beyond ten times the mean") << 150.0 << 45000.0 << 45000.0 << 10.0 << 45000.0;
+    QTest::newRow("given below a tenth of the mean") << 150.0 << 3.0 << 3.0 << 3.0 << 20000.0;
 }
 
 void TestSuggestedProducts::ratesFitThoseOfTheColumn()
