@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QTranslator>
 
+#include <algorithm>
 #include <memory>
 
 /// A static library's resources have to be asked for, from outside of any namespace.
@@ -57,6 +58,11 @@ QFileInfoList cataloguesOf(const QDir &pluginFolder)
     return all;
 }
 
+bool isSame(const QString &language, const QString &other)
+{
+    return language.compare(other, Qt::CaseInsensitive) == 0;
+}
+
 /// What both the display and the plug-ins speak.
 QStringList languagesWith(const QDir &pluginFolder)
 {
@@ -90,30 +96,38 @@ QString Languages::suiting(const QStringList &wanted, const QDir &pluginFolder)
     return english;
 }
 
+QString Languages::problem(const QString &code, const QDir &pluginFolder)
+{
+    const QString language = withCountry(code);
+    const QFileInfoList catalogues = cataloguesOf(pluginFolder);
+    const bool isSpoken = isSame(language, english)
+        || std::any_of(catalogues.begin(), catalogues.end(),
+                       [&language](const QFileInfo &catalogue) { return isSame(languageOf(catalogue), language); });
+    return isSpoken ? QString()
+                    : QStringLiteral("--language %1: no catalogue for it in %2").arg(code, pluginFolder.path());
+}
+
 QString Languages::install(const QString &code, const QDir &pluginFolder)
 {
     const QString language = withCountry(code);
-    if (language.compare(english, Qt::CaseInsensitive) == 0) {
+    if (isSame(language, english)) {
         QLocale::setDefault(QLocale::English);
         return {};
     }
-    bool isFound = false;
+    const QString error = problem(code, pluginFolder);
+    if (!error.isEmpty())
+        return error;
     const QFileInfoList catalogues = cataloguesOf(pluginFolder);
     for (const QFileInfo &catalogue : catalogues) {
-        if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) != 0)
-            continue;
-        if (!installCatalogue(catalogue.filePath()))
+        if (isSame(languageOf(catalogue), language) && !installCatalogue(catalogue.filePath()))
             return QStringLiteral("%1: no translation catalogue").arg(catalogue.filePath());
-        isFound = true;
     }
-    if (!isFound)
-        return QStringLiteral("--language %1: no catalogue for it in %2").arg(code, pluginFolder.path());
     // Numbers are written as it writes them.
     QLocale::setDefault(QLocale(language));
     // A language that only the plug-ins speak leaves the display's own texts as they are.
     const QFileInfoList own = ownCatalogues();
     for (const QFileInfo &catalogue : own) {
-        if (languageOf(catalogue).compare(language, Qt::CaseInsensitive) == 0)
+        if (isSame(languageOf(catalogue), language))
             installCatalogue(catalogue.filePath());
     }
     return {};

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void jsonHoldsEveryFile();
     void columnsAndUnitsAreTakenForEachFile();
     void theMachinesWidthIsTaken();
+    void aLanguageThatThereIsNotIsAMistake();
 };
 
 void CheckedFilesTest::theStatusSaysWhetherSomethingIsWrong_data()
@@ -113,6 +114,18 @@ void CheckedFilesTest::theMachinesWidthIsTaken()
     const SimulatorRun run = check({fixture("three-zones"), "--products", machine.fileName()});
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(run.output.filter(QStringLiteral(": narrow: record ")).size(), 3);
+}
+
+void CheckedFilesTest::aLanguageThatThereIsNotIsAMistake()
+{
+    for (const char *language : {"de", "pt-br", "EN"})
+        QCOMPARE(check({"--language", language, fixture("three-zones")}).exitCode, 0);
+    const SimulatorRun run = check({"--language", "xx", fixture("three-zones")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.startsWith(QLatin1String("terminal-simulator: --language xx: no catalogue for it in ")),
+             qPrintable(run.errors));
+    QCOMPARE(run.errors.count(QLatin1Char('\n')), 1);
+    QCOMPARE(run.output, QStringList());
 }
 
 RXMAP_TEST(CheckedFilesTest, Core)

@@ -13,9 +13,9 @@ QDir besideProgram(const char *installed, const char *built)
 
 } // namespace
 
-QDir Installation::plugins()
+QDir Installation::plugins(const QString &named)
 {
-    return besideProgram(RXMAP_INSTALLED_PLUGINS, "../../Plugins/uiPluginRxMap");
+    return named.isEmpty() ? besideProgram(RXMAP_INSTALLED_PLUGINS, "../../Plugins/uiPluginRxMap") : QDir(named);
 }
 
 QDir Installation::images()

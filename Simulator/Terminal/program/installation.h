@@ -5,8 +5,8 @@
 /// What comes with the program, where it is installed and in the build's own folder alike. Needs a QCoreApplication.
 namespace Installation {
 
-/// Where plug-ins are searched.
-QDir plugins();
+/// Where plug-ins are searched: the folder that is named, if any, else that of the program.
+QDir plugins(const QString &named);
 /// The images that plug-ins and widgets draw.
 QDir images();
 /// A field to begin with; the file need not be there.

@@ -1,6 +1,8 @@
 #include "commandline.h"
 #include "consoleline.h"
 #include "displayprobe.h"
+#include "installation.h"
+#include "languages.h"
 #include "mapcheckrun.h"
 #include "openglcheck.h"
 #include "ownlooks.h"
@@ -27,6 +29,19 @@ int end(const QString &error)
     return problem.isEmpty() ? 0 : complain(problem);
 }
 
+int check(int &argc, char **argv, const CommandLine &line)
+{
+    const QCoreApplication application(argc, argv);
+    // A map check speaks English; what is no language is a mistake all the same.
+    const QString error =
+        line.language.isEmpty() ? QString() : Languages::problem(line.language, Installation::plugins(line.pluginDir));
+    if (!error.isEmpty())
+        return complain(error);
+    const int status = runMapCheck(line);
+    const QString problem = outputProblem();
+    return problem.isEmpty() ? status : complain(problem);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -38,6 +53,9 @@ int main(int argc, char *argv[])
     Result<CommandLine> line = CommandLine::parse(arguments);
     if (!line.isOk())
         return complain(line.error);
+    const QString lackOfFiles = Process::openFilesProblem();
+    if (!lackOfFiles.isEmpty())
+        return complain(lackOfFiles);
     if (line.value.printsAnswer())
         Process::refuseLostOutput();
     if (line.value.wantsHelp) {
@@ -45,12 +63,8 @@ int main(int argc, char *argv[])
         std::fputs(CommandLine::helpText().toLocal8Bit().constData(), stdout);
         return end({});
     }
-    if (line.value.check) {
-        const QCoreApplication application(argc, argv);
-        const int status = runMapCheck(line.value);
-        const QString problem = outputProblem();
-        return problem.isEmpty() ? status : complain(problem);
-    }
+    if (line.value.check)
+        return check(argc, argv, line.value);
     Process::provideRuntimeFolder();
     const bool isShown = line.value.drive.isEmpty();
     std::unique_ptr<DisplayProbe> probe;

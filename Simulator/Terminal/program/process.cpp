@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <new>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -80,6 +81,23 @@ void Process::prepare()
     std::signal(SIGXFSZ, SIG_IGN);
     dropSettingsOfOtherPrograms();
     std::set_terminate(endByException);
+}
+
+QString Process::openFilesProblem()
+{
+    // Half of them are open at one time when a script loads a map.
+    constexpr int needed = 32;
+    std::vector<int> opened;
+    int handle = dup(STDERR_FILENO);
+    for (; handle >= 0 && handle < needed - 1; handle = dup(STDERR_FILENO))
+        opened.push_back(handle);
+    if (handle >= 0)
+        close(handle);
+    for (const int other : opened)
+        close(other);
+    return handle >= 0
+        ? QString()
+        : QStringLiteral("fewer than %1 files may be open at once (ulimit -n), which are needed").arg(needed);
 }
 
 void Process::refuseLostOutput()

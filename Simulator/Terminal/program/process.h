@@ -1,12 +1,16 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 /// What the program takes care of among the system's other processes.
 namespace Process {
 
 /// First of all in main(): standard streams, signals, the environment, and exceptions that nobody catches.
 void prepare();
+
+/// The reason when the program may not open as many files at once as it needs: libraries would report one file or
+/// another as missing, or end the program.
+QString openFilesProblem();
 
 /// Where the shell closed standard output, what is printed from now on is an error, as on a full device.
 void refuseLostOutput();

@@ -219,7 +219,7 @@ void tell(const QString &complaint)
 
 QString runTerminal(const CommandLine &line, double scale)
 {
-    const QDir pluginFolder = line.pluginDir.isEmpty() ? Installation::plugins() : QDir(line.pluginDir);
+    const QDir pluginFolder = Installation::plugins(line.pluginDir);
     QString error = Languages::install(languageFor(line, pluginFolder), pluginFolder);
     if (error.isEmpty())
         error = NeededImages::problem(Installation::images());

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void aFullDiskLeavesThePictureBefore();
     void outputIntoAFullDeviceIsAnError_data();
     void outputIntoAFullDeviceIsAnError();
+    void tooFewOpenFilesAreNamed_data();
+    void tooFewOpenFilesAreNamed();
     void aDriverWithoutShadersIsNamed_data();
     void aDriverWithoutShadersIsNamed();
 };
@@ -384,6 +386,28 @@ void TestTerminalSimulator::outputIntoAFullDeviceIsAnError()
     QVERIFY2(outcome.errors.startsWith(QLatin1String("terminal-simulator: ") + subject), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFileInfo(QStringLiteral("/dev/full")).isFile());
+}
+
+void TestTerminalSimulator::tooFewOpenFilesAreNamed_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("check") << QStringList{"--check", zones()};
+    QTest::newRow("a point") << QStringList{"--describe", "0,0", zones()};
+    QTest::newRow("a script") << QStringList{"--script", write("print('a');", "print.js")};
+}
+
+void TestTerminalSimulator::tooFewOpenFilesAreNamed()
+{
+    QFETCH(QStringList, arguments);
+    for (const int files : {8, 12, 31, 32}) {
+        const Outcome outcome = runInShell(QStringLiteral("ulimit -n %1; exec \"$@\"").arg(files), arguments);
+        QVERIFY2(outcome.status == (files < 32 ? 1 : 0), qPrintable(outcome.errors));
+        QCOMPARE(outcome.errors,
+                 files < 32 ? QStringLiteral("terminal-simulator: fewer than 32 files may be open at once (ulimit -n), "
+                                             "which are needed\n")
+                            : QString());
+        QCOMPARE(outcome.output.isEmpty(), files < 32);
+    }
 }
 
 void TestTerminalSimulator::aDriverWithoutShadersIsNamed_data()
