@@ -1,16 +1,13 @@
 # Catalogues of a target's texts. The build compiles what stands in the sources and writes nothing there; the target
 # update_translations enters new texts as unfinished and drops those that are gone, and a test tells when that is due.
-#   rxmap_add_catalogues(NAME FOLDER [LANGUAGES de...] TEXTS_OF FOLDER...): translations/NAME_<language>.ts of the calling
-#   folder becomes FOLDER/NAME_<language>.qm; the .qm files' paths are left in `catalogues`.
+#   rxmap_add_catalogues(NAME FOLDER TEXTS_OF FOLDER...): translations/NAME_<language>.ts of the calling folder becomes
+#   FOLDER/NAME_<language>.qm; the .qm files' paths are left in `catalogues`.
 # The texts are those of all sources below the folders of TEXTS_OF.
 function(rxmap_add_catalogues name folder)
-    cmake_parse_arguments(arg "" "" "LANGUAGES;TEXTS_OF" ${ARGN})
-    if(NOT arg_LANGUAGES)
-        set(arg_LANGUAGES de fr es pt_BR)
-    endif()
+    cmake_parse_arguments(arg "" "" "TEXTS_OF" ${ARGN})
     set(sources "")
     set(catalogues "")
-    foreach(language IN LISTS arg_LANGUAGES)
+    foreach(language IN ITEMS de fr es pt_BR)
         set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${name}_${language}.ts")
         set(catalogue "${folder}/${name}_${language}.qm")
         add_custom_command(OUTPUT "${catalogue}"

@@ -138,6 +138,13 @@ void TestFindingsDisplay::figuresAreInTheOperatorsUnits_data()
         "9 in column \"Depth 12 m\" (kg/ha) is far");
     row("9 in Spalte „Tiefe 12 m“ (kg/ha), 3 m breit", true, "9 in Spalte „Tiefe 12 m“ (kg/ha), 3.0 m breit",
         "9 in Spalte „Tiefe 12 m“ (kg/ha), 9.8 ft breit");
+    row("9 dans la colonne « Épaisseur 12 m » (kg/ha), 3 m de large", true,
+        "9 dans la colonne « Épaisseur 12 m » (kg/ha), 3.0 m de large",
+        "9 dans la colonne « Épaisseur 12 m » (kg/ha), 9.8 ft de large");
+    row("9 na coluna “Fundo 12 m” (kg/ha), 3 m de largura", true, "9 na coluna “Fundo 12 m” (kg/ha), 3.0 m de largura",
+        "9 na coluna “Fundo 12 m” (kg/ha), 9.8 ft de largura");
+    row("huecos: 24 más, 3 m2 en total", true, "huecos: 24 más, 3.00 m\u00b2 en total",
+        "huecos: 24 más, 32.3 ft\u00b2 en total");
     row("column 12 m has no unit", false, "column 12 m has no unit", "column 12 m has no unit");
 }
 

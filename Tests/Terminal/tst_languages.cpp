@@ -123,7 +123,8 @@ void TestLanguages::numbersAndTheUsualProductsFollowTheLanguage()
 void TestLanguages::everyTextOfTheDisplayIsTranslated_data()
 {
     QTest::addColumn<QString>("code");
-    for (const char *code : {"terminal_de", "terminal_fr", "terminal_es", "terminal_pt_BR", "backend_de"})
+    for (const char *code : {"terminal_de", "terminal_fr", "terminal_es", "terminal_pt_BR", "backend_de", "backend_fr",
+                             "backend_es", "backend_pt_BR"})
         QTest::newRow(code) << QString::fromLatin1(code);
 }
 
@@ -159,11 +160,19 @@ void TestLanguages::whatALoadSaysIsTranslated_data()
                         << "/no/such.shp: diese Datei gibt es nicht"
                         << "Spalte „A“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält"
                         << " auf [0-9]+,[0-9] m2$";
-    // In English as long as nobody has translated it.
-    QTest::newRow("fr") << "fr"
-                        << "/no/such.shp: there is no such file"
-                        << "column \"A\" is a guess: nothing in its name says that it holds rates"
-                        << " on [0-9]+\\.[0-9] m2$";
+    QTest::newRow("fr")
+        << "fr"
+        << "/no/such.shp: ce fichier n’existe pas"
+        << "la colonne «\u00a0A\u00a0» est supposée\u00a0: rien dans son nom n’indique qu’elle contient des doses"
+        << " sur [0-9]+,[0-9] m2$";
+    QTest::newRow("es") << "es"
+                        << "/no/such.shp: este archivo no existe"
+                        << "la columna «A» es una suposición: nada en su nombre indica que contenga dosis"
+                        << " en [0-9]+,[0-9] m2$";
+    QTest::newRow("pt_BR") << "pt_BR"
+                           << "/no/such.shp: este arquivo não existe"
+                           << "a coluna “A” é uma suposição: nada em seu nome indica que contenha doses"
+                           << " em [0-9]+,[0-9] m2$";
 }
 
 void TestLanguages::whatALoadSaysIsTranslated()

@@ -20,9 +20,11 @@ FindingUnits::FindingUnits(UnitSystem system)
 
 QString FindingUnits::textOf(const MapFinding &finding) const
 {
-    // In the back-end's language with a comma or a point. Names are passed over, which may look like a figure.
-    static const QRegularExpression figure(
-        QStringLiteral("[\"\u201e][^\"\u201c]*[\"\u201c]|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"));
+    // In the back-end's language with a comma or a point. Names, in its quotation marks, are passed over, which may
+    // look like a figure. Letters are those of any language, so that "24 más" is none.
+    static const QRegularExpression figure(QStringLiteral("\"[^\"]*\"|„[^“]*“|“[^”]*”|«[^»]*»"
+                                                          "|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"),
+                                           QRegularExpression::UseUnicodePropertiesOption);
     // Others have no figures of these kinds.
     if (!finding.area)
         return finding.text;
