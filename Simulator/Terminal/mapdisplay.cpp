@@ -91,7 +91,7 @@ void MapDisplay::showVehicle()
     window->overlay()->setVehicle(vehicle.position(), vehicle.heading());
     window->statusBar()->setSpeed(vehicle.currentSpeed(), machine->unitSystem() == UnitSystem::Metric);
     // Where nothing is to move nobody waits for the time.
-    const bool isUnderWay = vehicle.wantedSpeed() != 0.0 || vehicle.currentSpeed() != 0.0;
+    const bool isUnderWay = !vehicle.isOver() && (vehicle.wantedSpeed() != 0.0 || vehicle.currentSpeed() != 0.0);
     window->statusBar()->setPaused(isUnderWay && simulation->timeFactor() == 0.0);
 }
 

@@ -1,3 +1,4 @@
+#include "drivepath.h"
 #include "fieldscene.h"
 #include "fieldview.h"
 #include "files.h"
@@ -233,6 +234,15 @@ void TestTerminal::aPauseIsToldWhereTheSpeedIs()
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
     terminal().simulation()->setTimeFactor(1.0);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("9.0 km/h"));
+    // At the end of a way nothing waits for the time, though the speed is still set.
+    terminal().simulation()->setTimeFactor(0.0);
+    DrivePath way(Pose{QPointF(0, 0), 0.0});
+    way.append(PathPiece{20.0});
+    terminal().vehicle()->follow(way);
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
+    terminal().simulation()->run(60.0);
+    QVERIFY(terminal().vehicle()->isOver());
+    QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
 }
 
 void TestTerminal::twoTerminalsMayFollowEachOther()
