@@ -55,14 +55,26 @@ void HintCard::tell(const QString &title, const QStringList &lines, const QRect 
     setGeometry(area.left() + (area.width() - wide) / 2, area.bottom() + 1 - tall - Theme::margin, wide, tall);
     show();
     raise();
+    if (!hasKeyboard())
+        before = window()->focusWidget();
     // For Escape; what else is pressed goes on to the display.
     setFocus();
+}
+
+bool HintCard::hasKeyboard() const
+{
+    const QWidget *focused = window()->focusWidget();
+    return focused == this || isAncestorOf(focused);
 }
 
 void HintCard::leave()
 {
     // Hidden with the keyboard it would hand it to a control that nobody chose.
-    clearFocus();
+    if (hasKeyboard()) {
+        window()->focusWidget()->clearFocus();
+        if (before && before->isVisible())
+            before->setFocus();
+    }
     hide();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -31,7 +32,9 @@ protected:
 
 private:
     void close();
+    bool hasKeyboard() const;
 
+    QPointer<QWidget> before; ///< What had the keyboard when the card came.
     QLabel *heading;
     QLabel *body;
     TouchButton *button;

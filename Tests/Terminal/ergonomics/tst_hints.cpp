@@ -19,6 +19,7 @@ private Q_SLOTS:
     void cleanup();
     void whoIsGreetedOnceIsNotGreetedAgain();
     void escapeTakesTheCardAway();
+    void theKeyboardGoesBackToWhereItWas();
     void aTerminalThatDoesNotGreetTellsNothing();
     void aShortTouchOfTheOptionsButtonIsAnsweredOnce();
     void withoutAMapAShortTouchTellsNothing();
@@ -93,7 +94,19 @@ void TestHints::escapeTakesTheCardAway()
     QVERIFY(terminal().window()->fieldView()->camera().distance() < distance);
     QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Escape);
     QVERIFY(!card()->isVisible());
-    QVERIFY(terminal().window()->focusWidget() == nullptr);
+    QCOMPARE(terminal().window()->focusWidget(), terminal().window()->fieldView());
+}
+
+void TestHints::theKeyboardGoesBackToWhereItWas()
+{
+    TerminalWindow *window = terminal().window();
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    window->guidancePage()->setFocus(Qt::TabFocusReason);
+    touchOptions();
+    QVERIFY(closeButton()->isVisible());
+    closeButton()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(closeButton(), Qt::Key_Return);
+    QCOMPARE(window->focusWidget(), window->guidancePage());
 }
 
 void TestHints::aTerminalThatDoesNotGreetTellsNothing()
