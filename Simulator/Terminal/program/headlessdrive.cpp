@@ -110,6 +110,8 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     if (raster)
         raster->end();
     const QString recordError = recorder.stop();
+    if (!line.record.isEmpty() && recordError.isEmpty())
+        writeOutputLine(QStringLiteral("%1: record written").arg(line.record));
     // Afterwards, so that the drive that is reported is the same with and without.
     const std::vector<FieldDrive::Curve> curves =
         line.tune ? FieldDrive(simulation, path.value).tune(ProgressLine("tuning")) : std::vector<FieldDrive::Curve>();
@@ -118,5 +120,7 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
         ? ReportPage::make({files, simulation, &tally, raster.get(), curves})
         : QJsonDocument(DriveReport::make(files, *terminal.machine(), tally, curves)).toJson();
     const QString error = writeWholeFile(line.drive, report);
+    if (error.isEmpty())
+        writeOutputLine(QStringLiteral("%1: report written").arg(line.drive));
     return error.isEmpty() ? recordError : error;
 }

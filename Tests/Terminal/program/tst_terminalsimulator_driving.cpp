@@ -34,6 +34,8 @@ void TestTerminalSimulatorDriving::aFieldIsDrivenWithoutADisplay()
         QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
         QVERIFY2(outcome.output.contains(QRegularExpression(QStringLiteral("driving: \\d0 %, about \\d+ s left"))),
                  qPrintable(outcome.output));
+        for (const QString &written : {report + ": report written\n", recordPath + ": record written\n"})
+            QVERIFY2(outcome.output.contains(written), qPrintable(outcome.output));
         const QJsonObject all = QJsonDocument::fromJson(readFile(report)).object();
         QCOMPARE(all.value(QStringLiteral("file")).toString(), zones());
         const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
@@ -99,6 +101,7 @@ void TestTerminalSimulatorDriving::whatCannotBeDrivenEndsWithOneLine()
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.startsWith("terminal-simulator: " + reason), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count('\n'), 1);
+    QVERIFY2(!outcome.output.contains(QLatin1String("report written")), qPrintable(outcome.output));
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
 }
 
