@@ -26,6 +26,7 @@ private Q_SLOTS:
     void everyTextOfTheDisplayIsTranslated_data();
     void everyTextOfTheDisplayIsTranslated();
     void germanHasAWordOfItsOwnForTheDefaultRate();
+    void frenchCallsTheGroundAParcelle();
     void whatALoadSaysIsTranslated_data();
     void whatALoadSaysIsTranslated();
     void englishNeedsNoCatalogue_data();
@@ -148,6 +149,15 @@ void TestLanguages::germanHasAWordOfItsOwnForTheDefaultRate()
     QVERIFY(found.hasNext());
     while (found.hasNext())
         QVERIFY(found.next().captured(1).startsWith(QStringLiteral("Default rate")));
+}
+
+void TestLanguages::frenchCallsTheGroundAParcelle()
+{
+    const QString catalogue = QString::fromUtf8(readFile(sourcePath("Simulator/Terminal/translations/terminal_fr.ts")));
+    QVERIFY(catalogue.contains(QStringLiteral("<translation>Parcelle</translation>")));
+    static const QRegularExpression other(QStringLiteral("<translation>[^<]*\\b[cC]hamps?\\b[^<]*"));
+    const QRegularExpressionMatch found = other.match(catalogue);
+    QVERIFY2(!found.hasMatch(), qPrintable(found.captured()));
 }
 
 void TestLanguages::whatALoadSaysIsTranslated_data()

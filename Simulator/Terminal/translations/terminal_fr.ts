@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Sample field</source>
-        <translation>Champ d’exemple</translation>
+        <translation>Parcelle d’exemple</translation>
     </message>
 </context>
 <context>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>Another field</source>
-        <translation>Un autre champ</translation>
+        <translation>Une autre parcelle</translation>
     </message>
 </context>
 <context>
@@ -1035,11 +1035,11 @@
     <name>TerminalWindow</name>
     <message>
         <source>Field terminal</source>
-        <translation>Terminal de champ</translation>
+        <translation>Terminal agricole</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation>Champ</translation>
+        <translation>Parcelle</translation>
     </message>
     <message>
         <source>Drive</source>
