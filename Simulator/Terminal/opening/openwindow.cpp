@@ -105,12 +105,14 @@ void OpenWindow::showFiles()
 {
     files->showFirst();
     showPage(files);
+    files->focusChosen();
 }
 
 void OpenWindow::returnToFiles()
 {
     files->showAgain();
     showPage(files);
+    files->focusChosen();
 }
 
 void OpenWindow::preview(const QStringList &paths)

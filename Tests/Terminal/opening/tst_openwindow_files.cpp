@@ -1,6 +1,9 @@
 #include "openwindowtest.h"
 #include "paintedtexts.h"
 
+#include <QAbstractButton>
+#include <QRegularExpression>
+
 /// How files are found and chosen in the open window.
 class TestOpenWindowFiles : public OpenWindowTest {
     Q_OBJECT
@@ -10,7 +13,20 @@ private Q_SLOTS:
     void openedFilesAreRecentAndGoneOnesCannotBeTouched();
     void foldersAreEntered();
     void theFolderUsedLastIsShownFirst();
+    void aListIsLeftAndFoundAgainOnTheSamePage();
     void theSampleIsAPlaceWhereItIsThere();
+
+private:
+    /// The entry that is marked as the one chosen last.
+    QString marked() const
+    {
+        const QList<QAbstractButton *> rows = window->findChildren<QAbstractButton *>(QRegularExpression("^fileRow"));
+        for (const QAbstractButton *row : rows) {
+            if (row->isVisible() && row->isChecked())
+                return row->text();
+        }
+        return {};
+    }
 };
 
 void TestOpenWindowFiles::filesComeOneAfterTheOther()
@@ -103,6 +119,46 @@ void TestOpenWindowFiles::theFolderUsedLastIsShownFirst()
     window->showFiles();
     QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
     QVERIFY(!find(QStringLiteral("fileRow0"))->isEnabled());
+}
+
+void TestOpenWindowFiles::aListIsLeftAndFoundAgainOnTheSamePage()
+{
+    for (int i = 10; i < 30; ++i)
+        QVERIFY(QFile::copy(fixture("overlap.geojson"), folder->filePath(QStringLiteral("map%1.geojson").arg(i))));
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("zones/field")));
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), folder->filePath(QStringLiteral("zones/field/map.geojson"))));
+    RecentFiles(*settings).setFolder(folder->path());
+    window->showFiles();
+    QCOMPARE(marked(), QString());
+    touch(QStringLiteral("pageDown"));
+    touch(QStringLiteral("fileRow3"));
+    QVERIFY(waitFor("openAccept"));
+    // Back, and out of the window.
+    touch(QStringLiteral("openBack"));
+    QCOMPARE(text(QStringLiteral("fileRow3")), QStringLiteral("map19.geojson"));
+    QCOMPARE(marked(), QStringLiteral("map19.geojson"));
+    touch(QStringLiteral("openCancel"));
+    window->showFiles();
+    QCOMPARE(marked(), QStringLiteral("map19.geojson"));
+    // A page that was only looked at counts as well.
+    touch(QStringLiteral("pageDown"));
+    touch(QStringLiteral("openCancel"));
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map23.geojson"));
+    // The page follows its file where others came or went, and is the nearest where that is gone.
+    for (const char *gone : {"map10", "map11", "map12", "map13", "map14", "map15", "map16"})
+        QVERIFY(QFile::remove(folder->filePath(QLatin1String(gone) + QStringLiteral(".geojson"))));
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map23.geojson"));
+    QVERIFY(QFile::remove(folder->filePath(QStringLiteral("map23.geojson"))));
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map24.geojson"));
+    // The way up leads to the folder that one comes from.
+    RecentFiles(*settings).setFolder(folder->filePath(QStringLiteral("zones/field")));
+    window->showFiles();
+    touch(QStringLiteral("folderUp"));
+    touch(QStringLiteral("folderUp"));
+    QCOMPARE(marked(), QStringLiteral("zones"));
 }
 
 void TestOpenWindowFiles::theSampleIsAPlaceWhereItIsThere()

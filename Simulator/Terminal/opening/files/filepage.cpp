@@ -18,6 +18,8 @@
 #include <QStorageInfo>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int rowsPerPage = 7;
@@ -33,6 +35,11 @@ bool isRemovable(const QStorageInfo &volume)
     const QString root = volume.rootPath();
     return volume.isReady()
         && (root.startsWith(QLatin1String("/media/")) || root.startsWith(QLatin1String("/run/media/")));
+}
+
+QString headingOf(const QString &folder)
+{
+    return QDir::toNativeSeparators(folder);
 }
 
 } // namespace
@@ -61,7 +68,7 @@ FilePage::FilePage(const Machine *terminalMachine, RecentFiles &recentFiles, QWi
     body->addWidget(pages);
     layout->addLayout(body, 1);
     connect(close, &TouchButton::clicked, this, &FilePage::left);
-    connect(pages, &Pager::turned, this, &FilePage::showPage);
+    connect(pages, &Pager::turned, this, &FilePage::turnPage);
     connect(machine, &Machine::mapsChanged, this, &FilePage::followMaps);
     followMaps();
 }
@@ -106,8 +113,10 @@ QWidget *FilePage::makePlaces()
     layout->addStretch();
     up = addPlace(layout, tr("Folder up"), QStringLiteral("folderUp"));
     connect(up, &TouchButton::clicked, this, [this] {
+        const QString left = folder;
         QDir parent(folder);
         parent.cdUp();
+        spots[headingOf(parent.absolutePath())] = {left, 0, left};
         showFolder(parent.absolutePath());
     });
     return places;
@@ -136,6 +145,7 @@ QWidget *FilePage::makeRow(int place)
     auto *row = new ListRow(pair);
     row->setObjectName(QStringLiteral("fileRow%1").arg(place));
     row->setFixedHeight(row->sizeHint().height());
+    row->setCheckable(true);
     auto *closer = new TouchButton(tr("Close"), pair);
     closer->setObjectName(QStringLiteral("fileClose%1").arg(place));
     closer->setFixedSize(closeWidth, Theme::touchTarget);
@@ -143,7 +153,7 @@ QWidget *FilePage::makeRow(int place)
     layout->addWidget(closer);
     rows.append(row);
     closers.append(closer);
-    connect(row, &ListRow::clicked, this, [this, place] { choose(entries.at(pages->first() + place)); });
+    connect(row, &ListRow::clicked, this, [this, place] { choose(pages->first() + place); });
     connect(closer, &TouchButton::clicked, this,
             [this, place] { Q_EMIT closeWanted(entries.at(pages->first() + place).group); });
     return pair;
@@ -165,6 +175,15 @@ void FilePage::showAgain()
         showFirst();
     else if (shown == Place::Recent)
         showRecent();
+}
+
+void FilePage::focusChosen()
+{
+    const auto chosen = std::find_if(rows.begin(), rows.end(), [](const ListRow *row) {
+        return row->isVisible() && row->isEnabled() && row->isChecked();
+    });
+    if (chosen != rows.end())
+        (*chosen)->setFocus();
 }
 
 void FilePage::offerSample(const QString &path)
@@ -201,7 +220,7 @@ void FilePage::showFolder(const QString &path)
     folder = path;
     shown = Place::Folder;
     const bool isReadable = QDir(path).isReadable();
-    show(QDir::toNativeSeparators(path), FolderListing::of(path),
+    show(headingOf(path), FolderListing::of(path),
          isReadable ? tr("Nothing in this folder can be opened.") : tr("This folder cannot be read."));
 }
 
@@ -217,6 +236,18 @@ void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, 
     emptyText->setText(whenEmpty);
     emptyText->setVisible(entries.isEmpty());
     pages->setItems(entries.size(), rowsPerPage);
+    const Spot spot = spots.value(heading);
+    const auto left = std::find_if(entries.begin(), entries.end(),
+                                   [&spot](const FileEntry &entry) { return entry.path == spot.path; });
+    pages->showItem(left != entries.end() ? int(left - entries.begin()) : spot.index);
+    showPage();
+}
+
+void FilePage::turnPage()
+{
+    Spot &spot = spots[title->text()];
+    spot.index = pages->first();
+    spot.path = entries.at(spot.index).path;
     showPage();
 }
 
@@ -238,14 +269,17 @@ void FilePage::fill(int place, const FileEntry &entry)
     row->setNotes(entry.isThere ? (entry.note.isEmpty() ? QStringList() : QStringList(entry.note))
                                 : QStringList(tr("is no longer there")));
     row->setEnabled(entry.isThere);
+    row->setChecked(entry.path == spots.value(title->text()).chosen);
     row->setSymbol(entry.isFolder ? Symbols::folder() : Symbols::file());
     closers.at(place)->setAccessibleName(tr("Close %1").arg(entry.name));
 }
 
-void FilePage::choose(const FileEntry &entry)
+void FilePage::choose(int index)
 {
     // A copy: showing another folder replaces the entries.
-    const FileEntry chosen = entry;
+    const FileEntry chosen = entries.at(index);
+    spots[title->text()] = {chosen.path, index, chosen.path};
+    showPage();
     if (chosen.isFolder) {
         showFolder(chosen.path);
         return;

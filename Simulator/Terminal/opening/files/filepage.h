@@ -2,6 +2,7 @@
 
 #include "folderlisting.h"
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 #include <QWidget>
@@ -27,6 +28,8 @@ public:
     void showFirst();
     /// What was shown when a file was taken.
     void showAgain();
+    /// Gives the keyboard to the entry that was chosen last, where it is seen.
+    void focusChosen();
     /// A file that is a place of its own, for who has none yet; none where it is not there.
     void offerSample(const QString &path);
     Pager *pager() const { return pages; }
@@ -39,6 +42,13 @@ Q_SIGNALS:
 private:
     enum class Place { Recent, Open, Folder };
 
+    /// Where a list was left.
+    struct Spot {
+        QString path;   ///< Of the entry that was chosen, or the first one of the page that was turned to.
+        int index = 0;  ///< Its place in the list then.
+        QString chosen; ///< The entry that was chosen last; marked.
+    };
+
     QWidget *makePlaces();
     TouchButton *addPlace(QVBoxLayout *layout, const QString &text, const QString &name);
     QWidget *makeRows();
@@ -49,8 +59,9 @@ private:
     void showFolder(const QString &path);
     void followMaps();
     void show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty);
+    void turnPage();
     void showPage();
-    void choose(const FileEntry &entry);
+    void choose(int index);
 
     const Machine *machine;
     RecentFiles &files;
@@ -70,4 +81,5 @@ private:
     bool hasRoom = true; ///< For the sample.
     /// Empty while no folder is shown.
     QString folder;
+    QHash<QString, Spot> spots; ///< By what stands over the list.
 };

@@ -43,6 +43,11 @@ void Pager::setItems(int count, int perPage)
     show(0);
 }
 
+void Pager::showItem(int item)
+{
+    show(std::clamp(item / itemsPerPage, 0, pages() - 1));
+}
+
 void Pager::turn(int by)
 {
     const int former = page;

@@ -16,6 +16,8 @@ public:
     /// The first item of the page that is shown.
     int first() const { return page * itemsPerPage; }
     void turn(int pages);
+    /// To the page that shows an item, else to the one nearest to it.
+    void showItem(int item);
 
 Q_SIGNALS:
     void turned();
