@@ -232,6 +232,7 @@ void Terminal::enterProducts(const OpenRequest &request, LoadRequest &load) cons
         load.makeProducts = nullptr;
     load.tellsGuesses = request.columnProducts.has_value();
     load.columnProducts = request.columnProducts.value_or(QList<ColumnProduct>());
+    load.replacedGroups = request.closes + request.replaces;
 }
 
 bool Terminal::close(const QString &group)

@@ -327,6 +327,7 @@ void TestFileOpening::aFieldFarFromTheOtherIsToldBeforeAndAfter()
 
 void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
 {
+    QSignalSpy opened(terminal().openWindow(), &OpenWindow::opened);
     openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
     const QString far = write("far", {{"SEED_K_HA", 1.0}}, 38.0);
     Q_EMIT terminal().window()->dropped({far}, {});
@@ -341,12 +342,14 @@ void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(terminal().backend()->maps().size(), 1);
     QCOMPARE(QFileInfo(terminal().backend()->maps().first().path), QFileInfo(far));
+    QCOMPARE(opened.last().first().value<LoadReport>().warnings, QStringList());
     QVERIFY(button("findingsButton") == nullptr);
 }
 
 void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
 {
     terminal().machine()->leaveProductsOpen();
+    QSignalSpy opened(terminal().openWindow(), &OpenWindow::opened);
     openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
     Q_EMIT terminal().window()->dropped({write("far", {{"RYE_KG_HA", 1.0}}, 38.0)}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
@@ -355,6 +358,9 @@ void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(productNames().first(), QStringLiteral("RYE"));
     QCOMPARE(terminal().backend()->maps().size(), 1);
+    // No plane but its own is left.
+    const QStringList warnings = opened.last().first().value<LoadReport>().warnings;
+    QVERIFY2(warnings.filter(QStringLiteral("plane")).isEmpty(), qPrintable(warnings.join('\n')));
 }
 
 void TestFileOpening::whatWasGuessedIsToldAfterwards()

@@ -5,6 +5,7 @@
 #include "filepage.h"
 #include "machine.h"
 #include "messagepage.h"
+#include "openmap.h"
 #include "previewpage.h"
 #include "progresspage.h"
 #include "theme.h"
@@ -218,6 +219,11 @@ void OpenWindow::load(const QStringList &closes)
     showProgress(tr("Opening %1").arg(QFileInfo(selection.survey().path).fileName()), Busy::Loading);
     OpenRequest request = selection.request();
     request.closes = closes;
+    const QList<OpenMap> maps = OpenMap::beside(selection, *machine);
+    for (const OpenMap &map : maps) {
+        if (map.isReplaced)
+            request.replaces.append(map.group);
+    }
     Q_EMIT wanted(request);
 }
 

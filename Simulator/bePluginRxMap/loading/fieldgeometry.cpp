@@ -80,16 +80,7 @@ LocalPlane FieldGeometry::planeFor(const GeographicExtent &extent, const std::ve
     const auto near = std::find_if(planes.begin(), planes.end(), [longitude, latitude](const LocalPlane &plane) {
         return plane.distanceTo(longitude, latitude) <= maxDistanceOnOnePlane;
     });
-    if (near != planes.end())
-        return *near;
-    if (!planes.empty()) {
-        double distance = HUGE_VAL; // to the nearest
-        for (const LocalPlane &plane : planes)
-            distance = std::min(distance, plane.distanceTo(longitude, latitude));
-        findings.remark(BackendText::tr("lies %1 km from what is loaded and gets a plane of its own")
-                            .arg(distance / 1000.0, 0, 'f', 0));
-    }
-    return LocalPlane(DateLine::wrapped(longitude), latitude);
+    return near != planes.end() ? *near : LocalPlane(DateLine::wrapped(longitude), latitude);
 }
 
 void FieldGeometry::placeBoundary(LoadedMap &map) const

@@ -25,7 +25,7 @@ public:
 
 private:
     QString locate(GeographicExtent &extent);
-    LocalPlane planeFor(const GeographicExtent &extent, const std::vector<LocalPlane> &planes);
+    static LocalPlane planeFor(const GeographicExtent &extent, const std::vector<LocalPlane> &planes);
     void placeBoundary(LoadedMap &map) const;
     double maxCoordinate() const;
     void tell(const RingRepair::Outcome &outcome, const std::vector<PlanePolygon> &polygons);

@@ -2,6 +2,7 @@
 
 #include "Backend/backendtext.h"
 #include "Backend/prescriptionbackend.h"
+#include "loadfindings.h"
 #include "prescriptionloader.h"
 
 #include "Framework/databroker.h"
@@ -148,6 +149,8 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
     const bool isChange = map->report.isOk();
     if (isChange && !map->report.columnProducts.isEmpty())
         Q_EMIT q->productsMade(map->report.columnProducts);
+    if (isChange)
+        remarkPlane(*map, job->request.replacedGroups);
     const LoadReport report = isChange ? publish(std::move(map)) : map->report;
     jobs.pop_front();
     startNext();
@@ -213,6 +216,23 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
     entries.push_back(std::move(entry));
     useDefaultRates(report);
     return report;
+}
+
+void PrescriptionBackendPrivate::remarkPlane(LoadedMap &map, const QStringList &replaced) const
+{
+    const QPointF origin = map.report.origin;
+    const QString file = fileKey(map.report.path);
+    double distance = HUGE_VAL; // To the nearest.
+    for (const Entry &entry : entries) {
+        if (entry.map->report().origin == origin)
+            return;
+        if (entry.file != file && !replaced.contains(entry.map->groupName()))
+            distance = std::min(distance, entry.map->plane().distanceTo(origin.x(), origin.y()));
+    }
+    if (std::isfinite(distance))
+        LoadFindings(map.report)
+            .remark(BackendText::tr("lies %1 km from what is loaded and gets a plane of its own")
+                        .arg(distance / 1000.0, 0, 'f', 0));
 }
 
 void PrescriptionBackendPrivate::useDefaultRates(const LoadReport &report)

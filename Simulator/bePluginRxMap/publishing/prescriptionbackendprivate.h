@@ -53,6 +53,9 @@ private:
     void finishCurrent(std::unique_ptr<LoadedMap> map);
     void finishSurvey(SurveyReport survey);
     LoadReport publish(std::unique_ptr<LoadedMap> map);
+    /// Remarks where the map has a plane of its own, and maps stay that lie elsewhere: those not of the file itself nor
+    /// of the groups that it replaces.
+    void remarkPlane(LoadedMap &map, const QStringList &replaced) const;
     /// Where a file gives rates for places without a prescription, the products' default rates follow.
     void useDefaultRates(const LoadReport &report);
     std::vector<LocalPlane> planes() const;

@@ -145,7 +145,10 @@ void PrescriptionBackendMapsTest::givesAFarMapAPlaneOfItsOwn()
     QTemporaryDir folder;
     const QString far = writeFile(folder.filePath(QStringLiteral("far.geojson")),
                                   readFile(fixture("overlap.geojson")).replace("5500", "5530"));
-    load("three-zones.geojson");
+    LoadRequest inItsPlace = requestFor(far);
+    inItsPlace.replacedGroups.append(load("three-zones.geojson").group);
+    QCOMPARE(backend->loadAndWait(inItsPlace).warnings.filter(QStringLiteral("30 km")), QStringList());
+    backend->unload(backend->maps().last().group);
     const LoadReport report = backend->loadAndWait(requestFor(far));
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QVERIFY(std::fabs(report.bounds.center().x()) < 0.1);

@@ -22,4 +22,6 @@ struct OpenRequest {
     std::optional<QList<ColumnProduct>> columnProducts = {};
     /// Groups of maps that the operator wants closed once it is open.
     QStringList closes = {};
+    /// Groups of maps that are left without a product by it, and closed for that.
+    QStringList replaces = {};
 };

@@ -29,6 +29,8 @@ struct LoadRequest {
     std::function<QList<MachineProduct>(const QList<ColumnProduct> &)> makeProducts = {};
     /// What the columns said when the operator chose among them; empty: what they say to the load.
     QList<ColumnProduct> columnProducts = {};
+    /// Groups of the maps that are closed once this one is loaded: how far it lies from them is not told.
+    QStringList replacedGroups = {};
     /// The columns were picked from what the file was seen to offer: one that is a guess is told to be one.
     bool tellsGuesses = false;
 };
