@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>cannot be checked, there is not enough memory</source>
-        <translation>no se puede comprobar, no hay memoria suficiente</translation>
+        <translation>no se puede revisar, no hay memoria suficiente</translation>
     </message>
     <message>
         <source>loading was cancelled</source>

@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>does not fit</source>
-        <translation>no encaja</translation>
+        <translation>no corresponde</translation>
     </message>
     <message>
         <source>chosen</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>Throttle</source>
-        <translation>Gas</translation>
+        <translation>Acelerar</translation>
     </message>
     <message>
         <source>%1× time</source>
@@ -195,7 +195,7 @@
     </message>
     <message>
         <source>Home</source>
-        <translation>Inicio</translation>
+        <translation>Carpeta personal</translation>
     </message>
     <message>
         <source>Computer</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Rate far from the rest</source>
-        <translation>Dosis lejos de las demás</translation>
+        <translation>Dosis alejada de las demás</translation>
     </message>
     <message>
         <source>Totals, not rates</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Unit does not fit</source>
-        <translation>La unidad no corresponde</translation>
+        <translation>Unidad incompatible</translation>
     </message>
     <message>
         <source>Column is a guess</source>
@@ -356,11 +356,11 @@
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
-        <translation>Control del mapa</translation>
+        <translation>Revisión del mapa</translation>
     </message>
     <message>
         <source>Map check: %1</source>
-        <translation>Control del mapa: %1</translation>
+        <translation>Revisión del mapa: %1</translation>
     </message>
     <message>
         <source>lies %1 from %2, which feeds products, too</source>
@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>Map check: %1</source>
-        <translation>Control del mapa: %1</translation>
+        <translation>Revisión del mapa: %1</translation>
     </message>
 </context>
 <context>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>%1 more</source>
-        <translation>quedan %1</translation>
+        <translation>%1 más</translation>
     </message>
     <message>
         <source>Polygons: %1</source>
@@ -800,7 +800,7 @@
     </message>
     <message>
         <source>Early and late</source>
-        <translation>Antes y después</translation>
+        <translation>Adelanto y retraso</translation>
     </message>
     <message>
         <source>No change of rate was crossed.</source>
@@ -808,7 +808,7 @@
     </message>
     <message>
         <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
-        <translation>%1 cambios de dosis; mediana %2, %3 s. Por encima de cero es tarde; por debajo, temprano.</translation>
+        <translation>%1 cambios de dosis; mediana %2, %3 s. Por encima de cero hay retraso; por debajo, adelanto.</translation>
     </message>
     <message>
         <source>The %1 that are farthest from their borders:</source>

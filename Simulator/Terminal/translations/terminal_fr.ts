@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>The field cannot be driven: %1</source>
-        <translation>La parcelle ne peut pas être parcourue : %1</translation>
+        <translation>La parcelle ne peut pas être parcourue&#xa0;: %1</translation>
     </message>
     <message>
         <source>The end of the way is reached.</source>
@@ -176,7 +176,7 @@
     <name>FileOpening</name>
     <message>
         <source>Open a prescription</source>
-        <translation>Ouvrir une prescription</translation>
+        <translation>Ouvrir une préconisation</translation>
     </message>
     <message>
         <source>%1 is no file of this computer</source>
@@ -207,11 +207,11 @@
     </message>
     <message>
         <source>Recent prescriptions</source>
-        <translation>Prescriptions récentes</translation>
+        <translation>Préconisations récentes</translation>
     </message>
     <message>
         <source>No prescription was opened here before.</source>
-        <translation>Aucune prescription n’a encore été ouverte ici.</translation>
+        <translation>Aucune préconisation n’a encore été ouverte ici.</translation>
     </message>
     <message>
         <source>Nothing in this folder can be opened.</source>
@@ -235,11 +235,11 @@
     </message>
     <message>
         <source>Opened prescriptions</source>
-        <translation>Prescriptions ouvertes</translation>
+        <translation>Préconisations ouvertes</translation>
     </message>
     <message>
         <source>No prescription is open.</source>
-        <translation>Aucune prescription n’est ouverte.</translation>
+        <translation>Aucune préconisation n’est ouverte.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Rate far from the rest</source>
-        <translation>Dose loin des autres</translation>
+        <translation>Dose éloignée des autres</translation>
     </message>
     <message>
         <source>Totals, not rates</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Unit does not fit</source>
-        <translation>L’unité ne convient pas</translation>
+        <translation>Unité incompatible</translation>
     </message>
     <message>
         <source>Column is a guess</source>
@@ -356,11 +356,11 @@
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
-        <translation>Contrôle de la carte</translation>
+        <translation>Contrôle carte</translation>
     </message>
     <message>
         <source>Map check: %1</source>
-        <translation>Contrôle de la carte : %1</translation>
+        <translation>Contrôle de la carte&#xa0;: %1</translation>
     </message>
     <message>
         <source>lies %1 from %2, which feeds products, too</source>
@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>Map check: %1</source>
-        <translation>Contrôle de la carte : %1</translation>
+        <translation>Contrôle de la carte&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -400,19 +400,19 @@
     </message>
     <message>
         <source>Touch the map to read the rate there. Drag it to move it; pinch it, turn the wheel or touch + and − to come nearer or farther.</source>
-        <translation>Touchez la carte pour lire la dose à cet endroit. Faites-la glisser pour la déplacer ; pincez-la, tournez la molette ou touchez + et − pour l&apos;approcher ou l&apos;éloigner.</translation>
+        <translation>Touchez la carte pour lire la dose à cet endroit. Faites-la glisser pour la déplacer&#xa0;; pincez-la, tournez la molette ou touchez + et − pour l’approcher ou l’éloigner.</translation>
     </message>
     <message>
         <source>The settings of the map are behind the button with the gear wheel: hold it for a second.</source>
-        <translation>Les réglages de la carte sont derrière le bouton avec la roue dentée : maintenez-le une seconde.</translation>
+        <translation>Les réglages de la carte sont derrière le bouton avec la roue dentée&#xa0;: maintenez-le une seconde.</translation>
     </message>
     <message>
         <source>The folder opens prescriptions; moon and sun switch between day and night.</source>
-        <translation>Le dossier ouvre les prescriptions ; la lune et le soleil alternent jour et nuit.</translation>
+        <translation>Le dossier ouvre les préconisations&#xa0;; la lune et le soleil alternent jour et nuit.</translation>
     </message>
     <message>
         <source>On a keyboard Tab goes from control to control and Enter touches; arrows move the map.</source>
-        <translation>Au clavier, Tab passe d&apos;une commande à l&apos;autre et Entrée la touche ; les flèches déplacent la carte.</translation>
+        <translation>Au clavier, Tab passe d’une commande à l’autre et Entrée la touche&#xa0;; les flèches déplacent la carte.</translation>
     </message>
     <message>
         <source>Hold this button longer</source>
@@ -420,7 +420,7 @@
     </message>
     <message>
         <source>A touch of one second opens the settings of the map.</source>
-        <translation>Un appui d&apos;une seconde ouvre les réglages de la carte.</translation>
+        <translation>Un appui d’une seconde ouvre les réglages de la carte.</translation>
     </message>
 </context>
 <context>
@@ -532,7 +532,7 @@
     </message>
     <message>
         <source>Decimals: %1 at most</source>
-        <translation>Décimales : %1 au plus</translation>
+        <translation>Décimales&#xa0;: %1 au plus</translation>
     </message>
     <message>
         <source>Beyond %1</source>
@@ -574,15 +574,15 @@
     </message>
     <message>
         <source>Which prescription of %1?</source>
-        <translation>Quelle préconisation de %1 ?</translation>
+        <translation>Quelle préconisation de %1&#xa0;?</translation>
     </message>
     <message>
         <source>Which layer?</source>
-        <translation>Quelle couche ?</translation>
+        <translation>Quelle couche&#xa0;?</translation>
     </message>
     <message>
         <source>Which task?</source>
-        <translation>Quelle tâche ?</translation>
+        <translation>Quelle tâche&#xa0;?</translation>
     </message>
     <message>
         <source>None</source>
@@ -590,11 +590,11 @@
     </message>
     <message>
         <source>Which product does %1 feed?</source>
-        <translation>Quel produit %1 alimente-t-elle ?</translation>
+        <translation>Quel produit %1 alimente-t-elle&#xa0;?</translation>
     </message>
     <message>
         <source>In which unit is %1?</source>
-        <translation>Dans quelle unité est %1 ?</translation>
+        <translation>Dans quelle unité est %1&#xa0;?</translation>
     </message>
     <message>
         <source>Choose the unit of %1</source>
@@ -675,11 +675,11 @@
     </message>
     <message>
         <source>Polygons: %1</source>
-        <translation>Polygones : %1</translation>
+        <translation>Polygones&#xa0;: %1</translation>
     </message>
     <message>
         <source>Choose a product for a column to open the file.</source>
-        <translation>Choisir un produit pour une colonne pour ouvrir le fichier.</translation>
+        <translation>Choisissez le produit d’une colonne pour ouvrir le fichier.</translation>
     </message>
     <message>
         <source>No product</source>
@@ -740,7 +740,7 @@
     </message>
     <message>
         <source>Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s</source>
-        <translation>Colonne %1 ; anticipation %2 s ; temps mort %3 s, constante de temps %4 s</translation>
+        <translation>Colonne %1&#xa0;; anticipation %2 s&#xa0;; temps mort %3 s, constante de temps %4 s</translation>
     </message>
     <message>
         <source>Prescribed</source>
@@ -752,7 +752,7 @@
     </message>
     <message>
         <source>Each picture is %1 wide; north is up.</source>
-        <translation>Chaque image fait %1 de large ; le nord est en haut.</translation>
+        <translation>Chaque image fait %1 de large&#xa0;; le nord est en haut.</translation>
     </message>
     <message>
         <source>Area and amount by class</source>
@@ -788,11 +788,11 @@
     </message>
     <message>
         <source>Error: applied minus prescribed</source>
-        <translation>Erreur : appliqué moins préconisé</translation>
+        <translation>Erreur&#xa0;: appliqué moins préconisé</translation>
     </message>
     <message>
         <source>Within %1 of what is prescribed: %2 of the area. Beyond the plot: %3.</source>
-        <translation>À %1 au plus de la préconisation : %2 de la surface. Hors du graphique : %3.</translation>
+        <translation>À %1 au plus de la préconisation&#xa0;: %2 de la surface. Hors du graphique&#xa0;: %3.</translation>
     </message>
     <message>
         <source>applied minus prescribed</source>
@@ -808,11 +808,11 @@
     </message>
     <message>
         <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
-        <translation>%1 changements de dose ; médiane %2, %3 s. Au-dessus de zéro : en retard ; au-dessous : en avance.</translation>
+        <translation>%1 changements de dose&#xa0;; médiane %2, %3 s. Au-dessus de zéro&#xa0;: en retard&#xa0;; au-dessous&#xa0;: en avance.</translation>
     </message>
     <message>
         <source>The %1 that are farthest from their borders:</source>
-        <translation>Les %1 les plus éloignés de leurs limites :</translation>
+        <translation>Les %1 les plus éloignés de leurs limites&#xa0;:</translation>
     </message>
     <message>
         <source>East of the middle</source>
@@ -920,7 +920,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>À l&apos;arrêt</translation>
+        <translation>À l’arrêt</translation>
     </message>
     <message>
         <source>Not controlled</source>
@@ -962,7 +962,7 @@
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
-        <translation>Rapport d’un passage</translation>
+        <translation>Rapport d’un parcours</translation>
     </message>
     <message>
         <source>Prescription</source>
@@ -1020,7 +1020,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>À l&apos;arrêt</translation>
+        <translation>À l’arrêt</translation>
     </message>
     <message>
         <source>Loading %1</source>

@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>feeds no product</source>
-        <translation>não alimenta nada</translation>
+        <translation>sem produto</translation>
     </message>
     <message>
         <source>Product %1</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>does not fit</source>
-        <translation>não serve</translation>
+        <translation>não corresponde</translation>
     </message>
     <message>
         <source>chosen</source>
@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Sample field</source>
-        <translation>Campo de exemplo</translation>
+        <translation>Talhão de exemplo</translation>
     </message>
 </context>
 <context>
@@ -286,11 +286,11 @@
     </message>
     <message>
         <source>Rate far from the rest</source>
-        <translation>Taxa longe das demais</translation>
+        <translation>Dose distante das demais</translation>
     </message>
     <message>
         <source>Totals, not rates</source>
-        <translation>Totais, não taxas</translation>
+        <translation>Totais, não doses</translation>
     </message>
     <message>
         <source>Unit not known</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Unit does not fit</source>
-        <translation>A unidade não serve</translation>
+        <translation>Unidade incompatível</translation>
     </message>
     <message>
         <source>Column is a guess</source>
@@ -356,7 +356,7 @@
     <name>FindingsDisplay</name>
     <message>
         <source>Map check</source>
-        <translation>Verificação do mapa</translation>
+        <translation>Verificar mapa</translation>
     </message>
     <message>
         <source>Map check: %1</source>
@@ -625,7 +625,7 @@
     <name>OpenedFiles</name>
     <message>
         <source>feeds no product</source>
-        <translation>não alimenta nada</translation>
+        <translation>sem produto</translation>
     </message>
     <message>
         <source>feeds %1</source>
@@ -800,7 +800,7 @@
     </message>
     <message>
         <source>Early and late</source>
-        <translation>Antes e depois</translation>
+        <translation>Adiantamento e atraso</translation>
     </message>
     <message>
         <source>No change of rate was crossed.</source>
@@ -808,7 +808,7 @@
     </message>
     <message>
         <source>%1 changes of rate; median %2, %3 s. Above zero is late, below zero is early.</source>
-        <translation>%1 mudanças de dose; mediana %2, %3 s. Acima de zero é tarde; abaixo, cedo.</translation>
+        <translation>%1 mudanças de dose; mediana %2, %3 s. Acima de zero há atraso; abaixo, adiantamento.</translation>
     </message>
     <message>
         <source>The %1 that are farthest from their borders:</source>
@@ -1039,7 +1039,7 @@
     </message>
     <message>
         <source>Field</source>
-        <translation>Campo</translation>
+        <translation>Talhão</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -1063,7 +1063,7 @@
     </message>
     <message>
         <source>The whole field</source>
-        <translation>O campo inteiro</translation>
+        <translation>O talhão inteiro</translation>
     </message>
     <message>
         <source>Leave full screen</source>
