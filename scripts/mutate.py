@@ -6,7 +6,8 @@
 A break turns a comparison, moves a boundary or a constant by one, swaps an operator, or drops a statement or swaps two.
 Everything is built and run in build/mutation, on a copy of the sources; results.tsv there holds one line for each break
 that was tried, and a break that it holds is not tried again, so a run that was ended goes on where it was. What no test
-notices is listed at the end, with the share of those noticed. A break that does not compile counts for nothing.
+notices is listed at the end, with the share of those noticed. A break that does not compile counts for nothing, nor does
+one of which an optimizing compiler makes the same object code (trivial compiler equivalence, Papadakis et al. 2015).
 """
 
 import argparse
@@ -16,6 +17,7 @@ import os
 import random
 import re
 import resource
+import shlex
 import shutil
 import subprocess
 import sys
@@ -43,8 +45,12 @@ NUMBER = re.compile(r"(?<![\w.\"])(\d+)(\.\d+)?(?![\w.]*[\"\w])")
 STATEMENT = re.compile(r"^\s+(?!return|delete|const |auto |static |using |case |break|else|\w+ \w+;)[\w:>.*()\[\]-]+"
                        r"(\(.*\)| [-+|&]?= .*);$")
 # What only takes time or memory is not broken: no test could tell.
-UNSEEN = re.compile(r"\.reserve\(")
+UNSEEN = re.compile(r"\.reserve\(|constexpr .*(fanOut|pointsWorthListing|fewVertices|longestRun|nodeSize|edgesPerSlab|pays)\b")
 
+
+# What becomes of a break that does not count.
+NO_BREAK = "does not compile"
+EQUIVALENT = "compiles to the same"
 
 ORIGINALS = {}
 
@@ -112,6 +118,7 @@ class Bench:
     def __init__(self, through):
         self.through = through.split()
         self.tests = []
+        self.commands = {}
 
     def run(self, command, seconds):
         try:
@@ -136,15 +143,28 @@ class Bench:
                 shutil.copyfile(source, target)
                 shutil.copymode(source, target)
         configured, output = self.run(["cmake", "-S", SOURCES, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                                       "-DCMAKE_CXX_FLAGS_RELEASE=-O0 -w", "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"], 600)
+                                       "-DCMAKE_CXX_FLAGS_RELEASE=-O0 -w", "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache",
+                                       "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON"], 600)
         if not configured:
             sys.exit(output)
         if not self.build(programs):
             sys.exit("the sources do not build")
+        with open(os.path.join(BUILD, "compile_commands.json")) as file:
+            self.commands = {entry["file"]: entry["command"] for entry in json.load(file)}
         self.tests = json.loads(subprocess.check_output(["ctest", "--show-only=json-v1"], cwd=BUILD))["tests"]
 
     def build(self, programs):
         return not programs or self.run(["ninja", "-j2"] + programs, 3000)[0]
+
+    def object_of(self, path):
+        """The optimized object code of a source as it is now; nothing for a header, or where it does not compile."""
+        command = self.commands.get(os.path.join(SOURCES, path))
+        if not command:
+            return None
+        target = os.path.join(BUILD, "optimized.o")
+        command = re.sub(r" -o \S+ ", f" -o {target} ", command.replace(" -O0 ", " -O2 "))
+        compiled, _ = self.run(shlex.split(command), 600)
+        return contents(target) if compiled else None
 
     def tests_of(self, programs):
         """The tests of these programs: program by test."""
@@ -161,8 +181,13 @@ class Bench:
         return "" if passed else ",".join(failed) or "time out"
 
 
+def contents(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
 def same(one, other):
-    return os.path.isfile(other) and open(one, "rb").read() == open(other, "rb").read()
+    return os.path.isfile(other) and contents(one) == contents(other)
 
 
 def write(path, text):
@@ -179,15 +204,18 @@ def apply(mutant):
 
 def verdict(bench, mutant, programs):
     """What becomes of one break."""
+    unbroken = bench.object_of(mutant[0])
     apply(mutant)
     stem = os.path.splitext(os.path.basename(mutant[0]))[0]
     # The source's own tests first.
     tests = bench.tests_of(programs)
     near = {name: program for name, program in tests.items() if stem in name}
     try:
+        if unbroken and bench.object_of(mutant[0]) == unbroken:
+            return EQUIVALENT
         for part in [near, {name: program for name, program in tests.items() if name not in near}]:
             if not bench.build(sorted(set(part.values()))):
-                return "does not compile"
+                return NO_BREAK
             failed = bench.failing(part)
             if failed:
                 return "noticed by " + failed
@@ -226,7 +254,7 @@ def main():
             with open(RESULTS, "a") as file:
                 file.write(f"{key}\t{known[key]}\n")
             print(f"{key}\t{known[key]}", flush=True)
-        if known[key] != "does not compile":
+        if known[key] not in (NO_BREAK, EQUIVALENT):
             tried.append(key)
     survivors = [key for key in tried if known[key] == "survived"]
     for key in survivors:
