@@ -44,6 +44,7 @@ SWAPS = [
 NUMBER = re.compile(r"(?<![\w.\"])(\d+)(\.\d+)?(?![\w.]*[\"\w])")
 STATEMENT = re.compile(r"^\s+(?!return|delete|const |auto |static |using |case |break|else|\w+ \w+;)[\w:>.*()\[\]-]+"
                        r"(\(.*\)| [-+|&]?= .*);$")
+ASSIGNMENT = re.compile(r"^\s+([\w.\[\]]+) [-+|&]?= ([^(]*(q?M(?:in|ax)\([\w., ]*\))?);$", re.IGNORECASE)
 # What only takes time or memory is not broken: no test could tell.
 UNSEEN = re.compile(r"\.reserve\(|constexpr .*(fanOut|pointsWorthListing|fewVertices|longestRun|nodeSize|edgesPerSlab|pays)\b")
 
@@ -86,8 +87,15 @@ def mutants_of(path):
                     line[:match.start()] + new + line[match.end():]]
         if STATEMENT.match(code):
             yield number, "dropped", [re.match(r"\s*", line).group() + ";"]
-            if number < len(lines) and STATEMENT.match(lines[number].split("//")[0]):
+            after = lines[number].split("//")[0] if number < len(lines) else ""
+            if STATEMENT.match(after) and are_steps(code.rstrip(), after.rstrip()):
                 yield number, "swapped with the next", [lines[number], line]
+
+
+def are_steps(one, other):
+    """False for two assignments of which neither reads or sets what the other sets: their order is none."""
+    first, second = ASSIGNMENT.match(one), ASSIGNMENT.match(other)
+    return not first or not second or first[1] in other or second[1] in one
 
 
 def all_mutants(patterns):

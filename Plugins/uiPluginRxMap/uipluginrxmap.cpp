@@ -116,6 +116,6 @@ QString UiPluginRxMap::getPluginName()
 
 void UiPluginRxMap::getPluginVersion(unsigned long &major, unsigned long &minor)
 {
-    major = majorVersion.toULong(nullptr, 10);
-    minor = minorVersion.toULong(nullptr, 10);
+    major = majorVersion.toULong();
+    minor = minorVersion.toULong();
 }
