@@ -67,12 +67,12 @@ SwathOptions FieldDrive::usualOptions(const Simulation &simulation)
     return options;
 }
 
-Result<DrivePath> FieldDrive::plan(const Simulation &simulation, const SwathOptions &options)
+FieldArea FieldDrive::field(const Simulation &simulation)
 {
     const Machine &machine = *simulation.machine();
     const QList<LoadReport> maps = machine.backend()->maps();
     if (maps.isEmpty())
-        return Result<DrivePath>::failure(QStringLiteral("there is no field to drive: no prescription is loaded"));
+        return FieldArea(std::vector<QPolygonF>());
     const QString active =
         ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(machine.activeProduct())).groupName;
     const auto shown =
@@ -86,7 +86,14 @@ Result<DrivePath> FieldDrive::plan(const Simulation &simulation, const SwathOpti
         const FieldArea area = FieldArea::ofMap(*group);
         rings.insert(rings.end(), area.rings().begin(), area.rings().end());
     }
-    return SwathPlan::make(FieldArea(std::move(rings)), options);
+    return FieldArea(std::move(rings));
+}
+
+Result<DrivePath> FieldDrive::plan(const Simulation &simulation, const SwathOptions &options)
+{
+    if (simulation.machine()->backend()->maps().isEmpty())
+        return Result<DrivePath>::failure(QStringLiteral("there is no field to drive: no prescription is loaded"));
+    return SwathPlan::make(field(simulation), options);
 }
 
 FieldDrive::FieldDrive(Simulation *givenSimulation, DrivePath givenPath)

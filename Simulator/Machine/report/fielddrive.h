@@ -28,8 +28,9 @@ public:
 
     /// How a machine of the simulation's size drives.
     static SwathOptions usualOptions(const Simulation &simulation);
-    /// A way over the field of the loaded prescriptions that share a plane with the active product's. The reason when
-    /// there is none.
+    /// The field of the loaded prescriptions that share a plane with the active product's; empty without any.
+    static FieldArea field(const Simulation &simulation);
+    /// A way over that field. The reason when there is none.
     static Result<DrivePath> plan(const Simulation &simulation, const SwathOptions &options);
 
     /// Puts the machine at the path's start. `simulation` is not owned and outlives the drive.

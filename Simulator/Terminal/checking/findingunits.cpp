@@ -1,6 +1,7 @@
 #include "findingunits.h"
 
 #include "Backend/mapfinding.h"
+#include "showndistance.h"
 #include "shownnumber.h"
 
 #include <QRegularExpression>
@@ -13,8 +14,9 @@ constexpr double foot = 0.3048; // Metres.
 
 } // namespace
 
-FindingUnits::FindingUnits(UnitSystem system)
-    : isMetric(system == UnitSystem::Metric)
+FindingUnits::FindingUnits(UnitSystem givenSystem)
+    : system(givenSystem)
+    , isMetric(givenSystem == UnitSystem::Metric)
 {
 }
 
@@ -37,17 +39,10 @@ QString FindingUnits::textOf(const MapFinding &finding) const
             continue;
         const double value = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
         text += finding.text.mid(end, match.capturedStart() - end);
-        text += match.captured(2).isEmpty() ? width(value) : area(value);
+        text += match.captured(2).isEmpty() ? ShownDistance::width(value, system) : area(value);
         end = match.capturedEnd();
     }
     return text + finding.text.mid(end);
-}
-
-QString FindingUnits::width(double metres) const
-{
-    constexpr double small = 1.0;
-    const double shown = isMetric ? metres : metres / foot;
-    return (isMetric ? tr("%1 m") : tr("%1 ft")).arg(ShownNumber::text(shown, shown < small ? 2 : 1));
 }
 
 QString FindingUnits::area(double squareMetres) const

@@ -18,8 +18,8 @@ public:
     QString textOf(const MapFinding &finding) const;
 
 private:
-    QString width(double metres) const;
     QString area(double squareMetres) const;
 
+    UnitSystem system;
     bool isMetric;
 };

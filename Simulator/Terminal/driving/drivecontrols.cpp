@@ -3,6 +3,7 @@
 #include "Backend/prescriptionbackend.h"
 #include "fielddrive.h"
 #include "machine.h"
+#include "showndistance.h"
 #include "shownnumber.h"
 #include "simulation.h"
 #include "vehicle.h"
@@ -154,14 +155,27 @@ void DriveControls::setPaused(bool pauses)
 
 bool DriveControls::planSwaths()
 {
-    const Result<DrivePath> path = FieldDrive::plan(*simulation, FieldDrive::usualOptions(*simulation));
+    const SwathOptions options = FieldDrive::usualOptions(*simulation);
+    const Result<DrivePath> path = FieldDrive::plan(*simulation, options);
     if (path.isOk())
         vehicle()->follow(path.value);
-    else if (simulation->machine()->backend()->maps().isEmpty())
-        problem = tr("No prescription is loaded that could be driven.");
     else
-        problem = tr("The field cannot be driven: %1").arg(path.error);
+        problem = whyNot(options);
     return path.isOk();
+}
+
+/// In the operator's language and units; the reason that the way is refused with is for scripts.
+QString DriveControls::whyNot(const SwathOptions &options) const
+{
+    const FieldArea field = FieldDrive::field(*simulation);
+    if (field.rings().empty())
+        return tr("No prescription is loaded that could be driven.");
+    const double width = SwathPlan::widthAcross(field, options);
+    if (width >= options.width)
+        return tr("The field cannot be driven in swaths.");
+    const UnitSystem units = simulation->machine()->unitSystem();
+    return tr("The field is %1 wide, narrower than the machine (%2).")
+        .arg(ShownDistance::width(width, units), ShownDistance::width(options.width, units));
 }
 
 void DriveControls::takeSwaths()

@@ -4,6 +4,7 @@
 #include <QString>
 
 class Simulation;
+struct SwathOptions;
 class Vehicle;
 
 /// What the operator does to drive, for buttons and keys alike. How the machine drives is the simulation's; kept here
@@ -68,6 +69,7 @@ private:
     void changeSpeed(int steps);
     void changePace(int steps);
     bool planSwaths();
+    QString whyNot(const SwathOptions &options) const;
     void endPause();
 
     Simulation *simulation;

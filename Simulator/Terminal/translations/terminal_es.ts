@@ -82,8 +82,12 @@
         <translation>No hay ninguna prescripción cargada que recorrer.</translation>
     </message>
     <message>
-        <source>The field cannot be driven: %1</source>
-        <translation>No se puede recorrer el campo: %1</translation>
+        <source>The field cannot be driven in swaths.</source>
+        <translation>No se puede recorrer el campo en pasadas.</translation>
+    </message>
+    <message>
+        <source>The field is %1 wide, narrower than the machine (%2).</source>
+        <translation>El campo mide %1 de ancho, menos que la máquina (%2).</translation>
     </message>
     <message>
         <source>The end of the way is reached.</source>
@@ -335,14 +339,6 @@
 </context>
 <context>
     <name>FindingUnits</name>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>%1 ft</source>
-        <translation>%1 ft</translation>
-    </message>
     <message>
         <source>%1 m²</source>
         <translation>%1 m²</translation>
@@ -1002,6 +998,14 @@
     <message>
         <source>%1 mi</source>
         <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 ft</translation>
     </message>
 </context>
 <context>

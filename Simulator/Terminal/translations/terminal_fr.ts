@@ -82,8 +82,12 @@
         <translation>Aucune carte de préconisation à parcourir n’est chargée.</translation>
     </message>
     <message>
-        <source>The field cannot be driven: %1</source>
-        <translation>La parcelle ne peut pas être parcourue&#xa0;: %1</translation>
+        <source>The field cannot be driven in swaths.</source>
+        <translation>La parcelle ne peut pas être parcourue en passages.</translation>
+    </message>
+    <message>
+        <source>The field is %1 wide, narrower than the machine (%2).</source>
+        <translation>La parcelle fait %1 de large, moins que la machine (%2).</translation>
     </message>
     <message>
         <source>The end of the way is reached.</source>
@@ -335,14 +339,6 @@
 </context>
 <context>
     <name>FindingUnits</name>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>%1 ft</source>
-        <translation>%1 pi</translation>
-    </message>
     <message>
         <source>%1 m²</source>
         <translation>%1 m²</translation>
@@ -1002,6 +998,14 @@
     <message>
         <source>%1 mi</source>
         <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 pi</translation>
     </message>
 </context>
 <context>

@@ -82,8 +82,12 @@
         <translation>Nenhuma prescrição carregada para percorrer.</translation>
     </message>
     <message>
-        <source>The field cannot be driven: %1</source>
-        <translation>O talhão não pode ser percorrido: %1</translation>
+        <source>The field cannot be driven in swaths.</source>
+        <translation>O talhão não pode ser percorrido em passadas.</translation>
+    </message>
+    <message>
+        <source>The field is %1 wide, narrower than the machine (%2).</source>
+        <translation>O talhão tem %1 de largura, menos que a máquina (%2).</translation>
     </message>
     <message>
         <source>The end of the way is reached.</source>
@@ -335,14 +339,6 @@
 </context>
 <context>
     <name>FindingUnits</name>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>%1 ft</source>
-        <translation>%1 ft</translation>
-    </message>
     <message>
         <source>%1 m²</source>
         <translation>%1 m²</translation>
@@ -1002,6 +998,14 @@
     <message>
         <source>%1 mi</source>
         <translation>%1 mi</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 ft</translation>
     </message>
 </context>
 <context>

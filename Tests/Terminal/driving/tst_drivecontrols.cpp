@@ -14,6 +14,8 @@ private Q_SLOTS:
     void startGoesOnWhereStopHeld();
     void aWayThatIsAtItsEndBeginsAnew();
     void whyThereIsNoWayIsTold();
+    void aFieldThatIsTooNarrowIsToldInTheOperatorsUnits_data();
+    void aFieldThatIsTooNarrowIsToldInTheOperatorsUnits();
     void speedGoesByWholeNumbersOfTheOperatorsUnit_data();
     void speedGoesByWholeNumbersOfTheOperatorsUnit();
     void aScriptsSpeedAndPaceAreTakenOver();
@@ -96,13 +98,34 @@ void TestDriveControls::whyThereIsNoWayIsTold()
     load();
     QCOMPARE(controls->message(), QString());
     MachineSize size = vehicle().size();
-    size.width = 199.0;
     size.minRadius = 1e6;
+    vehicle().setSize(size);
+    controls->takeSwaths();
+    QCOMPARE(controls->message(), QStringLiteral("The field cannot be driven in swaths."));
+}
+
+void TestDriveControls::aFieldThatIsTooNarrowIsToldInTheOperatorsUnits_data()
+{
+    QTest::addColumn<int>("units");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("metric") << int(UnitSystem::Metric)
+                            << "The field is 10.0 m wide, narrower than the machine (199.0 m).";
+    QTest::newRow("turf") << int(UnitSystem::Turf)
+                          << "The field is 32.8 ft wide, narrower than the machine (652.9 ft).";
+}
+
+void TestDriveControls::aFieldThatIsTooNarrowIsToldInTheOperatorsUnits()
+{
+    QFETCH(int, units);
+    controls.reset();
+    bench.reset(new MachineBench(ProductFile::standard(), UnitSystem(units)));
+    controls.reset(new DriveControls(&bench->simulation));
+    MachineSize size = vehicle().size();
+    size.width = 199.0;
     vehicle().setSize(size);
     QVERIFY(bench->loadZones({{-5, 5, 50.0}}).isOk());
     controls->takeSwaths();
-    const QString message = controls->message();
-    QVERIFY2(message.startsWith(QLatin1String("The field cannot be driven: ")), qPrintable(message));
+    QTEST(controls->message(), "message");
 }
 
 void TestDriveControls::speedGoesByWholeNumbersOfTheOperatorsUnit_data()

@@ -126,7 +126,17 @@ Result<DrivePath> driveSwaths(const FieldArea &field, double heading, const Swat
     return {path, {}};
 }
 
+double headingOver(const FieldArea &field, const SwathOptions &options)
+{
+    return options.angle ? radiansOf(*options.angle) : field.longestSide();
+}
+
 } // namespace
+
+double SwathPlan::widthAcross(const FieldArea &field, const SwathOptions &options)
+{
+    return field.acrossExtent(headingOver(field, options)).length();
+}
 
 Result<DrivePath> SwathPlan::make(const FieldArea &field, const SwathOptions &options)
 {
@@ -135,8 +145,8 @@ Result<DrivePath> SwathPlan::make(const FieldArea &field, const SwathOptions &op
         return Result<DrivePath>::failure(problem);
     if (field.rings().empty())
         return Result<DrivePath>::failure(QStringLiteral("there is no field to drive"));
-    const double heading = options.angle ? radiansOf(*options.angle) : field.longestSide();
-    const double across = field.acrossExtent(heading).length();
+    const double heading = headingOver(field, options);
+    const double across = widthAcross(field, options);
     if (across < options.width)
         return Result<DrivePath>::failure(QStringLiteral("the field is %1 m wide, narrower than the machine's %2 m")
                                               .arg(across, 0, 'f', 1)

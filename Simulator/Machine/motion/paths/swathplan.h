@@ -26,6 +26,9 @@ struct SwathOptions {
 /// anywhere across it, and between them the shortest turns.
 class SwathPlan {
 public:
+    /// How far the field reaches across the swaths, metres: less than the machine's width is not driven. The field has
+    /// an outline.
+    static double widthAcross(const FieldArea &field, const SwathOptions &options);
     /// The reason when the field cannot be driven like that.
     static Result<DrivePath> make(const FieldArea &field, const SwathOptions &options);
     /// A closed round along a ring, on arcs of that radius at its corners; corners that are too near to each other for
