@@ -77,6 +77,21 @@ QString outputProblem(const CommandLine &line)
     return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(line.drive, problem);
 }
 
+/// What lies on a plane of its own would be put out at the coordinates of the one that is driven.
+QString farFieldProblem(const Terminal &terminal)
+{
+    const QList<LoadReport> maps = terminal.backend()->maps();
+    const LoadReport *first = nullptr;
+    for (const LoadReport &map : maps) {
+        if (terminal.columnsOf(map.group).isEmpty())
+            continue;
+        if (first != nullptr && first->origin != map.origin)
+            return QStringLiteral("%1: lies too far from %2 to be driven with it").arg(map.path, first->path);
+        first = first != nullptr ? first : &map;
+    }
+    return {};
+}
+
 bool isPage(const CommandLine &line)
 {
     return line.drive.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
@@ -90,7 +105,9 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     const Result<DrivePath> path = FieldDrive::plan(*simulation, FieldDrive::usualOptions(*simulation));
     if (!path.isOk())
         return QStringLiteral("%1: %2").arg(line.prescriptions.join(QStringLiteral(", ")), path.error);
-    const QString problem = outputProblem(line);
+    QString problem = farFieldProblem(terminal);
+    if (problem.isEmpty())
+        problem = outputProblem(line);
     if (!problem.isEmpty())
         return problem;
 

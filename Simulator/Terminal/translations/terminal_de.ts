@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>The field cannot be driven in swaths.</source>
-        <translation>Das Feld kann nicht in Bahnen gefahren werden.</translation>
+        <translation>Das Feld kann nicht in Spuren gefahren werden.</translation>
     </message>
     <message>
         <source>The field is %1 wide, narrower than the machine (%2).</source>

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aReportIsAPageInTheChosenLanguageAndUnits();
     void whatCannotBeDrivenEndsWithOneLine_data();
     void whatCannotBeDrivenEndsWithOneLine();
+    void fieldsOnPlanesOfTheirOwnAreNotDrivenTogether();
 };
 
 void TestTerminalSimulatorDriving::aFieldIsDrivenWithoutADisplay()
@@ -103,6 +104,26 @@ void TestTerminalSimulatorDriving::whatCannotBeDrivenEndsWithOneLine()
     QCOMPARE(outcome.errors.count('\n'), 1);
     QVERIFY2(!outcome.output.contains(QLatin1String("report written")), qPrintable(outcome.output));
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
+}
+
+void TestTerminalSimulatorDriving::fieldsOnPlanesOfTheirOwnAreNotDrivenTogether()
+{
+    const QString report = folder.filePath(QStringLiteral("two-fields.json"));
+    const QString far = write(R"({"type": "FeatureCollection", "features": [{"type": "Feature",
+        "properties": {"UREA_KG_HA": 70}, "geometry": {"type": "Polygon", "coordinates":
+        [[[11, 48], [11.01, 48], [11.01, 48.01], [11, 48.01], [11, 48]]]}}]})",
+                              "far.geojson");
+    const QStringList drive{"--drive", report, "--columns"};
+    const Outcome both = run(drive + QStringList{"SEED_K_HA,UREA_KG_HA", zones(), far}, withoutDisplay());
+    QCOMPARE(both.status, 1);
+    QVERIFY2(
+        both.errors.endsWith(
+            QStringLiteral("\nterminal-simulator: %1: lies too far from %2 to be driven with it\n").arg(far, zones())),
+        qPrintable(both.errors));
+    QVERIFY(!QFileInfo::exists(report));
+    // One whose product the other has taken over is not put out.
+    const Outcome one = run(drive + QStringList{"SEED_K_HA", zones(), far}, withoutDisplay());
+    QVERIFY2(one.status == 0, qPrintable(one.errors));
 }
 
 RXMAP_TEST(TestTerminalSimulatorDriving, Core)
