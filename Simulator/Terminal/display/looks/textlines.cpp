@@ -7,9 +7,15 @@ namespace {
 /// How much of the text fits into a line: up to the end of a word if one ends there.
 int fitting(const QString &text, const QFontMetrics &metrics, int width)
 {
-    int length = text.size();
-    while (length > 1 && metrics.horizontalAdvance(text.left(length)) > width)
-        --length;
+    // Bisected: a name may be as long as its file likes, and each piece is laid out anew.
+    int length = 1;
+    for (int most = text.size(); length < most;) {
+        const int middle = length + (most - length + 1) / 2;
+        if (metrics.horizontalAdvance(text.left(middle)) <= width)
+            length = middle;
+        else
+            most = middle - 1;
+    }
     if (length == text.size())
         return length;
     const int word =
