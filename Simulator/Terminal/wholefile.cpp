@@ -1,5 +1,7 @@
 #include "wholefile.h"
 
+#include "regularfile.h"
+
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -8,7 +10,7 @@ namespace {
 bool put(QFileDevice &file, const QByteArray &content)
 {
     // A disk that fills up takes a part first, without a reason; the next part tells it.
-    bool isTaken = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    bool isTaken = file.isOpen();
     for (qint64 done = 0, taken = 0; isTaken && done < content.size(); done += taken) {
         taken = file.write(content.constData() + done, content.size() - done);
         isTaken = taken > 0;
@@ -24,10 +26,14 @@ QString writeWholeFile(const QString &path, const QByteArray &content)
     const QFileInfo place(path);
     if (place.exists() && !place.isFile()) {
         QFile file(path);
+        const QString problem = openOutput(file);
+        if (!problem.isEmpty())
+            return line.arg(path, problem);
         return put(file, content) ? QString() : line.arg(path, file.errorString());
     }
     QSaveFile file(path);
     // Where only the file itself may be written, not its folder.
     file.setDirectWriteFallback(true);
-    return put(file, content) && file.commit() ? QString() : line.arg(path, file.errorString());
+    const bool isOpen = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    return isOpen && put(file, content) && file.commit() ? QString() : line.arg(path, file.errorString());
 }

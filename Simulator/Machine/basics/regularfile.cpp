@@ -1,6 +1,11 @@
 #include "regularfile.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 QString regularFileProblem(const QString &path)
 {
@@ -12,4 +17,16 @@ QString regularFileProblem(const QString &path)
     if (!file.isFile())
         return QStringLiteral("is no plain file");
     return file.isReadable() ? QString() : QStringLiteral("cannot be read");
+}
+
+QString openOutput(QFile &file)
+{
+    const int probe = open(QFile::encodeName(file.fileName()).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (probe < 0 && errno == ENXIO)
+        return QStringLiteral("is a pipe that nobody reads");
+    const bool isOpen = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    // Not before: a reader would take the probe's end for that of the content.
+    if (probe >= 0)
+        close(probe);
+    return isOpen ? QString() : file.errorString();
 }

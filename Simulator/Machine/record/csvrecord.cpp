@@ -1,5 +1,7 @@
 #include "csvrecord.h"
 
+#include "regularfile.h"
+
 #include <cmath>
 
 namespace {
@@ -32,9 +34,8 @@ std::shared_ptr<RecordWriter> CsvRecord::create(const QString &path, int product
             record->waiting += QByteArray(",") + name + "_" + QByteArray::number(number);
     }
     record->waiting += '\n';
-    if (!record->file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        error = record->file.errorString();
-    else
+    error = openOutput(record->file);
+    if (error.isEmpty())
         error = record->keep();
     return record;
 }

@@ -3,7 +3,9 @@
 
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 /// Which paths can be read to their end.
 class TestRegularFile : public TestBase {
@@ -12,6 +14,7 @@ class TestRegularFile : public TestBase {
 private Q_SLOTS:
     void onlyPlainFilesPass_data();
     void onlyPlainFilesPass();
+    void anOutputWaitsForNobody();
 
 private:
     QTemporaryDir folder;
@@ -45,6 +48,25 @@ void TestRegularFile::onlyPlainFilesPass()
     QFETCH(QString, path);
     QFETCH(QString, problem);
     QCOMPARE(regularFileProblem(path), problem);
+}
+
+void TestRegularFile::anOutputWaitsForNobody()
+{
+    QFile plain(folder.filePath(QStringLiteral("new")));
+    QCOMPARE(openOutput(plain), QString());
+    QFile none(folder.path());
+    QVERIFY(!openOutput(none).isEmpty());
+    const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("output")));
+    QCOMPARE(mkfifo(path.constData(), 0600), 0);
+    QFile pipe(QFile::decodeName(path));
+    QCOMPARE(openOutput(pipe), QStringLiteral("is a pipe that nobody reads"));
+    const int reader = open(path.constData(), O_RDONLY | O_NONBLOCK);
+    QCOMPARE(openOutput(pipe), QString());
+    QCOMPARE(pipe.write("a"), qint64(1));
+    char byte = 0;
+    QCOMPARE(read(reader, &byte, 1), ssize_t(1));
+    QCOMPARE(byte, 'a');
+    close(reader);
 }
 
 RXMAP_TEST(TestRegularFile, None)

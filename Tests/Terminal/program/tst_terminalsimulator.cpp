@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include <sys/stat.h>
+
 /// The program as it is started from a shell.
 class TestTerminalSimulator : public ProgramTest {
     Q_OBJECT
@@ -372,6 +374,10 @@ void TestTerminalSimulator::outputIntoAFullDeviceIsAnError_data()
         << "standard output";
     QTest::newRow("help into a closed stream") << QStringList{"--help"} << ">&-"
                                                << "standard output";
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    mkfifo(QFile::encodeName(pipe).constData(), 0600);
+    QTest::newRow("a picture into a pipe that nobody reads")
+        << QStringList{"--screenshot", pipe, zones()} << "" << pipe + ": is a pipe that nobody reads";
     QTest::newRow("a picture") << QStringList{"--screenshot", "/dev/full", zones()} << ""
                                << "/dev/full: ";
 }
@@ -386,6 +392,7 @@ void TestTerminalSimulator::outputIntoAFullDeviceIsAnError()
     QVERIFY2(outcome.errors.startsWith(QLatin1String("terminal-simulator: ") + subject), qPrintable(outcome.errors));
     QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFileInfo(QStringLiteral("/dev/full")).isFile());
+    QVERIFY(!QFileInfo(folder.filePath(QStringLiteral("pipe"))).isFile());
 }
 
 void TestTerminalSimulator::tooFewOpenFilesAreNamed_data()
