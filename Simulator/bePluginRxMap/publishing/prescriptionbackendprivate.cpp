@@ -7,6 +7,7 @@
 
 #include "Framework/databroker.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMetaObject>
 #include <QPointer>
@@ -16,8 +17,9 @@
 
 namespace {
 
-/// Progress is reported in steps of this share.
+/// Progress is reported in steps of at least this share, and at most so often: each report wakes the other thread.
 constexpr double progressStep = 0.01;
+constexpr qint64 progressIntervalMs = 1;
 
 /// One name for one file, however it is reached.
 QString fileKey(const QString &path)
@@ -110,12 +112,16 @@ void PrescriptionBackendPrivate::work(const std::shared_ptr<LoadJob> &job, const
 {
     // The thread is joined before the back-end goes, so it may post to it as long as it runs.
     double reported = -progressStep;
+    QElapsedTimer sinceReport;
     LoadControl control;
     control.cancelled = &job->cancelled;
-    control.progress = [this, job, &reported](double fraction) {
-        if (fraction - reported < progressStep && fraction < 1.0)
+    control.progress = [this, job, &reported, &sinceReport](double fraction) {
+        const bool isDue = fraction - reported >= progressStep
+            && (!sinceReport.isValid() || sinceReport.hasExpired(progressIntervalMs));
+        if (!isDue && fraction < 1.0)
             return;
         reported = fraction;
+        sinceReport.start();
         const QString path = job->request.path;
         QMetaObject::invokeMethod(
             q, [this, path, fraction] { Q_EMIT q->progress(path, fraction); }, Qt::QueuedConnection);

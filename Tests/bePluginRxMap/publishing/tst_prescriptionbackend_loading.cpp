@@ -69,7 +69,7 @@ void PrescriptionBackendLoadingTest::keepsTheEventLoopRunningWhileItLoads()
 
 void PrescriptionBackendLoadingTest::reportsProgressAndAnswersWhileABigMapLoads()
 {
-    constexpr int side = 60;
+    constexpr int side = 100;
     LayerSketch sketch;
     sketch.fields = {{"rate", 1.0}};
     for (int i = 0; i < side * side; ++i)
@@ -95,7 +95,7 @@ void PrescriptionBackendLoadingTest::reportsProgressAndAnswersWhileABigMapLoads(
         handledBefore.clear();
         const LoadReport report = backend->loadAndWait(requestFor(path));
         QCOMPARE(report.polygons, side * side);
-        QVERIFY(fractions.size() >= 20);
+        QVERIFY(fractions.size() >= 3);
         QVERIFY(fractions.first() < 0.1);
         QCOMPARE(fractions.last(), 1.0);
         for (int i = 1; i < fractions.size(); ++i)
