@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
@@ -36,14 +36,14 @@ int cellsWithin(double length, double cellLength, qint64 most)
 qint64 equalBytes(const char *one, const char *other, qint64 count)
 {
     qint64 equal = 0;
-    for (std::uint64_t a = 0, b = 0; equal + qint64(sizeof a) <= count; equal += qint64(sizeof a)) {
-        std::memcpy(&a, one + equal, sizeof a);
-        std::memcpy(&b, other + equal, sizeof b);
-        if (a != b)
-            break;
-    }
-    while (equal < count && one[equal] == other[equal])
-        ++equal;
+    // As much at once as the library compares in step, then words, then bytes.
+    const auto pass = [one, other, count, &equal](auto block) {
+        while (equal + block <= count && std::memcmp(one + equal, other + equal, block) == 0)
+            equal += block;
+    };
+    pass(std::integral_constant<int, 64>());
+    pass(std::integral_constant<int, 8>());
+    pass(std::integral_constant<int, 1>());
     return equal;
 }
 
@@ -89,10 +89,13 @@ int GridRectangles::endOfRun(int column) const
     return column + 1 + static_cast<int>(equal / cellBytes);
 }
 
-bool GridRectangles::goesOn(const CellRectangle &rectangle, int column, int end) const
+bool GridRectangles::goesOn(const CellRectangle &rectangle, int column) const
 {
-    return rectangle.column == column && rectangle.columns == end - column && rectangle.rows < rowLimit
-        && std::memcmp(cell(rectangle.row, column), cell(row, column), static_cast<size_t>(cellBytes)) == 0;
+    const int end = column + rectangle.columns;
+    const auto bytes = static_cast<size_t>(cellBytes);
+    return rectangle.column == column && rectangle.rows < rowLimit
+        && std::memcmp(cell(row - 1, column), cell(row, column), bytes * static_cast<size_t>(rectangle.columns)) == 0
+        && (end == columns || end % columnLimit == 0 || std::memcmp(cell(row, end - 1), cell(row, end), bytes) != 0);
 }
 
 void GridRectangles::addRow()
@@ -100,15 +103,16 @@ void GridRectangles::addRow()
     reaching.clear();
     auto next = below.begin();
     for (int column = 0, end = 0; column < columns; column = end) {
-        end = endOfRun(column);
         while (next != below.end() && found[*next].column < column)
             ++next;
-        if (next != below.end() && goesOn(found[*next], column, end)) {
+        if (next != below.end() && goesOn(found[*next], column)) {
+            end = column + found[*next].columns;
             ++found[*next].rows;
             reaching.push_back(*next);
         } else {
+            end = endOfRun(column);
             reaching.push_back(found.size());
-            found.push_back({column, row, end - column, 1});
+            found.emplace_back() = {column, row, end - column, 1};
         }
     }
     below.swap(reaching);

@@ -40,8 +40,8 @@ private:
     const char *cell(int row, int column) const;
     /// The place behind the cells, from `column` on, that hold the same in the row that is taken.
     int endOfRun(int column) const;
-    /// Whether the rectangle goes on with the run.
-    bool goesOn(const CellRectangle &rectangle, int column, int end) const;
+    /// Whether the rectangle, which reaches up to the row that is taken, goes on with a run from `column` on.
+    bool goesOn(const CellRectangle &rectangle, int column) const;
 
     const QByteArray &cells;
     const int cellBytes;
