@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -65,53 +66,62 @@ Square coefficients(const Square &powers, const Square &values, std::size_t size
     return result;
 }
 
-} // namespace
+/// The polynomials on one parallel of latitude, where only powers of u are left.
+struct Parallel {
+    double y = std::numeric_limits<double>::quiet_NaN();
+    Places forX = {};
+    Places forY = {};
+};
 
-ProjectionApproximation::Block ProjectionApproximation::values(const Coefficients &coefficients, const Block &us,
-                                                               const Block &vs) const
+/// The coefficients of u where v is known, by Horner's method.
+template <std::size_t count> void onParallel(const Square &coefficients, double v, Places &result)
 {
-    // Horner's method in both directions.
-    Block result = {};
-    for (std::size_t i = terms; i-- > 0;) {
-        Block row;
-        row.fill(coefficients[i][terms - 1]);
-        for (std::size_t k = terms - 1; k-- > 0;)
-            for (std::size_t n = 0; n < blockSize; ++n)
-                row[n] = row[n] * vs[n] + coefficients[i][k];
-        for (std::size_t n = 0; n < blockSize; ++n)
-            result[n] = result[n] * us[n] + row[n];
+    for (std::size_t i = 0; i < count; ++i) {
+        double sum = coefficients[i][count - 1];
+        for (std::size_t k = count - 1; k-- > 0;)
+            sum = sum * v + coefficients[i][k];
+        result[i] = sum;
     }
+}
+
+/// The same for u.
+template <std::size_t count> double valueAt(const Places &coefficients, double u)
+{
+    double result = 0.0;
+    for (std::size_t i = count; i-- > 0;)
+        result = result * u + coefficients[i];
     return result;
 }
 
-void ProjectionApproximation::applyToBlock(double *xs, double *ys) const
+} // namespace
+
+template <std::size_t count> void ProjectionApproximation::applyTerms(std::size_t places, double *xs, double *ys) const
 {
-    Block us;
-    Block vs;
-    for (std::size_t n = 0; n < blockSize; ++n) {
-        us[n] = (xs[n] - middleX) / halfWidth;
-        vs[n] = (ys[n] - middleY) / halfHeight;
+    // The two that were asked for last: neighbours in a file share them, all the more so the cells of a grid.
+    std::array<Parallel, 2> parallels;
+    std::size_t at = 0;
+    for (std::size_t i = 0; i < places; ++i) {
+        if (parallels[at].y != ys[i])
+            at = 1 - at;
+        Parallel &parallel = parallels[at];
+        if (parallel.y != ys[i]) {
+            const double v = (ys[i] - middleY) / halfHeight;
+            parallel.y = ys[i];
+            onParallel<count>(forX, v, parallel.forX);
+            onParallel<count>(forY, v, parallel.forY);
+        }
+        const double u = (xs[i] - middleX) / halfWidth;
+        xs[i] = valueAt<count>(parallel.forX, u);
+        ys[i] = valueAt<count>(parallel.forY, u);
     }
-    const Block x = values(forX, us, vs);
-    const Block y = values(forY, us, vs);
-    std::copy(x.begin(), x.end(), xs);
-    std::copy(y.begin(), y.end(), ys);
 }
 
 void ProjectionApproximation::apply(std::size_t count, double *xs, double *ys) const
 {
-    const std::size_t whole = count - count % blockSize;
-    for (std::size_t i = 0; i < whole; i += blockSize)
-        applyToBlock(xs + i, ys + i);
-    if (whole == count)
-        return;
-    Block lastXs = {};
-    Block lastYs = {};
-    std::copy(xs + whole, xs + count, lastXs.begin());
-    std::copy(ys + whole, ys + count, lastYs.begin());
-    applyToBlock(lastXs.data(), lastYs.data());
-    std::copy_n(lastXs.begin(), count - whole, xs + whole);
-    std::copy_n(lastYs.begin(), count - whole, ys + whole);
+    if (terms == fewTerms)
+        applyTerms<fewTerms>(count, xs, ys);
+    else
+        applyTerms<mostTerms>(count, xs, ys);
 }
 
 bool ProjectionApproximation::fit(const Exact &exact, double minX, double maxX, double minY, double maxY)

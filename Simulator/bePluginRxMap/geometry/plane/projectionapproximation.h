@@ -26,13 +26,8 @@ public:
     void apply(std::size_t count, double *xs, double *ys) const;
 
 private:
-    /// So many places are projected in step, which lets the processor work on two at a time.
-    static constexpr std::size_t blockSize = 8;
-    using Block = std::array<double, blockSize>;
-
     void interpolate(const Exact &exact, std::size_t count);
-    Block values(const Coefficients &coefficients, const Block &us, const Block &vs) const;
-    void applyToBlock(double *xs, double *ys) const;
+    template <std::size_t count> void applyTerms(std::size_t places, double *xs, double *ys) const;
     bool isGoodEnough(const Exact &exact) const;
 
     double middleX = 0.0;
