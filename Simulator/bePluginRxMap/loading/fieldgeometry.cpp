@@ -68,7 +68,7 @@ QString FieldGeometry::locate(GeographicExtent &extent)
     }
     if (!isLocated)
         return reason;
-    if (!source.reference)
+    if (!source.reference && !source.lackOfReference.isEmpty())
         findings.add(Kind::ReferenceSystem, source.lackOfReference + BackendText::tr("; taken as WGS 84"));
     return QString();
 }

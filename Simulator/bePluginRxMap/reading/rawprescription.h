@@ -94,9 +94,9 @@ struct RawPrescription {
     std::vector<int> numberFields;
     /// Names of all columns of the table.
     QStringList columnNames;
-    /// Null when the file names no coordinate system.
+    /// Null when the file names no coordinate system; its coordinates are taken as WGS 84 longitudes and latitudes.
     SpatialReference reference;
-    /// Said of the file where `reference` is null.
+    /// Said of the file where `reference` is null; empty where the format leaves no other choice than WGS 84.
     QString lackOfReference = BackendText::tr("names no coordinate system");
     int records = 0;
     /// For each record of a grid the equal cells that it stands for; a record behind the last one is one thing.

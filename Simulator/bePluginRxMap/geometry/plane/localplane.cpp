@@ -159,7 +159,7 @@ bool LocalPlane::locate(const RawPrescription &map, GeographicExtent &extent, QS
     const Range y = rangeOf(map.ys);
     const bool isGeographic = !map.reference || map.reference->IsGeographic();
     if (isGeographic && !areDegrees(x, y)) {
-        error = map.reference
+        error = map.reference || map.lackOfReference.isEmpty()
             ? BackendText::tr("its coordinates are no longitudes and latitudes")
             : map.lackOfReference + BackendText::tr(", and its coordinates are no longitudes and latitudes");
         return false;

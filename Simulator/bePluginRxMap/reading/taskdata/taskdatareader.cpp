@@ -90,7 +90,7 @@ bool TaskDataReader::read(RawPrescription &map)
     map.columnNames = namesOf(map.columns);
     if (!checkColumns(map))
         return false;
-    map.reference.reset(OGRSpatialReference::GetWGS84SRS()->Clone());
+    map.lackOfReference.clear();
     if (!readGrids(columns, map) || !readZones(columns, map))
         return false;
     readBoundary(map);

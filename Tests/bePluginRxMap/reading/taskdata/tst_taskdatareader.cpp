@@ -79,7 +79,7 @@ void TaskDataReaderTest::readsGridsOfValues()
     QCOMPARE(map.warnings, QStringList());
     QCOMPARE(map.records, 6);
     QCOMPARE(map.columns.size(), size_t(2));
-    QVERIFY(map.reference && map.reference->IsGeographic());
+    QVERIFY(!map.reference && map.lackOfReference.isEmpty());
     // Row by row from the south-west: the third cell is the first one of the second row.
     QCOMPARE(map.ys[map.rings[0].first], 48.0);
     QCOMPARE(map.ys[map.rings[5].first], 48.002);
