@@ -1,7 +1,8 @@
 #include "polygonchain.h"
 
+#include "ringtree.h"
+
 #include <algorithm>
-#include <limits>
 
 using OrvikTypes::RX_POLYGON;
 using OrvikTypes::RX_POLYGONVERTEX;
@@ -27,19 +28,13 @@ Sizes sizesOf(const std::vector<PlanePolygon> &polygons)
 
 QRectF extentOfOuters(const std::vector<PlanePolygon> &polygons)
 {
-    double west = std::numeric_limits<double>::infinity();
-    double south = west;
-    double east = -west;
-    double north = -west;
+    RingExtent all;
     for (const PlanePolygon &polygon : polygons) {
-        for (const PlaneVertex &vertex : polygon.outer) {
-            west = std::min(west, vertex.x);
-            south = std::min(south, vertex.y);
-            east = std::max(east, vertex.x);
-            north = std::max(north, vertex.y);
-        }
+        const RingExtent extent = RingExtent::of(polygon.outer.data(), polygon.outer.size());
+        all.include(extent.minX, extent.minY);
+        all.include(extent.maxX, extent.maxY);
     }
-    return polygons.empty() ? QRectF() : QRectF(west, south, east - west, north - south);
+    return all.isEmpty() ? QRectF() : QRectF(all.minX, all.minY, all.maxX - all.minX, all.maxY - all.minY);
 }
 
 } // namespace

@@ -14,12 +14,13 @@ namespace {
 
 std::vector<RingExtent> extentsOf(const RX_POLYGON *first, unsigned count)
 {
-    std::vector<RingExtent> result;
-    result.reserve(count);
+    std::vector<RingExtent> result(count);
+    size_t outers = 0;
     for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
         if (!record->isHole)
-            result.push_back(RingExtent::of(record->vertices, record->vertexCount));
+            result[outers++] = RingExtent::of(record->vertices, record->vertexCount);
     }
+    result.resize(outers);
     return result;
 }
 
@@ -40,7 +41,7 @@ RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCo
         if (record->isHole)
             holes.push_back(record);
         else
-            outers.push_back({record});
+            outers.emplace_back().record = record;
     }
     for (size_t i = 0; i < holes.size(); ++i) {
         if (takers[i] != RendererHoleRule::nowhere)

@@ -40,7 +40,7 @@ private:
     /// A map may have very many short outer rings without holes, of which this is all that is kept beside their
     /// extents.
     struct Outer {
-        const OrvikTypes::RX_POLYGON *record;
+        const OrvikTypes::RX_POLYGON *record = nullptr;
         unsigned detail = none; ///< Place among the details.
     };
     struct Detail {

@@ -63,8 +63,9 @@ PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<d
         if (kept == 0 || !samePlace(result[kept - 1], vertex))
             result[kept++] = vertex;
     }
+    while (kept > 1 && samePlace(result[kept - 1], result[0]))
+        --kept;
     result.resize(kept);
-    dropRepeatedVertices(result);
     return result;
 }
 

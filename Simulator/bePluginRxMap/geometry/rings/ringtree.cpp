@@ -133,22 +133,6 @@ private:
     index::rtree<Entry, index::rstar<nodeSize>> tree;
 };
 
-void RingExtent::include(double x, double y)
-{
-    minX = std::min(minX, x);
-    minY = std::min(minY, y);
-    maxX = std::max(maxX, x);
-    maxY = std::max(maxY, y);
-}
-
-RingExtent RingExtent::of(const PlaneVertex *vertices, size_t count)
-{
-    RingExtent extent;
-    for (size_t i = 0; i < count; ++i)
-        extent.include(vertices[i].x, vertices[i].y);
-    return extent;
-}
-
 RingTree::RingTree(const std::vector<RingExtent> &extents)
     : boxes(std::make_unique<Boxes>(extents))
 {

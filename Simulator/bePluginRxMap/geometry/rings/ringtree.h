@@ -4,6 +4,7 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <memory>
@@ -17,8 +18,20 @@ struct RingExtent {
     double maxY = std::numeric_limits<double>::lowest();
 
     bool isEmpty() const { return minX > maxX || minY > maxY; }
-    void include(double x, double y);
-    static RingExtent of(const PlaneVertex *vertices, size_t count);
+    void include(double x, double y)
+    {
+        minX = std::min(minX, x);
+        minY = std::min(minY, y);
+        maxX = std::max(maxX, x);
+        maxY = std::max(maxY, y);
+    }
+    static RingExtent of(const PlaneVertex *vertices, size_t count)
+    {
+        RingExtent extent;
+        for (size_t i = 0; i < count; ++i)
+            extent.include(vertices[i].x, vertices[i].y);
+        return extent;
+    }
 };
 
 /// Finds rings by their extents: an R-tree (Guttman 1984) that is packed, since all extents are there when it is built.

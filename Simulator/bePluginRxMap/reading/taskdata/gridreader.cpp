@@ -159,23 +159,27 @@ void GridReader::append(const TaskGrid &grid, const std::vector<CellRectangle> &
 {
     constexpr size_t corners = 4;
     size_t vertex = map.xs.size();
-    map.rings.reserve(map.rings.size() + rectangles.size());
+    size_t ring = map.rings.size();
+    map.rings.resize(ring + rectangles.size());
     map.xs.resize(vertex + rectangles.size() * corners);
     map.ys.resize(vertex + rectangles.size() * corners);
     // The same sum for neighbours, so that they share their corners.
     const auto longitude = [&grid](int column) { return grid.west + static_cast<double>(column) * grid.cellWidth; };
     const auto latitude = [&grid](int row) { return grid.south + static_cast<double>(row) * grid.cellHeight; };
+    const auto put = [&map, &vertex](double x, double y) {
+        map.xs[vertex] = x;
+        map.ys[vertex++] = y;
+    };
     for (const CellRectangle &rectangle : rectangles) {
         const double west = longitude(rectangle.column);
         const double east = longitude(rectangle.column + rectangle.columns);
         const double south = latitude(rectangle.row);
         const double north = latitude(rectangle.row + rectangle.rows);
-        map.rings.push_back({vertex, corners, map.records, false});
-        for (const auto &[x, y] :
-             {std::pair(west, south), std::pair(east, south), std::pair(east, north), std::pair(west, north)}) {
-            map.xs[vertex] = x;
-            map.ys[vertex++] = y;
-        }
+        map.rings[ring++] = {vertex, corners, map.records, false};
+        put(west, south);
+        put(east, south);
+        put(east, north);
+        put(west, north);
         map.cells.push_back(rectangle.columns * rectangle.rows);
         ++map.records;
     }
