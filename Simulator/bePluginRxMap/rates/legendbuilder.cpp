@@ -4,7 +4,10 @@
 #include "rateramp.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <map>
 #include <random>
@@ -33,12 +36,27 @@ template <typename IsPassed> size_t placeAmong(const std::vector<double> &bounds
     return std::min(passed, bounds.size() - 1);
 }
 
+/// One of 256 places, by multiplicative hashing of the rate's bits.
+size_t placeOf(float rate)
+{
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, &rate, sizeof bits);
+    return (bits * 0x9e3779b1U) >> 24U;
+}
+
 /// A class for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
 std::vector<double> singleRates(const std::vector<float> &finite, double factor)
 {
+    // The last rate of each place: most are found here, in a tenth of the time that the set takes.
+    std::array<float, 256> recent;
+    recent.fill(std::numeric_limits<float>::quiet_NaN());
     std::unordered_set<float> known;
     std::map<double, float> greatest; // By what is shown.
     for (const float rate : finite) {
+        float &before = recent[placeOf(rate)];
+        if (before == rate)
+            continue;
+        before = rate;
         if (!known.insert(rate).second)
             continue;
         const double shown = ShownRate::text(static_cast<double>(rate) * factor).toDouble();

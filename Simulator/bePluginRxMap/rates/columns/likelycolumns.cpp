@@ -53,7 +53,7 @@ LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::
                              const ColumnUnits &units)
     : source(rawPrescription)
 {
-    std::vector<int> places = candidates(recordAreas(source, polygons));
+    std::vector<int> places = candidates(polygons);
     // What is wanted goes before what was put out.
     std::stable_partition(places.begin(), places.end(),
                           [this](int place) { return !ColumnName(column(place).name).namesApplied(); });
@@ -90,17 +90,22 @@ bool LikelyColumns::saysRates(const SourceColumn &column)
     return column.meaning == SourceColumn::Meaning::Rates || ColumnName(column.name).namesRate();
 }
 
-std::vector<int> LikelyColumns::candidates(const std::vector<double> &areas) const
+std::vector<int> LikelyColumns::candidates(const std::vector<PlanePolygon> &polygons) const
 {
+    std::vector<double> areas;
     std::vector<int> named;
     std::vector<int> real;
     std::vector<int> whole;
     for (int place = 0; place < static_cast<int>(source.columns.size()); ++place) {
         if (saysNoRates(column(place)) || !ColumnContent::hasRates(column(place)))
             continue;
-        if (saysRates(column(place)))
+        if (saysRates(column(place))) {
             named.push_back(place);
-        else if (ColumnContent::mayBeRates(column(place), source, areas))
+            continue;
+        }
+        if (areas.empty())
+            areas = recordAreas(source, polygons);
+        if (ColumnContent::mayBeRates(column(place), source, areas))
             (column(place).isInteger ? whole : real).push_back(place);
     }
     if (!named.empty())

@@ -33,7 +33,7 @@ public:
 
 private:
     /// Places of the columns before the ones that repeat others are left out.
-    std::vector<int> candidates(const std::vector<double> &areas) const;
+    std::vector<int> candidates(const std::vector<PlanePolygon> &polygons) const;
     const SourceColumn &column(int place) const { return source.columns[static_cast<size_t>(place)]; }
 
     const RawPrescription &source;
