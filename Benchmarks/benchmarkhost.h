@@ -15,7 +15,7 @@ public:
 
     RxMap3D &drawable() { return *rxMap3D; }
     DbGroupRxMap &group() { return *rxMapGroup; }
-    /// Vertices that were built, three a triangle.
+    /// Vertices built, three per triangle.
     int bankVertices() const;
 
 private:
@@ -24,5 +24,5 @@ private:
     RxMap3D *rxMap3D;
 };
 
-/// The legend of the maps: a colour for each 30 of rate, from 0 to 180.
+/// The legend of the maps: one colour for every 30 units of rate, from 0 to 180.
 QList<OrvikTypes::RX_RATECOLOR> benchmarkLegend();

@@ -1,5 +1,5 @@
 // A frame's draw beside the same draw calls with everything set up beforehand, untimed. Needs a display with OpenGL.
-// The view is one pixel large: filling pixels takes either side the same and would hide what drawing adds.
+// The view is one pixel large: filling pixels costs both sides the same and would hide what drawing adds.
 
 #include "benchmarkhost.h"
 #include "currentcontext.h"
@@ -87,7 +87,7 @@ void frame(benchmark::State &state, const NamedMap &kind)
     const QVector<Vertex> vertices = RxMap3DProbe::banks(host.drawable()).at(0).vertices;
     const QMatrix4x4 view = viewOf(vertices);
     BareFrame bare(vertices, view);
-    // The graphics driver works off its commands while it is waited for.
+    // The graphics driver carries out its commands while the program waits for it.
     compareSideBySide(
         state, "over_bare",
         [&] {

@@ -23,7 +23,7 @@
 
 namespace {
 
-/// What a reader of all features cannot do without: each geometry, and each field by its type.
+/// The least that a reader of all features must do: read each geometry, and each field by its type.
 double readWithGdal(const QString &path)
 {
     const GdalSession session;
@@ -116,7 +116,7 @@ void loadCells(benchmark::State &state)
     load(state, path);
 }
 
-/// What a reader of task data cannot do without: each attribute of the XML, and each number of the binary file.
+/// The least that a reader of task data must do: read each attribute of the XML, and each number of the binary file.
 double readPlainly(const QString &folder)
 {
     QFile tasks(folder + QStringLiteral("/TASKDATA.XML"));

@@ -15,7 +15,7 @@ namespace {
 /// Cells in a row, and rows.
 constexpr int side = 317;
 
-/// The memory of a program that is in main memory, its libraries' included, bytes.
+/// A program's resident memory, its libraries' included, bytes.
 double residentMemory(qint64 process)
 {
     QFile status(QStringLiteral("/proc/%1/status").arg(process));
@@ -46,7 +46,7 @@ void waitForLine(QProcess &terminal)
     terminal.readLine();
 }
 
-/// Of a terminal in which a script's text opens what is to be measured.
+/// The memory of a terminal in which `opening`, the text of a script, opens what is to be measured.
 Resident residentAfter(const QString &opening, const QTemporaryDir &folder)
 {
     QFile script(folder.filePath(QStringLiteral("script.js")));

@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 #include <memory>
 
-/// Hands results on under the names that benchmarks were registered by, without the number of iterations or what the
-/// time is taken by.
+/// Passes results on under the names by which the benchmarks were registered, without the number of iterations or the
+/// kind of time.
 class PlainNames : public benchmark::BenchmarkReporter {
 public:
     explicit PlainNames(std::unique_ptr<benchmark::BenchmarkReporter> reporter);

@@ -20,7 +20,7 @@ using Point = bg::model::d2::point_xy<double>;
 using Entry = std::pair<bg::model::box<Point>, const OrvikTypes::RX_POLYGON *>;
 using Tree = bg::index::rtree<Entry, bg::index::quadratic<16>>;
 
-/// Even-odd test with half-open edges, each edge looked at.
+/// Even-odd test with half-open edges that looks at every edge.
 bool contains(const OrvikTypes::RX_POLYGON &ring, double x, double y)
 {
     bool inside = false;

@@ -25,14 +25,14 @@ double shareOf(BenchmarkHost &host)
     return timed([&host] { host.drawable().updatePolygons(); });
 }
 
-/// The exponent that the time, or another quantity, grows with from `few` to `many`.
+/// The exponent with which the time, or another quantity, grows from `few` to `many`.
 double growth(double few, double many, double fewRingsMade, double manyRingsMade)
 {
     return std::log(many / few) / std::log(manyRingsMade / fewRingsMade);
 }
 
-/// While one of these lives, the allocator keeps what is freed, so that no page is had from the kernel anew: that takes
-/// time by thresholds of its own, whatever the program does.
+/// While one of these lives, the allocator keeps what is freed, so that no page has to be fetched from the kernel
+/// again: when that happens depends on the allocator's thresholds, not on the program.
 struct KeptPages {
     KeptPages()
     {

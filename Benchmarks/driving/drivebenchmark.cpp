@@ -21,7 +21,7 @@ namespace {
 constexpr double speed = 20.0;
 constexpr int mostSteps = 2000;
 
-/// So many that the machine does not come to the end of its way, where it would stand.
+/// As many steps as leave the machine short of the end of its way, where it would stand still.
 int stepsOn(const DrivingBench &bench)
 {
     return std::min(mostSteps, int(0.9 * bench.wayLength() / (speed * Simulation::stepMs / 1000.0)));
@@ -33,7 +33,7 @@ void step(Simulation &simulation, int steps)
         simulation.step();
 }
 
-/// As a touch asks.
+/// Asks as a touch does.
 float query(DbGroupRxMap &map, const std::vector<QPointF> &places)
 {
     float sum = 0.0F;

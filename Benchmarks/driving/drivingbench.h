@@ -19,12 +19,12 @@ class DrivingBench {
 public:
     static constexpr int products = 3;
 
-    /// Feeds each product from the map's likely columns, from the first again where there are too few.
+    /// Feeds each product from the map's likely columns, starting over with the first where there are too few.
     explicit DrivingBench(const QString &path);
 
     /// Puts the machine at the way's start and sets it going (metres per second).
     void begin(double speed);
-    /// The places that so many steps ask at, in turn; the machine is at the end of them.
+    /// Takes that many steps and returns the places at which they asked, in turn.
     std::vector<QPointF> askedPlaces(int steps);
 
     Simulation &simulated() { return simulation; }

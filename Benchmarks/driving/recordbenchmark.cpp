@@ -71,7 +71,7 @@ public:
         copy->StartTransaction();
         for (std::size_t layer = 0; layer < layers.size(); ++layer) {
             for (const OGRFeatureUniquePtr &feature : features[layer]) {
-                // By the layer's own definition, as whoever makes features does.
+                // With the layer's own definition, as anybody who makes features does.
                 OGRFeature own(layers[layer]->GetLayerDefn());
                 own.SetFrom(feature.get());
                 if (layers[layer]->CreateFeature(&own) != OGRERR_NONE)

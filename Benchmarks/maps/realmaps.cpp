@@ -25,7 +25,7 @@ BenchmarkMap published(const std::string &name, const QString &path)
     LoadRequest request;
     request.path = path;
     request.products = {{QString(), QStringLiteral("product.1")}};
-    // Without rates in it, but full of rings: any numeric column will do.
+    // This file has no rates but many rings: any numeric column will do.
     if (path.endsWith(QLatin1String("parcels.shp")))
         request.columns = QStringList{QStringLiteral("AREA_HA")};
     const LoadReport report = backend.loadAndWait(request);

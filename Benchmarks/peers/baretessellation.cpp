@@ -74,7 +74,7 @@ Placement referencePlacement(RX_POLYGON *chain, unsigned int count)
     Placement placement;
     for (const RX_POLYGON *outer : qAsConst(rings.outers)) {
         std::vector<RX_POLYGON *> here;
-        // Shared until a hole is taken out.
+        // Shares its memory with `holes` until a hole is taken out.
         const QVector<RX_POLYGON *> snapshot = holes;
         int position = 0;
         for (RX_POLYGON *hole : snapshot) {
