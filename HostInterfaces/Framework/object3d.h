@@ -13,7 +13,7 @@ class QOpenGLShaderProgram;
 ///
 /// The host calls init() and draw() on the user-interface thread with its context current. It sets before each draw():
 /// blending on (source alpha, one minus source alpha), depth test off, culling off, no buffer or vertex array bound,
-/// texture unit 0; docs/host.md lists the rest. It takes nothing for granted of what it finds afterwards. It deletes a
+/// texture unit 0; docs/host.md lists the rest. It relies on no state that a drawable leaves behind, and deletes a
 /// drawable with the context current.
 class FRAMEWORK_EXPORT Object3D : protected QOpenGLFunctions {
 public:

@@ -32,8 +32,8 @@ public:
     void setDisableMode(bool dimmed);
     /// Whether a pressed button is highlighted; on at first.
     void setHighLight(bool highlighted);
-    /// Adds or replaces text item `item`, centred on what the first image draws; made smaller, then shortened, to
-    /// fit the width of that.
+    /// Adds or replaces text item `item`, centred on what the first image draws; shrunk, then shortened, to fit its
+    /// width.
     void addText(int item, QString text, QColor color, QFont font);
     /// Colour of an existing text item; others are ignored.
     void setTextColor(int item, QColor color);

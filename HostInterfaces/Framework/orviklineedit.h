@@ -12,8 +12,8 @@
 class OrvikLineEditPrivate;
 
 /// A numeric entry field. A touch opens the on-screen keypad; a hardware keyboard works too. Text is in the C locale.
-/// The first keystroke of an entry replaces the text; one is refused when the text after it could not stand for, or
-/// grow into, a number within the limits. Of the two kinds of limits, those set last hold.
+/// The first keystroke of an entry replaces the text; a keystroke is refused when the resulting text neither is nor
+/// could become a number within the limits. There are two kinds of limits; those set last hold.
 class FRAMEWORK_EXPORT OrvikLineEdit : public QWidget {
     Q_OBJECT
 
@@ -22,9 +22,9 @@ public:
     ~OrvikLineEdit() override;
 
     int id() const;
-    /// At most so many digits before and after the decimal point; negative numbers are refused.
+    /// At most `integerDigits` digits before the decimal point and `decimals` after it; negative numbers are refused.
     void setNumericSizeLimits(unsigned int integerDigits, unsigned int decimals);
-    /// Values from `minimum` to `maximum` with at most so many decimals.
+    /// Values from `minimum` to `maximum` with at most `decimals` decimals.
     void setNumericRange(double minimum, double maximum, unsigned int decimals);
     void setTextFont(QFont font);
     /// Shows `text`, whatever the limits are; reports nothing.

@@ -21,8 +21,8 @@ public:
 
     /// Text for the point of the field's local plane (metres: x east, y north, z up); empty when there is none.
     virtual QString getPointDescription(QVector3D point) = 0;
-    /// Called after the list is installed, with the view's OpenGL context current, and again when a lost context was
-    /// made anew.
+    /// Called after the list is installed, with the view's OpenGL context current, and again after a lost context has
+    /// been replaced.
     virtual void init() = 0;
     /// The drawables; the list keeps owning them. Never null.
     virtual QList<Object3D *> *drawables() { return &objects; }

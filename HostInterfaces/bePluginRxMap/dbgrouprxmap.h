@@ -12,7 +12,8 @@ class DbGroupRxMapPrivate;
 /// One loaded prescription map, published as "rxMap.<name>".
 ///
 /// The polygon chain is the back-end's memory. It stays valid while "polygonCount" is greater than 0: a back-end sets
-/// the count to 0 before it changes or frees what "polygonBuffer" points to, and sets it last when the rest stands.
+/// the count to 0 before it changes or frees what "polygonBuffer" points to, and sets the new count last, when all else
+/// is in place.
 class BEPLUGINRXMAP_EXPORT DbGroupRxMap : public DataBrokerGroup {
     Q_OBJECT
     /// One entry per product, in product order.

@@ -13,9 +13,9 @@ template <typename Callback> void registerCallback(GLUtesselator *tessellator, G
     gluTessCallback(tessellator, which, reinterpret_cast<_GLUfuncptr>(callback));
 }
 
-/// Empties `list`. The room of a large one goes too: when such a large block is asked for again, glibc joins the small
-/// ones freed before, so that what the tessellator makes for the next polygon lies in a row. Large polygons gain much
-/// by it (docs/measurements.md); small ones would only pay.
+/// Empties `list`, and frees the memory of a large one: when such a large block is requested again, glibc joins the
+/// small ones freed before, so that what the tessellator makes for the next polygon lies close together. Large polygons
+/// gain much by it (docs/measurements.md); small ones would only pay.
 void emptyOut(QVector<RXVERT *> &list)
 {
     constexpr int maxKept = 128;
@@ -25,7 +25,7 @@ void emptyOut(QVector<RXVERT *> &list)
         list.resize(0);
 }
 
-/// For all triangles of a polygon at once. What there was goes first: at this time memory is used most.
+/// Makes room for all triangles of a polygon at once. The old room is freed first: this is when memory use is highest.
 void makeRoom(int vertices)
 {
     if (vList.capacity() >= vertices)
@@ -85,7 +85,7 @@ void PolygonTessellation::endPolygon()
     makeRoom(triangleVertices(coordList.size(), 1, contours - 1));
     gluTessEndPolygon(tessellator);
     const int start = triangles.size();
-    // Whole triangles come, unless one was given up half way.
+    // GLU emits whole triangles, unless it gave one up half way.
     const int emitted = vList.size() - vList.size() % 3;
     triangles.resize(start + emitted);
     const Vertex *from = vList.constData();

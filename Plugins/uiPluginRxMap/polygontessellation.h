@@ -12,9 +12,9 @@ class GLUtesselator;
 /// By design: the two are the same number.
 constexpr float mapHeight = -4.99F;
 
-/// Tessellates one polygon after the other with one GLU tessellator and appends their triangles to a bank.
-/// Of a tessellator no property and no normal is set: winding rule odd, normal computed. Nor is an error callback
-/// registered: a polygon that GLU gives up on is not drawn, and nothing is said.
+/// Tessellates one polygon after the other with one GLU tessellator and appends their triangles to a bank. Sets no
+/// property and no normal: GLU uses the odd winding rule and computes the normal. Registers no error callback either: a
+/// polygon that GLU gives up on is silently not drawn.
 class PolygonTessellation {
 public:
     /// Registers the callbacks with `tessellator`.

@@ -29,7 +29,7 @@ using Legends = QList<QList<RX_RATECOLOR>>;
 
 namespace {
 
-/// A hook that activates another product at every read would have the group chosen without end.
+/// Without a limit, a hook that activates another product at every read would have the group chosen forever.
 constexpr int mostRounds = 4;
 
 /// The first prescription group, in the broker's order, that maps the product of `aam`; null when there is none.
@@ -59,7 +59,7 @@ RxMap3D::RxMap3D(DataBroker *givenBroker, QObject *parent)
 
 RxMap3D::~RxMap3D()
 {
-    // Qt calls slots made of a member function to the end, also when only the QObject is left to be called.
+    // Qt calls slots that are member functions to the last, even when only the QObject part is left.
     QObject::disconnect(contextEnd);
 }
 
@@ -77,8 +77,8 @@ void RxMap3D::setAamGroup(DbGroupAAM *group)
 
 void RxMap3D::updateRxMapGroup()
 {
-    // Reading runs the host's hooks, which may delete this or activate another product: that one is chosen for then, as
-    // often as a host that comes to rest needs.
+    // Reading runs the host's hooks, which may delete this or activate another product. The group is then chosen again
+    // for that product, often enough for any host that comes to rest.
     const QPointer<RxMap3D> self(this);
     for (int round = 0; round < mostRounds; ++round) {
         const DbGroupAAM *aam = aamGroup;
@@ -226,7 +226,7 @@ void RxMap3D::draw(QMatrix4x4 mvp)
     program.enableAttributeArray("a_position");
     program.enableAttributeArray("color");
     program.setUniformValueArray("u_mvp", &mvp, 1);
-    // A copy of each bank, so that one stays whole whatever becomes of the list while it is drawn.
+    // A copy of each bank, so that it stays whole whatever happens to the list while it is drawn.
     for (int i = 0; i < vertexBanks.size(); ++i) {
         const VertexBank bank = vertexBanks.at(i);
         drawBank(bank);

@@ -42,7 +42,8 @@ public:
     /// Binds `group` (null: none) and builds the map again.
     void setDbGroup(DataBrokerGroup *group);
     /// Even-odd test of the point (x, y) against a ring of `count` vertices; half-open, so that a point on an edge
-    /// shared by two rings is inside one of them. Offered to others: hole placement decides alike by itself.
+    /// shared by two rings is inside one of them. Offered to others; hole placement decides the same with a test of its
+    /// own.
     bool isInsidePoly(OrvikTypes::RX_POLYGONVERTEX *vertices, int count, float x, float y);
     /// Appends an empty bank; valid until the list changes.
     VertexBank *addVertexBank(QString name);
@@ -73,7 +74,7 @@ private:
 
     QColor currentColor; ///< Colour of the polygon being tessellated; survives polygons and rebuilds.
     DataBroker *broker;
-    QPointer<DataBrokerGroup> rxMapGroup; ///< A host may delete it one day after it took it out.
+    QPointer<DataBrokerGroup> rxMapGroup; ///< A host may delete it some time after taking it out.
     DbGroupAAM *aamGroup = nullptr;
     QList<VertexBank> vertexBanks;
     QMetaObject::Connection contextEnd; ///< To the context that init() was called in.

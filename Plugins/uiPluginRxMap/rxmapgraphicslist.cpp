@@ -33,7 +33,8 @@ RxMapGraphicsList::RxMapGraphicsList(DataBroker *givenBroker, QObject *parent)
     DbGroupJob *job = findGroupOf<DbGroupJob>(broker, QStringLiteral("system.current.job"));
     if (job == nullptr)
         return;
-    // By design: taken up before it is followed; a product that a hook activates meanwhile is not heard.
+    // By design: the name is read before the list subscribes to it; a product that a hook activates in between goes
+    // unnoticed.
     activeAamChanged(job->getActiveAAMGroupName());
     job->connectPropertySetSlot("activeAAMGroupName", this, SLOT(activeAamChanged(QString)), Qt::UniqueConnection,
                                 true);
@@ -56,7 +57,8 @@ void RxMapGraphicsList::init()
 
 void RxMapGraphicsList::activeAamChanged(QString name)
 {
-    // Reading runs the host's hooks, which may replace this list, or activate another product: the latest one counts.
+    // Reading runs the host's hooks, which may replace this list or activate another product; the latest product
+    // counts.
     const QPointer<RxMapGraphicsList> self(this);
     DbGroupAAM *const aam = findGroupOf<DbGroupAAM>(broker, name);
     aamGroup = aam;

@@ -26,7 +26,7 @@ Settings withMaster(Settings settings, int master)
         return settings;
     settings[master].isMaster = true;
     const bool shutoff = settings.at(master).zeroRateShutoff;
-    // By design: a master that is chosen passes its shut-off to every product, one that is switched to followers alone.
+    // By design: choosing a master copies its shut-off to every product; switching it later changes only the followers.
     for (OrvikTypes::RX_SETTINGS &entry : settings)
         entry.zeroRateShutoff = shutoff;
     return settings;
@@ -35,7 +35,7 @@ Settings withMaster(Settings settings, int master)
 Settings withShutoff(Settings settings, int product, bool shutoff, bool appliesToAll)
 {
     for (int i = 0; i < settings.size(); ++i) {
-        // By design: under a master even the product that is shown changes only if it follows.
+        // By design: under a master even the product shown changes only if it follows.
         if (appliesToAll ? settings.at(i).followsMaster : i == product)
             settings[i].zeroRateShutoff = shutoff;
     }

@@ -22,7 +22,7 @@ Settings withMaster(Settings settings, int master);
 Settings withShutoff(Settings settings, int product, bool shutoff, bool appliesToAll);
 /// Milliseconds of a time typed in seconds, truncated; 0 for what is not a number.
 int lookAheadMs(const QString &seconds);
-/// What a group that holds `held` is to hold: as many entries of `working`, from `first` on, as there are; then its
+/// What a group that holds `held` is to hold: the entries of `working` from `first` on, as far as they reach, then its
 /// own.
 Mappings shareOf(const Mappings &working, int first, Mappings held);
 /// Whether the rate controllers have to start again when `settings` replace `old`: a master or a shut-off changes.

@@ -27,7 +27,7 @@ void writeBack(DataBroker *broker, const QList<QPointer<DbGroupRxMap>> groups,
     // By design: written without a token; the plug-in holds none, so a write-protected property refuses.
     int taken = 0;
     for (const QPointer<DbGroupRxMap> &group : groups) {
-        // How many of the mappings were a deleted group's nobody knows any more.
+        // Nobody knows any more how many of the mappings belonged to a deleted group.
         if (group.isNull())
             break;
         const auto held = group->getRateCalMappings();
@@ -169,7 +169,7 @@ void RxMapWidgetDialog01::readGroups()
     if (settingsGroup != nullptr)
         settings = settingsGroup->getSettings();
 
-    // Between the two looks at the groups: the host sees bins read after the settings and before the mappings.
+    // Done between the two reads of the groups: the host sees the bins read after the settings and before the mappings.
     setupSidebar();
 
     for (const QString &name : names) {
@@ -251,8 +251,8 @@ void RxMapWidgetDialog01::selectInitialProduct()
 
 void RxMapWidgetDialog01::doneButtonReleased(int)
 {
-    // A further touch may come while the first one is written, or be on its way when the dialog closes and hides the
-    // message.
+    // Another touch may arrive while the first one is being written, or be under way when the dialog closes and hides
+    // the message.
     if (result() == QDialog::Accepted)
         return;
     const QPointer<RxMapWidgetDialog01> self(this);

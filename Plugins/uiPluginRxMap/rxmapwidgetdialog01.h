@@ -27,7 +27,7 @@ class QLabel;
 ///
 /// Every access to the broker runs the host's hooks and listeners, which may delete the dialog, select another product
 /// or press Done again: members are read before it, or after a check that the dialog still lives. Only the constructor
-/// takes it that nobody reaches a dialog that is not made yet.
+/// relies on nobody reaching a dialog that is still being made.
 class RxMapWidgetDialog01 : public QDialog {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ public Q_SLOTS:
 private:
     friend class DialogProbe;
 
-    /// By which the value controls report.
+    /// The ids by which the value controls report.
     enum ControlId { ApplyToAllId = 0, LookAheadId = 1, ZeroRateShutoffId = 2, DefaultRateId = 3 };
 
     void setupWindow();
@@ -77,7 +77,7 @@ private:
     /// Locks or unlocks the controls by what the vehicle does now.
     void followVehicle();
     void showDefaultRate();
-    /// The product has a unit, but there is no converter that tells it.
+    /// The product has a unit, but there is no units converter to tell which.
     bool lacksUnits(const ProductLineItem &product) const;
     void setProductButtonLook(int index, bool selected);
     void lookAheadEdited();
@@ -105,7 +105,7 @@ private:
     QList<QPointer<DbGroupRxMap>> rxMapGroups;
     QList<OrvikTypes::RX_SETTINGS> settings;
     QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING> rateCalMappings; ///< Every group's list, in group order.
-    // By design: two of the sizes, and the large font, are read by nothing.
+    // By design: nothing reads two of the sizes and the large font.
     int titlePointSize = 0;
     int subtitlePointSize = 0;
     int captionPointSize = 0;

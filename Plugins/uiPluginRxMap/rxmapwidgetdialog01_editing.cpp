@@ -107,7 +107,7 @@ void RxMapWidgetDialog01::showDefaultRate()
     // By design: a product with a mapping is asked for its unit twice.
     for (int asked = 0; asked < (mapping < 0 ? 1 : 2); ++asked) {
         const QString caption = getDefaultRateSettings();
-        // A product that was selected meanwhile has been shown.
+        // Another product was selected meanwhile, and is shown already.
         if (!self || selectedProduct != product)
             return;
         defaultRateLabel->setText(caption);
@@ -205,7 +205,7 @@ void RxMapWidgetDialog01::setControlsEnabledState(bool enabled)
     const QPointer<RxMapWidgetDialog01> self(this);
     const int product = selectedProduct;
     const bool underVra = !rxMapGroupName(*broker, product).isEmpty();
-    // A product that was selected meanwhile has been shown.
+    // Another product was selected meanwhile, and is shown already.
     if (!self || selectedProduct != product)
         return;
     // By design: under control all eight are shown, also a rate field that was hidden for want of a node.

@@ -29,6 +29,6 @@ void tessBeginCB(unsigned int type);
 void tessVertexCB(unsigned int index);
 /// By design: makes no vertex; a polygon whose rings cross is not split at the crossings.
 void tessCombineCB(double *coords, RXVERT **vertexData, float *weight, RXVERT **outData);
-/// Registered only so that separate triangles come, never fans or strips.
+/// Registered only so that GLU emits separate triangles, never fans or strips.
 void tessEdgeCB(unsigned char flag);
 void tessEndCB();

@@ -31,5 +31,5 @@ private:
     void deleteList();
 
     QPointer<UiGraphicsList> graphicsList; ///< The list made last: there is at most one.
-    bool isDeletingList = false;           ///< Meanwhile none is made: it would go at once.
+    bool isDeletingList = false;           ///< While true no list is made: it would be deleted at once.
 };

@@ -15,8 +15,9 @@ Q_DECLARE_TYPEINFO(Vertex, Q_PRIMITIVE_TYPE);
 
 static_assert(sizeof(Vertex) == 16, "OpenGL is given a stride of 16 bytes");
 
-/// Vertices of the triangles of polygons with so many vertices, outer rings and holes: n + 2h - 2 triangles for n
-/// vertices and h holes, at most that where rings do not cross. No more than a list holds, its head left free.
+/// Number of triangle vertices for polygons with that many vertices, outer rings and holes in all: a polygon of n
+/// vertices and h holes has at most n + 2h - 2 triangles where its rings do not cross. Never more than a list can hold
+/// beside its header.
 inline int triangleVertices(qint64 vertices, qint64 outers, qint64 holes)
 {
     constexpr qint64 most = (0x7FFFFFFF - 256) / static_cast<qint64>(sizeof(Vertex));

@@ -41,7 +41,7 @@ public:
     void remove(int id);
 
 private:
-    /// What is known of everything below a node; a node without boxes left is passed over.
+    /// What is known of everything below a node; a node with no boxes left is skipped.
     struct Node {
         Box box;
         double minArea;

@@ -26,7 +26,8 @@ public:
     /// Whether any hole's area is below `limit`.
     bool anyBelow(double limit) const { return limit > minArea; }
 
-    /// In rising order, all holes that may be inside the ring, of an area below `limit`. `taken` tells which are gone.
+    /// All holes that may be inside the ring and whose area is below `limit`, in ascending order. `taken` says which
+    /// are gone.
     void collect(const OuterRing &outer, double limit, const QVector<bool> &taken, QVector<BoxEntry> &found) const
     {
         found.resize(0);

@@ -13,7 +13,7 @@ using OrvikTypes::RX_POLYGONVERTEX;
 
 namespace {
 
-/// Testing so many points edge by edge takes about as long as listing the edges.
+/// Testing this many points edge by edge takes about as long as listing the edges.
 constexpr int pointsWorthListing = 8;
 
 } // namespace
@@ -73,7 +73,7 @@ void OuterRing::listEdges()
     };
     for (int edge = 0; edge < count; ++edge)
         forEachRow(edge, [this](int row) { ++rowStart[row]; });
-    // Now where each row's edges end; the start, once all of them are in.
+    // From here on where each row's edges end; filling them in backwards turns that into their start.
     std::partial_sum(rowStart.cbegin(), rowStart.cend(), rowStart.begin());
     rowEdges.resize(rowStart.constLast());
     for (int edge = 0; edge < count; ++edge)

@@ -18,7 +18,7 @@ Box emptyBox()
     return {infinity, infinity, -infinity, -infinity};
 }
 
-// Volatile, since a compiler may take the two conversions for none: g++ 12 does where it makes a vector of x and y.
+// Volatile, since a compiler may drop the two conversions: g++ 12 does where it puts x and y into one vector.
 double narrowed(double coordinate)
 {
     const volatile float narrow = static_cast<float>(coordinate);

@@ -8,7 +8,7 @@ using OrvikTypes::RX_POLYGON;
 
 namespace {
 
-/// No list holds more pointers, nor memory that many records; a chain that runs in a circle would go on.
+/// No list can hold more pointers, nor memory that many records; without a limit a circular chain would never end.
 constexpr unsigned int maxRings = 0x7FFFFF00U / sizeof(RX_POLYGON *);
 
 } // namespace

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
-/// Coordinates up to the one cannot overflow in the edge arithmetic; heights from the other on lose less to underflow
-/// than crossingMargin() allows for.
+/// Coordinates up to `maxOrdinary` cannot overflow in the edge arithmetic; heights from `minOrdinary` on lose less to
+/// underflow than crossingMargin() allows for.
 constexpr double maxOrdinary = 1e100;
 constexpr double minOrdinary = 1e-180;
 
@@ -25,7 +25,7 @@ inline double crossingMargin(double leftmost, double rightmost)
         + 1.0 / maxOrdinary;
 }
 
-/// Vertices of a ring; none for a ring without a vertex array or with more than an int counts.
+/// Number of a ring's vertices; 0 for a ring without a vertex array, or with more vertices than an int can count.
 inline int vertexCount(const OrvikTypes::RX_POLYGON &ring)
 {
     const bool isPossible = ring.vertices != nullptr && ring.vertexCount <= 0x7FFFFFFFU;
@@ -59,15 +59,15 @@ inline bool isInsideRing(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count
     return inside;
 }
 
-/// As edgeToggles(), for an edge of ordinary vertices: where no number is missing, one comparison an end tells whether
-/// it spans the height.
+/// As edgeToggles(), for an edge of ordinary vertices: without NaN, one comparison for each end tells whether it spans
+/// the height.
 inline bool ordinaryEdgeToggles(const OrvikTypes::RX_POLYGONVERTEX &j, const OrvikTypes::RX_POLYGONVERTEX &i, double x,
                                 double y)
 {
     return (i.y <= y) != (j.y <= y) && edgeCrossing(j, i, y) > x;
 }
 
-/// As isInsideRing(), faster, for a ring of ordinary vertices.
+/// As isInsideRing() but faster, for a ring of ordinary vertices.
 inline bool isInsideOrdinaryRing(const OrvikTypes::RX_POLYGONVERTEX *vertices, int count, double x, double y)
 {
     bool inside = false;
