@@ -18,7 +18,7 @@ namespace {
 
 struct Entry {
     QString name;
-    /// Guarded against a creator that deletes its group after all.
+    /// Guarded, because a creator may delete its group after all.
     QPointer<DataBrokerGroup> group;
     bool isRemoved = false;
 };

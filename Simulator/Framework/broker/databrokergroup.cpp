@@ -113,7 +113,7 @@ void DataBrokerGroup::propertySet(DataBrokerGroup *group, const char *property)
     if (signalIndex < 0)
         return;
     const QMetaMethod signal = group->metaObject()->method(signalIndex);
-    // Reading the value runs the property's hooks, so it is read only for somebody.
+    // Reading the value runs the property's hooks, so it is read only when somebody listens.
     if (!group->isSignalConnected(signal))
         return;
     const QVariant value = group->metaObject()->property(index).read(group);

@@ -2,8 +2,8 @@
 
 namespace {
 
-// What plug-ins compile against: the interface of Framework/uiplugininterface.h and the groups and properties of the
-// Framework/dbgroup*.h headers.
+// Versions of what plug-ins compile against: the interface of Framework/uiplugininterface.h and the groups and
+// properties of the Framework/dbgroup*.h headers.
 constexpr unsigned long interfaceMajor = 4;
 constexpr unsigned long interfaceMinor = 0;
 constexpr unsigned long dbMajor = 1;

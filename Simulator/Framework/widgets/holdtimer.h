@@ -3,15 +3,14 @@
 #include <QObject>
 #include <QTimer>
 
-/// Tells a touch how long the finger has stayed. It goes by the time as it passes; tests put a time of their own in its
-/// place.
+/// Tells a touch how long the finger has stayed. It goes by real time; tests put a time of their own in its place.
 class HoldTimer : public QObject {
     Q_OBJECT
 
 public:
     HoldTimer();
 
-    /// timeout() follows once after so many milliseconds, counted anew from now.
+    /// timeout() follows once, that many milliseconds from now; a count in progress starts over.
     virtual void start(int milliseconds);
     virtual void stop();
 

@@ -145,7 +145,7 @@ NumericEntry::Refusal NumericEntry::check(const QString &candidate) const
     return isWithin ? Refusal::None : Refusal::OutOfRange;
 }
 
-/// Whether a whole number, as it stands or with further digits and decimals typed after it, comes to lie in the range.
+/// Whether a whole number lies in the range, as it stands or with further digits and decimals typed after it.
 bool NumericEntry::canReachRange(double magnitude, double smallest, double largest) const
 {
     const double maxDecimals = 1.0 - std::pow(10.0, -int(decimalLimit));

@@ -4,8 +4,8 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// The text of a numeric field and the keystrokes that may change it. Knows no widget.
-/// A keystroke is refused when the text after it could not stand for, or grow into, a number within the limits.
+/// The text of a numeric field and the keystrokes that may change it. Knows no widget. A keystroke is refused when the
+/// resulting text neither is nor could become a number within the limits.
 class NumericEntry {
     Q_DECLARE_TR_FUNCTIONS(NumericEntry)
 
@@ -13,9 +13,10 @@ public:
     /// Why a keystroke is not taken.
     enum class Refusal { None, NoNumber, NoDecimals, TooManyDecimals, OutOfRange };
 
-    /// At most so many digits before and after the point, no negative numbers. Replaces earlier limits.
+    /// At most `integerDigits` digits before the point and `decimals` after it, no negative numbers. Replaces earlier
+    /// limits.
     void setSizeLimits(unsigned int integerDigits, unsigned int decimals);
-    /// Numbers from `minimum` to `maximum` with at most so many decimals. Replaces earlier limits.
+    /// Numbers from `minimum` to `maximum` with at most `decimals` decimals. Replaces earlier limits.
     void setRange(double minimum, double maximum, unsigned int decimals);
     /// The smallest and the largest number, as "0 – 5000"; empty where there are no limits.
     QString limitsText() const;
@@ -30,15 +31,15 @@ public:
     /// Whether the next keystroke replaces the text.
     bool startsOver() const;
 
-    /// What type() would refuse the character for.
+    /// The reason for which type() would refuse the character.
     Refusal refusalOf(QChar character) const;
     /// The reason as the operator reads it; empty for none.
     QString refusalText(Refusal refusal) const;
-    /// A digit, the point or the minus. Whether the text is another one now; it is not when the key is refused.
+    /// Types a digit, the point or the minus. True when that changed the text; a refused key changes nothing.
     bool type(QChar character);
-    /// Takes the last character away, or the whole text when it is to be replaced. Whether the text is another one now.
+    /// Removes the last character, or the whole text when it is to be replaced. True when that changed the text.
     bool eraseLast();
-    /// Takes the whole text away. Whether the text is another one now.
+    /// Removes the whole text. True when that changed it.
     bool clear();
 
 private:

@@ -125,7 +125,7 @@ void NumericKeypad::open()
 
 QRect NumericKeypad::displayAround(const QPoint &place) const
 {
-    // A host whose display is only a part of the screen says so of each window.
+    // A host whose display is only part of the screen sets this property on each window.
     const QRect part = parentWidget()->window()->property("displayArea").toRect();
     if (!part.isEmpty())
         return part;
@@ -179,7 +179,7 @@ void NumericKeypad::paintEvent(QPaintEvent *)
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, text);
 }
 
-/// The limits, or why the last key was not taken, on two lines where one is too short; so wide it is.
+/// Paints the limits, or why the last key was not taken, on two lines where one is too short. Returns the width used.
 int NumericKeypad::paintRemark(QPainter &painter, const QRect &room) const
 {
     const QString remark = refusal.isEmpty() ? limitsText : refusal;

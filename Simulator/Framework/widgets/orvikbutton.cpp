@@ -32,10 +32,10 @@ QFont scaled(QFont font, qreal share)
     return font;
 }
 
-/// The font, made smaller step by step, as far as it stays readable, until the text fits the width.
+/// The font, made smaller step by step until the text fits the width, as long as it stays readable.
 QFont fittedFont(const QFont &font, const QString &text, qreal width)
 {
-    // Versions of a font differ in their pairs: what fits would fit on some machines only.
+    // Versions of a font differ in their kerning: with it, what fits on one machine would not fit on another.
     QFont unpaired = font;
     unpaired.setKerning(false);
     QFont fitted = unpaired;

@@ -20,7 +20,7 @@
 namespace {
 
 const QSize sizeWithoutImage(182, 56);
-// The field's image stands off from the caption that ends at its left edge.
+// Keeps the field's image apart from the caption that ends at its left edge.
 const QMargins imageEdge(6, 0, 0, 0);
 constexpr int textMargin = 12; // pixels on either side
 constexpr int ringWidth = 4;
@@ -144,7 +144,7 @@ OrvikLineEdit::OrvikLineEdit(int id, QDir imageDir, QPoint position, QWidget *pa
     d->imageDir = imageDir;
     d->background = SharpImage(imageDir.filePath(QStringLiteral("lineEditBg.png")));
     setGeometry(QRect(position, d->background.isNull() ? sizeWithoutImage : d->background.size()));
-    // Not by tabulator: a dialog would give the keyboard to its first field when it opens.
+    // Not by the Tab key: a dialog would otherwise give the keyboard to its first field when it opens.
     setFocusPolicy(Qt::ClickFocus);
     connect(&d->touch, &TouchPress::lookChanged, this, [this] { update(); });
     connect(&d->touch, &TouchPress::released, this, [this] { d->openKeypad(); });

@@ -5,9 +5,9 @@
 
 class QPainter;
 
-/// An image of the image folder. Where a drawing is enlarged, as on a screen with more pixels than the terminal's, the
-/// finer one is drawn that lies beside it with "@2x" behind its name; without that one, or at its own size, the image
-/// itself. By its size it is always the image itself.
+/// An image of the image folder. Where drawing enlarges it, as on a screen with more pixels than the terminal's, the
+/// finer image beside it with "@2x" behind its name is drawn, if there is one; otherwise the image itself. Its size is
+/// always that of the image itself.
 class SharpImage {
 public:
     /// Null when the file cannot be loaded.
