@@ -76,8 +76,9 @@ bool isSame(const Product &one, const Product &other)
     return one.name == other.name && one.kind == other.kind;
 }
 
-/// The default rates of new products, of which there are never fewer than before. One that is what it was keeps the
-/// rate in use where that is neither what it was made with nor what a file gave since: the operator set it.
+/// The default rates of new products, of which there are never fewer than before. A product that stays the same keeps
+/// the rate in use if the operator set it: if that is neither the rate that the product was made with nor one that a
+/// file gave since.
 QList<double> ratesToUse(const Products &products, const Products &before, const QList<double> &ratesInUse)
 {
     QList<double> rates;
@@ -150,7 +151,7 @@ void Machine::noteGivenRates(const LoadReport &report)
 {
     for (const RateSource &source : report.sources) {
         const double given = source.placeRates.defaultRate();
-        // Whoever loads may name products that there are not.
+        // A request may name products that the machine does not have.
         if (report.isOk() && !std::isnan(given) && source.product <= allProducts.size())
             allProducts[source.product - 1].defaultRate = given;
     }
@@ -200,7 +201,7 @@ void Machine::offerProducts(LoadRequest &request) const
 
 Machine::ProductMaker Machine::maker() const
 {
-    // Called in another thread, which may not ask the broker.
+    // What is returned runs in the loading thread, which may not ask the broker.
     const auto *converter =
         qobject_cast<DbGroupQmlUnitsConverter *>(broker->getGroup(QStringLiteral("QmlUnitsConverter"), false));
     const QMap<DbGroupProductGroupInfo::RateKind, double> factors{

@@ -32,17 +32,18 @@ public:
     Machine(DataBroker *broker, PrescriptionBackend *backend, const Products &products, UnitSystem units,
             QObject *parent = nullptr);
 
-    /// The first prescription that is loaded from now on tells the products; those that there are stand in for them.
+    /// The next prescription loaded defines the products; until then the present ones are placeholders.
     void leaveProductsOpen();
-    /// While a map is loaded, the next one does not.
+    /// Ends that if a map is loaded: the next prescription then defines no products.
     void settleProducts();
-    /// Says when products that the operator is offered stay as they are whatever a prescription brings.
+    /// `condition` says when an offer (offerProducts()) leaves the products as they are, whatever a prescription
+    /// brings.
     void keepProductsWhile(const std::function<bool()> &condition) { keepsProducts = condition; }
-    /// Says for which products a prescription is to be loaded: the machine's, or those that are made from its columns
-    /// while they are open.
+    /// Enters the products that a prescription is to be loaded for: the machine's, or those made from its columns while
+    /// the products are open.
     void enterProducts(LoadRequest &request) const;
-    /// The same for an operator who sees beforehand what comes of it, where the machine takes its products from
-    /// prescriptions: one that takes over all products in use on its plane brings its own, as the first one did.
+    /// The same for an operator who sees the result beforehand. Where the machine takes its products from
+    /// prescriptions, a file that takes over all products in use on its plane brings its own, as the first one did.
     void offerProducts(LoadRequest &request) const;
     /// The products of a file that was looked at: made from its columns, or the machine's where there are none.
     Products productsFor(const QList<ColumnProduct> &columns) const;
@@ -70,14 +71,14 @@ public:
     PrescriptionBackend *backend() const { return prescriptions; }
 
 Q_SIGNALS:
-    /// There may be more of them than before, never fewer.
+    /// There may be more products than before, never fewer.
     void productsChanged();
     void activeProductChanged(int number);
     /// A prescription map came, went or changed.
     void mapsChanged();
 
 private:
-    /// What the broker shows of a product. The broker's.
+    /// What the broker shows of a product. Owned by the broker.
     struct ProductGroups {
         DbGroupProductGroupInfo *info;
         DbGroupSingleProductNode *node;
@@ -86,16 +87,16 @@ private:
 
     using ProductMaker = std::function<QList<MachineProduct>(const QList<ColumnProduct> &)>;
 
-    /// Makes products of a file's columns, see LoadRequest.
+    /// Makes products from a file's columns, see LoadRequest.
     ProductMaker maker() const;
     /// The default rates in use, which the operator or a file may have changed, by product.
     QList<double> ratesInUse() const;
     void useRates(const QList<double> &rates);
-    /// What a file gives is in use then, and not what the operator set.
+    /// Notes that the default rates that a file gave are now in use, not ones that the operator set.
     void noteGivenRates(const LoadReport &report);
     void publishTerminal();
     void publishProduct(int number);
-    /// Makes the groups of a product what it is.
+    /// Writes what the product is into its groups.
     void describeProduct(int number);
     void listProducts();
     void takeProducts(const QList<ColumnProduct> &columns);

@@ -15,7 +15,7 @@ namespace {
 /// alone.
 constexpr int movingInterval = Simulation::stepMs / 2;
 constexpr int restingInterval = 1000;
-/// By then what the machine has metered has ended, too.
+/// By then metering has come to rest, too.
 constexpr int stepsUntilRest = 100;
 
 } // namespace
@@ -31,7 +31,7 @@ Simulation::Simulation(Machine *machine, const SimulationClock *givenWall, QObje
     takeProducts();
     connect(machine, &Machine::productsChanged, this, &Simulation::takeProducts);
     connect(machine, &Machine::mapsChanged, this, &Simulation::takeLimits);
-    // At once, so that nobody sees commands of a map that is gone.
+    // At once, so that nobody sees commands from a map that is gone.
     connect(machine, &Machine::mapsChanged, this, &Simulation::updateCommands);
     updateCommands();
     if (wall == nullptr)
@@ -65,7 +65,8 @@ bool Simulation::setTimeFactor(double newFactor)
     if (!(newFactor >= 0.0) || newFactor > maxTimeFactor)
         return false;
     wake();
-    // What has passed since the last step passes unseen, so that a simulation that is paused at once begins at zero.
+    // Time since the clock was last looked at is not counted, so that a simulation that is paused right away begins at
+    // zero.
     if (wall != nullptr)
         lastWall = wall->now();
     factor = newFactor;
@@ -123,7 +124,7 @@ void Simulation::catchUp()
 {
     if (wall == nullptr)
         return;
-    // What a terminal that was busy for long has missed is not made up for.
+    // A terminal that was busy for long does not make up for all that it missed.
     constexpr qint64 maxMissed = 2000;
     constexpr qint64 maxBusy = 50;
     const qint64 now = wall->now();

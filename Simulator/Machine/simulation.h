@@ -62,8 +62,8 @@ public:
     void step();
     /// Lets that time pass at once, in whole steps; what is left over counts to the next.
     void run(double seconds);
-    /// Lets the time pass that has passed on the wall, or as much of it as can be driven in a twentieth of a second: a
-    /// factor that the computer cannot keep up with is a smaller one in effect.
+    /// Lets as much time pass as has passed on the wall's clock, or as much of it as can be driven in a twentieth of a
+    /// second: a factor that the computer cannot keep up with has the effect of a smaller one.
     void catchUp();
 
 Q_SIGNALS:
@@ -79,10 +79,10 @@ private:
     };
 
     void takeProducts();
-    /// Products that are called as before may have other limits with another map.
+    /// With another map, products of the same name may have other limits.
     void takeLimits();
     void updateCommands();
-    /// Looks at the wall's clock as often as a machine wants that moves.
+    /// Looks at the wall's clock as often as a moving machine needs.
     void wake();
 
     Machine *machineModel;
@@ -92,7 +92,7 @@ private:
     QTimer *timer = nullptr; ///< Null without `wall`.
     int standingSteps = 0;   ///< Since the vehicle moved last.
     double factor = 1.0;
-    /// Milliseconds that are to pass and make no step yet.
+    /// Milliseconds still to pass, too few for a step.
     double due = 0.0;
     double worked = 0.0;
     Pose lastStart;

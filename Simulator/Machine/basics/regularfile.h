@@ -4,8 +4,8 @@
 
 class QFile;
 
-/// Why `path` is no file whose content can be read to its end; empty when it is one. A pipe or device is none: it may
-/// have no end, or nobody who writes it.
+/// Why `path` is not a file that can be read to its end; empty when it is one. A pipe or device is not: it may have no
+/// end, or nobody writing to it.
 QString regularFileProblem(const QString &path);
 /// Opens a file to be written, unbuffered; empty, or the reason when it cannot be. A pipe that nobody reads cannot:
 /// opening it would wait for a reader.

@@ -28,7 +28,7 @@ double Actuator::settle(double towards, double seconds)
 
 double Actuator::step(const RateCommand &command, double seconds)
 {
-    // Rounding must not make a whole number of steps one more.
+    // Rounding must not take a whole number of steps for one less.
     const double delay = std::floor(settings.deadTime / seconds + 1e-9);
     const double within = std::max(0.0, settings.deadTime - delay * seconds);
     const auto whole = static_cast<size_t>(delay);

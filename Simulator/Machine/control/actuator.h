@@ -14,11 +14,11 @@ public:
     {
     }
 
-    /// What it can do from the next step on.
+    /// Limits that hold from the next step on, base units.
     void setLimits(double minRate, double maxRate);
     /// The rate that the command stands for in the end, base units.
     double target(const RateCommand &command) const;
-    /// Lets `seconds` (above 0, at every call the same) pass under that command; the mean rate meanwhile.
+    /// Lets `seconds` (above 0, the same at every call) pass under `command`; returns the mean rate meanwhile.
     double step(const RateCommand &command, double seconds);
     /// The rate now, base units.
     double applied() const { return rate; }

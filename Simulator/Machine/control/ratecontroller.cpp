@@ -83,7 +83,7 @@ std::optional<double> RateController::prescribedRate(const Channel &channel, con
         known.push_back(same != former.end() ? *same : Answer{channel.map, place, channel.map->getRatesAtXYZ()});
         answer = known.end() - 1;
     }
-    // "ratesAtXYZValid" speaks for the active product; each other one's entry is no number where it has no rate.
+    // "ratesAtXYZValid" speaks for the active product only; another product without a rate has NaN as its entry.
     const bool hasRate = channel.mapping < answer->rates.size() && !std::isnan(answer->rates.at(channel.mapping));
     return hasRate ? std::optional<double>(double(answer->rates.at(channel.mapping))) : std::nullopt;
 }
@@ -105,7 +105,7 @@ void RateController::update(const VehicleFix &fix)
         lastFix = fix;
         lastPositionTime = fix.time;
     }
-    // Both keep their room from step to step.
+    // Swapped, so that both keep their memory from step to step.
     std::swap(answers, formerAnswers);
     answers.clear();
     const QPointF forward = lastFix.pose.forward();
@@ -114,7 +114,7 @@ void RateController::update(const VehicleFix &fix)
         Channel &channel = channels[i];
         RateSituation now = situation(int(i));
         now.isStopped = fix.speed == 0.0;
-        // Times are sums of steps.
+        // Times are sums of steps, hence the tolerance.
         now.hasPosition = fix.time - lastPositionTime <= positionHolds + 1e-6;
         if (now.isControlled && now.hasPosition) {
             const double ahead = lastFix.speed * double(all.value(int(i)).onLookAheadMs) / 1000.0;

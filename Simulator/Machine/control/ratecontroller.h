@@ -27,7 +27,7 @@ struct VehicleFix {
 };
 
 /// The machine's rate controller: asks the prescription for the rate where each product's implement will be after the
-/// product's look-ahead time, straight on at the machine's speed, and makes a command of it.
+/// product's look-ahead time, straight on at the machine's speed, and turns the answer into a command.
 ///
 /// Look-ahead and default rates are taken from the broker and the loaders at every update. The zero-rate shut-off is
 /// that of the first update after a map came, and is taken anew when "reInit" of "quillSpan" is set; so is the
@@ -70,7 +70,7 @@ private:
         QList<float> rates;
     };
 
-    /// For the products that have none yet.
+    /// Adds a channel for each product that has none yet.
     void addChannels();
     void findMaps();
     void takeFlags();
@@ -83,9 +83,9 @@ private:
 
     Machine *machine;
     std::vector<Channel> channels;
-    /// The dialog writes the settings to this one.
+    /// The group that the dialog writes the settings to.
     QPointer<DbGroupRxMap> settingsGroup;
-    /// Of the last update: a machine that stands asks nothing anew.
+    /// The answers of the last update: a machine that stands does not ask again.
     std::vector<Answer> answers;
     /// Of the one before.
     std::vector<Answer> formerAnswers;

@@ -27,12 +27,12 @@ struct ActiveMap {
     /// Colour of the legend class that holds `rate` (base units); invalid without a legend, and where there is no rate.
     QColor classColor(double rate) const;
 
-    /// Colour of a rate as a machine applied it, which comes near the prescribed one without ever meeting it: where
-    /// each class holds one single rate that of the nearest, else that of the class that holds all but a hundredth of
-    /// it; unplannedColor() half or more beyond all of them.
+    /// Colour of an applied rate, which comes near the prescribed one but hardly ever equals it. Where each class holds
+    /// a single rate, the colour of the nearest class; else that of the class that holds the rate less a hundredth.
+    /// unplannedColor() when the rate is more than half beyond all classes.
     QColor appliedColor(double rate, bool hasSingleRates) const;
 
-    /// Ground that got what no class stands for; in no legend.
+    /// For ground that got a rate that no class stands for; in no legend.
     static QColor unplannedColor() { return QColor(0x88, 0x88, 0x88); }
 
     /// The first published map with a mapping for that rate channel.

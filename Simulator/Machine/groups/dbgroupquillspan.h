@@ -2,12 +2,12 @@
 
 #include "Framework/groupproperty.h"
 
-/// The rate controller's span of rows, published as "quillSpan". It only counts what it is asked for.
+/// The rate controller's span of rows, published as "quillSpan". It only counts the requests.
 class DbGroupQuillSpan : public DataBrokerGroup {
     Q_OBJECT
     /// Setting true asks the controller to initialise itself again.
     ORVIK_GROUP_PROPERTY(bool, reInit, ReInit)
-    /// How often that was asked for.
+    /// How often that was requested.
     ORVIK_GROUP_PROPERTY(int, reInitCount, ReInitCount)
 
 public:

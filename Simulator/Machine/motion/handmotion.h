@@ -2,7 +2,7 @@
 
 #include "motion.h"
 
-/// As the wheel is turned.
+/// Moves as the wheel is turned.
 class HandMotion : public Motion {
 public:
     /// Per metre, positive to the right.

@@ -14,7 +14,7 @@ struct MotionState {
     double speed = 0.0;
     /// The implement is down and moves.
     bool isWorking = false;
-    /// There is a position to be had.
+    /// The receiver has a position.
     bool hasFix = true;
     /// The way is at its end.
     bool isOver = false;
@@ -29,7 +29,7 @@ public:
     /// As scripts name it.
     static QString modeName(Mode mode);
     virtual Mode mode() const = 0;
-    /// Takes a new wanted speed (metres per second) at once, where the way of moving knows no ramp.
+    /// Takes a newly wanted speed (metres per second) at once, where this way of moving has no ramp.
     virtual void want(MotionState &, double) { }
     /// Moves on by `seconds` at the wanted speed or towards it.
     virtual void advance(MotionState &state, double seconds, double wanted, const SpeedRamp &ramp) = 0;

@@ -3,7 +3,7 @@
 #include "drivepath.h"
 #include "motion.h"
 
-/// Along a path, stopping at its end.
+/// Moves along a path and stops at its end.
 class PathMotion : public Motion {
 public:
     explicit PathMotion(DrivePath givenPath)

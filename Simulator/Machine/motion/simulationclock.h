@@ -2,7 +2,7 @@
 
 #include <QElapsedTimer>
 
-/// What the vehicle takes for the time.
+/// The clock that the vehicle moves by.
 class SimulationClock {
 public:
     virtual ~SimulationClock() = default;
@@ -10,7 +10,7 @@ public:
     virtual qint64 now() const = 0;
 };
 
-/// Time as it passes.
+/// Real time.
 class RealClock : public SimulationClock {
 public:
     RealClock() { timer.start(); }

@@ -14,7 +14,7 @@ double SpeedRamp::advance(double &speed, double wanted, double seconds) const
 
 double SpeedRamp::speedToStopWithin(double distance, double speed, double seconds) const
 {
-    // The step's own way, at the mean of both speeds, and the way of braking after it make up the distance.
+    // The distance is what the step drives, at the mean of both speeds, plus what braking takes after it.
     const double left = distance - 0.5 * speed * seconds;
     if (left <= 0.0)
         return 0.0;

@@ -37,7 +37,7 @@ void TrackMotion::place(MotionState &state) const
     if (from.heading)
         state.pose.heading = *from.heading;
     if (goesOn && from.hasFix && to.hasFix && to.time > from.time) {
-        constexpr double noMove = 0.02; // Metres; less says nothing about where the machine looks.
+        constexpr double noMove = 0.02; // Metres; a shorter move does not tell which way the machine faces.
         const QPointF way = to.place - from.place;
         const double length = std::hypot(way.x(), way.y());
         antenna += (time - from.time) / (to.time - from.time) * way;

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-/// As a recorded track went, straight on between its entries; it stands still while no speed is wanted.
+/// Moves as a recorded track did, straight on between its entries; it stands still while no speed is wanted.
 class TrackMotion : public Motion {
 public:
     /// `antennaOffset`: metres by which the antenna, whose track it is, stands before the implement.

@@ -116,7 +116,7 @@ void Vehicle::publish()
         if (solution->getHeading() != heading())
             solution->internalSetHeading(heading());
     }
-    // A write costs more than a look, and these seldom change.
+    // Writing costs more than comparing, and these values seldom change.
     const double speed = std::fabs(state.speed);
     if (solution->getSpeed() != speed)
         solution->internalSetSpeed(speed);

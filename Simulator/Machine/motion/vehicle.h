@@ -32,8 +32,8 @@ public:
     void setSize(const MachineSize &newSize) { machineSize = newSize; }
     const MachineSize &size() const { return machineSize; }
 
-    /// Where it shuttles; puts a standing vehicle that does so at the middle of the area's south border (metres of the
-    /// local plane).
+    /// Sets the area in which it shuttles (metres of the local plane); a vehicle that stands and shuttles is put at the
+    /// middle of its south border.
     void setArea(const QRectF &area);
     void shuttle();
     /// Goes to the beginning of the path, to drive along it.
@@ -49,7 +49,7 @@ public:
     /// acceleration; a track has speeds of its own, and only waits while the speed is 0.
     bool drive(double metresPerSecond);
     void stop();
-    /// What drive() was told last.
+    /// The speed that drive() was last given.
     double wantedSpeed() const { return wanted; }
     /// Moves the vehicle by the time that has passed on the clock.
     void advance();
@@ -57,17 +57,17 @@ public:
     /// Loses or finds the position signal.
     void setSignal(bool isThere);
     bool hasSignal() const { return signalIsThere; }
-    /// There is a position now.
+    /// Whether there is a position now.
     bool hasPosition() const { return signalIsThere && state.hasFix; }
 
     Motion::Mode mode() const { return motion->mode(); }
-    /// The way that it follows is at its end.
+    /// Whether the way that it follows is at its end.
     bool isOver() const { return state.isOver; }
     bool isWorking() const { return state.isWorking; }
     bool isStopped() const { return state.speed == 0.0; }
     /// Metres per second; below 0 backwards.
     double currentSpeed() const { return state.speed; }
-    /// The implement's middle and where the machine looks.
+    /// The implement's middle and the machine's heading.
     const Pose &pose() const { return state.pose; }
     QPointF position() const { return state.pose.place; }
     /// Degrees clockwise from north.

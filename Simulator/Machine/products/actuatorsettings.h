@@ -4,9 +4,9 @@
 struct ActuatorSettings {
     /// Seconds until a new command begins to act.
     double deadTime = 0.0;
-    /// Seconds in which it then comes within 37 % of it.
+    /// Seconds after which 37 % of the change is still to come (time constant of a first-order lag).
     double timeConstant = 0.0;
-    /// What it can do while it is on, base units.
+    /// What it can meter while it is on, base units.
     double minRate = 0.0;
     double maxRate = 0.0;
 };

@@ -28,7 +28,7 @@ const QMap<QString, Product::Kind> &kinds()
 }
 
 constexpr double longestTime = 60.0; // Seconds.
-/// Base units: what any machine can bring out, and single precision and the dialog can hold.
+/// Base units: no machine puts out more, and single precision and the dialog can still hold it.
 constexpr double greatestRate = 1.0e6;
 
 const QMap<QString, double ActuatorSettings::*> &actuatorFields()
@@ -106,7 +106,7 @@ QString readValue(const QString &key, const QJsonValue &value, Product &product)
     return {};
 }
 
-/// What the file leaves open is usual for the kind; the reason when the rates contradict each other.
+/// Fills in what the file leaves open with what is usual for the kind; the reason when the rates contradict each other.
 QString completeActuator(Product &product)
 {
     const ActuatorSettings usual = Product::usualActuator(product.kind);

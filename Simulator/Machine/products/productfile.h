@@ -10,7 +10,7 @@
 struct MachineSetup {
     MachineSize size;
     Products products;
-    /// The products stand in until the first prescription is opened, which tells others.
+    /// The products are placeholders until the first prescription is opened, which brings its own.
     bool takesProductsFromFile = false;
 };
 

@@ -19,7 +19,7 @@ Product::Kind kindOf(const ColumnProduct &column)
     }
 }
 
-/// Limits that the rate over `reach` and times it lie within.
+/// The limits, widened where needed to hold the rate divided by `reach` and multiplied by it.
 ActuatorSettings reaching(ActuatorSettings actuator, double rate, double reach)
 {
     if (rate > 0.0) {
@@ -29,7 +29,7 @@ ActuatorSettings reaching(ActuatorSettings actuator, double rate, double reach)
     return actuator;
 }
 
-/// The standard product of the column's kind under the column's name, for such rates as the column has.
+/// The standard product of the column's kind, with the column's name and limits that suit its rates.
 Product productOf(const ColumnProduct &column)
 {
     const Products standard = ProductFile::standard();
@@ -45,7 +45,7 @@ Product productOf(const ColumnProduct &column)
     return product;
 }
 
-/// The standard products that no column stands for, those of other kinds than the columns' first.
+/// The standard products that no column is named after, first those of a kind that no column has.
 Products spareProducts(const QList<ColumnProduct> &columns)
 {
     Products spare = ProductFile::standard();

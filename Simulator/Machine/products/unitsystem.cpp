@@ -10,7 +10,7 @@ struct UnitTexts {
     const char *comment[3];
 };
 
-// The comments tell translators apart what the abbreviations stand for.
+// The comments tell translators what each abbreviation stands for.
 constexpr UnitTexts unitTexts[] = {
     {Product::Kind::Count,
      {"k/ac", "k/ha", "k/tu"},

@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-/// A record as comma-separated values, one row a step.
+/// A record as comma-separated values, one row per step.
 class CsvRecord : public RecordWriter {
 public:
     /// Null, with the reason in `error`, when the file cannot be written.

@@ -15,7 +15,7 @@ namespace {
 constexpr int fixedFields = 5;
 constexpr int fieldsOfProduct = 4;
 
-/// How GDAL is to work while one lives: its own remarks stay off the terminal, what failed shows in results.
+/// Sets how GDAL works while it lives: GDAL prints nothing, and failures show in results.
 class QuietGdal {
 public:
     QuietGdal() { CPLPushErrorHandler(CPLQuietErrorHandler); }
@@ -79,7 +79,7 @@ QString GeoPackageRecord::begin(int products, const QPointF &origin)
     if (QFile::exists(path) && !QFile::remove(path))
         return QStringLiteral("it is there and cannot be replaced");
     GDALDriver *driver = GetGDALDriverManager()->GetDriverByName("GPKG");
-    // GDAL's table of counts would hold what a full disk took back.
+    // GDAL's table of counts would still count features that were taken back when the disk was full.
     CPLStringList options;
     options.SetNameValue("ADD_GPKG_OGR_CONTENTS", "NO");
     file = driver != nullptr ? driver->Create(QFile::encodeName(path).constData(), 0, 0, 0, GDT_Unknown, options.List())

@@ -16,10 +16,10 @@ public:
 
     /// What is written of the last step.
     static RecordEntry entryOf(const Simulation &simulation);
-    /// Starts a record (see RecordWriter::open) in place of the one that is being written. The reason when it cannot,
-    /// and what was being written goes on.
+    /// Starts a record (see RecordWriter::open) in place of the one being written. When it cannot, returns the reason,
+    /// and the present record goes on.
     QString start(const QString &path, const QPointF &origin);
-    /// Ends the record; why it had ended before, empty when all is written.
+    /// Ends the record. Returns why it had ended earlier; empty when all is written.
     QString stop();
     bool isRecording() const { return writer != nullptr && writer->error().isEmpty(); }
 

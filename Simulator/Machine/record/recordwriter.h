@@ -13,13 +13,13 @@ class RecordWriter {
 public:
     virtual ~RecordWriter() = default;
 
-    /// A .csv or .gpkg for so many products, in place of a file of that name; `origin` (degrees) is where the local
-    /// plane touches the earth. The reason when it cannot be written.
+    /// Opens a .csv or .gpkg for that many products, replacing a file of that name; `origin` (degrees) is where the
+    /// local plane touches the earth. The reason when it cannot be written.
     static Result<std::shared_ptr<RecordWriter>> open(const QString &path, int products, const QPointF &origin);
 
-    /// Adds a step. After a failure nothing is written any more.
+    /// Adds a step. Nothing more is written after a failure.
     void write(const RecordEntry &entry);
-    /// Writes what is still held back; nothing can be written after.
+    /// Writes what is still held back; nothing can be written afterwards.
     void finish();
     /// Why writing ended before its time, one line with the file's name; empty while all is well.
     QString error() const { return problem; }

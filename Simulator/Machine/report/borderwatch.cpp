@@ -48,7 +48,7 @@ void BorderWatch::step(double time, double way, double mean)
 
 void BorderWatch::border(double time, double way, const QPointF &place, double newTarget)
 {
-    // Two borders are settled by the middle between them as soon as the step is there.
+    // step() settles a border once it has been passed for long enough.
     borders.push_back({time, way, place, target, newTarget});
     target = newTarget;
 }

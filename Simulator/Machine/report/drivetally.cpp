@@ -73,7 +73,7 @@ void DriveTally::count()
     const double length = std::hypot(moved.x(), moved.y());
     lastTime = simulation->seconds();
     if (vehicle.isWorking()) {
-        // A swath begins on the field's edge, which is no change of rate.
+        // A swath begins at the field's edge, which is not a change of rate.
         if (wasWorking)
             countBorders(before, place, length);
         else

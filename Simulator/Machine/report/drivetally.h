@@ -45,7 +45,7 @@ public:
     /// `simulation` is not owned and outlives the tally. It counts from now on.
     explicit DriveTally(Simulation *simulation, Ground ground = Ground::Counted, QObject *parent = nullptr);
 
-    /// Counts no more.
+    /// Stops counting.
     void end();
 
     double seconds() const { return lastTime - firstTime; }

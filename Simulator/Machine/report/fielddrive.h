@@ -23,7 +23,7 @@ public:
 
     /// Median lateness of a product's changes (seconds) by look-ahead time (milliseconds).
     using Curve = std::map<int, double>;
-    /// Told now and then how much of the whole is done, 0 to 1.
+    /// Called now and then with how much of the whole is done, 0 to 1.
     using Progress = std::function<void(double)>;
 
     /// How a machine of the simulation's size drives.
@@ -38,7 +38,7 @@ public:
 
     /// What a machine of the simulation's size can pass over while the implement is down, metres of the local plane.
     QRectF workedBounds() const;
-    /// From the path's start to its end.
+    /// Drives from the path's start to its end.
     void run(const Progress &progress = {});
     /// Drives with one look-ahead time after the other for all products, in steps near the best and coarser around:
     /// the curves by product. The settings are afterwards as before.

@@ -17,14 +17,14 @@ class FieldRaster : public QObject {
 public:
     /// Cells along the longer side.
     static constexpr int mostCells = 400;
-    /// Metres; finer tells nothing.
+    /// Metres; smaller cells would tell nothing more.
     static constexpr double leastCell = 0.25;
 
     /// `area` is in metres of the local plane. `simulation` is not owned and outlives the raster. It is filled from now
     /// on.
     FieldRaster(Simulation *simulation, const QRectF &area, QObject *parent = nullptr);
 
-    /// Fills no more, and looks up what is prescribed.
+    /// Stops filling, and looks up what is prescribed.
     void end();
 
     /// In cells.

@@ -1,6 +1,6 @@
 // Makes the sample field: management zones of a field of about 40 ha in rolling farmland, with a pond and a stand of
-// trees that are left out, and a grassed waterway that gets nothing. Two smooth surfaces stand for the soil and for the
-// weeds; their contour lines, the field's edge, the waterway and the two left-out places together divide the field.
+// trees that are left out, and a grassed waterway that gets no product. Two smooth surfaces stand for the soil and for
+// the weeds; their contour lines, the field's edge, the waterway and the two left-out places together divide the field.
 //
 //   rxmap-make-sample FILE.shp
 #include <cmath>

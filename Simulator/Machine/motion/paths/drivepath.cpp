@@ -21,7 +21,7 @@ void DrivePath::append(const DrivePath &path)
         last = path.starts.front();
     for (const PathPiece &piece : path.allPieces)
         append(piece);
-    // What was joined knows its own end better than the sum of both does.
+    // The appended path's own end is more exact than the sum of its pieces.
     last = path.last;
 }
 

@@ -11,7 +11,7 @@ struct PathPiece {
     bool isWorked = false;  ///< The implement is down.
 };
 
-/// A path of straight lines and arcs without a bend.
+/// A path of straight lines and arcs that has no corners.
 class DrivePath {
 public:
     struct Point {
@@ -26,12 +26,12 @@ public:
     }
 
     void append(const PathPiece &piece);
-    /// Joins `path` on, which begins where this one ends.
+    /// Appends `path`, which begins where this one ends.
     void append(const DrivePath &path);
 
     /// Metres.
     double length() const { return total; }
-    /// The pose at its end; its start where it has no pieces.
+    /// The pose at its end; its start when it has no pieces.
     Pose end() const { return last; }
     /// `distance` metres from the start; beyond either end, that end.
     Point at(double distance) const;

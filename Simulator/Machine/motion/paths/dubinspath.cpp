@@ -23,7 +23,7 @@ double turn(double from, double to, int side)
     double angle = std::fmod(side * (to - from), fullTurn);
     if (angle < 0.0)
         angle += fullTurn;
-    // A full circle that only rounding asks for is none.
+    // A full circle that comes from rounding is no turn at all.
     return fullTurn - angle < 1e-9 ? 0.0 : angle;
 }
 

@@ -182,7 +182,7 @@ Result<FieldArea> FieldArea::inset(double distance) const
     const auto failure = [] {
         return Result<FieldArea>::failure(QStringLiteral("the field's outline cannot be made out"));
     };
-    // Cells that all but touch are one area.
+    // Cells that almost touch are one area.
     constexpr double seam = 0.05;
     const Geometry together(toGeometry(allRings)->Buffer(seam, 2));
     if (!together)

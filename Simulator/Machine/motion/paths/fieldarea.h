@@ -30,12 +30,12 @@ public:
     /// The heading of the longer sides of the smallest rectangle around the area (Freeman and Shapira 1975), radians
     /// from 0 up to half a turn.
     double longestSide() const;
-    /// How far the area reaches to the right of the origin for somebody of that heading, metres.
+    /// How far the area reaches to the right of the origin for somebody with that heading, metres.
     Span acrossExtent(double heading) const;
-    /// Cuts the area into strips of that heading, each `width` metres wide, the first one beginning at `from` to the
-    /// right of the origin: how far the area reaches along each; nothing where a strip misses it.
+    /// Cuts the area into strips of that heading, each `width` metres wide, the first beginning `from` metres to the
+    /// right of the origin. Returns how far the area reaches along each; nothing for a strip that misses it.
     std::vector<std::optional<Span>> strips(double heading, double from, double width, int count) const;
-    /// What lies more than `distance` metres inside the whole area, without its holes.
+    /// What lies more than `distance` metres inside the area as a whole, its holes filled.
     Result<FieldArea> inset(double distance) const;
 
 private:

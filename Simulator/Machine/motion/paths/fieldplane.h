@@ -13,7 +13,7 @@ public:
     explicit FieldPlane(const QPointF &origin);
     ~FieldPlane();
 
-    /// No farther from its origin does it picture the earth, metres.
+    /// How far from its origin the plane pictures the earth, metres.
     static constexpr double reach = 1.0e6;
     /// Whether these can be degrees of longitude and latitude.
     static bool areDegrees(const QPointF &degrees);

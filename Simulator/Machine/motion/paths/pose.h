@@ -2,7 +2,7 @@
 
 #include <QPointF>
 
-/// Where something is, and which way it looks.
+/// Where something is, and which way it faces.
 struct Pose {
     /// Metres of the local plane.
     QPointF place;

@@ -103,7 +103,7 @@ Result<FieldArea> driveHeadlands(const FieldArea &field, const SwathOptions &opt
 Result<DrivePath> driveSwaths(const FieldArea &field, double heading, const SwathOptions &options, DrivePath path)
 {
     const FieldArea::Span across = field.acrossExtent(heading);
-    // What reaches less than a centimetre into one more swath is not worth it.
+    // Less than a centimetre is not worth another swath.
     const double count = std::max(1.0, std::ceil((across.length() - 0.01) / options.width));
     if (count > maxSwaths)
         return Result<DrivePath>::failure(

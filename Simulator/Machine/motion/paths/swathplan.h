@@ -18,7 +18,7 @@ struct SwathOptions {
     double width = 12.0;
     /// Rounds along the edge before the swaths.
     int headlands = 0;
-    /// Metres; no turn is tighter.
+    /// Metres; no turn is tighter than this.
     double minRadius = 6.0;
 };
 
@@ -29,7 +29,7 @@ public:
     /// How far the field reaches across the swaths, metres: less than the machine's width is not driven. The field has
     /// an outline.
     static double widthAcross(const FieldArea &field, const SwathOptions &options);
-    /// The reason when the field cannot be driven like that.
+    /// Gives the reason when the field cannot be driven like that.
     static Result<DrivePath> make(const FieldArea &field, const SwathOptions &options);
     /// A closed round along a ring, on arcs of that radius at its corners; corners that are too near to each other for
     /// that are left out, those first that change the ring's area least (Visvalingam and Whyatt 1993). It begins and

@@ -6,12 +6,12 @@
 
 /// One entry of a recorded track.
 struct TrackPoint {
-    /// Seconds; never before the entry before.
+    /// Seconds; never earlier than in the previous entry.
     double time = 0.0;
     /// Degrees of longitude and latitude, or metres of the local plane, as the track has them.
     QPointF place;
     bool isInDegrees = false;
-    /// False: the receiver had no position then, and `place` is none.
+    /// False: the receiver had no position then, and `place` means nothing.
     bool hasFix = true;
     /// Radians clockwise from north.
     std::optional<double> heading;

@@ -9,9 +9,9 @@
 namespace {
 
 constexpr qint64 longestLine = 1000;
-/// Metres per second; who is faster has jumped.
+/// Metres per second; anything faster is a jump.
 constexpr double fastest = 100.0;
-/// Seconds since 1970 up to the year 10000; no clock tells more.
+/// Seconds since 1970 up to the year 10000; no clock shows a later time.
 constexpr double latest = 253402300800.0;
 
 } // namespace

@@ -9,7 +9,7 @@
 #include <memory>
 
 /// A recorded track, read entry by entry as it is needed, so that its length takes no memory: NMEA 0183, or
-/// comma-separated values. What cannot be read, goes back in time or jumps is left out and counted.
+/// comma-separated values. Entries that cannot be read, go back in time or jump are left out and counted.
 class TrackReader {
 public:
     /// What was read so far.
@@ -22,8 +22,8 @@ public:
         double seconds = 0.0;
     };
 
-    /// Reads the track once, to know that it can be replayed. `plane` takes its degrees to the field; null where no
-    /// field is loaded, for a track in metres alone.
+    /// Reads the track once, to make sure that it can be replayed. `plane` takes its degrees to the field; null where
+    /// no field is loaded, for a track in metres alone.
     static Result<Summary> check(const QString &path, const std::shared_ptr<const FieldPlane> &plane);
 
     /// `plane` as above.

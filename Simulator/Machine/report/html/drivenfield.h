@@ -10,7 +10,7 @@ class DriveTally;
 class FieldRaster;
 class Simulation;
 
-/// All that a page tells of a drive; nothing in it is owned.
+/// All that a page shows of a drive; nothing in it is owned.
 struct DrivenField {
     /// The prescriptions' files.
     QString file;

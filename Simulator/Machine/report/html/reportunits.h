@@ -21,7 +21,7 @@ public:
     /// From the product's base unit.
     double rate(double base) const { return rateFactor * base; }
     QString rateUnit() const { return rateUnitText; }
-    /// A sum of rates over areas is an amount; no such thing are ratios and pressures.
+    /// A sum of rates over areas is an amount; ratios and pressures have no such sum.
     bool hasAmounts() const { return !amountUnitText.isEmpty(); }
     /// From the base unit times hectares.
     double amount(double base) const { return rateFactor * base / hectaresOfArea; }
