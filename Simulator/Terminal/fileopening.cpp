@@ -30,7 +30,7 @@ FileOpening::FileOpening(Terminal *owner)
     connect(display, &TerminalWindow::dropped, this, &FileOpening::take);
     connect(openWindow, &OpenWindow::shownChanged, button, &TouchButton::setChecked);
     connect(openWindow, &OpenWindow::closeWanted, terminal, &Terminal::close);
-    // Later: the button that asks for it is still on the stack, and loading runs an event loop of its own.
+    // Queued: the button that asks for it is still on the stack, and loading runs an event loop of its own.
     connect(openWindow, &OpenWindow::wanted, this, [this](const OpenRequest &request) {
         QMetaObject::invokeMethod(
             this, [this, request] { load(request); }, Qt::QueuedConnection);
@@ -53,7 +53,7 @@ void FileOpening::giveWay(QAbstractButton *other)
     if (other == button || !openWindow->isVisible())
         return;
     openWindow->leave();
-    // What was under the window already has not been seen.
+    // What the button shows was under the window and not seen, so it stays.
     if (other->isCheckable())
         other->setChecked(true);
 }
@@ -68,7 +68,7 @@ void FileOpening::take(const QStringList &files, const QStringList &others)
 
 void FileOpening::closeReplaced(const LoadReport &newest)
 {
-    // Products that were made anew are not those that the others fed.
+    // New products are not the ones that the other maps fed.
     const bool areProductsNew = !newest.columnProducts.isEmpty();
     const QList<LoadReport> maps = terminal->backend()->maps();
     for (const LoadReport &map : maps) {

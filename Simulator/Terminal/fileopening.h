@@ -12,8 +12,8 @@ class TouchButton;
 struct LoadReport;
 struct OpenRequest;
 
-/// The ways to the open window, a button in the status bar and files that are dropped onto the display, and what comes
-/// of it.
+/// The ways to the open window (a button in the status bar, and files dropped onto the display) and what is done with
+/// its outcome.
 class FileOpening : public QObject {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
 
 private:
     void toggle();
-    /// Another button of the status bar leads to what it shows, from under the open window, too.
+    /// Another button of the status bar was touched: the open window makes way for what that button shows.
     void giveWay(QAbstractButton *other);
     void take(const QStringList &files, const QStringList &others);
     void load(const OpenRequest &request);

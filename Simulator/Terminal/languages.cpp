@@ -23,7 +23,7 @@ QString languageOf(const QFileInfo &catalogue)
     return ending.match(catalogue.completeBaseName()).captured(1);
 }
 
-/// Installs the catalogue for the life of the application; false when it is none.
+/// Installs the catalogue for the life of the application; false when it is not a catalogue.
 bool installCatalogue(const QString &path)
 {
     auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
@@ -63,7 +63,7 @@ bool isSame(const QString &language, const QString &other)
     return language.compare(other, Qt::CaseInsensitive) == 0;
 }
 
-/// What both the display and the plug-ins speak.
+/// The languages that both the display and the plug-ins speak.
 QStringList languagesWith(const QDir &pluginFolder)
 {
     QStringList guests;
@@ -122,7 +122,7 @@ QString Languages::install(const QString &code, const QDir &pluginFolder)
         if (isSame(languageOf(catalogue), language) && !installCatalogue(catalogue.filePath()))
             return QStringLiteral("%1: no translation catalogue").arg(catalogue.filePath());
     }
-    // Numbers are written as it writes them.
+    // Numbers are written as that language writes them.
     QLocale::setDefault(QLocale(language));
     // A language that only the plug-ins speak leaves the display's own texts as they are.
     const QFileInfoList own = ownCatalogues();

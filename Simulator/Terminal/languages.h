@@ -8,7 +8,7 @@
 class Languages {
 public:
     /// Loads every catalogue of that language ("de", "pt_BR", "pt-br") for the life of the application, and has numbers
-    /// shown as it writes them (QLocale's default). Empty, or the reason when there is none.
+    /// shown as that language writes them (QLocale's default). Empty, or the reason when there is none.
     static QString install(const QString &code, const QDir &pluginFolder);
     /// The reason when there is no catalogue of that language; nothing is loaded.
     static QString problem(const QString &code, const QDir &pluginFolder);

@@ -16,7 +16,7 @@ LegendPanel::Content legendContent(const Machine &machine, const LoadReport &rep
     content.hasSingleRates = report.hasSingleRates.value(map.mapping);
     content.factor = units.rate(1.0);
     content.unit = units.rateUnit();
-    // One for the polygons without a rate may follow.
+    // An area for the polygons without a rate may follow.
     const QList<double> areas = report.areas.value(map.mapping).mid(0, map.legend.size());
     for (const double area : areas)
         content.areas.append(units.area(area));

@@ -6,5 +6,5 @@ class Machine;
 struct ActiveMap;
 struct LoadReport;
 
-/// What the legend says of the map that feeds the active product. `report`: what came of its load.
+/// What the legend says of the map that feeds the active product. `report`: the report of its load.
 LegendPanel::Content legendContent(const Machine &machine, const LoadReport &report, const ActiveMap &map);

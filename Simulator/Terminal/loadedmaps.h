@@ -21,16 +21,17 @@ public:
 
     /// The map that feeds the active product.
     ActiveMap active() const;
-    /// What came of the map's load; an empty report where there is no map.
+    /// The report of the map's load; an empty one where there is no map.
     LoadReport reportOf(const ActiveMap &map) const;
 
     /// Where the plane of the maps in bounds() touches the earth, degrees of longitude and latitude; nothing when no
     /// map is loaded.
     std::optional<QPointF> planeOrigin() const;
-    /// Extent of what is loaded, metres (top = least y); nothing when no map is. Of maps that are too far apart for one
-    /// plane, those on the plane of the active product's map count, or of the newest map where none feeds it.
+    /// Extent of what is loaded, metres (top = least y); nothing when no map is. When maps are too far apart for one
+    /// plane, those on the plane of the active product's map count, or of the newest map if none feeds that product.
     std::optional<QRectF> bounds() const;
-    /// From degrees of longitude and latitude to metres of that plane and back; the reason when there is no way.
+    /// Converts degrees of longitude and latitude to metres of that plane, and back; the reason when that is not
+    /// possible.
     Result<QPointF> toField(const QPointF &degrees) const;
     Result<QPointF> toEarth(const QPointF &field) const;
     /// Where the maps lie that feed a product, metres of the plane of bounds(); null without any.

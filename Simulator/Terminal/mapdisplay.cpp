@@ -79,8 +79,7 @@ void MapDisplay::redrawMap()
 
 void MapDisplay::watchGroup(const QString &name)
 {
-    // The plug-in rebuilds its drawing on every set of the count; that the display must be drawn again is the host's
-    // part.
+    // The plug-in rebuilds its drawing whenever the count is set; drawing the display again is up to the host.
     if (DataBrokerGroup *group = broker->getGroup(name, false))
         group->connectPropertySetSlot("polygonCount", this, SLOT(redrawMap()), Qt::UniqueConnection, false);
 }
@@ -90,7 +89,7 @@ void MapDisplay::showVehicle()
     const Vehicle &vehicle = *simulation->vehicle();
     window->overlay()->setVehicle(vehicle.position(), vehicle.heading());
     window->statusBar()->setSpeed(vehicle.currentSpeed(), machine->unitSystem() == UnitSystem::Metric);
-    // Where nothing is to move nobody waits for the time.
+    // When nothing is to move, nobody misses the time.
     const bool isUnderWay = !vehicle.isOver() && (vehicle.wantedSpeed() != 0.0 || vehicle.currentSpeed() != 0.0);
     window->statusBar()->setPaused(isUnderWay && simulation->timeFactor() == 0.0);
 }

@@ -12,8 +12,8 @@ class PrescriptionBackend;
 class Simulation;
 class TerminalWindow;
 
-/// Shows on the display what is loaded and how the vehicle moves: names, legend, boundary, the field as a whole where
-/// another one comes into use, and a new drawing where a map's polygons change.
+/// Shows on the display what is loaded and how the vehicle moves: names, legend, boundary, the whole field when another
+/// one comes into use, and a new drawing when a map's polygons change.
 class MapDisplay : public QObject {
     Q_OBJECT
 

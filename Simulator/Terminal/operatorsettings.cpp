@@ -12,8 +12,8 @@ namespace {
 
 constexpr qint64 mostBytes = qint64(4) << 20;
 
-/// Whether a value begins as one does that Qt unpacks. None of what the terminal keeps is written so; a file's name may
-/// hold the same within quotes.
+/// Whether a value begins like one that Qt unpacks. The terminal keeps nothing in that form; a file's name may hold the
+/// same characters within quotes.
 bool holdsPackedValue(const QByteArray &text)
 {
     bool isQuoted = false;
@@ -70,7 +70,7 @@ OperatorSettings::OperatorSettings(const QString &givenPath)
                       .arg(path, reason,
                            isAside ? QStringLiteral("the file is now %1").arg(aside)
                                    : QStringLiteral("and nothing new is kept"));
-        // A file that cannot be.
+        // If the file cannot be moved, a path where no file can be takes its place.
         isToldAlready = !isAside;
         if (!isAside)
             used = QStringLiteral("/dev/null/settings.ini");

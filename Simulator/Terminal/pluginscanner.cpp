@@ -70,7 +70,7 @@ PluginScanner::Findings PluginScanner::scan(const QDir &folder)
     for (const QString &name : names) {
         const QString path = folder.absoluteFilePath(name);
         QPluginLoader loader(path);
-        // A function that is missing must show now, not end the program when it is called.
+        // A missing function must show when the library is loaded, not end the program when it is called.
         loader.setLoadHints(QLibrary::ResolveAllSymbolsHint);
         const QString complaint = complaintBeforeLoading(path, loader, loaded);
         if (!complaint.isEmpty()) {

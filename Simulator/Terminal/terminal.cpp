@@ -50,7 +50,7 @@ LoadReport unused(const QString &path)
     return report;
 }
 
-/// A prescription, or whatever else somebody has there.
+/// Whether the file holds something other than a PNG picture, such as a prescription.
 bool isOtherThanPicture(const QString &path)
 {
     QFile file(path);
@@ -121,7 +121,7 @@ void Terminal::connectDisplay()
             machineModel->setActiveProduct(fed.first());
     });
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
-        // The open window has a bar of its own for what it waits for.
+        // The open window has a progress bar of its own for the load it waits for.
         const bool isShownThere = opening->window()->isVisible() && opening->window()->isBusy();
         display->statusBar()->setProgress(isShownThere ? QString() : QFileInfo(path).fileName(), fraction);
     });
@@ -225,7 +225,7 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
 void Terminal::enterProducts(const OpenRequest &request, LoadRequest &load) const
 {
     machineModel->enterProducts(load);
-    // A record has its columns by product. Who chose among products that stand in keeps them.
+    // A record has its columns by product. An operator who chose among the placeholders keeps them.
     const bool keepsProducts =
         driveRecorder->isRecording() || (request.columnProducts && request.columnProducts->isEmpty());
     if (keepsProducts)

@@ -45,7 +45,7 @@ class Terminal : public QObject {
 public:
     explicit Terminal(const Products &products, UnitSystem units, QObject *parent = nullptr);
     explicit Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent = nullptr);
-    /// Plug-ins, maps and groups go, in this order.
+    /// Deletes plug-ins, maps and groups, in this order.
     ~Terminal() override;
 
     /// Loads the plug-ins of `folder`; they take their images from `images`. Returns a line for each file that was
@@ -62,20 +62,20 @@ public:
     Vehicle *vehicle() const;
     Recorder *recorder() const { return driveRecorder.data(); }
     TerminalWindow *window() const { return display.data(); }
-    /// What shows the display on the screen. Null until the display is shown.
+    /// The window that shows the display on the screen. Null until the display is shown.
     ScreenWindow *screen() const { return screenWindow.data(); }
     /// Null until the display is shown.
     DriveDisplay *driving() const { return driveDisplay.data(); }
     OpenWindow *openWindow() const;
     OperatorSettings *remembered() const;
 
-    /// Tells an operator who is new to the terminal how it is used; what was told once is not told again.
+    /// Tells a new operator how the terminal is used; what was told once is not repeated.
     void greet();
     /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
     /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
-    /// column from the first file that has it. Without columns the most likely ones of each file feed the products that
-    /// none before it does; once all are fed, a file takes products over. A file that is to feed nothing is not opened:
-    /// its report names no group.
+    /// column from the first file that has it. When no columns are named, the most likely ones of each file feed the
+    /// products that no file before it feeds; once all are fed, a file takes products over. A file that is to feed
+    /// nothing is not opened: its report names no group.
     QList<LoadReport> open(const OpenRequest &request);
     /// False when there is no such map.
     bool close(const QString &group);
@@ -106,7 +106,7 @@ public:
     void refresh();
 
 private:
-    /// Says for which products to load.
+    /// Enters the products to load for.
     void enterProducts(const OpenRequest &request, LoadRequest &load) const;
     void connectDisplay();
     void installGraphicsLists();

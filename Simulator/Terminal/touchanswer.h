@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QString>
 
-/// What a touch on the ground is answered.
+/// The answer to a touch on the ground.
 struct TouchAnswer {
     /// What the graphics lists say; empty when they say nothing.
     QString text;

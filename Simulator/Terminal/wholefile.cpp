@@ -9,7 +9,7 @@ namespace {
 
 bool put(QFileDevice &file, const QByteArray &content)
 {
-    // A disk that fills up takes a part first, without a reason; the next part tells it.
+    // A disk that fills up takes part of the content without giving a reason; writing the next part gives it.
     bool isTaken = file.isOpen();
     for (qint64 done = 0, taken = 0; isTaken && done < content.size(); done += taken) {
         taken = file.write(content.constData() + done, content.size() - done);
@@ -32,7 +32,7 @@ QString writeWholeFile(const QString &path, const QByteArray &content)
         return put(file, content) ? QString() : line.arg(path, file.errorString());
     }
     QSaveFile file(path);
-    // Where only the file itself may be written, not its folder.
+    // For when only the file itself may be written, not its folder.
     file.setDirectWriteFallback(true);
     const bool isOpen = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     return isOpen && put(file, content) && file.commit() ? QString() : line.arg(path, file.errorString());

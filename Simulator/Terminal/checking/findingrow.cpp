@@ -30,7 +30,7 @@ FindingRow::FindingRow(const MapFinding &finding, const QString &file, QWidget *
     setAccessibleName(title);
     setAccessibleDescription(finding.text);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    // What lies nowhere cannot be shown.
+    // A finding without a place cannot be shown.
     setEnabled(finding.place.has_value());
 }
 

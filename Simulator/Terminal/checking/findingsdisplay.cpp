@@ -21,7 +21,7 @@
 
 namespace {
 
-/// What is marked is shown with as much around it, and never less than this, metres.
+/// A marked extent is shown with as much again around it, and never less than this, metres.
 constexpr double leastView = 60.0;
 
 QRectF viewAround(const QRectF &extent)
@@ -54,7 +54,7 @@ FindingsDisplay::FindingsDisplay(const Machine *terminalMachine, const Vehicle *
 
 void FindingsDisplay::check(const LoadReport &report)
 {
-    // Where nobody sees it, as in a drive without a display, it would only take time.
+    // Where nobody sees the result, as in a drive without a display, a check would only take time.
     if (!report.isOk() || !window->isVisible())
         return;
     findings.remove(report.group);

@@ -23,7 +23,7 @@ public:
     /// None of these is owned; all outlive this.
     FindingsDisplay(const Machine *machine, const Vehicle *vehicle, TerminalWindow *window);
 
-    /// Takes the list away.
+    /// Hides the list.
     void leave();
 
 Q_SIGNALS:
@@ -35,7 +35,7 @@ private:
     void take(const QString &group, const QList<MapFinding> &found);
     /// What is found in the maps that feed a product, oldest first.
     void update();
-    /// What is to be told of a map that shares no plane with any of those others.
+    /// The finding for a map that shares no plane with any of the others.
     std::optional<MapFinding> distanceFrom(const QList<LoadReport> &others, const LoadReport &map) const;
     void toggle();
     void show(int number);

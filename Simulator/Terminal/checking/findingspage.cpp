@@ -32,7 +32,7 @@ FindingsPage::FindingsPage(QWidget *parent)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->viewport()->setAutoFillBackground(false);
-    // Rows have the keyboard themselves.
+    // The rows take the keyboard themselves.
     area->setFocusPolicy(Qt::NoFocus);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
         if (now != nullptr && area->isAncestorOf(now))

@@ -16,9 +16,9 @@ class FindingsPage : public QWidget {
 
 public:
     struct Entry {
-        /// Named where several maps are loaded, else empty.
+        /// The map's file where several maps are loaded, else empty.
         QString file;
-        /// Of the map.
+        /// Group of the map.
         QString group;
         MapFinding finding;
     };
@@ -30,7 +30,7 @@ public:
     void setEntries(const QList<Entry> &entries);
 
 Q_SIGNALS:
-    /// The row of that number was touched; what it is about lies somewhere.
+    /// The row of that number was touched; its finding has a place.
     void chosen(int number);
 
 protected:

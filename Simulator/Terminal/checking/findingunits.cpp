@@ -22,12 +22,12 @@ FindingUnits::FindingUnits(UnitSystem givenSystem)
 
 QString FindingUnits::textOf(const MapFinding &finding) const
 {
-    // In the back-end's language with a comma or a point. Names, in its quotation marks, are passed over, which may
-    // look like a figure. Letters are those of any language, so that "24 más" is none.
+    // A figure in the back-end's language, with a comma or a point. Names in quotation marks are passed over, since
+    // they may look like a figure. Letters are those of any language, so that "24 más" is not a figure.
     static const QRegularExpression figure(QStringLiteral("\"[^\"]*\"|„[^“]*“|“[^”]*”|«[^»]*»"
                                                           "|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"),
                                            QRegularExpression::UseUnicodePropertiesOption);
-    // Others have no figures of these kinds.
+    // Other findings have no figures of these kinds.
     if (!finding.area)
         return finding.text;
     QString text;

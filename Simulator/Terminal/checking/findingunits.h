@@ -6,7 +6,7 @@
 
 struct MapFinding;
 
-/// What is found in a map is told in metres; this writes it in the operator's units.
+/// Findings are worded in metres; this writes them in the operator's units.
 class FindingUnits {
     Q_DECLARE_TR_FUNCTIONS(FindingUnits)
 

@@ -53,7 +53,7 @@ bool DisplayKeys::press(int key)
 
 bool DisplayKeys::isReachable(const QWidget *control) const
 {
-    // Of the buttons of a group Qt lets the tabulator reach only the checked one.
+    // In a group of buttons Qt lets the Tab key reach only the checked one.
     const bool takesKeys = qobject_cast<const QAbstractButton *>(control) != nullptr
         || ((control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr);
     if (!takesKeys || !control->isVisible() || !control->isEnabled())

@@ -5,15 +5,15 @@
 class FieldView;
 class QWidget;
 
-/// The display by keyboard: the tabulator goes from control to control in reading order, arrows move the map, plus and
-/// minus bring it nearer and farther; Enter touches the map's middle while the map has
-/// the keyboard. Buttons are touched by Enter and Space themselves.
+/// Works the display by keyboard: Tab goes from control to control in reading order, arrows move the map, plus and
+/// minus zoom, Enter touches the map's middle while the map has the keyboard. Buttons are touched by Enter and Space
+/// themselves.
 class DisplayKeys {
 public:
     /// Neither is owned; both outlive the keys. `view` is a child of `display`.
     DisplayKeys(QWidget *display, FieldView *view);
 
-    /// A key that no control has taken; false for one that means nothing here.
+    /// Takes a key that no control has taken; false when it means nothing here.
     bool press(int key);
     /// Gives the keyboard to the next control that can be reached, or to the one before; false where there is none.
     bool moveFocus(bool forward);

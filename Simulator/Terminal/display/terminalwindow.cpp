@@ -115,7 +115,7 @@ void TerminalWindow::setTheme(Theme::Kind kind)
     const bool isDay = kind == Theme::Kind::Day;
     themeButton->setText(isDay ? tr("Night") : tr("Day"));
     themeButton->setSymbol(isDay ? Symbols::moon() : Symbols::sun());
-    // Reaches every widget of the window, each of which paints itself again, and no window of a plug-in.
+    // Reaches every widget of this window, each of which then repaints itself, and no window of a plug-in.
     setPalette(Theme::palette());
     Q_EMIT themeChanged();
 }
@@ -260,7 +260,7 @@ void TerminalWindow::markKeyboard(const QEvent &event)
 bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
 {
     markKeyboard(*event);
-    // A dialog places itself on the display, which on a desk is this window, wherever it stands.
+    // A dialog places itself on the display, which on a desktop is this window, wherever that is.
     auto *dialog = event->type() == QEvent::Show && !event->spontaneous() ? qobject_cast<QDialog *>(watched) : nullptr;
     if (dialog != nullptr && dialog->isWindow() && !dialog->property(placedProperty).toBool()) {
         dialog->setProperty(placedProperty, true);

@@ -35,31 +35,31 @@ public:
     StatusBar *statusBar() const { return status; }
     GuidancePage *guidancePage() const { return page; }
 
-    /// What drives the machine: `panel` takes the place of the products, and `strip` that under the map, while the
-    /// operator drives; both become the window's. Null for both takes them away again.
+    /// The controls that drive the machine: while the operator drives, `panel` takes the place of the products and
+    /// `strip` the place under the map. The window owns both. Null for both removes them again.
     void setDriving(QWidget *panel, QWidget *strip);
 
-    /// How all that the terminal paints looks from now on. What plug-ins paint stays as it is.
+    /// Sets how all that the terminal paints looks from now on. What plug-ins paint stays as it is.
     void setTheme(Theme::Kind kind);
 
     /// Says whether the display fills the screen.
     void showFullScreen(bool isFull);
 
-    /// Where a page lies that takes the place of the map: everything below the status bar.
+    /// Where a page that covers the map lies: everything below the status bar.
     static QRect pageArea();
     /// The display as it is seen, with every dialog and popup that is open over it.
     QImage screenshot();
 
 Q_SIGNALS:
-    /// The field is to be seen as a whole again.
+    /// The operator wants to see the whole field again.
     void frameRequested();
     void themeChanged();
-    /// The display is to fill the screen, or no longer.
+    /// The operator wants the display to fill the screen, or no longer.
     void fullScreenSwitched();
-    /// What drives the machine was shown, or hidden.
+    /// The driving controls were shown or hidden.
     void drivingShown(bool isShown);
     void closed();
-    /// Paths of files and folders of this computer that were dropped, and texts of whatever else was.
+    /// Paths of files and folders of this computer that were dropped, and the texts of anything else that was dropped.
     void dropped(const QStringList &files, const QStringList &others);
 
 protected:
@@ -70,7 +70,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
-    /// Marks what has the keyboard from a tabulator key on, until a finger is used.
+    /// Marks the control that has the keyboard from the first Tab key on, until a finger is used.
     void markKeyboard(const QEvent &event);
 
 private:

@@ -6,6 +6,6 @@
 class WindowStack {
 public:
     /// All windows, hidden ones too, from the top down: the popup in use, the modal dialog, any others, the terminal's
-    /// display. Without the window that shows them on the screen.
+    /// display. Excludes the window that shows them on the screen.
     static QWidgetList fromTop();
 };

@@ -81,7 +81,7 @@ bool DriveControls::isUnderWay() const
 
 double DriveControls::speed() const
 {
-    // A pedal's speed is not the one of the next start, and a track has speeds of its own.
+    // A speed reached by pedals does not count for the next start, and a track has speeds of its own.
     const bool isGiven = !isByHand() && !isReplay() && vehicle()->wantedSpeed() > 0.0;
     return isGiven ? vehicle()->wantedSpeed() : nextSpeed;
 }

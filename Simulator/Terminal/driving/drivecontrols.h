@@ -7,8 +7,8 @@ class Simulation;
 struct SwathOptions;
 class Vehicle;
 
-/// What the operator does to drive, for buttons and keys alike. How the machine drives is the simulation's; kept here
-/// is what it is to do next: the speed of the next start, and the pace after a pause.
+/// What the operator does to drive, for buttons and keys alike. The simulation knows how the machine drives; this keeps
+/// what it is to do next: the speed of the next start, and the pace after a pause.
 class DriveControls : public QObject {
     Q_OBJECT
 
@@ -16,11 +16,11 @@ public:
     /// `simulation` is not owned and outlives the controls.
     explicit DriveControls(Simulation *simulation, QObject *parent = nullptr);
 
-    /// Drives at speed(): by hand, along the way that there is, else along new swaths over the loaded field. Like
-    /// stop() it ends the operator's pause: what is wanted would wait for that.
+    /// Drives at speed(): by hand, along the present way, or else along new swaths over the loaded field. Like stop(),
+    /// it ends the operator's pause, during which nothing would happen.
     void start();
     void stop();
-    /// It is to move, and its way is not at its end.
+    /// The machine is to move, and is not at the end of its way.
     bool isUnderWay() const;
 
     /// Metres per second.
@@ -56,11 +56,11 @@ public:
     void setSignal(bool isThere);
     bool hasSignal() const;
 
-    /// What the operator is to know of the way: why there is none, or that it is at its end.
+    /// What the operator should know of the way: why there is none, or that its end is reached.
     QString message() const;
 
 Q_SIGNALS:
-    /// Something that is told here may be different.
+    /// Something that these controls report may have changed.
     void changed();
 
 private:
@@ -75,6 +75,6 @@ private:
     Simulation *simulation;
     double nextSpeed;
     double lastPace = 1.0;
-    bool isPausedHere = false; ///< And not by a script, to which time belongs then.
+    bool isPausedHere = false; ///< The operator paused; a pause by a script is left to the script.
     QString problem;
 };

@@ -10,8 +10,8 @@ class DriveControls;
 class Simulation;
 class TerminalWindow;
 
-/// What the display has for driving: controls and keys, the strip under the map, the worked ground and the look-ahead
-/// point on it, and the camera that follows.
+/// All of the display that serves driving: controls and keys, the strip under the map, the worked ground and the
+/// look-ahead point on it, and the camera that follows.
 class DriveDisplay : public QObject {
     Q_OBJECT
 

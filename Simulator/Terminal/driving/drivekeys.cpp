@@ -26,7 +26,7 @@ bool DriveKeys::eventFilter(QObject *watched, QEvent *event)
 
 bool DriveKeys::isForDriving(const QObject *watched) const
 {
-    // Whichever of the window's widgets has the keyboard; a dialog's are another window's.
+    // Any widget of this window may have the keyboard; a dialog's widgets belong to another window.
     const auto *widget = qobject_cast<const QWidget *>(watched);
     if (widget == nullptr || widget->window() != panel->window() || !panel->isVisible())
         return false;
@@ -51,7 +51,7 @@ bool DriveKeys::press(const QKeyEvent &event)
 
 bool DriveKeys::release(const QKeyEvent &event)
 {
-    // Also where something has come over the panel meanwhile: nobody else lets go of it.
+    // Even when something has come over the panel meanwhile: nobody else would release it.
     if (event.isAutoRepeat() || !held.contains(event.key()))
         return held.contains(event.key());
     held.remove(event.key());
@@ -62,7 +62,7 @@ bool DriveKeys::hold(int key, bool isPressed, bool isRepeated)
 {
     constexpr double turnOfAPress = 0.2;
     if (key == Qt::Key_Left || key == Qt::Key_Right) {
-        // A held key repeats itself.
+        // A held key repeats, and turns the wheel further each time.
         const double turn = key == Qt::Key_Left ? -turnOfAPress : turnOfAPress;
         panel->wheel()->setTurn(isPressed ? panel->wheel()->turn() + turn : 0.0);
         return true;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int gap = 8;
 constexpr int handRows = 2;
-// Steps may follow each other faster than anybody reads, milliseconds.
+// Milliseconds between updates: steps may follow each other faster than anybody can read.
 constexpr int refreshTime = 100;
 
 } // namespace
@@ -42,7 +42,7 @@ TouchButton *DrivePanel::add(const QString &text, const char *name, const QStrin
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(spoken);
     button->setCheckable(isSwitch);
-    // What it does may leave its own state as it was.
+    // The button has switched its own state, but what it does may be refused.
     connect(button, &TouchButton::clicked, this, &DrivePanel::refresh, Qt::QueuedConnection);
     return button;
 }

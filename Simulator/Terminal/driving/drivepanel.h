@@ -9,7 +9,7 @@ class QLabel;
 class TouchButton;
 class WheelBar;
 
-/// The column of buttons that drive the machine; pedals and wheel are there while it is driven by hand.
+/// The column of buttons that drive the machine; pedals and wheel show while it is driven by hand.
 class DrivePanel : public QWidget {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit DrivePanel(DriveControls *controls, QWidget *parent = nullptr);
 
     WheelBar *wheel() const { return wheelBar; }
-    /// Whether the button says that the camera follows the vehicle.
+    /// Sets whether the button shows that the camera follows the vehicle.
     void setFollowing(bool isFollowing);
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ private:
     void refresh();
 
     DriveControls *controls;
-    /// From the top; a row of three has a readout in its middle.
+    /// Rows from the top; a row of three has a readout in its middle.
     QList<QList<QWidget *>> rows;
     TouchButton *startButton = nullptr;
     QLabel *speed = nullptr;

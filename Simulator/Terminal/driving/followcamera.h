@@ -15,7 +15,7 @@ public:
     FollowCamera(FieldView *view, const Vehicle *vehicle, QObject *parent = nullptr);
 
     bool isOn() const { return isFollowing; }
-    /// Comes near enough to see the implement's swath.
+    /// Switches following on or off; when on, comes near enough to show the implement's swath.
     void setOn(bool isOn);
 
 Q_SIGNALS:

@@ -49,7 +49,7 @@ void WheelBar::mouseReleaseEvent(QMouseEvent *)
 
 void WheelBar::hideEvent(QHideEvent *)
 {
-    // Whoever held it cannot let go any more.
+    // A finger that holds the wheel cannot let go of a hidden one.
     if (turned != 0.0)
         setTurn(0.0);
 }

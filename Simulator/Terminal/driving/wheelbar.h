@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// The steering wheel as a bar: a finger that slides along it turns the wheel, one that leaves it lets the wheel go
+/// The steering wheel as a bar: a finger that slides along it turns the wheel; lifting the finger lets the wheel go
 /// back to the middle.
 class WheelBar : public QWidget {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
 
     /// -1 (left) to 1 (right).
     double turn() const { return turned; }
-    /// Turns the wheel and tells so.
+    /// Turns the wheel and reports it.
     void setTurn(double turn);
 
 Q_SIGNALS:

@@ -57,7 +57,7 @@ void HintCard::tell(const QString &title, const QStringList &lines, const QRect 
     raise();
     if (!hasKeyboard())
         before = window()->focusWidget();
-    // For Escape; what else is pressed goes on to the display.
+    // Takes the keyboard for Escape; other keys go on to the display.
     setFocus();
 }
 
@@ -69,7 +69,7 @@ bool HintCard::hasKeyboard() const
 
 void HintCard::leave()
 {
-    // Hidden with the keyboard it would hand it to a control that nobody chose.
+    // If it were hidden while it has the keyboard, a control that nobody chose would get it.
     if (hasKeyboard()) {
         window()->focusWidget()->clearFocus();
         if (before && before->isVisible())
@@ -94,7 +94,7 @@ void HintCard::keyPressEvent(QKeyEvent *event)
 
 void HintCard::mousePressEvent(QMouseEvent *event)
 {
-    // Not for the map under the card.
+    // The touch is not meant for the map under the card.
     event->accept();
 }
 

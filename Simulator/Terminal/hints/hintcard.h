@@ -7,7 +7,7 @@
 class QLabel;
 class TouchButton;
 
-/// A card over the map that tells something, until its button is touched or Escape pressed. The map beside it stays in
+/// A card over the map with a text, shown until its button is touched or Escape is pressed. The map beside it stays in
 /// use.
 class HintCard : public QWidget {
     Q_OBJECT
@@ -18,11 +18,11 @@ public:
 
     /// Shows the card in the middle of `area` (pixels of its parent), at its lower end.
     void tell(const QString &title, const QStringList &lines, const QRect &area);
-    /// Takes it away without being told so.
+    /// Hides the card without emitting closed().
     void leave();
 
 Q_SIGNALS:
-    /// The operator has taken the card away.
+    /// The operator has closed the card.
     void closed();
 
 protected:

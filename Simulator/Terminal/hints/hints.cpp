@@ -13,7 +13,7 @@ namespace {
 
 const QString greetedKey = QStringLiteral("hints/greeted");
 const QString longTouchKey = QStringLiteral("hints/longTouch");
-/// The one of the plug-in that the terminal is made to show.
+/// The options button of the plug-in that the terminal is made for.
 const QString optionsWidget = QStringLiteral("RxMapWidget");
 
 } // namespace
@@ -28,7 +28,7 @@ Hints::Hints(TerminalWindow *givenWindow, const PrescriptionBackend *givenBacken
 {
     connect(window->guidancePage(), &GuidancePage::touchedShortly, this, &Hints::tellOfLongTouch);
     connect(window->guidancePage(), &GuidancePage::touched, this, [this](const QString &widgetName) {
-        // Whoever comes back to the button has read what was told of it.
+        // An operator who returns to the button has read the hint about it.
         if (widgetName == optionsWidget && !isGreeting)
             card->leave();
     });

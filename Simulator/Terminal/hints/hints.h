@@ -7,9 +7,9 @@ class PrescriptionBackend;
 class QSettings;
 class TerminalWindow;
 
-/// Tells an operator who is new to it how the terminal is used: once at the start what the map and the buttons do, and
-/// once, when the options button of the guidance page was touched too shortly, that it wants a long touch. What was
-/// seen is remembered.
+/// Tells a new operator how the terminal is used: at the first start what the map and the buttons do, and, when the
+/// options button of the guidance page was first touched too briefly, that it needs a long touch. What was shown is
+/// remembered.
 class Hints : public QObject {
     Q_OBJECT
 

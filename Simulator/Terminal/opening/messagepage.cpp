@@ -34,7 +34,7 @@ TouchButton *addButton(QHBoxLayout *layout, const QString &text, const char *nam
     return button;
 }
 
-/// The text with places to break it: words like paths are longer than a line.
+/// The text with places where it may break: words such as paths are longer than a line.
 QString breakable(QString text)
 {
     constexpr QChar zeroWidthSpace(0x200b);

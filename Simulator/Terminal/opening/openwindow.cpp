@@ -43,7 +43,7 @@ void OpenWindow::connectPages()
     connect(backend, &PrescriptionBackend::surveyed, this, &OpenWindow::takeSurvey);
     connect(backend, &PrescriptionBackend::progress, this,
             [this](const QString &, double fraction) { progress->setFraction(fraction); });
-    // What was offered are no products of the machine any more.
+    // The products on offer are no longer the machine's.
     connect(machine, &Machine::productsChanged, this, [this] {
         if (isVisible() && !isBusy() && last.isOk())
             survey(last.path, last.layer, last.task);
@@ -61,7 +61,7 @@ void OpenWindow::connectPages()
         selection.setUnit(askedColumn, text);
         previews->refresh();
         showPage(previews);
-        // What is left to the file is asked for again at the next "Open".
+        // If the unit was left to the file, the next "Open" asks for it again.
         const bool goesOn = isOpening && !text.isEmpty();
         isOpening = false;
         if (goesOn)

@@ -30,19 +30,19 @@ public:
     /// `machine` and `settings`, in which files and choices are remembered, are not owned and outlive the window.
     OpenWindow(Machine *machine, QSettings &settings, QWidget *parent = nullptr);
 
-    /// Offers a file, where it is there, to who has none yet.
+    /// Offers a file, if it exists, to an operator who has none yet.
     void offerSample(const QString &path);
-    /// Shows the files to choose from: the folder used last, else the recent files, else what is at home.
+    /// Shows the files to choose from: the folder used last, else the recent files, else the home folder.
     void showFiles();
     /// Shows what these files hold, one after the other.
     void preview(const QStringList &paths);
     /// Shows why something that was wanted cannot be opened.
     void refuse(const QString &reason);
-    /// Takes what came of a load that was wanted.
+    /// Takes the report of a load that was wanted.
     void finish(const LoadReport &report);
-    /// To the page before; from the files to choose from out of the window.
+    /// Goes back to the previous page; from the page of files out of the window.
     void goBack();
-    /// Hides the window; what it was reading is given up.
+    /// Hides the window, and gives up what it was reading.
     void leave();
     /// Whether it waits for a file to be read.
     bool isBusy() const { return busy != Busy::No; }
@@ -71,7 +71,7 @@ private:
     void connectPages();
     void connectPreview();
     void showPage(QWidget *page);
-    /// To where the file was taken from.
+    /// Goes back to where the file was taken from.
     void returnToFiles();
     void showProgress(const QString &text, Busy what);
     void survey(const QString &path, const QString &layer, const QString &task);
@@ -84,15 +84,15 @@ private:
     void load(const QStringList &closes);
     bool pressFocused();
     void ask(const QString &question, const QStringList &options, int current, std::function<void(int)> answer);
-    /// Which prescription of an archive is to be shown.
+    /// Asks which prescription of an archive is to be shown.
     void askArchived();
     void askLayer();
     void askTask();
     void askProduct(int index);
     void askUnit(int index);
-    /// In which unit these columns are that tell none; what is open then is opened.
+    /// Asks for the unit of these columns, which do not tell any; the file is opened with the answer.
     void askUnits(const QList<int> &columns);
-    /// Whether fields stay open that lie on other planes; what is shown is opened then.
+    /// Asks whether fields on other planes stay open; the file is opened with the answer.
     void askFarFields();
     void askOther();
     Pager *currentPager() const;
@@ -109,16 +109,16 @@ private:
     UnitPage *unit;
 
     Busy busy = Busy::No;
-    QStringList waiting; ///< Files to be shown after the one that is.
-    int surveys = 0;     ///< That were asked for and have not ended; the last one counts.
+    QStringList waiting; ///< Files to be shown after the present one.
+    int surveys = 0;     ///< Surveys that were requested and have not ended; the last one counts.
     bool isGivenUp = false;
-    QStringList together; ///< Groups of the files that were opened of those wanted together with the one that is shown.
-    /// What was chosen for the file before, as long as its layer and task are tried.
+    QStringList together; ///< Groups of the files that were wanted together with the one shown, and are already open.
+    /// What was chosen for the file earlier, while its layer and task are being tried.
     std::optional<FileChoices> remembered;
     SurveyReport last;
     OpenSelection selection;
     QWidget *behindMessage = nullptr;
     std::function<void(int)> whenChosen;
     int askedColumn = 0;
-    bool isOpening = false; ///< The operator wants the file opened once its units are told.
+    bool isOpening = false; ///< The operator wants the file opened once its units are known.
 };

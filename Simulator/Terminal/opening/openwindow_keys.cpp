@@ -72,7 +72,7 @@ bool OpenWindow::focusNextPrevChild(bool next)
     };
     // What lies under the window is out of reach.
     for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
-        // Of the buttons of a group Qt lets the tabulator reach only the checked one.
+        // In a group of buttons Qt lets the Tab key reach only the checked one.
         const bool takesKeys =
             (widget->focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QAbstractButton *>(widget) != nullptr;
         if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && takesKeys) {

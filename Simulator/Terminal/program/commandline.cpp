@@ -25,7 +25,7 @@ QString readUnits(const QString &text, CommandLine &line)
     return {};
 }
 
-/// Two numbers, set off by a comma.
+/// Two numbers, separated by a comma.
 std::optional<QPointF> readPair(const QString &text)
 {
     const QStringList parts = text.split(QLatin1Char(','));
@@ -146,7 +146,7 @@ QString checkDrive(const QCommandLineParser &parser)
     return parser.positionalArguments().isEmpty() ? QStringLiteral("--drive needs a prescription to drive") : QString();
 }
 
-/// What is chosen in the open window is not named beside it.
+/// What --open lets the operator choose must not be given as an option, too.
 QString checkOpen(const QCommandLineParser &parser)
 {
     for (const QString &option : {columnsOption, sourceUnitsOption, layerOption, taskOption}) {
@@ -167,7 +167,7 @@ QString checkCheck(const QCommandLineParser &parser)
     return parser.positionalArguments().isEmpty() ? QStringLiteral("--check needs a prescription to check") : QString();
 }
 
-/// What says how prescriptions are read needs one.
+/// Options on how prescriptions are read need a prescription.
 QString checkPrescription(const QCommandLineParser &parser)
 {
     if (parser.positionalArguments().contains(QString()))

@@ -46,9 +46,9 @@ struct CommandLine {
     bool json = false;
     bool wantsHelp = false;
 
-    /// The operator uses the display: it is not a task that ends by itself.
+    /// Whether the operator uses the display, rather than a task that ends by itself.
     bool isInteractive() const;
-    /// What was asked for goes to standard output, not to a file or the display alone.
+    /// Whether the answer goes to standard output, not only to a file or the display.
     bool printsAnswer() const;
 
     /// `arguments` begin with the program's name.

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// Both write a line at once. It stays one line, and leaves the shell's window as it is, whatever bytes a file or a
-// library brought into it: control characters are written as question marks.
+// Both write a line at once. Control characters are written as question marks: whatever bytes a file or a library put
+// into it, it stays one line and does not disturb the shell's window.
 
 /// On standard output.
 void writeOutputLine(const QString &line);

@@ -4,22 +4,22 @@
 
 #include <sys/types.h>
 
-/// Tries, before Qt does, whether the display can be opened: Qt aborts where it cannot. A child process tries it,
-/// silently, and stays connected while this lives: a display server without clients may start anew, and would refuse
-/// whoever comes at that moment.
+/// Tries, before Qt does, whether the display can be opened: Qt aborts where it cannot. A child process tries it
+/// silently, and stays connected while this lives: a display server without clients may restart, and refuse a client
+/// that comes at that moment.
 class DisplayProbe {
 public:
-    /// `program`: argv[0]. Make it before there is any thread.
+    /// `program`: argv[0]. Make this before any thread is started.
     explicit DisplayProbe(char *program);
     ~DisplayProbe();
 
-    /// Where no process can be made, the display is taken for granted.
+    /// True also when no child process can be made.
     bool canOpen() const { return isOpen; }
 
 private:
     Q_DISABLE_COPY(DisplayProbe)
 
     pid_t child = -1;
-    int holding = -1; ///< The child goes when this end of a pipe is closed.
+    int holding = -1; ///< The child ends when this end of a pipe is closed.
     bool isOpen = true;
 };

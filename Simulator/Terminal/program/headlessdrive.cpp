@@ -61,7 +61,7 @@ QString writingProblem(const QString &path)
     return probe.open(QIODevice::WriteOnly) ? QString() : probe.errorString();
 }
 
-/// Why what the drive is to write must not be; one line with the file's name.
+/// Why the drive must not write what it is to write; one line with the file's name.
 QString outputProblem(const CommandLine &line)
 {
     for (const QString &output : {line.drive, line.record}) {
@@ -129,7 +129,7 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     const QString recordError = recorder.stop();
     if (!line.record.isEmpty() && recordError.isEmpty())
         writeOutputLine(QStringLiteral("%1: record written").arg(line.record));
-    // Afterwards, so that the drive that is reported is the same with and without.
+    // Afterwards, so that the reported drive is the same with tuning and without.
     const std::vector<FieldDrive::Curve> curves =
         line.tune ? FieldDrive(simulation, path.value).tune(ProgressLine("tuning")) : std::vector<FieldDrive::Curve>();
     const QString files = line.prescriptions.join(QStringLiteral(", "));

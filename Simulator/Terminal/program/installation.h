@@ -5,7 +5,7 @@
 /// What comes with the program, where it is installed and in the build's own folder alike. Needs a QCoreApplication.
 namespace Installation {
 
-/// Where plug-ins are searched: the folder that is named, if any, else that of the program.
+/// Where plug-ins are searched for: the folder `named`, if any, else the program's own.
 QDir plugins(const QString &named);
 /// The images that plug-ins and widgets draw.
 QDir images();

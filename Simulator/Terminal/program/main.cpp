@@ -22,7 +22,7 @@ int complain(const QString &reason)
     return 1;
 }
 
-/// Nobody may take for complete what could not be printed.
+/// Output that could not be printed in full must not pass for complete.
 int end(const QString &error)
 {
     const QString problem = error.isEmpty() ? outputProblem() : error;
@@ -32,7 +32,7 @@ int end(const QString &error)
 int check(int &argc, char **argv, const CommandLine &line)
 {
     const QCoreApplication application(argc, argv);
-    // A map check speaks English; what is no language is a mistake all the same.
+    // A map check speaks English, but an unknown language is still a mistake.
     const QString error =
         line.language.isEmpty() ? QString() : Languages::problem(line.language, Installation::plugins(line.pluginDir));
     if (!error.isEmpty())
@@ -75,7 +75,7 @@ int main(int argc, char *argv[])
     if (probe && !probe->canOpen())
         return complain(QStringLiteral("there is no display that can be opened; start it under xvfb-run"));
 
-    int kept = 1; // The options are the program's own, Qt is to take none of them.
+    int kept = 1; // The options are the program's own; Qt must not take any.
     const double scale = OwnLooks::fixResolution();
     OpenGlCheck::chooseKind();
     QApplication application(kept, argv);

@@ -30,7 +30,7 @@ std::optional<Feed> feedOf(const Terminal &terminal, int number)
     return {};
 }
 
-/// The point on another plane that shows the same place; nothing where that does not reach it.
+/// The point on another plane that shows the same place; nothing where that plane does not reach it.
 std::optional<QPointF> onPlane(const QPointF &field, const QPointF &shown, const QPointF &other)
 {
     if (shown == other)

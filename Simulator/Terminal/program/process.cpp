@@ -18,8 +18,8 @@ namespace {
 bool wasOutputClosed = false;
 bool isDisplayWatched = false;
 
-/// Qt's own code cannot be unwound when a script's text or list outgrows the memory; that must be a plain error, too.
-/// Nor can it when a plug-in throws: that is the plug-in's fault, and said before the end.
+/// Exceptions cannot unwind through Qt's own code. When a script's text or list outgrows the memory, that must still be
+/// a plain error; when a plug-in throws, the message says so before the program ends.
 [[noreturn]] void endByException()
 {
     try {
@@ -55,7 +55,7 @@ void dropSettingsOfOtherPrograms()
     const QStringList names = QProcessEnvironment::systemEnvironment().keys();
     for (const QString &name : names) {
         for (const char *prefix : {"CPL_", "GDAL_", "GML_", "KML_", "LIBKML_", "OGR_", "OSR_", "SHAPE_"}) {
-            // Where the library has its own tables is the installation's to say.
+            // Where the library has its own tables is up to the installation.
             if (name.startsWith(QLatin1String(prefix)) && name != QLatin1String("GDAL_DATA"))
                 qunsetenv(name.toLocal8Bit().constData());
         }
@@ -77,7 +77,7 @@ void endWithoutDisplay()
 void Process::prepare()
 {
     reserveStandardStreams();
-    // A limit of a file's size is told like a full disk.
+    // A file-size limit is then reported like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     dropSettingsOfOtherPrograms();
     std::set_terminate(endByException);
@@ -85,7 +85,7 @@ void Process::prepare()
 
 QString Process::openFilesProblem()
 {
-    // Half of them are open at one time when a script loads a map.
+    // Half as many are open at one time when a script loads a map.
     constexpr int needed = 32;
     std::vector<int> opened;
     int handle = dup(STDERR_FILENO);

@@ -2,7 +2,7 @@
 
 #include "Backend/ratesource.h"
 
-/// Unit of the file, "lb/ac"; what it is taken as where it is not known.
+/// Unit of the file, "lb/ac"; where that is not known, the unit that it is taken as.
 QString fileUnitText(const RateSource &source);
 /// The unit of a column and what told it: "lb/ac, from the name".
 QString unitTextOf(const RateSource &source);

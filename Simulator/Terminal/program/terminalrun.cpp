@@ -55,7 +55,7 @@ QStringList withoutRepetition(const QStringList &paths)
     return files;
 }
 
-/// As many digits as files write.
+/// The rate with as many digits as files write.
 QString rateText(double rate)
 {
     return QString::number(rate, 'g', 12);
@@ -81,7 +81,7 @@ QString placeRatesText(const RateSource &source)
         : QStringLiteral("default rate %1 %2 (%3)").arg(rateText(rates.defaultRate()), source.baseUnit, list);
 }
 
-/// What feeds which product in the end: a later file may have taken a product over.
+/// Prints what feeds which product in the end: a later file may have taken a product over.
 void printFeeds(const Terminal &terminal, const LoadReport &report)
 {
     const QMap<int, QString> feeds = terminal.columnsOf(report.group);
@@ -122,7 +122,7 @@ QString openAll(Terminal &terminal, const QStringList &paths, const CommandLine 
     return {};
 }
 
-/// Where the product shown first has no map, shows the first one that has.
+/// If the product shown first has no map, shows the first product that has one.
 void showFedProduct(Terminal &terminal)
 {
     if (!terminal.activeColumn().isEmpty())
@@ -135,7 +135,7 @@ void showFedProduct(Terminal &terminal)
         terminal.machine()->setActiveProduct(*std::min_element(fed.cbegin(), fed.cend()));
 }
 
-/// What is shown at the points asked for; the reason when one has no place in the field.
+/// Prints what is shown at the points asked for; the reason when one has no place in the field.
 QString describePoints(Terminal &terminal, const CommandLine &line)
 {
     const auto nameOf = [](const QPointF &point) {
@@ -163,7 +163,7 @@ QString runScript(Terminal &terminal, const QString &path)
     return runner.run(path);
 }
 
-/// Shows the open window; a task finds it with what the first file holds.
+/// Shows the open window, and waits until it shows what the first file holds, so that a task finds it so.
 void showOpenWindow(Terminal &terminal, const QStringList &files)
 {
     OpenWindow *window = terminal.openWindow();
@@ -179,7 +179,7 @@ QSize firstSize(Terminal &terminal, const CommandLine &line, double scale)
 {
     if (scale > 0.0)
         return (scale * QSizeF(TerminalWindow::displaySize)).toSize();
-    // What a task shows is as large everywhere.
+    // A task's display has the same size everywhere.
     return line.isInteractive()
         ? ScreenMemory(terminal.remembered()->values()).sizeOn(QGuiApplication::primaryScreen()->availableSize())
         : TerminalWindow::displaySize;
@@ -208,7 +208,7 @@ QString languageFor(const CommandLine &line, const QDir &pluginFolder)
     return Languages::suiting(line.isInteractive() ? QLocale::system().uiLanguages() : QStringList(), pluginFolder);
 }
 
-/// What does not end the run.
+/// Reports a complaint that does not end the run.
 void tell(const QString &complaint)
 {
     if (!complaint.isEmpty())
@@ -239,7 +239,7 @@ QString runTerminal(const CommandLine &line, double scale)
     terminal.openWindow()->offerSample(Installation::sampleField());
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();
-    // No time passes but what is driven: each drive begins at the same moment.
+    // Time passes only while driving, so that each drive begins at the same moment.
     if (!isShown)
         terminal.simulation()->setTimeFactor(0.0);
     if (isShown)

@@ -4,12 +4,12 @@
 
 class QWidget;
 
-/// Tells when a control has taken a finger's hold as a long touch. On the user-interface thread.
+/// Knows when a control has taken a held finger as a long touch. On the user-interface thread.
 class LongTouchWatch : public QObject {
     Q_OBJECT
 
 public:
-    /// `control` is watched from now on; not owned, may go.
+    /// `control` is watched from now on; it is not owned and may be deleted.
     explicit LongTouchWatch(QObject *control);
 
     /// The control has sent its signal longTouch(int), or has opened a dialog on it and runs that.

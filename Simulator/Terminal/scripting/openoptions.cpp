@@ -12,7 +12,8 @@ const QString unitsOption = QStringLiteral("units");
 const QString layerOption = QStringLiteral("layer");
 const QString taskOption = QStringLiteral("task");
 
-/// What a list of a script names for the products; null and undefined leave a product out, as an empty text does.
+/// The names that a script's list gives for the products; null and undefined leave a product out, as an empty text
+/// does.
 Result<QStringList> namesIn(const QJSValue &list, const QString &option)
 {
     const quint32 count = list.property(QStringLiteral("length")).toUInt();
@@ -31,7 +32,7 @@ Result<QStringList> namesIn(const QJSValue &list, const QString &option)
     return {names, {}};
 }
 
-/// What one option of open() names; nothing without it.
+/// The list that one option of open() gives; empty without it.
 Result<QStringList> listIn(const QJSValue &options, const QString &option)
 {
     const QJSValue value = options.property(option);

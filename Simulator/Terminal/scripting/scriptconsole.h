@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 
-/// What a script writes.
+/// Where a script writes.
 class ScriptConsole : public QObject {
     Q_OBJECT
 

@@ -4,8 +4,8 @@
 #include <QPointer>
 #include <QString>
 
-/// A control of the display as a script sees it. It lives on the script's thread and asks the user-interface thread
-/// for everything. A control that went away is looked up again by its name.
+/// A control of the display as a script sees it. It lives on the script's thread and asks the user-interface thread for
+/// everything. A control that has gone is looked up again by its name.
 class ScriptControl : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString text READ text)
@@ -36,8 +36,8 @@ public:
     Q_INVOKABLE void touch();
     /// The same, held until the control has taken it as a long touch.
     Q_INVOKABLE void longTouch();
-    /// Touches a field, types `text` in place of what it holds, and finishes. A field that takes no touch stays as it
-    /// is.
+    /// Touches a field, types `text` in place of what it holds, and finishes. A field that cannot be touched stays as
+    /// it is.
     Q_INVOKABLE void enter(const QString &text);
 
 Q_SIGNALS:

@@ -28,7 +28,7 @@ Result<double> numberIn(const QJSValue &options, const QString &name, double usu
                             : Result<double>::failure(QStringLiteral("\"%1\" is no number").arg(name));
 }
 
-/// What the options of follow() leave open is as `usual`.
+/// The options of follow(); what they leave open is taken from `usual`.
 Result<SwathOptions> swathsIn(const QJSValue &options, const SwathOptions &usual)
 {
     SwathOptions swaths = usual;
@@ -194,7 +194,7 @@ void ScriptDriving::run(double seconds)
         fail(QStringLiteral("cannot run %1 s").arg(seconds));
         return;
     }
-    // In pieces, so that the display lives and an interrupt ends it.
+    // In pieces, so that the display stays alive and an interrupt ends it.
     constexpr double piece = 10.0;
     for (double left = seconds; left > 0.0 && !isInterrupted->load(); left -= piece) {
         onGui([&] { terminal->simulation()->run(std::min(left, piece)); });

@@ -15,8 +15,8 @@ class ScriptDriving : public QObject {
     Q_PROPERTY(QJSValue machine READ machine)
 
 public:
-    /// `terminal` lives on the user-interface thread and outlives the script; a set `isInterrupted` ends what takes
-    /// long.
+    /// `terminal` lives on the user-interface thread and outlives the script; setting `isInterrupted` ends calls that
+    /// take long.
     ScriptDriving(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent = nullptr);
 
     /// A ScriptMachine.

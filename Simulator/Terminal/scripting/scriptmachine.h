@@ -6,7 +6,7 @@
 
 class Terminal;
 
-/// The script's object `terminal.machine`: how the machine stands now. It lives on the script's thread, as
+/// The script's object `terminal.machine`: the present state of the machine. It lives on the script's thread, as
 /// ScriptTerminal does.
 class ScriptMachine : public QObject {
     Q_OBJECT
@@ -21,7 +21,7 @@ class ScriptMachine : public QObject {
     Q_PROPERTY(QString mode READ mode)
     /// Square metres worked so far.
     Q_PROPERTY(double worked READ worked)
-    /// The way that it follows is at its end.
+    /// Whether the way that it follows is at its end.
     Q_PROPERTY(bool arrived READ arrived)
     /// Simulated seconds in a real one; 0 pauses.
     Q_PROPERTY(QJSValue timeFactor READ timeFactor WRITE setTimeFactor)

@@ -17,12 +17,12 @@
 
 namespace {
 
-/// Of a script's file; nobody writes a longer one.
+/// Greatest size of a script's file; nobody writes a longer one.
 constexpr qint64 mostBytes = qint64(16) << 20;
-/// How long calls of a script that is being ended wait for their answer at most, milliseconds.
+/// The longest that calls of a script that is being ended wait for their answer, milliseconds.
 constexpr unsigned long answerSlice = 10;
 
-/// A popup or dialog that nobody answers any more would keep its event loop, and with it the program, without end.
+/// Closes popups and dialogs that nobody will answer: their event loops would keep the program running forever.
 void closeDialogs()
 {
     while (QWidget *popup = QApplication::activePopupWidget())

@@ -43,7 +43,7 @@ QString reasonOf(int code, const QString &group, const QString &property)
     }
 }
 
-/// The classes that are drawn, which come first, each with its area.
+/// The classes that are drawn (they come first in a legend), each with its area.
 QVariantList plainLegend(const QList<OrvikTypes::RX_RATECOLOR> &legend, const QList<double> &areas)
 {
     QVariantList classes =
@@ -106,7 +106,7 @@ QVariantMap lonLat(const QPointF &degrees)
     return {{QStringLiteral("lon"), degrees.x()}, {QStringLiteral("lat"), degrees.y()}};
 }
 
-/// The legend of the active product's column, else of the first one.
+/// Describes a load; `legend` is that of the active product's column, else that of the first column.
 QVariantMap describe(const LoadReport &report, const QString &activeColumn)
 {
     QVariantList legends;
@@ -143,7 +143,7 @@ QJSValue ScriptTerminal::activeProduct() const
 
 void ScriptTerminal::setActiveProduct(const QJSValue &number)
 {
-    // What is no whole number would be rounded, or wrapped, to a product that nobody asked for.
+    // A number that is not whole would be rounded or wrapped to a product that nobody asked for.
     const bool isWhole = number.isNumber() && number.toNumber() == double(number.toInt());
     if (!isWhole || !onGui([&] { return terminal->machine()->setActiveProduct(number.toInt()); }))
         fail(QStringLiteral("no product %1").arg(number.toString()));

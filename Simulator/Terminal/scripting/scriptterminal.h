@@ -12,7 +12,7 @@ class ScriptTerminal : public ScriptDriving {
     Q_PROPERTY(QJSValue activeProduct READ activeProduct WRITE setActiveProduct)
 
 public:
-    /// `terminal` lives on the user-interface thread and outlives the script; a set `isInterrupted` ends wait().
+    /// `terminal` lives on the user-interface thread and outlives the script; setting `isInterrupted` ends wait().
     ScriptTerminal(Terminal *terminal, const std::atomic<bool> *isInterrupted, QObject *parent = nullptr);
 
     QJSValue activeProduct() const;

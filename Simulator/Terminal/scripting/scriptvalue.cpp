@@ -92,7 +92,7 @@ QVariant plain(const RX_DBFCOLUMN_TO_RATECAL_MAPPING &entry)
                        {QStringLiteral("auxNumber2"), entry.auxNumber2}};
 }
 
-/// As the broker takes a value: nothing is lost by it.
+/// Takes a value as the broker does: only if nothing is lost.
 template <typename T> bool take(const QVariant &value, T &target)
 {
     QVariant converted;

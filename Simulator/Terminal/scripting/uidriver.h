@@ -8,8 +8,8 @@
 
 class QObject;
 
-/// What a finger or an eye at the display can tell of a control: a widget, or an item of the guidance page. All on the
-/// user-interface thread; a null control has nothing to tell.
+/// What a finger or an eye at the display can do with a control or learn of it; a control is a widget or an item of the
+/// guidance page. All on the user-interface thread; a null control gives empty answers.
 class UiDriver {
 public:
     /// The control of that object name in the topmost window that has one, visible ones first; null when there is none.

@@ -8,7 +8,7 @@
 namespace {
 
 const double halfAngle = qDegreesToRadians(20.0);
-// From straight down; small enough that the horizon stays out of the view.
+// Measured from straight down; small enough to keep the horizon out of the view.
 const double tilt = qDegreesToRadians(32.0);
 const double sinTilt = std::sin(tilt);
 const double cosTilt = std::cos(tilt);

@@ -28,7 +28,7 @@ public:
 
     /// Looks at `field` (metres) so that all of it lies in `free`, the part of the view that nothing covers (pixels).
     void frame(const QRectF &field, const QRectF &free);
-    /// Moves so that the field point under `from` comes under `to`.
+    /// Moves so that the field point seen at `from` is then seen at `to`.
     void pan(const QPointF &from, const QPointF &to);
     /// Comes nearer by `factor` (above 1) or moves away (below 1); the field point under `anchor` stays where it is.
     void zoom(double factor, const QPointF &anchor);

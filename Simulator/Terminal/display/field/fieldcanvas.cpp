@@ -61,7 +61,7 @@ QImage FieldCanvas::draw(FieldScene &scene, const Camera &camera, FieldScene::Ai
     QImage image = (resolved ? resolved : drawn)->toImage();
     drawn->release();
     doneCurrent();
-    // The ground covers everything; OpenGL ES has the bytes in another order.
+    // The ground covers everything, so every pixel is opaque; OpenGL ES has the bytes in another order.
     if (image.format() == QImage::Format_ARGB32_Premultiplied && image.reinterpretAsFormat(QImage::Format_RGB32))
         return image;
     return image.convertToFormat(QImage::Format_RGB32);

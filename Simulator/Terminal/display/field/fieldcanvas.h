@@ -22,8 +22,7 @@ public:
     void makeCurrent();
     void doneCurrent() { context.doneCurrent(); }
 
-    /// How edges look: Smooth takes several samples for each pixel where the driver has them; Plain takes the one in
-    /// its middle.
+    /// How edges look: Smooth takes several samples per pixel where the driver can; Plain takes one in its middle.
     enum class Edges { Plain, Smooth };
     /// One frame of `scene` as `camera` sees it, in `pixels`. Null without a context.
     QImage draw(FieldScene &scene, const Camera &camera, FieldScene::Aids aids, const QSize &pixels, Edges edges);

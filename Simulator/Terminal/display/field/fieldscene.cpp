@@ -83,7 +83,7 @@ void FieldScene::draw(const Camera &camera, Aids shown)
         setGuestState(target);
         drawable->draw(matrix);
     }
-    // Guests may leave anything behind; what reads the frame afterwards starts from known ground.
+    // Guests may leave any state behind; what reads the frame afterwards starts from a known one.
     setGuestState(target);
     glUseProgram(0);
 }

@@ -180,7 +180,7 @@ void FieldView::resizeEvent(QResizeEvent *)
 void FieldView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    // The pixels that are seen: those of the screen, on which the display may be drawn larger or smaller.
+    // In pixels of the screen, on which the display may be drawn larger or smaller.
     const QTransform toPixels = painter.deviceTransform();
     const QRect pixels = toPixels.mapRect(QRectF(rect())).toRect();
     const QImage frame = canvas.draw(scene, eye, FieldScene::Aids::Shown, pixels.size(), FieldCanvas::Edges::Smooth);

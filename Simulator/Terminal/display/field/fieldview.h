@@ -16,15 +16,15 @@ class FieldView : public QWidget {
     Q_OBJECT
 
 public:
-    /// How much nearer one step brings.
+    /// The factor by which one step brings the camera nearer.
     static constexpr double zoomStep = 1.5;
 
     explicit FieldView(QWidget *parent = nullptr);
     ~FieldView() override;
 
-    /// Whether the display has OpenGL; from when the view is first shown.
+    /// Whether the display has OpenGL; known once the view has been shown.
     bool isValid() const { return canvas.isValid(); }
-    /// What guests draw with; not before the view is first shown.
+    /// Makes the context that guests draw with current; not before the view has been shown.
     void makeCurrent() { canvas.makeCurrent(); }
     void doneCurrent() { canvas.doneCurrent(); }
 
@@ -40,16 +40,16 @@ public:
     void frame(const QRectF &field);
     /// Comes nearer by `factor` towards the middle of the free area.
     void zoom(double factor);
-    /// Moves the map under the view, as a finger does that drags it so many pixels.
+    /// Moves the map under the view, as a finger does that drags it by `pixels`.
     void pan(const QPointF &pixels);
     /// Touches the ground in the middle of the free area.
     void touchMiddle();
     /// Brings a field point into the middle of the free area, as near as before.
     void lookAt(const QPointF &field);
-    /// What is drawn at a field point: ground and maps, without the host's drawing aids. The pixel is the one of the
-    /// view as it looks now; a point outside of it is looked at by a camera moved there. Black without OpenGL.
+    /// What is drawn at a field point: ground and maps, without the host's drawing aids. Where the view shows the
+    /// point, the pixel is the view's; for any other point a camera is moved there. Black without OpenGL.
     QColor colorAt(const QPointF &field);
-    /// Colours are read again by the next colorAt(): something that is drawn has changed.
+    /// Something that is drawn has changed: the next colorAt() reads the colours again.
     void forgetColors();
 
 Q_SIGNALS:

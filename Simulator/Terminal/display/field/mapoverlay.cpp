@@ -81,7 +81,7 @@ void MapOverlay::showBubble(const QPointF &field, const QString &newText, const 
     bubbleAt = field;
     text = newText;
     bubbleColor = color;
-    // Whoever touches the map elsewhere is done with what is marked.
+    // A touch elsewhere means that the operator is done with what is marked.
     if (!mark.contains(field))
         mark = QRectF();
     pace.request();

@@ -16,15 +16,15 @@
 class QPainter;
 
 /// What lies over the map without being touched: the field's boundary, vehicle, look-ahead point, north arrow, scale
-/// bar and the bubble at the touched point. Drawing it draws the map below it once more, so a vehicle and bubbles that
-/// change faster than frames share one.
+/// bar and the bubble at the touched point. Drawing it redraws the map below it, so changes of the vehicle and bubbles
+/// that come faster than frames share one.
 class MapOverlay : public QWidget {
     Q_OBJECT
 
 public:
     explicit MapOverlay(QWidget *parent = nullptr);
 
-    /// Drawn at once, in step with the view that `camera` is of.
+    /// Draws at once, in step with the view whose camera this is.
     void setCamera(const Camera &camera);
     /// The part of the view between the panels, pixels.
     void setFreeArea(const QRectF &area);
@@ -34,13 +34,13 @@ public:
     void setVehicle(const QPointF &place, double heading);
     /// The field's boundary, rings in metres; none where it is not known.
     void setBoundary(const QList<QPolygonF> &rings);
-    /// Where the active product's rate is asked for (metres); nothing where it is not.
+    /// Where the active product's rate is asked for (metres); nothing when it is not.
     void setLookAhead(const std::optional<QPointF> &field);
     /// Shows `text` at a field point with the colour of its class, as it looks on the ground; an empty text takes the
     /// bubble away.
     void showBubble(const QPointF &field, const QString &text, const QColor &color);
 
-    /// Marks the point that a key touches, the middle of the free area, or does no longer.
+    /// Whether to mark the point that a key touches, the middle of the free area.
     void setAimed(bool isAimed);
     /// Outlines `extent` (metres, top = least y) and points at `place` in it; a null extent takes the mark away.
     void setMark(const QRectF &extent, const QPointF &place);

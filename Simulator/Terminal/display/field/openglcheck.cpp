@@ -23,7 +23,7 @@ namespace {
 bool canLinkShaders(QOpenGLFunctions &gl)
 {
     const GLuint program = gl.glCreateProgram();
-    // A program links without a shader that could not be made.
+    // A program also links when a shader could not be made.
     GLint isLinked = GL_TRUE;
     for (const auto &[kind, path] : std::initializer_list<std::pair<GLenum, const char *>>{
              {GL_VERTEX_SHADER, ":/colorpoly_vert.glsl"}, {GL_FRAGMENT_SHADER, ":/colorpoly_frag.glsl"}}) {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Tries what the map needs of the display's OpenGL before anything is shown.
+/// Tries out, before anything is shown, what the map needs of the display's OpenGL.
 namespace OpenGlCheck {
 
 /// Takes OpenGL ES 2 where the environment says QT_OPENGL=es2, as Qt does on other systems; to be called before there

@@ -7,9 +7,10 @@
 namespace {
 
 constexpr int restMs = 1000;
-/// Blocks from this size on are had from the system one by one, and given back when they are freed, bytes.
+/// Blocks of at least this size (bytes) come from the system one by one and go back to it when they are freed.
 constexpr int largeBlock = 1 << 20;
-/// So much that is free at the heap's end is kept: a frame's triangles would else be had anew for each frame, bytes.
+/// This much free memory at the heap's end (bytes) is kept; otherwise every frame would fetch the memory for its
+/// triangles from the system again.
 constexpr int keptHeap = 1 << 26;
 
 } // namespace
@@ -17,8 +18,8 @@ constexpr int keptHeap = 1 << 26;
 RestingMemory::RestingMemory(FieldCanvas &fieldCanvas)
     : canvas(fieldCanvas)
 {
-    // Left to itself the allocator comes to keep blocks of up to 32 MB, most of all those of a loading thread, which it
-    // never gives back: 150 bytes for each cell of a map.
+    // By default the allocator comes to keep blocks of up to 32 MB. Most belong to loading threads, and it never gives
+    // those back: 150 bytes for each cell of a map.
     mallopt(M_MMAP_THRESHOLD, largeBlock);
     mallopt(M_TRIM_THRESHOLD, keptHeap);
     rest.setSingleShot(true);
@@ -29,6 +30,6 @@ RestingMemory::RestingMemory(FieldCanvas &fieldCanvas)
 void RestingMemory::giveBack()
 {
     canvas.forgetFrame();
-    // What was freed lies between what is kept, where the allocator leaves it.
+    // Memory that was freed between blocks in use stays with the allocator unless it is asked.
     malloc_trim(0);
 }

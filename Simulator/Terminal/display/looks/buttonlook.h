@@ -5,21 +5,21 @@
 class QAbstractButton;
 class QWidget;
 
-/// What a button or a row of a list is painted with in the state that it is in: colours of the theme in use.
+/// The colours of the theme in use that a button or a list row is painted with in its present state.
 struct ButtonLook {
     QColor ground;
     QColor text;
     QColor note;
     /// Symbols, and words that stand out.
     QColor mark;
-    /// The ground is the accent.
+    /// Whether the ground has the accent colour.
     bool isOnAccent = false;
 
-    /// Whether touches do not get to the control: it is disabled, or a modal dialog keeps them away.
+    /// Whether touches do not reach the control: it is disabled, or a modal dialog keeps them away.
     static bool isOutOfReach(const QWidget &control);
 
     enum class Checked { ByAccent, ByOther };
 
-    /// `checked` says whether the ground tells that the button is checked.
+    /// `checked` says whether the ground shows that the button is checked.
     static ButtonLook of(const QAbstractButton &button, Checked checked);
 };

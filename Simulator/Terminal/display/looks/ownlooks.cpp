@@ -18,7 +18,7 @@ const QColor ink(0, 0, 0);
 const QColor faintInk(110, 118, 126);
 const QColor highlight(11, 85, 144);
 
-/// Every role in every group is set: what is left out would be the desktop's.
+/// Sets every role in every group: any left out would come from the desktop.
 QPalette lightPalette()
 {
     QPalette palette(ink, page, Qt::white, page.darker(160), page.darker(125), ink, Qt::white, field, page);

@@ -4,8 +4,8 @@
 /// which captions are sized in points beside controls that are placed in pixels.
 namespace OwnLooks {
 
-/// Makes a point 4/3 pixels on every screen; to be called before there is an application. Returns how many times the
-/// display is to be as large at first as QT_SCALE_FACTOR asks for; 0 where it asks for nothing.
+/// Makes a point 4/3 pixels on every screen; to be called before there is an application. Returns the scale of the
+/// display's first size that QT_SCALE_FACTOR asks for; 0 where it asks for none.
 double fixResolution();
 
 /// Gives the application its style and its light palette.

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// How much of the text fits into a line: up to the end of a word if one ends there.
+/// How many characters of the text fit into a line, up to the end of a word if possible.
 int fitting(const QString &text, const QFontMetrics &metrics, int width)
 {
     // Bisected: a name may be as long as its file likes, and each piece is laid out anew.

@@ -3,10 +3,10 @@
 #include <QFontMetrics>
 #include <QStringList>
 
-/// A text that is longer than a line on several ones.
+/// Breaks a text that is longer than a line into several.
 class TextLines {
 public:
-    /// On `most` lines of `width` pixels at most, broken between words where that is possible; what is too long even so
+    /// The text on at most `most` lines of `width` pixels, broken between words where possible; what is still too long
     /// is shortened in the middle of the last line.
     static QStringList of(const QString &text, const QFontMetrics &metrics, int width, int most);
 };

@@ -8,8 +8,8 @@ class QPainter;
 class QRectF;
 
 /// Colours, sizes and type of all that the terminal paints itself: its panels, pages and the ground under the map. By
-/// day light panels with dark figures, by night dark ones, so that the map is the brightest thing on the display.
-/// Plug-ins and their dialogs keep the looks of the application (OwnLooks).
+/// day panels are light with dark figures; by night they are dark, so that the map is the brightest thing on the
+/// display. Plug-ins and their dialogs keep the looks of the application (OwnLooks).
 namespace Theme {
 
 enum class Kind { Day, Night };
@@ -18,7 +18,7 @@ enum class Kind { Day, Night };
 struct Colors {
     QColor panel;         ///< not quite opaque: the map shows through
     QColor button;        ///< and rows of lists
-    QColor pressedButton; ///< text() alone is written on it
+    QColor pressedButton; ///< only text() is written on it
     QColor disabledButton;
     QColor accent;
     QColor text; ///< on panel and buttons
@@ -26,10 +26,10 @@ struct Colors {
     QColor disabledText; ///< on panel and disabledButton
     QColor accentText;   ///< on panel and button
     QColor textOnAccent;
-    QColor caution; ///< ground of what the operator is to see to
+    QColor caution; ///< ground of what needs the operator's attention
     QColor textOnCaution;
-    QColor prescribed; ///< of a plot's line, of the same hue by day and by night, as is
-    QColor applied;    ///< that beside it
+    QColor prescribed; ///< a plot's line; the same hue by day and by night, as is
+    QColor applied;    ///< the line beside it
     QColor ground;     ///< under the map
     QColor groundLine; ///< of the grid on the ground
 };
@@ -39,7 +39,7 @@ const Colors &colors(Kind kind);
 /// The whole display has one theme: day, until another one is taken by TerminalWindow::setTheme().
 Kind inUse();
 void use(Kind kind);
-/// What suits a desktop of these colours.
+/// The theme that suits a desktop of these colours.
 Kind suiting(const QPalette &desktop);
 /// Of the theme in use, for the labels of the terminal.
 QPalette palette();
@@ -47,9 +47,9 @@ QPalette palette();
 constexpr int margin = 12;
 /// The display stands for a panel of 10.1 inches with 1280 × 800 pixels.
 constexpr double millimetresPerPixel = 0.17;
-/// The edge of what a gloved finger is to hit, pixels.
+/// Side of what a gloved finger must hit, pixels.
 constexpr int touchTarget = 72;
-/// What no edge may be below, millimetres.
+/// No side may be shorter than this, millimetres.
 constexpr double leastTouchTarget = 9.0;
 
 /// Of the theme in use.
@@ -75,11 +75,12 @@ QFont font(int pixels, bool bold = false);
 
 /// Fills a rounded panel.
 void drawPanel(QPainter &painter, const QRectF &area, const QColor &color);
-/// Whether what has the keyboard is marked: a finger has no use for that. False where it was so already. By design one
-/// for the whole program, as the theme is: there is one operator, and controls of every window draw themselves by it.
+/// Sets whether the control that has the keyboard is marked: a finger has no use for that. False if that was so
+/// already. By design one for the whole program, as the theme is: there is one operator, and controls of every window
+/// draw themselves by it.
 bool showFocus(bool isShown);
 bool isFocusShown();
-/// Frames what has the keyboard.
+/// Draws the frame around the control that has the keyboard.
 void drawFocus(QPainter &painter, const QRectF &area, bool onAccent);
 
 } // namespace Theme

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int textPixels = 24;
 constexpr int notePixels = 15;
-/// A longer text goes on in another line.
+/// A text is made no smaller than this; a longer one goes on in another line.
 constexpr int leastPixels = 15;
 constexpr int inset = 10;
 

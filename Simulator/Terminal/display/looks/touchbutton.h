@@ -6,7 +6,7 @@
 struct ButtonLook;
 
 /// A big flat button of the terminal's own panels. A checked one carries the accent colour, one that has the keyboard a
-/// frame of it. The tabulator reaches it, Enter and Space touch it; arrows are left to what it lies on.
+/// frame in that colour. Tab reaches it, Enter and Space touch it; arrow keys are left to what it lies on.
 class TouchButton : public QAbstractButton {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
 
     /// A second, smaller line under the text.
     void setNote(const QString &note);
-    /// Whether it stands out as something that the operator is to see to.
+    /// Whether it stands out as something that needs the operator's attention.
     void setCaution(bool isWanted);
     bool isCaution() const { return wantsCaution; }
     /// A picture in place of the text, which then only names the button.

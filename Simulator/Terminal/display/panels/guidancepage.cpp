@@ -29,11 +29,11 @@ GuidancePage::GuidancePage(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    // Not by a style sheet, which a plug-in's widgets would come to know of.
+    // Not by a style sheet, which would reach a plug-in's widgets.
     viewport()->setAutoFillBackground(false);
     setRenderHint(QPainter::SmoothPixmapTransform);
     setFocusPolicy(Qt::TabFocus);
-    // A finger leaves the keyboard where it is.
+    // A touch leaves the keyboard where it is.
     viewport()->setFocusPolicy(Qt::NoFocus);
     setAccessibleName(tr("Guidance page"));
 }
@@ -166,7 +166,7 @@ void GuidancePage::drawForeground(QPainter *painter, const QRectF &)
 
 void GuidancePage::forgetOrphanedPopup()
 {
-    // Whoever was to say that the popup has closed is gone.
+    // The widget that would have said that the popup has closed is gone.
     if (isPopupActive && !popupOwner)
         setPopupActive(false);
 }
@@ -174,7 +174,7 @@ void GuidancePage::forgetOrphanedPopup()
 void GuidancePage::setPopupActive(bool active)
 {
     isPopupActive = active;
-    // What opened it was no short touch, and its lift may go to the popup.
+    // The touch that opened it was not a short one, and the popup may get its lift.
     touchedName.clear();
     isHeldByKey = false;
     for (const Place &place : qAsConst(places)) {
@@ -183,7 +183,7 @@ void GuidancePage::setPopupActive(bool active)
     }
     if (active)
         return;
-    // The finger that opened the popup left the display over it: nothing holds the page's touches afterwards.
+    // The finger that opened the popup was lifted over it: nothing may hold on to the page's touches afterwards.
     if (scene()->mouseGrabberItem() != nullptr)
         scene()->mouseGrabberItem()->ungrabMouse();
     // Later: the widget whose popup has closed is still on the stack.

@@ -22,7 +22,7 @@ constexpr int maxText = 20;
 constexpr int minText = 13;
 const QString rangeDash = QStringLiteral(" \u2013 ");
 
-/// An area or amount with three significant digits or more, none behind the point from a hundred on.
+/// An area or amount with two decimals, one from ten on, none from a hundred on.
 QString sumText(double value)
 {
     const int decimals = value < 10.0 ? 2 : value < 100.0 ? 1 : 0;
@@ -31,7 +31,7 @@ QString sumText(double value)
                                         : ShownNumber::text(value, decimals);
 }
 
-/// So small that all texts fit into `width` pixels, if it stays legible.
+/// A font small enough for all texts to fit into `width` pixels, if it stays legible.
 QFont fittingFont(const QStringList &texts, int pixels, int width, bool isBold)
 {
     const QFontMetrics metrics(Theme::font(pixels, isBold));
@@ -80,7 +80,7 @@ QString LegendPanel::classText(int index) const
     const auto limitOf = [this](int place) {
         return ShownNumber::inLanguage(ShownRate::text(content.classes.at(place).rate * content.factor));
     };
-    // Zero is a class of its own, and no rate is below it.
+    // Zero is a class of its own: no rate is below it.
     if (content.hasSingleRates || content.classes.at(index).rate == 0.0)
         return limitOf(index);
     return index == 0 ? QStringLiteral("\u2264 ") + limitOf(0) : limitOf(index - 1) + rangeDash + limitOf(index);

@@ -21,17 +21,18 @@ public:
         QString product;
         /// The prescription column that feeds it, the file's unit and what told it.
         RateSource source;
-        /// Those that are drawn, limits ascending in base units, none negative; empty when there is no map.
+        /// The classes that are drawn; limits ascend in base units, none is negative; empty when there is no map.
         QList<OrvikTypes::RX_RATECOLOR> classes;
-        /// Every class holds one single rate, its limit; else those above the class before, up to the limit.
+        /// Every class holds one single rate, its limit; if false, a class holds the rates above the previous limit, up
+        /// to its own.
         bool hasSingleRates = false;
-        /// Takes base units to `unit`.
+        /// Converts base units to `unit`.
         double factor = 1.0;
         QString unit;
-        /// What each of the classes covers, in `areaUnit`; neither where it is not known.
+        /// What each class covers, in `areaUnit`; both empty where that is not known.
         QList<double> areas;
         QString areaUnit;
-        /// What the whole map takes; an empty unit for a product whose rates add up to nothing.
+        /// What the whole map takes; the unit is empty for a product whose rates do not add up to an amount.
         double amount = 0.0;
         QString amountUnit;
     };
@@ -48,15 +49,15 @@ private:
     QString classText(int index) const;
     /// "lb/ac from the name".
     QString sourceText() const;
-    /// Less for many classes, so that they fit between the other panels.
+    /// Smaller for many classes, so that they fit between the other panels.
     int rowHeight() const;
     void drawHead(QPainter &painter, const QRect &inner) const;
     void drawClasses(QPainter &painter, const QRect &inner) const;
     void drawFoot(QPainter &painter, const QRect &inner) const;
 
     Content content;
-    /// Beside the colours, lowest class first.
+    /// Texts beside the colours, lowest class first.
     QStringList texts;
-    /// At the right end of the classes' rows.
+    /// Texts at the right end of the classes' rows.
     QStringList areaTexts;
 };

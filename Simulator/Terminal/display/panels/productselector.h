@@ -13,11 +13,11 @@ class ProductSelector : public QWidget {
 public:
     explicit ProductSelector(const Products &products, QWidget *parent = nullptr);
 
-    /// Makes the buttons anew; none of them is active.
+    /// Makes new buttons; none of them is active.
     void setProducts(const Products &products);
-    /// Numbers from 1.
+    /// `number` counts from 1.
     void setActiveProduct(int number);
-    /// The height that the buttons take where there is room for `available` pixels.
+    /// The height that the buttons take when `available` pixels are free.
     int heightWithin(int available) const;
 
 Q_SIGNALS:

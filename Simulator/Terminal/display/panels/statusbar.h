@@ -14,21 +14,21 @@ class StatusBar : public QWidget {
 public:
     explicit StatusBar(QWidget *parent = nullptr);
 
-    /// Puts a button, which becomes the bar's, behind those at its left end. One that is hidden takes no room.
+    /// Adds a button after those at the left end; the bar owns it. A hidden button takes no room.
     void addButton(QAbstractButton *button);
-    /// Puts a button, which becomes the bar's, at its right end. A touch of it is not told by touched().
+    /// Adds a button at the right end; the bar owns it. touched() does not report it.
     void addTool(QAbstractButton *button);
     /// File names of the loaded maps, oldest first.
     void setMaps(const QStringList &names);
     /// Metres per second, below 0 backwards; 0 reads as stopped.
     void setSpeed(double metresPerSecond, bool metric);
-    /// While no time passes, that is told in place of the speed.
+    /// While no time passes, the bar says so in place of the speed.
     void setPaused(bool isPaused);
-    /// `fraction` of `file`'s load; an empty file takes the bar away.
+    /// `fraction` of `file`'s load; an empty file hides the progress.
     void setProgress(const QString &file, double fraction);
 
 Q_SIGNALS:
-    /// After what the button does.
+    /// A button was touched; comes after the button has acted.
     void touched(QAbstractButton *button);
 
 protected:
@@ -36,7 +36,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Where the texts lie: between the buttons that are seen.
+    /// Where the texts lie: between the visible buttons.
     QRect textArea() const;
 
     QHBoxLayout *buttons; ///< Those at the left end, a stretch, the tools.

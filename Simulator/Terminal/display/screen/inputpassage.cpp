@@ -125,10 +125,10 @@ void InputPassage::passKey(QKeyEvent *event)
     QWidget *popup = QApplication::activePopupWidget();
     QWidget *window = popup != nullptr ? popup : windows->foremost();
     QWidget *focused = window->focusWidget();
-    // As Qt sends it: whoever has no use for a key ignores it.
+    // Accepted at first, as when Qt sends it: a widget that has no use for a key ignores it.
     event->accept();
     QCoreApplication::sendEvent(focused != nullptr ? focused : window, event);
-    // What nobody wants of the display may be meant for the window around it.
+    // A key that nothing on the display wants may be meant for the window around it.
     if (!event->isAccepted())
         QCoreApplication::sendEvent(seen, event);
 }

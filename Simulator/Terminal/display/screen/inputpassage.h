@@ -12,8 +12,8 @@ class QTouchEvent;
 class QWheelEvent;
 class UnseenWindows;
 
-/// Passes on what the operator does in the window on the screen to the widgets of the terminal's windows that it shows,
-/// as Qt does with what the desktop sends: Qt itself gives nothing to windows that the desktop does not show.
+/// Passes what the operator does in the window on the screen on to the widgets of the terminal's windows that it shows.
+/// Qt does that for windows that the desktop shows, and gives nothing to others.
 class InputPassage : public QObject {
 public:
     InputPassage(UnseenWindows *windows, QWidget *seen);
@@ -24,7 +24,7 @@ protected:
 private:
     void passMouse(const QMouseEvent &event);
     void passWheel(const QWheelEvent &event);
-    /// Whether somebody took it; Qt makes a mouse's of it where nobody did.
+    /// Whether a widget took it; if none did, Qt turns it into a mouse event.
     bool passTouch(const QTouchEvent &event);
     void passKey(QKeyEvent *event);
     QWidget *widgetAt(const QPointF &pixel) const;
@@ -32,6 +32,6 @@ private:
 
     UnseenWindows *windows;
     QWidget *seen;
-    QPointer<QWidget> pressed; ///< Has the button that is held; all that the pointer does is its until then.
-    QPointer<QWidget> touched; ///< The same of fingers.
+    QPointer<QWidget> pressed; ///< The widget on which a button is held; the pointer's events all go to it.
+    QPointer<QWidget> touched; ///< The same for fingers.
 };

@@ -17,14 +17,14 @@ public:
     /// From the terminal's pixels to the window's.
     QTransform toWindow() const;
     QPointF toTerminal(const QPointF &inWindow) const { return (inWindow - corner) / factor; }
-    /// What of the window shows some of `inTerminal`, no less than whole units.
+    /// The part of the window that shows any of `inTerminal`, rounded up to whole units.
     QRect shownIn(const QRectF &inTerminal) const { return toWindow().mapRect(inTerminal).toAlignedRect(); }
 
-    /// The size that a window has at first on a screen whose free part has this size: the terminal's own, or the
-    /// largest that is whole there; on screens with very many pixels a multiple of it.
+    /// The first size of a window on a screen whose free part has this size: the terminal's own, or the largest that
+    /// fits; on screens with very many pixels a multiple of it.
     static QSize firstSize(const QSize &available);
-    /// Where a window goes that would be at `window` with that frame around it (`available`: the free part of the
-    /// screen): moved, and made smaller in its proportions, as little as has all of it seen.
+    /// Where to put a window that would be at `window` with that frame around it (`available`: the free part of the
+    /// screen): moved, and made smaller in proportion, no more than it takes to see all of it.
     static QRect onScreen(const QRect &window, const QMargins &frame, const QRect &available);
 
 private:

@@ -123,7 +123,7 @@ void ScreenWindow::paintEvent(QPaintEvent *event)
 
 void ScreenWindow::activateForemost()
 {
-    // The desktop knows this window only: it tells the others which of them has the keyboard.
+    // The desktop knows only this window, which tells the others which of them has the keyboard.
     if (isVisible())
         QApplication::setActiveWindow(windows->foremost());
 }

@@ -8,24 +8,24 @@ class InputPassage;
 class TerminalWindow;
 class UnseenWindows;
 
-/// The program's window: shows the terminal's display with all dialogs and popups over it, as large as the window
-/// holds it in its proportions, in front of the ground's colour. F11 and the display's button fill the
-/// screen with it and leave it again, as Escape does.
+/// The program's window. It shows the terminal's display with all dialogs and popups over it, as large as fits in
+/// proportion, on the ground's colour. F11 and the display's button fill the screen with it and end that again; Escape
+/// ends it, too.
 class ScreenWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// `display` is not owned and goes after this object. It and all windows that are shown from now on are seen in
-    /// this window only.
+    /// `display` is not owned and outlives this object. It and all windows that are shown from now on are seen in this
+    /// window only.
     explicit ScreenWindow(TerminalWindow *display);
     ~ScreenWindow() override;
 
     /// The window that shows the terminal's windows; null when none does.
     static ScreenWindow *find();
-    /// Where a pixel of the terminal is seen in this window.
+    /// Where this window shows a pixel of the terminal.
     QPointF placeOf(const QPointF &pixel) const;
 
-    /// Moves and shrinks the window so that it is seen with its frame, once the desktop has put that around it.
+    /// Moves and shrinks the window so that all of it is seen with its frame, once the desktop has framed it.
     void keepOnScreen();
     /// The window's size when it fills neither the screen nor what the desktop leaves of it.
     QSize plainSize() const;
@@ -50,5 +50,5 @@ private:
     UnseenWindows *windows;
     InputPassage *passage = nullptr;
     bool isToBeFitted = false;
-    QSize sizeBefore; ///< Before it filled the screen.
+    QSize sizeBefore; ///< The size before it filled the screen.
 };

@@ -94,16 +94,15 @@ bool UnseenWindows::eventFilter(QObject *watched, QEvent *event)
 void UnseenWindows::prepare(QWidget *window)
 {
     window->setProperty("displayArea", QRect(QPoint(), display->size()));
-    // Qt keeps from all other windows what belongs to a modal dialog, except from those over it.
+    // Qt blocks all windows outside a modal dialog, except those over it; the window seen has to be such a one.
     if (window->isModal() && seen->windowHandle() != nullptr)
         seen->windowHandle()->setTransientParent(window->windowHandle());
-    // What a modal dialog keeps out of reach looks different, too.
+    // Controls that a modal dialog keeps out of reach look different, too.
     Q_EMIT changed(window->isModal() ? QRect(QPoint(), display->size()) : window->geometry());
     Q_EMIT foremostChanged();
 }
 
-/// Whether a paint event comes from somebody who wants to see the widget, not from the window's own memory, which
-/// nobody sees.
+/// Whether a paint event is to paint on the screen rather than into the window's own memory, which nobody sees.
 bool UnseenWindows::isForScreen(QWidget *widget) const
 {
     QBackingStore *memory = widget->window()->backingStore();

@@ -4,9 +4,9 @@
 #include <QRegion>
 #include <QWidget>
 
-/// The terminal's windows: its display and the dialogs and popups over it. None of them is shown by the desktop; they
-/// lie in the terminal's own pixels, its display at (0, 0), and somebody paints them where they are to be seen. To
-/// everybody else, plug-ins too, they are windows like any.
+/// The terminal's windows: its display and the dialogs and popups over it. The desktop shows none of them; they lie in
+/// the terminal's own pixels, its display at (0, 0), and are painted where they are to be seen. To all others, plug-ins
+/// included, they are ordinary windows.
 class UnseenWindows : public QObject {
     Q_OBJECT
 
@@ -14,9 +14,9 @@ public:
     /// Takes `display` and every window that is first shown from now on; `seen` is the window that shows them.
     UnseenWindows(QWidget *display, QWidget *seen);
 
-    /// From the lowest up; those that are open.
+    /// The open windows, from the lowest up.
     QWidgetList stacked() const;
-    /// The one that has the keyboard.
+    /// The window that has the keyboard.
     QWidget *foremost() const;
     /// Where a finger on the terminal's pixel (x, y) lands; null where a modal dialog is in the way.
     QWidget *windowAt(const QPointF &pixel) const;

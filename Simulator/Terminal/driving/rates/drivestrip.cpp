@@ -30,7 +30,7 @@ DriveStrip::DriveStrip(Simulation *simulation, const RateHistory *history, QWidg
     pageButton->setNote(tr("Page"));
     pageButton->setAccessibleName(tr("Next page of rates"));
     takeProducts();
-    // After the table, which was made before.
+    // Connected after the table, which was made earlier and so takes the products first.
     connect(simulation->machine(), &Machine::productsChanged, this, &DriveStrip::takeProducts);
     connect(pageButton, &TouchButton::clicked, this, [this] {
         table->showNextPage();

@@ -26,7 +26,7 @@ public:
     /// `simulation` is not owned and outlives the history.
     explicit RateHistory(Simulation *simulation, QObject *parent = nullptr);
 
-    /// Takes down what happens from now on, or no longer.
+    /// Starts or stops recording.
     void setKept(bool isKept);
     /// Of a product, by number from 1; oldest first.
     const std::deque<Sample> &samples(int number) const { return all.at(size_t(number - 1)); }

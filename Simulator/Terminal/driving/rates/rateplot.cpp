@@ -51,7 +51,7 @@ RatePlot::Axes RatePlot::axes(const QRectF &area, const Samples &samples, double
             axes.most = std::max(axes.most, factor * rate);
         }
     }
-    // What hardly differs is not to look as if it did.
+    // Rates that hardly differ must not look as if they did.
     constexpr double leastShare = 0.1;
     constexpr double steps = 2.0;
     const double spread = std::max({axes.most - axes.least, leastShare * axes.most, 1e-6});

@@ -20,7 +20,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// What the axes reach over: seconds back from now, and rates in the operator's unit.
+    /// The range of the axes: seconds back from now, and rates in the operator's unit.
     struct Axes {
         QRectF area;
         double now = 0.0;

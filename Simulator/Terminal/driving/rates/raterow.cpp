@@ -110,7 +110,7 @@ void RateRow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
-    // A gap that can be touched as well.
+    // The gap between rows is part of the row, so that it can be touched as well.
     Theme::drawPanel(painter, QRectF(rect()).adjusted(inset / 2.0, 1.5, -inset / 2.0, -1.5), look.ground);
     if (hasFocus())
         Theme::drawFocus(painter, rect(), look.isOnAccent);

@@ -25,8 +25,8 @@ public:
 
     /// Why a rate is commanded, as the operator reads it.
     static QString sourceText(CommandSource source);
-    /// Writes in a column of a row as big as `font` says, or so much smaller that the text fits, down to a size that
-    /// can still be read.
+    /// Writes in a column of a row in `font`, made smaller if the text does not fit, down to a size that can still be
+    /// read.
     static void drawCell(QPainter &painter, const QRect &row, Column column, const QFont &font, const QString &text);
 
 protected:

@@ -25,7 +25,7 @@ RateTable::RateTable(Simulation *givenSimulation, QWidget *parent)
         rows.append(row);
         connect(row, &RateRow::clicked, this, [this, i] {
             simulation->machine()->setActiveProduct(shownPage * rowsOfAPage + i + 1);
-            // The one that is active already is so still.
+            // The product may have been active already, and then nothing reports a change.
             showActive();
         });
     }

@@ -24,7 +24,7 @@ QString ShownUnit::rateText(double rate) const
     const double value = rate * factor;
     if (std::fabs(value) < leastShown)
         return QStringLiteral("0");
-    // What is rounded up to another digit has that one already.
+    // A rate that rounds up to one digit more counts as having that digit.
     constexpr double roundedUp = 1.0005;
     const int digits = int(std::floor(std::log10(roundedUp * std::fabs(value)))) + 1;
     return ShownNumber::text(value, std::clamp(3 - digits, 0, mostDecimals));

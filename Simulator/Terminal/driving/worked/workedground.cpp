@@ -38,7 +38,7 @@ WorkedGround::WorkedGround(Simulation *givenSimulation, QObject *parent)
 
 void WorkedGround::forget()
 {
-    // What other products were applied is none of these.
+    // The rates kept belong to other products than these.
     next = 0;
     strips.clear();
     rates.clear();
@@ -72,7 +72,7 @@ void WorkedGround::findPlane()
     const QList<LoadReport> maps = simulation->machine()->backend()->maps();
     const auto shown =
         std::find_if(maps.begin(), maps.end(), [&group](const LoadReport &map) { return map.group == group; });
-    // Without its map the product is driven on the plane that is there.
+    // A product without a map is driven on the plane shown so far.
     if (shown == maps.end())
         return;
     plane = planes.indexOf(shown->origin);

@@ -34,10 +34,10 @@ public:
     /// `simulation` is not owned and outlives this.
     explicit WorkedGround(Simulation *simulation, QObject *parent = nullptr);
 
-    /// The number of the oldest strip that there is, and the one that the next will have.
+    /// The number of the oldest strip kept, and the number that the next one will have.
     qint64 oldest() const { return next - qint64(strips.size()); }
     qint64 end() const { return next; }
-    /// Where a strip has its place among maxStrips.
+    /// A strip's place among maxStrips.
     static int slot(qint64 number) { return int(number % maxStrips); }
     const Strip &strip(qint64 number) const { return strips[size_t(slot(number))]; }
     /// Mean rate of a product (by number from 1) over a strip, base units.
@@ -52,7 +52,7 @@ private:
     void take();
     void forget();
     void findLegends();
-    /// Enters which plane is shown.
+    /// Finds out which plane is shown.
     void findPlane();
     /// The legend's colours of the rates that are applied, by product.
     std::vector<QColor> colorsNow() const;
@@ -62,13 +62,13 @@ private:
 
     Simulation *simulation;
     std::vector<Strip> strips;
-    /// Of each slot, by product.
+    /// For each slot, by product.
     std::vector<float> rates;
-    /// Of each slot, place in `planes`.
+    /// For each slot, the place in `planes`.
     std::vector<int> planeOf;
     /// Origins of the planes that were shown, degrees of longitude and latitude.
     QVector<QPointF> planes;
-    /// Place in `planes`; -1 where no map says it.
+    /// Place in `planes` of the plane shown; -1 before any map was shown.
     int plane = -1;
     qint64 next = 0;
     qint64 firstChanged = 0;

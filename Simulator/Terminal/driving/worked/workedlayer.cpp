@@ -78,7 +78,7 @@ void WorkedLayer::uploadFrom(qint64 first)
 {
     std::vector<Vertex> vertices;
     while (first < ground->end()) {
-        // As far as the places follow each other.
+        // Only as far as the places follow each other.
         const int place = WorkedGround::slot(first);
         const qint64 last = std::min(ground->end(), first + WorkedGround::maxStrips - place);
         vertices.clear();
@@ -102,7 +102,7 @@ void WorkedLayer::draw(QMatrix4x4 mvp)
     program.enableAttributeArray("color");
     program.setAttributeBuffer("a_position", GL_FLOAT, 0, 3, sizeof(Vertex));
     program.setAttributeBuffer("color", GL_UNSIGNED_BYTE, int(offsetof(Vertex, color)), 4, sizeof(Vertex));
-    // The oldest first: of ground that was worked twice the newer rate is seen.
+    // The oldest first, so that ground worked twice shows the newer rate.
     const int oldest = WorkedGround::slot(ground->oldest());
     const int strips = int(ground->end() - ground->oldest());
     glDrawArrays(GL_TRIANGLES, oldest * verticesOfAStrip, (strips - oldest) * verticesOfAStrip);

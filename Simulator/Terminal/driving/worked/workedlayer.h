@@ -6,8 +6,8 @@
 
 class WorkedGround;
 
-/// Draws the ground that was worked over the map, in the full colours of the legend, where the map has them half: a
-/// buffer on the graphics card takes what is new and keeps the rest, 96 bytes for a strip, 6 MiB at most.
+/// Draws worked ground over the map, in the full colours of the legend, which the map shows at half their opacity. A
+/// buffer on the graphics card takes what is new and keeps the rest: 96 bytes per strip, 6 MiB at most.
 class WorkedLayer : public Object3D {
 public:
     /// `ground` is not owned and outlives the layer.

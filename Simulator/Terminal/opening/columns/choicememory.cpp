@@ -58,7 +58,7 @@ FileChoices choicesFrom(const QVariantMap &map)
     return choices;
 }
 
-/// As text: a damaged list of Qt's own is unpacked without asking how large it is.
+/// Kept as text: Qt would unpack a damaged list of its own without checking how large it is.
 QVariantList filesIn(const QSettings &settings)
 {
     return QJsonDocument::fromJson(settings.value(key).toString().toUtf8()).array().toVariantList();

@@ -13,7 +13,7 @@ namespace {
 constexpr int productWidth = 140;
 constexpr int unitWidth = 134;
 
-/// Six digits tell any rate apart that one has to.
+/// Six digits are enough to tell rates apart.
 QString rateText(double rate)
 {
     return ShownNumber::inLanguage(QString::number(rate, 'g', 6));

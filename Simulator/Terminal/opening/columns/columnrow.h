@@ -7,7 +7,7 @@
 class ListRow;
 class TouchButton;
 
-/// One column of a file: what it holds, the product that it feeds and its unit, both to be touched.
+/// One column of a file: what it holds, and the product that it feeds and its unit, which can both be touched.
 class ColumnRow : public QWidget {
     Q_OBJECT
 

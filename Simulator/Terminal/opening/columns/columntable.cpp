@@ -10,7 +10,7 @@ namespace {
 constexpr int rowHeight = 98;
 constexpr int gap = 8;
 constexpr int rowsAlone = 5;
-/// Where there are more than these, the pager takes the place of the last one.
+/// With more than `rowsAlone` columns the pager takes the place of the last row.
 constexpr int rowsWithPager = 4;
 
 } // namespace

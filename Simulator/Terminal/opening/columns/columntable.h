@@ -17,9 +17,9 @@ public:
 
     /// `selection` is not owned and outlives what is shown of it.
     void show(const OpenSelection &selection);
-    /// Shows again what may have changed in the selection.
+    /// Updates what may have changed in the selection.
     void refresh();
-    /// The column that the map is shown of.
+    /// The column whose map is shown.
     int shownColumn() const { return shown; }
     Pager *pager() const { return pages; }
 

@@ -20,8 +20,8 @@ struct ColumnChoice {
 struct FileChoices {
     QString layer;
     QString task;
-    /// All columns of the table that was chosen from.
+    /// All columns of the table that the operator chose from.
     QStringList columnNames;
-    /// Those that something was chosen for.
+    /// The columns for which something was chosen.
     QList<ColumnChoice> columns;
 };

@@ -18,10 +18,11 @@ struct OpenRequest {
     /// Which layer and which task of each file; empty: the first that will do.
     QString layer = {};
     QString task = {};
-    /// What the products were made from that were chosen among, see LoadRequest; empty: they were the machine's.
+    /// The columns from which the products on offer were made, see LoadRequest; an empty list: the offer was the
+    /// machine's own products.
     std::optional<QList<ColumnProduct>> columnProducts = {};
     /// Groups of maps that the operator wants closed once it is open.
     QStringList closes = {};
-    /// Groups of maps that are left without a product by it, and closed for that.
+    /// Groups of maps that it leaves without a product, and that are closed for that reason.
     QStringList replaces = {};
 };

@@ -8,16 +8,16 @@
 #include <QList>
 #include <QString>
 
-/// Which columns of a file that was surveyed are to feed which products, and in which units. It begins with what a load
-/// would do unasked. A product is fed by one column at most.
+/// Which columns of a surveyed file are to feed which products, and in which units. It begins with what a load would do
+/// unasked. At most one column feeds a product.
 class OpenSelection {
 public:
-    /// Whether the rates of a column are in the unit that is said of it.
+    /// What is known of the unit of a column's rates.
     enum class UnitState {
         Known,
         /// The file does not tell it: the product's base unit is assumed.
         Assumed,
-        /// It is no unit of such a product: the numbers are taken in the product's base unit.
+        /// It is not a unit for such a product: the numbers are taken in the product's base unit.
         Unfit,
     };
 
@@ -25,34 +25,34 @@ public:
     OpenSelection(const SurveyReport &survey, const QList<MachineProduct> &products);
 
     const SurveyReport &survey() const { return report; }
-    /// The products that there are to choose from.
+    /// The products to choose from.
     const QList<MachineProduct> &fedProducts() const { return products; }
     int size() const { return report.columns.size(); }
     const SurveyedColumn &column(int index) const { return report.columns.at(index); }
 
     /// Number from 1 of the product that a column feeds; 0 for none.
     int product(int index) const { return entries.at(index).product; }
-    /// What the operator chooses; a column that fed that product feeds none then.
+    /// Takes the operator's choice; a column that fed that product then feeds none.
     void setProduct(int index, int number);
-    /// Of the column's rates, as chosen, else as the file says; empty when it is not known.
+    /// The unit of the column's rates: as chosen, else as the file says; empty when it is not known.
     QString unit(int index) const;
     bool isUnitChosen(int index) const { return !entries.at(index).unit.isEmpty(); }
     /// An empty unit leaves it to the file.
     void setUnit(int index, const QString &unit);
     UnitState unitState(int index) const;
-    /// Takes the column's rates to the base unit of the product that it feeds; 1 without one.
+    /// Multiplies the column's rates to the base unit of the product that it feeds; 1 without a product.
     double factor(int index) const;
 
     bool feedsAny() const;
-    /// The columns that feed a product whose rates have a unit, in one that is not known.
+    /// The columns of unknown unit that feed a product whose rates have one.
     QList<int> withoutUnit() const;
-    /// The unit that is assumed of such a column.
+    /// The unit that is assumed for such a column.
     QString assumedUnit(int index) const;
     OpenRequest request() const;
-    /// What the operator chose, none of what the program did unasked.
+    /// What the operator chose, without what the program did unasked.
     FileChoices choices() const;
-    /// Takes what was chosen before, unless the file's columns are others now. A column whose product is not there any
-    /// more feeds what it would unasked.
+    /// Takes what was chosen before, unless the file's columns have changed. A column whose product no longer exists
+    /// feeds what it would unasked.
     void apply(const FileChoices &choices);
 
 private:
@@ -62,7 +62,7 @@ private:
         bool isProductChosen = false;
     };
 
-    /// Number from 1 of the product that was chosen; 0 where it is not there.
+    /// Number from 1 of the product that was chosen; 0 if it no longer exists.
     int stillThere(const ColumnChoice &choice) const;
     /// Null for a column that feeds none.
     const MachineProduct *fed(int index) const;

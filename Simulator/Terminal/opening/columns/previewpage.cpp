@@ -24,7 +24,7 @@ constexpr int remarkPixels = 16;
 constexpr int buttonWidth = 200;
 constexpr int choiceWidth = 300;
 
-/// What a legend shows: not what stands for "no rate".
+/// The classes that a legend shows: all but the one that stands for "no rate".
 QList<OrvikTypes::RX_RATECOLOR> drawnClasses(const SurveyedClasses &all)
 {
     QList<OrvikTypes::RX_RATECOLOR> classes;
@@ -46,7 +46,7 @@ PreviewPage::PreviewPage(const Machine *terminalMachine, QWidget *parent)
     , remark(new QLabel(this))
     , table(new ColumnTable(this))
 {
-    // The display has a legend of that name as well.
+    // Named apart from the display's own legend.
     legend->setObjectName(QStringLiteral("openLegend"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Theme::margin, Theme::margin, Theme::margin, Theme::margin);
@@ -120,7 +120,7 @@ QWidget *PreviewPage::makeFoot()
     skip = addButton(layout, tr("Skip"), "openSkip", &PreviewPage::skipped);
     accept = addButton(layout, tr("Open"), "openAccept", &PreviewPage::accepted);
     accept->setCheckable(true);
-    // A touch would take the colour away.
+    // A touch would uncheck the button, and so take its colour away.
     connect(accept, &TouchButton::clicked, accept, [this] { accept->setChecked(true); });
     return foot;
 }

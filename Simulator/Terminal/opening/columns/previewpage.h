@@ -15,7 +15,7 @@ class QLabel;
 class Pager;
 class TouchButton;
 
-/// What a file holds and is to feed, before it is opened: its map, and a row for each of its columns.
+/// What a file holds and what it is to feed, before it is opened: its map, and a row for each of its columns.
 class PreviewPage : public QWidget {
     Q_OBJECT
 
@@ -23,9 +23,9 @@ public:
     /// `machine` is not owned and outlives the page.
     explicit PreviewPage(const Machine *machine, QWidget *parent = nullptr);
 
-    /// `selection` is not owned and outlives what is shown of it. `waiting`: so many files are to be opened after it.
+    /// `selection` is not owned and outlives what is shown of it. `waiting`: how many files are to be opened after it.
     void show(const OpenSelection &selection, int waiting);
-    /// Shows again what may have changed in the selection.
+    /// Updates what may have changed in the selection.
     void refresh();
     Pager *pager() const;
 
@@ -48,7 +48,7 @@ private:
     QWidget *makeFoot();
     TouchButton *addButton(QHBoxLayout *layout, const QString &text, const char *name, void (PreviewPage::*signal)());
     void showColumn(int index);
-    /// What becomes of the files that are open.
+    /// What happens to the files that are open.
     QStringList replacements() const;
 
     const Machine *machine;

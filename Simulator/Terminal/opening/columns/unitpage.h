@@ -17,7 +17,7 @@ class UnitPage : public QWidget {
 public:
     explicit UnitPage(QWidget *parent = nullptr);
 
-    /// `unit`: the one in use; `unitOfFile` what the file says, empty for nothing.
+    /// `unit`: the one in use; `unitOfFile`: what the file says, empty if it says nothing.
     void ask(const QString &question, const RateUnitParts &parts, const QString &unit, const QString &unitOfFile);
 
 Q_SIGNALS:

@@ -26,7 +26,7 @@ constexpr int rowsPerPage = 7;
 constexpr int placeWidth = 220;
 constexpr int titlePixels = 24;
 constexpr int closeWidth = 180;
-/// There is room for so many of them, the sample among them.
+/// There is room for this many volumes; the sample takes the place of one.
 constexpr int mostVolumes = 3;
 
 /// Where sticks and cards appear.

@@ -16,7 +16,7 @@ class QVBoxLayout;
 class RecentFiles;
 class TouchButton;
 
-/// The files that are open, those that were opened last, and the folders with what may be opened.
+/// The files that are open, those opened last, and folders with what may be opened.
 class FilePage : public QWidget {
     Q_OBJECT
 
@@ -24,13 +24,13 @@ public:
     /// Both are not owned and outlive the page. `recent` also keeps the folder that a file is taken from.
     FilePage(const Machine *machine, RecentFiles &recent, QWidget *parent = nullptr);
 
-    /// The folder used last, else the recent files, else what is at home.
+    /// Shows the folder used last, else the recent files, else the home folder.
     void showFirst();
-    /// What was shown when a file was taken.
+    /// Shows what was shown when a file was taken.
     void showAgain();
-    /// Gives the keyboard to the entry that was chosen last, where it is seen.
+    /// Gives the keyboard to the entry that was chosen last, if it is visible.
     void focusChosen();
-    /// A file that is a place of its own, for who has none yet; none where it is not there.
+    /// Offers a sample file, for an operator without files, in a place of its own; nothing if the file does not exist.
     void offerSample(const QString &path);
     Pager *pager() const { return pages; }
 
@@ -44,8 +44,8 @@ private:
 
     /// Where a list was left.
     struct Spot {
-        QString path;   ///< Of the entry that was chosen, or the first one of the page that was turned to.
-        int index = 0;  ///< Its place in the list then.
+        QString path;   ///< Path of the entry that was chosen, or of the first one on the page turned to.
+        int index = 0;  ///< Its place in the list at that time.
         QString chosen; ///< The entry that was chosen last; marked.
     };
 
@@ -81,5 +81,5 @@ private:
     bool hasRoom = true; ///< For the sample.
     /// Empty while no folder is shown.
     QString folder;
-    QHash<QString, Spot> spots; ///< By what stands over the list.
+    QHash<QString, Spot> spots; ///< By the heading over the list.
 };

@@ -11,13 +11,13 @@ struct FileEntry {
     bool isFolder = false;
     /// Whether it is still there.
     bool isThere = true;
-    /// Where it lies, or its size and age; of an open file what it feeds.
+    /// Where it lies, or its size and age; for an open file, what it feeds.
     QString note;
-    /// Of the map that is open of it; empty for a file that is not open.
+    /// Group of the open map made from it; empty for a file that is not open.
     QString group = {};
 };
 
-/// What a folder holds that may be opened: folders, and files that may be prescriptions.
+/// What can be opened in a folder: folders, and files that may be prescriptions.
 class FolderListing {
 public:
     /// Folders first, each sorted as people read. Empty for a folder that cannot be read.

@@ -16,7 +16,7 @@ public:
     QStringList paths() const;
     void add(const QString &path);
 
-    /// Where a file was looked for last and found; empty where that folder is gone, or there was none.
+    /// The folder in which a file was last found; empty if it is gone, or there was none.
     QString folder() const;
     void setFolder(const QString &path);
 

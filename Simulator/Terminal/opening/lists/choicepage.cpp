@@ -38,7 +38,7 @@ ChoicePage::ChoicePage(QWidget *parent)
     auto *body = new QHBoxLayout;
     auto *grid = new QGridLayout;
     for (int place = 0; place < rows * columns; ++place) {
-        // A row, not a button: names of layers are long, and may differ at their ends alone.
+        // A row, not a button: names of layers are long, and may differ only at their ends.
         auto *button = new ListRow(this);
         button->setObjectName(QStringLiteral("choice%1").arg(place));
         button->setCheckable(true);

@@ -8,14 +8,14 @@ class Caption;
 class ListRow;
 class Pager;
 
-/// One of several things to choose by a touch.
+/// A page on which the operator chooses one of several things by a touch.
 class ChoicePage : public QWidget {
     Q_OBJECT
 
 public:
     explicit ChoicePage(QWidget *parent = nullptr);
 
-    /// `current`: the place of the one that is chosen now, from 0.
+    /// `current`: the place of the present choice, from 0.
     void ask(const QString &question, const QStringList &options, int current);
     Pager *pager() const { return pages; }
 

@@ -14,7 +14,7 @@ constexpr int longTextPixels = 17;
 constexpr int notePixels = 16;
 constexpr int textHeight = 28;
 constexpr int noteHeight = 21;
-/// Of a line where a text takes several; as many of them and of the notes as there is room for.
+/// Height of a line where a text takes several; shows as many of them and of the notes as there is room for.
 constexpr int longTextHeight = 20;
 constexpr int inset = 16;
 constexpr int markWidth = 8;

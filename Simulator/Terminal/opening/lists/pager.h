@@ -16,7 +16,7 @@ public:
     /// The first item of the page that is shown.
     int first() const { return page * itemsPerPage; }
     void turn(int pages);
-    /// To the page that shows an item, else to the one nearest to it.
+    /// Goes to the page that shows the item, or to the nearest one.
     void showItem(int item);
 
 Q_SIGNALS:
