@@ -3,6 +3,7 @@
 #include "Backend/shownrate.h"
 #include "fieldscene.h"
 #include "shownnumber.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -13,9 +14,21 @@
 namespace {
 
 constexpr int inset = 14;
-constexpr int headHeight = 112;
+constexpr int headTop = 10;
+constexpr int productPixels = 22;
+constexpr int productHeight = 28;
+/// Of a name that takes two lines: what tells it from another one may stand anywhere in it.
+constexpr int longProductPixels = 17;
+constexpr int longProductHeight = 21;
+constexpr int columnPixels = 16;
+constexpr int columnHeight = 20;
+/// Letters reach a little into the line below.
+constexpr int lineOverlap = 2;
+constexpr int unitsHeight = 26;
+constexpr int mostNameLines = 2;
 constexpr int swatchWidth = 32;
 constexpr int panelWidth = 252;
+constexpr int innerWidth = panelWidth - 2 * inset;
 constexpr int textLeft = swatchWidth + 12;
 constexpr int footLine = 26;
 constexpr int maxText = 20;
@@ -43,6 +56,13 @@ QFont fittingFont(const QStringList &texts, int pixels, int width, bool isBold)
     return Theme::font(std::max(fitting, minText), isBold);
 }
 
+/// A name in one line, else in the smaller font in as many as it may take.
+QStringList nameLines(const QString &name, const QFont &font, const QFont &smaller)
+{
+    const bool fits = QFontMetrics(font).horizontalAdvance(name) <= innerWidth;
+    return fits ? QStringList(name) : TextLines::of(name, QFontMetrics(smaller), innerWidth, mostNameLines);
+}
+
 int widest(const QStringList &texts, const QFont &font)
 {
     int width = 0;
@@ -64,13 +84,18 @@ LegendPanel::LegendPanel(QWidget *parent)
 void LegendPanel::show(const Content &newContent)
 {
     content = newContent;
+    productLines = nameLines(content.product, Theme::font(productPixels, true), Theme::font(longProductPixels, true));
+    columnLines = nameLines(content.source.column, Theme::font(columnPixels), Theme::font(columnPixels));
     texts.clear();
     areaTexts.clear();
     for (int i = 0; i < content.classes.size(); ++i) {
         texts.append(classText(i));
         areaTexts.append(i < content.areas.size() ? sumText(content.areas.at(i)) : QString());
     }
-    setAccessibleDescription(content.product + QStringLiteral(": ") + texts.join(QStringLiteral("; ")));
+    QStringList told{content.product};
+    if (!texts.isEmpty())
+        told << content.source.column << sourceText();
+    setAccessibleDescription(told.join(QStringLiteral(", ")) + QStringLiteral(": ") + texts.join(QStringLiteral("; ")));
     resize(sizeHint());
     update();
 }
@@ -108,19 +133,32 @@ QString LegendPanel::sourceText() const
 
 int LegendPanel::rowHeight() const
 {
+    const bool areNamesLong = productLines.size() > 1 || columnLines.size() > 1;
     constexpr int wideRow = 38;
-    constexpr int narrowRow = 26;
-    constexpr int mostWideRows = 8;
+    const int narrowRow = areNamesLong ? 24 : 26;
+    const int mostWideRows = areNamesLong ? 7 : 8;
     return texts.size() <= mostWideRows ? wideRow : narrowRow;
+}
+
+int LegendPanel::namesHeight() const
+{
+    const int product = productLines.size() > 1 ? productLines.size() * longProductHeight : productHeight;
+    return headTop + product + std::max(1, columnLines.size()) * columnHeight;
+}
+
+int LegendPanel::headHeight() const
+{
+    constexpr int gap = 8;
+    return namesHeight() + columnHeight + gap + unitsHeight;
 }
 
 QSize LegendPanel::sizeHint() const
 {
     if (texts.isEmpty())
-        return QSize(panelWidth, headHeight);
+        return QSize(panelWidth, headHeight());
     const int footLines = (content.areaUnit.isEmpty() ? 0 : 1) + (content.amountUnit.isEmpty() ? 0 : 1);
     const int footHeight = footLine * footLines + inset;
-    return QSize(panelWidth, headHeight + texts.size() * rowHeight() + footHeight);
+    return QSize(panelWidth, headHeight() + texts.size() * rowHeight() + footHeight);
 }
 
 void LegendPanel::paintEvent(QPaintEvent *)
@@ -137,30 +175,42 @@ void LegendPanel::paintEvent(QPaintEvent *)
 
 void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
 {
-    painter.setFont(Theme::font(22, true));
-    painter.setPen(Theme::text());
-    painter.drawText(QRect(inner.left(), 10, inner.width(), 30), Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(content.product, Qt::ElideRight, inner.width()));
+    drawNames(painter, inner);
     painter.setPen(Theme::faintText());
     if (texts.isEmpty()) {
         painter.setFont(Theme::font(20));
-        painter.drawText(QRect(inner.left(), 50, inner.width(), 38), Qt::AlignVCenter, tr("No map"));
+        painter.drawText(QRect(inner.left(), namesHeight() - 8, inner.width(), 38), Qt::AlignVCenter, tr("No map"));
         return;
     }
-    painter.setFont(Theme::font(16));
-    painter.drawText(QRect(inner.left(), 38, inner.width(), 22), Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(content.source.column, Qt::ElideMiddle, inner.width()));
     const QString told = sourceText();
-    painter.setFont(fittingFont({told}, 16, inner.width(), false));
-    painter.drawText(QRect(inner.left(), 58, inner.width(), 22), Qt::AlignVCenter,
+    painter.setFont(fittingFont({told}, columnPixels, inner.width(), false));
+    painter.drawText(QRect(inner.left(), namesHeight(), inner.width(), columnHeight + lineOverlap), Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(told, Qt::ElideRight, inner.width()));
-    painter.setFont(Theme::font(16));
-    const QRect units(inner.left(), headHeight - 26, inner.width(), 24);
+    painter.setFont(Theme::font(columnPixels));
+    const QRect units(inner.left(), headHeight() - unitsHeight, inner.width(), 24);
     painter.setPen(Theme::text());
     painter.drawText(units.adjusted(textLeft, 0, 0, 0), Qt::AlignVCenter, content.unit);
     painter.drawText(units, Qt::AlignVCenter | Qt::AlignRight, content.areaUnit);
     painter.setPen(QPen(Theme::faintText(), 1.0));
     painter.drawLine(units.topLeft(), units.topRight());
+}
+
+void LegendPanel::drawNames(QPainter &painter, const QRect &inner) const
+{
+    const bool isLong = productLines.size() > 1;
+    int y = headTop;
+    const auto draw = [&](const QString &text, int height) {
+        painter.drawText(QRect(inner.left(), y, inner.width(), height + lineOverlap), Qt::AlignVCenter, text);
+        y += height;
+    };
+    painter.setFont(Theme::font(isLong ? longProductPixels : productPixels, true));
+    painter.setPen(Theme::text());
+    for (const QString &line : productLines)
+        draw(line, isLong ? longProductHeight : productHeight);
+    painter.setFont(Theme::font(columnPixels));
+    painter.setPen(Theme::faintText());
+    for (const QString &line : columnLines)
+        draw(line, columnHeight);
 }
 
 void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
@@ -172,7 +222,7 @@ void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
     const int height = rowHeight();
     const int swatchHeight = height - 8;
     for (int i = 0; i < texts.size(); ++i) {
-        const QRect row(inner.left(), headHeight + i * height, inner.width(), height);
+        const QRect row(inner.left(), headHeight() + i * height, inner.width(), height);
         const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2.0 + 0.5, swatchWidth, swatchHeight);
         painter.setPen(QPen(Theme::text(), 1.0));
         painter.setBrush(FieldScene::onGround(content.classes.at(i).color));
@@ -192,7 +242,7 @@ void LegendPanel::drawFoot(QPainter &painter, const QRect &inner) const
 {
     if (content.areaUnit.isEmpty())
         return;
-    const int top = headHeight + texts.size() * rowHeight() + 4;
+    const int top = headHeight() + texts.size() * rowHeight() + 4;
     painter.setPen(QPen(Theme::faintText(), 1.0));
     painter.drawLine(inner.left(), top, inner.right(), top);
     const auto drawLine = [&](int line, const QString &what, const QString &sum) {

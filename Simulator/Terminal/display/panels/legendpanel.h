@@ -51,11 +51,17 @@ private:
     QString sourceText() const;
     /// Smaller for many classes, so that they fit between the other panels.
     int rowHeight() const;
+    /// The head's part for the product's and the column's name; and all of it.
+    int namesHeight() const;
+    int headHeight() const;
+    void drawNames(QPainter &painter, const QRect &inner) const;
     void drawHead(QPainter &painter, const QRect &inner) const;
     void drawClasses(QPainter &painter, const QRect &inner) const;
     void drawFoot(QPainter &painter, const QRect &inner) const;
 
     Content content;
+    QStringList productLines;
+    QStringList columnLines;
     /// Texts beside the colours, lowest class first.
     QStringList texts;
     /// Texts at the right end of the classes' rows.

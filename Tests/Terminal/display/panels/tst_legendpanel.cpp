@@ -60,6 +60,8 @@ private Q_SLOTS:
     void aSwatchShowsItsColorAsOnTheGround();
     void theHeadSaysWhereTheUnitIsFrom_data();
     void theHeadSaysWhereTheUnitIsFrom();
+    void longNamesAreToldApart_data();
+    void longNamesAreToldApart();
     void areasStandBesideTheClassesAndSumsBelow();
     void twelveClassesFitAboveTheGuidancePage();
     void longNumbersAreDrawnWhole_data();
@@ -158,6 +160,42 @@ void TestLegendPanel::theHeadSaysWhereTheUnitIsFrom()
     QTEST(paintedTexts(panel).at(2), "text");
 }
 
+void TestLegendPanel::longNamesAreToldApart_data()
+{
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("other");
+    const auto row = [](const char *tag, const char *one, const char *other) {
+        QTest::newRow(tag) << QString::fromLatin1(one) << QString::fromLatin1(other);
+    };
+    row("at the end", "Ammonium sulphate nitrate solution, north", "Ammonium sulphate nitrate solution, south");
+    row("in the middle", "Application_of_nitrogen_1_of_spring_wheat", "Application_of_nitrogen_2_of_spring_wheat");
+    row("one word", "Kalkammonsalpetergranulatmischungsommer", "Kalkammonsalpetergranulatmischungwinter");
+}
+
+void TestLegendPanel::longNamesAreToldApart()
+{
+    const auto shown = [](const QString &product, const QString &column) {
+        LegendPanel panel;
+        LegendPanel::Content content = contentOf({100.0}, 1.0);
+        content.product = product;
+        content.source.column = column;
+        panel.show(content);
+        // Whole for who does not see it.
+        const QString told = panel.accessibleDescription();
+        return told.contains(product) && told.contains(column) ? paintedTexts(panel) : QStringList();
+    };
+    QFETCH(QString, one);
+    QFETCH(QString, other);
+    const QString plain = QStringLiteral("Urea");
+    for (const bool isProduct : {true, false}) {
+        const QStringList first = isProduct ? shown(one, plain) : shown(plain, one);
+        const QStringList second = isProduct ? shown(other, plain) : shown(plain, other);
+        QVERIFY(!first.isEmpty());
+        QVERIFY2(first != second, qPrintable(first.join(QLatin1Char('|'))));
+        QVERIFY(first.contains(plain));
+    }
+}
+
 void TestLegendPanel::areasStandBesideTheClassesAndSumsBelow()
 {
     LegendPanel::Content content = contentOf({10.0, 20.0, 30.0, 40.0}, 1.0);
@@ -183,10 +221,15 @@ void TestLegendPanel::twelveClassesFitAboveTheGuidancePage()
     constexpr int room = 500;
     for (int count = 1; count <= 12; ++count) {
         LegendPanel::Content content = contentOf({}, 1.0);
+        content.areaUnit = QStringLiteral("ha");
         content.amountUnit = QStringLiteral("kg");
         for (int i = 0; i < count; ++i)
             content.classes.append({double(i), Qt::green});
         LegendPanel panel;
+        panel.show(content);
+        QVERIFY2(panel.height() <= room, qPrintable(QString::number(count)));
+        content.product = QStringLiteral("Ammonium sulphate nitrate solution");
+        content.source.column = QStringLiteral("Application_of_ammonium_sulphate_nitrate_solution");
         panel.show(content);
         QVERIFY2(panel.height() <= room, qPrintable(QString::number(count)));
     }
