@@ -452,6 +452,10 @@
         <translation>ist kein Shapefile</translation>
     </message>
     <message>
+        <source>is damaged (%1)</source>
+        <translation>ist beschädigt (%1)</translation>
+    </message>
+    <message>
         <source>is cut short within its header</source>
         <translation>bricht im Dateikopf ab</translation>
     </message>

@@ -452,6 +452,10 @@
         <translation>no es un Shapefile</translation>
     </message>
     <message>
+        <source>is damaged (%1)</source>
+        <translation>está dañado (%1)</translation>
+    </message>
+    <message>
         <source>is cut short within its header</source>
         <translation>está truncado en su cabecera</translation>
     </message>

@@ -452,6 +452,10 @@
         <translation>n’est pas un Shapefile</translation>
     </message>
     <message>
+        <source>is damaged (%1)</source>
+        <translation>est endommagé (%1)</translation>
+    </message>
+    <message>
         <source>is cut short within its header</source>
         <translation>est tronqué dans son en-tête</translation>
     </message>

@@ -452,6 +452,10 @@
         <translation>não é um Shapefile</translation>
     </message>
     <message>
+        <source>is damaged (%1)</source>
+        <translation>está danificado (%1)</translation>
+    </message>
+    <message>
         <source>is cut short within its header</source>
         <translation>está truncado no cabeçalho</translation>
     </message>

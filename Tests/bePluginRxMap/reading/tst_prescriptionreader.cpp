@@ -39,6 +39,7 @@ private Q_SLOTS:
     void readsEachFormat();
     void refusesFilesThatItCannotRead_data();
     void refusesFilesThatItCannotRead();
+    void saysThatADatabaseIsDamaged();
     void refusesWhatIsNoPlainFile_data();
     void refusesWhatIsNoPlainFile();
     void readsNoFileWhoseSizeIsZero();
@@ -135,6 +136,20 @@ void PrescriptionReaderTest::refusesFilesThatItCannotRead()
     QCOMPARE(error, QStringLiteral("is a folder, not a file"));
     QVERIFY(!read(path("none.shp")));
     QCOMPARE(error, QStringLiteral("there is no such file"));
+}
+
+void PrescriptionReaderTest::saysThatADatabaseIsDamaged()
+{
+    LayerSketch sketch;
+    sketch.driver = "GPKG";
+    sketch.fields = {{"rate", 1.0}};
+    for (int i = 0; i < 300; ++i)
+        sketch.rows.append({squareText(10.0 + 0.001 * i, 50.0, 0.001), {100.0 + i}});
+    QVERIFY(sketch.write(path("a.gpkg")));
+    QByteArray bytes = readFile(path("a.gpkg"));
+    bytes.replace(bytes.size() / 2, bytes.size() / 3, QByteArray(bytes.size() / 3, '\xff'));
+    QVERIFY(!read(writeFile(path("a.gpkg"), bytes)));
+    QVERIFY2(error.startsWith(QStringLiteral("is damaged (")), qPrintable(error));
 }
 
 void PrescriptionReaderTest::refusesWhatIsNoPlainFile_data()

@@ -1,5 +1,7 @@
 #include "gdalsession.h"
 
+#include "Backend/backendtext.h"
+
 #include <cpl_conv.h>
 #include <cpl_error.h>
 #include <cpl_string.h>
@@ -49,6 +51,14 @@ GdalSession::~GdalSession()
     CPLSetThreadLocalConfigOptions(optionsBefore);
     CSLDestroy(optionsBefore);
     CPLPopErrorHandler();
+}
+
+QString GdalSession::firstFailure() const
+{
+    // What SQLite says where the file's pages contradict each other, and where its head is none.
+    const bool isDamaged =
+        failure.contains(QLatin1String("malformed")) || failure.contains(QLatin1String("not a database"));
+    return isDamaged ? BackendText::tr("is damaged (%1)").arg(failure) : failure;
 }
 
 void GdalSession::takeReport(int severity, const char *text)
