@@ -1109,6 +1109,10 @@
         <translation>%1 übernehmen</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>Tausend</translation>
+    </message>
+    <message>
         <source>amount and area</source>
         <translation>Menge und Fläche</translation>
     </message>

@@ -1109,6 +1109,10 @@
         <translation>Tomar %1</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>miles</translation>
+    </message>
+    <message>
         <source>amount and area</source>
         <translation>cantidad y superficie</translation>
     </message>

@@ -1109,6 +1109,10 @@
         <translation>Prendre %1</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>milliers</translation>
+    </message>
+    <message>
         <source>amount and area</source>
         <translation>quantité et surface</translation>
     </message>

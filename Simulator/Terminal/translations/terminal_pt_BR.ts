@@ -1109,6 +1109,10 @@
         <translation>Usar %1</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>milhares</translation>
+    </message>
+    <message>
         <source>amount and area</source>
         <translation>quantidade e área</translation>
     </message>

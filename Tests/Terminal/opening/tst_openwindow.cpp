@@ -27,7 +27,7 @@ void TestOpenWindow::eachColumnHasARow_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("rows");
     QTest::newRow("sure, with units") << "three-zones.geojson"
-                                      << QStringList{"SEED_K_HA, Seed, 1000/ha", "FERT_KG_HA, Fertiliser, kg/ha",
+                                      << QStringList{"SEED_K_HA, Seed, k/ha", "FERT_KG_HA, Fertiliser, kg/ha",
                                                      "HERB_L_HA, Herbicide, L/ha"};
     QTest::newRow("guesses") << "two-strips.geojson" << QStringList{"A, Seed, ?", "B, Fertiliser, ?"};
 }

@@ -92,7 +92,7 @@ void TestOpenWindowQuestions::openAsksForUnitsThatAreNotKnown()
     QVERIFY(waitFor("openAccept"));
     QVERIFY(isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
     touch(QStringLiteral("openAccept"));
-    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as 1000/ha, kg/ha"));
+    QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as k/ha, kg/ha"));
     QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of A"));
     touch(QStringLiteral("choice1"));
     touch(QStringLiteral("unitAmount2"));

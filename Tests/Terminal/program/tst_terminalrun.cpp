@@ -85,7 +85,7 @@ void TestTerminalRun::tasksAreDoneInTheirOrder()
         run({"--columns", "SEED_K_HA", "--script", script, "--screenshot", picture, "--describe", "0,0", zones()});
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.answer,
-             QStringLiteral("product 1 (Seed): Rx Rate: 80.00 (SEED_K_HA, 1000/ha)\n"
+             QStringLiteral("product 1 (Seed): Rx Rate: 80.00 (SEED_K_HA, k/ha)\n"
                             "product 2 (Fertiliser): No rate is prescribed at 0,0\n"
                             "product 3 (Herbicide): No rate is prescribed at 0,0\n1\n"));
     QCOMPARE(QImage(picture).size(), QSize(1280, 800));

@@ -23,9 +23,9 @@ void TestTerminalRunPoints::aPointIsDescribed_data()
     const auto row = [](const char *title, const char *point, const char *units, const char *line) {
         QTest::newRow(title) << point << units << line;
     };
-    row("west", "-100,0", "metric", "Rx Rate: 70.00 (SEED_K_HA, 1000/ha)");
-    row("per acre", "-100,0", "us", "Rx Rate: 28.33 (SEED_K_HA, 1000/ha)");
-    row("per 1000 square feet", "-100,0", "turf", "Rx Rate: 0.65 (SEED_K_HA, 1000/ha)");
+    row("west", "-100,0", "metric", "Rx Rate: 70.00 (SEED_K_HA, k/ha)");
+    row("per acre", "-100,0", "us", "Rx Rate: 28.33 (SEED_K_HA, k/ha)");
+    row("per 1000 square feet", "-100,0", "turf", "Rx Rate: 0.65 (SEED_K_HA, k/ha)");
     row("outside", "-1000,0", "metric", "No rate is prescribed at -1000,0");
 }
 
@@ -76,14 +76,14 @@ void TestTerminalRunPoints::theUnitOfTheFileIsTold_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("told");
-    QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00 (SEED_K_HA, 1000/ha)"
-                                 << "SEED_K_HA (1000/ha, from the name)";
+    QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00 (SEED_K_HA, k/ha)"
+                                 << "SEED_K_HA (k/ha, from the name)";
     QTest::newRow("by the operator") << QStringList{"--columns", "SEED_K_HA", "--source-units", "seeds/m2"}
                                      << "Rx Rate: 800.00 (SEED_K_HA, seeds/m2)"
                                      << "SEED_K_HA (seeds/m2, named by the operator)";
     QTest::newRow("by the operator, for a likely column")
-        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68 (SEED_K_HA, 1000/ac)"
-        << "SEED_K_HA (1000/ac, named by the operator)";
+        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68 (SEED_K_HA, k/ac)"
+        << "SEED_K_HA (k/ac, named by the operator)";
 }
 
 void TestTerminalRunPoints::theUnitOfTheFileIsTold()

@@ -73,8 +73,8 @@ void TestTerminalRunProducts::theColumnsThatFeedInTheEndAreReported()
     QVERIFY2(!outcome.output.contains(QLatin1String("product 1 (Seed): SEED_K_HA")), qPrintable(outcome.output));
     QVERIFY(
         outcome.output.contains(zones() + QStringLiteral(": product 2 (Fert): FERT_KG_HA (kg/ha, from the name)\n")));
-    QVERIFY(outcome.output.contains(other
-                                    + QStringLiteral(": product 1 (Seed): rate (unit not known, taken as 1000/ha)\n")));
+    QVERIFY(
+        outcome.output.contains(other + QStringLiteral(": product 1 (Seed): rate (unit not known, taken as k/ha)\n")));
 }
 
 void TestTerminalRunProducts::whatALoadCountsIsTold_data()
@@ -85,7 +85,7 @@ void TestTerminalRunProducts::whatALoadCountsIsTold_data()
     QTest::newRow("a column by name") << QStringList{"--columns", "Rate"} << "kg/ha";
     // The file before it brought the products.
     QTest::newRow("a column by name, two files")
-        << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")} << "1000/ha";
+        << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")} << "k/ha";
 }
 
 void TestTerminalRunProducts::whatALoadCountsIsTold()
@@ -133,8 +133,7 @@ void TestTerminalRunProducts::productsComeFromAFile()
     QVERIFY(!QString(outcome.output).remove(outcome.answer).contains(QLatin1String("Water")));
     QCOMPARE(
         outcome.errors,
-        zones()
-            + QStringLiteral(": no product that a prescription may drive fits the unit of \"SEED_K_HA\" (1000/ha)\n"));
+        zones() + QStringLiteral(": no product that a prescription may drive fits the unit of \"SEED_K_HA\" (k/ha)\n"));
     QVERIFY(outcome.output.contains(QLatin1String("product 3 (Spray)")));
 }
 
@@ -158,7 +157,7 @@ void TestTerminalRunProducts::withoutOneTheyComeFromTheFirstPrescription_data()
     QTest::newRow("four columns") << QStringList{four}
                                   << QStringList{"1 (A): Rx Rate: 4.00 (A_l_ha, L/ha)",
                                                  "2 (B): Rx Rate: 5.00 (B_l_ha, L/ha)",
-                                                 "3 (Seeds): Rx Rate: 6.00 (Seeds_K_ha, 1000/ha)",
+                                                 "3 (Seeds): Rx Rate: 6.00 (Seeds_K_ha, k/ha)",
                                                  "4 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};
     QTest::newRow("a column named") << QStringList{"--columns", ",UREA_kg_ha", four}
                                     << QStringList{"2 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};

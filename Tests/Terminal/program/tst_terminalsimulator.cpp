@@ -82,7 +82,7 @@ void TestTerminalSimulator::aPointIsDescribedInTheOperatorsUnits()
 {
     const Outcome outcome = run({"--describe", "-100,0", "--units", "us", "--columns", "SEED_K_HA", zones()});
     QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
-    QVERIFY2(outcome.output.contains(QLatin1String("\nproduct 1 (Seed): Rx Rate: 28.33 (SEED_K_HA, 1000/ha)\n")),
+    QVERIFY2(outcome.output.contains(QLatin1String("\nproduct 1 (Seed): Rx Rate: 28.33 (SEED_K_HA, k/ha)\n")),
              qPrintable(outcome.output));
     QCOMPARE(outcome.errors, QString());
 }
@@ -180,7 +180,7 @@ void TestTerminalSimulator::brokenPluginsAreReportedAndSkipped()
     const Outcome outcome =
         run({"--plugin-dir", plugins.path(), "--columns", "SEED_K_HA", "--describe", "0,0", zones()});
     QCOMPARE(outcome.status, 0);
-    QVERIFY2(outcome.output.contains(QLatin1String(": Rx Rate: 80.00 (SEED_K_HA, 1000/ha)\n")),
+    QVERIFY2(outcome.output.contains(QLatin1String(": Rx Rate: 80.00 (SEED_K_HA, k/ha)\n")),
              qPrintable(outcome.output));
     QCOMPARE(outcome.errors, QStringLiteral("libbroken.so: is no shared library\n"));
 }
@@ -266,7 +266,7 @@ void TestTerminalSimulator::itSpeaksTheOperatorsLanguage()
 {
     const Outcome german = run({"--language", "de", "--columns", "SEED_K_HA", "--describe", "0,0", zones()});
     QVERIFY2(german.status == 0, qPrintable(german.errors));
-    QVERIFY2(german.output.contains(QLatin1String(" 80.00 (SEED_K_HA, 1000/ha)\n")), qPrintable(german.output));
+    QVERIFY2(german.output.contains(QLatin1String(" 80.00 (SEED_K_HA, k/ha)\n")), qPrintable(german.output));
     QVERIFY2(!german.output.contains(QLatin1String("Rx Rate")), qPrintable(german.output));
 }
 

@@ -98,7 +98,7 @@ void TestScriptTerminal::callsDoWhatTheySay_data()
         "same(m.legends[1][0].rate, 1);"
         "same(m.warnings.length, 1);"
         "same(terminal.open(zones).sources[0],"
-        " {column: 'SEED_K_HA', product: 1, sure: true, unit: '1000/ha', unitFrom: 'name'});");
+        " {column: 'SEED_K_HA', product: 1, sure: true, unit: 'k/ha', unitFrom: 'name'});");
     row("open for the active product",
         "terminal.activeProduct = 2;"
         "var m = terminal.open(zones, {columns: ['SEED_K_HA', 'FERT_KG_HA']});"

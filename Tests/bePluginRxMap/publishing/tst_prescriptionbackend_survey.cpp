@@ -59,7 +59,7 @@ void PrescriptionBackendSurveyTest::tellsWhatEachColumnHolds_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("columns");
     QTest::newRow("units") << "three-zones.geojson"
-                           << QStringList{"SEED_K_HA [1000/ha] 70..90 0% sure", "FERT_KG_HA [kg/ha] 0..150 0% sure",
+                           << QStringList{"SEED_K_HA [k/ha] 70..90 0% sure", "FERT_KG_HA [kg/ha] 0..150 0% sure",
                                           "HERB_L_HA [L/ha] 0..3 0% sure"};
     QTest::newRow("gaps") << "partly-without-rate.geojson"
                           << QStringList{"seed_rate [] 10..12 50% sure", "fert_rate [] 100..110 50% sure"};

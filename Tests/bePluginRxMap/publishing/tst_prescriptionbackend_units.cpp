@@ -17,7 +17,7 @@ void PrescriptionBackendUnitsTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn_d
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("amounts");
     using Info = DbGroupProductGroupInfo;
-    QTest::newRow("count") << int(Info::CountRate) << "1000 seeds million";
+    QTest::newRow("count") << int(Info::CountRate) << "k seeds million";
     QTest::newRow("weight") << int(Info::WeightRate) << "kg g mg dt t lb oz cwt ton";
     QTest::newRow("volume") << int(Info::VolumeRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";
     QTest::newRow("injection") << int(Info::InjectionRate) << "L mL mm3 cL dL hL m3 gal qt pt fl oz imp gal";

@@ -83,6 +83,8 @@ void UnitPage::fill(QButtonGroup *group, QGridLayout *grid, const QStringList &t
     for (int place = 0; place < texts.size(); ++place) {
         auto *button = new TouchButton(texts.at(place), this);
         button->setObjectName(name.arg(place));
+        if (texts.at(place) == QLatin1String("k"))
+            button->setNote(tr("thousand"));
         button->setCheckable(true);
         button->setFocusPolicy(Qt::TabFocus);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -254,7 +254,7 @@ QString RateUnit::baseText(Kind kind)
 {
     switch (kind) {
     case DbGroupProductGroupInfo::CountRate:
-        return QStringLiteral("1000/ha");
+        return QStringLiteral("k/ha");
     case DbGroupProductGroupInfo::RatioRate:
         return QStringLiteral("L/L");
     case DbGroupProductGroupInfo::InjectionRate:

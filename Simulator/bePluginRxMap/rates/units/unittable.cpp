@@ -43,7 +43,7 @@ const std::vector<AmountUnit> &UnitTable::amounts()
 {
     using Item = ProductLineItem;
     static const std::vector<AmountUnit> table = {
-        {"1000", Item::Count, 1.0, false, definition,
+        {"k", Item::Count, 1.0, false, definition,
          "1000 k ks ksds kst kseeds kplants 1000seeds 1000sds 1000plants 1000kernels 1000korn 1000koerner thousand "
          "thousands tsd mil milheiro milhares"},
         {"seeds", Item::Count, 1e-3, false, definition,

@@ -130,7 +130,7 @@ void ColumnPolicyUnitsTest::saysWhatItTakesForGranted_data()
     QTest::addColumn<QList<MapFinding::Kind>>("kinds");
     using Kind = MapFinding::Kind;
     using Kinds = QList<Kind>;
-    const QString unknown = QStringLiteral("the unit of column \"%1\" is not known, taken as 1000/ha");
+    const QString unknown = QStringLiteral("the unit of column \"%1\" is not known, taken as k/ha");
     QTest::newRow("nothing") << "SEED_K_HA" << false << "" << QStringList() << Kinds();
     QTest::newRow("unknown unit") << "rate" << false << "" << QStringList(unknown.arg("rate"))
                                   << Kinds{Kind::UnitUnknown};
@@ -145,7 +145,7 @@ void ColumnPolicyUnitsTest::saysWhatItTakesForGranted_data()
     QTest::newRow("named") << "thing" << true << "" << QStringList(unknown.arg("thing")) << Kinds{Kind::UnitUnknown};
     QTest::newRow("unit that does not fit")
         << "SEED_kg_ha" << true << ""
-        << QStringList("column \"SEED_kg_ha\" is in kg/ha, which does not fit product 1 (Seed); taken as 1000/ha")
+        << QStringList("column \"SEED_kg_ha\" is in kg/ha, which does not fit product 1 (Seed); taken as k/ha")
         << Kinds{Kind::UnitMismatch};
 }
 

@@ -38,7 +38,7 @@ void RateUnitTest::readsUnitsFromText_data()
     for (const char *text : {"seeds/ac", "plants per acre", "sds/ac"})
         row(text, "seeds/ac");
     for (const char *text : {"k/ac", "1000/ac", "ksds/ac", "1000 seeds/ac", "k seeds/ac"})
-        row(text, "1000/ac");
+        row(text, "k/ac");
     row("mL/ha", "mL/ha");
     row("ml/m\u00b2", "mL/m2");
     row("seeds/m2", "seeds/m2");
@@ -79,8 +79,8 @@ void RateUnitTest::findsUnitsInNames_data()
     row("tons_ac", "ton/ac");
     row("cc_ha", "mL/ha");
     row("l_daa", "L/daa");
-    row("SEED_K_HA", "1000/ha");
-    row("SEED_KS_HA", "1000/ha");
+    row("SEED_K_HA", "k/ha");
+    row("SEED_KS_HA", "k/ha");
     row("LimeTHa", "t/ha");
     row("UreaLbAc", "lb/ac");
     row("RateMlHa", "mL/ha");
@@ -93,7 +93,7 @@ void RateUnitTest::findsUnitsInNames_data()
         row(name, "cL/ha");
     row("k_g_ha", "g/ha");
     row("P_t_ac", "t/ac");
-    row("k_seeds_ac", "1000/ac");
+    row("k_seeds_ac", "k/ac");
     row("kg_m_2", "kg/m2");
     row("Rate (lb/ac)", "lb/ac");
     row("lbs/1000ft2", "lb/1000 ft2");
