@@ -320,6 +320,10 @@
         <translation>Spalte „%1“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält</translation>
     </message>
     <message>
+        <source>column &quot;%1&quot; is called a total, and its numbers are taken as rates</source>
+        <translation>Spalte „%1“ heißt wie eine Summe, und ihre Zahlen werden als Mengen je Fläche genommen</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; gives different units (&quot;%2&quot;, &quot;%3&quot;) and is not used for column &quot;%4&quot;</source>
         <translation>Spalte „%1“ nennt verschiedene Einheiten („%2“, „%3“) und gilt nicht für Spalte „%4“</translation>
     </message>
@@ -448,12 +452,12 @@
         <translation>kann nicht gelesen werden oder ist leer</translation>
     </message>
     <message>
-        <source>is no Shapefile</source>
-        <translation>ist kein Shapefile</translation>
-    </message>
-    <message>
         <source>is damaged (%1)</source>
         <translation>ist beschädigt (%1)</translation>
+    </message>
+    <message>
+        <source>is no Shapefile</source>
+        <translation>ist kein Shapefile</translation>
     </message>
     <message>
         <source>is cut short within its header</source>

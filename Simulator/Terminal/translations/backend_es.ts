@@ -320,6 +320,10 @@
         <translation>la columna «%1» es una suposición: nada en su nombre indica que contenga dosis</translation>
     </message>
     <message>
+        <source>column &quot;%1&quot; is called a total, and its numbers are taken as rates</source>
+        <translation>la columna «%1» lleva el nombre de un total, y sus números se toman como dosis</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; gives different units (&quot;%2&quot;, &quot;%3&quot;) and is not used for column &quot;%4&quot;</source>
         <translation>la columna «%1» da unidades distintas («%2», «%3») y no se usa para la columna «%4»</translation>
     </message>
@@ -448,12 +452,12 @@
         <translation>no se puede leer o está vacío</translation>
     </message>
     <message>
-        <source>is no Shapefile</source>
-        <translation>no es un Shapefile</translation>
-    </message>
-    <message>
         <source>is damaged (%1)</source>
         <translation>está dañado (%1)</translation>
+    </message>
+    <message>
+        <source>is no Shapefile</source>
+        <translation>no es un Shapefile</translation>
     </message>
     <message>
         <source>is cut short within its header</source>

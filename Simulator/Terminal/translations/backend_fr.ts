@@ -320,6 +320,10 @@
         <translation>la colonne «&#xa0;%1&#xa0;» est supposée&#xa0;: rien dans son nom n’indique qu’elle contient des doses</translation>
     </message>
     <message>
+        <source>column &quot;%1&quot; is called a total, and its numbers are taken as rates</source>
+        <translation>la colonne «&#xa0;%1&#xa0;» porte le nom d’un total, et ses nombres sont pris pour des doses</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; gives different units (&quot;%2&quot;, &quot;%3&quot;) and is not used for column &quot;%4&quot;</source>
         <translation>la colonne «&#xa0;%1&#xa0;» donne des unités différentes («&#xa0;%2&#xa0;», «&#xa0;%3&#xa0;») et n’est pas utilisée pour la colonne «&#xa0;%4&#xa0;»</translation>
     </message>
@@ -448,12 +452,12 @@
         <translation>ne peut pas être lu ou est vide</translation>
     </message>
     <message>
-        <source>is no Shapefile</source>
-        <translation>n’est pas un Shapefile</translation>
-    </message>
-    <message>
         <source>is damaged (%1)</source>
         <translation>est endommagé (%1)</translation>
+    </message>
+    <message>
+        <source>is no Shapefile</source>
+        <translation>n’est pas un Shapefile</translation>
     </message>
     <message>
         <source>is cut short within its header</source>

@@ -320,6 +320,10 @@
         <translation>a coluna “%1” é uma suposição: nada em seu nome indica que contenha doses</translation>
     </message>
     <message>
+        <source>column &quot;%1&quot; is called a total, and its numbers are taken as rates</source>
+        <translation>a coluna “%1” tem o nome de um total, e seus números são tomados como doses</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; gives different units (&quot;%2&quot;, &quot;%3&quot;) and is not used for column &quot;%4&quot;</source>
         <translation>a coluna “%1” dá unidades diferentes (“%2”, “%3”) e não é usada para a coluna “%4”</translation>
     </message>
@@ -448,12 +452,12 @@
         <translation>não pode ser lido ou está vazio</translation>
     </message>
     <message>
-        <source>is no Shapefile</source>
-        <translation>não é um Shapefile</translation>
-    </message>
-    <message>
         <source>is damaged (%1)</source>
         <translation>está danificado (%1)</translation>
+    </message>
+    <message>
+        <source>is no Shapefile</source>
+        <translation>não é um Shapefile</translation>
     </message>
     <message>
         <source>is cut short within its header</source>

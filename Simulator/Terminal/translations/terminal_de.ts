@@ -15,6 +15,10 @@
         <translation>geraten</translation>
     </message>
     <message>
+        <source>total</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
         <source>None</source>
         <translation>Keines</translation>
     </message>
@@ -678,6 +682,10 @@
         <translation>Zum Öffnen für eine Spalte ein Produkt wählen.</translation>
     </message>
     <message>
+        <source>%1 is called a total, not a rate</source>
+        <translation>%1 heißt wie eine Summe, nicht wie eine Menge je Fläche</translation>
+    </message>
+    <message>
         <source>No product</source>
         <translation>Kein Produkt</translation>
     </message>
@@ -1101,16 +1109,16 @@
         <translation>sie nennt keine</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>Tausend</translation>
+    </message>
+    <message>
         <source>Take</source>
         <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Take %1</source>
         <translation>%1 übernehmen</translation>
-    </message>
-    <message>
-        <source>thousand</source>
-        <translation>Tausend</translation>
     </message>
     <message>
         <source>amount and area</source>

@@ -15,6 +15,10 @@
         <translation>supuesto</translation>
     </message>
     <message>
+        <source>total</source>
+        <translation>total</translation>
+    </message>
+    <message>
         <source>None</source>
         <translation>Ninguno</translation>
     </message>
@@ -678,6 +682,10 @@
         <translation>Elija un producto para una columna para abrir el archivo.</translation>
     </message>
     <message>
+        <source>%1 is called a total, not a rate</source>
+        <translation>%1 lleva el nombre de un total, no de una dosis</translation>
+    </message>
+    <message>
         <source>No product</source>
         <translation>Ningún producto</translation>
     </message>
@@ -1101,16 +1109,16 @@
         <translation>no la indica</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>miles</translation>
+    </message>
+    <message>
         <source>Take</source>
         <translation>Tomar</translation>
     </message>
     <message>
         <source>Take %1</source>
         <translation>Tomar %1</translation>
-    </message>
-    <message>
-        <source>thousand</source>
-        <translation>miles</translation>
     </message>
     <message>
         <source>amount and area</source>

@@ -15,6 +15,10 @@
         <translation>supposé</translation>
     </message>
     <message>
+        <source>total</source>
+        <translation>total</translation>
+    </message>
+    <message>
         <source>None</source>
         <translation>Aucun</translation>
     </message>
@@ -678,6 +682,10 @@
         <translation>Choisissez le produit d’une colonne pour ouvrir le fichier.</translation>
     </message>
     <message>
+        <source>%1 is called a total, not a rate</source>
+        <translation>%1 porte le nom d’un total, non d’une dose</translation>
+    </message>
+    <message>
         <source>No product</source>
         <translation>Aucun produit</translation>
     </message>
@@ -1101,16 +1109,16 @@
         <translation>il ne la dit pas</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>milliers</translation>
+    </message>
+    <message>
         <source>Take</source>
         <translation>Prendre</translation>
     </message>
     <message>
         <source>Take %1</source>
         <translation>Prendre %1</translation>
-    </message>
-    <message>
-        <source>thousand</source>
-        <translation>milliers</translation>
     </message>
     <message>
         <source>amount and area</source>

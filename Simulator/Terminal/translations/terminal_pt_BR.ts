@@ -15,6 +15,10 @@
         <translation>suposto</translation>
     </message>
     <message>
+        <source>total</source>
+        <translation>total</translation>
+    </message>
+    <message>
         <source>None</source>
         <translation>Nenhum</translation>
     </message>
@@ -678,6 +682,10 @@
         <translation>Escolha um produto para uma coluna para abrir o arquivo.</translation>
     </message>
     <message>
+        <source>%1 is called a total, not a rate</source>
+        <translation>%1 tem o nome de um total, não de uma dose</translation>
+    </message>
+    <message>
         <source>No product</source>
         <translation>Nenhum produto</translation>
     </message>
@@ -1101,16 +1109,16 @@
         <translation>ele não a informa</translation>
     </message>
     <message>
+        <source>thousand</source>
+        <translation>milhares</translation>
+    </message>
+    <message>
         <source>Take</source>
         <translation>Usar</translation>
     </message>
     <message>
         <source>Take %1</source>
         <translation>Usar %1</translation>
-    </message>
-    <message>
-        <source>thousand</source>
-        <translation>milhares</translation>
     </message>
     <message>
         <source>amount and area</source>

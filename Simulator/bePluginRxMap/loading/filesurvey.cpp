@@ -51,7 +51,8 @@ SurveyedColumn FileSurvey::describe(int place) const
     told.key = isFoundByName ? column.name : QStringLiteral("#%1").arg(column.field + 1);
     told.unit = unit.unit.text();
     told.unitFrom = unit.from;
-    told.isSure = LikelyColumns::saysRates(column);
+    told.isTotal = LikelyColumns::saysTotal(column);
+    told.isSure = LikelyColumns::saysRates(column) && !told.isTotal;
     measure(column, told);
     return told;
 }

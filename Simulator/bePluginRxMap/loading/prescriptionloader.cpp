@@ -108,7 +108,7 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
 {
     const GdalSession session;
     const GeosInterrupt interrupt(control.cancelled);
-    const bool isRead = readPolygons(map, ColumnPolicy::chanceOf);
+    const bool isRead = readPolygons(map, ColumnPolicy::chanceToChoose);
     if (isRead)
         makeProducts();
     survey.columnProducts = report->columnProducts;
@@ -119,9 +119,12 @@ bool PrescriptionLoader::surveyInto(LoadedMap &map, SurveyReport &survey)
     if (!isRead && !isNoLayerTaken)
         return false;
     survey.lackOfFeeds = std::exchange(report->error, QString());
-    if (survey.columns.isEmpty()) {
-        // Nothing in the table looks like a rate: the operator may know better.
+    const bool looksAnyLikeRates = std::any_of(survey.columns.begin(), survey.columns.end(),
+                                               [](const SurveyedColumn &column) { return !column.isTotal; });
+    if (!looksAnyLikeRates) {
+        // The operator may know better.
         source = RawPrescription();
+        survey.columns.clear();
         if (!readPolygons(map, [](const SourceColumn &) { return RateChance::Possible; }))
             return false;
         FileSurvey(source, polygons).addColumns(policy, survey);

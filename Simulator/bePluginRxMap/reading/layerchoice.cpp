@@ -120,7 +120,7 @@ void LayerChoice::judgeColumns(Offer &offer) const
     }
     if (isAnyNamed)
         offer.chance = RateChance::Named;
-    else if (offer.chance == RateChance::None)
+    else if (offer.chance < RateChance::Possible)
         offer.lack = BackendText::tr("has no column that looks like a rate");
 }
 

@@ -42,8 +42,9 @@ struct SourceColumn {
     PlaceRates placeRates = {};
 };
 
-/// Whether a column, of which name and type are known, may hold rates, or is even called a rate.
-enum class RateChance { None, Possible, Named };
+/// Whether a column, of which name and type are known, may hold rates, or is even called a rate. What is called a total
+/// is read for the operator to choose, but no layer is taken for it.
+enum class RateChance { None, Total, Possible, Named };
 using ColumnJudge = RateChance (*)(const SourceColumn &);
 
 /// A column that holds the same text in every record that has any, such as the unit of a rate.

@@ -1,5 +1,6 @@
 #include "layerwriter.h"
 #include "openwindowtest.h"
+#include "paintedtexts.h"
 
 #include <ogrsf_frmts.h>
 
@@ -9,6 +10,7 @@ class TestOpenWindowChoices : public OpenWindowTest {
 
 private Q_SLOTS:
     void choicesAreRememberedUntilTheColumnsChange();
+    void aTotalIsChosenWithAWarning();
     void anotherLayerIsChosen();
 };
 
@@ -32,6 +34,25 @@ void TestOpenWindowChoices::choicesAreRememberedUntilTheColumnsChange()
     window->preview({path});
     QVERIFY(waitFor("openAccept"));
     QCOMPARE(text(QStringLiteral("columnRow0Product")), QStringLiteral("Seed"));
+}
+
+void TestOpenWindowChoices::aTotalIsChosenWithAWarning()
+{
+    const QString path = write({"RATE_KG_HA", "QT_kg"});
+    window->preview({path});
+    QVERIFY(waitFor("openAccept"));
+    const QString warning = QStringLiteral("QT_kg is called a total, not a rate");
+    QCOMPARE(text(QStringLiteral("columnRow1")), QStringLiteral("QT_kg"));
+    QVERIFY(paintedTexts(*find(QStringLiteral("columnRow1"))).contains(QStringLiteral("total")));
+    QCOMPARE(text(QStringLiteral("columnRow1Product")), QStringLiteral("None"));
+    QVERIFY(!text(QStringLiteral("openRemark")).contains(warning));
+    touch(QStringLiteral("columnRow1Product"));
+    touch(QStringLiteral("choice2"));
+    QVERIFY2(text(QStringLiteral("openRemark")).contains(warning), qPrintable(text(QStringLiteral("openRemark"))));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().columns, QStringList({"", "QT_kg"}));
+    QCOMPARE(backend->maps().first().columns, QStringList("QT_kg"));
 }
 
 void TestOpenWindowChoices::anotherLayerIsChosen()

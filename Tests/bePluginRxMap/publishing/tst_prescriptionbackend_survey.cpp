@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aLoadTakesEachColumnInTheUnitThatWasTold();
     void aLoadHasTheClassesThatWereTold_data();
     void aLoadHasTheClassesThatWereTold();
+    void tellsTotalsForTheOperatorToChoose();
     void tellsAllColumnsWhereNoneLooksLikeARate();
     void tellsAllColumnsOfALayerWhereNoLayerHasARate();
     void namesAColumnByItsNumberWhereItsNameStandsForAnother();
@@ -188,6 +189,30 @@ void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold()
     QCOMPARE(told.legend.size(), loaded.legends.first().size());
     for (int i = 0; i < told.legend.size(); ++i)
         QCOMPARE(float(told.legend.at(i).rate), float(loaded.legends.first().at(i).rate));
+}
+
+void PrescriptionBackendSurveyTest::tellsTotalsForTheOperatorToChoose()
+{
+    const QString path =
+        write({{"ID", 1}, {"QT_kg", 1.0}, {"RATE_kg_ha", 1.0}, {"TOT_AREA", 1.0}}, {1, 50.0, 100.0, 0.5});
+    const SurveyReport report = survey(requestFor(path));
+    QVERIFY2(report.isOk(), qPrintable(report.error));
+    QCOMPARE(report.columns.size(), 2);
+    QCOMPARE(report.columns.at(0).name, QStringLiteral("RATE_kg_ha"));
+    QVERIFY(!report.columns.at(0).isTotal);
+    const SurveyedColumn &total = report.columns.at(1);
+    QCOMPARE(total.name, QStringLiteral("QT_kg"));
+    QVERIFY(total.isTotal && !total.isSure);
+    QCOMPARE(total.product, 0);
+    QCOMPARE(total.greatestRate, 50.0);
+    // Chosen among what is offered it is told; who names it knows.
+    LoadRequest chosen = requestFor(path, {QStringLiteral("QT_kg")});
+    QVERIFY(backend->loadAndWait(chosen).warnings.filter(QStringLiteral("called a total")).isEmpty());
+    chosen.tellsGuesses = true;
+    const LoadReport loaded = backend->loadAndWait(chosen);
+    QCOMPARE(loaded.warnings.filter(QStringLiteral("\"QT_kg\" is called a total")).size(), 1);
+    QVERIFY(loaded.warnings.filter(QStringLiteral("guess")).isEmpty());
+    QCOMPARE(int(loaded.findings.first().kind), int(MapFinding::Kind::Total));
 }
 
 void PrescriptionBackendSurveyTest::tellsAllColumnsWhereNoneLooksLikeARate()

@@ -55,7 +55,7 @@ void ColumnRow::show(const OpenSelection &selection, int index)
     const SurveyedColumn &column = selection.column(index);
     what->setText(column.name);
     what->setNotes(notes(column, selection.unit(index)));
-    what->setBadge(column.isSure ? QString() : tr("guess"));
+    what->setBadge(column.isTotal ? tr("total") : column.isSure ? QString() : tr("guess"));
     const int number = selection.product(index);
     product->setText(number == 0 ? tr("None") : products.at(number - 1).name);
     product->setNote(number == 0 ? tr("feeds no product") : tr("Product %1").arg(number));

@@ -160,6 +160,10 @@ void PreviewPage::refresh()
         remarks.append(replacements());
     else
         remarks.append(tr("Choose a product for a column to open the file."));
+    for (int index = 0; index < selection->size(); ++index) {
+        if (selection->product(index) > 0 && selection->column(index).isTotal)
+            remarks.append(tr("%1 is called a total, not a rate").arg(selection->column(index).name));
+    }
     remark->setText(remarks.join(QLatin1Char('\n')));
 }
 

@@ -28,6 +28,8 @@ struct SurveyedColumn {
     double shareWithoutRate = 0.0;
     /// Whether its name says that it holds rates; else it is a guess.
     bool isSure = false;
+    /// Its name says that it holds amounts per polygon; it feeds no product unasked.
+    bool isTotal = false;
     /// Number from 1 of the product that it feeds unasked; 0 for none.
     int product = 0;
     /// For each record; not a number where it has none.

@@ -29,7 +29,7 @@ struct ProductWords {
     QSet<QString> words;
 };
 
-const std::vector<ProductWords> &productWords()
+const std::vector<ProductWords> &wordsOfProducts()
 {
     static const std::vector<ProductWords> words = {
         {ProductLineItem::Count, wordSet("seed seeding sow saat saatgut samen semence semilla semente population pop")},
@@ -58,11 +58,18 @@ const QSet<QString> &nutrients()
     return words;
 }
 
-const QSet<QString> &otherWords()
+const QSet<QString> &totalWords()
+{
+    static const QSet<QString> words = wordSet("total totals tot sum summe gesamt qt qty quantity");
+    return words;
+}
+
+/// Of what no rate is, but for totals.
+const QSet<QString> &wordsOfOthers()
 {
     static const QSet<QString> words = wordSet(
         "id ids fid oid gid uid pid objectid globalid key dn area areas flaeche surface size perim perimeter length "
-        "len shape total totals tot sum summe gesamt qt qty quantity count cnt num number nr no xmin xmax ymin ymax "
+        "len shape count cnt num number nr no xmin xmax ymin ymax "
         "minx maxx miny maxy x y z lat lon lng long latitude longitude left right top bottom north south east west row "
         "col column idx index class code kode codigo cat year jahr annee ano date time version flag status rep reps "
         "replic replicatio replication block plot strip zone level elev elevation slope altitude moisture protein "
@@ -153,6 +160,12 @@ QString ColumnName::subject() const
 
 QString ColumnName::product() const
 {
+    const QStringList rest = productWords();
+    return rest.isEmpty() ? whole : rest.join(QLatin1Char(' '));
+}
+
+QStringList ColumnName::productWords() const
+{
     QVector<int> others;
     const bool hasUnit = RateUnit::find(words, mayBeCut, &others).isKnown()
         || (hasRateWord() && RateUnit::findAmount(words, &others).isKnown());
@@ -169,13 +182,13 @@ QString ColumnName::product() const
         rest.append(readable(written.value(place)));
         isSaying = isSaying || !isNumber(word);
     }
-    return isSaying && written.size() == words.size() ? rest.join(QLatin1Char(' ')) : whole;
+    return isSaying && written.size() == words.size() ? rest : QStringList();
 }
 
 ProductLineItem::Basis ColumnName::basis() const
 {
     // Seed is sown by weight, too: its name says more than its unit.
-    for (const ProductWords &known : productWords()) {
+    for (const ProductWords &known : wordsOfProducts()) {
         const bool isNamed =
             std::any_of(words.begin(), words.end(), [&known](const QString &word) { return isIn(known.words, word); });
         if (isNamed)
@@ -199,24 +212,39 @@ bool ColumnName::endsInArea() const
     return words.size() > 1 && areas.contains(words.last());
 }
 
-bool ColumnName::hasOtherWord() const
+bool ColumnName::namesSoilContent() const
 {
     // What the soil holds of a nutrient: "K_mg_kg".
     const int milligrams = words.indexOf(QStringLiteral("mg"));
-    if (milligrams >= 0 && words.value(milligrams + 1).endsWith(QLatin1Char('g')))
-        return true;
-    const QStringList others = words.mid(0, endsInArea() ? words.size() - 1 : words.size());
-    return std::any_of(others.begin(), others.end(), [](const QString &word) { return isIn(otherWords(), word); });
+    return milligrams >= 0 && words.value(milligrams + 1).endsWith(QLatin1Char('g'));
+}
+
+QStringList ColumnName::otherWords() const
+{
+    QStringList others = words.mid(0, endsInArea() ? words.size() - 1 : words.size());
+    others.erase(
+        std::remove_if(others.begin(), others.end(),
+                       [](const QString &word) { return !isIn(wordsOfOthers(), word) && !isIn(totalWords(), word); }),
+        others.end());
+    return others;
 }
 
 bool ColumnName::namesRate() const
 {
-    return hasRateWord() || RateUnit::find(words, mayBeCut).isKnown() || (endsInArea() && !hasOtherWord());
+    return hasRateWord() || RateUnit::find(words, mayBeCut).isKnown()
+        || (endsInArea() && !namesSoilContent() && otherWords().isEmpty());
+}
+
+bool ColumnName::namesTotal() const
+{
+    const QStringList others = otherWords();
+    return namesOther() && !namesSoilContent() && !others.isEmpty()
+        && std::all_of(others.begin(), others.end(), [](const QString &word) { return isIn(totalWords(), word); });
 }
 
 bool ColumnName::namesOther() const
 {
     if (!namesRate())
-        return hasOtherWord();
+        return namesSoilContent() || !otherWords().isEmpty();
     return std::any_of(words.begin(), words.end(), [](const QString &word) { return isIn(decisiveWords(), word); });
 }

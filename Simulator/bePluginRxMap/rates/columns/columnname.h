@@ -16,6 +16,8 @@ public:
     bool namesRate() const;
     /// Names what no rate is: an identifier, size, total, extent, place, yield, something found in the soil.
     bool namesOther() const;
+    /// Of what no rate is names a total, and nothing else.
+    bool namesTotal() const;
     /// Names the unit of a rate that stands in another column: "Unit", "RateUOM".
     bool namesUnit() const;
     /// Names what was put out, not what is wanted.
@@ -28,13 +30,19 @@ public:
     /// What is left of the name without words for a rate and without its unit, spelled to be read: "Urea" for
     /// "UREA_KG_HA". The whole name where nothing is left.
     QString product() const;
+    /// Whether anything of it names the product.
+    bool namesProduct() const { return !productWords().isEmpty(); }
     /// What a word for the product, else the rate's unit, says is measured out.
     ProductLineItem::Basis basis() const;
 
 private:
     bool hasRateWord() const;
     bool endsInArea() const;
-    bool hasOtherWord() const;
+    bool namesSoilContent() const;
+    /// Its words that name what no rate is.
+    QStringList otherWords() const;
+    /// What is left of it, spelled to be read; none where that says nothing.
+    QStringList productWords() const;
 
     QString whole;
     QStringList words;

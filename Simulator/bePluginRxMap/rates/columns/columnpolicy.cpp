@@ -104,6 +104,11 @@ RateChance ColumnPolicy::chanceOf(const SourceColumn &column)
     return column.isText ? RateChance::None : RateChance::Possible;
 }
 
+RateChance ColumnPolicy::chanceToChoose(const SourceColumn &column)
+{
+    return !column.isText && ColumnName(column.name).namesTotal() ? RateChance::Total : chanceOf(column);
+}
+
 void ColumnPolicy::readUnits(const QStringList &texts)
 {
     if (texts.size() > products.size())
@@ -209,7 +214,10 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
     decision.sources.append(told);
     using Kind = MapFinding::Kind;
     const auto tell = [&decision](Kind kind, const QString &text) { decision.findings.append(finding(kind, text)); };
-    if (!told.isSure)
+    if (tellsGuesses && LikelyColumns::saysTotal(column))
+        tell(Kind::Total,
+             BackendText::tr("column \"%1\" is called a total, and its numbers are taken as rates").arg(column.name));
+    else if (!told.isSure)
         tell(
             Kind::GuessedColumn,
             BackendText::tr("column \"%1\" is a guess: nothing in its name says that it holds rates").arg(column.name));

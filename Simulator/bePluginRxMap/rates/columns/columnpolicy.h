@@ -61,6 +61,8 @@ public:
 
     /// What the column's name and type say of whether it holds rates.
     static RateChance chanceOf(const SourceColumn &column);
+    /// The same where the operator is to choose: a total may be meant as a rate.
+    static RateChance chanceToChoose(const SourceColumn &column);
 
     /// Why the named columns cannot feed these products, whatever the file holds; empty when they may.
     const QString &refusal() const { return reason; }

@@ -90,6 +90,11 @@ bool LikelyColumns::saysRates(const SourceColumn &column)
     return column.meaning == SourceColumn::Meaning::Rates || ColumnName(column.name).namesRate();
 }
 
+bool LikelyColumns::saysTotal(const SourceColumn &column)
+{
+    return column.meaning == SourceColumn::Meaning::NotSaid && ColumnName(column.name).namesTotal();
+}
+
 std::vector<int> LikelyColumns::candidates(const std::vector<PlanePolygon> &polygons) const
 {
     std::vector<double> areas;

@@ -28,6 +28,8 @@ public:
     const std::vector<LikelyColumn> &columns() const { return likely; }
     /// Whether the column's format or name says that it holds rates.
     static bool saysRates(const SourceColumn &column);
+    /// Whether its name says that it holds totals, where the format says nothing.
+    static bool saysTotal(const SourceColumn &column);
     /// What to say of a table that has none.
     QString reasonForNone() const;
 

@@ -9,6 +9,8 @@ class ColumnNameTest : public TestBase {
 private Q_SLOTS:
     void tellsRatesFromTheRest_data();
     void tellsRatesFromTheRest();
+    void tellsTotalsFromOtherThings_data();
+    void tellsTotalsFromOtherThings();
     void tellsWhatIsMeasuredOut_data();
     void tellsWhatIsMeasuredOut();
     void namesTheProduct_data();
@@ -49,6 +51,21 @@ void ColumnNameTest::tellsRatesFromTheRest()
     const ColumnName name(tag == "umlaut" ? QString::fromUtf8("Düngung") : QString::fromLatin1(tag));
     QCOMPARE(name.namesRate(), rate);
     QCOMPARE(name.namesOther(), other);
+}
+
+void ColumnNameTest::tellsTotalsFromOtherThings_data()
+{
+    QTest::addColumn<bool>("total");
+    for (const char *name : {"QT_kg", "total", "Total_kg", "TOTAL_KG_HA", "SUM_RATE", "Gesamt", "qty1"})
+        QTest::newRow(name) << true;
+    for (const char *name : {"Total_Area", "Tot_Yield", "SUM_K_mg_kg", "Total_N_ppm", "ID", "AREA_HA", "Rate", "Urea",
+                             "TOTAL_ID", "qt_acre"})
+        QTest::newRow(name) << false;
+}
+
+void ColumnNameTest::tellsTotalsFromOtherThings()
+{
+    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).namesTotal(), "total");
 }
 
 void ColumnNameTest::tellsWhatIsMeasuredOut_data()
