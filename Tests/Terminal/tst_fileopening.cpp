@@ -30,6 +30,8 @@ private Q_SLOTS:
     void aDroppedFileIsOpenedThroughTheWindow();
     void theFirstFileBringsItsProducts();
     void aFileThatReplacesAllBringsItsProducts();
+    void aProductThatItsColumnLeavesStaysOnlyByAName_data();
+    void aProductThatItsColumnLeavesStaysOnlyByAName();
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter_data();
@@ -251,6 +253,30 @@ void TestFileOpening::aFileThatReplacesAllBringsItsProducts()
     // Not so for a script, whose products are what they were.
     QVERIFY(terminal().open({{write("urea", {{"UREA_KG_HA", 1.0}})}}).first().isOk());
     QCOMPARE(productNames().first(), QStringLiteral("Lime"));
+}
+
+void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName_data()
+{
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("Rate") << "Rate" << QStringList{"Fertiliser", "Seed", "Herbicide"};
+    QTest::newRow("Urea") << "UREA_KG_HA" << QStringList{"Urea", "Seed", "Herbicide"};
+}
+
+void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName()
+{
+    QFETCH(QString, column);
+    terminal().machine()->leaveProductsOpen();
+    Q_EMIT terminal().window()->dropped({write("left", {{column.toLatin1().constData(), 1.0}})}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("columnRow0Product")->click();
+    QVERIFY(button("choice2")->text().startsWith(QStringLiteral("2. Seed")));
+    button("choice2")->click();
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QTEST(productNames(), "names");
+    // What was chosen feeds what it was shown to.
+    QCOMPARE(terminal().columnsOf(terminal().backend()->maps().last().group).keys(), QList<int>{2});
 }
 
 void TestFileOpening::productsStayWhereOneIsInUseOrTheMachineMoves()

@@ -62,6 +62,13 @@ Products spareProducts(const QList<ColumnProduct> &columns)
     return spare;
 }
 
+/// The next of the standard products that are left, else one of its own.
+Product nextSpare(Products &spare, int number)
+{
+    const QString name = ProductFile::tr("Product %1").arg(number);
+    return spare.isEmpty() ? productOf({name, DbGroupProductGroupInfo::WeightRate, number}) : spare.takeFirst();
+}
+
 } // namespace
 
 Products SuggestedProducts::of(const QList<ColumnProduct> &columns, int least)
@@ -69,20 +76,25 @@ Products SuggestedProducts::of(const QList<ColumnProduct> &columns, int least)
     int count = std::max(least, ProductFile::standard().size());
     for (const ColumnProduct &column : columns)
         count = std::max(count, column.number);
+    count = std::min(count, ProductFile::maxProducts);
     Products spare = spareProducts(columns);
     Products products;
-    for (int number = 1; number <= std::min(count, ProductFile::maxProducts); ++number) {
+    QList<int> left;
+    for (int number = 1; number <= count; ++number) {
         const auto column = std::find_if(columns.begin(), columns.end(),
                                          [number](const ColumnProduct &any) { return any.number == number; });
-        if (column != columns.end()) {
+        if (column == columns.end())
+            products.append(nextSpare(spare, number));
+        else
             products.append(productOf(*column));
-        } else if (!spare.isEmpty()) {
-            products.append(spare.takeFirst());
-        } else {
-            const QString name = ProductFile::tr("Product %1").arg(number);
-            products.append(productOf({name, DbGroupProductGroupInfo::WeightRate, number}));
-        }
+        if (column != columns.end() && column->name.isEmpty())
+            left.append(number);
         products.last().bin = number;
+    }
+    // The others stay as they were offered.
+    for (const int number : qAsConst(left)) {
+        products[number - 1] = nextSpare(spare, number);
+        products[number - 1].bin = number;
     }
     return products;
 }

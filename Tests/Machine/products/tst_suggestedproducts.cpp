@@ -35,6 +35,8 @@ void TestSuggestedProducts::columnsBecomeProducts_data()
     row("a gap", {{"UAN", Info::VolumeRate, 2}}, {"Seed", "UAN", "Fertiliser"});
     row("more gaps than there are others", {{"UAN", Info::VolumeRate, 6}},
         {"Seed", "Fertiliser", "Herbicide", "Product 4", "Product 5", "UAN"});
+    row("one that its column left", {{"", Info::WeightRate, 1}}, {"Fertiliser", "Seed", "Herbicide"});
+    row("the first of two", {{"", Info::VolumeRate, 1}, {"Urea", Info::WeightRate, 2}}, {"Fertiliser", "Urea", "Seed"});
     QList<ColumnProduct> many;
     QStringList names;
     for (int number = 1; number <= 20; ++number) {

@@ -86,7 +86,15 @@ OpenRequest OpenSelection::request() const
     OpenRequest request{{report.path}};
     request.layer = report.layer;
     request.task = report.task;
-    request.columnProducts = report.columnProducts;
+    QList<ColumnProduct> made = report.columnProducts;
+    for (ColumnProduct &product : made) {
+        const bool isFed = std::any_of(entries.begin(), entries.end(),
+                                       [&product](const Entry &entry) { return entry.product == product.number; });
+        // Nobody would know what it is.
+        if (!isFed && !product.isNamed)
+            product.name.clear();
+    }
+    request.columnProducts = made;
     for (int index = 0; index < size(); ++index) {
         const int number = product(index);
         for (QStringList *list : {&request.columns, &request.units}) {

@@ -9,7 +9,8 @@
 
 /// What a column of a file says of the product that it was made for.
 struct ColumnProduct {
-    /// As the column calls it: "Urea" for "UREA_KG_HA".
+    /// As the column calls it: "Urea" for "UREA_KG_HA". Empty where the operator lets the column feed another product
+    /// and it names none: one of the usual products takes its place.
     QString name;
     /// By the column's unit: counted, by volume or by weight.
     DbGroupProductGroupInfo::RateKind kind = DbGroupProductGroupInfo::WeightRate;
@@ -19,6 +20,8 @@ struct ColumnProduct {
     double typicalRate = std::numeric_limits<double>::quiet_NaN();
     /// What the file gives for places without a prescription (PlaceRates); not a number where it gives nothing.
     double givenRate = std::numeric_limits<double>::quiet_NaN();
+    /// The name is that of a product, not of the column alone ("Rate").
+    bool isNamed = true;
 
     /// What suits places without a prescription.
     double defaultRate() const { return std::isnan(givenRate) ? typicalRate : givenRate; }

@@ -67,6 +67,8 @@ QList<ColumnProduct> ColumnProducts::of(const RawPrescription &source, const std
         const RateUnit unit = named.isKnown() ? named : units.of(place).unit;
         const RateKind kind = kindOf(unit.isKnown() ? unit.basis() : ColumnName(column.name).basis());
         products.append({freeName(column, products), kind, number});
+        products.last().isNamed =
+            column.meaning != SourceColumn::Meaning::NotSaid || ColumnName(column.name).namesProduct();
     };
     for (int i = 0; i < names.size(); ++i) {
         const int field = TableColumns::find(source.columnNames, names.at(i));
