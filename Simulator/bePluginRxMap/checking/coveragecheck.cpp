@@ -15,7 +15,7 @@ namespace {
 constexpr double faceGrid = 1.0 / 64.0;
 /// Polygons whose common area is this share of either are of the same shape.
 constexpr double sameShape = 0.999;
-/// So many edges of a gap are asked for what lies beyond them.
+/// What lies beyond a gap is looked for at this many of its edges at most.
 constexpr size_t mostAsked = 64;
 
 PlaneVertex pointInside(const GeosContext &geos, const PlanePolygon &face)
@@ -122,7 +122,7 @@ void CoverageCheck::tellGap(const PlanePolygon &gap, FindingList &findings)
 
 CoverageCheck::Surroundings CoverageCheck::around(const PlanePolygon &gap)
 {
-    // Far enough beyond an edge that its rounding does not matter.
+    // Far enough beyond an edge for its rounding not to matter.
     constexpr double step = 2.0 * tolerance;
     Surroundings surroundings;
     QList<int> &records = surroundings.records;

@@ -17,14 +17,14 @@
 /// the outside are closed by lines across them first (`SlitBridges`).
 class CoverageCheck {
 public:
-    /// What is narrower than this, in metres, comes from the rounding of shared edges: no receiver knows it better.
+    /// What is narrower than this, in metres, comes from the rounding of shared edges; no receiver is more exact.
     static constexpr double tolerance = 0.02;
     /// Gaps that are narrower than this, in metres, are slivers: left open between neighbours, not left out.
     static constexpr double sliverWidth = 0.5;
-    /// A sliver that is open to the outside is told from this length on, metres: shorter ones are notches of a rough
-    /// border.
+    /// A sliver that is open to the outside is reported from this length on, metres: shorter ones are notches of a
+    /// rough border.
     static constexpr double leastOpenLength = 2.0;
-    /// With more meeting edges than this they are not looked at, for the memory's sake.
+    /// When more edges meet than this, they are not examined, to save memory.
     static constexpr size_t mostCrossings = 1000000;
 
     /// `map` and `control` are not owned and outlive this.
@@ -37,10 +37,10 @@ private:
     /// What lies around a gap.
     struct Surroundings {
         QList<int> records;  ///< Of the polygons beyond its edges, ascending.
-        bool isOpen = false; ///< Beyond an edge lies nothing.
+        bool isOpen = false; ///< Nothing lies beyond some edge.
     };
 
-    /// Lines across slits where no polygon lies.
+    /// Lines across slits that no polygon covers.
     std::vector<PlaneEdge> bridges(const UnsharedEdges::List &edges);
     /// Keeps the face in `gaps` when it is part of one, and the polygons near it as suspects when they overlap there.
     void lookAt(const PlanePolygon &face, std::vector<PlanePolygon> &gaps);

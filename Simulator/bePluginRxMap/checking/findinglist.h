@@ -6,14 +6,14 @@
 #include <map>
 #include <vector>
 
-/// Collects the findings of a check and keeps the gravest of each kind; the others are told together, so that neither a
-/// reader nor the memory drowns in them.
+/// Collects the findings of a check and keeps the gravest of each kind; the others are reported together, so that they
+/// flood neither the reader nor the memory.
 class FindingList {
 public:
-    /// So many of a kind are told one by one.
+    /// This many of a kind are reported one by one.
     static constexpr size_t mostOfAKind = 100;
 
-    /// `weight`: the greater it is, the graver is the finding among those of its kind.
+    /// `weight`: the greater, the graver is the finding among those of its kind.
     void add(MapFinding finding, double weight);
     /// By kind, the gravest first, then the one that stands for the rest.
     QList<MapFinding> take();
@@ -21,7 +21,7 @@ public:
 private:
     struct Weighed {
         double weight;
-        size_t order; ///< Of two equal ones the earlier is told first.
+        size_t order; ///< Of two equally grave findings the earlier comes first.
         MapFinding finding;
 
         bool isGraver(const Weighed &other) const
@@ -29,7 +29,7 @@ private:
             return weight != other.weight ? weight > other.weight : order < other.order;
         }
     };
-    /// Of one kind.
+    /// The findings of one kind.
     struct Share {
         std::vector<Weighed> gravest; ///< A heap, the least grave at its front.
         size_t others = 0;

@@ -3,7 +3,7 @@
 #include <QList>
 #include <QString>
 
-/// Parts of the lines that findings are told in.
+/// Parts of the lines that word findings.
 namespace FindingText {
 
 /// "record 4", "records 4 and 7", "records 4, 7 and 5 more".

@@ -10,13 +10,12 @@
 #include <optional>
 #include <vector>
 
-/// Looks for what is wrong with a map that a load cannot know: overlaps, gaps, slivers, areas of one rate that are
-/// narrower than the machine, rates that are far from the rest or look like totals. Blocks; touches nothing that is
-/// shared.
+/// Looks for faults of a map that a load cannot know of: overlaps, gaps, slivers, areas of one rate that are narrower
+/// than the machine, rates that are far from the rest or look like totals. Blocks; touches nothing that is shared.
 namespace MapCheck {
 
 struct Settings {
-    /// What the machine works in one pass, metres.
+    /// The width that the machine works in one pass, metres.
     double machineWidth = 12.0;
     /// One for each of the map's mappings.
     std::vector<RateCheck::Column> columns;

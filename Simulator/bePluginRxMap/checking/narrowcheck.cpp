@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What would read "12.0 m wide, narrower than the machine (12 m)" is as wide, metres.
+/// An area that would be reported as "12.0 m wide, narrower than the machine (12 m)" counts as wide enough; metres.
 constexpr double halfOfLastDigit = 0.05;
 
 } // namespace

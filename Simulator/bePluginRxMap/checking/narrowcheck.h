@@ -8,11 +8,11 @@
 
 /// Finds polygons that are slivers, and areas of one rate that are narrower than the machine.
 ///
-/// Polygons with the same rates that share a border are one area: a grid of cells narrower than the machine is none
-/// where its neighbours have the same rate.
+/// Polygons with the same rates that share a border are one area: cells of a grid that are narrower than the machine
+/// are not narrow areas where their neighbours have the same rate.
 class NarrowCheck {
 public:
-    /// More narrow areas than this are told together: then it is the map that is finer than the machine.
+    /// More narrow areas than this are reported together: then the whole map is finer than the machine.
     static constexpr size_t mostTold = 10;
 
     /// `map` and `control` are not owned and outlive this. `machineWidth`: metres.
@@ -23,7 +23,7 @@ public:
 
 private:
     struct Area {
-        /// Places in MapView::polygons(), the one that it was found by first.
+        /// Places in MapView::polygons(); the first is the polygon by which the area was found.
         std::vector<unsigned> places;
         double size = 0.0;      ///< Square metres.
         double perimeter = 0.0; ///< Metres.
@@ -42,7 +42,7 @@ private:
 
     const MapView &map;
     double machineWidth;
-    double leastWidth; ///< What is narrower is told, metres.
+    double leastWidth; ///< Narrower areas are reported, metres.
     const LoadControl &control;
     RingTree tree;
     std::vector<double> widths; ///< One per polygon, metres.

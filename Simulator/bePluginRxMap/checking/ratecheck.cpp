@@ -19,7 +19,7 @@ namespace {
 
 constexpr double farScore = 3.5;
 constexpr size_t fewestRates = 3;
-/// The rates that are far from the rest are those of at most one record in so many.
+/// At most one record in this many may have a rate far from the rest.
 constexpr size_t shareOfFar = 4;
 
 constexpr size_t fewestAreas = 6;
@@ -31,7 +31,7 @@ QString numberText(double value)
     return BackendText::number(value, 'g', 6);
 }
 
-/// The different rates but zero, which says that nothing is wanted, ascending.
+/// The different rates, ascending, without zero, which says that nothing is wanted.
 std::vector<double> differentRates(const std::vector<RateCheck::Entry> &entries)
 {
     std::vector<double> rates;
@@ -49,7 +49,7 @@ struct Range {
     double greatest;
 };
 
-/// What is left of ascending rates when those that are far from the rest are taken away.
+/// The range of the ascending rates without those that are far from the rest.
 Range usualRange(const std::vector<double> &rates)
 {
     const double centre = Statistics::median(rates);
@@ -81,7 +81,7 @@ RateCheck::RateCheck(const MapView &map, size_t mapping, const Column &columnOfF
         const double rate = static_cast<double>(polygon.outer->rates[mapping]) / column.factor;
         if (std::isnan(rate))
             continue;
-        // The parts of a record stand together.
+        // The parts of a record follow each other.
         if (entries.empty() || entries.back().record != polygon.record)
             entries.push_back({polygon.record, rate, 0.0, {}});
         Entry &entry = entries.back();

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Looks at the rates of one column: are some far from the rest, and do they look like totals?
+/// Checks the rates of one column: whether some are far from the rest, and whether they look like totals.
 class RateCheck {
 public:
     /// How a mapping's rates stand in the file.

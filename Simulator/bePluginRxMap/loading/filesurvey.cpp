@@ -28,7 +28,7 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
         isFed[static_cast<size_t>(feed.column)] = true;
         SurveyedColumn column = describe(feed.column);
         const RateSource &told = decision.sources.at(static_cast<int>(i));
-        // What the product's kind makes of it: ounces of a liquid are fluid ounces.
+        // The unit as the product's kind reads it: ounces of a liquid are fluid ounces.
         if (!column.unit.isEmpty())
             column.unit = told.unit;
         column.product = told.product;
@@ -98,7 +98,7 @@ SurveyedClasses FileSurvey::classesOf(const SurveyReport &survey, int column, do
     for (int record = 0; record < ofRecords.size(); ++record) {
         const auto rate = static_cast<double>(inBaseUnit(ofRecords.at(record)));
         const auto isIn = [rate](const OrvikTypes::RX_RATECOLOR &entry) { return rate <= entry.rate; };
-        // No rate is in no class: the last entry stands for it.
+        // A record without a rate is in no class: the last entry stands for it.
         const auto entry = std::find_if(legend.classes.begin(), legend.classes.end(), isIn);
         const auto last = std::max<std::ptrdiff_t>(0, legend.classes.size() - 1);
         classes.ofRecords[record] = static_cast<char>(std::min<std::ptrdiff_t>(last, entry - legend.classes.begin()));
@@ -115,7 +115,7 @@ bool FileSurvey::hasRate(int record) const
 
 void FileSurvey::addPicture(SurveyReport &report) const
 {
-    // A field's border without a rate leaves what lies below it to be seen, on the map too.
+    // A polygon around the field that has no rate lets those below it be seen, as on the map.
     std::vector<PlanePolygon> drawn = polygons;
     std::stable_partition(drawn.begin(), drawn.end(),
                           [this](const PlanePolygon &polygon) { return !hasRate(polygon.record); });

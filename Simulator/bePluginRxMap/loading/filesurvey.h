@@ -8,14 +8,14 @@
 
 #include <vector>
 
-/// Tells of a file that was read which columns it has, what they hold, and what would feed which product unasked.
+/// Says which columns a file that was read has, what they hold, and which would feed which product unasked.
 class FileSurvey {
 public:
     /// Both are not owned and outlive this. `polygons`: those of the map, on its plane.
     FileSurvey(const RawPrescription &source, const std::vector<PlanePolygon> &polygons);
 
-    /// Enters the columns. `policy`: one for which the operator has named nothing. The reason why nothing can be fed,
-    /// without the file's name; empty when something can.
+    /// Enters the columns. `policy`: one for which the operator has named no columns. Returns why no product can be
+    /// fed, without the file's name; empty when one can.
     QString addColumns(const ColumnPolicy &policy, SurveyReport &report) const;
     void addPicture(SurveyReport &report) const;
     /// As PrescriptionBackend::classesOf().
@@ -24,7 +24,7 @@ public:
 private:
     SurveyedColumn describe(int place) const;
     bool hasRate(int record) const; ///< In any column.
-    /// Enters its rates, and what they are together.
+    /// Enters the column's rates and their extremes.
     void measure(const SourceColumn &column, SurveyedColumn &told) const;
 
     const RawPrescription &source;

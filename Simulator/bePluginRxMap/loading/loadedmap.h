@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-/// What a check looks at.
+/// What a check examines.
 struct CheckInput {
     std::shared_ptr<const PolygonChain> chain;
     /// Record of each outer ring of the chain.
@@ -24,7 +24,7 @@ struct CheckInput {
 
 /// A prescription that is ready to be published, or the reason why there is none.
 struct LoadedMap {
-    /// Its group is still to be named.
+    /// Its group has no name yet.
     LoadReport report;
     LocalPlane plane;
     /// Rate channel of each mapping, as in report.columns.
@@ -33,7 +33,7 @@ struct LoadedMap {
     QList<double> defaultRates;
     /// Names of the machine's products.
     QStringList productNames;
-    /// Null when report.error says why. The look-up refers to the chain.
+    /// Null on failure, for the reason in report.error. The look-up refers to the chain.
     std::shared_ptr<PolygonChain> chain;
     std::unique_ptr<RateLookup> lookup;
     /// As in CheckInput.

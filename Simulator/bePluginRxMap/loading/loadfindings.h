@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// Enters what a load finds into its report. Whatever is found is a warning, too, so each is worded once.
+/// Enters what a load finds into its report. Each finding is a warning, too, and is worded once for both.
 class LoadFindings {
 public:
     /// A count in words: "1 ring was left out", "2 rings were left out".
@@ -22,8 +22,8 @@ public:
     void add(const MapFinding &finding);
     /// `record`: the one it is about, from 0; -1 for the whole file.
     void add(MapFinding::Kind kind, const QString &text, int record = -1);
-    /// One finding about all of these records, which it names; nothing where there are none. A record counts as often
-    /// as it stands there. `polygons`: where the records that are polygons lie.
+    /// Adds one finding about all of these records, which it names; nothing if there are none. A record counts as often
+    /// as it is listed. `polygons` tell where the records lie.
     void addCounted(MapFinding::Kind kind, const std::vector<int> &records, const Words &words,
                     const std::vector<PlanePolygon> &polygons = {});
 

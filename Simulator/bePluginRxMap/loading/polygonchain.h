@@ -21,7 +21,7 @@ public:
     unsigned size() const { return count; }
     unsigned outers() const { return outerCount; }
     size_t mappings() const { return mappingCount; }
-    /// Of each outer ring less its holes, square metres.
+    /// The area of each outer ring less its holes, square metres.
     std::vector<double> polygonAreas() const;
     /// Metres: left is the least x, top the least y.
     QRectF bounds() const { return extent; }

@@ -27,7 +27,7 @@ bool isAnyInUse(const QList<MachineProduct> &products)
                        [](const MachineProduct &any) { return any.inUseAt.has_value(); });
 }
 
-/// The products as far as they are known before the file is read.
+/// The request with its products as far as they are known before the file is read.
 LoadRequest expecting(LoadRequest request)
 {
     if (!request.makeProducts)
@@ -196,7 +196,7 @@ bool PrescriptionLoader::replacesAllInUse() const
     const QList<RateSource> sources = policy.decide(source, polygons).sources;
     for (int number = 1; number <= request.products.size(); ++number) {
         const auto isFed = [number](const RateSource &fed) { return fed.product == number; };
-        // What is in use in another field is not put out in this one.
+        // A product in use on another plane is not put out in this field.
         if (request.products.at(number - 1).inUseAt == report->origin
             && std::none_of(sources.begin(), sources.end(), isFed))
             return false;

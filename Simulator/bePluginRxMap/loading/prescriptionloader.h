@@ -26,12 +26,12 @@ public:
 
     /// Never null; says in its report what went wrong.
     std::unique_ptr<LoadedMap> load();
-    /// What the file holds for the operator to choose from. Of the request it takes the file, its layer and task, and
-    /// the products.
+    /// What the file holds for the operator to choose from. Of the request only the file, its layer and task, and the
+    /// products count.
     SurveyReport survey();
 
 private:
-    /// Runs it; false also where it ran out of memory or the like, with the reason in the report.
+    /// Runs `work`; false when it fails or throws, such as for lack of memory, with the reason in the report.
     bool attempt(const std::function<bool()> &work);
     bool loadInto(LoadedMap &map);
     bool surveyInto(LoadedMap &map, SurveyReport &survey);
@@ -42,15 +42,16 @@ private:
     /// False, with the reason in the report, when the load was cancelled.
     bool goesOn();
 
-    /// Makes the products from the columns where the machine takes them from the file.
+    /// Makes the products from the columns, if the machine takes them from the file.
     void makeProducts();
-    /// Whether the file, unasked, takes over all products that others on its plane feed.
+    /// Whether the file, unasked, takes over all products that other maps on its plane feed.
     bool replacesAllInUse() const;
     bool chooseColumns(LoadedMap &map);
     bool arrange();
     void makeChain(LoadedMap &map) const;
     void buildLegends(LoadedMap &map);
-    /// Those that the file gives, else the products'; products that are made from it get theirs by what it prescribes.
+    /// Sets the default rates: those that the file gives, else the products' own; products made from the file get
+    /// theirs from what it prescribes.
     void setDefaultRates(LoadedMap &map);
 
     LoadRequest request;
@@ -61,7 +62,7 @@ private:
     std::optional<LoadFindings> findings;
 
     RawPrescription source;
-    /// Of the polygons' rings: had in few large blocks, and given back as such.
+    /// Holds the polygons' rings in few large blocks, which are freed together.
     std::pmr::monotonic_buffer_resource ringMemory;
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;

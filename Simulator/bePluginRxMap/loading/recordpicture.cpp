@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Records are drawn as colours, of 24 bits; ground has none of them.
+/// Each record is drawn in a colour of 24 bits that stands for its number; the ground's stands for none.
 constexpr int ground = 0xffffff;
 
 QRectF extentOf(const std::vector<PlanePolygon> &polygons)

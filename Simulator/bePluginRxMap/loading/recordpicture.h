@@ -7,8 +7,8 @@
 
 #include <vector>
 
-/// A small picture of polygons, north up, of which each pixel knows the record that is seen there. It lies in a square
-/// of `side` pixels and has the map's own proportions.
+/// A small picture of polygons, north up, in which each pixel knows the record seen there. It lies in a square of
+/// `side` pixels and has the map's own proportions.
 class RecordPicture {
 public:
     RecordPicture(const std::vector<PlanePolygon> &polygons, int side);

@@ -28,7 +28,7 @@ std::optional<QList<MapFinding>> MapChecker::findings(const CheckInput &input, d
         const MapView map(input.chain->first(), input.records, input.chain->mappings(), input.joinedHoles);
         return MapCheck::run(map, {machineWidth, input.columns}, control);
     } catch (const std::exception &) {
-        // There is not enough memory for it; the map itself stands.
+        // There is not enough memory for the check; the map itself stays.
         return {};
     }
 }

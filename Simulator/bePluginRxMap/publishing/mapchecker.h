@@ -20,16 +20,16 @@ public:
 
     /// `context` is not owned and outlives this.
     MapChecker(QObject *context, Done done);
-    /// Cancels what is being done.
+    /// Cancels the check in progress.
     ~MapChecker();
 
-    /// What a check finds in a map, blocking; nothing when it was cancelled or came to no end.
+    /// What a check finds in a map. Blocks; nothing when it was cancelled or could not finish.
     static std::optional<QList<MapFinding>> findings(const CheckInput &input, double machineWidth,
                                                      const LoadControl &control);
 
-    /// Starts a check of the map that is published as `group` now; an earlier one of that group is given up.
+    /// Starts a check of the map that is published as `group` now; an earlier check of that group is given up.
     void start(const QString &group, const CheckInput &input, double machineWidth);
-    /// Gives up what is checked or waits to be for the group.
+    /// Gives up the group's checks, running or waiting.
     void drop(const QString &group);
 
 private:

@@ -84,7 +84,7 @@ RateUnitParts PrescriptionBackend::rateUnits(DbGroupProductGroupInfo::RateKind k
     RateUnitParts parts;
     for (const AmountUnit &amount : UnitTable::amounts()) {
         const RateUnit unit(&amount, UnitTable::area("ha"));
-        // What the kind makes another unit of stands in the list itself.
+        // A unit that the kind reads as another one is left out: that one is in the list itself.
         if (unit.fits(kind) && unit.of(kind).text() == unit.text())
             parts.amounts.append(QString::fromLatin1(amount.symbol));
     }

@@ -30,7 +30,7 @@ public:
     /// `done` is called when the load has ended, at the latest when the back-end goes.
     std::shared_ptr<LoadJob> enqueue(const LoadRequest &request, std::function<void(const LoadReport &)> done);
     void enqueueSurvey(const LoadRequest &request);
-    /// The report of a load that came to nothing.
+    /// The report of a load that was refused.
     static LoadReport refuse(const QString &path, const QString &reason);
     void cancel();
     bool isLoading() const { return !jobs.empty(); }
@@ -53,18 +53,18 @@ private:
     void finishCurrent(std::unique_ptr<LoadedMap> map);
     void finishSurvey(SurveyReport survey);
     LoadReport publish(std::unique_ptr<LoadedMap> map);
-    /// Remarks where the map has a plane of its own, and maps stay that lie elsewhere: those not of the file itself nor
-    /// of the groups that it replaces.
+    /// Adds a remark where the map has a plane of its own and maps on other planes stay open: maps of other files, and
+    /// not in the groups that it replaces.
     void remarkPlane(LoadedMap &map, const QStringList &replaced) const;
     /// Where a file gives rates for places without a prescription, the products' default rates follow.
     void useDefaultRates(const LoadReport &report);
     std::vector<LocalPlane> planes() const;
     QString freeGroupName(const QString &file) const;
-    /// The channels that each mapping of a map may feed when the maps behind it, and `newest`, take theirs first.
+    /// The channels that each mapping of a map may feed after later maps, and `newest`, have taken theirs.
     QStringList channelsLeft(size_t entry, const QStringList &newest) const;
     void shareOut(const QStringList &newest);
     void tellChecked(const QString &group, const QList<MapFinding> &findings);
-    /// Keeps the group of an unloaded map for whoever still holds it; the one that was unloaded longest ago goes.
+    /// Keeps the group of an unloaded map for whoever still holds it; deletes the one unloaded longest ago.
     void retire(const QPointer<DataBrokerGroup> &group);
 
     PrescriptionBackend *q;
@@ -74,5 +74,5 @@ private:
     MapChecker checker;
     std::vector<Entry> entries; ///< In the order of loading; a later one takes over the channels of an earlier one.
     QHash<int, RxMapLoader *> loaders;
-    std::deque<QPointer<DataBrokerGroup>> retiredGroups; ///< The broker's; those of unloaded maps, oldest first.
+    std::deque<QPointer<DataBrokerGroup>> retiredGroups; ///< Of unloaded maps, oldest first; the broker's.
 };

@@ -9,7 +9,7 @@ using OrvikTypes::RX_SETTINGS;
 
 namespace {
 
-/// As many settings as the machine has products: the ones at hand first, then new ones.
+/// As many settings as the machine has products: the known ones first, then new ones.
 QList<RX_SETTINGS> settingsFor(const QStringList &products, const QList<RX_SETTINGS> &known)
 {
     constexpr int usualLookAheadMs = 1000;
@@ -34,7 +34,7 @@ PublishedMap::PublishedMap(DataBroker *dataBroker, const QString &groupName, QOb
     , name(groupName)
     , group(new DbGroupRxMap(groupName))
 {
-    // Within the write itself, so that the answer stands when the write returns.
+    // Within the write itself, so that the answer is there when the write returns.
     connect(group, &DbGroupRxMap::queryRatesAtXYZChanged, this, &PublishedMap::answer, Qt::DirectConnection);
 }
 
@@ -99,7 +99,7 @@ void PublishedMap::feed(const QStringList &rateCalNames)
     if (!hasChanged)
         return;
     group->internalSetRateCalMappings(mappings);
-    // Makes whoever draws the map look at the mappings again.
+    // Makes those who draw the map read the mappings again.
     group->internalSetPolygonCount(group->getPolygonCount());
 }
 

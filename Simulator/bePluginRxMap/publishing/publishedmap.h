@@ -26,7 +26,7 @@ public:
     /// `settings` are those of a new group. False when the group's name is taken.
     bool publish(std::unique_ptr<LoadedMap> map, const QStringList &rateCalNames,
                  const QList<OrvikTypes::RX_SETTINGS> &settings);
-    /// Gives rate channels to the mappings, empty ones to those that feed none; tells the group's readers when that
+    /// Gives the mappings their rate channels, empty for those that feed none; notifies the group's readers if that
     /// changed anything.
     void feed(const QStringList &rateCalNames);
 

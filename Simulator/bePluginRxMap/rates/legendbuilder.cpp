@@ -15,19 +15,19 @@
 
 namespace {
 
-/// So many rates, drawn at random, stand for a column's when it is split into classes: a class then holds within about
-/// two hundredths of the polygons that it would by sorting all of them.
+/// When a column is split into classes, this many of its rates, drawn at random, stand for all: the share of the
+/// polygons in a class is then within about two hundredths of what sorting all of them would give.
 constexpr size_t sampleSize = 4096;
 
-/// The published number next to it.
+/// The nearest number that can be published.
 double published(double limit)
 {
     constexpr auto greatest = static_cast<double>(std::numeric_limits<float>::max());
     return static_cast<double>(static_cast<float>(std::min(limit, greatest)));
 }
 
-/// Place of the first of `bounds`, which ascend, that is not passed; of the last where all are. Counted rather than
-/// looked for: a jump that depends on the rate would be foreseen for few rates of a large map.
+/// Place of the first of the ascending `bounds` that is not passed; of the last if all are. Counts rather than
+/// searches: the processor could not predict branches that depend on the rate.
 template <typename IsPassed> size_t placeAmong(const std::vector<double> &bounds, IsPassed isPassed)
 {
     size_t passed = 0;
@@ -44,14 +44,14 @@ size_t placeOf(float rate)
     return (bits * 0x9e3779b1U) >> 24U;
 }
 
-/// A class for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
+/// A limit for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
 std::vector<double> singleRates(const std::vector<float> &finite, double factor)
 {
     // The last rate of each place: most are found here, in a tenth of the time that the set takes.
     std::array<float, 256> recent;
     recent.fill(std::numeric_limits<float>::quiet_NaN());
     std::unordered_set<float> known;
-    std::map<double, float> greatest; // By what is shown.
+    std::map<double, float> greatest; // By the rate as shown.
     for (const float rate : finite) {
         float &before = recent[placeOf(rate)];
         if (before == rate)
@@ -71,8 +71,8 @@ std::vector<double> singleRates(const std::vector<float> &finite, double factor)
     return limits;
 }
 
-/// Rates above zero, and for each how many polygons up to there have one; the latter only where a rate stands for
-/// several.
+/// Rates above zero, and for each the number of polygons up to and including it; the latter only where a rate stands
+/// for several.
 struct PositiveRates {
     std::vector<float> rates;
     std::vector<size_t> ends;
@@ -240,7 +240,7 @@ QList<double> LegendBuilder::areasOf(const QList<OrvikTypes::RX_RATECOLOR> &clas
     std::vector<double> sums(limits.size(), 0.0);
     for (size_t i = 0; i < rates.size() && !limits.empty(); ++i) {
         const auto rate = static_cast<double>(rates[i]);
-        // What is not a number passes all.
+        // NaN passes all.
         sums[placeAmong(limits, [rate](double limit) { return !(limit >= rate); })] += areas[i];
     }
     return QList<double>(sums.begin(), sums.end());

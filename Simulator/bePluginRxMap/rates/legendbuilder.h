@@ -9,8 +9,8 @@
 /// Sorts the rates of one column into the classes of a colour legend.
 ///
 /// Rates are compared as they stand in the published chain: single-precision numbers, widened. Every limit is such a
-/// number too, so a rate that equals a limit is in that limit's class. What is round, and which rates are the same, is
-/// decided in the operator's unit, as ShownRate writes it.
+/// number too, so a rate that equals a limit is in that limit's class. The operator's unit, as ShownRate writes it,
+/// decides what is round and which rates are the same.
 class LegendBuilder {
 public:
     static constexpr int maxSingleRates = 12;
@@ -18,11 +18,11 @@ public:
 
     struct Legend {
         /// Limits ascending, the last one holding the greatest rate. Empty for no rates. Zero has a class and a colour
-        /// of its own. Rates that are not finite have no class; where there are any, one more entry follows, fully
+        /// of its own. Rates that are not finite have no class; if there are any, one more entry follows, fully
         /// transparent, with the limit of the entry before it: a reader that finds no class for such a rate takes the
         /// last entry, and so draws nothing.
         QList<OrvikTypes::RX_RATECOLOR> classes;
-        /// Every class holds rates that are shown alike, the greatest of which is its limit.
+        /// Whether every class holds only rates that are shown alike; the greatest of them is its limit.
         bool hasSingleRates = false;
     };
 

@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-/// The rates at points of a published map; everybody who needs a rate asks this.
+/// The rates at points of a published map; every rate query ends here.
 ///
 /// A polygon covers what the renderer fills for it: its outer ring less the holes that the renderer cuts from it. A
 /// point on an edge that two polygons share belongs to exactly one of them. Where polygons overlap, the one drawn last
@@ -25,8 +25,8 @@ public:
     };
 
     /// `first` heads a chain of `count` records, which must outlive the look-up and stay as they are (except for
-    /// "drawIndex"); each has `mappings` rates. `takers` says for each hole of the chain which of its outer rings, from
-    /// 0, the hole is cut from, RendererHoleRule::nowhere for none.
+    /// "drawIndex"); each has `mappings` rates. `takers` names for each hole the outer ring of the chain, from 0, that
+    /// it is cut from; RendererHoleRule::nowhere for none.
     RateLookup(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t mappings, const std::vector<int> &takers);
 
     /// The answer has no rates for a point that no polygon covers, or with a coordinate that is not finite.
@@ -37,8 +37,7 @@ private:
 
     static constexpr unsigned none = std::numeric_limits<unsigned>::max();
 
-    /// A map may have very many short outer rings without holes, of which this is all that is kept beside their
-    /// extents.
+    /// A map may have very many short outer rings without holes; this and their extents are all that is kept of them.
     struct Outer {
         const OrvikTypes::RX_POLYGON *record = nullptr;
         unsigned detail = none; ///< Place among the details.

@@ -6,9 +6,9 @@
 /// the eyes of people with any colour blindness, and in grey.
 class RateRamp {
 public:
-    /// `position` from 0 (least rate) to 1 (greatest); what lies outside is taken as the nearer end.
+    /// `position` from 0 (least rate) to 1 (greatest); a position outside counts as the nearer end.
     static QColor color(double position);
-    /// Zero is a rate of its own: a colour that the ramp does not hold.
+    /// The colour of zero, which the ramp does not hold: zero is a class of its own.
     static QColor zeroColor();
     /// Fully transparent: stands for "no rate here".
     static QColor noRateColor();

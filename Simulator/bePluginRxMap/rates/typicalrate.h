@@ -6,7 +6,7 @@
 /// the mean of the rates above zero by area, to three significant digits of the operator's unit.
 class TypicalRate {
 public:
-    /// `rates` (base unit) and `areas` are by polygon; one that is not a number counts for nothing. `displayFactor`
-    /// takes rates to the operator's unit. 0 where nothing is put out anywhere.
+    /// `rates` (base unit) and `areas` are by polygon; a rate that is not a number is ignored. `displayFactor` takes
+    /// rates to the operator's unit. 0 where nothing is put out anywhere.
     static double of(const std::vector<float> &rates, const std::vector<double> &areas, double displayFactor);
 };

@@ -25,7 +25,7 @@ public:
     const std::vector<Polygon> &polygons() const { return list; }
     size_t mappings() const { return mappingCount; }
     const std::vector<PlaneRing> &joinedHoles() const { return joined; }
-    /// Whether any mapping has a rate in both polygons, so that they contend for the ground where they overlap.
+    /// Whether any mapping has a rate in both polygons, which then compete for the ground where they overlap.
     bool contend(const Polygon &a, const Polygon &b) const;
     /// Whether all mappings have the same rate in both polygons, or none in either.
     bool haveSameRates(const Polygon &a, const Polygon &b) const;

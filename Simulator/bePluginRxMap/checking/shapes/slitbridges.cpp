@@ -16,7 +16,7 @@ PlaneVertex nearestOn(const PlaneEdge &edge, const PlaneVertex &point)
 }
 
 /// The line across the place where the way from one edge to another becomes `most` metres long, where there is one: by
-/// the distance from the other edge's line, which changes evenly along the edge. None where the edges are so near for
+/// the distance from the other edge's line, which changes evenly along the edge. None where the edges are that near for
 /// less than `leastLength`.
 std::optional<PlaneEdge> whereWide(const PlaneEdge &edge, const PlaneEdge &other, double most, double leastLength)
 {

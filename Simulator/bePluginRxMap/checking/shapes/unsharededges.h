@@ -9,13 +9,13 @@ namespace UnsharedEdges {
 
 struct List {
     std::vector<PlaneEdge> edges;
-    /// For each edge a polygon that has it, by its place in MapView::polygons().
+    /// For each edge the place in MapView::polygons() of a polygon that has it.
     std::vector<unsigned> polygons;
 };
 
-/// All edges of all rings but those that as many polygons have on their left as on their right: there the number of
-/// polygons is the same on both sides, whatever else lies there. Each edge once, in no order. In a map whose neighbours
-/// share their vertices these are its outer borders and what is wrong with it.
+/// All edges of all rings, each once, in no order, except those with as many polygons on their left as on their right:
+/// there the number of polygons is the same on both sides, whatever else lies there. Where neighbours share their
+/// vertices, these are the map's outer borders and its faults.
 List of(const MapView &map);
 
 } // namespace UnsharedEdges

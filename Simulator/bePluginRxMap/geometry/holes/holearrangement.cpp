@@ -60,8 +60,8 @@ std::optional<HolePlace> holeAround(const std::vector<PlanePolygon> &polygons, s
     return {};
 }
 
-/// Adds what is to be joined so that no polygon before its own takes the hole: for an island in holes of theirs these
-/// holes, which often serves many holes of the island at once, else the hole itself.
+/// Adds the holes to join so that no polygon before the hole's own takes it. For an island in holes of other polygons,
+/// these are those holes, which often settles many holes of the island at once; otherwise it is the hole itself.
 void addJoinsFor(const HolePlace &place, const std::vector<PlanePolygon> &polygons, const RendererHoleRule &rule,
                  HolePlaces &joins)
 {
@@ -98,7 +98,7 @@ HolePlaces joinsFor(const std::vector<PlanePolygon> &polygons, const RendererHol
     return joins;
 }
 
-/// The holes that could be joined.
+/// Joins the holes; returns those that could be joined.
 std::vector<PlaneRing> join(std::vector<PlanePolygon> &polygons, const HolePlaces &joins)
 {
     std::vector<PlaneRing> joined;

@@ -9,7 +9,7 @@
 struct HoleArrangement {
     /// For each hole, polygon by polygon: the place of the polygon from which it is cut, or RendererHoleRule::nowhere.
     std::vector<int> takers;
-    /// For each hole that stays in the wrong place its record.
+    /// The record of each hole that stays in the wrong place.
     std::vector<int> misplaced;
     /// The holes that became part of their outer rings.
     std::vector<PlaneRing> joined;

@@ -11,7 +11,7 @@ struct Way {
     size_t hole;
 };
 
-/// Ways that are tried before a hole is given up.
+/// This many ways are tried before a hole is given up.
 constexpr size_t maxWays = 2000;
 
 struct Box {
@@ -73,7 +73,7 @@ Way nearestWay(const PlaneRing &outer, size_t place, const PlaneRing &hole)
     return nearest;
 }
 
-/// Ways from the outer ring's vertices near the hole to the hole's nearest vertex each; shortest first.
+/// Ways from each of the outer ring's vertices near the hole to the hole's nearest vertex; shortest first.
 std::vector<Way> ways(const PlaneRing &outer, const PlaneRing &hole)
 {
     const auto isShorter = [](const Way &a, const Way &b) { return a.squaredLength < b.squaredLength; };
@@ -120,7 +120,7 @@ bool isFree(const PlanePolygon &polygon, const PlaneVertex &a, const PlaneVertex
                        [&a, &b](const PlaneRing &hole) { return isClearOf(hole, a, b); });
 }
 
-/// The outer ring with the hole's round put in behind its vertex `way.outer`.
+/// The outer ring with the way around the hole inserted after its vertex `way.outer`.
 PlaneRing joined(const PlaneRing &outer, const PlaneRing &hole, const Way &way)
 {
     const auto split = static_cast<std::ptrdiff_t>(way.outer) + 1;

@@ -7,6 +7,6 @@
 class HoleBridge {
 public:
     /// Joins hole number `hole` to the outer ring where they touch, else by the shortest free way between two of their
-    /// vertices. No new place comes up. False, and nothing changed, when there is no free way.
+    /// vertices. Adds no new vertex positions. False, and nothing is changed, when there is no free way.
     static bool join(PlanePolygon &polygon, size_t hole);
 };

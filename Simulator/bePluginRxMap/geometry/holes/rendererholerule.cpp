@@ -7,7 +7,7 @@ namespace {
 /// How much larger than a hole an outer ring must be to have it cut out, square metres.
 constexpr double minDifference = 10.0;
 
-// Volatile, since a compiler may take the two conversions for none: g++ 12 does where it makes a vector of x and y.
+// Volatile, since a compiler may drop the two conversions: g++ 12 does where it puts x and y into one vector.
 double narrowed(double value)
 {
     const volatile float narrow = static_cast<float>(value);

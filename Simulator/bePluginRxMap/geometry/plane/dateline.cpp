@@ -11,7 +11,7 @@ namespace {
 
 constexpr double fullTurn = 360.0;
 constexpr double halfTurn = 180.0;
-/// A longitude, and half a turn on from it.
+/// A full turn beyond the greatest longitude; a coordinate farther out is none.
 constexpr double farthest = halfTurn + fullTurn;
 
 struct Range {
@@ -42,7 +42,7 @@ void move(RawPrescription &map, const SourceRing &ring, double by)
         map.xs[i] += by;
 }
 
-/// Ends the jump within a ring. Nothing for one that is no ring of longitudes.
+/// Removes the jump within a ring. Nothing for a ring whose coordinates are not longitudes.
 std::optional<Range> joinRing(RawPrescription &map, const SourceRing &ring)
 {
     const Range range = rangeOf(map.xs, ring.first, ring.count);
@@ -61,8 +61,8 @@ double turnsTo(double middle, double longitude)
     return fullTurn * std::round((middle - longitude) / fullTurn);
 }
 
-/// The median of the longitudes, which a few strays do not move, counted from a place where it does not matter that
-/// they jump: a field on the zero meridian needs no joining.
+/// The median of the longitudes, which a few strays do not move, measured from where a jump does not matter: a field on
+/// the zero meridian needs no joining.
 double middleOf(const std::vector<std::optional<Range>> &ranges)
 {
     std::vector<double> middles;

@@ -10,7 +10,7 @@ class DateLine {
 public:
     /// Moves polygons of a map in longitudes and latitudes by full turns until they lie beside each other. A ring that
     /// is wider than half the earth counts as one across the date line. Polygons across the zero meridian stay where
-    /// they are, as do coordinates that are no longitudes.
+    /// they are, as do coordinates that are not longitudes.
     static void join(RawPrescription &map);
     /// Moves longitudes by full turns until none is more than half a turn from the first.
     static void join(std::vector<double> &longitudes);

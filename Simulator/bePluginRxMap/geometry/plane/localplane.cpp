@@ -14,7 +14,7 @@ namespace {
 
 /// Mean radius of the WGS 84 ellipsoid, (2a + b) / 3, metres.
 constexpr double earthRadius = 6371008.8;
-/// Beyond this a plane is no picture of the earth any more, and no machine drives that far.
+/// A wider map no longer fits a plane, and no machine drives that far.
 constexpr double widestMap = 1.0e6;
 /// Up to this many vertices are projected one by one; for more, it pays to fit a smooth stand-in.
 constexpr size_t fewVertices = 500;
@@ -27,7 +27,8 @@ struct TransformationDelete {
 };
 using Transformation = std::unique_ptr<OGRCoordinateTransformation, TransformationDelete>;
 
-/// In parts: there may be more coordinates than one call takes, which versions of GDAL count by int or by size_t.
+/// Transforms in parts: there may be more coordinates than one call takes, which GDAL counts by int or by size_t, as
+/// its version goes.
 void transform(const Transformation &transformation, size_t count, double *xs, double *ys)
 {
     constexpr size_t part = 1U << 15U;
@@ -42,7 +43,7 @@ double radians(double degrees)
 
 SpatialReference worldReference()
 {
-    // A copy of the process's own: one made anew is looked up in the projection database.
+    // A copy of the one that the process has: a new one would be looked up in the projection database.
     SpatialReference reference(OGRSpatialReference::GetWGS84SRS()->Clone());
     reference->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     return reference;
@@ -56,7 +57,7 @@ SpatialReference sourceReference(const RawPrescription &map)
     return reference;
 }
 
-/// Whether the map's coordinates are longitudes and latitudes of WGS 84, as they are taken where it names no system.
+/// Whether the map's coordinates are longitudes and latitudes of WGS 84, which is also assumed when it names no system.
 bool isOfTheWorld(const RawPrescription &map)
 {
     const char *const options[] = {"IGNORE_DATA_AXIS_TO_SRS_AXIS_MAPPING=YES", nullptr};
@@ -67,8 +68,8 @@ bool isOfTheWorld(const RawPrescription &map)
 Transformation toProjection(const RawPrescription &map, const QByteArray &projection)
 {
     if (isOfTheWorld(map)) {
-        // The same steps as between the two systems. Those are looked up in the projection database, which a thread
-        // opens anew; this takes a tenth of the time.
+        // The same steps as between the two systems. Naming the systems would look them up in the projection database,
+        // which each thread opens again; this takes a tenth of the time.
         OGRCoordinateTransformationOptions options;
         options.SetCoordinateOperation("+proj=pipeline +step +proj=unitconvert +xy_in=deg +xy_out=rad +step "
                                            + projection + " +ellps=WGS84",
@@ -98,7 +99,7 @@ bool areDegrees(const Range &x, const Range &y)
     return x.min >= -360.0 && x.max <= 360.0 && y.min >= -90.0 && y.max <= 90.0;
 }
 
-/// Longitudes and latitudes of places along the edges of the extent. False when any of them has none.
+/// Longitudes and latitudes of places along the edges of the extent. False when any of the places has none.
 bool edgePlaces(const RawPrescription &map, const Range &x, const Range &y, std::vector<double> &longitudes,
                 std::vector<double> &latitudes)
 {

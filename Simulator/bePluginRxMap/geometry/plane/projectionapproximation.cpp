@@ -50,7 +50,7 @@ Square powersFromValues(const Places &places, std::size_t size)
     return right;
 }
 
-/// `powers` times `values` times `powers` transposed, of which `size` rows and columns count.
+/// `powers` times `values` times `powers` transposed; only the first `size` rows and columns are used.
 Square coefficients(const Square &powers, const Square &values, std::size_t size)
 {
     Square half = {};
@@ -131,7 +131,7 @@ bool ProjectionApproximation::fit(const Exact &exact, double minX, double maxX, 
     middleY = 0.5 * (minY + maxY);
     halfWidth = std::max(minHalfWidth, 0.5 * (maxX - minX));
     halfHeight = std::max(minHalfWidth, 0.5 * (maxY - minY));
-    // The lower degree does for a farm.
+    // The lower degree is enough for a farm.
     for (const std::size_t count : {fewTerms, mostTerms}) {
         interpolate(exact, count);
         if (isGoodEnough(exact))

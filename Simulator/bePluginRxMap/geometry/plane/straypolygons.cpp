@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Metres. No field is that large, and no two that one machine works on one map are that far apart.
+/// Metres. No field is that large, and no two fields that one map prescribes for are that far apart.
 constexpr double farAway = 100000.0;
 
 /// An outer ring with its holes.
@@ -81,7 +81,7 @@ std::vector<bool> areFar(const RawPrescription &map, const std::vector<Part> &pa
     return far;
 }
 
-/// Whether what is far may be left out, rather than be a part of the map of its own.
+/// Whether the far polygons may be left out, rather than being a part of the map in their own right.
 bool areFew(const std::vector<Part> &parts, const std::vector<bool> &far)
 {
     size_t others = 0;

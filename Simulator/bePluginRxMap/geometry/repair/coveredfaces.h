@@ -5,12 +5,12 @@
 #include <cstddef>
 #include <vector>
 
-/// Which of the faces that a tangled ring divides the plane into it covers by the even-odd rule: those that an odd
-/// number of edges parts from the outside. Found by breadth-first search from the outside over the faces' shared edges.
-/// An edge that the ring runs along more than once parts its faces once, as in GEOS's own repair.
+/// Which of the faces that a tangled ring divides the plane into are covered by the even-odd rule: those separated from
+/// the outside by an odd number of edges. Found by breadth-first search from the outside over the faces' shared edges.
+/// An edge that the ring runs along more than once counts once, as in GEOS's own repair.
 class CoveredFaces {
 public:
-    /// `faces`: of a noded line work, so that two of them share whole edges or none. Says for each whether it is
+    /// `faces` come from noded lines, so that two of them share whole edges or none. Says for each whether it is
     /// covered.
     static std::vector<bool> among(const std::vector<PlanePolygon> &faces);
 

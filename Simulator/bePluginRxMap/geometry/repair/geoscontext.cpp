@@ -161,8 +161,8 @@ PlaneVertex GeosContext::pointInside(const PlanePolygon &area) const
 
 GeosContext::Geometry GeosContext::validArea(const PlaneRing &ring) const
 {
-    // GEOS's own repair peels a tangle off layer by layer, with an overlay for each. Lines where the ring ran back over
-    // itself enclose no face.
+    // GEOS's own repair would peel a tangle off layer by layer, with an overlay for each. Lines where the ring runs
+    // back over itself enclose no face.
     const std::vector<PlanePolygon> faces = facesOf(ring);
     std::vector<Geometry> areas;
     const std::vector<bool> isCovered = CoveredFaces::among(faces);

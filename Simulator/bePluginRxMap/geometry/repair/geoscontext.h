@@ -30,12 +30,12 @@ public:
     Geometry repaired(const PlanePolygon &polygon, double grid) const;
     /// How many of the polygon's holes lie beside its outer ring.
     size_t looseHoles(const PlanePolygon &polygon) const;
-    /// What both cover, none of them null. Null when GEOS fails.
+    /// What both cover; neither may be null. Null when GEOS fails.
     Geometry common(const Geometry &a, const Geometry &b) const;
     /// The bounded faces that the edges divide the plane into, on a grid of `grid` metres to which the edges are
-    /// snapped: what is narrower than that is none. Empty when there are none, or GEOS fails.
+    /// snapped: anything narrower is no face. Empty when there are none, or GEOS fails.
     std::vector<PlanePolygon> facesOf(const std::vector<PlaneEdge> &edges, double grid) const;
-    /// The polygons with those joined that share an edge; of no record. Empty when GEOS fails.
+    /// The polygons, those that share an edge joined; they have no record. Empty when GEOS fails.
     std::vector<PlanePolygon> joined(const std::vector<PlanePolygon> &polygons) const;
     /// A point inside the polygon, and not on its border.
     PlaneVertex pointInside(const PlanePolygon &polygon) const;
@@ -45,7 +45,7 @@ public:
 private:
     Q_DISABLE_COPY(GeosContext)
 
-    /// Null members are left out.
+    /// A collection of the members; null ones are left out.
     Geometry collection(int type, std::vector<Geometry> members) const;
     /// The faces that the ring's edges, divided where they meet, enclose.
     std::vector<PlanePolygon> facesOf(const PlaneRing &ring) const;

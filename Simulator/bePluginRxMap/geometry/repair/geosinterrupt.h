@@ -5,8 +5,8 @@
 #include <atomic>
 
 /// While it lives, GEOS gives up what it does in this thread as soon as `cancelled` is set; the call fails then as it
-/// does for any other reason. GEOS's own request flag is one for all threads, and whichever asks first takes it; so its
-/// callback, which runs in the thread that works, throws by itself.
+/// does for any other reason. All threads share GEOS's own request flag, and whichever asks first takes it; so the
+/// callback, which runs in the working thread, throws itself.
 class GeosInterrupt {
 public:
     /// `cancelled` is not owned and may be null.

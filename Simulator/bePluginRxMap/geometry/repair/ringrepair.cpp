@@ -11,7 +11,7 @@ namespace {
 constexpr int finestGrid = -10;
 /// Bits of a single-precision number's mantissa.
 constexpr int singleBits = 24;
-/// Rings up to this length are looked at edge by edge, without GEOS.
+/// Rings of up to this many vertices are examined edge by edge, without GEOS.
 constexpr size_t shortRing = 12;
 
 double gridFor(double maxCoordinate)
@@ -21,8 +21,8 @@ double gridFor(double maxCoordinate)
     return std::ldexp(1.0, std::max(finestGrid, bits - singleBits));
 }
 
-/// The nearest whole number, of two the even one, for numbers below 2^51: next to so great a number there is no room
-/// for a fraction. In a line of its own because the library's function takes longer than all else that is done to a
+/// The nearest whole number, of two equally near the even one, for numbers below 2^51: adding a number so great leaves
+/// no room for a fraction. Written out because the library's function takes longer than all else that is done to a
 /// vertex.
 double nearestWhole(double value)
 {
@@ -57,7 +57,7 @@ PlaneRing RingRepair::snapped(const std::vector<double> &xs, const std::vector<d
     for (size_t i = ring.first; i < ring.first + ring.count; ++i) {
         if (!std::isfinite(xs[i]) || !std::isfinite(ys[i]))
             return {};
-        // The sum turns a negative zero into the plain one.
+        // The sum turns a negative zero into a positive one.
         const PlaneVertex vertex = {nearestWhole(xs[i] * perMetre) * gridSize + 0.0,
                                     nearestWhole(ys[i] * perMetre) * gridSize + 0.0};
         if (kept == 0 || !samePlace(result[kept - 1], vertex))

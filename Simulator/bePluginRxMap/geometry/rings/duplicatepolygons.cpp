@@ -10,7 +10,7 @@ namespace {
 
 std::uint64_t bitsOf(double value)
 {
-    // The sum turns a negative zero into the plain one.
+    // The sum turns a negative zero into a positive one.
     const double plain = value + 0.0;
     std::uint64_t bits = 0;
     std::memcpy(&bits, &plain, sizeof bits);
@@ -85,9 +85,9 @@ bool isSamePolygon(const PlanePolygon &a, const PlanePolygon &b)
     return std::equal(holesOfA.begin(), holesOfA.end(), holesOfB.begin(), holesOfB.end(), isSameRing);
 }
 
-/// Hash and place of each polygon whose hash may be another's too; equal hashes stand together, in the order of their
-/// places. Of most maps that is one in twenty, which leaves little to sort: each hash marks a bit (Bloom 1970, with one
-/// function), and one that is alone at its bit is no other's.
+/// Hash and place of each polygon whose hash another one may have, too; equal hashes stand together, in the order of
+/// their places. In most maps that is one polygon in twenty, which leaves little to sort: each hash marks a bit (Bloom
+/// 1970, with one function), and a hash that is alone at its bit is unique.
 std::vector<std::pair<std::uint64_t, size_t>> repeatedHashes(const std::vector<PlanePolygon> &polygons)
 {
     size_t bits = 1024;

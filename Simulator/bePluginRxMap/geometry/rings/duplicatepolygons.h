@@ -9,9 +9,9 @@
 /// from the wrong one of the two.
 class DuplicatePolygons {
 public:
-    /// Drops each polygon of which a later one has the same rings, wherever these start and whichever way they run.
-    /// `hides(later, earlier)` (records) says whether the later one may stand for the earlier one. Returns
-    /// those that were dropped, in their order.
+    /// Drops each polygon whose rings a later one repeats, wherever these start and whichever way they run.
+    /// `hides(later, earlier)` (records) says whether the later one may stand for the earlier one. Returns the dropped
+    /// polygons, in their order.
     static std::vector<PlanePolygon> drop(std::vector<PlanePolygon> &polygons,
                                           const std::function<bool(int, int)> &hides);
 };

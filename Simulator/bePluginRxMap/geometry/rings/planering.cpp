@@ -75,7 +75,7 @@ bool isConvexRing(const PlaneRing &ring)
         return false;
     int direction = 0;
     int reversals = 0;
-    // From the last edge on, so that every turn and every pair of neighbouring edges is seen.
+    // Starts at the last edge, so that every turn and every pair of neighbouring edges is seen.
     const PlaneVertex *a = &ring[count - 2];
     const PlaneVertex *b = &ring[count - 1];
     bool wasEastward = b->x > a->x;
@@ -90,7 +90,7 @@ bool isConvexRing(const PlaneRing &ring)
         a = b;
         b = &c;
     }
-    // One that runs around more than once goes east and back more than once.
+    // A ring that goes around more than once goes east and back more than once.
     return reversals == 2;
 }
 

@@ -7,7 +7,8 @@
 
 /// A vertex of the local plane, metres: x east, y north.
 using PlaneVertex = OrvikTypes::RX_POLYGONVERTEX;
-/// A ring, closed implicitly from the last vertex to the first. One that is moved keeps its memory, a copy has its own.
+/// A ring, closed implicitly from the last vertex to the first. A ring that is moved keeps its memory; a copy has its
+/// own.
 using PlaneRing = std::pmr::vector<PlaneVertex>;
 
 /// A straight line between two vertices.
@@ -16,7 +17,7 @@ struct PlaneEdge {
     PlaneVertex to;
 };
 
-/// A polygon of one record: an outer ring and what is cut out of it.
+/// A polygon of one record: an outer ring and the holes cut out of it.
 struct PlanePolygon {
     PlaneRing outer;
     std::vector<PlaneRing> holes;
@@ -42,8 +43,8 @@ double ringArea(const PlaneRing &ring);
 /// Square metres: the outer ring's area less the holes'.
 double polygonArea(const PlanePolygon &polygon);
 
-/// Drops each vertex that repeats the one before it, and the closing vertex. Fewer than three are left of a ring that
-/// encloses nothing.
+/// Drops each vertex that repeats the one before it, and the closing vertex. A ring that encloses nothing is left with
+/// fewer than three.
 void dropRepeatedVertices(PlaneRing &ring);
 
 /// Whether the segments a-b and c-d have any point in common. Exact for vertices on the plane's grid.
@@ -53,6 +54,6 @@ bool liesOnSegment(const PlaneVertex &point, const PlaneVertex &a, const PlaneVe
 /// Whether the ring turns the same way at each vertex, and around once; no edge meets another then. Exact for vertices
 /// on the plane's grid.
 bool isConvexRing(const PlaneRing &ring);
-/// Whether no edge of the ring meets another but at the vertex between them. Compares every pair of edges: for short
-/// rings.
+/// Whether no edge of the ring meets another but at the vertex between them. Compares every pair of edges, so it suits
+/// short rings only.
 bool isSimpleRing(const PlaneRing &ring);

@@ -23,9 +23,9 @@ struct Run {
 };
 using Entry = std::pair<Box, Run>;
 
-/// So many rings share an entry of the tree at most.
+/// At most this many rings share an entry of the tree.
 constexpr unsigned longestRun = 8;
-/// Entries of a node.
+/// Entries per node.
 constexpr size_t nodeSize = 8;
 
 /// An extent in single precision, which takes half the room; larger than the one it stands for by up to three of its
@@ -55,7 +55,7 @@ struct NarrowExtent {
 
 private:
     /// A conversion is off by half of the last digit, 2^-24 of the number, or for the least numbers by less than the
-    /// least normal one. So much is taken off, or added, beforehand.
+    /// least normal one. More than that is taken off, or added, beforehand.
     static double slack(double value) { return std::fabs(value) * 0x1p-23 + std::numeric_limits<float>::min(); }
     static float below(double value) { return static_cast<float>(value - slack(value)); }
     static float above(double value) { return static_cast<float>(value + slack(value)); }
@@ -72,7 +72,7 @@ double halfPerimeter(const RingExtent &extent)
 }
 
 /// Entries for runs of neighbours in the list whose common extent is no longer around than theirs put together; most
-/// lists are sorted by place. The library takes no box that is inside out, so these stand in no run.
+/// lists are sorted by place. The library accepts no inside-out box, so such extents are in no run.
 std::vector<Entry> entriesOf(const std::vector<RingExtent> &extents)
 {
     std::vector<Entry> entries;
@@ -114,7 +114,7 @@ public:
     {
     }
 
-    /// The rings of the entries that the predicate picks, if they themselves are as wanted.
+    /// Those rings of the entries picked by the predicate that are themselves wanted.
     template <typename Predicate, typename IsWanted> Places that(const Predicate &predicate, IsWanted isWanted) const
     {
         Places places;

@@ -34,9 +34,9 @@ struct RingExtent {
     }
 };
 
-/// Finds rings by their extents: an R-tree (Guttman 1984) that is packed, since all extents are there when it is built.
-/// Its entries are runs of rings, each of which keeps its extent in single precision, rounded outward: all that is
-/// asked for is found, and now and then a ring whose extent ends within three last digits beside it.
+/// Finds rings by their extents: an R-tree (Guttman 1984), packed, since all extents are known when it is built. Its
+/// entries are runs of rings, each of which keeps its extent in single precision, rounded outward: it finds every ring
+/// asked for, and now and then one more whose extent misses by up to three last digits.
 class RingTree {
 public:
     /// Places of rings in the list that the tree was built from, in no order.
@@ -45,7 +45,7 @@ public:
     explicit RingTree(const std::vector<RingExtent> &extents);
     ~RingTree();
 
-    /// The rings whose extent holds the point; its border belongs to it.
+    /// The rings whose extent holds the point, borders included.
     Places holding(double x, double y) const;
     /// The rings whose extent covers `extent`, which is not empty, borders included.
     Places covering(const RingExtent &extent) const;

@@ -8,7 +8,7 @@
 
 /// Whether the ray from (x, y) towards greater x crosses the edge from `from` to `to`, computed step by step as the
 /// renderer does when it decides whether a hole's vertex lies in an outer ring. Edges are half-open: the lower end
-/// belongs to the edge, the upper one does not, level edges never count.
+/// belongs to the edge, the upper one does not, and level edges never count.
 struct RendererCrossing {
     bool operator()(const PlaneVertex &from, const PlaneVertex &to, double x, double y) const
     {
@@ -30,8 +30,7 @@ struct SharedEdgeCrossing {
 /// test looks at the edges of one slab only. The vertices are not copied and must outlive the index.
 class SlabIndex {
 public:
-    /// Whether a ring is long enough for the index to be worth keeping; one of fewer vertices is looked at edge by
-    /// edge.
+    /// Whether a ring is long enough for the index to be worth keeping; a shorter one is tested edge by edge.
     static constexpr bool pays(size_t count) { return count >= 48; }
 
     SlabIndex(const PlaneVertex *vertices, size_t count);

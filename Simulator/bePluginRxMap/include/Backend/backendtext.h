@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 
-/// What the back-end tells the operator, in the language of the application. The texts are parts of lines; what a line
-/// is about stands before them.
+/// What the back-end tells the operator, in the language of the application. The texts are parts of lines; before them
+/// the line says what it is about.
 class BackendText {
     Q_DECLARE_TR_FUNCTIONS(BackendText)
 

@@ -7,9 +7,9 @@
 #include <cmath>
 #include <limits>
 
-/// What a column of a file says of the product that it was made for.
+/// What a column of a file says about the product that it was made for.
 struct ColumnProduct {
-    /// As the column calls it: "Urea" for "UREA_KG_HA". Empty where the operator lets the column feed another product
+    /// As the column names it: "Urea" for "UREA_KG_HA". Empty where the operator lets the column feed another product
     /// and it names none: one of the usual products takes its place.
     QString name;
     /// By the column's unit: counted, by volume or by weight.
@@ -23,6 +23,6 @@ struct ColumnProduct {
     /// The name is that of a product, not of the column alone ("Rate").
     bool isNamed = true;
 
-    /// What suits places without a prescription.
+    /// The rate that suits places without a prescription.
     double defaultRate() const { return std::isnan(givenRate) ? typicalRate : givenRate; }
 };

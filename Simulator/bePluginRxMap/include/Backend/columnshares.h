@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What each one of several files is to feed, when columns are named for all of them together.
+/// What each of several files is to feed, when columns are named for all of them together.
 struct ColumnShares {
     /// For each file the columns of products 1, 2, ..., as in LoadRequest; empty for a file that feeds none. None on
     /// failure.

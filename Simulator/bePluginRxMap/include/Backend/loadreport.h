@@ -14,7 +14,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What came of a load.
+/// The outcome of a load.
 struct LoadReport {
     /// One line that names the file and the reason; empty on success.
     QString error;
@@ -36,14 +36,14 @@ struct LoadReport {
     QStringList columns;
     /// One per column.
     QList<RateSource> sources;
-    /// What the machine's products were made from; empty where it had its own.
+    /// The columns from which the machine's products were made; empty where it had its own.
     QList<ColumnProduct> columnProducts;
     /// One legend per column.
     QList<QList<OrvikTypes::RX_RATECOLOR>> legends;
-    /// Per legend: the rates of every class are shown alike, the greatest of them is its limit.
+    /// Per legend: whether the rates of each class are all shown alike; the greatest of them is its limit.
     QList<bool> hasSingleRates;
-    /// Per legend and class what its polygons cover less their holes, square metres. Ground that polygons of a map
-    /// share is counted for each of them.
+    /// Per legend and class, the area of its polygons less their holes, square metres. Ground that several polygons
+    /// share counts for each of them.
     QList<QList<double>> areas;
     /// Per column the sum of rate times area, base unit times hectares; counted as the areas are.
     QList<double> amounts;
@@ -51,7 +51,7 @@ struct LoadReport {
     int repaired = 0;
     /// Records left out: empty geometry, or no rate in any column.
     int skipped = 0;
-    /// One line each, file named: what the findings say, and remarks that are none.
+    /// One line each, with the file's name: what the findings say, and remarks that are not findings.
     QStringList warnings;
     /// What the load found to be wrong with the file, or took for granted.
     QList<MapFinding> findings;

@@ -11,7 +11,7 @@
 
 /// What to load, and for whom.
 struct LoadRequest {
-    /// A file of one of the formats that are read, or a folder of task data.
+    /// A file in one of the formats read, or a folder of task data.
     QString path;
     /// Rate columns; entry i feeds products[i]. An empty entry leaves that product out. An empty list lets the
     /// back-end choose the most likely columns.
@@ -23,14 +23,15 @@ struct LoadRequest {
     /// Which one of the file's layers, or of its tasks; empty: the first that will do.
     QString layer;
     QString task;
-    /// Where the machine takes its products from the file: makes them from what the columns say, and `products` do not
-    /// count but for those in use on the map's plane: products are made only where the file's columns, unasked, feed
-    /// all of these. It is called in the loading thread. The report says from what they were made.
+    /// Makes products from what the file's columns say; empty when the machine does not take its products from the
+    /// file. They replace `products` if the file's columns, unasked, feed all of those in use on the map's plane, or if
+    /// `columnProducts` is given; the report then says what they were made from. It is called in the loading thread.
     std::function<QList<MachineProduct>(const QList<ColumnProduct> &)> makeProducts = {};
-    /// What the columns said when the operator chose among them; empty: what they say to the load.
+    /// What the columns said when the operator chose among them; empty: the load asks the columns itself.
     QList<ColumnProduct> columnProducts = {};
-    /// Groups of the maps that are closed once this one is loaded: how far it lies from them is not told.
+    /// Groups of the maps that are closed once this one is loaded; no warning says how far it lies from them.
     QStringList replacedGroups = {};
-    /// The columns were picked from what the file was seen to offer: one that is a guess is told to be one.
+    /// The operator picked the columns from those that the file offers; the load still reports which of them are
+    /// guesses.
     bool tellsGuesses = false;
 };

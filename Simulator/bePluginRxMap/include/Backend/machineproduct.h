@@ -17,12 +17,10 @@ struct MachineProduct {
     double defaultRate = 0.0;
     /// Whether a prescription may drive it.
     bool isDriven = true;
-    /// Whether another one of the files that are opened together feeds it. Likely columns go to the other products
-    /// first.
+    /// Whether another of the files that are opened together feeds it. Likely columns go to the other products first.
     bool isFed = false;
-    /// Takes its rates from base units to the operator's: what is round in a legend, and which rates are told apart.
+    /// Converts its rates from base units to the operator's, in which legends have round limits and tell rates apart.
     double displayFactor = 1.0;
-    /// The plane's origin (LoadReport::origin) of the map of another file that is open and feeds it; none where none
-    /// does.
+    /// Origin (LoadReport::origin) of the plane of the open map from another file that feeds it; empty where none does.
     std::optional<QPointF> inUseAt = {};
 };

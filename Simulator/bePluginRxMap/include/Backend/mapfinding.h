@@ -27,11 +27,11 @@ struct MapFinding {
         StrayPolygon,
         LooseHole,
         Narrow,
-        /// Of maps that are loaded together; no file tells it alone.
+        /// Concerns maps that are loaded together; no file shows it alone.
         FarAway
     };
 
-    /// So many records are named one by one at most; the text tells how many there are.
+    /// At most this many records are named one by one; the text says how many there are.
     static constexpr int mostRecords = 1000;
 
     Kind kind = Kind::Overlap;
@@ -39,9 +39,9 @@ struct MapFinding {
     QString text;
     /// Records of the file that it is about, from 0.
     QList<int> records;
-    /// Square metres, where there is an area that it is about.
+    /// Its area in square metres, if it has one.
     std::optional<double> area;
-    /// A point of the local plane where it is seen, metres, where there is one.
+    /// A point of the local plane where it can be seen, metres, if there is one.
     std::optional<QPointF> place;
     /// Extent of what it is about in the local plane, metres (top = least y); null where there is no place.
     QRectF extent = {};

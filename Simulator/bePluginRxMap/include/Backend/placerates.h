@@ -10,6 +10,6 @@ struct PlaceRates {
     double elsewhere = std::numeric_limits<double>::quiet_NaN();
     double positionLost = std::numeric_limits<double>::quiet_NaN();
 
-    /// The default rate that follows from them: places without a rate are mostly those out of the field.
+    /// The default rate that follows from them: most places without a rate are out of the field.
     double defaultRate() const { return std::isnan(outOfField) ? elsewhere : outOfField; }
 };

@@ -19,8 +19,8 @@ class RxMapLoader;
 
 /// Loads prescription files and keeps them published. Loading runs off the user-interface thread; everything is
 /// published on it. A file that is loaded again replaces its own group's content; one that cannot be loaded changes
-/// nothing. A product follows one map at a time: the map loaded last takes over the product, and gives it back to the
-/// map that had it when it is unloaded.
+/// nothing. A product follows one map at a time: the map loaded last takes the product over, and when it is unloaded,
+/// the map that had the product before gets it back.
 class BEPLUGINRXMAP_EXPORT PrescriptionBackend : public QObject {
     Q_OBJECT
 
@@ -31,29 +31,30 @@ public:
     ~PrescriptionBackend() override;
 
     /// Which of several files feeds which product, when the columns of `request` are named for all of them together.
-    /// Its layer and task are those of every file, its path is not looked at. Reads the tables' heads only.
+    /// Its layer and task apply to every file; its path is ignored. Reads only the heads of the tables.
     static ColumnShares shareColumns(const QStringList &paths, const LoadRequest &request);
 
     /// Starts a load; requests are worked off one after the other, in order. finished() follows for each.
     void load(const LoadRequest &request);
-    /// Loads and waits, with the event loop running. A load whose wait is ended from outside, as by the program's end,
-    /// is given up: the report says so.
+    /// Loads and waits, with the event loop running. If something ends the wait, such as the end of the program, the
+    /// load is given up and the report says so.
     LoadReport loadAndWait(const LoadRequest &request);
     /// Starts to look at a file without publishing anything; waits its turn as a load does, and surveyed() follows.
-    /// Columns and units of the request do not count.
+    /// Columns and units of the request are ignored.
     void survey(const LoadRequest &request);
-    /// The classes that a load of a surveyed column has, by place, whose rates `factor` takes to the base unit of a
-    /// product with that display factor. Limits are in the base unit.
+    /// The classes that a load makes of a surveyed column (by place), for a product with that display factor. `factor`
+    /// takes the column's rates to the product's base unit, in which the limits are.
     static SurveyedClasses classesOf(const SurveyReport &survey, int column, double factor, double displayFactor);
     /// Whether a file of that name, or a folder with what it holds, may be a prescription.
     static bool mayBePrescription(const QString &path);
-    /// The units in which rates of that kind are written; none for a kind that is not written as an amount per area.
+    /// The units in which rates of that kind are written; no parts for a kind that is not written as an amount per
+    /// area.
     static RateUnitParts rateUnits(DbGroupProductGroupInfo::RateKind kind);
     /// The unit in which rates of that kind are kept; empty for an unknown kind.
     static QString baseUnit(DbGroupProductGroupInfo::RateKind kind);
-    /// Takes rates in that unit ("lb/ac") to the base unit of the kind; 0 where it is no unit of such rates.
+    /// Factor from that unit ("lb/ac") to the base unit of the kind; 0 if it is not a unit for such rates.
     static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
-    /// From one plane's origin to another's (LoadReport::origin) over the earth, metres.
+    /// Distance over the earth from one plane's origin to another's (LoadReport::origin), metres.
     static double distanceBetween(const QPointF &origin, const QPointF &other);
 
     /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
@@ -67,7 +68,7 @@ public:
     void cancel();
     bool isLoading() const;
 
-    /// So many groups of unloaded maps stay callable for whoever may still hold them; earlier ones are deleted.
+    /// This many groups of unloaded maps stay callable for whoever may still hold them; earlier ones are deleted.
     static constexpr size_t retiredGroupsKept = 64;
     /// False when there is no such group.
     bool unload(const QString &group);
@@ -77,7 +78,7 @@ public:
     RxMapLoader *loader(int product);
 
 Q_SIGNALS:
-    /// A map is about to be published for products that were made from its columns, which are to be the machine's.
+    /// A map is about to be published for products made from its columns; the machine is to take these products.
     void productsMade(const QList<ColumnProduct> &columns);
     /// `fraction` runs from 0 to 1 within one load.
     void progress(const QString &path, double fraction);

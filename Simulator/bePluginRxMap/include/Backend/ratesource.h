@@ -6,7 +6,7 @@
 
 /// Where the rates of one product come from.
 struct RateSource {
-    /// What told the unit of a column.
+    /// Where the unit of a column is known from.
     enum class UnitFrom { Operator, Format, Column, Text, Name, Assumed };
 
     QString column;
@@ -16,7 +16,7 @@ struct RateSource {
     UnitFrom unitFrom = UnitFrom::Assumed;
     /// Number of the product from 1.
     int product = 0;
-    /// Whether the operator or the column's name says that it holds rates; else it was taken by its content.
+    /// Whether the operator or the column's name says that it holds rates; if not, its content suggested it.
     bool isSure = true;
     /// What the file gives for places without a prescription, in the product's base unit.
     PlaceRates placeRates = {};

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/// Of what units of rates are made: any amount per any area, "kg" and "ha" make "kg/ha".
+/// What units of rates are made of: any amount per any area; "kg" and "ha" make "kg/ha".
 struct RateUnitParts {
     QStringList amounts;
     QStringList areas;

@@ -6,8 +6,8 @@
 #include <cmath>
 
 /// A rate in the operator's unit as a legend writes it: at least three significant digits, at least two decimals where
-/// single precision holds them, no zeros at its end, no exponent while it is short enough to be read. Who makes a
-/// legend and who shows it write rates alike, so that classes that differ look different.
+/// single precision holds them, no zeros at its end, and no exponent as long as it is short enough to read. The maker
+/// of a legend and its display write rates alike, so that different classes look different.
 class ShownRate {
 public:
     /// What the last digit shown of such a rate stands for; 0 for zero.
@@ -37,11 +37,11 @@ public:
 private:
     static bool isPlain(double value) { return std::fabs(value) < 1e12 && std::fabs(value) >= 1e-4; }
     static int significant(double value) { return std::fabs(value) < 1.0 ? 3 : 4; }
-    /// Digits before the decimal point; none or fewer for values below one.
+    /// Digits before the decimal point; zero or less for values below one.
     static int digits(double value) { return static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1; }
     static int decimals(double value)
     {
-        constexpr int heldDigits = 7; // By single precision.
+        constexpr int heldDigits = 7; // That single precision holds.
         return std::max(0, std::min(std::max(2, 3 - digits(value)), heldDigits - digits(value)));
     }
 };

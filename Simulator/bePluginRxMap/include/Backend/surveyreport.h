@@ -24,7 +24,7 @@ struct SurveyedColumn {
     RateSource::UnitFrom unitFrom = RateSource::UnitFrom::Assumed;
     double leastRate = 0.0;
     double greatestRate = 0.0;
-    /// Of the records with polygons, the share that has no rate in it, 0 to 1.
+    /// The share of the records with polygons that has no rate in this column, 0 to 1.
     double shareWithoutRate = 0.0;
     /// Whether its name says that it holds rates; else it is a guess.
     bool isSure = false;
@@ -47,7 +47,7 @@ struct SurveyedClasses {
 
 /// What a file holds, for the operator to choose from.
 struct SurveyReport {
-    /// A survey is drawn into a square of so many pixels.
+    /// A survey is drawn into a square with sides of this many pixels.
     static constexpr int pictureSide = 440;
 
     /// One line that names the file and the reason; empty on success.
@@ -58,11 +58,11 @@ struct SurveyReport {
     QString task;
     QStringList layers;
     QStringList tasks;
-    /// Of an archive that holds several prescriptions: the path of each. It is not ok then.
+    /// If the file is an archive with several prescriptions: the path of each. isOk() is then false.
     QStringList archived;
     /// All columns of the table.
     QStringList columnNames;
-    /// Those that feed products unasked, in product order, then the others in table order.
+    /// The columns that feed products unasked, in product order, then the others in table order.
     QList<SurveyedColumn> columns;
     /// As in LoadReport.
     QList<ColumnProduct> columnProducts;
@@ -71,9 +71,9 @@ struct SurveyReport {
     /// As in LoadReport, of the plane that a load would take.
     QPointF origin;
     int polygons = 0;
-    /// For each polygon its record.
+    /// The record of each polygon.
     QVector<int> records;
-    /// For each record the number of cells of a grid that it stands for; empty where that is one each.
+    /// The number of grid cells that each record stands for; empty where that is one each.
     QVector<int> cells;
     /// A picture of the map, north up: for each pixel, line by line, the record that is seen there, -1 for none.
     QSize pictureSize;

@@ -33,7 +33,7 @@ bool isCounting(const SourceColumn &column)
     return true;
 }
 
-/// Whether the values are whole numbers of which no two are the same, so many that they must be the records' own.
+/// Whether the values are whole numbers, no two the same, and so many that they must number the records.
 bool areNumbers(const SourceColumn &column)
 {
     constexpr size_t mostRates = 20;
@@ -83,7 +83,7 @@ bool ColumnContent::hasRates(const SourceColumn &column)
 bool ColumnContent::mayBeRates(const SourceColumn &column, const RawPrescription &map,
                                const std::vector<double> &recordAreas)
 {
-    // Joined cells have the same value, so it is not each one's own number or total.
+    // Joined cells have the same value, which is therefore not a number or total of each cell's own.
     const bool isAnyJoined = std::any_of(map.cells.begin(), map.cells.end(), [](int cells) { return cells > 1; });
     const bool areOfRecords = !isAnyJoined
         && (isCounting(column) || (column.isInteger && areNumbers(column))

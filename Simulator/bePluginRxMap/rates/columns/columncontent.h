@@ -9,7 +9,7 @@ class ColumnContent {
 public:
     /// Whether any record has a rate in it.
     static bool hasRates(const SourceColumn &column);
-    /// Whether it may hold rates though its name does not say so: numbers that are none of the other things that tables
+    /// Whether it may hold rates though its name does not say so: its numbers are none of the other things that tables
     /// usually hold. `recordAreas`: square metres per record of `map`.
     static bool mayBeRates(const SourceColumn &column, const RawPrescription &map,
                            const std::vector<double> &recordAreas);

@@ -80,7 +80,7 @@ const QSet<QString> &wordsOfOthers()
     return words;
 }
 
-/// What says so even beside a word for a rate.
+/// Words that say so even beside a word for a rate.
 const QSet<QString> &decisiveWords()
 {
     static const QSet<QString> words = wordSet(
@@ -110,7 +110,7 @@ bool isNumber(const QString &word)
     return std::all_of(word.begin(), word.end(), [](QChar letter) { return letter.isDigit(); });
 }
 
-/// A word of small letters, or of capitals that are too many for a symbol, with the first letter large.
+/// The word with a capital first letter; the rest in small letters if it has more capitals than a symbol.
 QString readable(const QString &word)
 {
     constexpr int longestSymbol = 3;
@@ -187,7 +187,7 @@ QStringList ColumnName::productWords() const
 
 ProductLineItem::Basis ColumnName::basis() const
 {
-    // Seed is sown by weight, too: its name says more than its unit.
+    // Seed may be sown by weight, too: the name says more than the unit.
     for (const ProductWords &known : wordsOfProducts()) {
         const bool isNamed =
             std::any_of(words.begin(), words.end(), [&known](const QString &word) { return isIn(known.words, word); });
@@ -214,7 +214,7 @@ bool ColumnName::endsInArea() const
 
 bool ColumnName::namesSoilContent() const
 {
-    // What the soil holds of a nutrient: "K_mg_kg".
+    // How much of a nutrient the soil holds: "K_mg_kg".
     const int milligrams = words.indexOf(QStringLiteral("mg"));
     return milligrams >= 0 && words.value(milligrams + 1).endsWith(QLatin1Char('g'));
 }

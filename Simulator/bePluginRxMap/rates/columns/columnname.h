@@ -14,25 +14,26 @@ public:
     /// Names a rate: by word ("RATE_kg_", "target_rat", "DOSE"), by unit per area ("HERB_l_ha"), or by a product and
     /// an area ("Urea_ha").
     bool namesRate() const;
-    /// Names what no rate is: an identifier, size, total, extent, place, yield, something found in the soil.
+    /// Names something that is not a rate: an identifier, size, total, extent, place, yield, something found in the
+    /// soil.
     bool namesOther() const;
     /// Of what no rate is names a total, and nothing else.
     bool namesTotal() const;
     /// Names the unit of a rate that stands in another column: "Unit", "RateUOM".
     bool namesUnit() const;
-    /// Names what was put out, not what is wanted.
+    /// Names what was applied, not what is wanted.
     bool namesApplied() const;
-    /// What is left of the name without its words for a rate, for what is wanted and for what was put out.
+    /// What is left of the name without its words for a rate, for what is wanted and for what was applied.
     QString subject() const;
-    /// The unit per area; of a name that has a word for a rate, an amount alone is one, too. Not known when there is
+    /// The unit per area; in a name with a word for a rate, an amount alone counts as well. Not known when there is
     /// none.
     RateUnit unit() const;
-    /// What is left of the name without words for a rate and without its unit, spelled to be read: "Urea" for
+    /// What is left of the name without words for a rate and without its unit, spelled readably: "Urea" for
     /// "UREA_KG_HA". The whole name where nothing is left.
     QString product() const;
     /// Whether anything of it names the product.
     bool namesProduct() const { return !productWords().isEmpty(); }
-    /// What a word for the product, else the rate's unit, says is measured out.
+    /// How the product is measured, by a word for it, else by the rate's unit.
     ProductLineItem::Basis basis() const;
 
 private:

@@ -27,13 +27,13 @@ ProductLineItem::Basis basisOf(DbGroupProductGroupInfo::RateKind kind)
     }
 }
 
-/// Whether the column's name says that it is measured out as the product is.
+/// Whether the column's name suggests that it is measured as the product is.
 bool suits(const LikelyColumn &column, const MachineProduct &product)
 {
     return column.basis != ProductLineItem::None && column.basis == basisOf(product.kind);
 }
 
-/// Longer lists than this are not told.
+/// Longer lists than this are cut short.
 constexpr int maxTold = 10;
 
 bool areEmpty(const QStringList &names)
@@ -49,7 +49,7 @@ MapFinding finding(MapFinding::Kind kind, const QString &text)
     return result;
 }
 
-/// Says which of the column's entries are no rates, or may mean something else.
+/// Reports which of the column's entries are not rates, or may mean something else.
 void tellEntries(const RawPrescription &source, const SourceColumn &column, ColumnPolicy::Decision &decision)
 {
     int count = 0;
@@ -192,7 +192,7 @@ void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColum
 
 bool ColumnPolicy::fits(const LikelyColumn &column, int product) const
 {
-    // Who names a unit has asked for it.
+    // An operator who names a unit wants the column, whatever its unit.
     return operatorUnits[static_cast<size_t>(product)].isKnown() || column.unit.unit.fits(products.at(product).kind);
 }
 

@@ -14,14 +14,14 @@
 
 #include <vector>
 
-/// Decides which rate column feeds which product, and what is to be said of it.
+/// Decides which rate column feeds which product, and what to report about it.
 ///
 /// Columns that the operator names feed the products that they are named for. Otherwise the columns whose names say
-/// that they hold rates are taken, else those that could by their content, else whole numbers that could; of a target
-/// and what was applied, or of equal columns, one. Each product takes the first one that is named after it, those that
-/// found none the first one whose name suits them, then those that found none take what is left, in table order; a
-/// column whose unit does not fit a product never feeds it unasked. No column feeds a product that no prescription may
-/// drive.
+/// that they hold rates are taken, else those whose content suggests it, else whole numbers that could be rates; only
+/// one of a target and what was applied, and only one of equal columns. Each product takes the first column named after
+/// it; a product that found none takes the first whose name suits it; then the rest take what is left, in table order.
+/// A column whose unit does not fit a product never feeds it unasked. No column feeds a product that no prescription
+/// may drive.
 class ColumnPolicy {
 public:
     /// One column that feeds one product; one column may feed several.
@@ -30,7 +30,7 @@ public:
         int column;  ///< Place in RawPrescription::columns.
         /// From the column's unit to the product's base unit.
         double factor = 1.0;
-        /// From there to the operator's unit.
+        /// From the base unit to the operator's unit.
         double displayFactor = 1.0;
     };
 
@@ -39,9 +39,9 @@ public:
         std::vector<Feed> feeds;
         /// One per feed.
         QList<RateSource> sources;
-        /// What was left out of the columns or taken for granted.
+        /// What was left out of the columns, or assumed.
         QList<MapFinding> findings;
-        /// Why nothing can be fed, without the file's name; empty when it can.
+        /// Why no product can be fed, without the file's name; empty when one can.
         QString error;
     };
 
@@ -56,10 +56,10 @@ public:
     /// file.
     ColumnPolicy(const QList<MachineProduct> &products, const QStringList &named, const QStringList &units = {});
 
-    /// A named column that is a guess is told to be one, too.
+    /// Reports guesses among named columns, too.
     void tellGuesses() { tellsGuesses = true; }
 
-    /// What the column's name and type say of whether it holds rates.
+    /// Whether the column holds rates, judged by name and type.
     static RateChance chanceOf(const SourceColumn &column);
     /// The same where the operator is to choose: a total may be meant as a rate.
     static RateChance chanceToChoose(const SourceColumn &column);
@@ -84,7 +84,7 @@ private:
     void readUnits(const QStringList &texts);
     void decideLikely(const RawPrescription &source, const LikelyColumns &likely, Decision &decision) const;
     bool fits(const LikelyColumn &column, int product) const;
-    /// What is said of a feed, and its factor.
+    /// Enters what is reported about a feed, and its factor.
     void describe(const SourceColumn &column, ColumnUnit unit, Feed &feed, Decision &decision) const;
     std::vector<Feed> feedNamed(const RawPrescription &source) const;
     /// Hands the columns out to products (numbers from 0).

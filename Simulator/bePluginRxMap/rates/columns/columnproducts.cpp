@@ -22,7 +22,7 @@ RateKind kindOf(ProductLineItem::Basis basis)
     }
 }
 
-/// What a format calls a column is the product's own name.
+/// When the format says what a column is, the column's name is the product's own.
 QString nameOf(const SourceColumn &column)
 {
     return column.meaning == SourceColumn::Meaning::NotSaid ? ColumnName(column.name).product() : column.name;

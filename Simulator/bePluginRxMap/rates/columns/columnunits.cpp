@@ -11,13 +11,14 @@ ColumnUnits::ColumnUnits(const RawPrescription &rawPrescription)
         if (column.text.isEmpty())
             continue;
         const ColumnName name(column.name);
-        // The unit of a yield is none of the rates beside it.
+        // The unit of a yield is not a unit of the rates beside it.
         const bool areUnits = RateUnit::fromText(column.text).isKnown()
             && (!column.isMixed || RateUnit::fromText(column.other).isKnown());
         if (name.namesUnit() || (!name.namesOther() && areUnits))
             units.push_back(&column);
     }
-    // Not by the columns that were read: a load of one column finds the same unit beside it as a survey of all.
+    // Considers all fields, not only the columns read: a load of one column must find the same unit beside it as a
+    // survey of all.
     for (const int field : source.numberFields) {
         if (!ColumnName(source.columnNames.at(field)).namesOther())
             rateFields.push_back(field);
@@ -52,7 +53,7 @@ ColumnUnit ColumnUnits::of(int place) const
         result.from = unit.isKnown() ? from : RateSource::UnitFrom::Assumed;
         return unit.isKnown();
     };
-    // Nothing else tells the unit of what the format has given one.
+    // A unit that the format gives overrides all others.
     if (!column.formatUnit.isEmpty()) {
         if (!take(RateUnit::fromText(column.formatUnit), RateSource::UnitFrom::Format))
             result.unknownText = column.formatUnit;

@@ -6,14 +6,14 @@
 
 #include <vector>
 
-/// The unit of a column, and what told it.
+/// The unit of a column, and where it is known from.
 struct ColumnUnit {
     RateUnit unit;
     RateSource::UnitFrom from = RateSource::UnitFrom::Assumed;
-    /// What stands for a unit beside or behind the rates, and is none that is known; empty otherwise.
+    /// A text beside or behind the rates that is not a known unit; empty if there is none.
     QString unknownText;
-    /// The column of units beside the rates that differs between records, and is no help; null otherwise.
-    /// RawPrescription's.
+    /// The column of units beside the rates if its records differ, which makes it useless; null otherwise. Owned by the
+    /// RawPrescription.
     const TextColumn *mixed = nullptr;
 };
 
@@ -23,8 +23,8 @@ public:
     /// `source` is not owned and outlives this.
     explicit ColumnUnits(const RawPrescription &source);
 
-    /// By the format, by a column of units beside the rates, by what stands behind rates that are text, by the column's
-    /// name, in this order. `place`: in `source.columns`.
+    /// The unit by the format, by a column of units beside the rates, by what follows rates that are text, or by the
+    /// column's name, in this order. `place`: in `source.columns`.
     ColumnUnit of(int place) const;
 
 private:
@@ -34,5 +34,5 @@ private:
 
     const RawPrescription &source;
     std::vector<const TextColumn *> units; ///< In table order.
-    std::vector<int> rateFields;           ///< Of the table's columns that may be rates, read or not; ascending.
+    std::vector<int> rateFields;           ///< Fields of the table that may hold rates, read or not; ascending.
 };

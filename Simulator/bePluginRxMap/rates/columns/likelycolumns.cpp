@@ -54,7 +54,7 @@ LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::
     : source(rawPrescription)
 {
     std::vector<int> places = candidates(polygons);
-    // What is wanted goes before what was put out.
+    // Targets go before what was applied.
     std::stable_partition(places.begin(), places.end(),
                           [this](int place) { return !ColumnName(column(place).name).namesApplied(); });
     QSet<QString> subjects;
@@ -63,7 +63,7 @@ LikelyColumns::LikelyColumns(const RawPrescription &rawPrescription, const std::
         const ColumnName name(column(place).name);
         const ColumnUnit unit = units.of(place);
         const LikelyColumn candidate{place, unit, basisOf(name, unit)};
-        // A format that says what a column is means each of them, whatever its rates.
+        // When the format says that a column holds rates, the column counts even if its rates equal another's.
         if (column(place).meaning == SourceColumn::Meaning::Rates) {
             likely.push_back(candidate);
             continue;

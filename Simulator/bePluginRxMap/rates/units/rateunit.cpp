@@ -33,8 +33,8 @@ bool isSubstance(const QString &word)
     return words.contains(word) || isNutrient(word);
 }
 
-/// Whether the two words at `place` are no unit that was taken apart but a product and its unit: "C_l_ha" is of a
-/// product C, as "A_l_ha" is of a product A.
+/// Whether the two words at `place` are a product and its unit rather than one unit split in two: "C_l_ha" is of a
+/// product C (not centilitres), as "A_l_ha" is of a product A.
 template <typename Unit> bool isNamedByLetter(const QHash<QString, const Unit *> &units, const Words &words, int place)
 {
     const QString unit = words.value(place + 1);
@@ -64,7 +64,7 @@ QHash<QString, RateUnit> joinedUnits()
     const auto &areas = UnitTable::areasBySpelling();
     for (auto amount = amounts.begin(); amount != amounts.end(); ++amount) {
         for (auto area = areas.begin(); area != areas.end(); ++area) {
-            // The others are too short, or too rare, to be told from other words.
+            // The others are too short or too rare to be told from ordinary words.
             if (!areaWords.contains(area.key()) || amount.key() == QLatin1String("s"))
                 continue;
             const RateUnit unit(*amount, *area);
@@ -100,7 +100,7 @@ RateUnit takeUnit(const Words &words, int &place, bool isCut)
         ++next;
     const bool isLast = next == words.size() - 1;
     const AreaUnit *area = nullptr;
-    // A lone "a" is short for an acre, but where metric units stand before it.
+    // A lone "a" is short for an acre, unless a metric unit stands before it.
     if (isLast && words.at(next) == QLatin1String("a") && (amount->isCustomary || isCut))
         area = UnitTable::area("ac");
     else if (next < words.size())
@@ -129,7 +129,7 @@ RateUnit::RateUnit(const AmountUnit *amountUnit, const AreaUnit *areaUnit)
     : amount(areaUnit == nullptr ? nullptr : amountUnit)
     , area(amountUnit == nullptr ? nullptr : areaUnit)
 {
-    // Where land is measured in metric units, so are tons.
+    // Where land is measured in metric units, tons are metric as well.
     static const AmountUnit *const shortTon = UnitTable::amount("ton");
     static const QSet<QString> customaryAreas = wordSet("ac ft2");
     if (amount == shortTon && isKnown() && !customaryAreas.contains(QLatin1String(area->symbol))
@@ -200,7 +200,7 @@ RateUnit RateUnit::findAmount(const QStringList &words, QVector<int> *others)
     for (int place = words.size() - 1; place >= 0; --place) {
         int next = place;
         const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
-        // Counts are named by what is counted, too, which is no unit then.
+        // A count may be named by what is counted, which is then not a unit.
         if (amount == nullptr || amount->basis == ProductLineItem::Count)
             continue;
         tellOthers(words, place, next, others);

@@ -15,20 +15,20 @@ public:
 
     /// Not known.
     RateUnit() = default;
-    /// Both units of the table, or none.
+    /// Both units come from the table, or both are null.
     RateUnit(const AmountUnit *amount, const AreaUnit *area);
 
-    /// The unit that a text is: "l/ha", "lbs per acre", "kg N/ha", "GPA". Not known when it is none.
+    /// The unit that a text spells: "l/ha", "lbs per acre", "kg N/ha", "GPA". Not known when it spells none.
     static RateUnit fromText(const QString &text);
     /// The unit within a name's words (small letters). `isCut`: the last word may lack its end. `others`: gets the
     /// places of the words that are no part of it, unless it is null.
     static RateUnit find(const QStringList &words, bool isCut, QVector<int> *others = nullptr);
-    /// An amount alone among a name's words, per acre or hectare as it is commonly used.
+    /// An amount without an area among a name's words, per acre or hectare as is customary for it.
     static RateUnit findAmount(const QStringList &words, QVector<int> *others = nullptr);
-    /// Small words of a text, as the units' spellings have them: split at everything but letters and digits, and where
-    /// small letters meet capitals; without accents.
+    /// The words of a text in small letters without accents, as the units' spellings have them: split at everything but
+    /// letters and digits, and where small letters meet capitals.
     static QStringList wordsOf(const QString &text);
-    /// The same words as they are written.
+    /// The same words as written in the text.
     static QStringList writtenWordsOf(const QString &text);
 
     bool isKnown() const { return amount != nullptr; }
@@ -36,11 +36,11 @@ public:
     QString text() const;
     ProductLineItem::Basis basis() const { return isKnown() ? amount->basis : ProductLineItem::None; }
 
-    /// Whether rates of such a product can be written in it. A unit that is not known may be any.
+    /// Whether rates of such a product can be written in it. An unknown unit fits every product.
     bool fits(Kind kind) const;
-    /// The same unit as a product of that kind is measured in it: ounces of a liquid are fluid ounces.
+    /// The unit as it is meant for a product of that kind: ounces of a liquid are fluid ounces.
     RateUnit of(Kind kind) const;
-    /// Multiplies rates to the base unit of the kind, which the unit fits; 1 when either is not known.
+    /// Factor to the base unit of the kind, which the unit must fit; 1 when either is unknown.
     double factorTo(Kind kind) const;
     /// "kg/ha"; empty for an unknown kind.
     static QString baseText(Kind kind);

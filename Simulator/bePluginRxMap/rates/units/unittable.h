@@ -7,15 +7,15 @@
 
 #include <vector>
 
-/// A unit of what is measured out.
+/// A unit of amount.
 struct AmountUnit {
     const char *symbol;
     ProductLineItem::Basis basis;
     /// In thousands, litres or kilograms, by the basis.
     double factor;
-    /// Used with acres where the area is not written.
+    /// Used per acre where the area is not written.
     bool isCustomary;
-    /// Where the factor is from.
+    /// The source of the factor.
     const char *source;
     /// As files write it: small letters and digits, separated by blanks.
     const char *spellings;
