@@ -36,7 +36,7 @@ QString lackOfPolygons(OGRLayer &layer)
 {
     if (!mayHoldPolygons(layer))
         return BackendText::tr("holds no polygons");
-    // What is wrong with a layer that is not read is no reason to refuse another.
+    // Faults of a layer that is not read are no reason to refuse another.
     const GdalSession own;
     layer.ResetReading();
     int records = 0;
@@ -89,7 +89,7 @@ void LayerChoice::findOffers(RawPrescription &map)
     const int count = dataset.GetLayerCount();
     for (OGRLayer *layer : dataset.GetLayers()) {
         const QString name = QString::fromUtf8(layer->GetName());
-        // What is wrong with the only layer is said by those who read it.
+        // Faults of the only layer are reported by those who read it.
         const QString lack = count > 1 || !mayHoldPolygons(*layer) ? lackOfPolygons(*layer) : QString();
         if (!lack.isEmpty()) {
             unfit.append(count > 1 ? quoted(name) + QLatin1Char(' ') + lack : lack);
@@ -143,7 +143,7 @@ int LayerChoice::firstThatFits(const RawPrescription &map)
         if (first != offers.end())
             return static_cast<int>(first - offers.begin());
     }
-    // Those who read its records know best what is wrong with the only one.
+    // Faults of the only layer are best reported by those who read its records.
     if (offers.size() == 1)
         return 0;
     for (size_t i = 0; i < offers.size(); ++i)

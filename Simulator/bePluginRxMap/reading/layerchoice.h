@@ -8,14 +8,15 @@
 class GDALDataset;
 class OGRLayer;
 
-/// Which layer of a file is read: of those with polygons the one that is named, else the first that has the wanted
-/// columns. Where none are named, a layer with a column that is called a rate goes before one that may have one.
+/// Chooses which layer of a file is read: of those with polygons the one that is named, else the first that has the
+/// wanted columns. If no columns are named, a layer with a column that is called a rate goes before one with a column
+/// that may be one.
 class LayerChoice {
 public:
     /// Neither is owned.
     LayerChoice(GDALDataset &dataset, const ReadRequest &request, ColumnJudge judge);
 
-    /// Sets the layers of `map` and what is said of those that are not taken. Null, with the reason in error(), when
+    /// Sets the layers of `map` and the warnings about those that are not taken. Null, with the reason in error(), when
     /// none will do.
     OGRLayer *choose(RawPrescription &map);
     /// The layer that has the most of the named columns, when they are named for several files together.
@@ -26,7 +27,7 @@ private:
     /// A layer with polygons.
     struct Offer {
         OGRLayer *layer;
-        /// What it lacks, empty when nothing.
+        /// What it lacks; empty when it lacks nothing.
         QString lack;
         RateChance chance = RateChance::None;
         int columns = 0; ///< How many of the named ones it has.
@@ -42,7 +43,7 @@ private:
     const ReadRequest &request;
     ColumnJudge judge;
     std::vector<Offer> offers;
-    /// Why other layers are none that can be taken, each with its name.
+    /// Why other layers cannot be taken, each with its name.
     QStringList unfit;
     QString reason;
 };

@@ -5,7 +5,7 @@
 
 /// How a running load talks to whoever started it. Used in the loading thread.
 struct LoadControl {
-    /// Takes the share that is done, 0 to 1. May be empty.
+    /// Called with the share that is done, 0 to 1. May be empty.
     std::function<void(double)> progress;
     /// Set, from any thread, to end the load. Not owned; may be null.
     const std::atomic<bool> *cancelled = nullptr;

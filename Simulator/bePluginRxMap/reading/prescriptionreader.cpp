@@ -15,13 +15,13 @@
 
 namespace {
 
-/// Whether the coordinate system only stands for none, as GeoPackages have it; some versions of GDAL hand it out.
+/// Whether this is a GeoPackage's stand-in for "no coordinate system"; some versions of GDAL return it.
 bool standsForNone(const OGRSpatialReference &reference)
 {
     return QByteArray(reference.GetName()).toLower().startsWith("undefined");
 }
 
-/// Whether the coordinate system says nothing of where on the earth it is: one of a drawing or of a site.
+/// Whether the coordinate system does not say where on the earth it is, such as one of a drawing or a site.
 bool isUndefined(const OGRSpatialReference &reference)
 {
     return reference.IsLocal() != 0 || QByteArray(reference.GetName()).toLower() == "unknown";
@@ -81,7 +81,7 @@ bool PrescriptionReader::readLayer(const PrescriptionFile &file, const GdalSessi
 {
     LayerChoice choice(file.dataset(), request, judge);
     OGRLayer *layer = checkTask() ? choice.choose(map) : nullptr;
-    // Where there is nothing to read, what GDAL met with says more.
+    // When there is nothing to read, GDAL's first failure says more.
     if (layer == nullptr && reason.isEmpty())
         return fail(session.firstFailure().isEmpty() ? choice.error() : session.firstFailure());
     if (layer == nullptr)
@@ -114,7 +114,7 @@ bool PrescriptionReader::readColumnNames(QStringList &names)
 
 void PrescriptionReader::readReference(OGRLayer &layer, const PrescriptionFile &file, RawPrescription &map)
 {
-    // A Shapefile's definition is read only now; what is wrong with it is said by other means.
+    // A Shapefile's definition is read only now; its faults are reported by other means.
     const GdalSession own;
     const OGRSpatialReference *given = layer.GetSpatialRef();
     const OGRSpatialReference *reference = given == nullptr || standsForNone(*given) ? nullptr : given;
@@ -126,7 +126,8 @@ void PrescriptionReader::readReference(OGRLayer &layer, const PrescriptionFile &
         map.reference.reset(reference->Clone());
     else if (!definition.isEmpty())
         map.lackOfReference = BackendText::tr("its coordinate system (%1) cannot be read").arg(definition);
-    // Each ring would else count itself among the reference's holders and out again, a tenth of the time of reading.
+    // Otherwise each ring would register with the reference and deregister again, which takes a tenth of the reading
+    // time.
     if (given != nullptr && layer.GetLayerDefn()->GetGeomFieldCount() > 0)
         layer.GetLayerDefn()->GetGeomFieldDefn(0)->SetSpatialRef(nullptr);
 }

@@ -15,18 +15,20 @@ public:
     PrescriptionReader(const ReadRequest &request, ColumnJudge judge, const LoadControl &control);
 
     /// Whether the path may be that of a prescription: a file of that name, or a folder of task data. No file is
-    /// opened, since reading may block. Files without a size are none: those of the system have content for all that.
+    /// opened, since reading may block. Files without a size do not count: among them are the system's own, which have
+    /// content all the same.
     static bool mayRead(const QString &path);
 
     /// False when the file cannot be used; the reason, without the file's name, is then in error().
     bool read(RawPrescription &map);
-    /// Names of all columns of the table that has the most of the wanted ones, without its records. False like read().
+    /// Reads the names of all columns of the table that has the most of the wanted ones, but no records. False as in
+    /// read().
     bool readColumnNames(QStringList &names);
     QString error() const { return reason; }
 
 private:
     bool fail(const QString &text);
-    /// Of a file that cannot be opened.
+    /// Takes over why the file cannot be opened, and what it offers instead.
     bool refuse(const PrescriptionFile &file, RawPrescription &map);
     bool checkTask();
     bool readLayer(const PrescriptionFile &file, const GdalSession &session, RawPrescription &map);

@@ -10,7 +10,7 @@
 #include <ogr_spatialref.h>
 #include <vector>
 
-/// Gives a spatial reference back to GDAL, which counts its holders.
+/// Releases a spatial reference, whose holders GDAL counts.
 struct SpatialReferenceRelease {
     void operator()(OGRSpatialReference *reference) const { reference->Release(); }
 };
@@ -31,9 +31,9 @@ struct SourceColumn {
     /// Records whose entry is a text that is no number or in another unit than `unit`, or a number that is no rate
     /// (below zero or not finite).
     std::vector<int> unreadable;
-    /// What follows the numbers that stand as text ("kg/ha"); empty when nothing does.
+    /// What follows numbers that are written as text ("kg/ha"); empty when nothing does.
     QString unit;
-    /// The first text whose comma may have been meant to set off thousands; empty when there is none.
+    /// The first text whose comma may be a thousands separator; empty when there is none.
     QString ambiguous;
     Meaning meaning = Meaning::NotSaid;
     /// The unit that the format gives, "mm3/m2"; empty when it gives none.
@@ -42,8 +42,8 @@ struct SourceColumn {
     PlaceRates placeRates = {};
 };
 
-/// Whether a column, of which name and type are known, may hold rates, or is even called a rate. What is called a total
-/// is read for the operator to choose, but no layer is taken for it.
+/// Whether a column, judged by name and type, may hold rates, or is even called a rate. What is called a total is read
+/// for the operator to choose, but no layer is taken for it.
 enum class RateChance { None, Total, Possible, Named };
 using ColumnJudge = RateChance (*)(const SourceColumn &);
 
@@ -53,7 +53,7 @@ struct TextColumn {
     /// Place among the table's fields.
     int field = -1;
     QString text;
-    /// Records differ: the text says nothing.
+    /// The records differ, so the text tells nothing.
     bool isMixed = false;
     /// The first text that differs from `text`.
     QString other = {};
@@ -71,7 +71,7 @@ struct SourceRing {
 struct SourceBoundary {
     std::vector<double> xs;
     std::vector<double> ys;
-    /// For each ring, outer or inner, the place behind its last vertex.
+    /// For each ring, outer or inner, the place after its last vertex.
     std::vector<size_t> ends;
 };
 
@@ -97,10 +97,11 @@ struct RawPrescription {
     QStringList columnNames;
     /// Null when the file names no coordinate system; its coordinates are taken as WGS 84 longitudes and latitudes.
     SpatialReference reference;
-    /// Said of the file where `reference` is null; empty where the format leaves no other choice than WGS 84.
+    /// How a null `reference` is reported; empty where the format allows WGS 84 only.
     QString lackOfReference = BackendText::tr("names no coordinate system");
     int records = 0;
-    /// For each record of a grid the equal cells that it stands for; a record behind the last one is one thing.
+    /// The number of equal cells that each record of a grid stands for; records beyond the list's end stand for one
+    /// each.
     std::vector<int> cells;
 
     int cellsOf(int record) const
@@ -112,7 +113,7 @@ struct RawPrescription {
     std::vector<int> emptyRecords;     ///< Without geometry, or with rings that enclose nothing only.
     std::vector<int> otherRecords;     ///< Points and lines.
     std::vector<int> notFiniteRecords; ///< With a coordinate that is not finite.
-    std::vector<int> droppedRings;     ///< For each ring of fewer than three different vertices its record.
+    std::vector<int> droppedRings;     ///< The record of each ring with fewer than three different vertices.
     QStringList warnings;
     /// Empty where the file has none.
     SourceBoundary boundary;

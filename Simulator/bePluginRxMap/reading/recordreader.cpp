@@ -16,8 +16,8 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// So many rates are read from all columns together, half a gigabyte: records may leave columns out, and so need no
-/// room in the file.
+/// At most this many rates are read from all columns together, half a gigabyte: records may leave columns out, and so
+/// take no room in the file.
 constexpr double mostValues = 64.0 * 1024.0 * 1024.0;
 
 bool isRate(double value)
@@ -25,7 +25,7 @@ bool isRate(double value)
     return std::isfinite(value) && value >= 0.0;
 }
 
-/// The number that stands as text; not a number, and counted, where it is in another unit than those before.
+/// The number in a text; NaN, and counted, if its unit differs from that of those before.
 double readText(const OGRFeature &feature, int record, SourceColumn &column)
 {
     const QString text = QString::fromUtf8(feature.GetFieldAsString(column.field));
@@ -53,7 +53,7 @@ void compareText(const OGRFeature &feature, TextColumn &column)
         column.other = text;
 }
 
-/// Makes room for that many records of one cell each. Files may promise more than they hold, so there is a limit.
+/// Makes room for that many records of one cell each. Files may announce more than they hold, so there is a limit.
 void reserve(RawPrescription &map, double records)
 {
     constexpr double most = 1e6;
@@ -137,7 +137,7 @@ void RecordReader::skipOtherColumns(const RawPrescription &map)
     CPLStringList others;
     for (int i = 0; i < definition.GetFieldCount(); ++i) {
         const char *name = definition.GetFieldDefn(i)->GetNameRef();
-        // GDAL goes by names, which two columns may share, or which stand for something else than a column.
+        // GDAL goes by names; two columns may share one, and a name may stand for something other than a column.
         const bool isOwnName = definition.GetFieldIndex(name) == i && !STARTS_WITH_CI(name, "OGR_");
         const bool isRead = std::any_of(map.columns.begin(), map.columns.end(),
                                         [i](const SourceColumn &column) { return column.field == i; });
@@ -179,7 +179,7 @@ void RecordReader::readValues(const OGRFeature &feature, RawPrescription &map)
             if (!isRate(value) && !(column.isText && std::isnan(value)))
                 column.unreadable.push_back(map.records);
         }
-        // The sum turns a negative zero into the plain one.
+        // The sum turns a negative zero into a positive one.
         column.values.push_back(isRate(value) ? value + 0.0 : notANumber);
     }
     for (TextColumn &column : map.texts)

@@ -6,8 +6,8 @@ struct RawPrescription;
 class OGRGeometry;
 class OGRPolygon;
 
-/// Appends the rings of one record after the other to a map. Curves are made straight, heights and measures dropped;
-/// what encloses nothing, is no area or is not finite is left out and counted in the map.
+/// Appends the rings of one record after another to a map. Curves are straightened, heights and measures dropped.
+/// Shapes that enclose nothing, are not areas or are not finite are left out and counted in the map.
 class ShapeReader {
 public:
     /// `map` is not owned and outlives this object.
@@ -20,9 +20,9 @@ private:
     /// False when the geometry holds no areas, but points or lines.
     bool appendGeometry(const OGRGeometry &geometry);
     void appendPolygon(const OGRPolygon &polygon);
-    /// Of the ring whose vertices are those from `first` on.
+    /// Drops it from the ring whose vertices begin at `first`.
     void dropClosingVertex(size_t first);
-    /// Of the vertices from `first` on.
+    /// Whether the vertices from `first` on are finite.
     bool isFinite(size_t first) const;
     /// Whether the vertices from `first` on hold at least three different places.
     bool enclosesSomething(size_t first) const;

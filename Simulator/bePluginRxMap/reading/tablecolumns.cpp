@@ -15,7 +15,7 @@ std::vector<SourceColumn> TableColumns::read(OGRFeatureDefn &definition, QString
         column.isText = field->GetType() == OFTString;
         column.isInteger = field->GetType() == OFTInteger || field->GetType() == OFTInteger64;
         names.append(column.name);
-        // GDAL counts true and false among the whole numbers; they say where, not how much.
+        // GDAL counts true and false as whole numbers; they say where, not how much.
         const bool isNumeric = column.isInteger || field->GetType() == OFTReal;
         if (column.isText || (isNumeric && field->GetSubType() != OFSTBoolean))
             columns.push_back(std::move(column));

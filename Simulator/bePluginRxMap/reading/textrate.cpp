@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Sign, digits, exponent and what follows. A lone point or comma sets off decimals; of two or more, those before the
-/// last kind set off thousands.
+/// Sign, digits, exponent and what follows. A lone point or comma sets off decimals; if there are more, the last kind
+/// sets off decimals and the other thousands.
 const char pattern[] = R"(^([+-]?)((?:\d++(?:[.,]\d*+)?|[.,]\d++|\d{1,3}(?:,\d{3})+\.\d+|\d{1,3}(?:\.\d{3})+,\d+)"
                        R"(|\d{1,3}(?:,\d{3}){2,}|\d{1,3}(?:\.\d{3}){2,})(?:[eE][+-]?\d+)?)\s*((?:\p{L}|1000).*|)$)";
 

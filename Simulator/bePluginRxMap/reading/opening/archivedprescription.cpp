@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Longer lists than this are not told.
+/// Longer lists than this are cut short.
 constexpr int mostTold = 10;
 
 bool isSame(const QString &a, const QString &b)
@@ -18,13 +18,14 @@ bool isSame(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-/// What some systems put beside the files that were packed.
+/// Whether it is one of the files that some systems add to an archive.
 bool isLitter(const ZipArchive::Entry &entry)
 {
     return entry.name().startsWith(QLatin1Char('.')) || entry.path.startsWith(QLatin1String("__MACOSX/"));
 }
 
-/// What belongs to a prescription where it lies beside it: the other files of a Shapefile, the journals of a database.
+/// The files that belong to a prescription if they lie beside it: the other parts of a Shapefile, the journals of a
+/// database.
 QStringList partsOf(const ZipArchive::Entry &main)
 {
     const QString ending = QFileInfo(main.name()).suffix();
@@ -118,7 +119,7 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
 bool ArchivedPrescription::isCandidate(const ZipArchive::Entry &entry) const
 {
     const bool isInside = inner.isEmpty() || entry.path.startsWith(inner + QLatin1Char('/'), Qt::CaseInsensitive);
-    // The only task data of an archive is not looked for here, but may be one of several prescriptions.
+    // Task data that is alone in an archive is found elsewhere; here it may be one of several prescriptions.
     const bool isTaskData = isSame(entry.name(), QStringLiteral("TASKDATA.XML"));
     const QString ending = QFileInfo(entry.name()).suffix();
     return isInside && !isLitter(entry)

@@ -14,7 +14,7 @@ public:
     /// the reason in error(), when that cannot be done.
     QString unpack(const QDir &folder);
     QString error() const { return reason; }
-    /// Where it holds several, and none is named: their paths in the archive.
+    /// If the archive holds several prescriptions and none is named: their paths in the archive.
     QStringList candidates() const { return several; }
 
 private:
@@ -22,9 +22,9 @@ private:
     const ZipArchive::Entry *choose();
     /// Whether an entry may be the prescription.
     bool isCandidate(const ZipArchive::Entry &entry) const;
-    /// Of a .kmz the document at its root is the one to open, unless it does but link to the others.
+    /// In a .kmz, keeps only the document at its root, unless that merely links to the others.
     void keepDocument(std::vector<const ZipArchive::Entry *> &found);
-    /// The entry, and what belongs to it.
+    /// The entry and the entries that belong to it.
     std::vector<const ZipArchive::Entry *> withParts(const ZipArchive::Entry &main) const;
     bool write(const ZipArchive::Entry &entry, const QString &path);
 

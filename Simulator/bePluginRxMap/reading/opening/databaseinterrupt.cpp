@@ -5,7 +5,7 @@
 
 namespace {
 
-/// SQLite's own steps between two looks, some hundredths of a millisecond.
+/// SQLite's own steps between two checks, some hundredths of a millisecond.
 constexpr int stepsBetween = 1000;
 
 int isCancelled(void *flag)

@@ -6,8 +6,8 @@
 
 class GDALDataset;
 
-/// While it lives, what an open database does is given up as soon as `cancelled` is set; GDAL reports a failure then.
-/// A layer may be a view, whose next record may take without end. Other formats are left alone.
+/// While it lives, an open database gives up its work as soon as `cancelled` is set; GDAL then reports a failure. A
+/// layer may be a view, whose next record may take forever. Other formats are left alone.
 class DatabaseInterrupt {
 public:
     /// Neither is owned; both outlive this. `cancelled` may be null.

@@ -22,7 +22,7 @@ void registerFormats()
     RegisterOGRGeoPackage();
     RegisterOGRGeoJSON();
     RegisterOGRGeoJSONSeq();
-    // The other reader of KML leaves out a placemark's own data, which are the rates.
+    // GDAL's other reader of KML leaves out a placemark's own data, which hold the rates.
     RegisterOGRLIBKML();
     RegisterOGRFlatGeobuf();
     RegisterOGRGML();
@@ -39,10 +39,10 @@ GdalSession::GdalSession()
     std::call_once(registered, registerFormats);
     CPLSetThreadLocalConfigOption("GML_SKIP_RESOLVE_ELEMS", "ALL");
     CPLSetThreadLocalConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
-    // The other parser follows entities out of the file.
+    // GDAL's other parser follows entities out of the file.
     CPLSetThreadLocalConfigOption("GML_PARSER", "EXPAT");
-    // A coordinate system that the projection database does not know is compared with all that it does know for up to
-    // two seconds otherwise; it is used as it is written either way.
+    // Otherwise a coordinate system that the projection database does not know is compared with all those in it, for up
+    // to two seconds; it is used as written either way.
     CPLSetThreadLocalConfigOption("USE_OSR_FIND_MATCHES", "NO");
 }
 

@@ -20,6 +20,6 @@ private:
     Q_DISABLE_COPY(GdalSession)
 
     QString failure;
-    /// The thread's options before, GDAL's list; owned.
+    /// The thread's former options, a list of GDAL's; owned.
     char **optionsBefore;
 };

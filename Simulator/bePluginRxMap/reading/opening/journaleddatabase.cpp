@@ -15,7 +15,7 @@ bool beginsWith(const QString &path, const QByteArray &text)
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && file.read(text.size()) == text;
 }
 
-/// One that is done with is empty or begins with zeros. What cannot be looked at may have content.
+/// A journal that is no longer needed is empty or begins with zeros. One that cannot be read may have content.
 bool hasContent(const QString &journal)
 {
     QFile file(journal);
@@ -58,7 +58,7 @@ QString JournaledDatabase::copyTo(const QDir &folder)
                          .arg(QFileInfo(path + ending).fileName(), original.errorString());
             return {};
         }
-        // Of a write-protected file the copy is, too; a change that was broken off is taken back there.
+        // The copy of a write-protected file is write-protected, too, but an unfinished change is rolled back in it.
         QFile::setPermissions(copy + part, QFile::ReadOwner | QFile::WriteOwner);
     }
     if (state() == before)

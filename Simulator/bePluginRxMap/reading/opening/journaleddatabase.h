@@ -4,9 +4,9 @@
 
 class QDir;
 
-/// A database beside which the journal of a change lies: rows that are not in the file yet, or what the file held
-/// before a change that was broken off. Read alone, the file tells what nobody has written. Read as its own programs
-/// do, it is changed, or cannot be read where nothing may be written. So a copy of both is read.
+/// A database with the journal of a change beside it: rows that are not in the file yet, or what the file held before
+/// an unfinished change. The file alone would show what nobody meant to write. Reading it as database programs do
+/// changes it, or fails where nothing may be written. So a copy of both is read.
 class JournaledDatabase {
 public:
     explicit JournaledDatabase(const QString &path);
@@ -19,7 +19,7 @@ public:
     QString error() const { return reason; }
 
 private:
-    /// Of the file and its journal, to see that nobody changes them meanwhile.
+    /// The state of the file and its journal, to see whether somebody changes them meanwhile.
     QString state() const;
 
     QString path;

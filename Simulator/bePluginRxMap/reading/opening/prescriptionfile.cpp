@@ -18,7 +18,7 @@ namespace {
 const char *const shapefileOnly[] = {"ESRI Shapefile", nullptr};
 const char *const otherFormats[] = {"GPKG", "GeoJSON", "GeoJSONSeq", "LIBKML", "FlatGeobuf", "GML", nullptr};
 
-/// What GDAL takes for that file: it must not begin as the names of GDAL's own file systems do.
+/// The name by which GDAL takes the path for that file: it must not begin like a name in GDAL's own file systems.
 QByteArray nameForGdal(const QString &path)
 {
     const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath());
@@ -57,13 +57,13 @@ bool PrescriptionFile::check()
         return fail(BackendText::tr("there is no such file"));
     if (info.isDir())
         return fail(BackendText::tr("is a folder, not a file"));
-    // A pipe would be waited on without end.
+    // Opening a pipe could wait forever.
     if (!info.isFile())
         return fail(BackendText::tr("is no plain file"));
-    // The system's own files, whose size is zero, may be read without end.
+    // The system's own files have the size zero, and reading some never ends.
     if (info.size() == 0)
         return fail(BackendText::tr("is empty"));
-    // A reader would take what it cannot open for another format.
+    // A reader would take a file that it cannot open for another format.
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(BackendText::tr("cannot be opened: %1").arg(file.errorString()));
@@ -76,12 +76,12 @@ bool PrescriptionFile::check()
 
 CPLStringList PrescriptionFile::options() const
 {
-    // A format overlooks the options of the others.
+    // Each format ignores the options of the others.
     CPLStringList options;
     options.SetNameValue("WRITE_GFS", "NO");
     options.SetNameValue("DOWNLOAD_SCHEMA", "NO");
-    // A database would else be opened for writing to tidy up its journal. By design: not where the name holds a percent
-    // sign, which would be decoded.
+    // Otherwise a database would be opened for writing, to tidy up its journal. By design: not if the name holds a
+    // percent sign, which would be decoded.
     if (!isJournaled && !nameForGdal(path).contains('%'))
         options.SetNameValue("IMMUTABLE", "YES");
     const QByteArray codePage = isShapefile() ? TableCodePage::guess(path) : QByteArray();
@@ -111,7 +111,7 @@ bool PrescriptionFile::takeJournal()
 {
     JournaledDatabase database(path);
     isJournaled = database.hasJournal();
-    // What was unpacked is a copy already.
+    // An unpacked file is a copy already.
     if (!isJournaled || unpacked)
         return true;
     unpacked = std::make_unique<UnpackingFolder>();
@@ -125,7 +125,7 @@ bool PrescriptionFile::open(const GdalSession &session)
 {
     if (!unpack() || !check() || !takeJournal())
         return false;
-    // A change that was broken off can be taken back only by who may write; it is the copy that is written to.
+    // Rolling back an unfinished change needs write access; only the copy is written to.
     const unsigned int access = isJournaled ? GDAL_OF_UPDATE : GDAL_OF_READONLY;
     data.reset(GDALDataset::Open(nameForGdal(path).constData(), GDAL_OF_VECTOR | access,
                                  isShapefile() ? shapefileOnly : otherFormats, options().List()));

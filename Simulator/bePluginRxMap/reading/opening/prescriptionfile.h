@@ -11,29 +11,29 @@
 class GdalSession;
 
 /// A prescription file that GDAL reads, opened: a file, or one inside an archive ("fields.zip/north/rates.shp"), which
-/// is unpacked into a folder that goes with this object. A path is the name of a file and nothing else, whatever GDAL
-/// could take it for; nothing is written beside the file. Blocks; use in the loading thread.
+/// is unpacked into a folder that is deleted with this object. A path is only ever the name of a file, whatever else
+/// GDAL could take it for; nothing is written beside the file. Blocks; use in the loading thread.
 class PrescriptionFile {
 public:
     explicit PrescriptionFile(const QString &path);
 
-    /// What the names of such files end in, without the point.
+    /// The endings of such files' names, without the point.
     static QStringList endings();
     /// False when the file cannot be used; the reason, without the file's name, is then in error(). `session`: the one
     /// that takes GDAL's reports.
     bool open(const GdalSession &session);
     GDALDataset &dataset() const { return *data; }
-    /// Name of the file beside it that is to define its coordinate system; empty where none says anything.
+    /// Name of the file beside it that should define its coordinate system; empty where no file says anything.
     QString definitionFile() const;
     QString error() const { return reason; }
-    /// Where the path is that of an archive with several of them: the path of each.
+    /// If the path is that of an archive with several prescriptions: the path of each.
     QStringList candidates() const { return several; }
 
 private:
     bool fail(const QString &text);
     bool check();
     bool unpack();
-    /// A database with a journal beside it is read from a copy.
+    /// Copies a database that has a journal beside it; false when that fails.
     bool takeJournal();
     bool isShapefile() const;
     CPLStringList options() const;

@@ -12,7 +12,7 @@ constexpr int shapeHeaderSize = 100;
 constexpr int tableHeaderSize = 32;
 constexpr qint32 shapeFileCode = 9994;
 
-/// A pipe in place of a part would be waited on without end.
+/// Opening a pipe in place of a part could wait forever.
 QString partsProblem(const QString &shapePath)
 {
     for (const char *extension : {"shx", "dbf", "prj", "cpg"}) {

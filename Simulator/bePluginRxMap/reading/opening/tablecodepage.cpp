@@ -10,12 +10,12 @@
 namespace {
 
 constexpr int headerSize = 32;
-/// Where the header says the code page: 0 for none, and 0x57 for whatever the writing computer had.
+/// Where the header names the code page: 0 for none, and 0x57 for whatever the writing computer used.
 constexpr int codePagePlace = 29;
 constexpr char anyCodePage = 0x57;
 /// Enough to hold all names of columns and some records.
 constexpr qint64 lookedAt = 256 << 10;
-/// Below it code page 850 has letters, and others signs that stand in no word.
+/// Bytes from 0x80 to below this one are letters in code page 850; in Latin-1 they are signs that occur in no word.
 constexpr int firstSign = 0xa6;
 
 /// The names of the columns, and the records.
@@ -35,7 +35,7 @@ bool isContinuation(char byte)
     return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
 }
 
-/// Bytes of a letter by its first one; 1 for what begins none.
+/// Length in bytes of a letter that begins with this byte; 1 if none does.
 int lengthOf(char first)
 {
     const auto byte = static_cast<unsigned char>(first);
@@ -44,8 +44,8 @@ int lengthOf(char first)
     return byte >= 0xf0 ? 4 : byte >= 0xe0 ? 3 : 2;
 }
 
-/// Whether there are letters of several bytes, and nothing else but plain ones. Fields are cut at their length, maybe
-/// within a letter: that may stand before the space or zero that follows a field.
+/// Whether there are letters of several bytes, and apart from those only plain ones. Fields are cut off at their
+/// length, perhaps within a letter: a cut letter may stand before the space or zero that follows a field.
 bool isUtf8(const QByteArray &bytes)
 {
     int letters = 0;

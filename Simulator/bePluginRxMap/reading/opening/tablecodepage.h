@@ -6,10 +6,11 @@
 /// In which code page the table of a Shapefile is written.
 class TableCodePage {
 public:
-    /// GDAL's name of it where the table leaves that open and its bytes tell it; empty where GDAL knows, or where
-    /// Latin-1, which it then takes, will do. `shapePath`: of the .shp.
+    /// GDAL's name of the code page if the table leaves it open and its bytes tell it; empty if GDAL knows it, or if
+    /// Latin-1, GDAL's own choice, will do. `shapePath`: of the .shp.
     static QByteArray guess(const QString &shapePath);
-    /// The same for the bytes of a table's beginning. UTF-8 is known by its rules. Latin-1 and its like have letters
-    /// from 0xC0 on and hardly anything before that stands in a name, where code page 850 has its letters.
+    /// The same for the bytes of a table's beginning. UTF-8 is recognised by its rules. Latin-1 and its like have
+    /// letters from 0xC0 on, and before that hardly anything that occurs in a name; there code page 850 has its
+    /// letters.
     static QByteArray guess(const QByteArray &table);
 };

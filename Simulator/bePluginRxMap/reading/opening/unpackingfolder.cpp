@@ -10,7 +10,7 @@
 
 namespace {
 
-/// One that is younger may be about to be locked.
+/// A younger folder may be about to be locked.
 constexpr int leastAge = 60; // Seconds.
 
 int openFolder(const QString &path)

@@ -2,8 +2,8 @@
 
 #include <QTemporaryDir>
 
-/// A folder for what is unpacked; it goes with this object. What a program left behind that was ended meanwhile goes
-/// when the next such folder is made.
+/// A folder for unpacked files; it is deleted with this object. Folders left behind by a program that was killed are
+/// deleted when the next such folder is made.
 class UnpackingFolder {
 public:
     /// How the folders' names begin, in the system's folder for temporary files.

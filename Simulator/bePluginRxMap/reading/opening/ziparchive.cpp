@@ -20,7 +20,7 @@ constexpr int fileHeaderSize = 30;
 constexpr int directoryEntrySize = 46;
 constexpr int endSize = 22;
 constexpr int longestComment = 0xffff;
-/// No prescription needs more; a directory may hold any number.
+/// No prescription needs more; an archive's directory may claim any number.
 constexpr int mostEntries = 10000;
 constexpr qint64 largestDirectory = qint64(16) << 20;
 
@@ -34,7 +34,7 @@ quint32 longAt(const QByteArray &bytes, int place)
     return qFromLittleEndian<quint32>(bytes.constData() + place);
 }
 
-/// Names are in UTF-8, or in the code page of the first personal computers, whatever their flag says.
+/// Names are in UTF-8 or in code page 850, whatever their flag says.
 QString decode(const QByteArray &name)
 {
     QTextCodec::ConverterState state;
@@ -66,7 +66,7 @@ bool ZipArchive::isArchive(const QString &path)
 {
     QFile file(path);
     const QFileInfo info(path);
-    // The system's own files, whose size is zero, may be read without end.
+    // The system's own files have the size zero, and reading some never ends.
     if (!info.isFile() || info.size() == 0 || !file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray begin = file.read(4);
@@ -112,7 +112,7 @@ bool ZipArchive::open()
         return fail(BackendText::tr("is one part of an archive"));
     if (count > mostEntries || size > largestDirectory)
         return fail(BackendText::tr("is an archive of more than %1 files").arg(mostEntries));
-    // Something may stand before the archive, which its own offsets do not count.
+    // Other bytes may precede the archive; its own offsets do not count them.
     const qint64 offset = begin + place - size;
     const QByteArray directory = bytesAt(offset, size);
     if (directory.size() != size)
@@ -136,7 +136,7 @@ bool ZipArchive::readDirectory(const QByteArray &directory, int count, qint64 sh
         entry.packedSize = longAt(directory, place + 20);
         entry.size = longAt(directory, place + 24);
         entry.offset = longAt(directory, place + 42) + shift;
-        // Some programs separate folders as their system does.
+        // Some programs separate folders by backslashes.
         entry.path = decode(directory.mid(name, nameSize)).replace(QLatin1Char('\\'), QLatin1Char('/'));
         if (leavesArchive(entry.path))
             return fail(BackendText::tr("the path of its entry \"%1\" leaves the archive").arg(entry.path));
@@ -181,7 +181,7 @@ bool ZipArchive::inflate(const Entry &entry, const QByteArray &packed, QByteArra
         bytes.clear();
         return true;
     }
-    // What GDAL inflates are whole gzip files (RFC 1952): the same bytes between a head, and checksum and size.
+    // GDAL inflates whole gzip files (RFC 1952): the same bytes after a head and before checksum and size.
     QByteArray whole("\x1f\x8b\x08\0\0\0\0\0\0\xff", 10);
     whole.append(packed);
     char end[8];

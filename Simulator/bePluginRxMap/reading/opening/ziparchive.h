@@ -7,14 +7,14 @@
 
 #include <vector>
 
-/// The files in a .zip archive (APPNOTE.TXT 6.3, without encryption, ZIP64 and parts). Only what is asked for is
-/// unpacked, no more than the archive's directory says it has, and archives within it stay packed.
+/// The files in a .zip archive (APPNOTE.TXT 6.3, without encryption, ZIP64 and parts). Unpacks only what is asked for,
+/// never more than the size in the archive's directory; archives within it stay packed.
 class ZipArchive {
 public:
     struct Entry {
         /// With slashes, never leading out of the archive.
         QString path;
-        /// Bytes once it is unpacked.
+        /// Size in bytes when unpacked.
         qint64 size = 0;
 
         QString name() const { return path.section(QLatin1Char('/'), -1); }
@@ -28,15 +28,15 @@ public:
         bool isEncrypted = false;
     };
 
-    /// An entry, or all that are unpacked at one time, may have so many bytes.
+    /// An entry, or all that are unpacked at one time, may have this many bytes at most.
     static constexpr qint64 mostBytes = qint64(256) << 20;
 
     explicit ZipArchive(const QString &path);
 
-    /// Whether a plain file begins as an archive does.
+    /// Whether it is a plain file that begins like an archive.
     static bool isArchive(const QString &path);
-    /// The archive that is or holds the file of that path ("fields.zip/north/rates.shp"); empty where none does. The
-    /// part behind the archive goes to `inner`.
+    /// Path of the archive that is, or holds, the file of that path ("fields.zip/north/rates.shp"); empty if there is
+    /// none. `inner` gets the part of the path after the archive.
     static QString find(const QString &path, QString &inner);
 
     /// Reads the directory. False, with the reason in error(), when the archive cannot be used.

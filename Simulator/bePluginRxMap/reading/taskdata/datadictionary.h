@@ -4,7 +4,8 @@
 
 #include <vector>
 
-/// The numbers by which task data names what a value is (data dictionary identifiers, DDI), as far as they are rates.
+/// The numbers (data dictionary identifiers, DDI) by which task data says what a value is, as far as they stand for
+/// rates.
 class DataDictionary {
 public:
     struct Entry {
@@ -12,12 +13,12 @@ public:
         const char *name;
         /// As the dictionary writes it (UTF-8): "mm³/m²", "/m²" for a count.
         const char *unit;
-        /// One step of the values that are written, in the unit.
+        /// What one step of a written value stands for, in the unit.
         double resolution;
 
-        /// Names what is wanted, not what was put out nor its limits.
+        /// Whether it is a target, rather than what was applied or a limit.
         bool isSetpoint() const { return QLatin1String(name).startsWith(QLatin1String("Setpoint")); }
-        /// The unit with what is counted.
+        /// The unit, with what is counted.
         QString rateUnit() const;
     };
 

@@ -79,7 +79,7 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
         return fail(BackendText::tr("%1: there is no file %2.BIN beside it").arg(grid.place, base));
     const qint64 wanted = grid.rows * grid.columns * bytesPerCell;
     QString error;
-    // A file too long is not read at all.
+    // A file that is too long is not read at all.
     if (folder.sizeOf(file) <= wanted && !folder.read(file, wanted, bytes, error))
         return fail(error);
     if (bytes.size() == wanted)
@@ -117,7 +117,7 @@ bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, const 
     std::array<std::vector<double>, codes> rates;
     for (const TreatmentZone &zone : task.zones) {
         const bool isByte = zone.code >= 0 && zone.code < static_cast<int>(codes);
-        // The first one of a code counts, as everywhere.
+        // The first zone with a code counts, as everywhere.
         if (isByte && rates[static_cast<size_t>(zone.code)].empty())
             rates[static_cast<size_t>(zone.code)] = columns.ratesOf(zone);
     }
@@ -163,7 +163,7 @@ void GridReader::append(const TaskGrid &grid, const std::vector<CellRectangle> &
     map.rings.resize(ring + rectangles.size());
     map.xs.resize(vertex + rectangles.size() * corners);
     map.ys.resize(vertex + rectangles.size() * corners);
-    // The same sum for neighbours, so that they share their corners.
+    // Neighbours compute the same sum, so that they share their corners.
     const auto longitude = [&grid](int column) { return grid.west + static_cast<double>(column) * grid.cellWidth; };
     const auto latitude = [&grid](int row) { return grid.south + static_cast<double>(row) * grid.cellHeight; };
     const auto put = [&map, &vertex](double x, double y) {

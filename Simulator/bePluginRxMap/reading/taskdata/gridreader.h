@@ -14,7 +14,7 @@ class TaskDataFolder;
 /// by row from the south-west.
 class GridReader {
 public:
-    /// Grids of more cells together are refused: no field has so many, and memory is bounded.
+    /// Grids with more cells together are refused: no field has so many, and memory is limited.
     static constexpr qint64 mostCells = 2000000;
 
     /// Nothing is owned; all outlive this.
@@ -30,7 +30,7 @@ private:
     bool checkSize(const TaskGrid &grid, const TreatmentZone *zone);
     bool readBytes(const TaskGrid &grid, QByteArray &bytes);
     bool join(const TaskGrid &grid, GridRectangles &joined);
-    /// The bytes of a rectangle's cells, which are the same for each.
+    /// The bytes that all cells of a rectangle hold.
     const char *bytesOf(const CellRectangle &rectangle, const TaskGrid &grid, const QByteArray &bytes) const;
     bool takeCodes(const TaskGrid &grid, const QByteArray &bytes, const std::vector<CellRectangle> &rectangles,
                    RawPrescription &map);
@@ -43,9 +43,9 @@ private:
     const TaskColumns &columns;
     const LoadControl &control;
     QString reason;
-    /// The grid's file as it is spelled.
+    /// Name of the grid's file as spelled.
     QString file;
     qint64 bytesPerCell = 0;
-    /// Of all grids so far.
+    /// Number of cells of all grids so far.
     qint64 cells = 0;
 };

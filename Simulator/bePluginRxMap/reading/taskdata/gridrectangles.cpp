@@ -9,7 +9,7 @@ namespace {
 
 /// Mean radius of the WGS 84 ellipsoid, (2a + b) / 3, metres.
 constexpr double earthRadius = 6371008.8;
-/// Metres. As much again may come from the rounding of corners to the plane's grid, together less than a millimetre.
+/// Metres. Rounding corners to the plane's grid may add as much again; together that stays within a millimetre.
 constexpr double mostDeviation = 0.0005;
 /// No part of a map lies farther east or west of its plane's origin than this, metres.
 constexpr double farthestFromOrigin = 100000.0;
@@ -19,7 +19,7 @@ double radians(double degrees)
     return degrees * std::acos(-1.0) / 180.0;
 }
 
-/// An arc of small curvature c has over a chord L the sagitta L² · c / 8.
+/// Over a chord L, an arc of small curvature c has the sagitta L² · c / 8.
 double longestChord(double curvature)
 {
     return std::sqrt(8.0 * mostDeviation / curvature);

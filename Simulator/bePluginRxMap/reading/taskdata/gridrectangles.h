@@ -23,7 +23,7 @@ struct CellRectangle {
 /// of mostColumns(), and rectangles have at most mostRows() rows.
 class GridRectangles {
 public:
-    /// `cells`: those of the grid, row by row, so many bytes each; not owned, outlives this.
+    /// `cells`: the grid's cells row by row, `bytesPerCell` bytes each; not owned, outlives this.
     GridRectangles(const TaskGrid &grid, const QByteArray &cells, int bytesPerCell);
 
     /// Takes the next row.
@@ -31,14 +31,14 @@ public:
     /// In the order of their south-west cells, row by row.
     const std::vector<CellRectangle> &rectangles() const { return found; }
 
-    /// So many cells wide, the edge between two rows bends away from its chord by less than half a millimetre.
+    /// Over this many cells, the edge between two rows bends away from its chord by less than half a millimetre.
     static int mostColumns(const TaskGrid &grid);
     /// The same for the edge between two columns, and the cells' height.
     static int mostRows(const TaskGrid &grid);
 
 private:
     const char *cell(int row, int column) const;
-    /// The place behind the cells, from `column` on, that hold the same in the row that is taken.
+    /// The place after the cells that hold the same from `column` on, in the row being taken.
     int endOfRun(int column) const;
     /// Whether the rectangle, which reaches up to the row that is taken, goes on with a run from `column` on.
     bool goesOn(const CellRectangle &rectangle, int column) const;
@@ -50,8 +50,8 @@ private:
     const int rowLimit;
     int row = 0;
     std::vector<CellRectangle> found;
-    /// Places in `found`, from west to east, of those that reach up to the row that is taken, and of those that reach
-    /// into it.
+    /// Places in `found`, from west to east, of the rectangles that reach up to the row being taken, and of those that
+    /// reach into it.
     std::vector<size_t> below;
     std::vector<size_t> reaching;
 };

@@ -28,7 +28,7 @@ bool isSetpoint(int number)
     return entry != nullptr && entry->isSetpoint();
 }
 
-/// Whether the task says anywhere what is wanted; its other values are limits, or what was put out, then.
+/// Whether the task has any targets; its other values are then limits, or what was applied.
 bool hasSetpoints(const Task &task)
 {
     return std::any_of(task.zones.begin(), task.zones.end(), [](const TreatmentZone &zone) {
@@ -37,7 +37,7 @@ bool hasSetpoints(const Task &task)
     });
 }
 
-/// Whether the unit's amount is for an area.
+/// Whether the unit is an amount per area.
 bool isPerArea(const QString &unit)
 {
     return unit.endsWith(QStringLiteral("/m²"));

@@ -11,15 +11,15 @@
 /// device element.
 class TaskColumns {
 public:
-    /// More columns are no prescription; those behind are left out.
+    /// No prescription has more columns; those beyond are left out.
     static constexpr size_t most = 1000;
-    /// Rates of all records in all columns together, so that memory is bounded.
+    /// The most rates of all records in all columns together, so that memory is limited.
     static constexpr qint64 mostRates = 20000000;
 
     TaskColumns(const Task &task, const TaskData &data);
 
-    /// Named after their products, else by what the numbers stand for, with their units and the rates for places
-    /// without a prescription; without values.
+    /// The columns, named after their products, else by what the numbers (DDI) stand for, with their units and the
+    /// rates for places without a prescription, but without values.
     std::vector<SourceColumn> &columns() { return table; }
     bool areTooMany() const { return isCutShort; }
     /// Whether so many records are too many for these columns.
@@ -37,17 +37,17 @@ private:
         double factor;
     };
 
-    /// What a value is known by; `before`: those before it in its zone.
+    /// What identifies a value; `before`: the values before it in its zone.
     static QString key(const ProcessValue &value, const QHash<QString, int> &before);
     void add(const ProcessValue &value, const TaskData &data);
-    /// The name with a number behind it where another column has it.
+    /// The name, with a number appended if another column has it.
     QString freeName(const QString &name);
     void takePlaceRates(const Task &task);
 
     std::vector<SourceColumn> table;
     std::vector<Scale> scales; ///< One per column.
     QHash<QString, size_t> places;
-    /// Names that are taken, in small letters, and how often they were wanted.
+    /// Names in use, in small letters, and how often each was wanted.
     QHash<QString, int> names;
     bool isCutShort = false;
 };

@@ -25,7 +25,7 @@ struct ProcessValue {
     QString presentation; ///< Identifier; empty for none.
 };
 
-/// A treatment zone: what is to be put out in its polygons, if it has any, and in the cells of a grid that name it.
+/// A treatment zone: what is to be applied in its polygons, if it has any, and in the cells of a grid that name it.
 struct TreatmentZone {
     int code = -1;
     std::vector<ProcessValue> values;
@@ -51,7 +51,7 @@ struct TaskGrid {
     QString place;
 };
 
-/// What is to be done on one field.
+/// The work to do on one field.
 struct Task {
     static constexpr int noZone = -1;
 
@@ -89,7 +89,7 @@ struct ValuePresentation {
     QString unit;
 };
 
-/// What task data says of prescriptions.
+/// What task data says about prescriptions.
 struct TaskData {
     std::vector<Task> tasks;
     /// By identifier.
@@ -98,6 +98,6 @@ struct TaskData {
     QHash<QString, QString> products;
     /// By identifier.
     QHash<QString, ValuePresentation> presentations;
-    /// What was taken for granted.
+    /// What was assumed.
     QStringList warnings;
 };

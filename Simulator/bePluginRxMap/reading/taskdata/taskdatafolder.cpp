@@ -55,7 +55,7 @@ bool TaskDataFolder::isMainFile(const QString &name)
 void TaskDataFolder::takeFolder(const QString &path)
 {
     prefix = path + QLatin1Char('/');
-    // A pipe would be waited on without end.
+    // Opening a pipe could wait forever.
     names = QDir(path).entryList(QDir::Files, QDir::Name);
     const auto found = std::find_if(names.cbegin(), names.cend(), isMainFile);
     main = found == names.cend() ? QString() : *found;
@@ -68,7 +68,7 @@ void TaskDataFolder::takeArchive(const QString &path)
     if (whole.isEmpty())
         return;
     archive = std::make_unique<ZipArchive>(whole);
-    // What is wrong with an archive is told by those who look for other prescriptions in it.
+    // Faults of an archive are reported by those who look for other prescriptions in it.
     const QString entry = archive->open() ? mainEntry(*archive, inner) : QString();
     main = entry.section(QLatin1Char('/'), -1);
     prefix = entry.left(entry.size() - main.size());

@@ -27,7 +27,7 @@ public:
     /// Reads a file of the folder. False, with the reason in `error`, when it cannot be read or has more than `most`
     /// bytes.
     bool read(const QString &name, qint64 most, QByteArray &bytes, QString &error) const;
-    /// Size of a file of the folder as the folder says it; negative where it cannot.
+    /// Size of a file as the folder states it; negative if it does not.
     qint64 sizeOf(const QString &name) const;
 
 private:
@@ -38,7 +38,7 @@ private:
     bool readFile(const QString &name, QByteArray &bytes, QString &error) const;
     bool unpack(const QString &name, QByteArray &bytes, QString &error) const;
 
-    /// In front of names: a folder, or one within the archive.
+    /// Goes before names: a folder, or a folder within the archive.
     QString prefix;
     /// Null for a folder.
     std::unique_ptr<ZipArchive> archive;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Of all XML together. Large farms' files have a few millions.
+/// The most bytes of all XML together. Large farms' files have a few millions.
 constexpr qint64 mostBytes = 100 << 20;
 constexpr int mostFiles = 1000;
 constexpr qint64 lowest = std::numeric_limits<qint32>::min();
@@ -65,7 +65,7 @@ bool TaskDataParser::parseFile(const QString &name)
     bytesLeft -= bytes.size();
     files.insert(name);
     QXmlStreamReader reader(bytes);
-    // Files refer to others from within.
+    // A file may refer to others in the middle of its content.
     QXmlStreamReader *const outer = std::exchange(xml, &reader);
     const QString outerFile = std::exchange(file, name);
     bool isFine = true;

@@ -8,8 +8,8 @@
 
 class TaskDataFolder;
 
-/// Reads TASKDATA.XML and the files that it refers to (XFR). Tasks and fields with parts that cannot be read are kept,
-/// with the problem: others beside them may be fine.
+/// Reads TASKDATA.XML and the files that it refers to (XFR). Tasks and fields with unreadable parts are kept, together
+/// with the problem: others may be fine.
 class TaskDataParser {
 public:
     /// `folder` is not owned and outlives this.
@@ -38,8 +38,8 @@ private:
     void readPresentation();
 
     QString text(const char *attribute) const;
-    /// Of the element at hand. Not a number, with `problem` set unless it is already, where the attribute is no number
-    /// from `least` to `most`.
+    /// An attribute of the present element. NaN, with `problem` set unless it is set already, when the attribute is not
+    /// a number from `least` to `most`.
     double number(const char *attribute, double least, double most, QString &problem) const;
     /// The same for whole numbers; `otherwise` where the attribute is missing.
     qint64 whole(const char *attribute, qint64 least, qint64 most, qint64 otherwise, QString &problem) const;
@@ -51,7 +51,7 @@ private:
     /// Names of the files that are or were read.
     QSet<QString> files;
     qint64 bytesLeft;
-    /// Of the file at hand.
+    /// Reader of the present file.
     QXmlStreamReader *xml = nullptr;
     QString file;
 };

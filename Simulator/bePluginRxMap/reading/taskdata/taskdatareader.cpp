@@ -22,7 +22,7 @@ std::unique_ptr<OGRLinearRing> closedRing(const TaskRing &ring)
     return result;
 }
 
-/// Whether most of the hole's vertices lie within the outer ring: some may lie on it.
+/// Whether most of the hole's vertices lie within the outer ring; some may lie on it.
 bool holds(const OGRLinearRing &outer, const OGRLinearRing &hole)
 {
     int inside = 0;
@@ -31,7 +31,7 @@ bool holds(const OGRLinearRing &outer, const OGRLinearRing &hole)
     return 2 * inside > hole.getNumPoints();
 }
 
-/// Adds the polygon of one element, which may have several outer rings, each followed or not by its holes.
+/// Adds the polygon of one element, which may have several outer rings; the holes need not follow their own.
 void addPolygon(const std::vector<TaskRing> &rings, OGRMultiPolygon &shape)
 {
     std::vector<std::unique_ptr<OGRPolygon>> polygons;

@@ -16,14 +16,14 @@ class TaskColumns;
 /// grids of either type as cells. Blocks; use in the loading thread.
 class TaskDataReader {
 public:
-    /// The request's task: designator or identifier; empty for the first that holds a prescription.
+    /// The request names its task by designator or identifier; empty for the first task that holds a prescription.
     TaskDataReader(const ReadRequest &request, const LoadControl &control);
 
     /// Whether the path is a folder or an archive that holds task data, or an XML file.
     bool isTaskData() const { return !folder.mainFile().isEmpty(); }
     /// False when it cannot be used; the reason, with file and line, is then in error().
     bool read(RawPrescription &map);
-    /// Names of all columns of the task. False like read().
+    /// Reads the names of all columns of the task. False as in read().
     bool readColumnNames(QStringList &names);
     const QString &error() const { return reason; }
 
