@@ -20,7 +20,7 @@ DataBrokerGroup *mapOf(const Host &host, int number)
     return maps.isEmpty() ? nullptr : maps.at(number % maps.size());
 }
 
-/// Mostly one that there is.
+/// Mostly the name of one that exists.
 QString aamName(int number)
 {
     const QStringList others{"QmlUnitsConverter", "nothing", "", "system.current.job"};
@@ -156,10 +156,10 @@ Step drawn(std::mt19937 &random, bool inDialog)
     return {QString::fromLatin1(action->name), a, number()};
 }
 
-/// By which the plug-in reads or writes much, and may walk into a trap.
+/// Actions by which the plug-in reads or writes much, and may walk into a trap.
 const char *const walkIns[] = {"activate", "touch-map", "make-list", "fill-map", "long-touch", "wait"};
 
-/// Products, one to three maps, an options button.
+/// How a day begins: products, one to three maps, an options button.
 Sequence morning(std::mt19937 &random)
 {
     const auto number = [&random] { return static_cast<int>(random() % 1000000U); };

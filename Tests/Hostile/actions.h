@@ -4,7 +4,7 @@
 
 class HostileHost;
 
-/// A thing that a host, or its operator, does.
+/// Something that a host, or its operator, does.
 struct Action {
     const char *name;
     int weight;      ///< How often it is drawn, relative to the others.
@@ -13,12 +13,12 @@ struct Action {
     void (*run)(HostileHost &host, int a, int b);
 };
 
-/// Null for a name that is none.
+/// Null for an unknown name.
 const Action *findAction(const QString &name);
 /// Action `number`, counted in a circle, among those that may intrude.
 const Action &intruder(int number);
 
 /// A working day of `length` steps.
 Sequence hostileSequence(unsigned int seed, int length);
-/// One settings dialog over some maps, with `length` touches of an operator, and its end.
+/// A settings dialog over some maps, with `length` touches of an operator, until it is closed.
 Sequence dialogSequence(unsigned int seed, int length);

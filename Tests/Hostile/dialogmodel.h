@@ -14,17 +14,17 @@ class ProductLineItem;
 class QWidget;
 class RxMapLoader;
 
-/// What the host keeps of what the dialog may write.
+/// What the host keeps of the values that the dialog may write.
 struct Stored {
     struct Group {
         QPointer<DbGroupRxMap> group;
         Settings settings;
         Mappings mappings;
-        bool isProtected = false; ///< Refuses every write that shows no token.
+        bool isProtected = false; ///< Every write without a token is refused.
     };
     std::map<const DataBrokerGroup *, Group> groups;
     int reInitialisations = 0;
-    std::map<const RxMapLoader *, double> rates; ///< Default rates in use.
+    std::map<const RxMapLoader *, double> rates; ///< The default rates in use.
     int ratesTaken = 0;                          ///< How often one came into use.
 };
 
@@ -44,14 +44,14 @@ public:
     /// Half a second went by.
     void polled();
 
-    /// Line by line; the same for a dialog that is there.
+    /// What the operator sees, line by line; seenIn() gives the same for a real dialog.
     QStringList seen() const;
     static QStringList seenIn(const QWidget &dialog);
 
 private:
     void setMaster(int product);
     QString caption();
-    /// Takes the two factors and gives the unit's text.
+    /// Takes over the two factors and returns the unit's text.
     QString areaUnit(int kind, double display, double base);
     bool lacksUnits(const ProductLineItem &product) const;
     int mapping() const;

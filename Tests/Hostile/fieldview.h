@@ -9,7 +9,7 @@
 
 class UiGraphicsList;
 
-/// A field of 16 × 16 m seen from above, one pixel a square metre.
+/// A field of 16 × 16 m seen from above, one pixel per square metre.
 constexpr int fieldSize = 16;
 /// Colours of the field, row by row from the south; red in the lowest byte, then green, blue, alpha.
 using FieldPicture = std::array<quint32, fieldSize * fieldSize>;

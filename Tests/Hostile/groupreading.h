@@ -10,7 +10,7 @@ using Mappings = QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>;
 using Settings = QList<OrvikTypes::RX_SETTINGS>;
 using Legends = QList<QList<OrvikTypes::RX_RATECOLOR>>;
 
-/// What the group says, or `T()` where it is gone or says something else.
+/// The group's property, or `T()` if the group is gone or the property has another type.
 template <typename T> T valueOf(const DataBrokerGroup *group, const char *property)
 {
     QVariant value;

@@ -106,7 +106,7 @@ QString HostileHost::run(const Sequence &sequence)
     return difference;
 }
 
-// On the way out of a dialog the rest is done outside.
+// When a dialog is being left, the remaining steps are done outside of it.
 void HostileHost::runSteps()
 {
     const std::size_t depth = dialogs.size();
@@ -148,7 +148,7 @@ void HostileHost::settle()
     stored.reInitialisations = reInitialisations;
 }
 
-// Dialogs look at the vehicle every half second. Here the time passes when a step says so.
+// Dialogs look at the vehicle every half second. Here time passes only when a step says so.
 bool HostileHost::eventFilter(QObject *watched, QEvent *event)
 {
     return event->type() == QEvent::Timer && !dialogs.empty() && watched->inherits("QSingleShotTimer");
@@ -241,7 +241,7 @@ void HostileHost::longTouch(int number)
         const Quiet quiet(*this);
         model = std::make_shared<DialogModel>(broker, stored);
     }
-    // Goes with this call when no dialog opens.
+    // Deleted with this call when no dialog opens.
     QTimer opened;
     opened.setSingleShot(true);
     connect(&opened, &QTimer::timeout, this, [this, model] {
@@ -261,7 +261,7 @@ void HostileHost::longTouch(int number)
     auto *button = const_cast<OrvikButtonQgw *>(buttonOf(*touched.widget));
     Q_EMIT button->longTouch(button->id());
     dialogs.erase(dialogs.begin() + static_cast<std::ptrdiff_t>(depth), dialogs.end());
-    // The one below went on looking at the vehicle.
+    // The dialog below went on looking at the vehicle.
     poll();
 }
 

@@ -21,8 +21,8 @@
 
 class OrvikButtonQgw;
 
-/// A host that does to the plug-in whatever a host may do, at any moment, and compares after each step what is to be
-/// seen of it with what is.
+/// A host that does to the plug-in whatever a host may do, at any moment, and after each step compares what is seen of
+/// it with what should be.
 class HostileHost : public QObject {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ public:
     HostileHost(PluginLibrary &library, FieldView &view);
     ~HostileHost() override;
 
-    /// What differs after the first step that goes wrong, with that step; empty when all is as it should be.
+    /// The first step that goes wrong, and what differs after it; empty when all is as it should be.
     QString run(const Sequence &sequence);
     /// How many lines were compared.
     int checks() const { return checkCount; }
@@ -66,7 +66,7 @@ public:
     void touchMap(int seed);
     void setTrap(int seed, int action);
     void spring(int action);
-    /// A long touch of a widget: what follows in the sequence is done inside the dialog, until that is left.
+    /// A long touch of a widget: the following steps are done inside the dialog, until it is left.
     void longTouch(int number);
     void touch(const char *control, int number);
     void type(const char *control, int seed);
@@ -118,7 +118,7 @@ private:
     int reInitialisations = 0;
     int ratesTaken = 0;
     std::map<const DataBrokerGroup *, std::unique_ptr<HandMadeChain>> chains;
-    std::vector<std::unique_ptr<HandMadeChain>> formerChains; ///< That something may still point to.
+    std::vector<std::unique_ptr<HandMadeChain>> formerChains; ///< Something may still point to these.
     QList<const DataBrokerGroup *> invalidMaps;
     std::deque<RxMapLoader> loaders;
     QTranslator translator;

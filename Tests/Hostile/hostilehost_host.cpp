@@ -143,7 +143,7 @@ void HostileHost::fill(DataBrokerGroup &group, int seed)
     const unsigned int count = chain->count() + (random() % 8 == 0 ? 2 : 0);
     std::unique_ptr<HandMadeChain> &place = chains[map];
     place.swap(chain);
-    // Where a hook filled the map meanwhile, its count may still stand.
+    // If a hook filled the map meanwhile, its count may still be in force.
     if (springs > 0 && chain)
         formerChains.push_back(std::move(chain));
     write(map, "rateColors", QVariant::fromValue(randomLegends(mappings, random)));
@@ -157,7 +157,7 @@ void HostileHost::removeMap(DataBrokerGroup &group, bool deletes)
     setCount(map, 0);
     if (map)
         remove(map->name());
-    // Not where a call of the group's own may be on its way.
+    // Not while one of the group's own calls may be in progress.
     if (map && deletes && springs == 0)
         delete map;
 }

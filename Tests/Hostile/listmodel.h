@@ -17,8 +17,8 @@ class DbGroupAAM;
 
 class DbGroupProductGroupInfo;
 
-/// What is to be seen of a graphics list: told of everything that it hears of, it says what is drawn and answered.
-/// It reads what groups publish; the host lets no hook act meanwhile.
+/// What should be seen of a graphics list: told of everything that the list hears of, it says what is drawn and
+/// answered. It reads what groups publish; the host lets no hook act meanwhile.
 class ListModel {
 public:
     /// A list was made.
@@ -29,8 +29,7 @@ public:
     void activeAamSet(const DataBroker &broker, const QString &name);
     void polygonCountSet(const DataBrokerGroup *group);
     void contextLost() { isInitialized = false; }
-    /// The host acted in the middle of something, whose outcome is the list's affair until it is told anew what to
-    /// show.
+    /// The host acted in the middle of something: the outcome is up to the list until it is told again what to show.
     void forget();
 
     /// The job that the list follows, while it is there.
@@ -57,6 +56,6 @@ private:
     bool textKnown = true;
     bool pictureKnown = true;
     bool colorKnown = true;
-    quint32 color = 0x80000000U; ///< Of the polygon drawn last; survives polygons and rebuilds.
+    quint32 color = 0x80000000U; ///< Colour of the polygon drawn last; survives polygons and rebuilds.
     FieldPicture drawn{};
 };

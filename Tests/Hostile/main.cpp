@@ -1,5 +1,5 @@
-// Does to the plug-in, in random order, whatever a host may do, and compares what is to be seen. A sequence that fails,
-// or that ends the program, is shortened and printed; the text is what --replay reads.
+// Does to the plug-in, in random order, whatever a host may do, and compares what is seen with what should be. A
+// sequence that fails, or that ends the program, is shortened and printed in the form that --replay reads.
 //   rxmap-hostile [--dialogs] [--seed N] [--count N] [--steps N]
 //   rxmap-hostile --replay FILE
 
@@ -29,7 +29,7 @@ struct Task {
     }
 };
 
-/// A folder's worth of debug lines and refusals is part of the day.
+/// Many debug lines and refusals are part of the day.
 void ignore(QtMsgType type, const QMessageLogContext & /*context*/, const QString &text)
 {
     if (type == QtFatalMsg)
@@ -49,7 +49,7 @@ bool replay(const QString &file)
     return difference.isEmpty();
 }
 
-/// Announces each sequence before it is done, so that whoever started this process knows which one ended it.
+/// Announces each sequence before it runs, so that the parent process knows which one ended this one.
 bool work(const Task &task)
 {
     PluginLibrary library;

@@ -10,7 +10,7 @@
 #include <dlfcn.h>
 #include <link.h>
 
-// Libraries stay loaded, so that the leak check can name what the OpenGL driver keeps; the plug-in alone goes.
+// Libraries stay loaded, so that the leak check can name what the OpenGL driver keeps; only the plug-in is unloaded.
 extern "C" Q_DECL_EXPORT int dlclose(void *handle)
 {
     const link_map *library = nullptr;
@@ -23,7 +23,7 @@ extern "C" Q_DECL_EXPORT int dlclose(void *handle)
 
 PluginLibrary::PluginLibrary()
 {
-    // Without it Qt keeps libraries for good.
+    // With its default hints Qt never unloads libraries.
     loader.setLoadHints({});
 }
 

@@ -10,12 +10,12 @@ class UiPluginInterface;
 class PluginLibrary {
 public:
     PluginLibrary();
-    /// The plug-in, made, and introduced to `broker`, where there is none. Ends the program where the library does not
-    /// load.
+    /// The plug-in; if there is none, it is made and initialised with `broker`. Ends the program if the library does
+    /// not load.
     UiPluginInterface &plugin(DataBroker &broker);
-    /// The library stays.
+    /// Deletes the plug-in; the library stays loaded.
     void deletePlugin();
-    /// Whether no part of the library is left in memory. Nothing that the plug-in made may live.
+    /// Unloads the library; true if no part of it is left in memory. Nothing that the plug-in made may still exist.
     bool unload();
 
 private:

@@ -16,8 +16,8 @@ using Sequence = QVector<Step>;
 
 /// One step a line: the action's name and its numbers.
 QString toText(const Sequence &steps);
-/// The reverse; what is no step is left out, so that a printed report can be read as it is.
+/// The reverse; lines that are not steps are left out, so that a printed report can be read as it is.
 Sequence fromText(const QString &text);
-/// A part of `steps` that still fails and from which no single step can be left out: delta debugging by its algorithm
-/// ddmin (Zeller and Hildebrandt 2002). `steps` fail.
+/// A part of `steps` that still fails and from which no single step can be left out, found by delta debugging (ddmin,
+/// Zeller and Hildebrandt 2002). `steps` must fail.
 Sequence shortest(Sequence steps, const std::function<bool(const Sequence &)> &fails);

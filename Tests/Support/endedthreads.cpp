@@ -1,5 +1,5 @@
-// Lets threads that have ended be gone before the leak check at the end of a program, which breaks off over one that
-// goes while it looks, and takes for lost what one still holds.
+// Waits until ended threads are gone before the leak check at the end of a program: the check fails over a thread that
+// goes while it looks, and reports what such a thread still holds as lost.
 
 #include <cstdlib>
 #include <dirent.h>
@@ -31,7 +31,7 @@ void waitForEndedThreads()
         usleep(roundUs);
 }
 
-/// Entered before the program's own, so that it is called after those, and before the leak check.
+/// Registered before the program's own exit handlers, so that it is called after those and before the leak check.
 __attribute__((constructor(101))) void enterWait()
 {
     std::atexit(waitForEndedThreads);

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-/// Has an engine of the test's own note what a widget paints, as on a display of so many `pixels` at 96 dots per inch.
+/// Lets a test's own paint engine note what a widget paints, as on a display of `pixels` at 96 dots per inch.
 template <class Engine> class EngineDevice : public QPaintDevice {
 public:
     template <class... Arguments>

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// Writes a file, in place of one that is there. Its path; empty when that cannot be done.
+/// Writes a file, replacing an existing one. Returns its path; empty on failure.
 QString writeFile(const QString &path, const QByteArray &content);
-/// All that a file holds; empty when it cannot be read.
+/// The whole content of a file; empty when it cannot be read.
 QByteArray readFile(const QString &path);

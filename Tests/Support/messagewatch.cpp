@@ -19,7 +19,7 @@ Collected &collected()
     return instance;
 }
 
-/// What the display server complains of is not the program's doing: without a window manager it refuses focus.
+/// Complaints of the display server are not the program's fault: without a window manager it refuses focus.
 bool isFromDisplay(const QMessageLogContext &context)
 {
     return qstrcmp(context.category, "qt.qpa.xcb") == 0;

@@ -1,4 +1,4 @@
-// The only source that knows where the project stands, so that moving it recompiles no other test.
+// The only source that knows where the project lies, so that moving it recompiles no other test.
 
 #include "paths.h"
 

@@ -16,7 +16,7 @@ void AnnotateIgnoreWritesEnd(const char *file, int line);
 
 namespace {
 
-/// Carries the call that is queued; its own address is what both threads name.
+/// Carries the queued call; both threads use its address to name it.
 class OrderedCall : public QtPrivate::QSlotObjectBase {
 public:
     explicit OrderedCall(QtPrivate::QSlotObjectBase *queued)
@@ -45,7 +45,8 @@ private:
     QSlotObjectBase *queued;
 };
 
-/// While a call is put into another thread's list of events the sanitizer looks away: Qt locks the list unseen.
+/// The sanitizer looks away while a call is put into another thread's list of events, since it does not see Qt lock the
+/// list.
 class UnseenPosting {
 public:
     explicit UnseenPosting(const QObject &receiver)

@@ -5,14 +5,14 @@
 
 #include <cstdio>
 
-/// Keeps what the process writes to standard output or standard error while it lives from going there.
+/// While it lives, catches what the process writes to standard output or standard error.
 class StreamCapture {
 public:
     /// `stream`: stdout or stderr.
     explicit StreamCapture(std::FILE *stream);
     ~StreamCapture();
 
-    /// What has left the process so far; what the stream still holds back is not in it.
+    /// What the process has written out so far, without what the stream still buffers.
     QString written() const;
 
 private:

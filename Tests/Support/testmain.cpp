@@ -25,7 +25,7 @@ QMap<QString, Entry> &entries()
     return all;
 }
 
-/// Texts are as wide in a test as on the terminal, and colours the same, whatever the desktop.
+/// Makes texts as wide in a test as on the terminal, and colours the same, whatever the desktop.
 QCoreApplication *makeGuiApplication(int &argc, char *argv[])
 {
     OwnLooks::fixResolution();
@@ -67,10 +67,10 @@ int main(int argc, char *argv[])
     argv[1] = argv[0];
     --argc;
     ++argv;
-    // What the terminal remembers is the operator's, not the tests'.
+    // Tests must not touch what the terminal remembers of its operator.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
-    // Numbers are written as on a terminal in its own language, whatever the computer's.
+    // Numbers are written as on an English terminal, whatever the computer's language.
     QLocale::setDefault(QLocale::English);
     const QScopedPointer<QCoreApplication> application(makeApplication(entry->application, argc, argv));
     const QScopedPointer<QObject> test(entry->make());

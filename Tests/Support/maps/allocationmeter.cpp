@@ -1,5 +1,5 @@
-// Without sanitizers the process's malloc family stands here and passes on to the C library's own, under the names that
-// glibc gives it; with them the address sanitizer tells of every block.
+// Without sanitizers the malloc family defined here stands in front of the C library's own, which it calls by glibc's
+// names for it; with them, the address sanitizer reports every block.
 
 #include "allocationmeter.h"
 
@@ -98,7 +98,7 @@ void __libc_free(void *block);
 
 namespace {
 
-// Nothing but a test of a flag while nobody meters: other benchmarks run through here too.
+// Only tests a flag while nobody meters: other benchmarks run through here, too.
 void *metered(void *block)
 {
     if (isMetering)
@@ -108,7 +108,7 @@ void *metered(void *block)
 
 } // namespace
 
-// Every library is to find them, whatever the compiler takes the C library's headers to say.
+// Every library must find these functions, whatever visibility the C library's headers give them.
 #pragma GCC visibility push(default)
 extern "C" {
 
@@ -127,7 +127,7 @@ void *realloc(void *block, size_t size)
     const std::size_t before = isMetering ? malloc_usable_size(block) : 0;
     void *moved = __libc_realloc(block, size);
     const bool isGiven = isMetering && (moved != nullptr || size == 0);
-    // A block that moves stands twice for a while.
+    // A block that moves exists twice for a while.
     if (isGiven && moved == block)
         given(before);
     metered(moved);

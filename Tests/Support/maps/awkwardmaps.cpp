@@ -30,7 +30,7 @@ BenchmarkMap combMap(int teeth)
     return map;
 }
 
-/// A strip 100 times as wide as it is high, its upper and lower side of low notches.
+/// A strip 100 times as wide as it is high, with low notches along its upper and lower side.
 BenchmarkMap stripMap(int holes)
 {
     BenchmarkMap map("strip");
@@ -48,7 +48,7 @@ BenchmarkMap stripMap(int holes)
     return map;
 }
 
-/// A ring of spikes around the middle, each of its 200 vertices at another distance.
+/// A spiky ring around the middle: each of its 200 vertices lies at another distance.
 BenchmarkMap::Ring spikyRing(double x, double y, double radius, std::mt19937 &random)
 {
     BenchmarkMap::Ring ring;

@@ -25,7 +25,7 @@ void (*vertexCallback)(void *) = nullptr;
 /// The library's own function behind the one of the same name here.
 template <typename Function> Function real(Function /*type*/, const char *name)
 {
-    // By its name: with every function that is called here, the linker sees no need for the library.
+    // By its name: since every function called is defined here, the linker does not link the library.
     static void *const library = dlopen("libGLU.so.1", RTLD_NOW);
     return reinterpret_cast<Function>(dlsym(library, name));
 }

@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
-/// While one of these lives, GLU's tessellator does no work: a polygon is answered with as many triangles as its
-/// contours have when they do not cross, of any of its vertices. What a rebuild then takes is the plug-in's own share.
-/// Memory for the tessellator itself is GLU's, and is never metered.
+/// While one of these lives, GLU's tessellator does no work: each polygon gets as many triangles as its contours have
+/// when they do not cross, made of any of its vertices. What a rebuild then takes is the plug-in's own share. Memory
+/// for the tessellator itself is GLU's, and is never metered.
 class GluStub {
 public:
     GluStub();
@@ -12,7 +12,7 @@ public:
     GluStub(const GluStub &) = delete;
     GluStub &operator=(const GluStub &) = delete;
 
-    /// What it was asked since it was made.
+    /// Number of polygons since this was made.
     std::size_t polygons() const;
     std::size_t contours() const;
     std::size_t vertices() const;

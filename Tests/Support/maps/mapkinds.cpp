@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Side of a square map with about so many rings, where one ring takes `samples` samples.
+/// Side of a square map with about `rings` rings, where one ring takes `samples` samples.
 int sideFor(int rings, double samples)
 {
     return static_cast<int>(std::lround(std::sqrt(rings * samples)));

@@ -113,8 +113,8 @@ Raster zonesOf(const Raster &classes, std::vector<std::pair<int, int>> &firstCel
     return zones;
 }
 
-/// Walks along the border of a zone, zone to the left, from one edge until it comes back to it. Corners are cut at the
-/// middle of the cells' edges, so that rings that meet at a corner do not touch.
+/// Walks along the border of a zone, with the zone to its left, from one edge until it comes back to it. Corners are
+/// cut at the middle of the cells' edges, so that rings that meet at a corner do not touch.
 class BorderWalk {
 public:
     BorderWalk(const Raster &givenZones, std::vector<bool> &givenWalked)

@@ -13,8 +13,8 @@ struct ZoneKind {
     unsigned int seed;
 };
 
-/// Zones of equal class in a field of noise. The rings of one class follow each other, as they do where a file holds
-/// one record for each rate.
+/// Zones of equal class in a field of noise. The rings of one class follow each other, as in a file with one record for
+/// each rate.
 BenchmarkMap zoneMap(const std::string &name, const ZoneKind &kind);
 /// One ring of `vertices` vertices around `holes` holes.
 BenchmarkMap ringMap(const std::string &name, int vertices, int holes);

@@ -2,7 +2,7 @@
 
 #include "rxmap3d.h"
 
-/// Lets tests see what the drawable keeps to itself.
+/// Lets tests see the drawable's private state.
 class RxMap3DProbe {
 public:
     static const QList<VertexBank> &banks(const RxMap3D &map) { return map.vertexBanks; }
