@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 

@@ -85,7 +85,7 @@ void RateRow::drawCell(QPainter &painter, const QRect &row, Column column, const
     while (fitting.pixelSize() > leastPixels && !fits(text, fitting, area.width()))
         fitting.setPixelSize(fitting.pixelSize() - 1);
     painter.setFont(fitting);
-    painter.drawText(area, (isFigure(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
+    painter.drawText(area, Qt::AlignVCenter | int(isFigure(column) ? Qt::AlignRight : Qt::AlignLeft),
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
 }
 
