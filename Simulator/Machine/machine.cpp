@@ -311,6 +311,17 @@ QMap<int, QString> Machine::columnsOf(const QString &group) const
     return columns;
 }
 
+std::optional<QPointF> Machine::planeOrigin() const
+{
+    const QList<LoadReport> maps = prescriptions->maps();
+    if (maps.isEmpty())
+        return {};
+    const QString fed = ActiveMap::find(*broker, productGroupName(active)).groupName;
+    const auto shown =
+        std::find_if(maps.begin(), maps.end(), [&fed](const LoadReport &map) { return map.group == fed; });
+    return shown != maps.end() ? shown->origin : maps.last().origin;
+}
+
 bool Machine::setActiveProduct(int number)
 {
     if (number < 1 || number > allProducts.size())

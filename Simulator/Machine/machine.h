@@ -7,10 +7,12 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QPointF>
 #include <QString>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 class DataBroker;
 class DbGroupBin;
@@ -60,6 +62,10 @@ public:
 
     /// The columns of a map that feed products now, by product number.
     QMap<int, QString> columnsOf(const QString &group) const;
+
+    /// Where the plane that counts touches the earth, degrees of longitude and latitude: that of the map that feeds the
+    /// active product, or of the newest map where none does; nothing when no map is loaded.
+    std::optional<QPointF> planeOrigin() const;
 
     int activeProduct() const { return active; }
     /// False, and nothing changes, when there is no such product.

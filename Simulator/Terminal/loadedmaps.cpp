@@ -4,8 +4,6 @@
 #include "fieldplane.h"
 #include "machine.h"
 
-#include <algorithm>
-
 namespace {
 
 const QString noMap = QStringLiteral("no map is loaded that says where the field is");
@@ -40,20 +38,9 @@ LoadReport LoadedMaps::reportOf(const ActiveMap &map) const
     return {};
 }
 
-std::optional<QPointF> LoadedMaps::planeOrigin() const
-{
-    const QList<LoadReport> maps = backend.maps();
-    if (maps.isEmpty())
-        return {};
-    const QString fed = active().groupName;
-    const auto shown =
-        std::find_if(maps.begin(), maps.end(), [&fed](const LoadReport &map) { return map.group == fed; });
-    return shown != maps.end() ? shown->origin : maps.last().origin;
-}
-
 std::optional<QRectF> LoadedMaps::bounds() const
 {
-    const std::optional<QPointF> origin = planeOrigin();
+    const std::optional<QPointF> origin = machine.planeOrigin();
     if (!origin)
         return {};
     QRectF all;
@@ -67,7 +54,7 @@ std::optional<QRectF> LoadedMaps::bounds() const
 
 QRectF LoadedMaps::boundsInUse() const
 {
-    const std::optional<QPointF> origin = planeOrigin();
+    const std::optional<QPointF> origin = machine.planeOrigin();
     QRectF used;
     const QList<LoadReport> maps = backend.maps();
     for (const LoadReport &map : maps) {
@@ -79,7 +66,7 @@ QRectF LoadedMaps::boundsInUse() const
 
 Result<QPointF> LoadedMaps::toField(const QPointF &degrees) const
 {
-    const std::optional<QPointF> origin = planeOrigin();
+    const std::optional<QPointF> origin = machine.planeOrigin();
     if (!origin)
         return Result<QPointF>::failure(noMap);
     if (!FieldPlane::areDegrees(degrees))
@@ -90,7 +77,7 @@ Result<QPointF> LoadedMaps::toField(const QPointF &degrees) const
 
 Result<QPointF> LoadedMaps::toEarth(const QPointF &field) const
 {
-    const std::optional<QPointF> origin = planeOrigin();
+    const std::optional<QPointF> origin = machine.planeOrigin();
     if (!origin)
         return Result<QPointF>::failure(noMap);
     const std::optional<QPointF> degrees = FieldPlane(*origin).toEarth(field);

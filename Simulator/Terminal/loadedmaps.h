@@ -24,11 +24,8 @@ public:
     /// The report of the map's load; an empty one where there is no map.
     LoadReport reportOf(const ActiveMap &map) const;
 
-    /// Where the plane of the maps in bounds() touches the earth, degrees of longitude and latitude; nothing when no
-    /// map is loaded.
-    std::optional<QPointF> planeOrigin() const;
     /// Extent of what is loaded, metres (top = least y); nothing when no map is. When maps are too far apart for one
-    /// plane, those on the plane of the active product's map count, or of the newest map if none feeds that product.
+    /// plane, those on the machine's plane count (Machine::planeOrigin).
     std::optional<QRectF> bounds() const;
     /// Converts degrees of longitude and latitude to metres of that plane, and back; the reason when that is not
     /// possible.

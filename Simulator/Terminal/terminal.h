@@ -94,7 +94,6 @@ public:
     // As of LoadedMaps.
 
     std::optional<QRectF> bounds() const { return loadedMaps.bounds(); }
-    std::optional<QPointF> planeOrigin() const { return loadedMaps.planeOrigin(); }
     Result<QPointF> toField(const QPointF &degrees) const { return loadedMaps.toField(degrees); }
     Result<QPointF> toEarth(const QPointF &field) const { return loadedMaps.toEarth(field); }
 

@@ -1,7 +1,6 @@
 #include "fielddrive.h"
 
 #include "Backend/prescriptionbackend.h"
-#include "activemap.h"
 #include "machine.h"
 #include "simulation.h"
 #include "vehicle.h"
@@ -70,18 +69,14 @@ SwathOptions FieldDrive::usualOptions(const Simulation &simulation)
 FieldArea FieldDrive::field(const Simulation &simulation)
 {
     const Machine &machine = *simulation.machine();
-    const QList<LoadReport> maps = machine.backend()->maps();
-    if (maps.isEmpty())
+    const std::optional<QPointF> origin = machine.planeOrigin();
+    if (!origin)
         return FieldArea(std::vector<QPolygonF>());
-    const QString active =
-        ActiveMap::find(*machine.dataBroker(), Machine::productGroupName(machine.activeProduct())).groupName;
-    const auto shown =
-        std::find_if(maps.begin(), maps.end(), [&active](const LoadReport &map) { return map.group == active; });
-    const QPointF origin = shown != maps.end() ? shown->origin : maps.last().origin;
     std::vector<QPolygonF> rings;
+    const QList<LoadReport> maps = machine.backend()->maps();
     for (const LoadReport &map : maps) {
         const DbGroupRxMap *group = mapGroup(machine, map.group);
-        if (group == nullptr || map.origin != origin)
+        if (group == nullptr || map.origin != *origin)
             continue;
         const FieldArea area = FieldArea::ofMap(*group);
         rings.insert(rings.end(), area.rings().begin(), area.rings().end());

@@ -1,12 +1,12 @@
 #include "headlessdrive.h"
 
-#include "Backend/prescriptionbackend.h"
 #include "commandline.h"
 #include "consoleline.h"
 #include "drivenfield.h"
 #include "drivereport.h"
 #include "fielddrive.h"
 #include "fieldraster.h"
+#include "machine.h"
 #include "recorder.h"
 #include "reportpage.h"
 #include "simulation.h"
@@ -118,7 +118,7 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
         raster = std::make_unique<FieldRaster>(simulation, drive.workedBounds());
     Recorder recorder(simulation);
     if (!line.record.isEmpty()) {
-        const QString error = recorder.start(line.record, terminal.backend()->maps().last().origin);
+        const QString error = recorder.start(line.record, *terminal.machine()->planeOrigin());
         if (!error.isEmpty())
             return error;
     }

@@ -45,7 +45,7 @@ QStringList describePoint(Terminal &terminal, const QPointF &field, const QStrin
 {
     Machine *machine = terminal.machine();
     const int active = machine->activeProduct();
-    const std::optional<QPointF> shown = terminal.planeOrigin();
+    const std::optional<QPointF> shown = terminal.machine()->planeOrigin();
     QStringList lines;
     for (int number = 1; number <= machine->products().size(); ++number) {
         // A plug-in answers for the active product.

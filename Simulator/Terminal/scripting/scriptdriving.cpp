@@ -135,7 +135,7 @@ QJSValue ScriptDriving::replay(const QString &path)
         return {};
     }
     const auto summary = onGui([&] {
-        const std::optional<QPointF> origin = terminal->planeOrigin();
+        const std::optional<QPointF> origin = terminal->machine()->planeOrigin();
         const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
         const auto checked = TrackReader::check(path, plane);
         if (checked.isOk())
@@ -181,7 +181,8 @@ void ScriptDriving::record(const QString &path)
 {
     const QString error = onGui([&] {
         Recorder *recorder = terminal->recorder();
-        return path.isEmpty() ? recorder->stop() : recorder->start(path, terminal->planeOrigin().value_or(QPointF()));
+        const std::optional<QPointF> origin = terminal->machine()->planeOrigin();
+        return path.isEmpty() ? recorder->stop() : recorder->start(path, origin.value_or(QPointF()));
     });
     if (!error.isEmpty())
         fail(error);
