@@ -4,6 +4,8 @@
 #include "simulation.h"
 #include "vehicle.h"
 
+#include <QFileInfo>
+
 Recorder::Recorder(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
     , simulation(givenSimulation)
@@ -13,10 +15,16 @@ Recorder::Recorder(Simulation *givenSimulation, QObject *parent)
 
 QString Recorder::start(const QString &path, const QPointF &origin)
 {
+    // What it holds back must not be written into the file that takes its place.
+    const bool isSameFile = writer != nullptr && QFileInfo(writer->file()) == QFileInfo(path);
+    QString lost = isSameFile ? stop() : QString();
     const auto opened = RecordWriter::open(path, simulation->machine()->products().size(), origin);
-    if (opened.isOk())
-        writer = opened.value;
-    return opened.error;
+    if (!opened.isOk())
+        return opened.error;
+    if (!isSameFile)
+        lost = stop();
+    writer = opened.value;
+    return lost;
 }
 
 QString Recorder::stop()

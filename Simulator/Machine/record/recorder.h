@@ -17,7 +17,8 @@ public:
     /// What is written of the last step.
     static RecordEntry entryOf(const Simulation &simulation);
     /// Starts a record (see RecordWriter::open) in place of the one being written. When it cannot, returns the reason,
-    /// and the present record goes on.
+    /// and the present record goes on, unless it is in the same file. When the present record had ended before its
+    /// time, returns why, and the new one is being written.
     QString start(const QString &path, const QPointF &origin);
     /// Ends the record. Returns why it had ended earlier; empty when all is written.
     QString stop();

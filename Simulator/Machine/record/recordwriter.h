@@ -17,6 +17,8 @@ public:
     /// local plane touches the earth. The reason when it cannot be written.
     static Result<std::shared_ptr<RecordWriter>> open(const QString &path, int products, const QPointF &origin);
 
+    /// The file's name, as it was given.
+    QString file() const { return path; }
     /// Adds a step. Nothing more is written after a failure.
     void write(const RecordEntry &entry);
     /// Writes what is still held back; nothing can be written afterwards.

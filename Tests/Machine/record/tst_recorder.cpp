@@ -6,13 +6,37 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cmath>
 #include <csignal>
 #include <ogrsf_frmts.h>
 #include <sys/resource.h>
+
+/// A limit on the size of files stands for the disk's.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &before);
+        formerAction = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small = {bytes, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, formerAction);
+    }
+    Q_DISABLE_COPY(SmallDisk)
+
+private:
+    rlimit before{};
+    void (*formerAction)(int);
+};
 
 /// What is kept of a drive.
 class TestRecorder : public TestBase {
@@ -27,12 +51,18 @@ private Q_SLOTS:
     void aGeoPackageHoldsPointsAndStrips();
     void whereTheMachineIsPutElsewhereNoStripIs();
     void aDriveThatGoesOnCanBeRead();
+    void aRecordOverItselfStartsAnew_data();
+    void aRecordOverItselfStartsAnew();
+    void whatTheFormerRecordLostIsTold();
+    void aRecordGoesOnWhereTheNextCannotBeWritten();
     void whatCannotBeWrittenIsToldInOneLine_data();
     void whatCannotBeWrittenIsToldInOneLine();
     void aFullDiskEndsTheRecordWithAWholeSecond_data();
     void aFullDiskEndsTheRecordWithAWholeSecond();
 
 private:
+    /// Whole steps that a record holds.
+    static int stepsIn(const QString &path);
     /// Drives 5 s over a border, 4 m/s, and records it.
     QString drive(const QString &name);
     static QList<QByteArray> lines(const QString &path) { return readFile(path).split('\n'); }
@@ -45,6 +75,21 @@ void TestRecorder::init()
 {
     TestBase::init();
     folder.reset(new QTemporaryDir);
+}
+
+int TestRecorder::stepsIn(const QString &path)
+{
+    if (path.endsWith(QLatin1String(".gpkg"))) {
+        const GDALDatasetUniquePtr file(GDALDataset::Open(path.toLocal8Bit().constData(), GDAL_OF_VECTOR));
+        OGRLayer *points = file != nullptr ? file->GetLayerByName("points") : nullptr;
+        return points != nullptr ? int(points->GetFeatureCount()) : -1;
+    }
+    const QList<QByteArray> rows = lines(path);
+    const auto isWhole = [&rows](const QByteArray &row) {
+        return row.count(',') == rows.first().count(',') && !row.contains('\0');
+    };
+    const bool areWhole = rows.last().isEmpty() && std::all_of(rows.begin(), rows.end() - 1, isWhole);
+    return areWhole ? rows.size() - 2 : -1;
 }
 
 QString TestRecorder::drive(const QString &name)
@@ -233,6 +278,67 @@ void TestRecorder::aDriveThatGoesOnCanBeRead()
     QCOMPARE(file->GetLayerByName("points")->GetFeatureCount(), GIntBig(30));
 }
 
+void TestRecorder::aRecordOverItselfStartsAnew_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("nextName");
+    QTest::newRow("table") << "a.csv"
+                           << "a.csv";
+    QTest::newRow("package") << "a.gpkg"
+                             << "a.gpkg";
+    QTest::newRow("table by another name") << "a.csv"
+                                           << "link.csv";
+}
+
+void TestRecorder::aRecordOverItselfStartsAnew()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, nextName);
+    MachineBench bench;
+    Recorder recorder(&bench.simulation);
+    const QString path = folder->filePath(name);
+    QCOMPARE(recorder.start(path, QPointF(9, 50)), QString());
+    bench.simulation.run(5.55);
+    QVERIFY(nextName == name || QFile::link(path, folder->filePath(nextName)));
+    QCOMPARE(recorder.start(folder->filePath(nextName), QPointF(9, 50)), QString());
+    bench.simulation.run(1.5);
+    QCOMPARE(recorder.stop(), QString());
+    QCOMPARE(stepsIn(path), 15);
+}
+
+void TestRecorder::whatTheFormerRecordLostIsTold()
+{
+    MachineBench bench;
+    Recorder recorder(&bench.simulation);
+    const QString former = folder->filePath(QStringLiteral("former.csv"));
+    const QString next = folder->filePath(QStringLiteral("next.csv"));
+    QCOMPARE(recorder.start(former, QPointF(9, 50)), QString());
+    bench.simulation.run(5.55);
+    {
+        const SmallDisk disk(static_cast<rlim_t>(QFileInfo(former).size() + 1));
+        const QString told = recorder.start(next, QPointF(9, 50));
+        QVERIFY2(told.startsWith(former + QStringLiteral(": the record ends early: ")), qPrintable(told));
+    }
+    QVERIFY(recorder.isRecording());
+    bench.simulation.run(1.0);
+    QCOMPARE(recorder.stop(), QString());
+    QCOMPARE(stepsIn(former), 50);
+    QCOMPARE(stepsIn(next), 10);
+}
+
+void TestRecorder::aRecordGoesOnWhereTheNextCannotBeWritten()
+{
+    MachineBench bench;
+    Recorder recorder(&bench.simulation);
+    const QString path = folder->filePath(QStringLiteral("a.csv"));
+    QCOMPARE(recorder.start(path, QPointF(9, 50)), QString());
+    bench.simulation.run(1.55);
+    QVERIFY(!recorder.start(QStringLiteral("/nowhere/b.csv"), QPointF(9, 50)).isEmpty());
+    bench.simulation.run(1.0);
+    QCOMPARE(recorder.stop(), QString());
+    QCOMPARE(stepsIn(path), 25);
+}
+
 void TestRecorder::whatCannotBeWrittenIsToldInOneLine_data()
 {
     QTest::addColumn<QString>("path");
@@ -259,28 +365,6 @@ void TestRecorder::whatCannotBeWrittenIsToldInOneLine()
     QVERIFY(!error.contains(QLatin1Char('\n')));
     QVERIFY(!recorder.isRecording());
 }
-
-/// A limit on the size of files stands for the disk's.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        formerAction = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, formerAction);
-    }
-    Q_DISABLE_COPY(SmallDisk)
-
-private:
-    rlimit before{};
-    void (*formerAction)(int);
-};
 
 void TestRecorder::aFullDiskEndsTheRecordWithAWholeSecond_data()
 {
