@@ -20,7 +20,10 @@ std::optional<double> seconds(const QByteArrayList &fields, int column)
     if (const auto plain = number(fields, column))
         return plain;
     const QString text = QString::fromUtf8(fields.value(column).trimmed());
-    const QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs);
+    QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs);
+    // The machine's clock and its time zone have no part in a track.
+    if (moment.timeSpec() == Qt::LocalTime)
+        moment.setTimeSpec(Qt::UTC);
     return moment.isValid() ? std::optional<double>(double(moment.toMSecsSinceEpoch()) / 1000.0) : std::nullopt;
 }
 

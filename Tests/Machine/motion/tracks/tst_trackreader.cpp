@@ -6,6 +6,36 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <ctime>
+
+namespace {
+
+/// The machine's time zone while it lives, as POSIX writes one.
+class TimeZone {
+public:
+    explicit TimeZone(const char *zone)
+        : before(qgetenv("TZ"))
+        , wasSet(qEnvironmentVariableIsSet("TZ"))
+    {
+        qputenv("TZ", zone);
+        tzset();
+    }
+    ~TimeZone()
+    {
+        if (wasSet)
+            qputenv("TZ", before);
+        else
+            qunsetenv("TZ");
+        tzset();
+    }
+    Q_DISABLE_COPY(TimeZone)
+
+private:
+    const QByteArray before;
+    const bool wasSet;
+};
+
+} // namespace
 
 /// Recorded tracks, good and bad.
 class TestTrackReader : public TestBase {
@@ -16,6 +46,8 @@ private Q_SLOTS:
     void sentencesOfOneTimeMakeOneEntry();
     void aTrackGoesOnOverMidnight();
     void rowsAreReadByTheirHead();
+    void aTimeWithoutAnOffsetIsUtc_data();
+    void aTimeWithoutAnOffsetIsUtc();
     void badLinesAreLeftOutAndCounted_data();
     void badLinesAreLeftOutAndCounted();
     void aLongTrackTakesNoMemory_data();
@@ -99,6 +131,28 @@ void TestTrackReader::rowsAreReadByTheirHead()
     QVERIFY(reader.next(point));
     QVERIFY(!point.hasFix && !point.speed);
     QCOMPARE(point.time - first, 0.5);
+}
+
+void TestTrackReader::aTimeWithoutAnOffsetIsUtc_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("last");
+    QTest::newRow("beside one in UTC") << QByteArray("2026-04-01T10:00:00Z") << QByteArray("2026-04-01T11:00:00");
+    QTest::newRow("beside one with an offset")
+        << QByteArray("2026-04-01T12:00:00+02:00") << QByteArray("2026-04-01T11:00:00");
+    QTest::newRow("as clocks go forward") << QByteArray("2026-03-29T01:59:00") << QByteArray("2026-03-29T02:59:00");
+    QTest::newRow("as clocks go back") << QByteArray("2026-10-25T02:30:00") << QByteArray("2026-10-25T03:30:00");
+}
+
+void TestTrackReader::aTimeWithoutAnOffsetIsUtc()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, last);
+    const TimeZone middleEurope("CET-1CEST,M3.5.0,M10.5.0/3");
+    const QByteArray track = "time,x,y\n" + first + ",0,0\n" + last + ",1,0\n";
+    const Result<TrackReader::Summary> summary = TrackReader::check(write(track), nullptr);
+    QVERIFY2(summary.isOk(), qPrintable(summary.error));
+    QCOMPARE(summary.value.seconds, 3600.0);
 }
 
 void TestTrackReader::badLinesAreLeftOutAndCounted_data()
