@@ -35,7 +35,7 @@ private:
     QList<OrvikTypes::RX_SETTINGS> settings;
 };
 
-/// Counts what it is told.
+/// Counts the signals that it receives.
 class SettingsListener : public QObject {
     Q_OBJECT
 

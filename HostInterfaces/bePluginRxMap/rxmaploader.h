@@ -12,7 +12,7 @@ public:
     explicit RxMapLoader(double defaultRate = 0.0, QObject *parent = nullptr);
     ~RxMapLoader() override;
 
-    /// Takes a new default rate into use; whoever calls it has stored the rate in `defaultRate`.
+    /// Takes a new default rate into use; the caller has already stored it in `defaultRate`.
     void defaultRateChanged(double rate);
 
     /// Rate where the prescription gives none, base units. Read and written directly.

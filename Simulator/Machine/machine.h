@@ -47,7 +47,7 @@ public:
     /// The same for an operator who sees the result beforehand. Where the machine takes its products from
     /// prescriptions, a file that takes over all products in use on its plane brings its own, as the first one did.
     void offerProducts(LoadRequest &request) const;
-    /// The products of a file that was looked at: made from its columns, or the machine's where there are none.
+    /// The products for a surveyed file: made from its columns, or the machine's if `columns` is empty.
     Products productsFor(const QList<ColumnProduct> &columns) const;
     QList<MachineProduct> loadedProductsFor(const QList<ColumnProduct> &columns) const;
 

@@ -24,7 +24,7 @@ DbGroupQmlUnitsConverter::DbGroupQmlUnitsConverter(const QString &name, QObject 
     : DataBrokerGroup(name, parent)
     , d(new DbGroupQmlUnitsConverterPrivate)
 {
-    // Connected first, so that whoever is told of a new unit finds its factors, in whatever thread it was set.
+    // Connected first, so that everybody who hears of a new unit finds its factors, whatever thread set it.
     connect(this, &DbGroupQmlUnitsConverter::areaUnitSystemChanged, this, &DbGroupQmlUnitsConverter::renewFactors,
             Qt::DirectConnection);
     connect(this, &DbGroupQmlUnitsConverter::pressureUnitChanged, this, &DbGroupQmlUnitsConverter::renewFactors,

@@ -10,7 +10,7 @@
 
 class QPainter;
 
-/// The images of a touch button, one of which is shown. An image that cannot be loaded is shown as nothing.
+/// The images of a touch button, one of which is shown. An image that cannot be loaded leaves the button empty.
 class ButtonImages {
 public:
     enum class Look { Normal, Pressed, Dimmed };

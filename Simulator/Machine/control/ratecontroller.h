@@ -30,8 +30,8 @@ struct VehicleFix {
 /// product's look-ahead time, straight on at the machine's speed, and turns the answer into a command.
 ///
 /// Look-ahead and default rates are taken from the broker and the loaders at every update. The zero-rate shut-off is
-/// that of the first update after a map came, and is taken anew when "reInit" of "quillSpan" is set; so is the
-/// master's, which has no effect here, as the settings hold each product's own shut-off.
+/// that of the first update after a map came, and is read again when "reInit" of "quillSpan" is set. The master's has
+/// no effect here, as the settings hold each product's own shut-off.
 class RateController : public QObject {
     Q_OBJECT
 

@@ -9,7 +9,7 @@
 ///
 /// A change's moment is that of the sharp step from the rate wanted before the border to the one wanted after it that
 /// would have applied the same amount between the middles to the neighbouring borders, or within `reach` seconds where
-/// these are farther. When the implement goes down while nothing is put out, as when the machine sets off, the missing
+/// these are farther. When the implement goes down while nothing is applied, as when the machine sets off, the missing
 /// amount belongs to no border: amounts count from when the wanted rate is reached.
 class BorderWatch {
 public:
@@ -67,5 +67,5 @@ private:
     std::deque<Border> borders;
     double formerBorder = 0.0;
     double target = 0.0;
-    bool isFilling = false; ///< Nothing was put out at first, and the wanted rate is not reached yet.
+    bool isFilling = false; ///< Nothing was applied at first, and the wanted rate is not reached yet.
 };

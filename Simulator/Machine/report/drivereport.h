@@ -8,8 +8,8 @@
 class DriveTally;
 class Machine;
 
-/// What came of a drive, as JSON: areas in square metres, amounts in the product's base unit times hectares, positive
-/// metres and seconds for late.
+/// The result of a drive as JSON: areas in square metres, amounts in the product's base unit times hectares; positive
+/// metres and seconds mean late.
 class DriveReport {
 public:
     /// `curves` are those of FieldDrive::tune(); none without tuning.

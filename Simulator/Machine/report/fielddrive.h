@@ -13,12 +13,12 @@
 
 class Simulation;
 
-/// Drives a whole field at once and adds up what came of it.
+/// Drives a whole field at once and adds up the results.
 class FieldDrive {
 public:
     /// Metres per second.
     static constexpr double usualSpeed = 3.0;
-    /// Milliseconds between the look-ahead times that are told apart.
+    /// Milliseconds between the look-ahead times that are tried.
     static constexpr int lookAheadStep = 100;
 
     /// Median lateness of a product's changes (seconds) by look-ahead time (milliseconds).

@@ -178,7 +178,7 @@ OGRLayer *createTable(GDALDataset &file, OGRSpatialReference &world)
     return layer;
 }
 
-/// The pieces that the lines divide the field into, but those that are left out.
+/// The pieces into which the lines divide the field, except those that are left out.
 std::vector<std::unique_ptr<OGRPolygon>> divide(const OGRPolygon &field, const std::vector<OGRPolygon> &leftOut,
                                                 const OGRGeometry &water)
 {

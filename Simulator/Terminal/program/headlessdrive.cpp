@@ -77,7 +77,8 @@ QString outputProblem(const CommandLine &line)
     return problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(line.drive, problem);
 }
 
-/// What lies on a plane of its own would be put out at the coordinates of the one that is driven.
+/// Refuses maps on several planes: those on another plane would be applied at the coordinates of the one that is
+/// driven.
 QString farFieldProblem(const Terminal &terminal)
 {
     const QList<LoadReport> maps = terminal.backend()->maps();

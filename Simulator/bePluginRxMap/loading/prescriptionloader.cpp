@@ -196,7 +196,7 @@ bool PrescriptionLoader::replacesAllInUse() const
     const QList<RateSource> sources = policy.decide(source, polygons).sources;
     for (int number = 1; number <= request.products.size(); ++number) {
         const auto isFed = [number](const RateSource &fed) { return fed.product == number; };
-        // A product in use on another plane is not put out in this field.
+        // A product in use on another plane is not applied in this field.
         if (request.products.at(number - 1).inUseAt == report->origin
             && std::none_of(sources.begin(), sources.end(), isFed))
             return false;

@@ -7,6 +7,6 @@
 class TypicalRate {
 public:
     /// `rates` (base unit) and `areas` are by polygon; a rate that is not a number is ignored. `displayFactor` takes
-    /// rates to the operator's unit. 0 where nothing is put out anywhere.
+    /// rates to the operator's unit. 0 where nothing is applied anywhere.
     static double of(const std::vector<float> &rates, const std::vector<double> &areas, double displayFactor);
 };

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What is to be read of which file.
+/// Which file to read, and what of it.
 struct ReadRequest {
     QString path;
     /// Names of the columns; empty entries are ignored, an empty list reads every column that is worth it.

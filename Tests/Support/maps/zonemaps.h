@@ -9,7 +9,7 @@ struct ZoneKind {
     int side;        ///< Samples along an edge of the field, 5 m apart.
     int smoothing;   ///< Radius, in samples, over which white noise is averaged twice; its quantiles bound the zones.
     int classes;     ///< Of equal share.
-    double speckles; ///< Share of samples that are drawn anew, into two classes of their own below the others.
+    double speckles; ///< Share of samples that are drawn again, into two classes of their own below the others.
     unsigned int seed;
 };
 

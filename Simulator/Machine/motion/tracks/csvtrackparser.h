@@ -7,7 +7,7 @@
 #include <optional>
 
 /// Comma-separated values under a head that names them: "time" (seconds, or ISO 8601), "x" and "y" (metres of the local
-/// plane) or "lon" and "lat" (degrees), and if at hand "heading" (degrees) and "speed" (metres per second).
+/// plane) or "lon" and "lat" (degrees), and optionally "heading" (degrees) and "speed" (metres per second).
 class CsvTrackParser : public TrackParser {
 public:
     QString read(const QByteArray &line, std::vector<TrackPoint> &points) override;

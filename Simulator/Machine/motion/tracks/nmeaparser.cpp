@@ -9,7 +9,7 @@ namespace {
 constexpr double secondsOfDay = 86400.0;
 constexpr double metresPerSecondOfKnot = 1852.0 / 3600.0;
 
-/// The sentence between "$" and "*"; the reason when it is none, or damaged.
+/// Takes out the sentence between "$" and "*"; the reason when the line is not a sentence, or damaged.
 QString unpack(const QByteArray &line, QByteArray &body)
 {
     const QByteArray text = line.trimmed();

@@ -19,7 +19,7 @@ QString pixels(double value)
     return QString::number(value, 'f', 1);
 }
 
-/// One, two or five times a power of ten that divides the range into about so many parts.
+/// One, two or five times a power of ten that divides the range into about `parts` parts.
 double roundStep(double range, int parts)
 {
     const double rough = range / parts;

@@ -7,7 +7,7 @@ class Machine;
 class QXmlStreamWriter;
 struct DrivenField;
 
-/// What came of a drive as one page of HTML that needs nothing else: texts in the program's language, numbers in the
+/// The result of a drive as one page of HTML that needs no other file: texts in the program's language, numbers in the
 /// operator's units. The same drive makes the same page.
 class ReportPage {
     Q_DECLARE_TR_FUNCTIONS(ReportPage)

@@ -12,7 +12,7 @@ class ReportUnits {
 public:
     /// At least three significant digits, no more than four decimals, no exponent.
     static QString number(double value);
-    /// With so many decimals.
+    /// With `decimals` decimals.
     static QString number(double value, int decimals);
 
     /// For a product, by number from 1; without one for what is no rate.

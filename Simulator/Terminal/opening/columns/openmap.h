@@ -19,7 +19,7 @@ struct OpenMap {
     /// Distance from the file's field, metres; 0 where they share a plane.
     double distance = 0.0;
 
-    /// It stays open, though it lies on a plane of its own: what it prescribes is put out at the same coordinates.
+    /// It stays open, though it lies on a plane of its own: what it prescribes is applied at the same coordinates.
     bool staysFarAway() const { return !isReplaced && distance > 0.0; }
 
     /// All open maps but that of the file itself, the oldest first.

@@ -91,7 +91,7 @@ std::vector<Way> ways(const PlaneRing &outer, const PlaneRing &hole)
     return result;
 }
 
-/// Whether the segment meets no edge of the ring but those that begin or end where it does.
+/// Whether the segment meets no edge of the ring except those that begin or end where it does.
 bool isClearOf(const PlaneRing &ring, const PlaneVertex &a, const PlaneVertex &b)
 {
     for (size_t i = 0; i < ring.size(); ++i) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double fullTurn = 360.0;
 constexpr double halfTurn = 180.0;
-/// A full turn beyond the greatest longitude; a coordinate farther out is none.
+/// A full turn beyond the greatest longitude; a coordinate farther out is not a longitude.
 constexpr double farthest = halfTurn + fullTurn;
 
 struct Range {

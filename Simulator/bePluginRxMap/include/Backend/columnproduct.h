@@ -16,7 +16,7 @@ struct ColumnProduct {
     DbGroupProductGroupInfo::RateKind kind = DbGroupProductGroupInfo::WeightRate;
     /// Number from 1 of the product that the column is to feed.
     int number = 0;
-    /// The rate at which the map mostly puts it out (TypicalRate), base units; not a number before the file is loaded.
+    /// The rate at which the map mostly applies it (TypicalRate), base units; not a number before the file is loaded.
     double typicalRate = std::numeric_limits<double>::quiet_NaN();
     /// What the file gives for places without a prescription (PlaceRates); not a number where it gives nothing.
     double givenRate = std::numeric_limits<double>::quiet_NaN();

@@ -55,7 +55,7 @@ GdalSession::~GdalSession()
 
 QString GdalSession::firstFailure() const
 {
-    // What SQLite says where the file's pages contradict each other, and where its head is none.
+    // SQLite's words for a file whose pages contradict each other, and for one whose head is not that of a database.
     const bool isDamaged =
         failure.contains(QLatin1String("malformed")) || failure.contains(QLatin1String("not a database"));
     return isDamaged ? BackendText::tr("is damaged (%1)").arg(failure) : failure;

@@ -22,7 +22,7 @@ public:
     /// rates for places without a prescription, but without values.
     std::vector<SourceColumn> &columns() { return table; }
     bool areTooMany() const { return isCutShort; }
-    /// Whether so many records are too many for these columns.
+    /// Whether that many records are too many for these columns.
     bool areTooMany(qint64 records) const { return records * static_cast<qint64>(table.size()) > mostRates; }
     /// The columns of a zone's values, in the zone's order.
     std::vector<size_t> placesOf(const TreatmentZone &zone) const;
