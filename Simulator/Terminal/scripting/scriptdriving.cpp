@@ -160,12 +160,21 @@ void ScriptDriving::signal(bool isThere)
 QJSValue ScriptDriving::rates(const QJSValue &product)
 {
     const int number = product.toInt();
-    const auto &products = terminal->machine()->products();
-    if (!product.isNumber() || product.toNumber() != double(number) || number < 1 || number > products.size()) {
+    const bool isWhole = product.isNumber() && product.toNumber() == double(number);
+    Simulation::Rates now;
+    QString unit;
+    const bool isThere = onGui([&] {
+        const Products &products = terminal->machine()->products();
+        if (!isWhole || number < 1 || number > products.size())
+            return false;
+        now = terminal->simulation()->rates(number);
+        unit = rateUnit(products.at(number - 1).rateKind(), UnitSystem::Metric);
+        return true;
+    });
+    if (!isThere) {
         fail(QStringLiteral("no product %1").arg(product.toString()));
         return {};
     }
-    const Simulation::Rates now = onGui([&] { return terminal->simulation()->rates(number); });
     QJSValue rates = qjsEngine(this)->newObject();
     const double prescribed = now.command.prescribed;
     rates.setProperty(QStringLiteral("prescribed"),
@@ -173,7 +182,7 @@ QJSValue ScriptDriving::rates(const QJSValue &product)
     rates.setProperty(QStringLiteral("commanded"), now.command.commanded);
     rates.setProperty(QStringLiteral("applied"), now.applied);
     rates.setProperty(QStringLiteral("source"), QLatin1String(sourceName(now.command.source)));
-    rates.setProperty(QStringLiteral("unit"), rateUnit(products.at(number - 1).rateKind(), UnitSystem::Metric));
+    rates.setProperty(QStringLiteral("unit"), unit);
     return rates;
 }
 
