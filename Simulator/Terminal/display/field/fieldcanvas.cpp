@@ -20,19 +20,19 @@ FieldCanvas::~FieldCanvas()
 
 bool FieldCanvas::create()
 {
-    if (isValid())
+    if (isReady)
         return true;
     if (!context.create())
         return false;
     surface.setFormat(context.format());
     surface.create();
-    return context.makeCurrent(&surface);
+    isReady = context.makeCurrent(&surface);
+    return isReady;
 }
 
-void FieldCanvas::makeCurrent()
+bool FieldCanvas::makeCurrent()
 {
-    if (isValid())
-        context.makeCurrent(&surface);
+    return isReady && context.makeCurrent(&surface);
 }
 
 void FieldCanvas::provideBuffers(const QSize &pixels, Edges edges)
@@ -49,9 +49,8 @@ void FieldCanvas::provideBuffers(const QSize &pixels, Edges edges)
 QImage FieldCanvas::draw(FieldScene &scene, const Camera &camera, FieldScene::Aids aids, const QSize &pixels,
                          Edges edges)
 {
-    if (!isValid() || pixels.isEmpty())
+    if (pixels.isEmpty() || !makeCurrent())
         return {};
-    makeCurrent();
     provideBuffers(pixels, edges);
     drawn->bind();
     context.functions()->glViewport(0, 0, pixels.width(), pixels.height());
@@ -69,9 +68,8 @@ QImage FieldCanvas::draw(FieldScene &scene, const Camera &camera, FieldScene::Ai
 
 void FieldCanvas::forgetFrame()
 {
-    if (!isValid() || !drawn)
+    if (!drawn || !makeCurrent())
         return;
-    makeCurrent();
     drawn->bind();
     QOpenGLFunctions &gl = *context.functions();
     gl.glFinish();

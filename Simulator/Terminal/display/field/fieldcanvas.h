@@ -18,8 +18,9 @@ public:
 
     /// Makes the context, of the default surface format; false when there is no OpenGL.
     bool create();
-    bool isValid() const { return context.isValid(); }
-    void makeCurrent();
+    bool isValid() const { return isReady; }
+    /// False when the context cannot be used, now or ever.
+    bool makeCurrent();
     void doneCurrent() { context.doneCurrent(); }
 
     /// How edges look: Smooth takes several samples per pixel where the driver can; Plain takes one in its middle.
@@ -38,6 +39,8 @@ private:
 
     QOpenGLContext context;
     QOffscreenSurface surface;
+    /// The context was current on the surface once.
+    bool isReady = false;
     Edges drawnEdges = Edges::Plain;
     QScopedPointer<QOpenGLFramebufferObject> drawn;
     QScopedPointer<QOpenGLFramebufferObject> resolved; ///< One sample a pixel; null where `drawn` has no more itself.
