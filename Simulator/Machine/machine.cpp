@@ -5,23 +5,17 @@
 #include "dbgroupbin.h"
 #include "dbgroupgpssolution.h"
 #include "dbgroupquillspan.h"
-#include "suggestedproducts.h"
 
 #include "Framework/binmanager.h"
 #include "Framework/databroker.h"
 #include "Framework/dbgroupaam.h"
 #include "Framework/dbgroupjob.h"
-#include "Framework/dbgroupproductgroupinfo.h"
 #include "Framework/dbgroupqmlunitsconverter.h"
 #include "Framework/dbgroupsingleproductnode.h"
 #include "Framework/productlineitem.h"
 #include "bePluginRxMap/rxmaploader.h"
 
-#include <QFileInfo>
-#include <QMap>
-
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -50,46 +44,6 @@ ProductLineItem::Basis basisOf(Product::Kind kind)
     return ProductLineItem::None;
 }
 
-DbGroupProductGroupInfo::RateKind rateKindOf(const Product &product)
-{
-    switch (product.rateKind()) {
-    case Product::Kind::Count:
-        return DbGroupProductGroupInfo::CountRate;
-    case Product::Kind::Ratio:
-        return DbGroupProductGroupInfo::RatioRate;
-    case Product::Kind::Injection:
-        return DbGroupProductGroupInfo::InjectionRate;
-    case Product::Kind::Volume:
-        return DbGroupProductGroupInfo::VolumeRate;
-    case Product::Kind::Weight:
-        return DbGroupProductGroupInfo::WeightRate;
-    case Product::Kind::Pressure:
-        return DbGroupProductGroupInfo::PressureRate;
-    case Product::Kind::Unknown:
-        break;
-    }
-    return DbGroupProductGroupInfo::UnknownRate;
-}
-
-bool isSame(const Product &one, const Product &other)
-{
-    return one.name == other.name && one.kind == other.kind;
-}
-
-/// The default rates of new products, of which there are never fewer than before. A product that stays the same keeps
-/// the rate in use if the operator set it: if that is neither the rate that the product was made with nor one that a
-/// file gave since.
-QList<double> ratesToUse(const Products &products, const Products &before, const QList<double> &ratesInUse)
-{
-    QList<double> rates;
-    for (int i = 0; i < products.size(); ++i) {
-        const bool isKept =
-            i < before.size() && isSame(products.at(i), before.at(i)) && ratesInUse.at(i) != before.at(i).defaultRate;
-        rates.append(isKept ? ratesInUse.at(i) : products.at(i).defaultRate);
-    }
-    return rates;
-}
-
 } // namespace
 
 Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Products &products, UnitSystem givenUnits,
@@ -104,10 +58,8 @@ Machine::Machine(DataBroker *givenBroker, PrescriptionBackend *backend, const Pr
     for (int number = 1; number <= allProducts.size(); ++number)
         publishProduct(number);
     listProducts();
-    useRates(ratesToUse(allProducts, {}, {}));
+    useDefaultRates();
     connect(backend, &PrescriptionBackend::mapsChanged, this, &Machine::followMaps);
-    connect(backend, &PrescriptionBackend::productsMade, this, &Machine::takeProducts);
-    connect(backend, &PrescriptionBackend::finished, this, &Machine::noteGivenRates);
     announceActiveProduct();
 }
 
@@ -124,19 +76,17 @@ void Machine::listProducts()
     BinManager::instance(broker)->setLoadedProducts(items);
 }
 
-void Machine::useRates(const QList<double> &rates)
+void Machine::useDefaultRates()
 {
-    for (int i = 0; i < rates.size(); ++i)
-        prescriptions->loader(i)->defaultRate = rates.at(i);
+    for (int i = 0; i < allProducts.size(); ++i)
+        prescriptions->loader(i)->defaultRate = allProducts.at(i).defaultRate;
 }
 
-void Machine::takeProducts(const QList<ColumnProduct> &columns)
+void Machine::setProducts(const Products &products)
 {
-    if (!areProductsOpen)
-        return;
-    const QList<double> inUse = ratesInUse();
-    const Products before = std::exchange(allProducts, SuggestedProducts::of(columns, allProducts.size()));
-    useRates(ratesToUse(allProducts, before, inUse));
+    const Products before = std::exchange(allProducts, products);
+    useDefaultRates();
+    const auto isSame = [](const Product &one, const Product &other) { return one.isSameAs(other); };
     if (std::equal(before.begin(), before.end(), allProducts.begin(), allProducts.end(), isSame))
         return;
     for (int number = 1; number <= before.size(); ++number)
@@ -147,98 +97,32 @@ void Machine::takeProducts(const QList<ColumnProduct> &columns)
     Q_EMIT productsChanged();
 }
 
-void Machine::noteGivenRates(const LoadReport &report)
-{
-    for (const RateSource &source : report.sources) {
-        const double given = source.placeRates.defaultRate();
-        // A request may name products that the machine does not have.
-        if (report.isOk() && !std::isnan(given) && source.product <= allProducts.size())
-            allProducts[source.product - 1].defaultRate = given;
-    }
-}
-
-void Machine::leaveProductsOpen()
-{
-    takesProductsFromFiles = true;
-    areProductsOpen = true;
-}
-
-void Machine::settleProducts()
-{
-    areProductsOpen = areProductsOpen && prescriptions->maps().isEmpty();
-}
-
-QList<double> Machine::ratesInUse() const
-{
-    QList<double> rates;
-    for (int i = 0; i < allProducts.size(); ++i)
-        rates.append(prescriptions->loader(i)->defaultRate);
-    return rates;
-}
-
-void Machine::enterProducts(LoadRequest &request) const
-{
-    request.products = loadedProducts();
-    if (areProductsOpen)
-        request.makeProducts = maker();
-}
-
-void Machine::offerProducts(LoadRequest &request) const
-{
-    request.products = loadedProducts();
-    if (!takesProductsFromFiles || (keepsProducts && keepsProducts()))
-        return;
-    request.makeProducts = maker();
-    const QList<LoadReport> maps = prescriptions->maps();
-    for (const LoadReport &map : maps) {
-        if (QFileInfo(map.path) == QFileInfo(request.path))
-            continue;
-        const QList<int> fed = columnsOf(map.group).keys();
-        for (const int number : fed)
-            request.products[number - 1].inUseAt = map.origin;
-    }
-}
-
-Machine::ProductMaker Machine::maker() const
-{
-    // What is returned runs in the loading thread, which may not ask the broker.
-    const auto *converter =
-        qobject_cast<DbGroupQmlUnitsConverter *>(broker->getGroup(QStringLiteral("QmlUnitsConverter"), false));
-    const QMap<DbGroupProductGroupInfo::RateKind, double> factors{
-        {DbGroupProductGroupInfo::CountRate, converter->getCountRateToDisplay()},
-        {DbGroupProductGroupInfo::VolumeRate, converter->getVolumeRateToDisplay()},
-        {DbGroupProductGroupInfo::WeightRate, converter->getWeightRateToDisplay()}};
-    return [factors, before = allProducts, inUse = ratesInUse()](const QList<ColumnProduct> &columns) {
-        QList<MachineProduct> made;
-        const Products products = SuggestedProducts::of(columns, before.size());
-        const QList<double> rates = ratesToUse(products, before, inUse);
-        for (const Product &product : products)
-            made.append({product.name, productGroupName(made.size() + 1), rateKindOf(product), rates.at(made.size()),
-                         product.underVra, false, factors.value(rateKindOf(product), 1.0)});
-        return made;
-    };
-}
-
-Products Machine::productsFor(const QList<ColumnProduct> &columns) const
-{
-    return columns.isEmpty() ? allProducts : SuggestedProducts::of(columns, allProducts.size());
-}
-
-QList<MachineProduct> Machine::loadedProductsFor(const QList<ColumnProduct> &columns) const
-{
-    return columns.isEmpty() ? loadedProducts() : maker()(columns);
-}
-
 QList<MachineProduct> Machine::loadedProducts() const
 {
+    QList<MachineProduct> loaded = asLoaded(allProducts, displayFactors());
+    for (int i = 0; i < loaded.size(); ++i)
+        loaded[i].defaultRate = prescriptions->loader(i)->defaultRate;
+    return loaded;
+}
+
+Machine::DisplayFactors Machine::displayFactors() const
+{
+    const auto *converter =
+        qobject_cast<DbGroupQmlUnitsConverter *>(broker->getGroup(QStringLiteral("QmlUnitsConverter"), false));
+    return {{DbGroupProductGroupInfo::CountRate, converter->getCountRateToDisplay()},
+            {DbGroupProductGroupInfo::RatioRate, converter->getRatioRateToDisplay()},
+            {DbGroupProductGroupInfo::InjectionRate, converter->getInjectionRateToDisplay()},
+            {DbGroupProductGroupInfo::VolumeRate, converter->getVolumeRateToDisplay()},
+            {DbGroupProductGroupInfo::WeightRate, converter->getWeightRateToDisplay()},
+            {DbGroupProductGroupInfo::PressureRate, converter->getPressureToDisplay()}};
+}
+
+QList<MachineProduct> Machine::asLoaded(const Products &products, const DisplayFactors &factors)
+{
     QList<MachineProduct> loaded;
-    for (int number = 1; number <= allProducts.size(); ++number) {
-        const Product &product = allProducts.at(number - 1);
-        auto *info = qobject_cast<DbGroupProductGroupInfo *>(broker->getGroup(productGroupName(number), false));
-        loaded.append({product.name, productGroupName(number), rateKindOf(product),
-                       prescriptions->loader(number - 1)->defaultRate, product.underVra, false,
-                       getRateConversion(info)});
-    }
+    for (const Product &product : products)
+        loaded.append({product.name, productGroupName(loaded.size() + 1), product.rateKind(), product.defaultRate,
+                       product.underVra, false, factors.value(product.rateKind(), 1.0)});
     return loaded;
 }
 
@@ -290,7 +174,7 @@ void Machine::describeProduct(int number)
 {
     const Product &product = allProducts.at(number - 1);
     const ProductGroups &groups = productGroups.at(number - 1);
-    groups.info->internalSetRateKind(rateKindOf(product));
+    groups.info->internalSetRateKind(product.rateKind());
     groups.node->internalSetOperationalSettings(
         OrvikTypes::SPN_OperationalSetStruct(product.kind == Product::Kind::Ratio));
     groups.node->internalSetSwitchByteCalSettings(
@@ -339,7 +223,6 @@ void Machine::announceActiveProduct()
 
 void Machine::followMaps()
 {
-    settleProducts();
     for (int number = 1; number <= productGroups.size(); ++number) {
         const QString feeding = allProducts.at(number - 1).underVra
             ? ActiveMap::find(*broker, productGroupName(number)).groupName

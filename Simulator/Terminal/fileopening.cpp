@@ -16,7 +16,7 @@
 FileOpening::FileOpening(Terminal *owner)
     : QObject(owner)
     , terminal(owner)
-    , openWindow(new OpenWindow(owner->machine(), settings.values(), owner->window()))
+    , openWindow(new OpenWindow(owner->machine(), owner->adoption(), settings.values(), owner->window()))
     , button(new TouchButton(tr("Open a prescription")))
 {
     TerminalWindow *display = terminal->window();

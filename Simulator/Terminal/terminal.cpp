@@ -12,6 +12,7 @@
 #include "openwindow.h"
 #include "operatorsettings.h"
 #include "pluginscanner.h"
+#include "productadoption.h"
 #include "productselector.h"
 #include "querylistener.h"
 #include "recorder.h"
@@ -70,6 +71,7 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
     , dataBroker(QString(), TerminalWindow::displaySize)
     , prescriptions(new PrescriptionBackend(&dataBroker))
     , machineModel(new Machine(&dataBroker, prescriptions.data(), setup.products, units))
+    , productAdoption(new ProductAdoption(machineModel.data()))
     , loadedMaps(dataBroker, *prescriptions, *machineModel)
     , simulated(new Simulation(machineModel.data(), &clock))
     , driveRecorder(new Recorder(simulated.data()))
@@ -80,11 +82,11 @@ Terminal::Terminal(const MachineSetup &setup, UnitSystem units, QObject *parent)
 {
     initialiseResources();
     vehicle()->setSize(setup.size);
-    machineModel->keepProductsWhile([this] {
+    productAdoption->keepProductsWhile([this] {
         return driveRecorder->isRecording() || (!vehicle()->isStopped() && !prescriptions->maps().isEmpty());
     });
     if (setup.takesProductsFromFile)
-        machineModel->leaveProductsOpen();
+        productAdoption->adoptFromNextFile();
     connectDisplay();
 }
 
@@ -195,12 +197,12 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
     QList<LoadReport> reports;
     LoadRequest load{{}, request.columns, request.units, {}, request.layer, request.task};
     if (request.columnProducts && !request.columnProducts->isEmpty())
-        machineModel->leaveProductsOpen();
-    const auto settle = qScopeGuard([machine = QPointer<Machine>(machineModel.data())] {
-        if (machine)
-            machine->settleProducts();
+        productAdoption->adoptFromNextFile();
+    const auto settle = qScopeGuard([adoption = QPointer<ProductAdoption>(productAdoption.data())] {
+        if (adoption)
+            adoption->endWithMapLoaded();
     });
-    enterProducts(request, load);
+    fillRequest(load, request);
     const ColumnShares shares = PrescriptionBackend::shareColumns(request.paths, load);
     if (!shares.isOk()) {
         reports.append(LoadReport());
@@ -222,9 +224,9 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
     return reports;
 }
 
-void Terminal::enterProducts(const OpenRequest &request, LoadRequest &load) const
+void Terminal::fillRequest(LoadRequest &load, const OpenRequest &request) const
 {
-    machineModel->enterProducts(load);
+    productAdoption->fillRequest(load);
     // A record has its columns by product. An operator who chose among the placeholders keeps them.
     const bool keepsProducts =
         driveRecorder->isRecording() || (request.columnProducts && request.columnProducts->isEmpty());

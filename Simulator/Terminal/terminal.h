@@ -30,6 +30,7 @@ class Machine;
 class MapDisplay;
 class OpenWindow;
 class OperatorSettings;
+class ProductAdoption;
 class Recorder;
 class ScreenWindow;
 class Simulation;
@@ -58,6 +59,7 @@ public:
     DataBroker *broker() { return &dataBroker; }
     PrescriptionBackend *backend() const { return prescriptions.data(); }
     Machine *machine() const { return machineModel.data(); }
+    ProductAdoption *adoption() const { return productAdoption.data(); }
     Simulation *simulation() const { return simulated.data(); }
     Vehicle *vehicle() const;
     Recorder *recorder() const { return driveRecorder.data(); }
@@ -106,7 +108,7 @@ public:
 
 private:
     /// Enters the products to load for.
-    void enterProducts(const OpenRequest &request, LoadRequest &load) const;
+    void fillRequest(LoadRequest &load, const OpenRequest &request) const;
     void connectDisplay();
     void installGraphicsLists();
 
@@ -114,6 +116,7 @@ private:
     RealClock clock;
     QScopedPointer<PrescriptionBackend> prescriptions;
     QScopedPointer<Machine> machineModel;
+    QScopedPointer<ProductAdoption> productAdoption;
     LoadedMaps loadedMaps;
     QScopedPointer<Simulation> simulated;
     QScopedPointer<Recorder> driveRecorder;

@@ -13,7 +13,6 @@
 #include "bePluginRxMap/rxmaploader.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 /// What the machine publishes for plug-ins.
 class TestMachine : public TestBase {
@@ -39,12 +38,6 @@ private Q_SLOTS:
     void aChangeOfMapsNamesTheApplicationMapAnew();
     void reInitialisationsAreCounted();
     void sixteenProductsAreCountedThrough();
-    void productsThatStandInGiveWayToThoseOfTheFirstMap();
-    void aMachineWithItsOwnProductsKeepsThem();
-    void productsAreOfferedAnewWhereNoneStaysInUse();
-    void productsMadeAgainKeepWhatWasSet();
-    void defaultRatesFollowTheMap();
-    void aRateThatAFileGivesIsNoneThatWasSet();
 
 private:
     void build(const Products &products, UnitSystem units = UnitSystem::Metric);
@@ -280,170 +273,6 @@ void TestMachine::sixteenProductsAreCountedThrough()
     QCOMPARE(bins.size(), 16);
     QCOMPARE(bins.at(9), QStringLiteral("system.binGroup.10"));
     QCOMPARE(BinManager::instance(nullptr)->loadedFilteredProducts().size(), 16);
-}
-
-void TestMachine::productsThatStandInGiveWayToThoseOfTheFirstMap()
-{
-    machine->leaveProductsOpen();
-    const QSignalSpy changes(machine.data(), &Machine::productsChanged);
-    const auto request = [this](const char *path, const QStringList &columns) {
-        LoadRequest wanted;
-        wanted.path = TerminalHost::fixture(QLatin1String(path));
-        wanted.columns = columns;
-        machine->enterProducts(wanted);
-        return wanted;
-    };
-    // What cannot be loaded changes nothing.
-    QVERIFY(!backend->loadAndWait(request("three-zones.geojson", {"NONE"})).isOk());
-    QCOMPARE(changes.size(), 0);
-    const QStringList columns{"HERB_L_HA", "", "", "", "FERT_KG_HA"};
-    const LoadReport report = backend->loadAndWait(request("three-zones.geojson", columns));
-    QCOMPARE(report.error, QString());
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(machine->products().size(), 5);
-    QCOMPARE(machine->products().at(4).name, QStringLiteral("Fert"));
-    QCOMPARE(value("system.binGroup.1", "compositionShortName"), QVariant("Herb"));
-    QCOMPARE(value("system.binGroup.5", "compositionShortName"), QVariant("Fert"));
-    QCOMPARE(value("system.binGroup.5", "rxMapGroupName"), QVariant("rxMap.three-zones.geojson"));
-    QCOMPARE(value("system.productGroup.1", "rateKind"), QVariant(int(DbGroupProductGroupInfo::VolumeRate)));
-    QCOMPARE(value("system.productGroup.5", "rateKind"), QVariant(int(DbGroupProductGroupInfo::WeightRate)));
-    const QList<QObject *> items = BinManager::instance(broker.data())->loadedFilteredProducts();
-    QCOMPARE(items.size(), 5);
-    QVERIFY(qobject_cast<ProductLineItem *>(items.first())->isVolumeBasedProduct());
-    QCOMPARE(backend->loader(4)->defaultRate, 135.0);
-    // The next one finds them.
-    QVERIFY(backend->loadAndWait(request("two-strips.geojson", {})).isOk());
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(machine->products().size(), 5);
-}
-
-void TestMachine::aMachineWithItsOwnProductsKeepsThem()
-{
-    LoadRequest request;
-    request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
-    machine->enterProducts(request);
-    QCOMPARE(backend->loadAndWait(request).columnProducts.size(), 0);
-    QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
-}
-
-void TestMachine::productsAreOfferedAnewWhereNoneStaysInUse()
-{
-    const auto offered = [this](const QString &path) {
-        LoadRequest request;
-        request.path = path;
-        machine->offerProducts(request);
-        return request;
-    };
-    const QString zones = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
-    const QString other = TerminalHost::fixture(QStringLiteral("two-strips.geojson"));
-    QVERIFY(!offered(zones).makeProducts);
-    machine->leaveProductsOpen();
-    QVERIFY(offered(zones).makeProducts != nullptr);
-    LoadRequest request = offered(zones);
-    request.columns = QStringList{"", "FERT_KG_HA"};
-    QVERIFY(backend->loadAndWait(request).isOk());
-    QVERIFY(offered(other).products.at(1).inUseAt && !offered(other).products.at(0).inUseAt);
-    QVERIFY(offered(other).makeProducts != nullptr);
-    // A file does not stand in its own way.
-    QVERIFY(!offered(zones).products.at(1).inUseAt);
-    bool isKept = true;
-    machine->keepProductsWhile([&isKept] { return isKept; });
-    QVERIFY(!offered(other).makeProducts);
-    isKept = false;
-    QVERIFY(offered(other).makeProducts != nullptr);
-    machine->keepProductsWhile({});
-}
-
-void TestMachine::productsMadeAgainKeepWhatWasSet()
-{
-    const QString path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
-    const auto load = [this, &path](const QStringList &columns) {
-        machine->leaveProductsOpen();
-        LoadRequest request;
-        request.path = path;
-        request.columns = columns;
-        machine->offerProducts(request);
-        return backend->loadAndWait(request).isOk();
-    };
-    QVERIFY(load({"FERT_KG_HA", "HERB_L_HA", "SEED_K_HA", "FERT_KG_HA"}));
-    backend->loader(1)->defaultRate = 7.5;
-    const QSignalSpy changes(machine.data(), &Machine::productsChanged);
-    QVERIFY(load({"FERT_KG_HA", "HERB_L_HA", "SEED_K_HA", "FERT_KG_HA"}));
-    QCOMPARE(changes.size(), 0);
-    QVERIFY(load({"SEED_K_HA", "HERB_L_HA"}));
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(machine->products().size(), 4);
-    QCOMPARE(machine->products().first().name, QStringLiteral("Seed"));
-    QCOMPARE(backend->loader(1)->defaultRate, 7.5);
-}
-
-void TestMachine::defaultRatesFollowTheMap()
-{
-    const QTemporaryDir folder;
-    const auto load = [this, &folder](const QByteArray &rate) {
-        QFile zones(TerminalHost::fixture(QStringLiteral("three-zones.geojson")));
-        QFile changed(folder.filePath(QStringLiteral("changed.geojson")));
-        if (!zones.open(QIODevice::ReadOnly) || !changed.open(QIODevice::WriteOnly))
-            return false;
-        changed.write(zones.readAll().replace("\"SEED_K_HA\": 80.0", "\"SEED_K_HA\": " + rate));
-        changed.close();
-        machine->leaveProductsOpen();
-        LoadRequest request;
-        request.path = changed.fileName();
-        machine->offerProducts(request);
-        return backend->loadAndWait(request).isOk();
-    };
-    const auto defaultRate = [this] { return backend->loader(0)->defaultRate; };
-    QVERIFY(load("50.0"));
-    // The products are called as those that stood in.
-    QCOMPARE(machine->products().first().name, ProductFile::standard().first().name);
-    QCOMPARE(defaultRate(), 70.0);
-    QVERIFY(load("200.0"));
-    QCOMPARE(defaultRate(), 120.0);
-    backend->loader(0)->defaultRate = 99.0;
-    for (const char *rate : {"50.0", "200.0"}) {
-        QVERIFY(load(rate));
-        QCOMPARE(defaultRate(), 99.0);
-    }
-}
-
-void TestMachine::aRateThatAFileGivesIsNoneThatWasSet()
-{
-    const auto loadZones = [this] {
-        machine->leaveProductsOpen();
-        LoadRequest request;
-        request.path = TerminalHost::fixture(QStringLiteral("three-zones.geojson"));
-        request.columns = QStringList{"FERT_KG_HA"};
-        machine->offerProducts(request);
-        return backend->loadAndWait(request).isOk();
-    };
-    QVERIFY(loadZones());
-    QCOMPARE(backend->loader(0)->defaultRate, 135.0);
-    const QTemporaryDir folder;
-    QFile tasks(folder.filePath(QStringLiteral("TASKDATA.XML")));
-    QVERIFY(tasks.open(QIODevice::WriteOnly));
-    tasks.write(R"(<ISO11783_TaskData VersionMajor="4" VersionMinor="0" DataTransferOrigin="1">
-        <TSK A="TSK1" G="1" H="2"><TZN A="1"><PLN A="1"><LSG A="1"><PNT A="2" C="48" D="11"/><PNT A="2" C="48" D="11.01"/>
-        <PNT A="2" C="48.01" D="11"/><PNT A="2" C="48" D="11"/></LSG></PLN><PDV A="0006" B="9000"/></TZN>
-        <TZN A="2"><PDV A="0006" B="14815"/></TZN></TSK></ISO11783_TaskData>)");
-    tasks.close();
-    LoadRequest request;
-    request.path = folder.path();
-    machine->enterProducts(request);
-    QVERIFY(backend->loadAndWait(request).isOk());
-    QCOMPARE(backend->loader(0)->defaultRate, 148.15);
-    QVERIFY(loadZones());
-    QCOMPARE(backend->loader(0)->defaultRate, 135.0);
-    // Of a product that the machine does not have it takes nothing.
-    for (int number = request.products.size(); number < 8; ++number) {
-        for (MachineProduct &product : request.products)
-            product.isDriven = false;
-        request.products.append(request.products.first());
-        request.products.last().isDriven = true;
-    }
-    QVERIFY(backend->loadAndWait(request).isOk());
-    QCOMPARE(backend->maps().last().sources.first().product, 8);
-    QCOMPARE(machine->products().size(), 3);
 }
 
 RXMAP_TEST(TestMachine, Core)

@@ -1,4 +1,5 @@
 #include "machinebench.h"
+#include "productadoption.h"
 #include "testbase.h"
 #include "vehicle.h"
 
@@ -124,6 +125,7 @@ void TestSimulation::factorsOutOfRangeAreRefused()
 void TestSimulation::limitsFollowTheMap()
 {
     MachineBench bench;
+    ProductAdoption adoption(&bench.machine);
     const QTemporaryDir folder;
     const QSignalSpy changes(&bench.machine, &Machine::productsChanged);
     for (const double rate : {80.0, 90000.0}) {
@@ -137,8 +139,8 @@ void TestSimulation::limitsFollowTheMap()
                       .arg(rate)
                       .toUtf8());
         map.close();
-        bench.machine.leaveProductsOpen();
-        bench.machine.offerProducts(request);
+        adoption.adoptFromNextFile();
+        adoption.fillRequestForPreview(request);
         QVERIFY(bench.backend.loadAndWait(request).isOk());
         bench.place(QPointF(), 0.0, 1.0);
         bench.simulation.run(5.0);

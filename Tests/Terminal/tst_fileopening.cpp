@@ -2,6 +2,7 @@
 #include "machine.h"
 #include "openwindow.h"
 #include "paintedtexts.h"
+#include "productadoption.h"
 #include "simulation.h"
 #include "statusbar.h"
 #include "terminaltest.h"
@@ -216,7 +217,7 @@ void TestFileOpening::aDroppedFileIsOpenedThroughTheWindow()
 
 void TestFileOpening::theFirstFileBringsItsProducts()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
     QCOMPARE(button("columnRow1Product")->text(), QStringLiteral("Fert"));
@@ -238,7 +239,7 @@ void TestFileOpening::theFirstFileBringsItsProducts()
 
 void TestFileOpening::aFileThatReplacesAllBringsItsProducts()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     openByTouch(write("urea", {{"UREA_KG_HA", 1.0}}));
     QCOMPARE(productNames(), QStringList({"Urea", "Seed", "Herbicide"}));
     const QString lime = write("lime", {{"LIME_T_HA", 1.0}});
@@ -267,7 +268,7 @@ void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName_data()
 void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName()
 {
     QFETCH(QString, column);
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     Q_EMIT terminal().window()->dropped({write("left", {{column.toLatin1().constData(), 1.0}})}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
     button("columnRow0Product")->click();
@@ -282,7 +283,7 @@ void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName()
 
 void TestFileOpening::productsStayWhereOneIsInUseOrTheMachineMoves()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
     const QStringList names = productNames();
     Q_EMIT terminal().window()->dropped({write("lime", {{"LIME_T_HA", 1.0}})}, {});
@@ -302,7 +303,7 @@ void TestFileOpening::productsStayWhereOneIsInUseOrTheMachineMoves()
 
 void TestFileOpening::filesWantedTogetherShareTheProducts()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     Q_EMIT terminal().window()->dropped({write("urea", {{"UREA_KG_HA", 1.0}}), write("rate", {{"RATE", 1.0}})}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
     accept();
@@ -375,7 +376,7 @@ void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
 
 void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     QSignalSpy opened(terminal().openWindow(), &OpenWindow::opened);
     openByTouch(write("both", {{"UREA_KG_HA", 1.0}, {"UAN_L_HA", 1.0}}));
     Q_EMIT terminal().window()->dropped({write("far", {{"RYE_KG_HA", 1.0}}, 38.0)}, {});
@@ -392,7 +393,7 @@ void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
 
 void TestFileOpening::whatWasGuessedIsToldAfterwards()
 {
-    terminal().machine()->leaveProductsOpen();
+    terminal().adoption()->adoptFromNextFile();
     const QString file = TerminalHost::fixture(QStringLiteral("two-strips.geojson"));
     const auto findings = [this] {
         QStringList texts;

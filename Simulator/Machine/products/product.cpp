@@ -22,3 +22,24 @@ ActuatorSettings Product::usualActuator(Kind kind)
     }
     return {0.5, 0.5, 0.0, std::numeric_limits<double>::max()};
 }
+
+DbGroupProductGroupInfo::RateKind Product::rateKind() const
+{
+    switch (kind) {
+    case Kind::Count:
+        return DbGroupProductGroupInfo::CountRate;
+    case Kind::Ratio:
+        return isCarrier ? DbGroupProductGroupInfo::VolumeRate : DbGroupProductGroupInfo::RatioRate;
+    case Kind::Injection:
+        return isCarrier ? DbGroupProductGroupInfo::VolumeRate : DbGroupProductGroupInfo::InjectionRate;
+    case Kind::Volume:
+        return DbGroupProductGroupInfo::VolumeRate;
+    case Kind::Weight:
+        return DbGroupProductGroupInfo::WeightRate;
+    case Kind::Pressure:
+        return DbGroupProductGroupInfo::PressureRate;
+    case Kind::Unknown:
+        break;
+    }
+    return DbGroupProductGroupInfo::UnknownRate;
+}

@@ -2,6 +2,8 @@
 
 #include "actuatorsettings.h"
 
+#include "Framework/dbgroupproductgroupinfo.h"
+
 #include <QList>
 #include <QString>
 
@@ -27,10 +29,9 @@ struct Product {
     /// What meters a product of that kind when nothing else is said.
     static ActuatorSettings usualActuator(Kind kind);
     /// The kind by which the rate is counted: what a carrier node meters is a plain volume.
-    Kind rateKind() const
-    {
-        return isCarrier && (kind == Kind::Ratio || kind == Kind::Injection) ? Kind::Volume : kind;
-    }
+    DbGroupProductGroupInfo::RateKind rateKind() const;
+    /// Whether it is called and measured as the other one.
+    bool isSameAs(const Product &other) const { return name == other.name && kind == other.kind; }
 };
 
 using Products = QList<Product>;

@@ -5,25 +5,29 @@
 namespace {
 
 struct UnitTexts {
-    Product::Kind kind;
+    DbGroupProductGroupInfo::RateKind kind;
     const char *text[3]; ///< By UnitSystem.
     const char *comment[3];
 };
 
 // The comments tell translators what each abbreviation stands for.
 constexpr UnitTexts unitTexts[] = {
-    {Product::Kind::Count,
+    {DbGroupProductGroupInfo::CountRate,
      {"k/ac", "k/ha", "k/tu"},
      {"count per area: 1000/acre", "count per area: 1000/hectare", "count per area: 1000/turf"}},
-    {Product::Kind::Ratio,
+    {DbGroupProductGroupInfo::RatioRate,
      {"fl oz/gal", "L/L", "fl oz/gal"},
      {"fluid ounces/galon", "liter/liter", "fluid ounces/galon"}},
-    {Product::Kind::Injection,
+    {DbGroupProductGroupInfo::InjectionRate,
      {"fl oz/ac", "mL/ha", "fl oz/tu"},
      {"fluid ounce/acre", "milliliter/hectare", "fluid ounce/turf"}},
-    {Product::Kind::Volume, {"gal/ac", "L/ha", "gal/tu"}, {"gallons/acre", "liter/hectare", "gallons/turf"}},
-    {Product::Kind::Weight, {"lb/ac", "kg/ha", "lb/tu"}, {"pound/acre", "kilogram/hectare", "pound/turf"}},
-    {Product::Kind::Pressure,
+    {DbGroupProductGroupInfo::VolumeRate,
+     {"gal/ac", "L/ha", "gal/tu"},
+     {"gallons/acre", "liter/hectare", "gallons/turf"}},
+    {DbGroupProductGroupInfo::WeightRate,
+     {"lb/ac", "kg/ha", "lb/tu"},
+     {"pound/acre", "kilogram/hectare", "pound/turf"}},
+    {DbGroupProductGroupInfo::PressureRate,
      {"psi", "kPa", "psi"},
      {"unit of pressure: pound-force per square inch", "unit of pressure: kilopascals",
       "unit of pressure: pound-force per square inch"}},
@@ -31,7 +35,7 @@ constexpr UnitTexts unitTexts[] = {
 
 } // namespace
 
-QString rateUnit(Product::Kind kind, UnitSystem units)
+QString rateUnit(DbGroupProductGroupInfo::RateKind kind, UnitSystem units)
 {
     for (const UnitTexts &entry : unitTexts) {
         if (entry.kind == kind)

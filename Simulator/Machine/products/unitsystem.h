@@ -1,6 +1,6 @@
 #pragma once
 
-#include "product.h"
+#include "Framework/dbgroupproductgroupinfo.h"
 
 #include <QString>
 
@@ -8,7 +8,7 @@
 enum class UnitSystem { Us, Metric, Turf };
 
 /// What the terminal writes behind a rate of that kind, translated; empty for a product of unknown kind.
-QString rateUnit(Product::Kind kind, UnitSystem units);
+QString rateUnit(DbGroupProductGroupInfo::RateKind kind, UnitSystem units);
 /// What the host's units converter holds as "areaUnitSystem" and "pressureUnit".
 int areaUnitSystem(UnitSystem units);
 int pressureUnit(UnitSystem units);

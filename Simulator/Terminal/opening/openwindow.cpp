@@ -7,6 +7,7 @@
 #include "messagepage.h"
 #include "openmap.h"
 #include "previewpage.h"
+#include "productadoption.h"
 #include "progresspage.h"
 #include "theme.h"
 #include "unitpage.h"
@@ -16,9 +17,11 @@
 #include <QPainter>
 #include <QStackedLayout>
 
-OpenWindow::OpenWindow(Machine *terminalMachine, QSettings &settings, QWidget *parent)
+OpenWindow::OpenWindow(Machine *terminalMachine, const ProductAdoption *productAdoption, QSettings &settings,
+                       QWidget *parent)
     : QWidget(parent)
     , machine(terminalMachine)
+    , adoption(productAdoption)
     , recent(settings)
     , memory(settings)
     , pages(new QStackedLayout(this))
@@ -145,9 +148,9 @@ void OpenWindow::survey(const QString &path, const QString &layer, const QString
     showProgress(tr("Reading %1").arg(QFileInfo(path).fileName()), Busy::Surveying);
     LoadRequest request{path, {}, {}, {}, layer, task};
     if (together.isEmpty())
-        machine->offerProducts(request);
+        adoption->fillRequestForPreview(request);
     else
-        machine->enterProducts(request);
+        adoption->fillRequest(request);
     for (const QString &group : qAsConst(together)) {
         const QList<int> fed = machine->columnsOf(group).keys();
         for (const int number : fed)
@@ -182,7 +185,7 @@ void OpenWindow::takeSurvey(const SurveyReport &survey)
         tell(survey.error, files);
         return;
     }
-    selection = OpenSelection(survey, machine->loadedProductsFor(survey.columnProducts));
+    selection = OpenSelection(survey, adoption->productsFor(survey.columnProducts));
     if (before && before->layer == survey.layer && before->task == survey.task)
         selection.apply(*before);
     previews->show(selection, waiting.size());

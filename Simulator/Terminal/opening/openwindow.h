@@ -15,6 +15,7 @@ class Machine;
 class MessagePage;
 class Pager;
 class PreviewPage;
+class ProductAdoption;
 class ProgressPage;
 class QSettings;
 class QStackedLayout;
@@ -27,8 +28,9 @@ class OpenWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// `machine` and `settings`, in which files and choices are remembered, are not owned and outlive the window.
-    OpenWindow(Machine *machine, QSettings &settings, QWidget *parent = nullptr);
+    /// `machine`, `adoption` and `settings`, in which files and choices are remembered, are not owned and outlive the
+    /// window.
+    OpenWindow(Machine *machine, const ProductAdoption *adoption, QSettings &settings, QWidget *parent = nullptr);
 
     /// Offers a file, if it exists, to an operator who has none yet.
     void offerSample(const QString &path);
@@ -98,6 +100,7 @@ private:
     Pager *currentPager() const;
 
     Machine *machine;
+    const ProductAdoption *adoption;
     RecentFiles recent;
     ChoiceMemory memory;
     QStackedLayout *pages;

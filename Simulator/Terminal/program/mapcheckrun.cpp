@@ -5,6 +5,7 @@
 #include "consoleline.h"
 #include "findingkind.h"
 #include "machine.h"
+#include "productadoption.h"
 #include "productfile.h"
 #include "ratesourcetext.h"
 
@@ -59,7 +60,7 @@ QJsonObject jsonOf(const LoadReport &report)
     return file;
 }
 
-void print(const LoadReport &report, const Products &products)
+void print(const LoadReport &report, const QList<MachineProduct> &products)
 {
     if (!report.isOk()) {
         writeErrorLine(report.error);
@@ -97,13 +98,14 @@ int runMapCheck(const CommandLine &line)
     DataBroker broker;
     PrescriptionBackend backend(&broker);
     Machine machine(&broker, &backend, setup.products, line.units);
+    ProductAdoption adoption(&machine);
     if (setup.takesProductsFromFile)
-        machine.leaveProductsOpen();
+        adoption.adoptFromNextFile();
     QJsonArray files;
     int status = 0;
     for (const QString &path : line.prescriptions) {
         LoadRequest request{path, line.columns, line.sourceUnits, {}, line.layer, line.task};
-        machine.enterProducts(request);
+        adoption.fillRequest(request);
         const LoadReport report = PrescriptionBackend::check(request, setup.size.width);
         if (!report.isOk())
             status = 1;
@@ -112,7 +114,7 @@ int runMapCheck(const CommandLine &line)
         if (line.json)
             files.append(jsonOf(report));
         else
-            print(report, machine.productsFor(report.columnProducts));
+            print(report, adoption.productsFor(report.columnProducts));
     }
     if (line.json)
         writeOutputText(QJsonDocument(QJsonObject{{QStringLiteral("files"), files}}).toJson());

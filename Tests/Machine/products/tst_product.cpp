@@ -1,6 +1,8 @@
 #include "product.h"
 #include "testbase.h"
 
+Q_DECLARE_METATYPE(Product::Kind)
+
 /// A product of the machine.
 class TestProduct : public TestBase {
     Q_OBJECT
@@ -13,29 +15,27 @@ private Q_SLOTS:
 void TestProduct::onlyACarrierOfATankMixIsCountedAsAVolume_data()
 {
     using Kind = Product::Kind;
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("asCarrier");
-    const auto row = [](const char *name, Kind kind, Kind asCarrier) {
-        QTest::newRow(name) << int(kind) << int(asCarrier);
-    };
-    row("count", Kind::Count, Kind::Count);
-    row("ratio", Kind::Ratio, Kind::Volume);
-    row("injection", Kind::Injection, Kind::Volume);
-    row("volume", Kind::Volume, Kind::Volume);
-    row("weight", Kind::Weight, Kind::Weight);
-    row("pressure", Kind::Pressure, Kind::Pressure);
-    row("unknown", Kind::Unknown, Kind::Unknown);
+    using Info = DbGroupProductGroupInfo;
+    QTest::addColumn<Kind>("kind");
+    QTest::addColumn<Info::RateKind>("rateKind");
+    QTest::addColumn<Info::RateKind>("asCarrier");
+    QTest::newRow("count") << Kind::Count << Info::CountRate << Info::CountRate;
+    QTest::newRow("ratio") << Kind::Ratio << Info::RatioRate << Info::VolumeRate;
+    QTest::newRow("injection") << Kind::Injection << Info::InjectionRate << Info::VolumeRate;
+    QTest::newRow("volume") << Kind::Volume << Info::VolumeRate << Info::VolumeRate;
+    QTest::newRow("weight") << Kind::Weight << Info::WeightRate << Info::WeightRate;
+    QTest::newRow("pressure") << Kind::Pressure << Info::PressureRate << Info::PressureRate;
+    QTest::newRow("unknown") << Kind::Unknown << Info::UnknownRate << Info::UnknownRate;
 }
 
 void TestProduct::onlyACarrierOfATankMixIsCountedAsAVolume()
 {
-    QFETCH(int, kind);
-    QFETCH(int, asCarrier);
+    QFETCH(Product::Kind, kind);
     Product product;
-    product.kind = Product::Kind(kind);
-    QCOMPARE(int(product.rateKind()), kind);
+    product.kind = kind;
+    QTEST(product.rateKind(), "rateKind");
     product.isCarrier = true;
-    QCOMPARE(int(product.rateKind()), asCarrier);
+    QTEST(product.rateKind(), "asCarrier");
 }
 
 RXMAP_TEST(TestProduct, None)

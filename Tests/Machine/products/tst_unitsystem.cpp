@@ -5,7 +5,6 @@
 
 #include <QTranslator>
 
-Q_DECLARE_METATYPE(Product::Kind)
 Q_DECLARE_METATYPE(UnitSystem)
 
 /// What the terminal writes behind its rates.
@@ -36,21 +35,22 @@ public:
 
 void TestUnitSystem::ratesCarryTheUnitOfTheirKind_data()
 {
-    QTest::addColumn<Product::Kind>("kind");
+    QTest::addColumn<DbGroupProductGroupInfo::RateKind>("kind");
     QTest::addColumn<QStringList>("units");
     // In the US, metric and turf.
-    QTest::newRow("count") << Product::Kind::Count << QStringList{"k/ac", "k/ha", "k/tu"};
-    QTest::newRow("ratio") << Product::Kind::Ratio << QStringList{"fl oz/gal", "L/L", "fl oz/gal"};
-    QTest::newRow("injection") << Product::Kind::Injection << QStringList{"fl oz/ac", "mL/ha", "fl oz/tu"};
-    QTest::newRow("volume") << Product::Kind::Volume << QStringList{"gal/ac", "L/ha", "gal/tu"};
-    QTest::newRow("weight") << Product::Kind::Weight << QStringList{"lb/ac", "kg/ha", "lb/tu"};
-    QTest::newRow("pressure") << Product::Kind::Pressure << QStringList{"psi", "kPa", "psi"};
-    QTest::newRow("unknown") << Product::Kind::Unknown << QStringList{"", "", ""};
+    QTest::newRow("count") << DbGroupProductGroupInfo::CountRate << QStringList{"k/ac", "k/ha", "k/tu"};
+    QTest::newRow("ratio") << DbGroupProductGroupInfo::RatioRate << QStringList{"fl oz/gal", "L/L", "fl oz/gal"};
+    QTest::newRow("injection") << DbGroupProductGroupInfo::InjectionRate
+                               << QStringList{"fl oz/ac", "mL/ha", "fl oz/tu"};
+    QTest::newRow("volume") << DbGroupProductGroupInfo::VolumeRate << QStringList{"gal/ac", "L/ha", "gal/tu"};
+    QTest::newRow("weight") << DbGroupProductGroupInfo::WeightRate << QStringList{"lb/ac", "kg/ha", "lb/tu"};
+    QTest::newRow("pressure") << DbGroupProductGroupInfo::PressureRate << QStringList{"psi", "kPa", "psi"};
+    QTest::newRow("unknown") << DbGroupProductGroupInfo::UnknownRate << QStringList{"", "", ""};
 }
 
 void TestUnitSystem::ratesCarryTheUnitOfTheirKind()
 {
-    QFETCH(Product::Kind, kind);
+    QFETCH(DbGroupProductGroupInfo::RateKind, kind);
     QStringList units;
     for (const UnitSystem system : {UnitSystem::Us, UnitSystem::Metric, UnitSystem::Turf})
         units.append(rateUnit(kind, system));
@@ -61,9 +61,9 @@ void TestUnitSystem::unitsAreTranslatedWithTheConvertersTexts()
 {
     EchoingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCOMPARE(rateUnit(Product::Kind::Weight, UnitSystem::Metric),
+    QCOMPARE(rateUnit(DbGroupProductGroupInfo::WeightRate, UnitSystem::Metric),
              QStringLiteral("DbGroupQmlUnitsConverter/kg/ha/kilogram/hectare"));
-    QCOMPARE(rateUnit(Product::Kind::Count, UnitSystem::Turf),
+    QCOMPARE(rateUnit(DbGroupProductGroupInfo::CountRate, UnitSystem::Turf),
              QStringLiteral("DbGroupQmlUnitsConverter/k/tu/count per area: 1000/turf"));
 }
 

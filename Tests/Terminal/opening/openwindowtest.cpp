@@ -14,13 +14,14 @@ void OpenWindowTest::init()
     broker.reset(new DataBroker);
     backend.reset(new PrescriptionBackend(broker.data()));
     machine.reset(new Machine(broker.data(), backend.data(), ProductFile::standard(), UnitSystem::Metric));
+    adoption.reset(new ProductAdoption(machine.data()));
     requests.clear();
     startWindow();
 }
 
 void OpenWindowTest::startWindow()
 {
-    window.reset(new OpenWindow(machine.data(), *settings));
+    window.reset(new OpenWindow(machine.data(), adoption.data(), *settings));
     window->resize(1280, 728);
     connect(window.data(), &OpenWindow::wanted, this, [this](const OpenRequest &request) {
         requests.append(request);
@@ -39,6 +40,7 @@ void OpenWindowTest::startWindow()
 void OpenWindowTest::cleanup()
 {
     window.reset();
+    adoption.reset();
     machine.reset();
     backend.reset();
     broker.reset();

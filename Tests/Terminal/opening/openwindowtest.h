@@ -5,6 +5,7 @@
 #include "openrequest.h"
 #include "openwindow.h"
 #include "paths.h"
+#include "productadoption.h"
 #include "testbase.h"
 
 #include "Framework/databroker.h"
@@ -43,6 +44,7 @@ protected:
     QScopedPointer<DataBroker> broker;
     QScopedPointer<PrescriptionBackend> backend;
     QScopedPointer<Machine> machine;
+    QScopedPointer<ProductAdoption> adoption;
     QScopedPointer<OpenWindow> window;
     QList<OpenRequest> requests;
 };

@@ -92,7 +92,7 @@ void TestOpenWindow::classesAreThoseOfTheLoadedMap()
 
 void TestOpenWindow::longNamesAreShownWhole()
 {
-    machine->leaveProductsOpen();
+    adoption->adoptFromNextFile();
     window->preview({write({"Winter wheat compound fertiliser in autumn kg/ha"}, QStringLiteral("long.geojson"))});
     QVERIFY(waitFor("openAccept"));
     for (const char *name : {"columnRow0", "columnRow0Product"}) {

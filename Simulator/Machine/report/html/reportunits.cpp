@@ -55,13 +55,13 @@ ReportUnits::ReportUnits(const Machine &machine, int number)
 {
     if (number == 0)
         return;
-    const Product::Kind kind = machine.products().at(number - 1).rateKind();
+    const DbGroupProductGroupInfo::RateKind kind = machine.products().at(number - 1).rateKind();
     auto *info = qobject_cast<DbGroupProductGroupInfo *>(
         machine.dataBroker()->getGroup(Machine::productGroupName(number), false));
     rateFactor = getRateConversion(info);
     rateUnitText = ::rateUnit(kind, units);
-    const bool isPerArea = kind == Product::Kind::Count || kind == Product::Kind::Injection
-        || kind == Product::Kind::Volume || kind == Product::Kind::Weight;
+    const bool isPerArea = kind == DbGroupProductGroupInfo::CountRate || kind == DbGroupProductGroupInfo::InjectionRate
+        || kind == DbGroupProductGroupInfo::VolumeRate || kind == DbGroupProductGroupInfo::WeightRate;
     if (isPerArea)
         amountUnitText = rateUnitText.section(QLatin1Char('/'), 0, 0);
 }

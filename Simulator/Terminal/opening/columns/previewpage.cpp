@@ -201,9 +201,9 @@ void PreviewPage::showColumn(int index)
     content.factor = displayFactor;
     content.unit = column.unit;
     if (number > 0) {
-        content.product = selection->fedProducts().at(number - 1).name;
-        content.unit = rateUnit(machine->productsFor(selection->survey().columnProducts).at(number - 1).rateKind(),
-                                machine->unitSystem());
+        const MachineProduct &product = selection->fedProducts().at(number - 1);
+        content.product = product.name;
+        content.unit = rateUnit(product.kind, machine->unitSystem());
     }
     legend->show(content);
     legend->setFixedSize(legend->sizeHint());
