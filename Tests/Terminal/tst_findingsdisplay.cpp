@@ -86,7 +86,7 @@ void TestFindingsDisplay::aTouchedFindingIsShownOnTheMap()
         int pixels = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)
-                pixels += image.pixelColor(x, y) == Theme::accent() ? 1 : 0;
+                pixels += image.pixelColor(x, y) == Theme::colors().accent ? 1 : 0;
         }
         return pixels;
     };

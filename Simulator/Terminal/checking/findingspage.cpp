@@ -82,5 +82,5 @@ void FindingsPage::keyPressEvent(QKeyEvent *event)
 void FindingsPage::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), QColor(Theme::panel().rgb()));
+    Theme::drawPanel(painter, rect(), QColor(Theme::colors().panel.rgb()));
 }

@@ -165,5 +165,5 @@ void DrivePanel::resizeEvent(QResizeEvent *)
 void DrivePanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), Theme::panel());
+    Theme::drawPanel(painter, rect(), Theme::colors().panel);
 }

@@ -57,16 +57,17 @@ void WheelBar::hideEvent(QHideEvent *)
 void WheelBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    const Theme::Colors &colors = Theme::colors();
     const bool isOutOfReach = ButtonLook::isOutOfReach(*this);
-    const QColor ground = isOutOfReach ? Theme::disabledButton() : Theme::button();
+    const QColor ground = isOutOfReach ? colors.disabledButton : colors.button;
     Theme::drawPanel(painter, rect(), ground);
     const QPointF middle(width() / 2.0, height() / 2.0);
-    painter.setPen(QPen(Theme::faintText(), 3.0, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(colors.faintText, 3.0, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(middle - QPointF(reach(), 0.0), middle + QPointF(reach(), 0.0));
     painter.drawLine(middle - QPointF(0.0, 14.0), middle + QPointF(0.0, 14.0));
     const QPointF knob = middle + QPointF(turned * reach(), 0.0);
-    painter.setPen(QPen(Theme::textOnAccent(), 2.0));
-    painter.setBrush(isOutOfReach ? Theme::disabledText() : Theme::accent());
+    painter.setPen(QPen(colors.textOnAccent, 2.0));
+    painter.setBrush(isOutOfReach ? colors.disabledText : colors.accent);
     painter.drawEllipse(knob, knobRadius, knobRadius);
     painter.setBrush(ground);
     painter.drawEllipse(knob, knobRadius * 0.6, knobRadius * 0.6);

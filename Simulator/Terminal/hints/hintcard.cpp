@@ -101,6 +101,6 @@ void HintCard::mousePressEvent(QMouseEvent *event)
 void HintCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), QColor(Theme::panel().rgb()));
+    Theme::drawPanel(painter, rect(), QColor(Theme::colors().panel.rgb()));
     Theme::drawFocus(painter, rect(), false);
 }

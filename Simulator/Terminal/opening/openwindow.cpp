@@ -291,7 +291,7 @@ void OpenWindow::mousePressEvent(QMouseEvent *event)
 
 void OpenWindow::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), QColor(Theme::panel().rgb()));
+    QPainter(this).fillRect(rect(), QColor(Theme::colors().panel.rgb()));
 }
 
 void OpenWindow::showEvent(QShowEvent *)

@@ -56,9 +56,9 @@ void ProgressPage::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF track(sideSpace, title->geometry().bottom() + 1.5 * barHeight, width() - 2.0 * sideSpace, barHeight);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Theme::button());
+    painter.setBrush(Theme::colors().button);
     painter.drawRoundedRect(track, barHeight / 2.0, barHeight / 2.0);
-    painter.setBrush(Theme::accent());
+    painter.setBrush(Theme::colors().accent);
     const double filled = std::max<double>(barHeight, done * track.width());
     painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(filled, barHeight)), barHeight / 2.0, barHeight / 2.0);
 }

@@ -192,10 +192,10 @@ void TestDriveDisplay::theLookAheadPointIsSeenAheadOfTheVehicle()
     const QPointF asked = vehicle().position() + QPointF(0.0, 5.0);
     const QPoint seen = view.camera().project(asked).value_or(QPointF()).toPoint() + view.pos();
     // A ring of 9 pixels around it.
-    QCOMPARE(with.pixelColor(seen + QPoint(9, 0)), Theme::text());
+    QCOMPARE(with.pixelColor(seen + QPoint(9, 0)), Theme::colors().text);
     vehicle().stop();
     terminal().simulation()->run(1.0);
-    QVERIFY(overlay().pixelColor(seen + QPoint(9, 0)) != Theme::text());
+    QVERIFY(overlay().pixelColor(seen + QPoint(9, 0)) != Theme::colors().text);
 }
 
 RXMAP_TEST(TestDriveDisplay, Widgets)

@@ -169,11 +169,11 @@ void TestDrivePanel::whatADialogKeepsFromTheWheelLooksSo()
     controls->takeHand();
     QTRY_VERIFY(panel->wheel()->isVisible());
     const auto ground = [this] { return panel->wheel()->grab().toImage().pixelColor(panel->wheel()->width() / 2, 4); };
-    QCOMPARE(ground(), Theme::button());
+    QCOMPARE(ground(), Theme::colors().button);
     QDialog dialog;
     dialog.setModal(true);
     dialog.show();
-    QCOMPARE(ground(), Theme::disabledButton());
+    QCOMPARE(ground(), Theme::colors().disabledButton);
 }
 
 void TestDrivePanel::everyButtonIsBigEnoughForAGlove()

@@ -22,7 +22,7 @@ constexpr GLenum rowLengths[] = {GL_PACK_ROW_LENGTH, GL_UNPACK_ROW_LENGTH};
 
 QColor FieldScene::groundColor()
 {
-    return Theme::ground();
+    return Theme::colors().ground;
 }
 
 QColor FieldScene::onGround(const QColor &color)

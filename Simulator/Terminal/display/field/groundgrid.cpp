@@ -35,7 +35,7 @@ void GroundGrid::setRegion(const QRectF &region, double spacing)
 
 void GroundGrid::addLine(const QPointF &from, const QPointF &to, bool isMajor)
 {
-    const QColor line = Theme::groundLine();
+    const QColor line = Theme::colors().groundLine;
     const quint8 alpha = isMajor ? MajorAlpha : MinorAlpha;
     for (const QPointF &end : {from, to})
         vertices.append({float(end.x()),

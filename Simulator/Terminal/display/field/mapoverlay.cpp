@@ -116,7 +116,7 @@ void MapOverlay::paintEvent(QPaintEvent *)
 
 void MapOverlay::drawBoundary(QPainter &painter) const
 {
-    painter.setPen(QPen(Theme::panel(), 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Theme::colors().panel, 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     for (const QPolygonF &ring : boundary) {
         for (int i = 1; i < ring.size(); ++i) {
             const std::optional<QPointF> from = camera.project(ring.at(i - 1));
@@ -135,7 +135,7 @@ void MapOverlay::drawLookAhead(QPainter &painter) const
     if (!from || !to)
         return;
     painter.setBrush(Qt::NoBrush);
-    for (const QPen &pen : {QPen(Theme::textOnAccent(), 6.0), QPen(Theme::text(), 3.0)}) {
+    for (const QPen &pen : {QPen(Theme::colors().textOnAccent, 6.0), QPen(Theme::colors().text, 3.0)}) {
         painter.setPen(pen);
         painter.drawLine(*from, *to);
         painter.drawEllipse(*to, radius, radius);
@@ -151,21 +151,22 @@ void MapOverlay::drawVehicle(QPainter &painter) const
     painter.translate(*at);
     painter.rotate(vehicleHeading);
     const QPolygonF arrow({{0.0, -22.0}, {16.0, 18.0}, {0.0, 10.0}, {-16.0, 18.0}});
-    painter.setPen(QPen(Theme::textOnAccent(), 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Theme::accent());
+    painter.setPen(QPen(Theme::colors().textOnAccent, 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Theme::colors().accent);
     painter.drawPolygon(arrow);
     painter.restore();
 }
 
 void MapOverlay::drawNorthArrow(QPainter &painter) const
 {
+    const Theme::Colors &colors = Theme::colors();
     const QPointF middle(freeArea.right() - 40.0, freeArea.top() + 42.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Theme::panel());
+    painter.setBrush(colors.panel);
     painter.drawEllipse(middle, 34.0, 34.0);
-    painter.setBrush(Theme::accent());
+    painter.setBrush(colors.accent);
     painter.drawPolygon(QPolygonF({middle + QPointF(0, -28), middle + QPointF(10, -6), middle + QPointF(-10, -6)}));
-    painter.setPen(Theme::text());
+    painter.setPen(colors.text);
     painter.setFont(Theme::font(22, true));
     painter.drawText(QRectF(middle.x() - 20.0, middle.y() - 7.0, 40.0, 30.0), Qt::AlignCenter, tr("N", "north"));
 }
@@ -189,8 +190,8 @@ void MapOverlay::drawScaleBar(QPainter &painter) const
         label = (isLong ? tr("%1 mi") : tr("%1 ft")).arg(shown(length));
 
     const QPointF start(freeArea.left() + 22.0, freeArea.bottom() - 24.0);
-    Theme::drawPanel(painter, QRectF(start.x() - 14.0, start.y() - 34.0, pixels + 28.0, 48.0), Theme::panel());
-    painter.setPen(QPen(Theme::text(), 3.0, Qt::SolidLine, Qt::FlatCap));
+    Theme::drawPanel(painter, QRectF(start.x() - 14.0, start.y() - 34.0, pixels + 28.0, 48.0), Theme::colors().panel);
+    painter.setPen(QPen(Theme::colors().text, 3.0, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(start, start + QPointF(pixels, 0.0));
     painter.drawLine(start + QPointF(1.5, -7.0), start + QPointF(1.5, 1.5));
     painter.drawLine(start + QPointF(pixels - 1.5, -7.0), start + QPointF(pixels - 1.5, 1.5));
@@ -209,7 +210,8 @@ void MapOverlay::drawMark(QPainter &painter) const
     }
     painter.setBrush(Qt::NoBrush);
     // Light on dark, so that it stands out from any class colour.
-    for (const auto &[color, width] : {std::pair(Theme::textOnAccent(), 7.0), std::pair(Theme::accent(), 3.0)}) {
+    for (const auto &[color, width] :
+         {std::pair(Theme::colors().textOnAccent, 7.0), std::pair(Theme::colors().accent, 3.0)}) {
         painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolygon(outline);
         if (const std::optional<QPointF> at = camera.project(markAt))
@@ -224,7 +226,7 @@ void MapOverlay::drawAim(QPainter &painter) const
     if (!isAimed || !Theme::isFocusShown())
         return;
     const QPointF middle = freeArea.center();
-    for (const QPen &pen : {QPen(Theme::textOnAccent(), 7.0), QPen(Theme::accent(), 3.0)}) {
+    for (const QPen &pen : {QPen(Theme::colors().textOnAccent, 7.0), QPen(Theme::colors().accent, 3.0)}) {
         painter.setPen(pen);
         for (const QPointF &way : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
             painter.drawLine(middle + gap * way, middle + reach * way);
@@ -253,17 +255,18 @@ void MapOverlay::drawBubble(QPainter &painter) const
     QPainterPath tip;
     tip.addPolygon(QPolygonF({QPointF(foot - 14.0, edge), *at, QPointF(foot + 14.0, edge)}));
     tip.closeSubpath();
-    painter.setPen(QPen(Theme::text(), 2.0));
-    painter.setBrush(Theme::panel());
+    const Theme::Colors &colors = Theme::colors();
+    painter.setPen(QPen(colors.text, 2.0));
+    painter.setBrush(colors.panel);
     painter.drawPath(shape.united(tip));
     if (bubbleColor.isValid()) {
         painter.setBrush(FieldScene::onGround(bubbleColor));
         painter.drawRoundedRect(QRectF(box.left() + 16.0, box.center().y() - 17.0, 34.0, 34.0), 5.0, 5.0);
     }
-    painter.setPen(Theme::text());
+    painter.setPen(colors.text);
     painter.setFont(font);
     painter.drawText(box.adjusted(20.0 + swatch, 0.0, -10.0, 0.0), Qt::AlignVCenter | Qt::AlignLeft, text);
-    painter.setBrush(Theme::text());
-    painter.setPen(QPen(Theme::textOnAccent(), 2.0));
+    painter.setBrush(colors.text);
+    painter.setPen(QPen(colors.textOnAccent, 2.0));
     painter.drawEllipse(*at, 5.0, 5.0);
 }

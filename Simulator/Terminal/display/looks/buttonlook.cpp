@@ -14,13 +14,14 @@ bool ButtonLook::isOutOfReach(const QWidget &control)
 ButtonLook ButtonLook::of(const QAbstractButton &button, Checked checked)
 {
     const bool isAccent = button.isChecked() && checked == Checked::ByAccent;
+    const Theme::Colors &colors = Theme::colors();
     if (isOutOfReach(button)) {
-        const QColor text = isAccent ? Theme::accentText() : Theme::disabledText();
-        return {Theme::disabledButton(), text, Theme::disabledText(), Theme::disabledText(), false};
+        const QColor text = isAccent ? colors.accentText : colors.disabledText;
+        return {colors.disabledButton, text, colors.disabledText, colors.disabledText, false};
     }
     if (button.isDown())
-        return {Theme::pressedButton(), Theme::text(), Theme::text(), Theme::text(), false};
+        return {colors.pressedButton, colors.text, colors.text, colors.text, false};
     if (isAccent)
-        return {Theme::accent(), Theme::textOnAccent(), Theme::textOnAccent(), Theme::textOnAccent(), true};
-    return {Theme::button(), Theme::text(), Theme::faintText(), Theme::accentText(), false};
+        return {colors.accent, colors.textOnAccent, colors.textOnAccent, colors.textOnAccent, true};
+    return {colors.button, colors.text, colors.faintText, colors.accentText, false};
 }

@@ -56,11 +56,6 @@ Theme::Colors nightColors()
 
 Theme::Kind current = Theme::Kind::Day;
 
-const Theme::Colors &now()
-{
-    return Theme::colors(current);
-}
-
 } // namespace
 
 const Theme::Colors &Theme::colors(Kind kind)
@@ -88,91 +83,12 @@ Theme::Kind Theme::suiting(const QPalette &desktop)
 
 QPalette Theme::palette()
 {
-    const QBrush button = now().button;
-    QPalette palette(now().text, button, button, button, button, now().text, now().text, now().panel, now().panel);
-    palette.setColor(QPalette::Highlight, now().accent);
-    palette.setColor(QPalette::HighlightedText, now().textOnAccent);
+    const Colors &now = colors();
+    const QBrush button = now.button;
+    QPalette palette(now.text, button, button, button, button, now.text, now.text, now.panel, now.panel);
+    palette.setColor(QPalette::Highlight, now.accent);
+    palette.setColor(QPalette::HighlightedText, now.textOnAccent);
     return palette;
-}
-
-QColor Theme::panel()
-{
-    return now().panel;
-}
-
-QColor Theme::button()
-{
-    return now().button;
-}
-
-QColor Theme::pressedButton()
-{
-    return now().pressedButton;
-}
-
-QColor Theme::disabledButton()
-{
-    return now().disabledButton;
-}
-
-QColor Theme::accent()
-{
-    return now().accent;
-}
-
-QColor Theme::textOnAccent()
-{
-    return now().textOnAccent;
-}
-
-QColor Theme::caution()
-{
-    return now().caution;
-}
-
-QColor Theme::textOnCaution()
-{
-    return now().textOnCaution;
-}
-
-QColor Theme::text()
-{
-    return now().text;
-}
-
-QColor Theme::faintText()
-{
-    return now().faintText;
-}
-
-QColor Theme::disabledText()
-{
-    return now().disabledText;
-}
-
-QColor Theme::accentText()
-{
-    return now().accentText;
-}
-
-QColor Theme::prescribed()
-{
-    return now().prescribed;
-}
-
-QColor Theme::applied()
-{
-    return now().applied;
-}
-
-QColor Theme::ground()
-{
-    return now().ground;
-}
-
-QColor Theme::groundLine()
-{
-    return now().groundLine;
 }
 
 QFont Theme::font(int pixels, bool bold)
@@ -208,7 +124,7 @@ void Theme::drawFocus(QPainter &painter, const QRectF &area, bool onAccent)
     constexpr double width = 3.0;
     const double half = width / 2.0;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(onAccent ? textOnAccent() : accent(), width));
+    painter.setPen(QPen(onAccent ? colors().textOnAccent : colors().accent, width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(half, half, -half, -half), radius, radius);
 }

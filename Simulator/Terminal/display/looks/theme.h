@@ -18,7 +18,7 @@ enum class Kind { Day, Night };
 struct Colors {
     QColor panel;         ///< not quite opaque: the map shows through
     QColor button;        ///< and rows of lists
-    QColor pressedButton; ///< only text() is written on it
+    QColor pressedButton; ///< only text is written on it
     QColor disabledButton;
     QColor accent;
     QColor text; ///< on panel and buttons
@@ -34,11 +34,10 @@ struct Colors {
     QColor groundLine; ///< of the grid on the ground
 };
 
-const Colors &colors(Kind kind);
-
 /// The whole display has one theme: day, until another one is taken by TerminalWindow::setTheme().
 Kind inUse();
 void use(Kind kind);
+const Colors &colors(Kind kind = inUse());
 /// The theme that suits a desktop of these colours.
 Kind suiting(const QPalette &desktop);
 /// Of the theme in use, for the labels of the terminal.
@@ -51,24 +50,6 @@ constexpr double millimetresPerPixel = 0.17;
 constexpr int touchTarget = 72;
 /// No side may be shorter than this, millimetres.
 constexpr double leastTouchTarget = 9.0;
-
-/// Of the theme in use.
-QColor panel();
-QColor button();
-QColor pressedButton();
-QColor disabledButton();
-QColor accent();
-QColor textOnAccent();
-QColor caution();
-QColor textOnCaution();
-QColor text();
-QColor faintText();
-QColor disabledText();
-QColor accentText();
-QColor prescribed();
-QColor applied();
-QColor ground();
-QColor groundLine();
 
 /// The terminal's font in `pixels`.
 QFont font(int pixels, bool bold = false);

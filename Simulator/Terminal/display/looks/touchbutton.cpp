@@ -65,8 +65,10 @@ void TouchButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByAccent);
-    if (wantsCaution && !ButtonLook::isOutOfReach(*this) && !isDown())
-        look = {Theme::caution(), Theme::textOnCaution(), Theme::textOnCaution(), Theme::textOnCaution(), false};
+    if (wantsCaution && !ButtonLook::isOutOfReach(*this) && !isDown()) {
+        const Theme::Colors &colors = Theme::colors();
+        look = {colors.caution, colors.textOnCaution, colors.textOnCaution, colors.textOnCaution, false};
+    }
     Theme::drawPanel(painter, rect(), look.ground);
     if (hasFocus())
         Theme::drawFocus(painter, rect(), look.isOnAccent);

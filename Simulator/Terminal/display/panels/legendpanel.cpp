@@ -164,7 +164,7 @@ QSize LegendPanel::sizeHint() const
 void LegendPanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), Theme::panel());
+    Theme::drawPanel(painter, rect(), Theme::colors().panel);
     const QRect inner = rect().adjusted(inset, 0, -inset, 0);
     drawHead(painter, inner);
     if (texts.isEmpty())
@@ -176,7 +176,7 @@ void LegendPanel::paintEvent(QPaintEvent *)
 void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
 {
     drawNames(painter, inner);
-    painter.setPen(Theme::faintText());
+    painter.setPen(Theme::colors().faintText);
     if (texts.isEmpty()) {
         painter.setFont(Theme::font(20));
         painter.drawText(QRect(inner.left(), namesHeight() - 8, inner.width(), 38), Qt::AlignVCenter, tr("No map"));
@@ -188,10 +188,10 @@ void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
                      painter.fontMetrics().elidedText(told, Qt::ElideRight, inner.width()));
     painter.setFont(Theme::font(columnPixels));
     const QRect units(inner.left(), headHeight() - unitsHeight, inner.width(), 24);
-    painter.setPen(Theme::text());
+    painter.setPen(Theme::colors().text);
     painter.drawText(units.adjusted(textLeft, 0, 0, 0), Qt::AlignVCenter, content.unit);
     painter.drawText(units, Qt::AlignVCenter | Qt::AlignRight, content.areaUnit);
-    painter.setPen(QPen(Theme::faintText(), 1.0));
+    painter.setPen(QPen(Theme::colors().faintText, 1.0));
     painter.drawLine(units.topLeft(), units.topRight());
 }
 
@@ -204,11 +204,11 @@ void LegendPanel::drawNames(QPainter &painter, const QRect &inner) const
         y += height;
     };
     painter.setFont(Theme::font(isLong ? longProductPixels : productPixels, true));
-    painter.setPen(Theme::text());
+    painter.setPen(Theme::colors().text);
     for (const QString &line : productLines)
         draw(line, isLong ? longProductHeight : productHeight);
     painter.setFont(Theme::font(columnPixels));
-    painter.setPen(Theme::faintText());
+    painter.setPen(Theme::colors().faintText);
     for (const QString &line : columnLines)
         draw(line, columnHeight);
 }
@@ -224,7 +224,7 @@ void LegendPanel::drawClasses(QPainter &painter, const QRect &inner) const
     for (int i = 0; i < texts.size(); ++i) {
         const QRect row(inner.left(), headHeight() + i * height, inner.width(), height);
         const QRectF swatch(row.left() + 0.5, row.center().y() - swatchHeight / 2.0 + 0.5, swatchWidth, swatchHeight);
-        painter.setPen(QPen(Theme::text(), 1.0));
+        painter.setPen(QPen(Theme::colors().text, 1.0));
         painter.setBrush(FieldScene::onGround(content.classes.at(i).color));
         painter.drawRoundedRect(swatch, 4.0, 4.0);
         // A range of long numbers takes two lines.
@@ -243,16 +243,16 @@ void LegendPanel::drawFoot(QPainter &painter, const QRect &inner) const
     if (content.areaUnit.isEmpty())
         return;
     const int top = headHeight() + texts.size() * rowHeight() + 4;
-    painter.setPen(QPen(Theme::faintText(), 1.0));
+    painter.setPen(QPen(Theme::colors().faintText, 1.0));
     painter.drawLine(inner.left(), top, inner.right(), top);
     const auto drawLine = [&](int line, const QString &what, const QString &sum) {
         const QRect row(inner.left(), top + 4 + line * footLine, inner.width(), footLine);
         painter.setFont(Theme::font(16));
-        painter.setPen(Theme::faintText());
+        painter.setPen(Theme::colors().faintText);
         painter.drawText(row, Qt::AlignVCenter, what);
         painter.setFont(
             fittingFont({sum}, 18, inner.width() - painter.fontMetrics().horizontalAdvance(what) - 8, true));
-        painter.setPen(Theme::text());
+        painter.setPen(Theme::colors().text);
         painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, sum);
     };
     const auto withUnit = [](double sum, const QString &unit) { return sumText(sum) + QLatin1Char(' ') + unit; };

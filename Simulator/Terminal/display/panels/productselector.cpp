@@ -90,8 +90,8 @@ void ProductSelector::arrange()
 void ProductSelector::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), Theme::panel());
-    painter.setPen(Theme::faintText());
+    Theme::drawPanel(painter, rect(), Theme::colors().panel);
+    painter.setPen(Theme::colors().faintText);
     painter.setFont(Theme::font(17, true));
     painter.drawText(QRect(0, 0, width(), headingHeight), Qt::AlignCenter, tr("PRODUCTS"));
 }

@@ -100,13 +100,14 @@ void StatusBar::setProgress(const QString &file, double fraction)
 void StatusBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(Theme::panel().rgb()));
+    const Theme::Colors &colors = Theme::colors();
+    painter.fillRect(rect(), QColor(colors.panel.rgb()));
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect inner = textArea();
 
     const QRect speedArea(inner.right() - speedWidth, 0, speedWidth, height());
     painter.setFont(Theme::font(22, true));
-    painter.setPen(isMoving && !isPaused ? Theme::accentText() : Theme::text());
+    painter.setPen(isMoving && !isPaused ? colors.accentText : colors.text);
     painter.drawText(speedArea, Qt::AlignVCenter | Qt::AlignRight, isPaused ? tr("Paused") : speed);
 
     QRect mapArea(inner.left(), 0, inner.width() - speedWidth - Theme::margin, height());
@@ -114,17 +115,17 @@ void StatusBar::paintEvent(QPaintEvent *)
         mapArea.setWidth(mapArea.width() - progressWidth - Theme::margin);
         const QRect area(mapArea.right() + Theme::margin, 0, progressWidth, height());
         painter.setFont(Theme::font(15));
-        painter.setPen(Theme::faintText());
+        painter.setPen(colors.faintText);
         painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft, tr("Loading %1").arg(loading));
         const QRectF track(area.left(), height() - 22.0, area.width(), 12.0);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(Theme::button());
+        painter.setBrush(colors.button);
         painter.drawRoundedRect(track, 6.0, 6.0);
-        painter.setBrush(Theme::accent());
+        painter.setBrush(colors.accent);
         painter.drawRoundedRect(QRectF(track.topLeft(), QSizeF(qMax(12.0, track.width() * loaded), 12.0)), 6.0, 6.0);
     }
     painter.setFont(Theme::font(22, true));
-    painter.setPen(Theme::text());
+    painter.setPen(colors.text);
     painter.drawText(mapArea, Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(maps, Qt::ElideMiddle, mapArea.width()));
 }

@@ -80,5 +80,5 @@ void DriveStrip::arrange()
 void DriveStrip::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    Theme::drawPanel(painter, rect(), Theme::panel());
+    Theme::drawPanel(painter, rect(), Theme::colors().panel);
 }

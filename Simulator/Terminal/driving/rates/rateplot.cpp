@@ -82,14 +82,14 @@ void RatePlot::drawAxes(QPainter &painter, const Axes &axes, const QString &unit
     for (int i = 0; axes.least + i * axes.step <= axes.most + axes.step / 2; ++i) {
         const double rate = axes.least + i * axes.step;
         const double y = axes.at(axes.now, rate).y();
-        painter.setPen(QPen(Theme::button(), 1.0));
+        painter.setPen(QPen(Theme::colors().button, 1.0));
         painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
-        painter.setPen(Theme::faintText());
+        painter.setPen(Theme::colors().faintText);
         painter.drawText(QRectF(area.left() - rateWidth, y - 10.0, rateWidth - 6.0, 20.0),
                          Qt::AlignVCenter | Qt::AlignRight, ShownUnit().rateText(rate));
     }
     const QRectF below(area.left(), area.bottom() + 2.0, area.width(), timeHeight);
-    painter.setPen(Theme::faintText());
+    painter.setPen(Theme::colors().faintText);
     painter.drawText(QRectF(area.left() - rateWidth, area.top() - 6.0 - keyHeight, rateWidth - 6.0, keyHeight),
                      Qt::AlignVCenter | Qt::AlignRight, unit);
     painter.drawText(below, Qt::AlignVCenter | Qt::AlignHCenter, tr("\u2212%1 s").arg(RateHistory::span / 2));
@@ -113,7 +113,7 @@ void RatePlot::drawPrescribed(QPainter &painter, const Axes &axes, const Samples
     }
     painter.setBrush(Qt::NoBrush);
     // Wide enough to be seen beside the line that lies over it.
-    painter.setPen(QPen(Theme::prescribed(), 4.5, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(Theme::colors().prescribed, 4.5, Qt::SolidLine, Qt::FlatCap));
     painter.drawPath(path);
 }
 
@@ -122,7 +122,7 @@ void RatePlot::drawApplied(QPainter &painter, const Axes &axes, const Samples &s
     QPolygonF line;
     for (const RateHistory::Sample &sample : samples)
         line.append(axes.at(sample.time, factor * sample.applied));
-    painter.setPen(QPen(Theme::applied(), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Theme::colors().applied, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(line);
 }
 
@@ -134,10 +134,10 @@ void RatePlot::drawKey(QPainter &painter, const QRectF &row) const
         painter.setPen(QPen(color, 3.0));
         painter.drawLine(QPointF(left, row.center().y()), QPointF(left + 20.0, row.center().y()));
         left += 26.0;
-        painter.setPen(Theme::text());
+        painter.setPen(Theme::colors().text);
         painter.drawText(QRectF(left, row.top(), row.right() - left, row.height()), Qt::AlignVCenter, text);
         left += painter.fontMetrics().horizontalAdvance(text) + 16.0;
     };
-    add(Theme::prescribed(), tr("Plan here"));
-    add(Theme::applied(), tr("Applied"));
+    add(Theme::colors().prescribed, tr("Plan here"));
+    add(Theme::colors().applied, tr("Applied"));
 }

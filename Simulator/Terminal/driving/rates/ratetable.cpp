@@ -76,7 +76,7 @@ void RateTable::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const QRect row(0, 4, width(), headHeight - 4);
     const QFont font = Theme::font(15);
-    painter.setPen(Theme::faintText());
+    painter.setPen(Theme::colors().faintText);
     RateRow::drawCell(painter, row, RateRow::Name, font, tr("Product"));
     RateRow::drawCell(painter, row, RateRow::Prescribed, font, tr("Prescribed"));
     RateRow::drawCell(painter, row, RateRow::Commanded, font, tr("Commanded"));

@@ -20,6 +20,6 @@ QSize Caption::minimumSizeHint() const
 void Caption::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(Theme::text());
+    painter.setPen(Theme::colors().text);
     painter.drawText(rect(), int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
 }

@@ -57,7 +57,7 @@ void ListRow::paintEvent(QPaintEvent *)
     const ButtonLook look = ButtonLook::of(*this, ButtonLook::Checked::ByOther);
     Theme::drawPanel(painter, rect(), look.ground);
     if (isChecked())
-        Theme::drawPanel(painter, QRect(0, 0, markWidth, height()), Theme::accent());
+        Theme::drawPanel(painter, QRect(0, 0, markWidth, height()), Theme::colors().accent);
     if (hasFocus())
         Theme::drawFocus(painter, rect(), false);
     QRect inner = rect().adjusted(inset, 0, -inset, 0);

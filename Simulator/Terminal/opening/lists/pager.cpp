@@ -69,6 +69,6 @@ void Pager::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setFont(Theme::font(18, true));
-    painter.setPen(Theme::faintText());
+    painter.setPen(Theme::colors().faintText);
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("%1 / %2").arg(page + 1).arg(pages()));
 }

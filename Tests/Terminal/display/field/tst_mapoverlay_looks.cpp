@@ -167,7 +167,7 @@ void TestMapOverlayLooks::theScaleBarIsOfARoundLength()
     const int y = int(freeArea.bottom()) - 24;
     int longest = 0;
     for (int x = 0, run = 0; x < image.width(); ++x) {
-        run = image.pixelColor(x, y) == Theme::text() ? run + 1 : 0;
+        run = image.pixelColor(x, y) == Theme::colors().text ? run + 1 : 0;
         longest = qMax(longest, run);
     }
     const double expected = number * metres.value(label.at(1)) / camera.metresPerPixel(camera.target());
@@ -194,10 +194,10 @@ void TestMapOverlayLooks::theVehicleStandsAtItsPlaceAndPointsAhead()
     const QPointF field = camera.fieldPoint(place).value();
     overlay->setVehicle(field, heading);
     const QImage image = picture();
-    QCOMPARE(image.pixelColor(place), Theme::accent());
+    QCOMPARE(image.pixelColor(place), Theme::colors().accent);
     // The arrow reaches further ahead than behind, where it is notched.
-    QCOMPARE(image.pixelColor(place + 12 * ahead), Theme::accent());
-    QVERIFY(image.pixelColor(place - 14 * ahead) != Theme::accent());
+    QCOMPARE(image.pixelColor(place + 12 * ahead), Theme::colors().accent);
+    QVERIFY(image.pixelColor(place - 14 * ahead) != Theme::colors().accent);
 }
 
 RXMAP_TEST(TestMapOverlayLooks, Widgets)

@@ -124,10 +124,10 @@ void TestTheme::thePaletteIsThatOfTheThemeInUse()
 {
     Theme::use(Kind::Night);
     QCOMPARE(Theme::palette().color(QPalette::WindowText), Theme::colors(Kind::Night).text);
-    QCOMPARE(Theme::panel(), Theme::colors(Kind::Night).panel);
+    QCOMPARE(Theme::colors().panel, Theme::colors(Kind::Night).panel);
     Theme::use(Kind::Day);
     QCOMPARE(Theme::palette().color(QPalette::WindowText), Theme::colors(Kind::Day).text);
-    QCOMPARE(Theme::panel(), Theme::colors(Kind::Day).panel);
+    QCOMPARE(Theme::colors().panel, Theme::colors(Kind::Day).panel);
 }
 
 void TestTheme::aPanelIsFilledToItsEdgesAndHasRoundCorners()

@@ -69,15 +69,15 @@ void TestTouchButton::colorsTellItsState()
 {
     TouchButton button(QStringLiteral("Seed"));
     button.resize(200, 88);
-    QCOMPARE(ground(button).rgb(), Theme::button().rgb());
+    QCOMPARE(ground(button).rgb(), Theme::colors().button.rgb());
     button.setCheckable(true);
     button.setChecked(true);
-    QCOMPARE(ground(button).rgb(), Theme::accent().rgb());
+    QCOMPARE(ground(button).rgb(), Theme::colors().accent.rgb());
     button.setDown(true);
-    QCOMPARE(ground(button).rgb(), Theme::pressedButton().rgb());
+    QCOMPARE(ground(button).rgb(), Theme::colors().pressedButton.rgb());
     button.setDown(false);
     button.setChecked(false);
-    QCOMPARE(ground(button).rgb(), Theme::button().rgb());
+    QCOMPARE(ground(button).rgb(), Theme::colors().button.rgb());
 }
 
 void TestTouchButton::theKeyboardReachesIt()
@@ -102,7 +102,7 @@ void TestTouchButton::aSymbolStandsForTheText()
     int lit = 0;
     const QImage picture = button.grab().toImage();
     for (int x = 0; x < picture.width(); ++x)
-        lit += picture.pixelColor(x, 42) == Theme::text() ? 1 : 0;
+        lit += picture.pixelColor(x, 42) == Theme::colors().text ? 1 : 0;
     QVERIFY(lit > 10);
 }
 
@@ -114,13 +114,13 @@ void TestTouchButton::aFrameTellsWhoHasTheKeyboard()
     button.show();
     QApplication::setActiveWindow(&button);
     button.clearFocus();
-    QCOMPARE(edge().rgb(), Theme::button().rgb());
+    QCOMPARE(edge().rgb(), Theme::colors().button.rgb());
     button.setFocus();
     QTRY_VERIFY(button.hasFocus());
     // A finger brought it here.
-    QCOMPARE(edge().rgb(), Theme::button().rgb());
+    QCOMPARE(edge().rgb(), Theme::colors().button.rgb());
     Theme::showFocus(true);
-    QCOMPARE(edge().rgb(), Theme::accent().rgb());
+    QCOMPARE(edge().rgb(), Theme::colors().accent.rgb());
     Theme::showFocus(false);
 }
 

@@ -95,11 +95,11 @@ void TestStatusBar::itTellsTheSpeedInTheOperatorsUnit()
 
 void TestStatusBar::aMovingVehiclesSpeedStandsOut()
 {
-    QCOMPARE(pixelsOf(Theme::accentText()), 0);
+    QCOMPARE(pixelsOf(Theme::colors().accentText), 0);
     bar->setSpeed(3.0, true);
-    QVERIFY(pixelsOf(Theme::accentText()) > 50);
+    QVERIFY(pixelsOf(Theme::colors().accentText) > 50);
     bar->setSpeed(0.0, true);
-    QCOMPARE(pixelsOf(Theme::accentText()), 0);
+    QCOMPARE(pixelsOf(Theme::colors().accentText), 0);
 }
 
 void TestStatusBar::aPauseIsToldInPlaceOfTheSpeed()
@@ -107,7 +107,7 @@ void TestStatusBar::aPauseIsToldInPlaceOfTheSpeed()
     bar->setSpeed(3.0, true);
     bar->setPaused(true);
     QCOMPARE(paintedTexts(*bar).first(), QStringLiteral("Paused"));
-    QCOMPARE(pixelsOf(Theme::accentText()), 0);
+    QCOMPARE(pixelsOf(Theme::colors().accentText), 0);
     bar->setPaused(false);
     QCOMPARE(paintedTexts(*bar).first(), QStringLiteral("10.8 km/h"));
 }
@@ -118,7 +118,7 @@ void TestStatusBar::aLoadShowsItsFileWhileItRuns()
     QVERIFY(paintedTexts(*bar).contains(QStringLiteral("Loading spots.gpkg")));
     bar->setProgress(QString(), 0.0);
     QVERIFY(paintedTexts(*bar).filter(QStringLiteral("Loading")).isEmpty());
-    QCOMPARE(pixelsOf(Theme::accent()), 0);
+    QCOMPARE(pixelsOf(Theme::colors().accent), 0);
 }
 
 void TestStatusBar::theProgressBarGrowsWithTheLoad()
@@ -126,7 +126,7 @@ void TestStatusBar::theProgressBarGrowsWithTheLoad()
     QList<int> pixels;
     for (const double fraction : {-1.0, 0.0, 0.25, 0.5, 0.75, 1.0, 7.0}) {
         bar->setProgress(QStringLiteral("spots.gpkg"), fraction);
-        pixels.append(pixelsOf(Theme::accent()));
+        pixels.append(pixelsOf(Theme::colors().accent));
     }
     QCOMPARE(pixels.at(0), pixels.at(1));
     for (int i = 2; i <= 5; ++i)
@@ -143,7 +143,7 @@ void TestStatusBar::buttonsStandBeforeTheTexts()
         const QImage picture = bar->grab(QRect(0, 20, 600, 32)).toImage();
         for (int x = 0; x < picture.width(); ++x) {
             for (int y = 0; y < picture.height(); ++y) {
-                if (picture.pixelColor(x, y) == Theme::text())
+                if (picture.pixelColor(x, y) == Theme::colors().text)
                     return x;
             }
         }

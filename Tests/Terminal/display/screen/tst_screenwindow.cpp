@@ -273,7 +273,7 @@ void TestScreenWindow::whatADialogKeepsFromTouchesLooksSo()
     resizeTo(TerminalWindow::displaySize);
     auto *button = display->findChild<TouchButton *>(QStringLiteral("zoomIn"));
     const QPoint ground = button->mapTo(display.data(), QPoint(button->width() / 2, 6));
-    QCOMPARE(colorAt(ground), Theme::button());
+    QCOMPARE(colorAt(ground), Theme::colors().button);
     QDialog dialog;
     TouchButton done(QStringLiteral("Done"), &dialog);
     done.setGeometry(10, 10, 100, 80);
@@ -284,10 +284,10 @@ void TestScreenWindow::whatADialogKeepsFromTouchesLooksSo()
             [&seenAnew](const QRegion &part) { seenAnew += part; });
     dialog.show();
     QVERIFY(seenAnew.contains(ground));
-    QCOMPARE(colorAt(ground), Theme::disabledButton());
-    QCOMPARE(colorAt(dialog.pos() + QPoint(60, 16)), Theme::button());
+    QCOMPARE(colorAt(ground), Theme::colors().disabledButton);
+    QCOMPARE(colorAt(dialog.pos() + QPoint(60, 16)), Theme::colors().button);
     dialog.close();
-    QCOMPARE(colorAt(ground), Theme::button());
+    QCOMPARE(colorAt(ground), Theme::colors().button);
 }
 
 void TestScreenWindow::aPopupIsSeenAndClosesWhenTouchedBeside()

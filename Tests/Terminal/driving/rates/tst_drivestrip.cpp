@@ -254,9 +254,8 @@ int TestDriveStrip::lineAt(const QImage &plot, double secondsBack)
     const int x = int(right - secondsBack / RateHistory::span * (right - left));
     for (int y = 36; y < plot.height() - 24; ++y) {
         const QColor color = plot.pixelColor(x, y);
-        if (qAbs(color.red() - Theme::applied().red()) + qAbs(color.green() - Theme::accent().green())
-                + qAbs(color.blue() - Theme::applied().blue())
-            < 60)
+        const QColor line = Theme::colors().applied;
+        if (qAbs(color.red() - line.red()) + qAbs(color.green() - line.green()) + qAbs(color.blue() - line.blue()) < 60)
             return y;
     }
     return -1;
@@ -274,7 +273,7 @@ void TestDriveStrip::thePlotShowsTheStepWhereItIsApplied()
     RatePlot plot(&bench->machine, &history);
     plot.resize(277, 164);
     QImage image(plot.size(), QImage::Format_RGB32);
-    image.fill(Theme::panel());
+    image.fill(Theme::colors().panel);
     plot.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     QCOMPARE(lineAt(image, 27.0), -1);
     const int before = lineAt(image, 15.0);
