@@ -14,8 +14,12 @@ function(run)
     endif()
 endfunction()
 
-run(${CMAKE_COMMAND} -S "${SOURCE}" -B "${FOLDER}/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug
-    -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "-DRXMAP_HOST_SDK=${FOLDER}/kit")
+function(configure kit)
+    run(${CMAKE_COMMAND} -S "${SOURCE}" -B "${FOLDER}/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug
+        -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "-DRXMAP_HOST_SDK=${FOLDER}/${kit}")
+endfunction()
+
+configure(kit)
 run(${CMAKE_COMMAND} --build "${FOLDER}/build")
 foreach(made libuiPluginRxMap.so translations/uiPluginRxMap_de.qm)
     if(NOT EXISTS "${FOLDER}/build/Plugins/uiPluginRxMap/${made}")
@@ -27,3 +31,11 @@ foreach(foreign Simulator Tests Benchmarks)
         message(FATAL_ERROR "${foreign} was built too")
     endif()
 endforeach()
+
+# The folder goes over to another kit as a whole.
+file(RENAME "${FOLDER}/kit" "${FOLDER}/other")
+configure(other)
+file(STRINGS "${FOLDER}/build/build.ninja" former REGEX "${FOLDER}/kit/")
+if(former)
+    message(FATAL_ERROR "still built against the former kit: ${former}")
+endif()

@@ -5,7 +5,7 @@ target_include_directories(HostInterfaces SYSTEM INTERFACE "${RXMAP_HOST_SDK}/in
 
 function(rxmap_import_host_library name)
     find_library(RXMAP_${name}_LIBRARY NAMES ${name} "lib${name}.so.1" PATHS "${RXMAP_HOST_SDK}/lib"
-        NO_DEFAULT_PATH REQUIRED)
+        NO_DEFAULT_PATH NO_CACHE REQUIRED)
     add_library(${name} SHARED IMPORTED)
     set_target_properties(${name} PROPERTIES IMPORTED_LOCATION "${RXMAP_${name}_LIBRARY}")
     target_link_libraries(${name} INTERFACE HostInterfaces Qt5::Widgets)
