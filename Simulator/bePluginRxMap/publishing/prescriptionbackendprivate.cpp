@@ -153,15 +153,17 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
     if (map->report.isOk() && job->cancelled)
         map->report = refuse(map->report.path, BackendText::tr("loading was cancelled"));
     const bool isChange = map->report.isOk();
+    // Listeners may do anything, even delete the back-end, which then tells itself how the load ended.
+    const QPointer<PrescriptionBackend> backend = q;
     if (isChange && !map->report.columnProducts.isEmpty())
         Q_EMIT q->productsMade(map->report.columnProducts);
+    if (!backend)
+        return;
     if (isChange)
         remarkPlane(*map, job->request.replacedGroups);
     const LoadReport report = isChange ? publish(std::move(map)) : map->report;
     jobs.pop_front();
     startNext();
-    // Listeners may do anything, even delete the back-end.
-    const QPointer<PrescriptionBackend> backend = q;
     if (isChange)
         Q_EMIT backend->mapsChanged();
     if (backend)

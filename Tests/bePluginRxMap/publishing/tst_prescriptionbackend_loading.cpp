@@ -23,6 +23,7 @@ private Q_SLOTS:
     void putsDefaultRatesOfTaskDataIntoUse();
     void givesProductsThatItMakesTheMapsRates();
     void isDestroyedWhileItLoads();
+    void letsAListenerDestroyIt_data();
     void letsAListenerDestroyIt();
     void givesALoadUpWhenTheProgramEnds_data();
     void givesALoadUpWhenTheProgramEnds();
@@ -211,11 +212,25 @@ void PrescriptionBackendLoadingTest::isDestroyedWhileItLoads()
     QVERIFY(report.error.contains(QStringLiteral("cancelled")));
 }
 
+void PrescriptionBackendLoadingTest::letsAListenerDestroyIt_data()
+{
+    QTest::addColumn<bool>("isPublished");
+    QTest::newRow("before the map is published") << false;
+    QTest::newRow("when the map is published") << true;
+}
+
 void PrescriptionBackendLoadingTest::letsAListenerDestroyIt()
 {
-    connect(backend.data(), &PrescriptionBackend::mapsChanged, this, [this] { delete backend.take(); });
-    const LoadReport report = load("three-zones.geojson");
-    QVERIFY(report.isOk());
+    QFETCH(bool, isPublished);
+    const auto destroy = [this] { delete backend.take(); };
+    if (isPublished)
+        connect(backend.data(), &PrescriptionBackend::mapsChanged, this, destroy);
+    else
+        connect(backend.data(), &PrescriptionBackend::productsMade, this, destroy);
+    LoadRequest request = requestFor(fixture("three-zones.geojson"));
+    request.makeProducts = [products = request.products](const QList<ColumnProduct> &) { return products; };
+    const LoadReport report = backend->loadAndWait(request);
+    QCOMPARE(report.isOk(), isPublished);
     QVERIFY(backend.isNull());
     QVERIFY(broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty());
 }
