@@ -47,10 +47,12 @@ UnpackingFolder::UnpackingFolder()
     : folder(nextName())
     , inUse(openFolder(folder.path()))
 {
-    flock(inUse, LOCK_SH);
+    if (inUse < 0 || flock(inUse, LOCK_SH) != 0)
+        problem = qt_error_string();
 }
 
 UnpackingFolder::~UnpackingFolder()
 {
-    close(inUse);
+    if (inUse >= 0)
+        close(inUse);
 }

@@ -12,9 +12,10 @@ public:
     UnpackingFolder();
     ~UnpackingFolder();
 
-    bool isValid() const { return folder.isValid(); }
+    /// Whether it is there and others are kept from removing it.
+    bool isValid() const { return folder.isValid() && problem.isEmpty(); }
     QString path() const { return folder.path(); }
-    QString error() const { return folder.errorString(); }
+    QString error() const { return folder.isValid() ? problem : folder.errorString(); }
 
 private:
     Q_DISABLE_COPY(UnpackingFolder)
@@ -22,4 +23,5 @@ private:
     QTemporaryDir folder;
     /// A descriptor of the folder whose lock says that it is in use.
     int inUse;
+    QString problem; ///< Why it cannot be locked.
 };

@@ -5,8 +5,10 @@
 #include <QSet>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <ctime>
 #include <memory>
+#include <sys/resource.h>
 #include <utime.h>
 
 class UnpackingFolderTest : public TestBase {
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void onlyWhatWasLeftBehindGoes();
+    void isOfNoUseWhereItCannotBeKeptFromOthers();
 
 private:
     /// A folder with a file in it, last changed two hours ago.
@@ -64,6 +67,18 @@ void UnpackingFolderTest::onlyWhatWasLeftBehindGoes()
     const QString path = used->path();
     used.reset();
     QVERIFY(!QFile::exists(path));
+}
+
+void UnpackingFolderTest::isOfNoUseWhereItCannotBeKeptFromOthers()
+{
+    rlimit files{};
+    QCOMPARE(getrlimit(RLIMIT_NOFILE, &files), 0);
+    const rlimit none{0, files.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const UnpackingFolder folder;
+    setrlimit(RLIMIT_NOFILE, &files);
+    QVERIFY(!folder.isValid());
+    QCOMPARE(folder.error(), qt_error_string(EMFILE));
 }
 
 RXMAP_TEST(UnpackingFolderTest, Core)
