@@ -13,7 +13,8 @@ constexpr int ratio = 2;
 QString finerPath(const QString &path)
 {
     const QFileInfo file(path);
-    return file.dir().filePath(QStringLiteral("%1@%2x.%3").arg(file.completeBaseName()).arg(ratio).arg(file.suffix()));
+    return file.dir().filePath(
+        QStringLiteral("%1@%2x.%3").arg(file.completeBaseName(), QString::number(ratio), file.suffix()));
 }
 
 } // namespace

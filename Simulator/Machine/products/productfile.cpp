@@ -152,9 +152,8 @@ Result<MachineSize> readSize(const QJsonObject &object)
         const double number = entry.value().toDouble(std::nan(""));
         if (!(number >= field->least && number <= field->most))
             return Result<MachineSize>::failure(QStringLiteral("%1 is %2; a number from %3 to %4 is wanted")
-                                                    .arg(written(entry.key()), written(entry.value()))
-                                                    .arg(field->least)
-                                                    .arg(field->most));
+                                                    .arg(written(entry.key()), written(entry.value()),
+                                                         QString::number(field->least), QString::number(field->most)));
         size.*field->field = number;
     }
     return {size, {}};

@@ -61,14 +61,13 @@ QString ScriptRunner::run(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(path, file.errorString());
     if (file.size() > mostBytes)
-        return QStringLiteral("%1: has more than %2 MB").arg(path).arg(mostBytes >> 20);
+        return QStringLiteral("%1: has more than %2 MB").arg(path, QString::number(mostBytes >> 20));
     const QByteArray program = file.readAll();
     // The engine would take the text before it for the whole.
     const int nul = program.indexOf('\0');
     if (nul >= 0)
         return QStringLiteral("%1:%2: holds a NUL byte, so it is no text")
-            .arg(path)
-            .arg(program.left(nul).count('\n') + 1);
+            .arg(path, QString::number(program.left(nul).count('\n') + 1));
     return evaluate(QString::fromUtf8(program), path);
 }
 

@@ -88,6 +88,9 @@ void TestProductFile::badFilesAreRefusedInOneLine_data()
         << QByteArray(R"([{"name": "A", "kind": "count", "timeConstant": 1e9}])") << "is longer than 60 s";
     QTest::newRow("no width") << QByteArray(R"({"width": 0, "products": [{"name": "A", "kind": "count"}]})")
                               << "\"width\" is 0; a number from 0.5 to 200 is wanted";
+    QTest::newRow("a width like a place in a text")
+        << QByteArray(R"({"width": "%3", "products": [{"name": "A", "kind": "count"}]})")
+        << "\"width\" is \"%3\"; a number from 0.5 to 200 is wanted";
     QTest::newRow("no radius") << QByteArray(R"({"minRadius": 0, "products": [{"name": "A", "kind": "count"}]})")
                                << "\"minRadius\" is 0; a number from 0.1 to 200 is wanted";
     QTest::newRow("unknown key of the machine")

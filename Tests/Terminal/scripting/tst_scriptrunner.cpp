@@ -108,7 +108,7 @@ void TestScriptRunner::onlyAPlainFileIsRunAsScript()
 
 void TestScriptRunner::whatIsNoScriptIsRefused()
 {
-    const QString path = folder->filePath(QStringLiteral("no-script.js"));
+    const QString path = folder->filePath(QStringLiteral("no-script%2.js"));
     ScriptRunner runner(&host->terminal());
     writeFile(path, QByteArray("print('a');\n\0\nthrow 1;", 21));
     QCOMPARE(runner.run(path), path + QStringLiteral(":2: holds a NUL byte, so it is no text"));

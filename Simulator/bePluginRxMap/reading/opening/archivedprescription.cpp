@@ -75,7 +75,8 @@ QString ArchivedPrescription::unpack(const QDir &folder)
     for (const ZipArchive::Entry *part : parts)
         size += part->size;
     if (size > ZipArchive::mostBytes) {
-        fail(BackendText::tr("\"%1\" in it has more than %2 MB").arg(main->path).arg(ZipArchive::mostBytes >> 20));
+        fail(BackendText::tr("\"%1\" in it has more than %2 MB")
+                 .arg(main->path, QString::number(ZipArchive::mostBytes >> 20)));
         return {};
     }
     const QString base = folder.filePath(QFileInfo(main->name()).completeBaseName());

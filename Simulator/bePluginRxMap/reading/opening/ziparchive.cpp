@@ -158,7 +158,8 @@ bool ZipArchive::unpack(const Entry &entry, QByteArray &bytes)
     if (entry.isEncrypted)
         return fail(BackendText::tr("\"%1\" in it is encrypted").arg(entry.path));
     if (entry.size > mostBytes || entry.packedSize > mostBytes)
-        return fail(BackendText::tr("\"%1\" in it has more than %2 MB").arg(entry.path).arg(mostBytes >> 20));
+        return fail(
+            BackendText::tr("\"%1\" in it has more than %2 MB").arg(entry.path, QString::number(mostBytes >> 20)));
     const QByteArray header = bytesAt(entry.offset, fileHeaderSize);
     const bool isHeader = header.size() == fileHeaderSize && header.startsWith(fileSignature);
     const QByteArray packed = isHeader

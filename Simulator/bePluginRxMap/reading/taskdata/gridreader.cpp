@@ -36,9 +36,10 @@ bool GridReader::read(const TaskGrid &grid, RawPrescription &map)
 {
     const TreatmentZone *zone = task.zone(grid.zone);
     if (grid.type != codesType && zone == nullptr)
-        return fail(grid.zone == Task::noZone
-                        ? BackendText::tr("%1: the grid names no treatment zone (J)").arg(grid.place)
-                        : BackendText::tr("%1: there is no treatment zone %2").arg(grid.place).arg(grid.zone));
+        return fail(
+            grid.zone == Task::noZone
+                ? BackendText::tr("%1: the grid names no treatment zone (J)").arg(grid.place)
+                : BackendText::tr("%1: there is no treatment zone %2").arg(grid.place, QString::number(grid.zone)));
     QByteArray bytes;
     if (!checkSize(grid, zone) || !readBytes(grid, bytes))
         return false;
@@ -66,7 +67,7 @@ bool GridReader::checkSize(const TaskGrid &grid, const TreatmentZone *zone)
     bytesPerCell =
         grid.type == codesType ? 1 : static_cast<qint64>(sizeof(qint32)) * static_cast<qint64>(zone->values.size());
     return bytesPerCell > 0
-        || fail(BackendText::tr("%1: treatment zone %2 has no values").arg(grid.place).arg(grid.zone));
+        || fail(BackendText::tr("%1: treatment zone %2 has no values").arg(grid.place, QString::number(grid.zone)));
 }
 
 bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
@@ -86,11 +87,9 @@ bool GridReader::readBytes(const TaskGrid &grid, QByteArray &bytes)
         return true;
     const qint64 found = std::max(folder.sizeOf(file), qint64(bytes.size()));
     return fail(BackendText::tr("%1 is too %2 for %3 x %4 cells: %5 of %6 bytes")
-                    .arg(file, found < wanted ? BackendText::tr("short") : BackendText::tr("long"))
-                    .arg(grid.rows)
-                    .arg(grid.columns)
-                    .arg(found)
-                    .arg(wanted));
+                    .arg(file, found < wanted ? BackendText::tr("short") : BackendText::tr("long"),
+                         QString::number(grid.rows), QString::number(grid.columns), QString::number(found),
+                         QString::number(wanted)));
 }
 
 bool GridReader::join(const TaskGrid &grid, GridRectangles &joined)
@@ -126,10 +125,8 @@ bool GridReader::takeCodes(const TaskGrid &grid, const QByteArray &bytes, const 
         const std::vector<double> &rate = rates[code];
         if (rate.empty())
             return fail(BackendText::tr("%1: there is no treatment zone %2, which row %3, column %4 names")
-                            .arg(file)
-                            .arg(code)
-                            .arg(rectangle.row + 1)
-                            .arg(rectangle.column + 1));
+                            .arg(file, QString::number(code), QString::number(rectangle.row + 1),
+                                 QString::number(rectangle.column + 1)));
         for (size_t column = 0; column < rate.size(); ++column)
             map.columns[column].values.push_back(rate[column]);
     }

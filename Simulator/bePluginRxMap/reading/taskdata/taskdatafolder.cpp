@@ -94,7 +94,7 @@ QString TaskDataFolder::find(const QString &baseName, const QString &extension) 
 bool TaskDataFolder::read(const QString &name, qint64 most, QByteArray &bytes, QString &error) const
 {
     if (sizeOf(name) > most) {
-        error = BackendText::tr("%1 has more than %2 bytes").arg(name).arg(most);
+        error = BackendText::tr("%1 has more than %2 bytes").arg(name, QString::number(most));
         return false;
     }
     return archive ? unpack(name, bytes, error) : readFile(name, bytes, error);

@@ -41,7 +41,7 @@ bool TaskDataParser::fail(const QString &text)
 
 QString TaskDataParser::place() const
 {
-    return BackendText::tr("%1, line %2").arg(file).arg(xml->lineNumber());
+    return BackendText::tr("%1, line %2").arg(file, QString::number(xml->lineNumber()));
 }
 
 void TaskDataParser::note(const QString &what, QString &problem) const
@@ -297,9 +297,8 @@ qint64 TaskDataParser::whole(const char *attribute, qint64 least, qint64 most, q
     if (isNumber && value >= least && value <= most)
         return value;
     note(BackendText::tr("%1=\"%2\" of %3 is no whole number from %4 to %5")
-             .arg(QLatin1String(attribute), written, xml->name().toString())
-             .arg(least)
-             .arg(most),
+             .arg(QLatin1String(attribute), written, xml->name().toString(), QString::number(least),
+                  QString::number(most)),
          problem);
     return otherwise;
 }

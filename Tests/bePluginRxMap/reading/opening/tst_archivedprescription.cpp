@@ -214,7 +214,7 @@ void ArchivedPrescriptionTest::takesTheJournalOfADatabaseAlong()
 
 void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
 {
-    QVERIFY(pack({"a.shp", "a.shx", "a.dbf"}));
+    QVERIFY(pack({"a%2.shp=a.shp", "a%2.shx=a.shx", "a%2.dbf=a.dbf"}));
     QByteArray content = readFile(archive());
     // Each says that it has 100 MB.
     int parts = 0;
@@ -222,7 +222,7 @@ void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
         content.replace(at + 24, 4, QByteArray("\0\0\x40\6", 4));
     QCOMPARE(parts, 3);
     writeFile(archive(), content);
-    QCOMPARE(errorOf(archive()), QStringLiteral("\"a.shp\" in it has more than 256 MB"));
+    QCOMPARE(errorOf(archive()), QStringLiteral("\"a%2.shp\" in it has more than 256 MB"));
 }
 
 void ArchivedPrescriptionTest::checksWhatIsStoredWithoutCompression()

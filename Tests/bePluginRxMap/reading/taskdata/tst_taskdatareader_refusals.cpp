@@ -102,6 +102,8 @@ void TaskDataReaderRefusalsTest::refusesWhatItCannotRead_data()
         "TASKDATA.XML, line 6: D=\"\" of PNT is no number");
     row("a rate in words", Sketch::task("TSK1", zone().replace("B=\"9\"", "B=\"lots\"")),
         "TASKDATA.XML, line 11: B=\"lots\" of PDV is no whole number from -2147483648 to 2147483647");
+    row("a rate like a place in a text", Sketch::task("TSK1", zone().replace("B=\"9\"", "B=\"%4\"")),
+        "TASKDATA.XML, line 11: B=\"%4\" of PDV is no whole number from -2147483648 to 2147483647");
     row("no process data variable", Sketch::task("TSK1", zone().replace("A=\"0006\"", "A=\"rate\"")),
         "TASKDATA.XML, line 11: A=\"rate\" of PDV is no hexadecimal number");
     row("no code", Sketch::task("TSK1", zone().replace("<TZN A=\"1\"", "<TZN")),
@@ -112,6 +114,11 @@ void TaskDataReaderRefusalsTest::refusesWhatItCannotRead_data()
     row("a circle of references", "<XFR A=\"TSK00001\"/>",
         "tsk00001.xml, line 1: the reference to TASKDATA.XML goes round in a circle",
         {{"tsk00001.xml", "<XFC><XFR A=\"TASKDATA\"/></XFC>"}});
+    row("file names like places in a text", "<XFR A=\"TSK%2\"/>",
+        "TSK%2.XML, line 1: the reference to TASKDATA.XML goes round in a circle",
+        {{"TSK%2.XML", "<XFC><XFR A=\"TASKDATA\"/></XFC>"}});
+    row("a grid file's name like a place in a text", withGrid(Sketch::grid(3, 2, 1)).replace("GRD00001", "GRD%2A"),
+        "GRD%2A.BIN: there is no treatment zone 9, which row 2, column 1 names", {{"GRD%2A.BIN", "\7\7\7\x9\7\7"}});
     row("another format behind a reference", "<XFR A=\"TSK00001\"/>", "TSK00001.XML: holds no task data but <html>",
         {{"TSK00001.XML", "<html/>"}});
     row("entities within entities", "&lol;", "TASKDATA.XML, line 3: Entity 'lol' not declared.");
