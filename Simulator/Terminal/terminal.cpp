@@ -206,6 +206,7 @@ QList<LoadReport> Terminal::open(const OpenRequest &request)
     const ColumnShares shares = PrescriptionBackend::shareColumns(request.paths, load);
     if (!shares.isOk()) {
         reports.append(LoadReport());
+        reports.last().path = shares.path;
         reports.last().error = shares.error;
     }
     for (int i = 0; i < shares.columns.size(); ++i) {

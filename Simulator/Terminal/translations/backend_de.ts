@@ -340,8 +340,8 @@
         <translation>Spalte „%1“ ist in %2, was nicht zu Produkt %3 (%4) passt; angenommen wird %5</translation>
     </message>
     <message>
-        <source>--columns: no column &quot;%1&quot; in %2</source>
-        <translation>--columns: keine Spalte „%1“ in %2</translation>
+        <source>no column &quot;%1&quot; in %2</source>
+        <translation>keine Spalte „%1“ in %2</translation>
     </message>
     <message>
         <source>holds no rates: no record has one in %1</source>

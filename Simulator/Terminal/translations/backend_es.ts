@@ -340,8 +340,8 @@
         <translation>la columna «%1» está en %2, que no corresponde al producto %3 (%4); tomada como %5</translation>
     </message>
     <message>
-        <source>--columns: no column &quot;%1&quot; in %2</source>
-        <translation>--columns: no hay columna «%1» en %2</translation>
+        <source>no column &quot;%1&quot; in %2</source>
+        <translation>no hay columna «%1» en %2</translation>
     </message>
     <message>
         <source>holds no rates: no record has one in %1</source>

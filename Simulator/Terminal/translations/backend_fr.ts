@@ -340,8 +340,8 @@
         <translation>la colonne «&#xa0;%1&#xa0;» est en %2, ce qui ne convient pas au produit %3 (%4)&#xa0;; prise comme %5</translation>
     </message>
     <message>
-        <source>--columns: no column &quot;%1&quot; in %2</source>
-        <translation>--columns&#xa0;: aucune colonne «&#xa0;%1&#xa0;» dans %2</translation>
+        <source>no column &quot;%1&quot; in %2</source>
+        <translation>aucune colonne «&#xa0;%1&#xa0;» dans %2</translation>
     </message>
     <message>
         <source>holds no rates: no record has one in %1</source>

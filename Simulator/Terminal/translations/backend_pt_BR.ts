@@ -340,8 +340,8 @@
         <translation>a coluna “%1” está em %2, o que não corresponde ao produto %3 (%4); tomada como %5</translation>
     </message>
     <message>
-        <source>--columns: no column &quot;%1&quot; in %2</source>
-        <translation>--columns: não há coluna “%1” em %2</translation>
+        <source>no column &quot;%1&quot; in %2</source>
+        <translation>não há coluna “%1” em %2</translation>
     </message>
     <message>
         <source>holds no rates: no record has one in %1</source>

@@ -38,8 +38,10 @@ ColumnShares PrescriptionBackend::shareColumns(const QStringList &paths, const L
         PrescriptionReader reader({path, request.columns, request.layer, request.task}, ColumnPolicy::chanceOf,
                                   control);
         ColumnPolicy::File file{path, {}};
-        if (!reader.readColumnNames(file.columns))
+        if (!reader.readColumnNames(file.columns)) {
             shares.error = QStringLiteral("%1: %2").arg(path, reader.error());
+            shares.path = path;
+        }
         files.append(file);
     }
     return shares.isOk() ? ColumnPolicy::share(files, request.columns) : shares;

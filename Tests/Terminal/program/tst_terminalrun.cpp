@@ -32,7 +32,7 @@ void TestTerminalRun::whatCannotBeDoneIsOneLine_data()
     QTest::newRow("missing column") << QStringList{"--columns", "NOPE", zones()} << "NOPE";
     QTest::newRow("column in no file") << QStringList{"--columns", "SEED_K_HA,NOPE", zones(),
                                                       TerminalHost::fixture("overlap.geojson")}
-                                       << "NOPE";
+                                       << "--columns: no column \"NOPE\" in ";
     QTest::newRow("more columns than products")
         << QStringList{"--columns", QString(16, ',') + "FERT_KG_HA", zones()} << "17 columns";
     QTest::newRow("no such unit") << QStringList{"--source-units", "bags", zones()} << "\"bags\" is no unit of a rate";

@@ -9,8 +9,10 @@ struct ColumnShares {
     /// For each file the columns of products 1, 2, ..., as in LoadRequest; empty for a file that feeds none. None on
     /// failure.
     QList<QStringList> columns;
-    /// One line that names the file and the reason; empty on success.
+    /// One line that names the file and the reason, or the column that no file has; empty on success.
     QString error;
+    /// The file that could not be read.
+    QString path;
 
     bool isOk() const { return error.isEmpty(); }
 };

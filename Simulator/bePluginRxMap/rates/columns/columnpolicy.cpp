@@ -302,8 +302,7 @@ ColumnShares ColumnPolicy::share(const QList<File> &files, const QStringList &na
             QStringList paths;
             for (const File &candidate : files)
                 paths.append(candidate.path);
-            shares.error =
-                BackendText::tr("--columns: no column \"%1\" in %2").arg(column, paths.join(QStringLiteral(", ")));
+            shares.error = BackendText::tr("no column \"%1\" in %2").arg(column, paths.join(QStringLiteral(", ")));
             shares.columns.clear();
             return shares;
         }

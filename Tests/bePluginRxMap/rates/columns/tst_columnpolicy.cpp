@@ -191,7 +191,7 @@ void ColumnPolicyTest::sharesNamedColumnsAmongFiles()
 void ColumnPolicyTest::namesAColumnThatNoFileHas()
 {
     const ColumnShares shares = ColumnPolicy::share({{"a.shp", {"SEED"}}, {"b.shp", {}}}, {"SEED", "NOPE"});
-    QCOMPARE(shares.error, QStringLiteral("--columns: no column \"NOPE\" in a.shp, b.shp"));
+    QCOMPARE(shares.error, QStringLiteral("no column \"NOPE\" in a.shp, b.shp"));
     QVERIFY(shares.columns.isEmpty());
 }
 
