@@ -25,7 +25,7 @@ CsvRecord::~CsvRecord()
     finish();
 }
 
-std::shared_ptr<RecordWriter> CsvRecord::create(const QString &path, int products, QString &error)
+Result<std::shared_ptr<RecordWriter>> CsvRecord::create(const QString &path, int products)
 {
     const std::shared_ptr<CsvRecord> record(new CsvRecord(path));
     record->waiting = "time,x,y,heading,speed,working";
@@ -34,10 +34,10 @@ std::shared_ptr<RecordWriter> CsvRecord::create(const QString &path, int product
             record->waiting += QByteArray(",") + name + "_" + QByteArray::number(number);
     }
     record->waiting += '\n';
-    error = openOutput(record->file);
+    QString error = openOutput(record->file);
     if (error.isEmpty())
         error = record->keep();
-    return record;
+    return {error.isEmpty() ? record : nullptr, error};
 }
 
 QString CsvRecord::add(const RecordEntry &entry)

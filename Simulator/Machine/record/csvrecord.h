@@ -7,8 +7,8 @@
 /// A record as comma-separated values, one row per step.
 class CsvRecord : public RecordWriter {
 public:
-    /// Null, with the reason in `error`, when the file cannot be written.
-    static std::shared_ptr<RecordWriter> create(const QString &path, int products, QString &error);
+    /// The reason, without the file's name, when it cannot be written.
+    static Result<std::shared_ptr<RecordWriter>> create(const QString &path, int products);
     ~CsvRecord() override;
 
 protected:

@@ -63,14 +63,13 @@ GeoPackageRecord::~GeoPackageRecord()
     finish();
 }
 
-std::shared_ptr<RecordWriter> GeoPackageRecord::create(const QString &path, int products, const QPointF &origin,
-                                                       QString &error)
+Result<std::shared_ptr<RecordWriter>> GeoPackageRecord::create(const QString &path, int products, const QPointF &origin)
 {
     const QuietGdal quiet;
     const std::shared_ptr<GeoPackageRecord> record(new GeoPackageRecord(path));
     CPLErrorReset();
-    error = record->begin(products, origin);
-    return record;
+    const QString error = record->begin(products, origin);
+    return {error.isEmpty() ? record : nullptr, error};
 }
 
 QString GeoPackageRecord::begin(int products, const QPointF &origin)

@@ -10,9 +10,8 @@ class OGRLayer;
 /// those that it worked in, both with the values of the step.
 class GeoPackageRecord : public RecordWriter {
 public:
-    /// Null, with the reason in `error`, when the file cannot be written.
-    static std::shared_ptr<RecordWriter> create(const QString &path, int products, const QPointF &origin,
-                                                QString &error);
+    /// The reason, without the file's name, when it cannot be written.
+    static Result<std::shared_ptr<RecordWriter>> create(const QString &path, int products, const QPointF &origin);
     ~GeoPackageRecord() override;
 
 protected:

@@ -16,15 +16,14 @@ Result<std::shared_ptr<RecordWriter>> RecordWriter::open(const QString &path, in
 {
     using Opened = Result<std::shared_ptr<RecordWriter>>;
     const QString suffix = QFileInfo(path).suffix().toLower();
-    QString error;
-    std::shared_ptr<RecordWriter> writer;
+    Opened opened;
     if (suffix == QLatin1String("csv"))
-        writer = CsvRecord::create(path, products, error);
+        opened = CsvRecord::create(path, products);
     else if (suffix == QLatin1String("gpkg"))
-        writer = GeoPackageRecord::create(path, products, origin, error);
+        opened = GeoPackageRecord::create(path, products, origin);
     else
-        error = QStringLiteral("a record is a .csv or .gpkg file");
-    return error.isEmpty() ? Opened{writer, {}} : Opened::failure(QStringLiteral("%1: %2").arg(path, error));
+        opened.error = QStringLiteral("a record is a .csv or .gpkg file");
+    return opened.isOk() ? opened : Opened::failure(QStringLiteral("%1: %2").arg(path, opened.error));
 }
 
 void RecordWriter::take(const QString &reason)
