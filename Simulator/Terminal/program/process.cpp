@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <exception>
 #include <fcntl.h>
+#include <malloc.h>
 #include <new>
 #include <unistd.h>
 #include <vector>
@@ -63,6 +64,19 @@ void dropSettingsOfOtherPrograms()
     qputenv("GDAL_CONFIG_FILE", "/dev/null");
 }
 
+/// By default the allocator comes to keep blocks of up to 32 MB. Most belong to loading threads, and it never gives
+/// those back: 150 bytes for each cell of a map.
+void giveLargeBlocksBack()
+{
+    // Blocks of at least this size (bytes) come from the system one by one and go back to it when they are freed.
+    constexpr int largeBlock = 1 << 20;
+    // This much free memory at the heap's end (bytes) is kept; otherwise every frame would fetch the memory for its
+    // triangles from the system again.
+    constexpr int keptHeap = 1 << 26;
+    mallopt(M_MMAP_THRESHOLD, largeBlock);
+    mallopt(M_TRIM_THRESHOLD, keptHeap);
+}
+
 void endWithoutDisplay()
 {
     if (!isDisplayWatched)
@@ -80,6 +94,7 @@ void Process::prepare()
     // A file-size limit is then reported like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     dropSettingsOfOtherPrograms();
+    giveLargeBlocksBack();
     std::set_terminate(endByException);
 }
 
