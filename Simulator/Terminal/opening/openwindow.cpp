@@ -9,6 +9,7 @@
 #include "previewpage.h"
 #include "productadoption.h"
 #include "progresspage.h"
+#include "removablevolumes.h"
 #include "theme.h"
 #include "unitpage.h"
 
@@ -107,6 +108,7 @@ void OpenWindow::offerSample(const QString &path)
 
 void OpenWindow::showFiles()
 {
+    files->offerVolumes(RemovableVolumes::mounted());
     files->showFirst();
     showPage(files);
     files->focusChosen();
@@ -114,6 +116,7 @@ void OpenWindow::showFiles()
 
 void OpenWindow::returnToFiles()
 {
+    files->offerVolumes(RemovableVolumes::mounted());
     files->showAgain();
     showPage(files);
     files->focusChosen();

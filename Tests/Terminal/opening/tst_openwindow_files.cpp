@@ -1,5 +1,7 @@
+#include "filepage.h"
 #include "openwindowtest.h"
 #include "paintedtexts.h"
+#include "removablevolumes.h"
 
 #include <QAbstractButton>
 #include <QRegularExpression>
@@ -15,6 +17,8 @@ private Q_SLOTS:
     void theFolderUsedLastIsShownFirst();
     void aListIsLeftAndFoundAgainOnTheSamePage();
     void theSampleIsAPlaceWhereItIsThere();
+    void volumesArePlacesWhileTheyAreThere();
+    void volumesAreLookedForWheneverFilesAreShown();
 
 private:
     /// The entry that is marked as the one chosen last.
@@ -176,6 +180,51 @@ void TestOpenWindowFiles::theSampleIsAPlaceWhereItIsThere()
     QCOMPARE(backend->maps().size(), 1);
     // Its folder is none that somebody looked for a file in.
     QCOMPARE(RecentFiles(*settings).folder(), QString());
+}
+
+void TestOpenWindowFiles::volumesArePlacesWhileTheyAreThere()
+{
+    auto *page = window->findChild<FilePage *>();
+    window->showFiles();
+    window->offerSample(fixture("three-zones.geojson"));
+    const QDir files(folder->path());
+    for (const char *name : {"a", "b", "c", "d"})
+        QVERIFY(files.mkdir(QLatin1String(name)));
+    page->offerVolumes({files.filePath("a"), files.filePath("b")});
+    QCOMPARE(text(QStringLiteral("placeVolume0")), QStringLiteral("a"));
+    QCOMPARE(text(QStringLiteral("placeVolume1")), QStringLiteral("b"));
+    QVERIFY(find(QStringLiteral("placeVolume2")) == nullptr);
+    QVERIFY(find(QStringLiteral("placeSample")) != nullptr);
+    // The one that was plugged in last is the one that is wanted.
+    page->offerVolumes({files.filePath("a"), files.filePath("b"), files.filePath("c"), files.filePath("d")});
+    QCOMPARE(text(QStringLiteral("placeVolume2")), QStringLiteral("d"));
+    QVERIFY(find(QStringLiteral("placeSample")) == nullptr);
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), files.filePath(QStringLiteral("c/map.geojson"))));
+    touch(QStringLiteral("placeVolume1"));
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
+}
+
+void TestOpenWindowFiles::volumesAreLookedForWheneverFilesAreShown()
+{
+    auto *page = window->findChild<FilePage *>();
+    const auto offered = [this] {
+        int count = 0;
+        for (int place = 0; find(QStringLiteral("placeVolume%1").arg(place)) != nullptr; ++place)
+            ++count;
+        return count;
+    };
+    const int there = qMin(RemovableVolumes::mounted().size(), 3);
+    const QStringList others = there > 0 ? QStringList() : QStringList(folder->path());
+    window->showFiles();
+    page->offerVolumes(others);
+    QVERIFY(offered() != there);
+    window->showFiles();
+    QCOMPARE(offered(), there);
+    page->offerVolumes(others);
+    window->preview({fixture("overlap.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("openBack"));
+    QCOMPARE(offered(), there);
 }
 
 RXMAP_TEST(TestOpenWindowFiles, Widgets)

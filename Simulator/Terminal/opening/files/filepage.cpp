@@ -15,7 +15,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QStorageInfo>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -28,14 +27,6 @@ constexpr int titlePixels = 24;
 constexpr int closeWidth = 180;
 /// There is room for this many volumes; the sample takes the place of one.
 constexpr int mostVolumes = 3;
-
-/// Where sticks and cards appear.
-bool isRemovable(const QStorageInfo &volume)
-{
-    const QString root = volume.rootPath();
-    return volume.isReady()
-        && (root.startsWith(QLatin1String("/media/")) || root.startsWith(QLatin1String("/run/media/")));
-}
 
 QString headingOf(const QString &folder)
 {
@@ -99,17 +90,13 @@ QWidget *FilePage::makePlaces()
     };
     addFolder(tr("Home"), QStringLiteral("placeHome"), QDir::homePath());
     addFolder(tr("Computer"), QStringLiteral("placeRoot"), QDir::rootPath());
-    int volumes = 0;
-    const QList<QStorageInfo> mounted = QStorageInfo::mountedVolumes();
-    for (const QStorageInfo &volume : mounted) {
-        if (isRemovable(volume) && volumes < mostVolumes)
-            addFolder(QDir(volume.rootPath()).dirName(), QStringLiteral("placeVolume%1").arg(volumes++),
-                      volume.rootPath());
+    for (int place = 0; place < mostVolumes; ++place) {
+        volumes.append(addPlace(layout, QString(), QStringLiteral("placeVolume%1").arg(place)));
+        connect(volumes.last(), &TouchButton::clicked, this, [this, place] { showFolder(volumeFolders.at(place)); });
     }
     sample = addPlace(layout, tr("Sample field"), QStringLiteral("placeSample"));
     connect(sample, &TouchButton::clicked, this, [this] { Q_EMIT fileChosen(samplePath); });
-    sample->hide();
-    hasRoom = volumes < mostVolumes;
+    offerVolumes({});
     layout->addStretch();
     up = addPlace(layout, tr("Folder up"), QStringLiteral("folderUp"));
     connect(up, &TouchButton::clicked, this, [this] {
@@ -189,7 +176,17 @@ void FilePage::focusChosen()
 void FilePage::offerSample(const QString &path)
 {
     samplePath = path;
-    sample->setVisible(hasRoom && QFileInfo(path).isFile());
+    sample->setVisible(volumeFolders.size() < mostVolumes && QFileInfo(path).isFile());
+}
+
+void FilePage::offerVolumes(const QStringList &folders)
+{
+    volumeFolders = folders.mid(qMax(0, folders.size() - mostVolumes));
+    for (int place = 0; place < mostVolumes; ++place) {
+        volumes.at(place)->setText(QDir(volumeFolders.value(place)).dirName());
+        volumes.at(place)->setVisible(place < volumeFolders.size());
+    }
+    offerSample(samplePath);
 }
 
 void FilePage::showRecent()

@@ -32,6 +32,8 @@ public:
     void focusChosen();
     /// Offers a sample file, for an operator without files, in a place of its own; nothing if the file does not exist.
     void offerSample(const QString &path);
+    /// Places of their own, in place of those offered before. The last ones, where there is no room for all.
+    void offerVolumes(const QStringList &folders);
     Pager *pager() const { return pages; }
 
 Q_SIGNALS:
@@ -72,13 +74,14 @@ private:
     TouchButton *open = nullptr;
     TouchButton *sample = nullptr;
     TouchButton *up = nullptr;
+    QList<TouchButton *> volumes;
+    QStringList volumeFolders; ///< One for each of the buttons that are seen.
     QList<ListRow *> rows;
     QList<TouchButton *> closers; ///< One beside each row.
     Pager *pages;
     QList<FileEntry> entries;
     Place shown = Place::Recent;
     QString samplePath;
-    bool hasRoom = true; ///< For the sample.
     /// Empty while no folder is shown.
     QString folder;
     QHash<QString, Spot> spots; ///< By the heading over the list.
