@@ -21,6 +21,7 @@
 #include "statusbar.h"
 #include "vehicle.h"
 #include "wholefile.h"
+#include "windowstack.h"
 
 #include "Framework/uigraphicslist.h"
 #include "Framework/uiplugininterface.h"
@@ -288,7 +289,7 @@ QString Terminal::saveScreenshot(const QString &path)
         return QStringLiteral("%1: is there already and no PNG picture").arg(path);
     QByteArray picture;
     QBuffer buffer(&picture);
-    display->screenshot().save(&buffer, "png");
+    WindowStack::picture(display.data()).save(&buffer, "png");
     return writeWholeFile(path, picture);
 }
 

@@ -6,6 +6,7 @@
 #include "terminalhost.h"
 #include "terminalwindow.h"
 #include "testbase.h"
+#include "windowstack.h"
 
 #include <QOpenGLContext>
 #include <QScopeGuard>
@@ -41,7 +42,7 @@ void TestTerminalPictures::theMapLooksAsStored()
     QVERIFY2(report.isOk(), qPrintable(report.error));
     terminal.machine()->setActiveProduct(product);
     terminal.touch(QPointF(-100, 60));
-    QCOMPARE(Picture::compare(terminal.window()->screenshot(), QString::fromLatin1(QTest::currentDataTag())),
+    QCOMPARE(Picture::compare(WindowStack::picture(terminal.window()), QString::fromLatin1(QTest::currentDataTag())),
              QString());
 }
 
@@ -65,7 +66,8 @@ void TestTerminalPictures::openGlEsDrawsTheSame()
                 .first()
                 .isOk());
     host.terminal().touch(QPointF(-100, 60));
-    QCOMPARE(Picture::compare(host.terminal().window()->screenshot(), QStringLiteral("sample-seed")), QString());
+    QCOMPARE(Picture::compare(WindowStack::picture(host.terminal().window()), QStringLiteral("sample-seed")),
+             QString());
 }
 
 void TestTerminalPictures::theNightLooksAsStored()
@@ -75,20 +77,20 @@ void TestTerminalPictures::theNightLooksAsStored()
     Terminal &terminal = host.terminal();
     QVERIFY(terminal.open({{TerminalHost::sampleField()}, {"SEED_KS_HA"}}).first().isOk());
     terminal.touch(QPointF(-100, 60));
-    const QImage day = terminal.window()->screenshot();
+    const QImage day = WindowStack::picture(terminal.window());
     terminal.window()->setTheme(Theme::Kind::Night);
-    const QImage night = terminal.window()->screenshot();
+    const QImage night = WindowStack::picture(terminal.window());
     terminal.window()->setTheme(Theme::Kind::Day);
     QCOMPARE(Picture::compare(night, QStringLiteral("sample-seed-night")), QString());
     // Nothing of the night is left.
-    QCOMPARE(terminal.window()->screenshot(), day);
+    QCOMPARE(WindowStack::picture(terminal.window()), day);
 }
 
 void TestTerminalPictures::anEmptyTerminalLooksAsStored()
 {
     TerminalHost host(UnitSystem::Us);
     QCOMPARE(host.problem(), QString());
-    QCOMPARE(Picture::compare(host.terminal().window()->screenshot(), QStringLiteral("no-map")), QString());
+    QCOMPARE(Picture::compare(WindowStack::picture(host.terminal().window()), QStringLiteral("no-map")), QString());
 }
 
 void TestTerminalPictures::aChangedPictureIsNoticed()

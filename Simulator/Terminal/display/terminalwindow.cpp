@@ -9,7 +9,6 @@
 #include "symbols.h"
 #include "theme.h"
 #include "touchbutton.h"
-#include "windowstack.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -17,7 +16,6 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QUrl>
 
 namespace {
@@ -267,16 +265,4 @@ bool TerminalWindow::eventFilter(QObject *watched, QEvent *event)
         dialog->move(dialog->pos() + mapToGlobal(QPoint(0, 0)));
     }
     return QWidget::eventFilter(watched, event);
-}
-
-QImage TerminalWindow::screenshot()
-{
-    QImage image = grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QPainter painter(&image);
-    const QWidgetList windows = WindowStack::fromTop();
-    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-        if (*window != this && (*window)->isVisible())
-            painter.drawPixmap((*window)->pos() - mapToGlobal(QPoint(0, 0)), (*window)->grab());
-    }
-    return image;
 }

@@ -4,7 +4,6 @@
 #include "product.h"
 #include "theme.h"
 
-#include <QImage>
 #include <QStringList>
 #include <QWidget>
 
@@ -47,8 +46,6 @@ public:
 
     /// Where a page that covers the map lies: everything below the status bar.
     static QRect pageArea();
-    /// The display as it is seen, with every dialog and popup that is open over it.
-    QImage screenshot();
 
 Q_SIGNALS:
     /// The operator wants to see the whole field again.

@@ -7,6 +7,7 @@
 #include "terminalwindow.h"
 #include "testbase.h"
 #include "touchbutton.h"
+#include "windowstack.h"
 
 #include <QDialog>
 #include <QDropEvent>
@@ -111,14 +112,14 @@ void TestTerminalWindow::aPictureShowsTheOpenDialogWhereItIs()
     dialog.resize(300, 200);
     dialog.move(240, 100);
     dialog.show();
-    const QImage picture = window->screenshot();
+    const QImage picture = WindowStack::picture(window.data());
     QCOMPARE(picture.size(), TerminalWindow::displaySize);
     QCOMPARE(picture.pixelColor(240, 100), color);
     QCOMPARE(picture.pixelColor(539, 299), color);
     QVERIFY(picture.pixelColor(239, 100) != color);
     QVERIFY(picture.pixelColor(540, 299) != color);
     dialog.close();
-    QVERIFY(window->screenshot().pixelColor(240, 100) != color);
+    QVERIFY(WindowStack::picture(window.data()).pixelColor(240, 100) != color);
 }
 
 void TestTerminalWindow::closingIsTold()

@@ -11,6 +11,7 @@
 #include "theme.h"
 #include "touchbutton.h"
 #include "vehicle.h"
+#include "windowstack.h"
 
 /// Driving as it is seen on the whole display.
 class TestDriveDisplay : public TerminalTest {
@@ -60,7 +61,7 @@ QColor TestDriveDisplay::seenAt(const QPointF &field)
 {
     const FieldView &view = *terminal().window()->fieldView();
     const QPoint pixel = view.camera().project(field).value_or(QPointF()).toPoint() + view.pos();
-    return terminal().window()->screenshot().pixelColor(pixel);
+    return WindowStack::picture(terminal().window()).pixelColor(pixel);
 }
 
 void TestDriveDisplay::theDriveButtonShowsAndHidesWhatDrives()
@@ -141,7 +142,7 @@ void TestDriveDisplay::groundThatWasWorkedForHoursIsDrawnToTheNewest()
     // More than there is room for: each step is a strip of its own.
     terminal().simulation()->run(2.0 * 3600.0);
     QCOMPARE(ground.end() - ground.oldest(), qint64(WorkedGround::maxStrips));
-    terminal().window()->screenshot();
+    WindowStack::picture(terminal().window());
     // New strips take the places of the oldest ones. One of half a round ago, away from the vehicle's arrow:
     terminal().simulation()->run(13.0);
     const qint64 number = ground.end() - 126;
@@ -184,7 +185,7 @@ void TestDriveDisplay::theLookAheadPointIsSeenAheadOfTheVehicle()
     // The overlay alone, so that nothing below it counts.
     const auto overlay = [this] {
         terminal().window()->overlay()->setVehicle(vehicle().position(), vehicle().heading());
-        return terminal().window()->screenshot();
+        return WindowStack::picture(terminal().window());
     };
     drive({-50, -30}, 0.0, 1.0);
     const QImage with = overlay();

@@ -8,6 +8,7 @@
 #include "theme.h"
 #include "touchbutton.h"
 #include "unseenwindows.h"
+#include "windowstack.h"
 
 #include <QDialog>
 #include <QKeyEvent>
@@ -145,7 +146,7 @@ void TestScreenWindow::theDisplayIsSeenAtAnySize()
 void TestScreenWindow::atItsOwnSizeTheDisplayIsSeenAsItIs()
 {
     resizeTo(TerminalWindow::displaySize);
-    QCOMPARE(screen->grab().toImage().convertToFormat(QImage::Format_RGB32), display->screenshot());
+    QCOMPARE(screen->grab().toImage().convertToFormat(QImage::Format_RGB32), WindowStack::picture(display.data()));
 }
 
 void TestScreenWindow::itIsDrawnInTheScreensOwnPixels()

@@ -4,6 +4,7 @@
 #include "terminalwindow.h"
 
 #include <QApplication>
+#include <QPainter>
 
 namespace {
 
@@ -29,4 +30,16 @@ QWidgetList WindowStack::fromTop()
     putOnTop(QApplication::activeModalWidget(), over);
     putOnTop(QApplication::activePopupWidget(), over);
     return over + base;
+}
+
+QImage WindowStack::picture(TerminalWindow *display)
+{
+    QImage image = display->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QWidgetList windows = fromTop();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        if (*window != display && (*window)->isVisible())
+            painter.drawPixmap((*window)->pos() - display->mapToGlobal(QPoint(0, 0)), (*window)->grab());
+    }
+    return image;
 }

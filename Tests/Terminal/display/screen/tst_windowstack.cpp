@@ -1,6 +1,7 @@
 #include "productfile.h"
 #include "terminalwindow.h"
 #include "testbase.h"
+#include "windowstack.h"
 
 #include <QDialog>
 
@@ -41,7 +42,7 @@ void TestWindowStack::picturesShowWhatLiesOnTop()
     const auto modal = shown<QDialog>(Qt::green, Qt::Dialog);
     for (int i = 0; i < 8; ++i)
         others.push_back(shown<QDialog>(Qt::red, Qt::Tool));
-    const auto colorSeen = [&display] { return display.screenshot().pixelColor(400, 250); };
+    const auto colorSeen = [&display] { return WindowStack::picture(&display).pixelColor(400, 250); };
     QCOMPARE(colorSeen(), QColor(Qt::green));
     {
         const auto popup = shown<QDialog>(Qt::blue, Qt::Popup);
