@@ -38,7 +38,10 @@ bool isLike(const QStringList &actual, const QStringList &told)
 void DocumentedCommandsTest::everyCommandPrintsWhatStandsBelowIt_data()
 {
     QTest::addColumn<QString>("page");
-    for (const QString &page : DocumentPage::readersPages())
+    QStringList pages = DocumentPage::readersPages();
+    // It leads to the others.
+    pages.removeOne(QStringLiteral("README.md"));
+    for (const QString &page : pages)
         QTest::newRow(qPrintable(page)) << page;
 }
 
@@ -46,7 +49,9 @@ void DocumentedCommandsTest::everyCommandPrintsWhatStandsBelowIt()
 {
     QFETCH(QString, page);
     const ShellSession shell;
-    for (const DocumentPage::Command &command : DocumentPage(page).commands()) {
+    const QList<DocumentPage::Command> commands = DocumentPage(page).commands();
+    QVERIFY(!commands.isEmpty());
+    for (const DocumentPage::Command &command : commands) {
         const QStringList actual = shell.run(command.text);
         QVERIFY2(isLike(actual, command.output), qPrintable(command.text + QLatin1Char('\n') + actual.join('\n')));
     }
