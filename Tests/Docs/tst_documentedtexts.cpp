@@ -4,11 +4,15 @@
 #include "testbase.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
-/// Texts that the documentation quotes are the program's, names of controls are known to it, and links lead somewhere.
+#include <algorithm>
+
+/// Texts that the documentation quotes are the program's, names of controls are known to it, links lead somewhere, and
+/// the project's files lie where the pages say.
 class DocumentedTextsTest : public TestBase {
     Q_OBJECT
 
@@ -20,6 +24,8 @@ private Q_SLOTS:
     void namesOfControls();
     void links_data();
     void links();
+    void pathsInPassing_data();
+    void pathsInPassing();
     void everyPictureIsShown();
 
 private:
@@ -40,6 +46,20 @@ QStringList allPages()
     pages.append(QStringLiteral("CONTRIBUTING.md"));
     pages.removeDuplicates();
     return pages;
+}
+
+/// All files and folders ("/docs/") of the project but hidden ones and what is built.
+QStringList pathsOfProject()
+{
+    QStringList paths;
+    const QString root = QDir::cleanPath(sourcePath(""));
+    QDirIterator found(root, QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (found.hasNext()) {
+        const QString path = found.next().mid(root.size());
+        if (!path.startsWith(QLatin1String("/build/")))
+            paths.append(found.fileInfo().isDir() ? path + QLatin1Char('/') : path);
+    }
+    return paths;
 }
 
 QSet<QString> textsOf(const QString &catalogue)
@@ -143,6 +163,25 @@ void DocumentedTextsTest::links()
         QVERIFY2(QFileInfo::exists(sourcePath("") + target), qPrintable(link));
         const QString anchor = link.section(QLatin1Char('#'), 1);
         QVERIFY2(anchor.isEmpty() || DocumentPage(target).anchors().contains(anchor), qPrintable(link));
+    }
+}
+
+void DocumentedTextsTest::pathsInPassing_data()
+{
+    links_data();
+}
+
+void DocumentedTextsTest::pathsInPassing()
+{
+    QFETCH(QString, page);
+    // Not what is built, nor what a reader has elsewhere.
+    static const QRegularExpression shape(
+        QStringLiteral("^(?!build/)(?:\\./)?([\\w-][\\w./-]*(?:/|\\.(?:cpp|h|py|sh)))$"));
+    static const QStringList paths = pathsOfProject();
+    for (const QString &code : DocumentPage::code(DocumentPage(page).text())) {
+        const QString path = shape.match(code).captured(1);
+        const auto isThere = [&path](const QString &any) { return any.endsWith(QLatin1Char('/') + path); };
+        QVERIFY2(path.isEmpty() || std::any_of(paths.begin(), paths.end(), isThere), qPrintable(code));
     }
 }
 
