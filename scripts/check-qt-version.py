@@ -2,22 +2,32 @@
 """Lists the Qt symbols that the plug-in and the host's interfaces use, with the version of Qt that brought each.
 
 What is newer than Qt 5.9 is an error: host kits may hold that version. The version is what Qt's own documentation says;
-one of several overloads is told by the types of its parameters, as the documentation writes them.
-    apt-get install python3-clang qtbase5-doc-html; scripts/check-qt-version.py [BUILD_FOLDER]
-The build folder (build/dev) must hold compile_commands.json and what moc makes.
+one of several overloads is told by the types of its parameters, as the documentation writes them. Installs what is
+missing and builds the plug-in, whose compile commands it reads.
+    scripts/check-qt-version.py
 """
 import html
 import pathlib
 import re
+import subprocess
 import sys
-
-import clang.cindex
-from clang.cindex import CursorKind
 
 PROJECT = pathlib.Path(__file__).resolve().parent.parent
 OURS = [str(PROJECT / folder) for folder in ("Plugins", "HostInterfaces")]
 PAGES = pathlib.Path("/usr/share/qt5/doc")
 NEWEST = (5, 9)
+PREPARATION = """
+source scripts/install-packages.sh
+install_packages
+install_packages python3-clang qtbase5-doc-html
+cmake --preset dev
+cmake --build --preset dev --target uiPluginRxMap
+"""
+subprocess.run(["bash", "-ec", PREPARATION], cwd=PROJECT, stdout=sys.stderr, check=True)
+# Not there before.
+import clang.cindex
+from clang.cindex import CursorKind
+
 # Qt's headers name these, not we.
 INTERNAL = re.compile(r"^(Qt?Private|QtSharedPointer|QtMetaTypePrivate|QtStringBuilder)|Private$|^qt_meta")
 
@@ -104,10 +114,10 @@ def version_of(owner, name, types, pages):
 
 
 def main():
-    build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else PROJECT / "build/dev")
+    build = PROJECT / "build/dev"
     pages = {page.stem: page for page in PAGES.glob("qt*/*.html")}
     if "qstring" not in pages:
-        sys.exit("the documentation of Qt is missing: install qtbase5-doc-html")
+        sys.exit(f"the documentation of Qt is missing in {PAGES}")
     index = clang.cindex.Index.create()
     commands = clang.cindex.CompilationDatabase.fromDirectory(str(build))
     symbols = set()
