@@ -4,20 +4,20 @@
 
 #include <QString>
 
-/// A terminal with the built plug-in, shown, for tests.
+/// A visible terminal with the built plug-in, for tests.
 class TerminalHost {
 public:
     explicit TerminalHost(UnitSystem units = UnitSystem::Metric);
 
-    /// What went wrong while it was set up; empty when it stands.
+    /// What went wrong during setup; empty when nothing did.
     QString problem() const { return error; }
     Terminal &terminal() { return shown; }
 
-    /// A prescription of the tests' own.
+    /// Path of a prescription among the tests' fixtures.
     static QString fixture(const QString &name);
     static QString sampleField();
-    /// What scripts of the tests begin with, on one line: same(a, b), which throws unless both are equal, and the paths
-    /// `zones`, `sample` and `folder`.
+    /// The code that test scripts start with, on one line: same(a, b), which throws unless both are equal, and the
+    /// paths `zones`, `sample` and `folder`.
     static QString scriptStart(const QString &folder);
 
 private:

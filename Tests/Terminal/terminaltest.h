@@ -5,7 +5,7 @@
 
 #include <QScopedPointer>
 
-/// Base of the tests of the terminal: for each test function a terminal with the plug-in that has loaded nothing.
+/// Base of the tests of the terminal: each test function gets a terminal with the plug-in that has loaded nothing.
 class TerminalTest : public TestBase {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ protected Q_SLOTS:
 
 protected:
     Terminal &terminal() { return host->terminal(); }
-    /// Opens a prescription of the tests' own.
+    /// Opens a prescription of the tests' fixtures.
     LoadReport open(const QString &file, const QStringList &columns);
 
     QScopedPointer<TerminalHost> host;

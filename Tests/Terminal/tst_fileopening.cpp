@@ -17,7 +17,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-/// The ways to the open window of a whole terminal.
+/// The ways in which a whole terminal opens its open window.
 class TestFileOpening : public TerminalTest {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void keysDoNotDriveUnderTheWindow();
 
 private:
-    /// As the operator does who changes nothing.
+    /// As an operator does who changes nothing.
     void openByTouch(const QString &path)
     {
         Q_EMIT terminal().window()->dropped({path}, {});
@@ -54,7 +54,7 @@ private:
         accept();
         QTRY_VERIFY(!terminal().openWindow()->isVisible());
     }
-    /// Units that are not known are taken as they are assumed, fields far away are closed.
+    /// Accepts the units assumed for unknown ones, and has maps of fields far away closed.
     void accept()
     {
         button("openAccept")->click();
@@ -62,7 +62,7 @@ private:
             button("choice0")->click();
     }
     void openByTouch(const char *fixture) { openByTouch(TerminalHost::fixture(QLatin1String(fixture))); }
-    /// A prescription with these columns.
+    /// Writes a prescription with these columns.
     QString write(const char *name, const QList<LayerField> &fields, double longitude = 10.0)
     {
         LayerSketch sketch;
@@ -140,7 +140,7 @@ void TestFileOpening::openFilesAreListedAndClosedByTouch()
     QVERIFY(paintedTexts(*button("fileRow1")).contains(QStringLiteral("feeds Seed")));
     QVERIFY(button("fileClose1")->height() >= Theme::touchTarget);
     button("fileClose1")->click();
-    // The product goes back to the file that had it, on the map, too, and the findings go.
+    // The product goes back to the file that had it, also on the map, and the findings disappear.
     QVERIFY(paintedTexts(*button("fileRow0")).contains(QStringLiteral("feeds Seed, Fertiliser, Herbicide")));
     QVERIFY(button("fileRow1") == nullptr && button("findingsButton") == nullptr);
     QVERIFY(!statusBar().contains(QLatin1String("overlap")));
@@ -210,7 +210,7 @@ void TestFileOpening::aDroppedFileIsOpenedThroughTheWindow()
     accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(terminal().backend()->maps().size(), 1);
-    // What the file feeds is shown.
+    // The map that the file feeds is shown.
     QCOMPARE(terminal().machine()->activeProduct(), 2);
     QCOMPARE(terminal().activeColumn(), QStringLiteral("FERT_KG_HA"));
 }
@@ -221,9 +221,9 @@ void TestFileOpening::theFirstFileBringsItsProducts()
     Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
     QTRY_VERIFY(button("openAccept") != nullptr);
     QCOMPARE(button("columnRow1Product")->text(), QStringLiteral("Fert"));
-    // Nothing is changed by looking.
+    // Looking alone changes nothing.
     QCOMPARE(terminal().machine()->products().at(1).name, QStringLiteral("Fertiliser"));
-    // Another product of those that the file brings.
+    // Another of the products that the file brings.
     button("columnRow0Product")->click();
     button("choice0")->click();
     button("columnRow1Product")->click();
@@ -252,7 +252,7 @@ void TestFileOpening::aFileThatReplacesAllBringsItsProducts()
     QCOMPARE(productNames(), QStringList({"Lime", "Seed", "Herbicide"}));
     QCOMPARE(button("selectProduct1")->text(), QStringLiteral("Lime"));
     QCOMPARE(terminal().backend()->maps().size(), 1);
-    // Not so for a script, whose products are what they were.
+    // A script does not do this: its products stay as they were.
     QVERIFY(terminal().open({{write("urea", {{"UREA_KG_HA", 1.0}})}}).first().isOk());
     QCOMPARE(productNames().first(), QStringLiteral("Lime"));
 }
@@ -277,7 +277,7 @@ void TestFileOpening::aProductThatItsColumnLeavesStaysOnlyByAName()
     accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QTEST(productNames(), "names");
-    // What was chosen feeds what it was shown to.
+    // The chosen column feeds the product that it was shown with.
     QCOMPARE(terminal().columnsOf(terminal().backend()->maps().last().group).keys(), QList<int>{2});
 }
 
@@ -363,7 +363,7 @@ void TestFileOpening::aFieldFarFromTheOtherTakesItsPlaceUnlessBothAreWanted()
     button("openAccept")->click();
     QCOMPARE(terminal().backend()->maps().size(), 1);
     QCOMPARE(button("choice0")->text(), QStringLiteral("Close both.shp"));
-    // Back is back to the file.
+    // Back leads back to the file.
     button("openBack")->click();
     button("openAccept")->click();
     button("choice0")->click();
@@ -386,7 +386,7 @@ void TestFileOpening::aFieldFarFromTheOtherBringsItsProducts()
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
     QCOMPARE(productNames().first(), QStringLiteral("RYE"));
     QCOMPARE(terminal().backend()->maps().size(), 1);
-    // No plane but its own is left.
+    // Only the plane of the new map is left.
     const QStringList warnings = opened.last().first().value<LoadReport>().warnings;
     QVERIFY2(warnings.filter(QStringLiteral("plane")).isEmpty(), qPrintable(warnings.join('\n')));
 }
@@ -410,7 +410,7 @@ void TestFileOpening::whatWasGuessedIsToldAfterwards()
     QTRY_VERIFY(button("openAccept") != nullptr);
     accept();
     QTRY_VERIFY(!terminal().openWindow()->isVisible());
-    // But for the units, which were asked for.
+    // The same findings, except those about the units, which were asked for.
     QCOMPARE(findings(), loadedUnasked.filter(QStringLiteral("is a guess")));
 }
 
@@ -449,7 +449,7 @@ void TestFileOpening::keysDoNotDriveUnderTheWindow()
     button("openButton")->click();
     QTest::keyClick(window, Qt::Key_PageUp);
     QCOMPARE(terminal().simulation()->timeFactor(), pace);
-    // A key that was held is let go of.
+    // A key that was held counts as released.
     QTest::keyRelease(window, Qt::Key_Left);
     QCOMPARE(wheel->turn(), 0.0);
     QTest::keyPress(window, Qt::Key_Right);

@@ -39,7 +39,7 @@ void TestFindingRow::titleAndTextStandTogether()
     row.resize(1000, FindingRow::rowHeight);
     const QImage image = row.grab().toImage();
     const QRgb ground = image.pixel(image.width() / 2, 3);
-    QList<int> written; // Lines of pixels that differ from the ground.
+    QList<int> written; // Rows of pixels that differ from the background.
     for (int y = 0; y < image.height(); ++y) {
         bool isEmpty = true;
         for (int x = 16; x < image.width() - 16 && isEmpty; ++x)
@@ -50,7 +50,7 @@ void TestFindingRow::titleAndTextStandTogether()
     QVERIFY(written.size() > 20);
     for (int i = 1; i < written.size(); ++i)
         QVERIFY2(written.at(i) - written.at(i - 1) < 12, qPrintable(QString::number(written.at(i))));
-    // As much room above as below.
+    // The same room above as below.
     QVERIFY(qAbs(written.first() - (image.height() - 1 - written.last())) < 8);
 }
 

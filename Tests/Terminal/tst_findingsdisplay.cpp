@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-/// What the map check finds, as the operator comes to see it.
+/// How the operator sees what the map check finds.
 class TestFindingsDisplay : public TerminalTest {
     Q_OBJECT
 
@@ -90,7 +90,7 @@ void TestFindingsDisplay::aTouchedFindingIsShownOnTheMap()
         }
         return pixels;
     };
-    // A touch on what is marked leaves the mark, one elsewhere takes it away.
+    // A touch on the marked place keeps the mark, a touch elsewhere removes it.
     QVERIFY(terminal().touch(camera.target()).startsWith(QStringLiteral("Rx Rate")));
     const int withMark = marked();
     terminal().touch(camera.target() + QPointF(5000.0, 0.0));

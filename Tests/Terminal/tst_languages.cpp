@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 
-/// Which catalogues a language brings.
+/// Which catalogues a language loads.
 class TestLanguages : public TestBase {
     Q_OBJECT
 
@@ -95,7 +95,7 @@ void TestLanguages::theDesktopsLanguageIsTakenWhereItIsSpoken()
 {
     QFETCH(QStringList, wanted);
     QTEST(Languages::suiting(wanted, QDir(pluginFolder())), "code");
-    // Half a display in another language is none.
+    // A language counts only if the whole display speaks it.
     QCOMPARE(Languages::suiting(wanted, QDir(buildPath("Simulator/Resources"))), QStringLiteral("en"));
 }
 

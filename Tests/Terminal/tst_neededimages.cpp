@@ -19,7 +19,7 @@ void TestNeededImages::everyImageOfTheBuildIsNeeded()
     needed.sort();
     QStringList made = built.entryList({QStringLiteral("*.png")}, QDir::Files);
     made.sort();
-    // For each there is a finer one.
+    // Each image has a finer version.
     const QStringList finer = made.filter(QStringLiteral("@2x"));
     for (const QString &name : finer)
         made.removeAll(name);

@@ -10,7 +10,7 @@
 using Make = std::function<void(const QString &)>;
 Q_DECLARE_METATYPE(Make)
 
-/// What the terminal remembers, in files as they should not be.
+/// What the terminal remembers, read from broken files.
 class TestOperatorSettings : public TestBase {
     Q_OBJECT
 

@@ -6,7 +6,7 @@
 
 #include <QTemporaryDir>
 
-/// Plug-ins found in a folder, good and broken ones, each a real file.
+/// Plug-ins found in a folder, good and broken; each is a real file.
 class TestPluginScanner : public TestBase {
     Q_OBJECT
 

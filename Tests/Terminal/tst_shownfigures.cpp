@@ -16,14 +16,14 @@ Q_DECLARE_METATYPE(UnitSystem)
 
 namespace {
 
-/// A unit of a file, and what one of it is in the base unit of its product: thousands, kg or L per hectare.
+/// A unit of a file, and what 1 of it is in the base unit of its product: thousands, kg or L per hectare.
 struct FileUnit {
     const char *text;
     int product;
     double base;
 };
 
-constexpr double acre = 0.40468564224; // Hectares, by definition, as are the others.
+constexpr double acre = 0.40468564224; // Hectares, by definition; the other three are defined values, too.
 constexpr double turf = 0.009290304;
 constexpr double pound = 0.45359237;
 constexpr double gallon = 3.785411784;
@@ -44,7 +44,7 @@ constexpr FileUnit fileUnits[] = {
     {"fl oz/ac", 3, gallon / 128.0 / acre},
 };
 
-/// What one of the operator's unit is in the base unit.
+/// What 1 of the operator's unit is in the base unit.
 double operatorUnit(UnitSystem system, int product)
 {
     if (system == UnitSystem::Metric)
@@ -56,12 +56,12 @@ double operatorUnit(UnitSystem system, int product)
 /// A relative error that single precision may add on the way: half of the last of its 24 binary digits, twice.
 constexpr double singlePrecision = 1.0 / (1 << 23);
 
-/// Up to here the second decimal stands in single precision: 2^-24 of it is half of a hundredth.
+/// Single precision keeps the second decimal up to here: 2^-24 of this number is half of a hundredth.
 constexpr double mostHundredths = 83886.0;
 
 } // namespace
 
-/// Figures as they stand at the point and in the legend, beside those of the file.
+/// Figures as the terminal shows them at a point and in the legend, compared with those of the file.
 class TestShownFigures : public TerminalTest {
     Q_OBJECT
 
@@ -108,7 +108,7 @@ void TestShownFigures::aFigureIsOffByLessThanHalfOfItsLastDigit()
     host.reset();
     host.reset(new TerminalHost(system));
     terminal().machine()->setActiveProduct(ofFile.product);
-    // No more than the legend shows one by one.
+    // At most as many rates as the legend shows one by one.
     for (const std::vector<double> &rates :
          {std::vector<double>{0.01, 0.07, 0.25, 1.0, 4.07, 15.35, 33.33, 100.5, 112.64, 1234.56, 32150.25, 83885.99},
           std::vector<double>{0.05, 0.99, 2.5, 7.77, 19.95, 66.67, 250.05, 999.99, 4096.01, 16384.15, 65535.35},

@@ -20,7 +20,7 @@
 
 Q_DECLARE_METATYPE(UnitSystem)
 
-/// The terminal with the plug-in: maps come, feed products and go.
+/// The terminal with the plug-in: maps are loaded, feed products and are unloaded.
 class TestTerminal : public TerminalTest {
     Q_OBJECT
 
@@ -94,7 +94,7 @@ void TestTerminal::farMapsAreFramedOneByOne()
     QCOMPARE(terminal().bounds().value(), near);
     terminal().machine()->setActiveProduct(2);
     QCOMPARE(terminal().bounds().value(), report.bounds);
-    // The field view stands over the map that it shows.
+    // The field view has moved to the map that it shows.
     QVERIFY(terminal().mapColor(report.bounds.topLeft() + QPointF(1.0, 1.0)) != FieldScene::groundColor());
     terminal().machine()->setActiveProduct(3);
     QCOMPARE(terminal().bounds().value(), report.bounds);
@@ -227,14 +227,14 @@ void TestTerminal::aPauseIsToldWhereTheSpeedIs()
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
     terminal().simulation()->setTimeFactor(0.0);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Stopped"));
-    // Who starts then sees why nothing moves.
+    // An operator who starts now sees why nothing moves.
     terminal().vehicle()->drive(2.5);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
     terminal().simulation()->run(5.0);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("Paused"));
     terminal().simulation()->setTimeFactor(1.0);
     QCOMPARE(paintedTexts(bar).first(), QStringLiteral("9.0 km/h"));
-    // At the end of a way nothing waits for the time, though the speed is still set.
+    // At the end of a way nothing waits for time to pass, though the speed is still set.
     terminal().simulation()->setTimeFactor(0.0);
     DrivePath way(Pose{QPointF(0, 0), 0.0});
     way.append(PathPiece{20.0});

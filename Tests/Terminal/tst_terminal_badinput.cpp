@@ -24,7 +24,7 @@ LayerSketch cells()
     return sketch;
 }
 
-/// Cells whose first one has the given geometry instead.
+/// The same cells, but the first one has the given geometry.
 LayerSketch cellsWith(const QString &geometry)
 {
     LayerSketch sketch = cells();
@@ -44,7 +44,7 @@ bool setFirstEasting(const QString &path, double value)
 
 } // namespace
 
-/// What a bad prescription leaves of the one that was loaded before: all of it.
+/// A bad prescription leaves the one loaded before as it was.
 class TestTerminalBadInput : public TestBase {
     Q_OBJECT
 
@@ -60,12 +60,13 @@ private Q_SLOTS:
 private:
     QString write(const LayerSketch &sketch, const QString &name);
     QString writeText(const QString &name);
-    /// Cells with a file cut short, a shorter table, no table, or another first coordinate; empty where that failed.
+    /// The cells with a file cut short, a shorter table, no table, or another first coordinate; empty if writing
+    /// failed.
     QString truncated(const QString &name);
     QString withTableOf(int rows, const QString &name);
     QString withoutTable(const QString &name);
     QString withFirstEasting(double value, const QString &name);
-    /// The map before is drawn, answered, in the broker and in the legend as it was.
+    /// The earlier map is still drawn, answers, and stands in the broker and in the legend as before.
     void expectMapBefore();
 
     QTemporaryDir folder;
@@ -162,7 +163,7 @@ void TestTerminalBadInput::whatIsRefusedLeavesTheMapBefore_data()
     LayerSketch twoPoints = cellsWith(QStringLiteral("POLYGON ((10 50, 10.001 50, 10 50))"));
     twoPoints.rows = twoPoints.rows.mid(0, 1);
     LayerSketch globe = cellsWith(squareText(-90.0, -80.0, 150.0));
-    globe.rows = globe.rows.mid(0, 1); // Among others it would be a stray.
+    globe.rows = globe.rows.mid(0, 1); // Among other cells it would be closed as a stray one.
 
     row("truncated", truncated("truncated.shp"), "is cut short");
     row("fewer rows than shapes", withTableOf(2, "fewer.shp"), "2 rows for 4 shapes");
@@ -211,7 +212,7 @@ void TestTerminalBadInput::whatIsCountedLeavesTheMapBefore()
     QFETCH(QString, path);
     QFETCH(QString, reason);
     QVERIFY(!path.isEmpty());
-    // It feeds the second product only.
+    // It feeds only the second product.
     const LoadReport report = host->terminal().open({{path}, {QString(), "RATE"}}).first();
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QCOMPARE(report.outers, 3);

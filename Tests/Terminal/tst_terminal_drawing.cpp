@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Writes a map of cells in a row, with the rates 1, 2, ... in the column RATE; its path.
+/// Writes a map of cells in a row, with the rates 1, 2, ... in the column RATE; returns its path.
 QString writeRow(const QTemporaryDir &folder, int cells)
 {
     QStringList features;
@@ -52,13 +52,13 @@ private Q_SLOTS:
     void theBubbleShowsWhatIsSaidAndGoes();
 
 private:
-    /// Colour distance that rounding of the blend leaves.
+    /// Colour distance that rounding during blending may cause.
     static constexpr int blendTolerance = 2;
 
     static bool isNear(const QColor &a, const QColor &b);
-    /// What the legend says of its classes' rates.
+    /// The texts of the legend that give its classes' rates.
     QStringList classesShown();
-    /// What the bubbles on the map say.
+    /// The texts of the bubbles on the map.
     QStringList bubblesShown();
 };
 
@@ -73,7 +73,8 @@ QStringList TestTerminalDrawing::classesShown()
     const QStringList texts = paintedTexts(*terminal().window()->legend());
     if (terminal().activeColumn().isEmpty())
         return texts.mid(1);
-    // Product, column, where the unit is from and units above; areas beside them; two sums of two texts below.
+    // Product, column, origin of the unit and units come first; areas stand beside the rates; two sums of two texts
+    // follow.
     QStringList rates;
     for (int i = 5; i + 4 < texts.size(); i += 2)
         rates.append(texts.at(i));
@@ -159,7 +160,7 @@ void TestTerminalDrawing::whatIsDrawnIsWhatIsAnswered()
     int disagreeing = 0;
     QString first;
     for (int i = 0; i < 4000; ++i) {
-        // A low-discrepancy walk over the field.
+        // A low-discrepancy sequence over the field.
         const QPointF point(area.left() + area.width() * std::fmod(0.5 + i * 0.7548776662466927, 1.0),
                             area.top() + area.height() * std::fmod(0.5 + i * 0.5698402909980532, 1.0));
         const QColor expected = colorOf(point);
@@ -194,7 +195,7 @@ void TestTerminalDrawing::theLegendNamesRatesOrRangesAsTheMapHasThem()
     QCOMPARE(classesShown(), (QStringList{"70", "80", "90"}));
     QVERIFY(terminal().machine()->setActiveProduct(2));
     QCOMPARE(classesShown(), (QStringList{"0", "120.5", "150"}));
-    // Another file feeds the first product now, with more rates than the legend has classes.
+    // Another file now feeds the first product, with more rates than the legend has classes.
     QTemporaryDir folder;
     QVERIFY2(terminal().open({{writeRow(folder, 20)}, {"RATE"}}).first().isOk(), "twenty rates");
     QVERIFY(terminal().machine()->setActiveProduct(1));
@@ -221,7 +222,7 @@ void TestTerminalDrawing::loadingAgainWhileDrawingReplacesTheMap()
 {
     QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
     FieldView *view = terminal().window()->fieldView();
-    // The view goes on drawing while each load runs.
+    // The view keeps drawing while each load runs.
     QTimer redraw;
     bool isLoading = false;
     int frames = 0;

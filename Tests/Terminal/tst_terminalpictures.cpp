@@ -11,7 +11,7 @@
 #include <QOpenGLContext>
 #include <QScopeGuard>
 
-/// The display compared with stored pictures.
+/// The display, compared with stored pictures.
 class TestTerminalPictures : public TestBase {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ void TestTerminalPictures::theNightLooksAsStored()
     const QImage night = WindowStack::picture(terminal.window());
     terminal.window()->setTheme(Theme::Kind::Day);
     QCOMPARE(Picture::compare(night, QStringLiteral("sample-seed-night")), QString());
-    // Nothing of the night is left.
+    // Nothing remains of the night.
     QCOMPARE(WindowStack::picture(terminal.window()), day);
 }
 

@@ -1,4 +1,4 @@
-// The shaders lie in a static library, which hands its resources to a program that names them only.
+// The shaders lie in a static library, whose resources a program gets only if it names them.
 
 #include <QtGlobal>
 

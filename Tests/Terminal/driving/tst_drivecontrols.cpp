@@ -3,7 +3,7 @@
 #include "testbase.h"
 #include "vehicle.h"
 
-/// What the operator does to drive.
+/// What the operator does in order to drive.
 class TestDriveControls : public TestBase {
     Q_OBJECT
 

@@ -13,7 +13,7 @@
 #include "vehicle.h"
 #include "windowstack.h"
 
-/// Driving as it is seen on the whole display.
+/// Driving as the whole display shows it.
 class TestDriveDisplay : public TerminalTest {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
     QWidget *find(const char *name) { return terminal().window()->findChild<QWidget *>(QLatin1String(name)); }
     void touch(const char *name) { QTest::mouseClick(find(name), Qt::LeftButton); }
     Vehicle &vehicle() { return *terminal().vehicle(); }
-    /// Drives straight on from there at 5 m/s.
+    /// Drives straight ahead from there at 5 m/s.
     void drive(const QPointF &from, double degrees, double seconds);
     /// The pixel of the display at a field point.
     QColor seenAt(const QPointF &field);
@@ -93,7 +93,7 @@ void TestDriveDisplay::nothingCoversThePluginsButtonOrAnythingElse()
 
 void TestDriveDisplay::theFieldIsSeenAsAWholeAboveTheStrip()
 {
-    // As high as it is wide.
+    // The field is as high as it is wide.
     QVERIFY(terminal().open({{TerminalHost::sampleField()}}).last().isOk());
     touch("drive");
     const FieldView &view = *terminal().window()->fieldView();
@@ -129,7 +129,7 @@ void TestDriveDisplay::anotherProductsColoursAreSeenAtOnce()
     const ActiveMap map = ActiveMap::find(*terminal().broker(), Machine::productGroupName(2));
     QCOMPARE(seenAt({-100, 20}).rgb(), map.classColor(120.5).rgb());
     terminal().machine()->setActiveProduct(3);
-    // Ground, or a line of the grid on it.
+    // Bare ground, or a line of its grid.
     const QColor seen = seenAt({-100, 20});
     QVERIFY2(seen.lightness() > 160 && seen.saturation() < 40, qPrintable(seen.name()));
 }
@@ -139,11 +139,11 @@ void TestDriveDisplay::groundThatWasWorkedForHoursIsDrawnToTheNewest()
     const WorkedGround &ground = *terminal().driving()->workedGround();
     drive({0, 0}, 0.0, 1.0);
     vehicle().steer(0.05);
-    // More than there is room for: each step is a strip of its own.
+    // More strips than fit: each step makes a strip of its own.
     terminal().simulation()->run(2.0 * 3600.0);
     QCOMPARE(ground.end() - ground.oldest(), qint64(WorkedGround::maxStrips));
     WindowStack::picture(terminal().window());
-    // New strips take the places of the oldest ones. One of half a round ago, away from the vehicle's arrow:
+    // New strips replace the oldest ones. This one was driven half a round ago, away from the vehicle's arrow:
     terminal().simulation()->run(13.0);
     const qint64 number = ground.end() - 126;
     const WorkedGround::Strip &strip = ground.strip(number);
@@ -172,7 +172,7 @@ void TestDriveDisplay::theCameraFollowsUntilItIsMovedByHand()
     drive({-100, 30}, 45.0, 5.0);
     QTest::qWait(60);
     QCOMPARE(view.camera().target(), target);
-    // Switched off by its button it shows the field again.
+    // Switching it off by its button shows the field again.
     touch("followCamera");
     QVERIFY(view.camera().target() != target);
     touch("followCamera");
@@ -182,7 +182,7 @@ void TestDriveDisplay::theCameraFollowsUntilItIsMovedByHand()
 
 void TestDriveDisplay::theLookAheadPointIsSeenAheadOfTheVehicle()
 {
-    // The overlay alone, so that nothing below it counts.
+    // Only the overlay moves, so that nothing below it counts.
     const auto overlay = [this] {
         terminal().window()->overlay()->setVehicle(vehicle().position(), vehicle().heading());
         return WindowStack::picture(terminal().window());
@@ -192,7 +192,7 @@ void TestDriveDisplay::theLookAheadPointIsSeenAheadOfTheVehicle()
     const FieldView &view = *terminal().window()->fieldView();
     const QPointF asked = vehicle().position() + QPointF(0.0, 5.0);
     const QPoint seen = view.camera().project(asked).value_or(QPointF()).toPoint() + view.pos();
-    // A ring of 9 pixels around it.
+    // The ring around the point has a radius of 9 pixels.
     QCOMPARE(with.pixelColor(seen + QPoint(9, 0)), Theme::colors().text);
     vehicle().stop();
     terminal().simulation()->run(1.0);

@@ -126,7 +126,7 @@ void TestDrivePanel::pedalsAndWheelAreThereByHand()
 void TestDrivePanel::itShowsWhatAScriptDoes()
 {
     QVERIFY(isChecked("driveSwaths"));
-    // One after the other, since each has all of the panel refreshed.
+    // One after the other, since each of them refreshes the whole panel.
     bench->simulation.vehicle()->setSignal(false);
     QTRY_VERIFY(isChecked("signalLoss"));
     bench->simulation.setTimeFactor(0.0);

@@ -5,8 +5,8 @@
 
 namespace {
 
-/// WCAG 2.1 has the threshold of the two branches at 0.03928; no channel of eight bits lies between that and sRGB's
-/// own.
+/// WCAG 2.1 puts the threshold between the two branches at 0.03928; no eight-bit channel lies between that and sRGB's
+/// own threshold.
 double linear(double channel)
 {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);

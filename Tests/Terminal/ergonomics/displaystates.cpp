@@ -62,7 +62,7 @@ bool DisplayStates::drive(bool isByHand)
     const bool isDriven = openMap() && touch(QStringLiteral("drive"))
         && touch(isByHand ? QStringLiteral("driveByHand") : QStringLiteral("driveStart"));
     terminal.simulation()->run(5.0);
-    // The panel says so a moment later.
+    // The panel shows it a moment later.
     QTest::qWait(150);
     return isDriven;
 }

@@ -5,16 +5,16 @@
 #include <QStringList>
 #include <QWidget>
 
-/// Everything of the terminal that is seen and touched, state by state.
+/// Everything that can be seen and touched on the terminal, state by state.
 class DisplayStates {
 public:
     /// `host` is not owned.
     explicit DisplayStates(TerminalHost &host);
 
     static QStringList names();
-    /// Brings a terminal that has loaded nothing into the state; false when it cannot.
+    /// Brings a terminal that has loaded nothing into the state; false when that fails.
     bool bring(const QString &name);
-    /// What of the display is seen now and is the terminal's own, in pieces: neither the map nor what plug-ins paint.
+    /// The visible parts of the display that are the terminal's own: neither the map nor what plug-ins paint.
     QList<QWidget *> pieces() const;
 
 private:

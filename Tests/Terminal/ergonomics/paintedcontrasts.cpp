@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Draws everything but texts onto a picture; of a text it notes what lies under it at that moment.
+/// Draws everything but texts into a picture; for each text it records what lies under it at that moment.
 class GroundEngine : public QPaintEngine {
 public:
     explicit GroundEngine(QImage *givenPicture)

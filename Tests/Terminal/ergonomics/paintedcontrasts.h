@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// A text as it was painted: its colour, and that of what lay under it where the contrast is least.
+/// A text as painted: its colour, and the colour below it where the contrast is least.
 struct PaintedText {
     QString text;
     QColor color;
@@ -15,5 +15,5 @@ struct PaintedText {
     double contrast() const;
 };
 
-/// What the widget, with its children, writes when it paints itself over `backdrop`.
+/// The texts that the widget and its children write when it paints itself over `backdrop`.
 QList<PaintedText> paintedContrasts(QWidget &widget, const QColor &backdrop);

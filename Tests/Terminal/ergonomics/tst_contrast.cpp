@@ -10,7 +10,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 
-/// Whether every text of the display can be read, by day and by night: each is looked at as it is painted.
+/// Whether every text of the display can be read, by day and by night: each text is checked as it is painted.
 class TestContrast : public TerminalTest {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private Q_SLOTS:
 private:
     /// The texts of the widget that do not stand out, each with its colours.
     static QStringList faint(QWidget &widget);
-    /// Those of a button in whatever state it may be in.
+    /// The same for a button, in every state that it can be in.
     static QStringList faintOfButton(QAbstractButton &button);
 };
 
@@ -47,7 +47,7 @@ void TestContrast::everyTextStandsOutFromWhatItIsWrittenOn_data()
 QStringList TestContrast::faint(QWidget &widget)
 {
     QStringList found;
-    // The map that shows through may have any colour.
+    // The map shows through and may have any colour.
     for (const QColor &backdrop : {QColor(Qt::black), QColor(Qt::white)}) {
         const QList<PaintedText> texts = paintedContrasts(widget, backdrop);
         for (const PaintedText &text : texts) {
@@ -107,7 +107,7 @@ void TestContrast::theKeypadsTextsStandOut()
     QWidget *keypad = QApplication::activePopupWidget();
     QVERIFY(keypad != nullptr);
     QCOMPARE(faint(*keypad), QStringList());
-    // With the reason why a key was not taken.
+    // The reason why a key was refused must stand out, too.
     for (const Qt::Key key : {Qt::Key_7, Qt::Key_7})
         QTest::keyClick(keypad, key);
     QCOMPARE(faint(*keypad), QStringList());

@@ -10,7 +10,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-/// What an operator is told who is new to the terminal.
+/// What an operator who is new to the terminal is told.
 class TestHints : public TerminalTest {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
 private:
     QWidget *card() { return terminal().window()->findChild<QWidget *>(QStringLiteral("hintCard")); }
     QAbstractButton *closeButton() { return card()->findChild<QAbstractButton *>(QStringLiteral("hintClose")); }
-    /// A short touch of the options button; the finger is lifted so many pixels from where it came down.
+    /// A short touch of the options button; the finger is lifted `slid` pixels from where it came down.
     void touchOptions(int slid = 0);
     void restart();
 
@@ -74,7 +74,7 @@ void TestHints::whoIsGreetedOnceIsNotGreetedAgain()
     const QString told = paintedTexts(*card()).join(QLatin1Char(' '));
     for (const char *word : {"Drag", "folder", "hold it for a second", "Tab"})
         QVERIFY2(told.contains(QLatin1String(word)), qPrintable(told));
-    // A greeting that was not taken away may not have been read.
+    // A greeting that was not closed may not have been read.
     restart();
     hints->greet();
     QVERIFY(card()->isVisible());
@@ -88,7 +88,7 @@ void TestHints::whoIsGreetedOnceIsNotGreetedAgain()
 void TestHints::escapeTakesTheCardAway()
 {
     hints->greet();
-    // Whatever else is pressed is the display's.
+    // All other keys go to the display.
     const double distance = terminal().window()->fieldView()->camera().distance();
     QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Plus);
     QVERIFY(terminal().window()->fieldView()->camera().distance() < distance);
@@ -124,13 +124,13 @@ void TestHints::aShortTouchOfTheOptionsButtonIsAnsweredOnce()
     touchOptions();
     QVERIFY(card()->isVisible());
     QVERIFY(paintedTexts(*card()).join(QLatin1Char(' ')).contains(QStringLiteral("one second")));
-    // The next touch takes the card away.
+    // The next touch closes the card.
     touchOptions();
     QVERIFY(!card()->isVisible());
     restart();
     touchOptions();
     QVERIFY(!card()->isVisible());
-    // Whoever was told of the touch has not been greeted by that.
+    // An operator who was told about the touch has not been greeted yet.
     hints->greet();
     QVERIFY(card()->isVisible());
 }

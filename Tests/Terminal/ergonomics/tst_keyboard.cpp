@@ -18,7 +18,7 @@
 
 Q_DECLARE_METATYPE(Qt::Key)
 
-/// The terminal without a finger: by keyboard, and as a screen reader tells it.
+/// The terminal without a finger: by keyboard, and as a screen reader describes it.
 class TestKeyboard : public TerminalTest {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private Q_SLOTS:
 private:
     void addStates();
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// What the tabulator goes through until it comes back to where it began.
+    /// The controls that the Tab key goes through until it is back where it began.
     QList<QWidget *> round();
     QWidget *find(const char *name);
     const Camera &camera() { return terminal().window()->fieldView()->camera(); }
@@ -65,7 +65,7 @@ void TestKeyboard::addStates()
 
 void TestKeyboard::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    // As the window system does: to what has the keyboard, else to the window.
+    // As the window system does: the key goes to the widget with the keyboard, else to the window.
     QWidget *receiver = QApplication::focusWidget();
     QTest::keyClick(receiver != nullptr ? receiver : terminal().window(), key, modifiers);
 }
@@ -114,7 +114,7 @@ void TestKeyboard::theTabulatorReachesEveryControl()
     QVERIFY(controls > 0);
     const bool isMapSeen = QStringList({"no map", "map", "driving", "by hand", "greeting"}).contains(state);
     QCOMPARE(visited.contains(terminal().window()->fieldView()), isMapSeen);
-    // And back.
+    // And back again.
     press(Qt::Key_Tab);
     const QWidget *here = QApplication::focusWidget();
     press(Qt::Key_Tab);
@@ -134,7 +134,7 @@ void TestKeyboard::whatHasTheKeyboardIsSeen()
     QVERIFY(display.bring(state));
     const QList<QWidget *> visited = round();
     for (QWidget *control : visited) {
-        // The map's mark is drawn over it.
+        // The overlay draws the map's focus mark.
         QWidget *painter = control == terminal().window()->fieldView()
             ? static_cast<QWidget *>(terminal().window()->overlay())
             : control;
@@ -188,7 +188,7 @@ void TestKeyboard::arrowsMoveTheMap()
 {
     QFETCH(Qt::Key, key);
     QFETCH(QPointF, way);
-    // Also while a button has the keyboard.
+    // They do so even while a button has the keyboard.
     find("selectProduct1")->setFocus();
     const QPointF before = camera().target();
     press(key);

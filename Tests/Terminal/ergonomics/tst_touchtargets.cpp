@@ -11,7 +11,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 
-/// Whether a gloved finger hits what it is to touch: 9 mm at the pitch of the display.
+/// Whether a gloved finger can hit what it should touch: 9 mm at the pixel pitch of the display.
 class TestTouchTargets : public TerminalTest {
     Q_OBJECT
 

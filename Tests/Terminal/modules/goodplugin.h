@@ -2,7 +2,7 @@
 
 #include "leastplugin.h"
 
-/// The least user-interface plug-in: offers nothing.
+/// The smallest user-interface plug-in: it offers nothing.
 class GoodPlugin : public LeastPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.orvik.uiPluginGood/2.13")

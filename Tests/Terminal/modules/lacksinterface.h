@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// Says that it is a user-interface plug-in, and has no such interface.
+/// Claims to be a user-interface plug-in, but does not have that interface.
 class LacksInterface : public QObject {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.orvik.uiPluginLacksInterface/1.0")

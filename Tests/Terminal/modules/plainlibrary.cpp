@@ -1,4 +1,4 @@
-/// A shared library that is no plug-in.
+/// A shared library that is not a plug-in.
 extern "C" __attribute__((visibility("default"))) int plainLibraryAnswer()
 {
     return 42;

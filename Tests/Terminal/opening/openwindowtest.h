@@ -13,8 +13,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-/// Base of the tests of the window in which the operator opens prescriptions: for each test function one of its own,
-/// with the real back-end behind it, a folder for files, and nothing remembered.
+/// Base of the tests of the window in which the operator opens prescriptions: each test function gets a window of its
+/// own, with the real back-end behind it, a folder for files, and nothing remembered.
 class OpenWindowTest : public TestBase {
     Q_OBJECT
 
@@ -24,19 +24,19 @@ protected Q_SLOTS:
 
 protected:
     static QString fixture(const char *name) { return sourcePath("Tests/fixtures/%1").arg(QLatin1String(name)); }
-    /// The control of that name that is seen.
+    /// The visible control of that name.
     QWidget *find(const QString &name) const;
     void touch(const QString &name);
-    /// Opens what is shown; units that are not known are taken as they are assumed, fields far away are to be closed.
+    /// Opens the files shown: accepts the units assumed for unknown ones, and has maps of fields far away closed.
     void accept();
     QString text(const QString &name) const;
-    /// Until the page with this control is seen.
+    /// Waits until the page with this control is visible.
     bool waitFor(const char *name) const;
-    /// Anew; what is remembered stays.
+    /// Replaces the window by a new one; what is remembered stays.
     void startWindow();
-    /// A prescription with these columns, each of rate 1 and 2 in its two records.
+    /// Writes a prescription with these columns, each with rate 1 in its first record and 2 in its second.
     QString write(const QList<QByteArray> &columns, const QString &name = QStringLiteral("sketch.shp"));
-    /// A file that takes seconds to read.
+    /// Writes a file that takes seconds to read.
     QString writeTangle();
 
     QScopedPointer<QTemporaryDir> folder;

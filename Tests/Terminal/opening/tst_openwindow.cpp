@@ -8,7 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 
-/// What the open window shows of a file, and how it is worked.
+/// What the open window shows of a file, and how the operator uses it.
 class TestOpenWindow : public OpenWindowTest {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 #include <ogrsf_frmts.h>
 
-/// What the open window keeps of what was chosen for a file.
+/// Which of the operator's choices for a file the open window remembers.
 class TestOpenWindowChoices : public OpenWindowTest {
     Q_OBJECT
 
@@ -88,7 +88,7 @@ void TestOpenWindowChoices::anotherLayerIsChosen()
     accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().layer, QStringLiteral("second"));
-    // It is chosen at once the next time.
+    // Next time it is chosen right away.
     window->preview({path});
     QTRY_COMPARE(text(QStringLiteral("columnRow0")), QStringLiteral("second_rate"));
 }

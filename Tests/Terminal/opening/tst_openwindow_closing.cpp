@@ -49,7 +49,7 @@ void TestOpenWindowClosing::readingIsCancelled()
     touch(QStringLiteral("openCancel"));
     QTRY_VERIFY(!window->isBusy());
     QTRY_VERIFY(find(QStringLiteral("placeRecent")) != nullptr);
-    // The next one is not mistaken for it.
+    // The next file is not mistaken for the cancelled one.
     window->preview({fixture("overlap.geojson")});
     QVERIFY(waitFor("openAccept"));
 }
@@ -59,7 +59,7 @@ void TestOpenWindowClosing::loadingIsCancelled()
     const QString path = write({"UREA_KG_HA"});
     window->preview({path});
     QVERIFY(waitFor("openAccept"));
-    // The file grows behind the operator's back to one that takes its time.
+    // Behind the operator's back, the file is replaced by one that takes long to load.
     const QString tangle = writeTangle();
     for (const char *ending : {".shp", ".shx"}) {
         QFile::remove(QString(path).replace(QLatin1String(".shp"), QLatin1String(ending)));

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void volumesAreLookedForWheneverFilesAreShown();
 
 private:
-    /// The entry that is marked as the one chosen last.
+    /// The entry marked as the one chosen last.
     QString marked() const
     {
         const QList<QAbstractButton *> rows = window->findChildren<QAbstractButton *>(QRegularExpression("^fileRow"));
@@ -113,7 +113,7 @@ void TestOpenWindowFiles::theFolderUsedLastIsShownFirst()
     window->showFiles();
     QVERIFY(find(QStringLiteral("folderUp"))->isEnabled());
     QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
-    // Back from a recent file is back to these.
+    // After a recent file, Back leads to the recent files.
     touch(QStringLiteral("placeRecent"));
     touch(QStringLiteral("fileRow0"));
     QVERIFY(waitFor("openAccept"));
@@ -137,19 +137,19 @@ void TestOpenWindowFiles::aListIsLeftAndFoundAgainOnTheSamePage()
     touch(QStringLiteral("pageDown"));
     touch(QStringLiteral("fileRow3"));
     QVERIFY(waitFor("openAccept"));
-    // Back, and out of the window.
+    // Back, and then out of the window.
     touch(QStringLiteral("openBack"));
     QCOMPARE(text(QStringLiteral("fileRow3")), QStringLiteral("map19.geojson"));
     QCOMPARE(marked(), QStringLiteral("map19.geojson"));
     touch(QStringLiteral("openCancel"));
     window->showFiles();
     QCOMPARE(marked(), QStringLiteral("map19.geojson"));
-    // A page that was only looked at counts as well.
+    // A page that was only looked at is remembered as well.
     touch(QStringLiteral("pageDown"));
     touch(QStringLiteral("openCancel"));
     window->showFiles();
     QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map23.geojson"));
-    // The page follows its file where others came or went, and is the nearest where that is gone.
+    // The page follows its file when others have come or gone; when that file is gone, the nearest page is shown.
     for (const char *gone : {"map10", "map11", "map12", "map13", "map14", "map15", "map16"})
         QVERIFY(QFile::remove(folder->filePath(QLatin1String(gone) + QStringLiteral(".geojson"))));
     window->showFiles();
@@ -157,7 +157,7 @@ void TestOpenWindowFiles::aListIsLeftAndFoundAgainOnTheSamePage()
     QVERIFY(QFile::remove(folder->filePath(QStringLiteral("map23.geojson"))));
     window->showFiles();
     QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map24.geojson"));
-    // The way up leads to the folder that one comes from.
+    // On the way up, the folder just left is marked.
     RecentFiles(*settings).setFolder(folder->filePath(QStringLiteral("zones/field")));
     window->showFiles();
     touch(QStringLiteral("folderUp"));
@@ -178,7 +178,7 @@ void TestOpenWindowFiles::theSampleIsAPlaceWhereItIsThere()
     accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(backend->maps().size(), 1);
-    // Its folder is none that somebody looked for a file in.
+    // Nobody looked for a file in its folder, so that is not remembered.
     QCOMPARE(RecentFiles(*settings).folder(), QString());
 }
 

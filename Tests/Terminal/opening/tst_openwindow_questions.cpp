@@ -62,7 +62,7 @@ void TestOpenWindowQuestions::anArchiveWithSeveralAsksForOne()
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().paths, QStringList(archive + QStringLiteral("/north/b.geojson")));
     QCOMPARE(backend->maps().size(), 1);
-    // Of a folder of it, what is behind the folder names them.
+    // The prescriptions in a folder of the archive are named by the part of their path after that folder.
     window->preview({archive + QStringLiteral("/north")});
     QVERIFY(waitFor("choice1"));
     QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("b.geojson"));
@@ -98,20 +98,20 @@ void TestOpenWindowQuestions::openAsksForUnitsThatAreNotKnown()
     touch(QStringLiteral("unitAmount2"));
     touch(QStringLiteral("unitArea0"));
     touch(QStringLiteral("unitAccept"));
-    // It goes on with the other one.
+    // The other column is asked about next.
     QCOMPARE(text(QStringLiteral("choice0")), QStringLiteral("Open as kg/ha"));
     QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("Choose the unit of B"));
     QVERIFY(requests.isEmpty());
     touch(QStringLiteral("openBack"));
     QVERIFY(!isCaution("columnRow0Unit") && isCaution("columnRow1Unit"));
-    // Only "Open" opens.
+    // Only "Open" opens the file.
     touch(QStringLiteral("columnRow0Unit"));
     touch(QStringLiteral("unitAccept"));
     QVERIFY(find(QStringLiteral("openAccept")) != nullptr);
     accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().units, QStringList({"million/ha", "kg/ha"}));
-    // What was told once is not asked again.
+    // What the operator has answered once is not asked again.
     window->preview({fixture("two-strips.geojson")});
     QVERIFY(waitFor("openAccept"));
     QVERIFY(!isCaution("columnRow1Unit"));

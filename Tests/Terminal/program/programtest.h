@@ -6,7 +6,7 @@
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
-/// Base of the tests of the program as a process, and files for it.
+/// Base of the tests that run the program as a process, and files for it.
 class ProgramTest : public TestBase {
     Q_OBJECT
 
@@ -23,13 +23,13 @@ protected:
     {
         return run(arguments, QProcessEnvironment::systemEnvironment());
     }
-    /// The program with its arguments behind it as a shell's "$@".
+    /// Runs a shell line with the program and its arguments as "$@".
     static Outcome runInShell(const QString &line, const QStringList &arguments);
     static QProcessEnvironment withoutDisplay()
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("DISPLAY"));
-        // Qt's platform for no display keeps its screen to the end, which is no leak of the program's.
+        // Qt's platform for no display keeps its screen to the end; that leak is not the program's.
         environment.insert(QStringLiteral("ASAN_OPTIONS"),
                            environment.value(QStringLiteral("ASAN_OPTIONS")) + ":detect_leaks=0");
         return environment;

@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-/// Base of the tests of a run of the terminal: command lines, done in this process, and files for them.
+/// Base of the tests of a run of the terminal: command lines, run within this process, and files for them.
 class TerminalRunTest : public TestBase {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ protected:
     static Outcome run(const QStringList &arguments);
     static QString zones() { return TerminalHost::fixture(QStringLiteral("three-zones.geojson")); }
     QString write(const QByteArray &content, const QString &name);
-    /// A map of one square, a thousandth of a degree wide, with its south-west corner there.
+    /// A map of one square, a thousandth of a degree wide, with its south-west corner at that place.
     static QByteArray square(const QByteArray &column, double rate, double lon, double lat);
 
     QTemporaryDir folder;

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QThread>
 
-/// What the command line asks for, done in this process.
+/// What the command line asks for, done within this process.
 class TestTerminalRun : public TerminalRunTest {
     Q_OBJECT
 
@@ -89,7 +89,7 @@ void TestTerminalRun::tasksAreDoneInTheirOrder()
                             "product 2 (Fertiliser): No rate is prescribed at 0,0\n"
                             "product 3 (Herbicide): No rate is prescribed at 0,0\n1\n"));
     QCOMPARE(QImage(picture).size(), QSize(1280, 800));
-    // The script has taken the map away before the picture was taken.
+    // The script took the map away before the picture was taken.
     const QString before = folder.filePath(QStringLiteral("before.png"));
     QCOMPARE(run({"--columns", "SEED_K_HA", "--screenshot", before, "--describe", "0,0", zones()}).error, QString());
     const QRect field(500, 300, 200, 200);

@@ -1,7 +1,7 @@
 #include "taskdatasketch.h"
 #include "terminalruntest.h"
 
-/// What is told of a point of the field.
+/// What the program tells about a point of the field.
 class TestTerminalRunPoints : public TerminalRunTest {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ void TestTerminalRunPoints::aPointIsDescribed()
 
 void TestTerminalRunPoints::everyProductIsDescribed()
 {
-    // In metres and in degrees; what was active is active again.
+    // In metres and in degrees; afterwards the same product is active as before.
     const QString script = write("var e = terminal.toEarth(-100, 0); print(e.lon.toFixed(9) + ',' + e.lat.toFixed(9));"
                                  "print(terminal.activeProduct, terminal.groups('rxMap.*').length);",
                                  "place.js");

@@ -83,7 +83,7 @@ void TestTerminalRunProducts::whatALoadCountsIsTold_data()
     QTest::addColumn<QString>("unit");
     QTest::newRow("likely columns") << QStringList{} << "kg/ha";
     QTest::newRow("a column by name") << QStringList{"--columns", "Rate"} << "kg/ha";
-    // The file before it brought the products.
+    // The first file brought the products.
     QTest::newRow("a column by name, two files")
         << QStringList{"--columns", "Rate,FERT_KG_HA", TerminalHost::fixture("three-zones.geojson")} << "k/ha";
 }
@@ -163,7 +163,7 @@ void TestTerminalRunProducts::withoutOneTheyComeFromTheFirstPrescription_data()
                                     << QStringList{"2 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};
     QTest::newRow("a unit named") << QStringList{"--source-units", "gal/ac", "--columns", "UREA_kg_ha", four}
                                   << QStringList{"1 (Urea): Rx Rate: 9.35 (UREA_kg_ha, gal/ac)"};
-    // The same product in another file and another unit.
+    // The same product in another file, in another unit.
     QTest::newRow("a second file") << QStringList{four, other}
                                    << QStringList{"1 (A): Rx Rate: 28.06 (GPA, gal/ac)",
                                                   "4 (Urea): Rx Rate: 112.09 (Urea_lb_ac, lb/ac)"};

@@ -7,7 +7,7 @@
 
 #include <sys/stat.h>
 
-/// The program as it is started from a shell.
+/// The program when started from a shell.
 class TestTerminalSimulator : public ProgramTest {
     Q_OBJECT
 
@@ -163,7 +163,7 @@ void TestTerminalSimulator::aScriptsResultIsTheExitStatus()
 void TestTerminalSimulator::aScriptThatOutgrowsTheMemoryEndsWithALine()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // The sanitizer would end the program itself; as it is, it only remarks on it.
+    // By default the sanitizer would end the program itself; with this it only prints a warning.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("allocator_may_return_null=1"));
     const Outcome outcome = run({"--script", write("'x'.repeat(0x7fffffff);", "huge.js")}, environment);
     QCOMPARE(outcome.status, 1);
@@ -252,10 +252,10 @@ void TestTerminalSimulator::aDisplayThatGoesEndsItWithALine()
 void TestTerminalSimulator::withoutOpenGlItSaysSo()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // With a display at hand, that platform borrows its OpenGL.
+    // If there is a display, that platform uses its OpenGL.
     environment.remove(QStringLiteral("DISPLAY"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    // That platform leaves its own things behind.
+    // That platform itself leaks.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     const Outcome flat = run({zones()}, environment);
     QCOMPARE(flat.status, 1);
@@ -291,7 +291,7 @@ void TestTerminalSimulator::itSpeaksTheDesktopsLanguageToAnOperatorOnly()
     QFETCH(QString, reason);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANGUAGE"), languages);
-    // An unreadable file ends it before anybody is needed.
+    // An unreadable file ends the program before it needs anybody.
     const Outcome outcome = run(arguments + QStringList{QStringLiteral("no-such.shp")}, environment);
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.contains(reason), qPrintable(outcome.errors));
@@ -299,7 +299,7 @@ void TestTerminalSimulator::itSpeaksTheDesktopsLanguageToAnOperatorOnly()
 
 void TestTerminalSimulator::aMissingImageIsNamed()
 {
-    // The program finds everything from where it lies.
+    // The program finds everything relative to its own place.
     const QTemporaryDir build;
     const QDir root(build.path());
     QVERIFY(root.mkpath(QStringLiteral("Simulator/Terminal"))

@@ -7,7 +7,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-/// The program as it drives a field without a display.
+/// The program when it drives a field without a display.
 class TestTerminalSimulatorDriving : public ProgramTest {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ void TestTerminalSimulatorDriving::aFieldIsDrivenWithoutADisplay()
     for (QByteArray &record : records) {
         const QString report = folder.filePath(QStringLiteral("report.json"));
         const QString recordPath = folder.filePath(QStringLiteral("drive.csv"));
-        // Tuning leaves the drive that is recorded as it is.
+        // Tuning does not change the drive that is recorded.
         QStringList arguments{"--drive", report, "--record", recordPath, "--columns", "SEED_K_HA", zones()};
         const bool isTuned = &record == &records[0];
         if (isTuned)
@@ -41,7 +41,7 @@ void TestTerminalSimulatorDriving::aFieldIsDrivenWithoutADisplay()
         QCOMPARE(all.value(QStringLiteral("file")).toString(), zones());
         const QJsonObject seed = all.value(QStringLiteral("products")).toArray().at(0).toObject();
         QCOMPARE(seed.value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 16);
-        // Dead time and time constant of the standard machine's seed, within a step.
+        // Dead time and time constant of the standard machine's seed, to within one step.
         QVERIFY(!isTuned || std::abs(seed.value(QStringLiteral("bestLookAheadMs")).toInt() - 700) <= 100);
         record = readFile(recordPath);
     }
@@ -121,7 +121,7 @@ void TestTerminalSimulatorDriving::fieldsOnPlanesOfTheirOwnAreNotDrivenTogether(
             QStringLiteral("\nterminal-simulator: %1: lies too far from %2 to be driven with it\n").arg(far, zones())),
         qPrintable(both.errors));
     QVERIFY(!QFileInfo::exists(report));
-    // One whose product the other has taken over is not put out.
+    // A map whose product the other one has taken over is not applied.
     const Outcome one = run(drive + QStringList{"SEED_K_HA", zones(), far}, withoutDisplay());
     QVERIFY2(one.status == 0, qPrintable(one.errors));
 }

@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-/// When a finger's hold has been taken.
+/// When a button that is held has taken the long touch.
 class TestLongTouchWatch : public TestBase {
     Q_OBJECT
 

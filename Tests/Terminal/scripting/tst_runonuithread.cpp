@@ -5,7 +5,7 @@
 #include <QEventLoop>
 #include <QThread>
 
-/// Calls from a script's thread to that of the user interface.
+/// Calls from a script's thread into the user-interface thread.
 class TestRunOnUiThread : public TestBase {
     Q_OBJECT
 
@@ -85,8 +85,8 @@ void TestRunOnUiThread::aCallWhoseObjectGoesFirstGivesAnEmptyValue()
         });
     }));
     thread->start();
-    // Calls that wait for an object are dropped when it goes; here the object stays, since it may not go before the
-    // thread has called.
+    // Calls that wait for an object are dropped when it is deleted; here the object stays, since it must not be deleted
+    // before the thread has called.
     while (!thread->wait(1))
         QCoreApplication::removePostedEvents(&gui);
     QVERIFY(!hasRun);

@@ -4,7 +4,7 @@
 
 #include <QJSEngine>
 
-/// Where a script's lines go.
+/// Where the lines that a script prints go.
 class TestScriptConsole : public TestBase {
     Q_OBJECT
 

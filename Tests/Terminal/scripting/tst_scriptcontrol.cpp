@@ -20,7 +20,7 @@ private Q_SLOTS:
     void aControlThatIsNotOnTheDisplayThrows();
 
 private:
-    /// What the script comes to, the control being its `box`.
+    /// The result of the script, which knows the control as `box`.
     QString run(const QString &program);
     void addBox(const QString &text);
 

@@ -9,7 +9,7 @@
 
 #include <sys/stat.h>
 
-/// Scripts from their first line to their end, on a terminal with the plug-in.
+/// Whole scripts, from their first line to their end, on a terminal with the plug-in.
 class TestScriptRunner : public TestBase {
     Q_OBJECT
 
@@ -166,7 +166,7 @@ void TestScriptRunner::screenshotsShowTheOpenDialog()
     const QImage closed(folder->filePath("closed.png"));
     QCOMPARE(open.size(), TerminalWindow::displaySize);
     QVERIFY(open.copy(240, 0, 800, 800) != closed.copy(240, 0, 800, 800));
-    // The map beside it; what is to be touched there looks out of reach.
+    // The map beside the dialog looks the same; the controls there look out of reach.
     QCOMPARE(open.copy(0, 420, 240, 380), closed.copy(0, 420, 240, 380));
     QVERIFY(open.copy(0, 72, 240, 348) != closed.copy(0, 72, 240, 348));
 }

@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-/// Every call of the scripts, on a terminal with the plug-in. It starts each of them without a map and with product 1.
+/// Every call that scripts can make, on a terminal with the plug-in. Each test starts without a map and with product 1.
 class TestScriptTerminal : public TestBase {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void anInterruptEndsAWait();
 
 private:
-    /// Runs a program on a thread of its own; what it throws, empty for nothing.
+    /// Runs a program on a thread of its own; returns what it throws, empty for nothing.
     QString run(const QString &program);
 
     QScopedPointer<TerminalHost> host;

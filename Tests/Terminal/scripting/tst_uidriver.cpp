@@ -15,7 +15,7 @@
 
 #include <deque>
 
-/// What a finger or an eye at the display tells of the controls.
+/// What can be seen and touched of the controls on the display.
 class TestUiDriver : public TestBase {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void typingNothingEmptiesTheField();
 
 private:
-    /// Opens the field's keypad as a touch does.
+    /// Opens the field's keypad as a touch would.
     void touchField();
 
     QDir images{buildPath("Simulator/Resources/images")};
@@ -102,7 +102,7 @@ void TestUiDriver::aWindowIsFoundByItsOwnName()
 
 void TestUiDriver::theDialogOnTopIsSearchedFirst()
 {
-    // The order of windows without a dialog is anybody's.
+    // Without a dialog, the order of windows is arbitrary.
     std::deque<QLabel> others(20);
     for (QLabel &other : others) {
         other.setObjectName(QStringLiteral("label"));
@@ -190,7 +190,7 @@ void TestUiDriver::aFingerReachesTheMiddleOfAControl()
     QCOMPARE(onBox.place, QPointF(box->geometry().center()));
     UiDriver::press(onBox);
     UiDriver::release(onBox);
-    QCOMPARE(boxReleased.size(), 0); // Posted, as a display sends it.
+    QCOMPARE(boxReleased.size(), 0); // Not yet: it is posted, as a display sends it.
     QTRY_COMPARE(boxReleased.size(), 1);
 
     const UiDriver::Spot onItem = UiDriver::middle(item);
@@ -224,7 +224,7 @@ void TestUiDriver::keysGoToTheFieldWhoseKeypadIsOpen()
     QSignalSpy changed(field, &OrvikLineEdit::textChanged);
     UiDriver::type(field, QStringLiteral("12.5"));
     QTRY_COMPARE(field->getText(), QStringLiteral("12.5"));
-    // At every keystroke.
+    // Reported at every keystroke.
     QCOMPARE(changed.size(), 4);
     QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
     QCOMPARE(other->getText(), QString());

@@ -5,8 +5,8 @@
 
 #include <QScopedPointer>
 
-/// Base of the tests of the field view: for each test function a view of 800 x 600 pixels that is shown and frames a
-/// field of 400 m x 200 m.
+/// Base of the tests of the field view: each test function gets a visible view of 800 x 600 pixels that frames a field
+/// of 400 m x 200 m.
 class FieldViewTest : public TestBase {
     Q_OBJECT
 

@@ -3,7 +3,7 @@
 
 #include <QVector4D>
 
-/// The look at the field: where a point is seen, and what point is under a finger.
+/// The camera over the field: where a point appears, and which point is under a finger.
 class TestCamera : public TestBase {
     Q_OBJECT
 

@@ -13,7 +13,7 @@ namespace {
 
 const QSize viewSize(200, 150);
 
-/// Covers the left half of the view with its colour, if it has one, and notes when it is called.
+/// Covers the left half of the view with its colour, if it has one, and records when it is called.
 class Veil : public Object3D {
 public:
     Veil(float givenOrder, const QColor &givenColor, QStringList *givenJournal)
@@ -194,7 +194,7 @@ void TestFieldScene::aGuestThatCutsTheViewDoesNotCutTheNextFrame()
         const QImage veiled = frame(scene, FieldScene::Aids::Hidden);
         QCOMPARE(veiled.pixelColor(5, 5), QColor(Qt::red));
         QCOMPARE(veiled.pixelColor(viewSize.width() - 5, 5), FieldScene::groundColor());
-        // Whoever draws between the frames may leave this too.
+        // Other code that draws between the frames may leave this state, too.
         context->functions()->glEnable(GL_SCISSOR_TEST);
         context->functions()->glScissor(0, 0, 1, 1);
     }

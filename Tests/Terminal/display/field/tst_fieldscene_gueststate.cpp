@@ -70,7 +70,7 @@ QStringList lines(const QMap<QString, int> &state)
     return result;
 }
 
-/// Notes the state that it finds and leaves everything else than it was.
+/// Records the state that it finds and changes all of it.
 class Vandal : public Object3D {
 public:
     void init() override
@@ -126,7 +126,7 @@ public:
 
 } // namespace
 
-/// The OpenGL state that guests of the field view find and leave.
+/// The OpenGL state that guests of the field view find, and the state that they leave.
 class TestFieldSceneGuestState : public TestBase {
     Q_OBJECT
 
@@ -156,7 +156,7 @@ void TestFieldSceneGuestState::everyGuestFindsWhatIsPromisedWhateverTheOneBefore
         for (const QMap<QString, int> &found : guest->found)
             QCOMPARE(lines(found), lines(promisedState()));
     }
-    // What is composed after the frame starts from the same.
+    // Whatever is composed after the frame starts from the same state.
     QCOMPARE(lines(stateNow()), lines(promisedState()));
     GLint program = -1;
     context.functions()->glGetIntegerv(GL_CURRENT_PROGRAM, &program);

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void aPointOutsideOfTheViewHasAColourToo();
 
 private:
-    /// One event of a finger that is on the view.
+    /// One event of a finger on the view.
     void finger(QEvent::Type kind, const QPointF &at);
 };
 

@@ -15,7 +15,7 @@ struct StateValue {
     GLint promised;
 };
 
-/// Without the vertex array, which not every context has.
+/// Does not include the vertex array, which not every context has.
 const StateValue promisedState[] = {
     {"blending", GL_BLEND, GL_TRUE},
     {"blend equation of colours", GL_BLEND_EQUATION_RGB, GL_FUNC_ADD},
@@ -38,7 +38,8 @@ const StateValue promisedState[] = {
     {"element buffer", GL_ELEMENT_ARRAY_BUFFER_BINDING, 0},
 };
 
-/// What a guest found when it was called: the values in the order of the table, and what is not in it.
+/// What a guest found when it was called: the values in the order of the table, and the state that the table leaves
+/// out.
 struct Found {
     float order;
     QList<GLint> values;
@@ -47,7 +48,7 @@ struct Found {
     QList<GLint> target;
 };
 
-/// Notes the state that it is called with, and leaves another one behind.
+/// Records the state that it is called with, and leaves a different one behind.
 class RudeGuest : public Object3D {
 public:
     RudeGuest(float givenOrder, QList<Found> *givenJournal)
@@ -126,7 +127,7 @@ private:
         glColorMask(GL_FALSE, GL_TRUE, GL_FALSE, GL_TRUE);
         glActiveTexture(GL_TEXTURE3);
         glBindBuffer(GL_ARRAY_BUFFER, buffer);
-        // Bound without a vertex array first: each vertex array has an element buffer of its own.
+        // Bound while no vertex array is: each vertex array has an element buffer of its own.
         glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, buffer);
         if (hasVertexArrays())
             QOpenGLContext::currentContext()->extraFunctions()->glBindVertexArray(vertexArray);

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void nothingIsDrawnBeforeItIsInitialised();
 
 private:
-    /// Opacity of what is drawn at a field point, metres.
+    /// Opacity of the drawing at a field point, metres.
     int opacity(GroundGrid &grid, int x, int y);
 
     QScopedPointer<QOffscreenSurface> surface;

@@ -21,7 +21,7 @@ protected:
     }
 };
 
-/// Lets everything happen that was asked for, without the passing of time: timers stand still.
+/// Lets everything requested happen, without any time passing: timers stand still.
 void settle()
 {
     for (int round = 0; round < 3; ++round)
@@ -30,7 +30,7 @@ void settle()
 
 } // namespace
 
-/// How often the overlay is drawn for what changes on it.
+/// How often changes have the overlay drawn again.
 class TestMapOverlay : public TestBase {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ void TestMapOverlay::init()
     overlay->show();
     QVERIFY(QTest::qWaitForWindowExposed(overlay.data()));
     drawn.reset(new DrawingCount(overlay.data()));
-    // What showing it asked for may still be under way.
+    // The repaint requested by showing it may still be pending.
     overlay->update();
     QTRY_VERIFY(drawn->times > 0);
     settle();

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
 private:
     QImage picture();
-    /// The least rectangle that holds every pixel of that colour; empty when there is none.
+    /// The smallest rectangle that holds every pixel of that colour; empty when there is none.
     QRect extentOf(const QColor &color);
 
     const QRectF freeArea{100, 20, 500, 360};
@@ -49,7 +49,7 @@ void TestMapOverlayLooks::init()
     camera.setDistance(300.0);
     overlay->setCamera(camera);
     overlay->setFreeArea(freeArea);
-    // Out of the picture.
+    // Outside the picture.
     overlay->setVehicle(farAway, 0.0);
 }
 
@@ -117,7 +117,7 @@ void TestMapOverlayLooks::theBubbleKeepsToTheFreeArea()
                 changed |= QRect(x, y, 1, 1);
         }
     }
-    // The dot that marks the point itself may stand out by its radius.
+    // The dot that marks the point itself may stick out by its radius.
     QVERIFY2(freeArea.adjusted(-8, -8, 8, 8).contains(changed),
              qPrintable(QStringLiteral("%1 to %2").arg(changed.left()).arg(changed.right())));
     const QRect swatch = extentOf(FieldScene::onGround(classColor));
@@ -162,7 +162,7 @@ void TestMapOverlayLooks::theScaleBarIsOfARoundLength()
     const int digit = int(std::lround(number / std::pow(10.0, std::floor(std::log10(number) + 1e-9))));
     QVERIFY2(digit == 1 || digit == 2 || digit == 5, qPrintable(label.join(QLatin1Char(' '))));
 
-    // The bar: the longest run of its colour on the line where it lies.
+    // The bar is the longest run of its colour on its line.
     const QImage image = picture();
     const int y = int(freeArea.bottom()) - 24;
     int longest = 0;
@@ -195,7 +195,7 @@ void TestMapOverlayLooks::theVehicleStandsAtItsPlaceAndPointsAhead()
     overlay->setVehicle(field, heading);
     const QImage image = picture();
     QCOMPARE(image.pixelColor(place), Theme::colors().accent);
-    // The arrow reaches further ahead than behind, where it is notched.
+    // The arrow reaches further ahead than behind, where it has a notch.
     QCOMPARE(image.pixelColor(place + 12 * ahead), Theme::colors().accent);
     QVERIFY(image.pixelColor(place - 14 * ahead) != Theme::colors().accent);
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Counts how often it is drawn.
+/// Counts how often the widget is drawn.
 class Canvas : public QWidget {
 public:
     int drawings = 0;
@@ -17,7 +17,7 @@ protected:
 
 } // namespace
 
-/// Changes that come faster than frames.
+/// Changes that come faster than frames do.
 class TestRepaintThrottle : public TestBase {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ void TestRepaintThrottle::requestsWithinAFrameShareItsDrawing()
     for (int i = 0; i < 1000; ++i)
         pace->request();
     QTRY_COMPARE(canvas->drawings, 1);
-    // Another frame's time brings no second one.
+    // After the time of another frame there is still no second drawing.
     QTest::qWait(60);
     QCOMPARE(canvas->drawings, 1);
 }

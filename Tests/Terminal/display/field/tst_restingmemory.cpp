@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Of this process, megabytes.
+/// Resident memory of this process, megabytes.
 double residentMegabytes()
 {
     for (const QByteArray &line : readFile(QStringLiteral("/proc/self/status")).split('\n')) {
@@ -18,7 +18,7 @@ double residentMegabytes()
     return 0.0;
 }
 
-/// Much that was freed between the little that is kept.
+/// Leaves much freed memory between a few blocks that are kept.
 std::vector<std::unique_ptr<char[]>> scattered()
 {
     constexpr size_t blocks = 4000;

@@ -4,7 +4,7 @@
 
 #include <QElapsedTimer>
 
-/// Texts in lines of a width.
+/// Texts broken into lines of a given width.
 class TestTextLines : public TestBase {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ void TestTextLines::linesEndWithWords()
     const QFontMetrics metrics(Theme::font(20));
     const int width = letters > 0 ? metrics.horizontalAdvance(QString(letters, QLatin1Char('m'))) : 1;
     QFETCH(QStringList, lines);
-    // The last line is shortened where not even a letter fits.
+    // The last line is shortened where not even one letter fits.
     if (letters == 0)
         lines.last() = metrics.elidedText(QStringLiteral("m"), Qt::ElideMiddle, width);
     QCOMPARE(TextLines::of(text, metrics, width, 2), lines);

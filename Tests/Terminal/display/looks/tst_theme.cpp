@@ -9,7 +9,7 @@ namespace {
 
 using Kind = Theme::Kind;
 
-/// Every colour that a text is written in, and every one that it is written on.
+/// A text colour and a colour that it is written on; the table below has every such pair.
 struct Pair {
     const char *name;
     QColor Theme::Colors::*text;
@@ -17,7 +17,7 @@ struct Pair {
     double least;
 };
 
-/// What is read at a glance is to have more than the least.
+/// Text that is read at a glance should have more than the least contrast.
 constexpr double atAGlance = 7.0;
 
 const Pair pairs[] = {
@@ -38,7 +38,7 @@ const Pair pairs[] = {
 
 Q_DECLARE_METATYPE(QColor)
 
-/// Whether the panels can be read, and are drawn as they are meant.
+/// Whether the panels can be read and are drawn as intended.
 class TestTheme : public TestBase {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ void TestTheme::textStandsOutFromItsGround_data()
         const Theme::Colors &colors = Theme::colors(kind);
         const char *when = kind == Kind::Day ? "by day" : "by night";
         for (const Pair &pair : pairs) {
-            // What is under a panel shows through and may have any colour.
+            // What lies under a panel shows through and may have any colour.
             QTest::addRow("%s %s, over black", pair.name, when)
                 << colors.*pair.text << blended(colors.*pair.ground, Qt::black) << pair.least;
             QTest::addRow("%s %s, over white", pair.name, when)

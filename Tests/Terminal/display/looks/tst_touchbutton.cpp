@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// The colour of the button's ground.
+/// The colour of the button's background.
 QColor ground(TouchButton &button)
 {
     return button.grab().toImage().pixelColor(button.width() / 2, 6);
@@ -56,7 +56,7 @@ void TestTouchButton::aTextThatIsTooLongTakesSeveralLines()
     QVERIFY2(note.endsWith(QChar(0x2026)) && longText.startsWith(note.chopped(1)), qPrintable(note));
     QVERIFY(texts.size() > 1);
     QCOMPARE(texts.join(QLatin1Char(' ')), longText);
-    // Where lines are no room for all of it either.
+    // Broken into lines, the text does not fit either.
     button.resize(100, 60);
     texts = paintedTexts(button);
     QVERIFY2(texts.at(texts.size() - 2).contains(QChar(0x2026)), qPrintable(texts.join(QLatin1Char('|'))));
@@ -117,7 +117,7 @@ void TestTouchButton::aFrameTellsWhoHasTheKeyboard()
     QCOMPARE(edge().rgb(), Theme::colors().button.rgb());
     button.setFocus();
     QTRY_VERIFY(button.hasFocus());
-    // A finger brought it here.
+    // The focus came here by a finger.
     QCOMPARE(edge().rgb(), Theme::colors().button.rgb());
     Theme::showFocus(true);
     QCOMPARE(edge().rgb(), Theme::colors().accent.rgb());

@@ -12,7 +12,7 @@ namespace {
 constexpr double widgetWidth = 100.0;
 constexpr double widgetHeight = 60.0;
 
-/// A widget of the page that can say it has a popup open.
+/// A widget of the page that can report an open popup.
 class SampleWidget : public UiGWidget {
 public:
     SampleWidget(const QString &name, int x, int y, QPointF position, DataBroker *broker)
@@ -28,7 +28,7 @@ public:
     int timesShown = 0;
 };
 
-/// Makes whatever it is asked for, except widgets that are called "absent".
+/// Makes whatever widget it is asked for, except those called "absent".
 class SamplePlugin : public LeastPlugin {
 public:
     explicit SamplePlugin(const QStringList &givenNames)
@@ -209,7 +209,7 @@ void TestGuidancePage::rebuildingWaitsForThePopup()
     page->rebuild();
     QVERIFY(widget);
     QCOMPARE(first->made.size(), 2);
-    // The widget itself speaks: it must outlive its own signal.
+    // The widget itself sends the signal, so it must outlive it.
     widget->setPopup(false);
     QVERIFY(widget);
     QTRY_COMPARE(first->made.size(), 4);

@@ -16,7 +16,7 @@ LegendPanel::Content contentOf(const QList<double> &limits, double factor)
     return content;
 }
 
-/// The classes of a panel as they are drawn, without its head and its rounded corners.
+/// The classes of a panel as drawn, without its head and its rounded corners.
 QImage pictureOf(const QList<double> &limits, bool hasSingleRates)
 {
     LegendPanel::Content content = contentOf(limits, 1.0);
@@ -28,7 +28,7 @@ QImage pictureOf(const QList<double> &limits, bool hasSingleRates)
     return panel.grab().toImage().copy(0, head, panel.width(), panel.height() - head - foot);
 }
 
-/// What a panel without areas says behind what told the unit.
+/// The texts of a panel without areas after the one that says where the unit comes from.
 QStringList classTexts(LegendPanel &panel)
 {
     return paintedTexts(panel).mid(1);
@@ -180,7 +180,7 @@ void TestLegendPanel::longNamesAreToldApart()
         content.product = product;
         content.source.column = column;
         panel.show(content);
-        // Whole for who does not see it.
+        // The description for those who cannot see it is never shortened.
         const QString told = panel.accessibleDescription();
         return told.contains(product) && told.contains(column) ? paintedTexts(panel) : QStringList();
     };
@@ -210,7 +210,7 @@ void TestLegendPanel::areasStandBesideTheClassesAndSumsBelow()
     QCOMPARE(paintedTexts(panel).mid(1),
              QStringList({"lb/ac", "ac", "10", "< 0.01", "20", "1.23", "30", "12.3", "40", "1,235", "Area", "1,248 ac",
                           "Total", "50,123 lb"}));
-    // What adds up to nothing, as a pressure, has no total.
+    // A unit whose amounts do not add up, such as pressure, has no total.
     content.amountUnit.clear();
     panel.show(content);
     QVERIFY(!paintedTexts(panel).contains(QStringLiteral("Total")));
@@ -252,7 +252,7 @@ void TestLegendPanel::longNumbersAreDrawnWhole()
     const QString stem(digits - 1, QLatin1Char('8'));
     const QImage ends3 = pictureOf({(stem + '1').toDouble(), (stem + '3').toDouble()}, hasSingleRates);
     const QImage ends6 = pictureOf({(stem + '1').toDouble(), (stem + '6').toDouble()}, hasSingleRates);
-    // The last digit is seen, and seen whole.
+    // The last digit is visible, and not cut off.
     QVERIFY(ends3 != ends6);
     constexpr int inset = 14;
     QVERIFY2(clearance(ends3) > inset, qPrintable(QString::number(clearance(ends3))));

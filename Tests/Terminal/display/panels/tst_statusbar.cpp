@@ -132,7 +132,7 @@ void TestStatusBar::theProgressBarGrowsWithTheLoad()
     for (int i = 2; i <= 5; ++i)
         QVERIFY(pixels.at(i) > pixels.at(i - 1));
     QCOMPARE(pixels.at(6), pixels.at(5));
-    // Quarter by quarter the same.
+    // Each quarter adds the same.
     QCOMPARE(pixels.at(4) - pixels.at(3), pixels.at(3) - pixels.at(2));
 }
 

@@ -1,7 +1,7 @@
 #include "screenfit.h"
 #include "testbase.h"
 
-/// Where the terminal's display lies in a window.
+/// Where the terminal's display is placed in a window.
 class TestScreenFit : public TestBase {
     Q_OBJECT
 

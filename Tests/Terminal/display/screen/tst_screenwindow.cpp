@@ -25,7 +25,7 @@ namespace {
 const QColor patchColor(1, 200, 3);
 const QRect patchPlace(400, 300, 200, 100);
 
-/// Goes at Escape.
+/// Closes at Escape.
 class Inner : public QWidget {
 public:
     using QWidget::QWidget;
@@ -129,7 +129,7 @@ void TestScreenWindow::theDisplayIsSeenAtAnySize()
     resizeTo(size);
     const QImage seen = screen->grab().toImage();
     const auto colorOf = [&](const QPointF &pixel) { return seen.pixelColor(inWindow(pixel)); };
-    // A pixel within, since a pixel of the screen may show two of the display.
+    // Taken a little inside the edge, since a pixel of the screen may show two of the display.
     const QRectF inner = QRectF(patchPlace).adjusted(2, 2, -2, -2);
     const QRectF outer = QRectF(patchPlace).adjusted(-2, -2, 2, 2);
     for (const QPointF &corner : {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()})
@@ -163,7 +163,7 @@ void TestScreenWindow::itIsDrawnInTheScreensOwnPixels()
             finer += first != seen.pixel(x + 1, y) || first != seen.pixel(x, y + 1) ? 1 : 0;
         }
     }
-    // A picture of the display that is blown up has one colour in each of its pixels.
+    // A merely enlarged picture of the display would have one colour in each of its pixels.
     QVERIFY2(finer > 20, qPrintable(QString::number(finer)));
 }
 
@@ -352,7 +352,7 @@ void TestScreenWindow::aButtonFillsTheScreenAndLeaves()
         QCOMPARE(screen->isFullScreen(), isFull);
         QCOMPARE(button->text(), isFull ? QStringLiteral("Leave full screen") : QStringLiteral("Full screen"));
     }
-    // However it was asked for, the button leads back.
+    // However full screen was turned on, the button turns it off.
     QTest::keyClick(screen->windowHandle(), Qt::Key_F11);
     QCOMPARE(button->text(), QStringLiteral("Leave full screen"));
 }
@@ -369,7 +369,7 @@ void TestScreenWindow::itIsKeptOnTheScreen()
     };
     activate();
     QTRY_VERIFY(available.contains(screen->geometry()));
-    // Once: the operator may have it as large as there is need.
+    // Only once: the operator may then make it as large as needed.
     resizeTo(large);
     activate();
     QTest::qWait(100);

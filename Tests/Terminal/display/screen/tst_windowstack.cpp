@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-/// Which of the windows lies on top, as pictures show it.
+/// Which window is on top, as pictures show it.
 class TestWindowStack : public TestBase {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ void TestWindowStack::picturesShowWhatLiesOnTop()
     TerminalWindow display(ProductFile::standard());
     display.move(0, 0);
     display.show();
-    // Qt lists windows in no order; among so many a wrong one would come last.
+    // Qt lists windows in no particular order; with this many others, a wrongly chosen window would show.
     std::vector<std::unique_ptr<QDialog>> others;
     for (int i = 0; i < 8; ++i)
         others.push_back(shown<QDialog>(Qt::red, Qt::Tool));

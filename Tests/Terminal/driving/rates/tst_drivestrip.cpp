@@ -12,7 +12,7 @@
 
 #include <cmath>
 
-/// The strip under the map: rates now, and the active product's over the last half minute.
+/// The strip under the map: the rates now, and the active product's rates over the last half minute.
 class TestDriveStrip : public TestBase {
     Q_OBJECT
 
@@ -35,7 +35,8 @@ private Q_SLOTS:
 
 private:
     QStringList row(RateTable &table, int index);
-    /// The height (pixels from the top) of the applied rate's line above that moment, seconds before now; -1 for none.
+    /// How far from the top (pixels) the applied rate's line is at that moment, in seconds before now; -1 when there is
+    /// no line.
     static int lineAt(const QImage &plot, double secondsBack);
 
     QScopedPointer<MachineBench> bench;
@@ -59,7 +60,7 @@ void TestDriveStrip::cleanup()
 QStringList TestDriveStrip::row(RateTable &table, int index)
 {
     table.resize(515, RateTable::usualHeight());
-    // Behind the head's five texts.
+    // After the five texts of the head.
     return paintedTexts(table).mid(5 + 6 * index, 6);
 }
 
@@ -154,7 +155,7 @@ void TestDriveStrip::aTouchedRowMakesItsProductTheActiveOne()
     }
     bench->machine.setActiveProduct(2);
     QVERIFY(rowOf(2)->isChecked() && !rowOf(1)->isChecked());
-    // The keyboard does as the finger.
+    // The keyboard does what the finger does.
     QTest::keyClick(rowOf(3), Qt::Key_Return);
     QCOMPARE(bench->machine.activeProduct(), 3);
 }

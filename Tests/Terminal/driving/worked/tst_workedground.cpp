@@ -8,7 +8,7 @@
 
 #include <QPolygonF>
 
-/// The ground that was worked.
+/// The ground that has been worked.
 class TestWorkedGround : public TestBase {
     Q_OBJECT
 
@@ -88,7 +88,7 @@ void TestWorkedGround::whatIsNotWorkedLeavesAGap()
     bench->simulation.vehicle()->stop();
     bench->simulation.run(5.0);
     QCOMPARE(ground->end(), before);
-    // A machine that is put elsewhere leaves no strip on its way there, whether it stood before or not.
+    // A machine that is put elsewhere leaves no strip on the way there, whether it was standing before or not.
     for (const double y : {100.0, 150.0}) {
         const qint64 first = ground->end();
         bench->place({-90, y}, 90.0, 2.0);
@@ -99,7 +99,7 @@ void TestWorkedGround::whatIsNotWorkedLeavesAGap()
                 QVERIFY(qAbs(corner.y - float(y)) < 7.0F);
         }
     }
-    // Nor one that turns on the spot.
+    // A machine that turns on the spot leaves none either.
     const qint64 first = ground->end();
     bench->place(bench->simulation.vehicle()->position(), 91.0, 2.0);
     bench->simulation.run(1.0);
@@ -210,11 +210,11 @@ void TestWorkedGround::theOldestStripsMakeRoom()
     QCOMPARE(ground->oldest(), qint64(more));
     QCOMPARE(WorkedGround::slot(ground->end() - 1), more - 1);
     QCOMPARE(ground->takeChanges(), ground->oldest());
-    // The newest ends where the machine is.
+    // The newest strip ends where the machine is.
     const QPointF place = bench->simulation.vehicle()->position();
     const WorkedGround::Strip &newest = ground->strip(ground->end() - 1);
     QVERIFY(qAbs((newest.corners[2].x + newest.corners[3].x) / 2.0F - float(place.x())) < 1e-3F);
-    // And begins where the one before ends, with a rate of its own.
+    // It begins where the one before ends, with a rate of its own.
     const WorkedGround::Strip &former = ground->strip(ground->end() - 2);
     QVERIFY(qAbs(newest.corners[0].x - former.corners[3].x) < 1e-3F);
     QVERIFY(qAbs(newest.corners[1].y - former.corners[2].y) < 1e-3F);

@@ -53,7 +53,7 @@ void TestChoiceMemory::whatAnotherTerminalKeptStays()
 {
     ChoiceMemory(*settings).keep(QStringLiteral("/a.shp"), {});
     settings->sync();
-    // Within one program all settings of a file are one; the other's file is put in place of it.
+    // All QSettings of one file in a program share their values; so the other program's file is put in its place.
     const QString others = folder->filePath(QStringLiteral("others.ini"));
     QVERIFY(QFile::copy(file(), others));
     {

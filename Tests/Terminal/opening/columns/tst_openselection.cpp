@@ -1,7 +1,7 @@
 #include "openselection.h"
 #include "testbase.h"
 
-/// Which column is to feed which product, and in which unit.
+/// Which column feeds which product, and in which unit.
 class TestOpenSelection : public TestBase {
     Q_OBJECT
 

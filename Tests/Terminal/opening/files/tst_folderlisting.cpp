@@ -1,7 +1,7 @@
 #include "folderlisting.h"
 #include "testbase.h"
 
-/// What of a folder can be opened.
+/// What can be opened in a folder.
 class TestFolderListing : public TestBase {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ void TestFolderListing::aFolderWithTaskDataIsOpenedNotEntered()
 
 void TestFolderListing::filesAreJudgedWithoutBeingRead()
 {
-    // What files hold does not count, and an empty one may be one of the system's whose reading never ends.
+    // The content does not count: an empty file may be one of the system's files, and reading those may never end.
     touch(QStringLiteral("judged/archive"), "PK\x03\x04");
     touch(QStringLiteral("judged/text.zip"), "no archive");
     touch(QStringLiteral("judged/tasks.xml"), "no task data");

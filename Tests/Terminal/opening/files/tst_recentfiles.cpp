@@ -1,7 +1,7 @@
 #include "recentfiles.h"
 #include "testbase.h"
 
-/// The prescriptions that were opened last.
+/// The prescriptions opened last.
 class TestRecentFiles : public TestBase {
     Q_OBJECT
 
