@@ -4,7 +4,7 @@
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxpolygon.h"
 
-/// A prescription group of another back-end, which tells some values as text.
+/// A prescription group of another back-end, which gives some values as text.
 class ForeignMapGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>, rateCalMappings, RateCalMappings)
@@ -31,7 +31,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A prescription group of a back-end that tells its rates as they are and their validity as text.
+/// A prescription group of a back-end that gives its rates as they are and their validity as text.
 class TextValidityMapGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>, rateCalMappings, RateCalMappings)

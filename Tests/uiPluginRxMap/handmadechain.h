@@ -15,7 +15,7 @@ double shoelaceArea(const Ring &ring);
 /// Builds and owns a chain of polygon records.
 class HandMadeChain {
 public:
-    /// Adds an outer ring with one rate per mapping; the area is the ring's own.
+    /// Adds an outer ring with one rate per mapping; the area is set to the ring's own.
     OrvikTypes::RX_POLYGON &addOuter(const Ring &ring, std::vector<float> rates = {1.0F});
     OrvikTypes::RX_POLYGON &addHole(const Ring &ring);
     OrvikTypes::RX_POLYGON *first();

@@ -17,7 +17,7 @@ class DbGroupRxMap;
 OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING mappingFor(const QString &rateCalName);
 
 /// The host as the map sees it: a broker with a job, application maps for the products "system.productGroup.1" and
-/// "system.productGroup.2", units, and prescription groups as a test needs them.
+/// "system.productGroup.2", units, and whatever prescription groups a test needs.
 class MapHost {
 public:
     /// `iniFile`: the terminal's settings; empty: none.
@@ -29,7 +29,7 @@ public:
     void activateProduct(int number);
     /// Publishes an empty prescription group "rxMap.<name>" that maps the given products in order.
     DbGroupRxMap *addMap(const QString &name, const QList<int> &products);
-    /// Publishes the chain and one legend for every mapping.
+    /// Publishes the chain, with one and the same legend for every mapping.
     static void publish(DbGroupRxMap &group, HandMadeChain &chain, const QList<OrvikTypes::RX_RATECOLOR> &legend);
 
     DataBroker broker;

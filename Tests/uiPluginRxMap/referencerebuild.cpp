@@ -52,7 +52,7 @@ void addContour(GLUtesselator *tessellator, const RX_POLYGON &ring, std::deque<L
     for (int i = 0; i < referenceVertexCount(ring); ++i) {
         const double x = ring.vertices[i].x;
         const double y = ring.vertices[i].y;
-        // The tessellator crashes on NaN; such vertices are left out.
+        // The tessellator crashes on NaN, so such vertices are left out.
         if (std::isnan(x) || std::isnan(y))
             continue;
         locations.push_back({{x, static_cast<double>(-4.99F), -y}});

@@ -8,8 +8,8 @@
 #include <QList>
 #include <QVector>
 
-/// A rebuild of the map as it is defined, step by step and with nothing of the drawable's own: each hole compared with
-/// each outer ring, vertices taken as GLU emits them, each triangle turned round. What a faster way must equal to the
+/// A rebuild of the map as it is defined, step by step and with nothing from the drawable: each hole compared with each
+/// outer ring, vertices taken as GLU emits them, each triangle turned round. A faster way must give the same to the
 /// last bit.
 struct ReferenceRebuild {
     QVector<Vertex> vertices;

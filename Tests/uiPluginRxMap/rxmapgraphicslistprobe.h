@@ -2,7 +2,7 @@
 
 #include "rxmapgraphicslist.h"
 
-/// Lets tests see what the list keeps to itself.
+/// Lets tests see what the list keeps private.
 class RxMapGraphicsListProbe {
 public:
     static DbGroupRxMap *rxMapGroup(const RxMapGraphicsList &list) { return list.rxMapGroup; }

@@ -5,7 +5,7 @@
 #include "Framework/rxdbfcolumntoratecalmapping.h"
 #include "Framework/rxpolygon.h"
 
-/// A group that tells everything as text.
+/// A group that gives everything as text.
 class TextGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QString, polygonBuffer, PolygonBuffer)

@@ -43,10 +43,10 @@ void TestPluginModule::metadataIsReadWithoutLoading()
     QVERIFY(!loader.isLoaded());
     QCOMPARE(metadata.value(QStringLiteral("IID")).toString(), QStringLiteral("com.orvik.uiPluginRxMap/1.0"));
     QCOMPARE(metadata.value(QStringLiteral("className")).toString(), QStringLiteral("UiPluginRxMap"));
-    // Qt's newer tools leave an empty object out; either way a host reads an empty one.
+    // Qt's newer tools omit an empty object; either way a host reads an empty one.
     QVERIFY(metadata.value(QStringLiteral("MetaData")).toObject().isEmpty());
     QCOMPARE(metadata.value(QStringLiteral("version")).toInt(), QT_VERSION & 0xFFFF00);
-    // A host refuses a plug-in of the other kind where the two do not mix.
+    // A host refuses a plug-in of the other kind if the two do not mix.
 #ifdef QT_NO_DEBUG
     const bool isDebugBuild = false;
 #else
@@ -87,7 +87,7 @@ void TestPluginModule::idsOfTheSharedTypesAreTakenFromTheFramework_data()
 void TestPluginModule::idsOfTheSharedTypesAreTakenFromTheFramework()
 {
     QFETCH(QString, type);
-    // A module that registered a type itself would hold the function instead of importing it.
+    // A module that registered a type itself would define the function instead of importing it.
     QString imports = outputOf(QStringLiteral("nm"), {"-D", "-C", "--undefined-only", pluginFile});
     imports.replace(QRegularExpression(QStringLiteral("(?<=>) (?=>)")), QString());
     QVERIFY2(imports.contains(QStringLiteral("QMetaTypeId<%1>::qt_metatype_id()").arg(type)), qPrintable(imports));
@@ -116,7 +116,7 @@ void TestPluginModule::afterTheInstanceIsGoneAFreshOneComes()
 
 void TestPluginModule::theEntryPointItselfKeepsTheInstance()
 {
-    // Past the loader, which keeps what it was once given.
+    // This bypasses the loader, which keeps what it was given once.
     using Instance = QObject *(*)();
     const auto instance = reinterpret_cast<Instance>(QLibrary::resolve(pluginFile, "qt_plugin_instance"));
     QVERIFY(instance);

@@ -8,7 +8,7 @@
 
 #include "bePluginRxMap/dbgrouprxmap.h"
 
-/// What a rebuild asks of memory and of GLU: costs that are the same on every machine.
+/// What a rebuild requires of memory and of GLU: costs that are the same on every machine.
 class TestRebuildCost : public TestBase {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// A drawable that a map of the benchmark's can be bound to and taken from.
+/// A drawable that can be bound to a map of the benchmarks and released from it.
 class Drawn {
 public:
     explicit Drawn(BenchmarkMap &map)

@@ -16,7 +16,7 @@
 
 using OrvikTypes::RX_POLYGON;
 
-/// What is built, compared bit for bit with a rebuild as it is defined.
+/// What is built is compared bit for bit with a rebuild as it is defined.
 class TestRxMap3DReferenceRebuild : public TestBase {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ Legend legend()
     return {{0.0, QColor(10, 20, 30)}, {50.0, QColor(40, 250, 60, 77)}, {1e9, QColor(1, 2, 3, 4)}};
 }
 
-/// One of a few legends: classes in order, one without a last class for all, one out of order, one empty.
+/// One of four legends: classes in order, one that lacks a last class for all rates, one out of order, an empty one.
 Legend legendNumber(unsigned int number)
 {
     const Legend few{{0.0, QColor(200, 20, 30)}, {30.0, QColor(40, 50, 160, 99)}};
@@ -46,7 +46,7 @@ Legend legendNumber(unsigned int number)
     return QVector<Legend>{legend(), few, mixed, {}}.at(static_cast<int>(number % 4));
 }
 
-/// The difference between what the group's map was built to and the reference; empty where there is none.
+/// The difference between what the group's map was built into and the reference; empty when there is none.
 QString difference(const RxMap3D &map, const ReferenceRebuild &expected, const RX_POLYGON *record)
 {
     if (RxMap3DProbe::banks(map).size() != 1)
@@ -71,12 +71,12 @@ QString difference(const RxMap3D &map, const ReferenceRebuild &expected, const R
 }
 
 struct Drawn {
-    int maps = 0;     ///< That had triangles.
-    int coloured = 0; ///< Whose colour changed from one polygon to another.
+    int maps = 0;     ///< Maps that had triangles.
+    int coloured = 0; ///< Maps whose colour changed from one polygon to another.
 };
 
-/// Of 200 maps. GLU makes no triangles of minute rings, where only the draw indexes tell, and of few that cross
-/// themselves.
+/// Of 200 maps. GLU makes no triangles of minute rings, where only the draw indexes can differ, and triangles of only a
+/// few rings that cross themselves.
 Drawn fewestDrawn(const RandomKind &kind)
 {
     if (kind.scale != 1.0)
@@ -102,7 +102,7 @@ public:
             referenceRebuild(chain.first(), chain.count(), legend, RxMap3DProbe::currentColor(map));
         MapHost::publish(*group, chain, legend);
         const QString found = difference(map, expected, chain.first());
-        // Of the built bank, not of the expected one: the two are the same wherever nothing was found.
+        // Counts the built bank, not the expected one: the two are the same wherever no difference was found.
         int colorsHere = 0;
         quint32 last = 0;
         for (const Vertex &vertex : RxMap3DProbe::banks(map).value(0).vertices) {
@@ -123,8 +123,8 @@ private:
     RxMap3D map;
 };
 
-/// Adds what the rings were and what was built of them, as digests, to the file that the environment's
-/// RXMAP_BANK_DIGESTS names, if any: two machines can be compared by it.
+/// Adds digests of the rings and of what was built from them to the file that the environment variable
+/// RXMAP_BANK_DIGESTS names, if any: two machines can be compared by these.
 void noteDigests(const RxMap3D &map, const RX_POLYGON *record)
 {
     QFile notes(qEnvironmentVariable("RXMAP_BANK_DIGESTS"));

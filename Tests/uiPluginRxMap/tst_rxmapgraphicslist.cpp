@@ -14,7 +14,7 @@
 
 using Probe = RxMapGraphicsListProbe;
 
-/// Which groups the list tracks, and the drawable that it holds.
+/// Which groups the list follows, and the drawable that it holds.
 class TestRxMapGraphicsList : public TestBase {
     Q_OBJECT
 

@@ -11,7 +11,7 @@
 #include <QPointer>
 #include <QTranslator>
 
-/// The text that the list gives for a point: which map is asked, how, and what becomes of its answer.
+/// The text that the list gives for a point: which map it asks and how, and what it makes of the answer.
 class TestRxMapGraphicsListDescription : public TestBase {
     Q_OBJECT
 
@@ -220,7 +220,7 @@ void TestRxMapGraphicsListDescription::ratesThatDoNotConvertGiveNothing()
     group->setRatesAtXYZValid(QStringLiteral("true"));
     host.broker.publishGroup(group);
     RxMapGraphicsList list(&host.broker, nullptr);
-    // A text is no list of rates, so there is no entry at the mapping's position.
+    // A text is not a list of rates, so there is no entry at the mapping's position.
     QVERIFY(list.getPointDescription({}).isEmpty());
 }
 

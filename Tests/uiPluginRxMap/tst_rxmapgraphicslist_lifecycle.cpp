@@ -13,8 +13,8 @@
 #include <QPointer>
 #include <QScopedPointer>
 
-/// In which order the list starts and ends its drawables, how it moves between products, and what it stands when the
-/// host acts while it reads.
+/// In which order the list starts and ends its drawables, how it moves from product to product, and what it withstands
+/// when the host acts while it reads.
 class TestRxMapGraphicsListLifecycle : public TestBase {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ namespace {
 
 using Probe = RxMapGraphicsListProbe;
 
-/// A drawable that notes what is done with it.
+/// A drawable that records what is done with it.
 class NotingDrawable : public Object3D {
 public:
     NotingDrawable(QString givenName, QStringList &givenNotes, const RxMapGraphicsList &givenList)
@@ -75,7 +75,7 @@ private:
     const RxMapGraphicsList &list;
 };
 
-/// A drawable whose initialisation ends the list.
+/// A drawable whose initialisation deletes the list.
 class EndingDrawable : public Object3D {
 public:
     explicit EndingDrawable(RxMapGraphicsList *givenList)
@@ -91,13 +91,13 @@ private:
     RxMapGraphicsList *list;
 };
 
-/// What a hook needs to reach.
+/// What a hook needs to have at hand.
 struct Reach {
     MapHost host;
     QPointer<RxMapGraphicsList> list;
     bool isDue = false;
 
-    /// Runs the hook once, from then on that this is called.
+    /// True once after each time that the hook was made due.
     bool takeTurn()
     {
         const bool isTurn = isDue;
@@ -316,7 +316,7 @@ void TestRxMapGraphicsListLifecycle::theProductMayGoWhileAMapIsRead()
     };
     QVERIFY(field->setBeforeReadHook("rateCalMappings", deactivate, &reach));
     reach.isDue = true;
-    // The product that was active when the point was touched is the one that is told.
+    // The product described is the one that was active when the point was touched.
     QCOMPARE(list.getPointDescription({}), QStringLiteral("Rx Rate: 12.50\n\n"));
     QCOMPARE(Probe::aamGroup(list), nullptr);
     QVERIFY(list.getPointDescription({}).isEmpty());

@@ -4,7 +4,7 @@
 
 #include <QTranslator>
 
-/// The entry object: its catalogue and what it is to the host.
+/// The entry object: its catalogue, and what it tells the host about itself.
 class TestUiPluginRxMap : public TestBase {
     Q_OBJECT
 

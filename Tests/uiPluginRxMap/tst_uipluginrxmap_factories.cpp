@@ -11,7 +11,7 @@
 
 #include <functional>
 
-/// What the entry object makes for the host, and what becomes of it.
+/// What the entry object makes for the host, and what happens to it.
 class TestUiPluginRxMapFactories : public TestBase {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Opens the host's maps of what the plug-in made.
+/// Makes the host's maps of what the plug-in made accessible.
 class OpenPlugin : public UiPluginRxMap {
 public:
     using UiPluginBase::graphicsLists;
@@ -75,7 +75,7 @@ void TestUiPluginRxMapFactories::theFirstGraphicsListIsGoneBeforeTheSecondIsMade
     UiPluginRxMap plugin;
     look.first = plugin.createUiGraphicsList(listName, &host.broker);
     QVERIFY(!look.first.isNull());
-    // A new list reads the active map while it is made.
+    // A new list reads the active map while it is being made.
     const auto note = [](void *argument) {
         auto *noted = static_cast<Look *>(argument);
         noted->wasGone.append(noted->first.isNull());
@@ -137,7 +137,7 @@ void TestUiPluginRxMapFactories::noListIsMadeWhileOneGoes()
     MapHost host;
     auto *plugin = new OpenPlugin;
     QVector<QPointer<UiGraphicsList>> given;
-    // A host that asks whenever its list goes; it gives up where that would not end.
+    // A host that asks for a list whenever its list is deleted; it gives up if that would never end.
     const std::function<void()> ask = [&] {
         if (given.size() == 100)
             return;

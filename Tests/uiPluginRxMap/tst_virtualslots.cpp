@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <cstring>
 
-/// Plug-ins and host are built apart: they agree on virtual operations by their places alone.
+/// Plug-ins and host are built separately: they agree on virtual operations only by their places in the table.
 class TestVirtualSlots : public TestBase {
     Q_OBJECT
 
@@ -27,8 +27,8 @@ private Q_SLOTS:
 
 namespace {
 
-/// Place of a virtual operation in its class's table, read off the representation that the Itanium C++ ABI gives
-/// member pointers: one more than the offset into the table; on ARM the one stands apart.
+/// Place of a virtual operation in its class's table, read from how the Itanium C++ ABI represents member pointers: the
+/// offset into the table plus one; on ARM the one is stored separately.
 template <typename Operation> int slotOf(Operation operation)
 {
     struct {
@@ -56,7 +56,7 @@ public:
     virtual void afterTheLast() { }
 };
 
-/// One operation more than every plug-in tells.
+/// One operation more than the class in which every plug-in says what it provides.
 class LongerProvides : public BasePlugInProvides {
 public:
     virtual void afterTheLast() { }
@@ -130,7 +130,7 @@ void TestVirtualSlots::thePluginInterfaceHasFortyOperations()
 
 void TestVirtualSlots::drawablesKeepTheirOrder()
 {
-    // The destructor comes first and takes two.
+    // The destructor comes first and takes two places.
     QCOMPARE(slotOf(&Object3D::draw), 2);
     QCOMPARE(slotOf(&Object3D::init), 3);
     QCOMPARE(slotOf(&Object3D::drawingOrder), 4);
@@ -138,7 +138,7 @@ void TestVirtualSlots::drawablesKeepTheirOrder()
 
 void TestVirtualSlots::theMapsOwnOperationsFollowThoseOfItsFirstBase()
 {
-    // Not in the order in which Object3D has them.
+    // Their order differs from that in Object3D.
     QCOMPARE(slotOf(&RxMap3D::init), slotsOfQObject);
     QCOMPARE(slotOf(&RxMap3D::draw), slotsOfQObject + 1);
     QCOMPARE(slotOf(&RxMap3D::drawingOrder), slotsOfQObject + 2);
@@ -168,7 +168,7 @@ void TestVirtualSlots::guidanceWidgetsKeepTheirOrder()
 
 void TestVirtualSlots::whatEveryPlugInTellsKeepsItsOrder()
 {
-    // The destructor comes first and takes two.
+    // The destructor comes first and takes two places.
     QCOMPARE(slotOf(&BasePlugInProvides::close), 2);
     QCOMPARE(slotOf(&BasePlugInProvides::getInterfaceVersion), 3);
     QCOMPARE(slotOf(&BasePlugInProvides::getDbVersion), 4);

@@ -11,7 +11,7 @@ WholePrescription::WholePrescription(const QString &path)
     LoadRequest request;
     request.path = path;
     request.products = {{QString(), MapHost::productGroup(1)}};
-    // Without rates in it, but full of rings: any numeric column will do.
+    // This file holds no rates, but many rings: any numeric column will do.
     if (path.endsWith(QLatin1String("parcels.shp")))
         request.columns = QStringList{QStringLiteral("AREA_HA")};
     const LoadReport report = backend.loadAndWait(request);

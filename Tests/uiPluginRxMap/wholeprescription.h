@@ -14,7 +14,7 @@ public:
     static void addRows(const QString &folder);
     /// Why the prescription could not be loaded; empty when it was.
     QString problem() const { return reason; }
-    /// The published map; null where there is a problem.
+    /// The published map; null when there is a problem.
     DbGroupRxMap *group() const { return published; }
     OrvikTypes::RX_POLYGON *chain() const;
 

@@ -19,7 +19,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A bin of which only the prescription's name is known.
+/// A bin that only has the name of its prescription.
 class NamelessBinGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QString, rxMapGroupName, RxMapGroupName)
@@ -34,7 +34,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A position solution that tells standstill as a truth value.
+/// A position solution that gives standstill as a truth value.
 class GpsGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(bool, vehicleIsStopped, VehicleIsStopped)
@@ -49,7 +49,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A bin that knows of no prescription.
+/// A bin that has no property for a prescription.
 class UnmappedBinGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QString, compositionShortName, CompositionShortName)
@@ -64,7 +64,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A position solution that tells standstill as a number.
+/// A position solution that gives standstill as a number.
 class NumberGpsGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(int, vehicleIsStopped, VehicleIsStopped)
@@ -79,7 +79,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A position solution that tells standstill as text.
+/// A position solution that gives standstill as text.
 class TextGpsGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QString, vehicleIsStopped, VehicleIsStopped)
@@ -94,7 +94,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A position solution that tells standstill as a list.
+/// A position solution that gives standstill as a list.
 class ListGpsGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QVariantList, vehicleIsStopped, VehicleIsStopped)
@@ -124,7 +124,7 @@ private:
     QScopedPointer<Values> d{new Values};
 };
 
-/// A receiver of re-initialisations that shows what type a value had when it was written.
+/// A receiver of re-initialisations that shows which type a value had when it was written.
 class TextQuillSpanGroup : public DataBrokerGroup {
     Q_OBJECT
     ORVIK_GROUP_PROPERTY(QString, reInit, ReInit)

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-/// Lets tests see what the dialog keeps to itself.
+/// Lets tests see what the dialog keeps private.
 class DialogProbe {
 public:
     explicit DialogProbe(RxMapWidgetDialog01 &dialog)
@@ -52,7 +52,7 @@ public:
         return {d.titlePointSize, d.subtitlePointSize, d.captionPointSize, d.largePointSize, d.smallPointSize};
     }
     void spreadProductButtons() const { d.spreadProductButtons(); }
-    /// Where the members lie, in the order in which they are to be declared.
+    /// The addresses of the members, in the order in which they have to be declared.
     std::vector<const void *> memberPlaces() const
     {
         return {&d.broker,           &d.unitsConverter,   &d.imageDir,

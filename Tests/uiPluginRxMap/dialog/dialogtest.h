@@ -4,7 +4,7 @@
 #include "dialogprobe.h"
 #include "testbase.h"
 
-/// Base of the tests of the settings dialog: a host for each test function, and a dialog when it opens one.
+/// Base of the tests of the settings dialog: each test function gets a host, and a dialog when it opens one.
 class DialogTest : public TestBase {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
-    /// Builds the dialog, in place of the one before, and shows it without waiting for its end.
+    /// Builds the dialog, replacing the one before, and shows it without waiting for it to end.
     void open();
     /// Releases Done: the dialog must close.
     void done();

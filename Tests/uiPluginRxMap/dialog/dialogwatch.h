@@ -19,8 +19,8 @@ inline RxMapWidgetDialog01 *openDialog()
     return nullptr;
 }
 
-/// Acts inside the modal loop of the dialog that is to open while this lives, and closes that dialog in any case, so
-/// that a test that fails in there ends all the same.
+/// Acts inside the modal loop of the dialog that opens while this object lives, and always closes that dialog, so that
+/// a test that fails in the loop still ends.
 class DialogWatch {
 public:
     explicit DialogWatch(std::function<void(RxMapWidgetDialog01 *)> action = nullptr)

@@ -8,8 +8,8 @@
 
 #include <QPointer>
 
-/// Reads and writes of the host's properties run its hooks, validators and subscribers, and each of these may act in
-/// the middle of what the list and the dialog do: every action, at every such moment of one working day.
+/// Reads and writes of the host's properties run its hooks, validators and subscribers, and each of these may act while
+/// the list or the dialog is in the middle of something: every action is tried at every such moment of one working day.
 class TestHookSweep : public TestBase {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     QByteArray action;
     DataBrokerGroup *watched = nullptr;
     int moments = 0;   ///< Accesses of the watched property so far.
-    int dueMoment = 0; ///< The one at which the host acts, from 1.
+    int dueMoment = 0; ///< The access at which the host acts, counted from 1.
 };
 
 int TestHookSweep::moment()
@@ -97,7 +97,7 @@ void TestHookSweep::prepare(int kind, const QByteArray &group, const QByteArray 
         watched->connectPropertySetSlot(property, this, SLOT(moment()), Qt::DirectConnection, true);
 }
 
-// The chain goes once the count is 0, as a back-end frees it.
+// The chain is freed once the count is 0, as a back-end does it.
 void TestHookSweep::fillMap()
 {
     host->map->setPolygonCount(0);

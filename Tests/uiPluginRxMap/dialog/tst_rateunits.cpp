@@ -68,7 +68,7 @@ const Row rows[] = {
     {"pressure", -1, "kPa", "unit of pressure: kilopascals"},
 };
 
-/// A product of a kind with its node and the operator's unit.
+/// A product of the given kind, with its node and the operator's unit.
 class Product {
 public:
     Product(const QString &kind, int unit)
@@ -81,7 +81,7 @@ public:
             units.setPressureUnit(unit);
         else
             units.setAreaUnitSystem(unit);
-        // Factors that tell the six pairs apart.
+        // Different factors, so that the six pairs can be told apart.
         units.setCountRateToDisplay(1);
         units.setCountRateFromDisplay(-1);
         units.setRatioRateToDisplay(2);

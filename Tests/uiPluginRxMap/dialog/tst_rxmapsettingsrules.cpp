@@ -6,7 +6,7 @@
 
 namespace Rules = RxMapSettingsRules;
 
-/// The settings dialog's rules, without a dialog. A product is written as letters: m master, f follows, s shut off.
+/// The settings dialog's rules, without a dialog. Letters stand for a product: m master, f follows, s shut off.
 class TestRxMapSettingsRules : public TestBase {
     Q_OBJECT
 

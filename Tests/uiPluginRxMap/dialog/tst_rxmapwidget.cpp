@@ -8,7 +8,7 @@
 
 #include <type_traits>
 
-/// What the Rx options button is made of and shows.
+/// What the Rx options button consists of and what it shows.
 class TestRxMapWidget : public TestBase {
     Q_OBJECT
 
@@ -29,8 +29,8 @@ private Q_SLOTS:
 
 namespace {
 
-/// The widget's font is set up and drawn with by nobody: the only way to see it is past its access. Explicit
-/// instantiation may name a private member.
+/// The widget's font is set up but nothing draws with it, so the only way to see it is to get round its access: an
+/// explicit instantiation may name a private member.
 template <QFont RxMapWidget::*member> struct FontAccess {
     friend const QFont &widgetFont(const RxMapWidget &widget) { return widget.*member; }
 };
@@ -116,7 +116,7 @@ void TestRxMapWidget::bothSignalsOfTheButtonAreConnected()
 {
     DialogHost host;
     WidgetPage page(host);
-    // Breaking a connection succeeds only where there is one.
+    // A disconnect succeeds only where there is a connection.
     QVERIFY(disconnect(page.button, SIGNAL(longTouch(int)), &page.widget, SLOT(onLongTouch(int))));
     QVERIFY(disconnect(page.button, SIGNAL(buttonReleased(int)), &page.widget, SLOT(onButtonReleased(int))));
 }
@@ -143,7 +143,7 @@ void TestRxMapWidget::withoutABrokerTheButtonIsDisabled()
 
 void TestRxMapWidget::keptOperationsAreTheHosts()
 {
-    // Which class an operation's pointer names tells where it was declared last.
+    // The class in the type of an operation's pointer is the one that declared it last.
     class Open : public RxMapWidget {
     public:
         using RxMapWidget::mousePressEvent;

@@ -31,7 +31,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Collects what is painted of `widget`, its coordinates.
+/// Collects the areas of `widget` that are painted, in its coordinates.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QWidget &widget) { widget.installEventFilter(this); }
@@ -137,7 +137,7 @@ void TestRxMapWidgetDialog::aLongTouchRunsTheDialogModally()
         QVERIFY(openDialog() == nullptr);
         order.append(active ? QStringLiteral("active") : QStringLiteral("inactive"));
     });
-    // The dialog takes its size from a picture of the image folder.
+    // The dialog gets its size from a picture of the image folder.
     const QSize size = QPixmap(host.images.filePath(QStringLiteral("RxOptionsPopup.png"))).size();
     const DialogWatch watch([&](RxMapWidgetDialog01 *dialog) {
         order.append(QStringLiteral("dialog"));
@@ -163,7 +163,7 @@ void TestRxMapWidgetDialog::theFlagIsClearedAfterTheDialogAndBeforeTheRepaint()
     const auto takeOut = qScopeGuard([&] { scene.removeItem(&page->widget); });
     connect(&scene, &QGraphicsScene::changed, this, [&order] { order.append(QStringLiteral("repaint")); });
     connect(&page->widget, &UiGWidget::popupActiveChanged, this, [&order](bool active) {
-        // Repaints that were asked for so far take place now.
+        // Repaints that are already requested take place now.
         QCoreApplication::sendPostedEvents();
         order.append(active ? QStringLiteral("active") : QStringLiteral("inactive"));
     });
@@ -187,7 +187,7 @@ void TestRxMapWidgetDialog::theWholeWidgetIsRepaintedAfterTheDialog()
     scene.addItem(&page.widget);
     const auto takeOut = qScopeGuard([&] { scene.removeItem(&page.widget); });
     QGraphicsView view(&scene);
-    // Clear of the dialog, which opens in the middle of the display.
+    // Away from the dialog, which opens in the middle of the display.
     view.move(0, 0);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));

@@ -115,7 +115,7 @@ void TestDialogConnections::aHeldButtonIsReleasedOnce()
     QVERIFY(button);
     const QSignalSpy released(button, &OrvikButton::buttonReleased);
     QTest::mousePress(button, Qt::LeftButton);
-    // Longer than it takes a repeating button to come again.
+    // Longer than a repeating button takes to report again.
     QTest::qWait(700);
     QCOMPARE(released.count(), 0);
     QTest::mouseRelease(button, Qt::LeftButton);

@@ -1,7 +1,7 @@
 #include "openeddialog.h"
 #include "testbase.h"
 
-/// The dialog where the host lacks something that it needs.
+/// The dialog on a host that lacks something that it needs.
 class TestDialogMissing : public TestBase {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ void TestDialogMissing::aGroupThatWasNeverWrittenGivesNoSettings()
     QVERIFY(opened.probe.settings().isEmpty());
     DialogProbe::release(opened.probe.doneButton());
     QVERIFY(group->getSettings().isEmpty());
-    // The mappings do not need them.
+    // The mappings can do without the settings.
     QCOMPARE(group->getRateCalMappings().at(2).defaultRate, 12.5);
     QCOMPARE(host.reInitialisations, 0);
 }
@@ -126,9 +126,9 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog_data()
     row("settings", "settings", "0.0", caption, "4", false, 12.5, 12.5);
     row("units", "units", "3.0", "", "0", true, 4.0, 3.0);
     row("gps", "gps", "3.0", caption, "4", true, 12.5, 12.5);
-    // No product has given its factors yet, so that what is typed counts as 0.
+    // No product has set its factors yet, so what is typed counts as 0.
     row("products", "products", "3.0", "", "0", true, 0.0, 3.0);
-    // The factors are those of the product before.
+    // The factors are still those of the product before.
     row("node", "node", "3.0", "", "4", true, 12.5, 12.5);
     row("loader", "loader", "3.0", caption, "4", true, 12.5, 3.0);
     // Without bins no product is under control, so Done cancels; the master falls to the first product.
@@ -143,7 +143,7 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog()
     QFETCH(QString, missing);
     QFETCH(bool, settingsWritten);
     DialogHost host;
-    // None of them as a fresh record has it.
+    // Every value differs from that of a fresh record.
     auto mappings = host.map->getRateCalMappings();
     mappings[2].defaultRate = 4.0;
     host.map->setRateCalMappings(mappings);
@@ -165,7 +165,7 @@ void TestDialogMissing::missingPiecesLeaveAUsableDialog()
     QTEST(opened.probe.lookAheadEdit()->getText(), "lookAhead");
     QTEST(opened.probe.defaultRateLabel()->text(), "caption");
     QTEST(opened.probe.defaultRateEdit()->getText(), "rate");
-    // Without a bin a product is not under control; else even a rate field without a node is shown, as it is meant.
+    // Without a bin a product is not under control. Otherwise even a rate field without a node is shown, as intended.
     const bool hasBins = missing != QLatin1String("bins") && missing != QLatin1String("everything");
     QCOMPARE(opened.probe.defaultRateEdit()->isVisible(), hasBins);
     useEveryControl(opened);
@@ -188,7 +188,7 @@ void TestDialogMissing::withoutAPictureItIsSeenAndCanBeLeft()
         if (wasSeen)
             QTest::keyClick(opened.dialog.windowHandle(), Qt::Key_Escape);
     });
-    // So that the test ends also where the key does not end the dialog.
+    // Makes the test end even if the key does not close the dialog.
     QTimer::singleShot(10000, &opened.dialog, &QDialog::accept);
     QCOMPARE(opened.dialog.exec(), int(QDialog::Rejected));
     QVERIFY(wasSeen);

@@ -7,14 +7,14 @@
 
 #include <QScopedPointer>
 
-/// An options button as the guidance page makes it; the caller owns it.
+/// An options button, made as the guidance page makes it; the caller owns it.
 inline RxMapWidget *newWidget(const DialogHost &host, DataBroker *broker)
 {
     return new RxMapWidget(QStringLiteral("UiPluginRxMap"), QStringLiteral("RxMapWidget"), 1, 2, host.images,
                            QPointF(30, 40), broker);
 }
 
-/// The image button of the widget; null where it has none.
+/// The image button of the widget; null when it has none.
 inline OrvikButtonQgw *rxOptionsOf(const RxMapWidget &widget)
 {
     for (QGraphicsItem *item : widget.childItems()) {

@@ -6,7 +6,7 @@
 #include "rxmap3dprobe.h"
 #include "testbase.h"
 
-/// Base of the tests of the map's drawing: for each test function a context with a recording function table, and a map
+/// Base of the tests of the map's drawing: each test function gets a context with a recording function table, and a map
 /// that is not initialised.
 class DrawingTest : public TestBase {
     Q_OBJECT
@@ -16,7 +16,7 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
-    /// Appends a bank of so many vertices to the map.
+    /// Appends a bank of `vertices` vertices to the map.
     void addBank(int vertices, qint32 primitive = 4);
 
     QScopedPointer<CurrentContext> context;

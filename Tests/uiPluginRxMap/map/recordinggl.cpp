@@ -9,7 +9,7 @@ namespace {
 
 using Table = QOpenGLFunctionsPrivate::Functions;
 
-/// Opens the function table that all users of a context share.
+/// Makes the function table accessible that all users of a context share.
 class Opener : public QOpenGLFunctions {
 public:
     static Table &table()
@@ -24,7 +24,7 @@ struct Record {
     QStringList calls;
     QList<unsigned int> errors;
     QMap<unsigned int, const void *> pointers;
-    QMap<unsigned int, QString> shaders; ///< The type of each.
+    QMap<unsigned int, QString> shaders; ///< The type of each shader.
     std::function<void(const QString &)> watcher;
 };
 

@@ -5,23 +5,23 @@
 
 #include <functional>
 
-/// Replaces entries of the current context's function table by ones that record the call and hand it on; puts the
-/// table back when it goes. One at a time.
+/// Replaces entries of the current context's function table by functions that record the call and pass it on; restores
+/// the table when it is destroyed. Only one may exist at a time.
 class RecordingGl {
 public:
     RecordingGl();
     ~RecordingGl();
 
-    /// Calls in order, such as "glDrawArrays 4 0 6"; shaders by the type that they were created with.
+    /// The calls in order, such as "glDrawArrays 4 0 6"; shaders are given by the type that they were created with.
     QStringList calls() const;
-    /// Calls of one function.
+    /// Number of calls of one function.
     int count(const QString &function) const;
     void clear();
-    /// Codes that glGetError answers with, one per call, before it answers for itself.
+    /// Error codes that glGetError returns, one per call, before it gives its own again.
     void pend(const QList<unsigned int> &errors);
-    /// Called with each call, once it is recorded and before it is handed on.
+    /// Called for each call, after it is recorded and before it is passed on.
     void watch(std::function<void(const QString &)> watcher);
-    /// Where the last call set the pointer of an attribute.
+    /// Where the last call set the pointer of an attribute to.
     static const void *pointerOf(unsigned int attribute);
 
 private:

@@ -20,7 +20,7 @@ Record &record()
 
 template <typename Function> Function real(const char *name)
 {
-    // By its name: with every function that is called here, the linker sees no need for the library.
+    // By its name, since every function called here is defined here: the linker sees no need for the library.
     static void *const library = dlopen("libGLU.so.1", RTLD_NOW);
     return reinterpret_cast<Function>(dlsym(library, name));
 }
@@ -30,7 +30,7 @@ void note(const QString &call)
     record().calls.append(call);
 }
 
-/// Every double has a text of its own.
+/// Every double gets a text of its own.
 QString exact(double value)
 {
     return QString::number(value, 'g', 17);

@@ -6,8 +6,8 @@
 
 #include "Framework/rxpolygon.h"
 
-/// Base of the tests of a rebuild: for each test function a map bound to the empty prescription group "rxMap.field" of
-/// product 1, and no GLU call recorded yet.
+/// Base of the tests of a rebuild: each test function gets a map bound to the empty prescription group "rxMap.field" of
+/// product 1, with no GLU call recorded yet.
 class TessellationTest : public TestBase {
     Q_OBJECT
 
@@ -16,7 +16,8 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
-    /// Publishes the chain with the legend of one class; the triangles drawn for it, of the map's first bank.
+    /// Publishes the chain with a legend of one class; returns the triangles drawn for it, those of the map's first
+    /// bank.
     const QVector<Vertex> &rebuild(HandMadeChain &chain);
 
     /// A legend of one opaque red class.

@@ -37,7 +37,7 @@ QList<OrvikTypes::RX_RATECOLOR> oneClass()
     return {{10.0, QColor(255, 0, 0)}};
 }
 
-/// A map of product 1 from a back-end of another make, with one square in `chain` that it does not count yet.
+/// A map of product 1 from a different back-end, with one square in `chain` that its count leaves out for now.
 ForeignMapGroup *publishForeignMap(MapHost &host, HandMadeChain &chain)
 {
     auto *group = new ForeignMapGroup(QStringLiteral("rxMap.foreign"));

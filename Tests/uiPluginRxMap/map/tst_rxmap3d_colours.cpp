@@ -57,7 +57,7 @@ void TestRxMap3DColours::aPolygonTakesTheFirstClassNotBelowItsRate()
     MapHost::publish(*group, chain, threeClasses());
     QTEST(firstColor(*map), "color");
 
-    // List order decides: with the last class first, it takes every rate up to its limit.
+    // The order of the list decides: with the last class first, that class takes every rate up to its limit.
     QList<OrvikTypes::RX_RATECOLOR> unsorted = threeClasses();
     unsorted.move(2, 0);
     MapHost::publish(*group, chain, unsorted);

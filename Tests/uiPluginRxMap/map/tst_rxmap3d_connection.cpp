@@ -6,7 +6,7 @@
 #include "Framework/dbgroupaam.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
-/// How the drawable holds on to the map that it shows, when connections other than its own stand beside it.
+/// How the drawable follows the map that it shows when there are connections other than its own.
 class TestRxMap3DConnection : public TestBase {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void leavingAMapEndsTheConnectionsOfAllItsSignals();
 
 private:
-    /// Connects once more, as somebody else might.
+    /// Makes one more connection, as other code might.
     void connectByHand();
     int rebuildsOfOneSet();
 

@@ -3,7 +3,7 @@
 #include <QOpenGLShader>
 #include <QPointer>
 
-/// An OpenGL context that goes while the drawable stays, as when a host rebuilds its field view.
+/// An OpenGL context that is destroyed while the drawable stays, as when a host rebuilds its field view.
 class TestRxMap3DContextLoss : public DrawingTest {
     Q_OBJECT
 

@@ -71,7 +71,7 @@ void TestRxMap3DDrawing::drawWithoutBanksMakesNoDrawCall()
     QCOMPARE(calls.at(0), QStringLiteral("glUseProgram"));
     QVERIFY(calls.at(1).startsWith(QLatin1String("glEnableVertexAttribArray")));
     QVERIFY(calls.at(2).startsWith(QLatin1String("glEnableVertexAttribArray")));
-    // Row by row above, column by column for OpenGL.
+    // Row by row above; OpenGL takes it column by column.
     QCOMPARE(calls.at(3),
              QStringLiteral("glUniformMatrix4fv count 1 transpose 0 values "
                             "1 5 9 13 2 6 10 14 3 7 11 15 4 8 12 16"));

@@ -11,15 +11,15 @@
 
 namespace {
 
-/// What reached the system log and standard output, in order: "log: ...", "output: ..." (several writes in a row are
-/// one entry) and "flush".
+/// The writes to the system log and to standard output, in order: "log: ...", "output: ..." (several writes in a row
+/// are one entry) and "flush".
 QStringList journal;
-/// Whether nobody else could take the debug output's lock at any entry of the journal.
+/// Whether the debug output's lock was held at every entry of the journal, so that nobody else could take it.
 bool wasAlwaysLocked = true;
 
 const QString outputMark = QStringLiteral("output: ");
 
-/// Nobody else can take a lock that is held, however short the patience; for one that is free it must be long.
+/// A held lock stays taken however short the patience is; to find that a lock is free, the patience must be long.
 bool isLockedForOthers(std::chrono::milliseconds patience)
 {
     std::promise<void> taken;
@@ -41,7 +41,7 @@ void enter(const QString &entry)
         journal.append(entry);
 }
 
-/// Stands behind std::cout while it lives and enters everything in the journal.
+/// Takes the place of std::cout's buffer while it lives and enters everything in the journal.
 class OutputJournal : private std::streambuf {
 public:
     OutputJournal()
@@ -81,7 +81,7 @@ static void enterLogLine(int priority, const char *format, va_list arguments)
     enter(QStringLiteral("log: %1 %2 %3").arg(priority).arg(QLatin1String(format), QLatin1String(text)));
 }
 
-// Stands in for the C library's system log in this program.
+// Replaces the C library's system log in this program.
 extern "C" void syslog(int priority, const char *format, ...)
 {
     va_list arguments;
@@ -90,7 +90,7 @@ extern "C" void syslog(int priority, const char *format, ...)
     va_end(arguments);
 }
 
-// What the log is called in a build with checked library functions.
+// The name of the log in a build with checked library functions.
 extern "C" void __syslog_chk(int priority, int /*flag*/, const char *format, ...)
 {
     va_list arguments;
@@ -99,7 +99,7 @@ extern "C" void __syslog_chk(int priority, int /*flag*/, const char *format, ...
     va_end(arguments);
 }
 
-/// How pending OpenGL errors are reported after each draw call.
+/// How OpenGL errors that are pending are reported after each draw call.
 class TestRxMap3DErrors : public DrawingTest {
     Q_OBJECT
 

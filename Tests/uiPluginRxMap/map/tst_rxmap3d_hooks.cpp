@@ -12,7 +12,7 @@
 #include <utility>
 
 /// Reading a property runs the host's hooks, and a hook may do anything to the host or to the drawable: choose another
-/// product, take a map out, delete the drawable.
+/// product, remove a map, delete the drawable.
 class TestRxMap3DHooks : public TestBase {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void aRebuildMayLoseItsPolygons();
 
 private:
-    /// Lets the next read of the property do something first, once.
+    /// Makes the next read of the property do something first, once.
     void onNextRead(DataBrokerGroup *from, const char *property, std::function<void()> what);
 
     QScopedPointer<CurrentContext> context;
@@ -309,7 +309,7 @@ void TestRxMap3DHooks::aRebuildMayLoseItsPolygons_data()
 void TestRxMap3DHooks::aRebuildMayLoseItsPolygons()
 {
     QFETCH(QByteArray, property);
-    // As a back-end does: the count first, then the memory.
+    // As a back-end does it: the count first, then the memory.
     const auto withdraw = [](void *argument) {
         auto &test = *static_cast<TestRxMap3DHooks *>(argument);
         const HandMadeChain withdrawn = std::exchange(test.firstChain, HandMadeChain());

@@ -11,7 +11,7 @@
 #include <cmath>
 #include <limits>
 
-/// What becomes of polygons that lack something or cross themselves, and of those around them.
+/// What happens to polygons that lack something or cross themselves, and to those around them.
 class TestRxMap3DPolygons : public TestBase {
     Q_OBJECT
 
@@ -113,7 +113,7 @@ void TestRxMap3DPolygons::crossingRingsAreNotDrawnAndHarmNoOther()
     const QVector<Vertex> &drawn = rebuild(redAndGreen);
     QCOMPARE(drawn.size(), 6);
     QVERIFY(std::all_of(drawn.begin(), drawn.end(), [](const Vertex &vertex) { return vertex.x >= 50.0F; }));
-    // The good ring started with nothing left of the one before.
+    // When the good ring started, nothing remained of the one before.
     QCOMPARE(RecordingGlu::calls().filter(QStringLiteral(" #0")).size(), 2);
     QVERIFY(coordList.isEmpty());
     QVERIFY(vList.isEmpty());

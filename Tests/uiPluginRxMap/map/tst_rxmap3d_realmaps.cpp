@@ -25,9 +25,9 @@ private:
 
 namespace {
 
-/// What the rings of a chain enclose, as it was drawn.
+/// What the rings of a chain enclose, as drawn.
 struct Enclosed {
-    double area = 0.0; ///< Outers less the holes that were placed, square metres.
+    double area = 0.0; ///< Outer rings less the holes that were placed, square metres.
     int outers = 0;
     int placedHoles = 0;
     bool isNumberedInOrder = true;

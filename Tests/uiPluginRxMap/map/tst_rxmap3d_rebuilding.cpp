@@ -7,7 +7,7 @@
 
 #include <thread>
 
-/// What has the drawable rebuild, and in which order it reads the bound group then.
+/// What makes the drawable rebuild, and in which order it then reads the bound group.
 class TestRxMap3DRebuilding : public TessellationTest {
     Q_OBJECT
 

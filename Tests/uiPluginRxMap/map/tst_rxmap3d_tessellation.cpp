@@ -6,7 +6,7 @@
 
 #include <GL/glu.h>
 
-/// What a rebuild hands to the tessellator, and which bank it leaves.
+/// What a rebuild passes to the tessellator, and which bank it makes.
 class TestRxMap3DTessellation : public TessellationTest {
     Q_OBJECT
 
@@ -136,7 +136,8 @@ void TestRxMap3DTessellation::callsForAnOuterRingWithAHole()
 {
     HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
-    // A tenth is no float: contours go to the tessellator as they are, although holes are placed by narrowed ones.
+    // A float cannot hold a tenth: contours go to the tessellator as they are, although holes are placed by narrowed
+    // coordinates.
     chain.addHole({{0.1, 3}, {5, 0.7}, {5, 7}});
     group->setPolygonBuffer(chain.first());
     group->setRateColors({oneClass});

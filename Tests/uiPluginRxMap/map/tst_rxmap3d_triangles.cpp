@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-/// Which triangles come out of a rebuild: the outer rings less the holes that each of them takes.
+/// Which triangles a rebuild makes: the outer rings less the holes that each of them takes.
 class TestRxMap3DTriangles : public TessellationTest {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ Ring circle(double x, double y, double radius, int vertices)
 
 void TestRxMap3DTriangles::aSquareGivesTwoReversedTriangles()
 {
-    // What GLU itself emits for the square, through the same callbacks.
+    // What GLU itself emits for the square, using the same callbacks.
     GLUtesselator *tessellator = gluNewTess();
     for (const auto &callback :
          {std::pair<GLenum, _GLUfuncptr>{GLU_TESS_VERTEX, reinterpret_cast<_GLUfuncptr>(tessVertexCB)},
@@ -127,7 +127,7 @@ void TestRxMap3DTriangles::aHoleInAnIslandOfALaterRingIsTakenByTheFirst()
     chain.addHole(square(20, 20, 60));
     chain.addOuter(square(30, 30, 40));
     chain.addHole(square(45, 45, 10));
-    // Inside the first ring's own hole it turns into a filled part of that ring.
+    // Inside the first ring's own hole it becomes a filled part of that ring.
     QCOMPARE(coveredArea(rebuild(chain)), 10000.0 - 3600.0 + 100.0 + 1600.0);
 }
 
@@ -144,7 +144,8 @@ void TestRxMap3DTriangles::aHoleThatIsHardlySmallerIsKeptForALaterRing()
 
 void TestRxMap3DTriangles::theBankHasRoomForAllTrianglesFromTheStart()
 {
-    // The hole lies in the outer ring, so the map takes 4 + 4 + 2 - 2 triangles; the ring of two takes none.
+    // The hole lies in the outer ring, so the map has room for 4 + 4 + 2 - 2 triangles; the ring of two vertices needs
+    // none.
     HandMadeChain chain;
     chain.addOuter(square(0, 0, 10));
     chain.addHole(square(4, 4, 2));
@@ -222,13 +223,13 @@ static void addShape(HandMadeChain &chain, const QString &shape, double &expecte
         for (int i = 0; i < 20; ++i)
             hole(circle(-190 + 20 * i, 10.0 * (i % 5), 5, 17));
     } else if (shape == QLatin1String("hole that touches at a corner")) {
-        // Its left and lower sides lie on the ring's own, which count as inside.
+        // Its left and lower sides lie on those of the ring, and points there count as inside.
         outer(square(0, 0, 10));
         hole(square(0, 0, 3));
     } else if (shape == QLatin1String("ring of two")) {
         outer({{0, 0}, {10, 10}});
     } else {
-        // The inner island comes first, so that its hole is not taken by the ring around it all.
+        // The inner island comes first, so that the ring around everything does not take its hole.
         outer(circle(0, 0, 50, 64));
         outer(circle(0, 0, 100, 64));
         hole(circle(0, 0, 60, 64));

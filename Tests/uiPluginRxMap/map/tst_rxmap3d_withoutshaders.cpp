@@ -2,7 +2,7 @@
 
 #include <QOpenGLShader>
 
-/// The drawable where the host lacks its shader sources: nothing checks for them, and nothing may crash.
+/// The drawable on a host that lacks its shader sources: nothing checks for them, and nothing may crash.
 class TestRxMap3DWithoutShaders : public DrawingTest {
     Q_OBJECT
 
@@ -36,12 +36,13 @@ void TestRxMap3DWithoutShaders::initAndDrawGoOn()
     addBank(6);
     gl->clear();
     expectUnlinked(QStringLiteral("uniformLocation(u_mvp)"), 1);
-    expectUnlinked(QStringLiteral("attributeLocation(a_position)"), 3); // Enabled, pointed, disabled.
+    expectUnlinked(QStringLiteral("attributeLocation(a_position)"), 3); // To enable, point and disable it.
     expectUnlinked(QStringLiteral("attributeLocation(color)"), 3);
     map->draw(QMatrix4x4());
     QCOMPARE(gl->count(QStringLiteral("glDrawArrays 4 0 6")), 1);
 
-    // Why linking failed, once in init() and once in binding for the draw, is told in the driver's own words.
+    // The driver says in its own words why linking failed, once in init() and once when the program is bound for the
+    // draw.
     const QStringList reasons = messages().warnings().filter(QStringLiteral("QOpenGLShader::link: "));
     QCOMPARE(reasons.size(), 2);
     for (const QString &reason : reasons)

@@ -64,7 +64,7 @@ bool isOnLine(const RX_POLYGON &ring, const RX_POLYGONVERTEX &point)
     return false;
 }
 
-/// Whether all vertices that are finite once narrowed are inside the outer ring, and there are some.
+/// Whether the outer ring contains all vertices that are finite once narrowed, and there are any.
 bool isInsideButForOddVertices(const RX_POLYGON &outer, const RX_POLYGON &hole)
 {
     int inside = 0;

@@ -11,8 +11,8 @@ inline RingLists split(HandMadeChain &chain)
     return RingLists(chain.first(), chain.count());
 }
 
-/// Where the class under test places the holes, one list of hole indexes per outer ring; no lists at all where it tells
-/// otherwise hole by hole.
+/// Where the class under test places the holes, as one list of hole indexes per outer ring; no lists at all when asking
+/// it hole by hole gives another result.
 inline QVector<QVector<int>> placed(const RingLists &rings)
 {
     const HolePlacement placement(rings.outers, rings.holes);

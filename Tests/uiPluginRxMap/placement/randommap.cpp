@@ -84,7 +84,7 @@ RandomMap::RandomMap(const RandomKind &givenKind, unsigned int seed)
     for (int i = 0; i < rings; ++i) {
         const bool isHole = below(2) == 1;
         Ring ring = nextRing(isHole);
-        // What it was before: a ring that is not a number large would meet no other.
+        // The area before spoiling: a ring whose area is not a number would never be compared with another.
         const double area = ring.empty() ? 0.0 : std::fabs(shoelaceArea(ring));
         spoil(ring);
         RX_POLYGON &polygon = isHole ? chain.addHole(ring) : chain.addOuter(ring, {rate()});
@@ -185,7 +185,7 @@ Ring RandomMap::holeOf(const Star &outer)
     return kind.rings == RandomRings::Clustered ? clusteredHole(outer) : touchingHole(outer);
 }
 
-// Few vertices: of many that lie on the ring, narrowing would nearly always put one outside of it.
+// Few vertices only: with many on the ring, narrowing would nearly always put one of them outside.
 Ring RandomMap::touchingHole(const Star &outer)
 {
     Ring hole;
@@ -207,8 +207,8 @@ Ring RandomMap::clusteredHole(const Star &outer)
     return hole;
 }
 
-// A smaller star of as many vertices, about two of which are the outer ring's own or in the middle of its edges. Those
-// are numbers that a float holds, where the outer ring's are small multiples of the grid.
+// A smaller star with as many vertices, about two of which are vertices of the outer ring or lie in the middle of its
+// edges. A float can hold those coordinates, while the outer ring's are small multiples of the grid.
 Ring RandomMap::nudgedHole(const Star &outer)
 {
     const int vertices = static_cast<int>(outer.ring.size());
@@ -226,7 +226,7 @@ Ring RandomMap::nudgedHole(const Star &outer)
     return hole;
 }
 
-/// The vertex, or one beside it by less than half of what a float's numbers lie apart there.
+/// The vertex, or one beside it at less than half the distance between neighbouring floats there.
 RX_POLYGONVERTEX RandomMap::nudged(const RX_POLYGONVERTEX &vertex)
 {
     const double x = 2e-8 * (below(3) - 1);
@@ -234,7 +234,7 @@ RX_POLYGONVERTEX RandomMap::nudged(const RX_POLYGONVERTEX &vertex)
     return {vertex.x * (1.0 + x), vertex.y * (1.0 + y)};
 }
 
-// Halves and quarters are exact, so that pieces of one size share what they share to the last bit.
+// Halves and quarters are exact, so that pieces of one size share edges and vertices to the last bit.
 Ring RandomMap::sector(const Star &whole)
 {
     const int vertices = static_cast<int>(whole.ring.size());

@@ -6,37 +6,37 @@
 #include <random>
 #include <vector>
 
-/// What the rings of a random map are.
+/// What kind of rings a random map has.
 enum class RandomRings {
     Tangles,   ///< A few vertices anywhere.
-    Stars,     ///< Many vertices around a centre, so that rings lie inside one another.
-    Nudged,    ///< Stars; holes are drawn from outer rings, their vertices beside a line by less than a float tells.
+    Stars,     ///< Many vertices around a centre, so that rings may lie inside one another.
+    Nudged,    ///< Stars; holes are made from outer rings, with vertices beside a line by less than a float can tell.
     Sectors,   ///< Pieces of one star in three sizes: they share edges, vertices and the centre.
-    Touching,  ///< Stars; holes are drawn from outer rings and have about half of their vertices.
-    Clustered, ///< Stars; holes are small and similar to an outer ring, with one of its vertices.
-    Copies,    ///< Outer rings all equal; holes too, and as in Touching.
+    Touching,  ///< Stars; holes are made from outer rings and share about half of their vertices.
+    Clustered, ///< Stars; holes are small and similar to an outer ring, and share one of its vertices.
+    Copies,    ///< All outer rings are equal; so are the holes, made as in Touching.
 };
 
-/// Where there are NaN, infinities, huge and tiny numbers among the coordinates.
+/// Where NaN, infinities, huge and tiny numbers stand among the coordinates.
 enum class OddNumbers { None, AnyCoordinate, OneVertexOfFewRings };
 
 /// How random rings are made.
 struct RandomKind {
     RandomRings rings = RandomRings::Tangles;
     OddNumbers odd = OddNumbers::None;
-    double grid = 0.0;   ///< Coordinates are multiples of this; 0: any.
+    double grid = 0.0;   ///< Coordinates are multiples of this; 0: any coordinates.
     double offset = 0.0; ///< Far from the origin, narrowing to float moves vertices.
     double scale = 1.0;
     double flatness = 1.0;      ///< Divides heights.
-    bool holesAreSmall = false; ///< All are said to be so much smaller than they are that any outer ring may take them.
+    bool holesAreSmall = false; ///< Holes claim such small areas that any outer ring may take them.
 };
 
 Q_DECLARE_METATYPE(RandomKind)
 
-/// So many of a kind's maps, of the seeds from 1 on, are counted; the others are made in the same way.
+/// This many maps of each kind, those with seeds from 1 on, are counted; the others are made the same way.
 constexpr unsigned int countedMaps = 100;
 
-/// A few outer rings and holes, some with an area that is not theirs or without rates; the same for the same seed.
+/// A few outer rings and holes, some with a wrong area or without rates; the same seed gives the same map.
 class RandomMap {
 public:
     RandomMap(const RandomKind &kind, unsigned int seed);
@@ -70,9 +70,9 @@ private:
 
     RandomKind kind;
     std::mt19937 random;
-    std::vector<Star> models; ///< What further rings are made from.
+    std::vector<Star> models; ///< What other rings are made from.
 };
 
-/// Adds a row for every sort of trouble that rings can make: a RandomKind "kind", and MapStatistics::Counts "least" of
-/// what its first countedMaps maps hold.
+/// Adds a row for every difficulty that rings can bring: a RandomKind "kind", and MapStatistics::Counts "least" of what
+/// its first countedMaps maps contain.
 void addRandomKinds();

@@ -6,10 +6,10 @@
 
 #include <limits>
 
-// Hole placement as it is defined. Nothing here is shared with the code under test, so that a mistake in the one does
-// not repeat itself in the other.
+// Hole placement as it is defined. It shares nothing with the code under test, so that a mistake in one is not repeated
+// in the other.
 
-/// Vertices of a ring; none without a vertex array, nor when the count does not fit an int.
+/// Number of a ring's vertices; 0 without a vertex array, or when the count does not fit an int.
 inline int referenceVertexCount(const OrvikTypes::RX_POLYGON &ring)
 {
     const bool isUsable =
@@ -17,8 +17,9 @@ inline int referenceVertexCount(const OrvikTypes::RX_POLYGON &ring)
     return isUsable ? static_cast<int>(ring.vertexCount) : 0;
 }
 
-/// A coordinate as it is tested, narrowed to float and widened again. Volatile: compilers have been seen to leave out
-/// the pair of conversions (g++ 12, where two coordinates become one vector), and would do so here and there alike.
+/// A coordinate as it is tested, narrowed to float and widened again. Volatile: compilers have been seen to drop the
+/// two conversions (g++ 12, where it puts two coordinates into one vector), and would do so here as well as in the code
+/// under test.
 inline double referenceNarrowed(double value)
 {
     const volatile float narrow = static_cast<float>(value);
@@ -45,8 +46,8 @@ inline bool referenceIsInside(const OrvikTypes::RX_POLYGONVERTEX *ring, int coun
     return crossings % 2 == 1;
 }
 
-/// Each hole compared with each outer ring: what any faster way must equal. One list of hole indexes per outer ring,
-/// in contour order. `asTested` is what becomes of a hole's coordinates before they are tested.
+/// Compares each hole with each outer ring: any faster way must give the same. One list of hole indexes per outer ring,
+/// in contour order. `asTested` turns a hole's coordinates into those that are tested.
 inline QVector<QVector<int>> referencePlacement(const QVector<OrvikTypes::RX_POLYGON *> &outers,
                                                 const QVector<OrvikTypes::RX_POLYGON *> &holes,
                                                 double (*asTested)(double) = referenceNarrowed)

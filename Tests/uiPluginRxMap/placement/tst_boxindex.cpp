@@ -119,7 +119,7 @@ void TestBoxIndex::exactlyTheBoxesInsideAreFound()
     const BoxIndex index(all);
     int hits = 0;
     for (int query = 0; query < 200; ++query) {
-        // Every second one starts from a box that is there; each is made twice as wide and high.
+        // Every second box starts from an existing one; each is made twice as wide and high.
         Box box = query % 2 == 0 ? nextBox(kind, random) : all.at(query % boxes).box;
         box.minX -= (box.maxX - box.minX);
         box.maxY += (box.maxY - box.minY);

@@ -63,7 +63,7 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller_data()
     QTest::newRow("equal") << 4.0 << 4.0 << false;
     QTest::newRow("ten more") << 14.0 << 4.0 << false;
     QTest::newRow("a little over ten more") << std::nextafter(14.0, 15.0) << 4.0 << true;
-    // Ten more than the hole rounds up to the outer ring's area: only the difference from that tells them apart.
+    // The hole's area plus ten rounds to the outer ring's area: only their difference tells the two apart.
     QTest::newRow("less than rounding over ten more") << 10.000000000000002 << 1e-15 << true;
     QTest::newRow("not a number") << std::nan("") << 4.0 << false;
     QTest::newRow("a hole that is not a number large") << 100.0 << std::nan("") << false;
@@ -81,7 +81,7 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
     QFETCH(double, outerArea);
     QFETCH(double, holeArea);
     QFETCH(bool, cut);
-    // Without its left edge a ring still has all on its inside that is left of the right one.
+    // Without its left edge a ring still contains everything to the left of its right edge.
     Ring withoutLeftEdge = square(0, 0, 10);
     withoutLeftEdge.push_back({std::nan(""), 5});
     for (const Ring &outer : {square(0, 0, 10), withoutLeftEdge}) {
@@ -89,7 +89,7 @@ void TestHolePlacement::aHoleMustBeMoreThanTenSquareMetresSmaller()
         chain.addOuter(outer).area = outerArea;
         chain.addHole(square(4, 4, 2)).area = holeArea;
         QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
-        // With a hole for which the ring is large enough in any case, though it lies elsewhere.
+        // Now with a second hole as well, for which the ring is certainly large enough, though it lies elsewhere.
         chain.addHole(square(40, 40, 2)).area = -1e300;
         QCOMPARE(placed(split(chain)).at(0).size(), cut ? 1 : 0);
     }
@@ -192,7 +192,7 @@ void TestHolePlacement::outersWithImpossibleVertexCountsDisturbNoOther()
 
 void TestHolePlacement::aCrossingBeyondTheRingStillCounts()
 {
-    // The left edge's crossing, as computed, lies left of both of its ends: so does the hole, and yet it is inside.
+    // The crossing with the left edge is computed to be left of both of its ends: so is the hole, and yet it is inside.
     HandMadeChain chain;
     chain
         .addOuter({{1.000000000000419, 1.9991116523742674},
@@ -219,7 +219,7 @@ void TestHolePlacement::minuteHeightsArePlacedAsByTheReference()
 
 void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
 {
-    // 16777217 is not a float: narrowed it becomes 16777216 and lies left of the ring.
+    // A float cannot hold 16777217: narrowed it becomes 16777216 and lies left of the ring.
     HandMadeChain chain;
     chain.addOuter(square(16777216.5, 0, 10));
     chain.addHole({{16777217, 2}, {16777220, 2}, {16777220, 4}});
@@ -228,7 +228,7 @@ void TestHolePlacement::holeCoordinatesAreNarrowedToFloat()
 
 void TestHolePlacement::aSideThatNarrowingMovesInsideIsInside()
 {
-    // On the right edge is outside; but 100.1 narrows to a little less, left of it.
+    // A point on the right edge is outside; but 100.1 narrows to a little less, left of the edge.
     HandMadeChain chain;
     chain.addOuter(square(0.1, 0.1, 100.0));
     chain.addHole({{90.0, 40.0}, {100.1, 40.0}, {100.1, 50.0}, {90.0, 50.0}});

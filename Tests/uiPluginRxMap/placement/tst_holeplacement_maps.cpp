@@ -10,7 +10,7 @@
 
 Q_DECLARE_METATYPE(MapKind)
 
-/// Holes of whole maps, placed as by comparing each with each outer ring.
+/// Holes of whole maps are placed as by comparing each with each outer ring.
 class TestHolePlacementOfMaps : public TestBase {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ void TestHolePlacementOfMaps::largeMapsArePlacedAsByTheReference_data()
     addRows(awkwardKinds(), 1000, {1000, 1000, 150});
 }
 
-// As published, each ring before its holes, and the other way round, where a hole may lie in rings that come first.
+// In published order, each ring before its holes, and reversed, where a hole may lie in rings that come first.
 void TestHolePlacementOfMaps::largeMapsArePlacedAsByTheReference()
 {
     QFETCH(MapKind, kind);

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Whether the ring contains the hole, asked for the first time or after many other points.
+/// Whether the ring contains the hole, asked first or after many other points.
 bool contains(const Ring &ring, const Ring &hole, bool isFirst)
 {
     HandMadeChain chain;
@@ -117,7 +117,7 @@ void TestOuterRing::aHoleWithoutVerticesIsNotInside()
 
 void TestOuterRing::verticesAreNarrowedToFloat()
 {
-    // 16777217 is not a float: narrowed it becomes 16777216 and lies left of the ring.
+    // A float cannot hold 16777217: narrowed it becomes 16777216 and lies left of the ring.
     QVERIFY(!contains(square(16777216.5, 0, 10), {{16777217, 2}, {16777220, 2}, {16777220, 4}}, true));
     QVERIFY(contains(square(16777216.5, 0, 10), {{16777218, 2}, {16777220, 2}, {16777220, 4}}, true));
 }

@@ -50,7 +50,7 @@ void TestRingBox::anOutersBoxIsWiderByWhatACrossingCanErr()
     HandMadeChain chain;
     Box box{};
     QVERIFY(boxOfOuter(chain.addOuter({{1.0, 2.0}, {4e5, 3.0}, {2e5, 7.0}}), box));
-    // Five roundings of the larger abscissa.
+    // Five rounding errors of the larger abscissa.
     const double error = 5.0 * std::numeric_limits<double>::epsilon() * 4e5;
     QVERIFY(box.minX <= 1.0 - error && box.minX > 1.0 - 100.0 * error);
     QVERIFY(box.maxX >= 4e5 + error && box.maxX < 4e5 + 100.0 * error);

@@ -98,7 +98,7 @@ void TestDialogApplying::aRecordChangedMeanwhileIsReplacedWhole()
     const auto mapping = fullMapping();
     host->map->setRateCalMappings({mapping});
     open();
-    // Differs in every field.
+    // It differs in every field.
     host->map->setRateCalMappings({OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING()});
     done();
     QCOMPARE(host->map->getRateCalMappings(), (QList<OrvikTypes::RX_DBFCOLUMN_TO_RATECAL_MAPPING>{mapping}));
@@ -206,7 +206,7 @@ void TestDialogApplying::reInitIsATruthValue()
     open();
     DialogProbe::release(probe->zeroRateShutoffBox());
     done();
-    // A number would have come as its digits.
+    // Had a number been written, it would have arrived as digits.
     QCOMPARE(quillSpan->getReInit(), QStringLiteral("true"));
 }
 

@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Touches the button as often as that before the program handles the first touch.
+/// Touches the button `taps` times before the program handles the first touch.
 void postTaps(const QDialog &dialog, const QWidget &button, int taps)
 {
     QWindow *window = dialog.windowHandle();
@@ -37,7 +37,7 @@ void postTaps(const QDialog &dialog, const QWidget &button, int taps)
     }
 }
 
-/// Publishes the groups a, b and c, of two mappings each, in place of the map that is there; a holds the settings.
+/// Publishes the groups a, b and c, of two mappings each, in place of the present map; a holds the settings.
 QList<DbGroupRxMap *> publishThreeMaps(DialogHost &host)
 {
     host.broker.removeGroup(host.map->name());
@@ -130,7 +130,7 @@ void TestDialogClosing::aSecondTapThatIsOnItsWayDoesNothing()
     QVERIFY(releases > 0);
     QTEST(settingsWrites, "writes");
     QTEST(mappingWrites, "writes");
-    // Nor when a button of another host reports what is touched while it is hidden.
+    // Nothing is written either when a button of another host reports a touch while it is hidden.
     DialogProbe::release(probe->doneButton());
     QTEST(settingsWrites, "writes");
     QTEST(mappingWrites, "writes");
@@ -211,12 +211,12 @@ void TestDialogClosing::openingAgainShowsWhatWasWritten()
 
 void TestDialogClosing::aThousandDialogsLeaveNothingBehind()
 {
-    // The children of the dispatcher are the polls that are due; those of earlier dialogs run out first.
+    // The children of the dispatcher are the pending polls; those of earlier dialogs run out first.
     const QObject *dispatcher = QAbstractEventDispatcher::instance();
     QTRY_COMPARE_WITH_TIMEOUT(dispatcher->children().size(), 0, 3000);
     const int widgets = QApplication::allWidgets().size();
     const int objects = qApp->children().size();
-    // Whatever listened to the groups before is taken off, so that a connection found later is a dialog's.
+    // All existing listeners of the groups are disconnected, so that a connection found later is a dialog's.
     const QList<DataBrokerGroup *> groups{host->map, host->gps, host->host.units, host->bins.at(0)};
     for (DataBrokerGroup *group : groups)
         QObject::disconnect(group, nullptr, nullptr, nullptr);

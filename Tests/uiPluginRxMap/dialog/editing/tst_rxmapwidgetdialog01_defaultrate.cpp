@@ -1,6 +1,6 @@
 #include "dialogtest.h"
 
-/// How the default rate is shown, and where a typed one goes.
+/// How the default rate is shown, and where a typed rate goes.
 class TestDialogDefaultRate : public DialogTest {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ void TestDialogDefaultRate::aProductWithoutMappingShowsQuestionMarks()
     open();
     DialogProbe::release(probe->productButton(1));
     QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("????"));
-    // Its unit is told all the same.
+    // Its unit is shown all the same.
     QCOMPARE(probe->defaultRateLabel()->text(), QStringLiteral("Default Rate (psi)"));
 }
 
@@ -115,7 +115,7 @@ void TestDialogDefaultRate::theDefaultRateCaptionNamesTheUnit()
     QFETCH(int, pressureUnit);
     QFETCH(bool, isCarrier);
     host->replaceProduct(1, static_cast<ProductLineItem::Basis>(basis));
-    // Every node says ratio: only volume products follow it, and no carrier does.
+    // Every node says ratio: only volume products follow that, and carriers never do.
     host->nodes.at(1)->setOperationalSettings(OrvikTypes::SPN_OperationalSetStruct(true));
     host->nodes.at(1)->setIsCarrier(isCarrier);
     host->setLoaded();
@@ -265,7 +265,7 @@ void TestDialogDefaultRate::aTypedDefaultRateThatIsNoNumberIsZero()
 {
     QFETCH(QString, text);
     open();
-    // With this factor the largest numbers are none any more.
+    // With this factor the largest numbers overflow.
     probe->setFactors(0.1, 10.0);
     host->loaders[0].defaultRate = 5.0;
     probe->mappings()[0].defaultRate = 6.0;
@@ -283,7 +283,7 @@ void TestDialogDefaultRate::theLoaderTakesTheRateBeforeTheMapping()
         seen = {host->loaders[1].defaultRate, probe->mappings().at(1).defaultRate};
     });
     DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("12.5"));
-    // The loader held the rate when it was told of it; the mapping did not yet.
+    // When the loader reported the rate it already held it; the mapping did not yet.
     QCOMPARE(seen, (QList<double>{12.5, 0.0}));
     QCOMPARE(probe->mappings().at(1).defaultRate, 12.5);
 }

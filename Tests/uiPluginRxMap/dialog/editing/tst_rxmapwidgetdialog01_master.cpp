@@ -29,7 +29,7 @@ void TestDialogMaster::applyToAllMakesTheSelectedProductMaster()
     DialogProbe::release(probe->applyToAllBox());
     QVERIFY(probe->settings().at(2).isMaster);
     QVERIFY(!probe->settings().at(0).isMaster && !probe->settings().at(1).isMaster);
-    // Whatever they follow.
+    // Also those that do not follow.
     QVERIFY(probe->settings().at(0).zeroRateShutoff && probe->settings().at(1).zeroRateShutoff);
     QCOMPARE(probe->selectedProduct(), 2);
     QCOMPARE(probe->applyToAllBox()->currentImage(), 1);
@@ -75,7 +75,7 @@ void TestDialogMaster::applyToAllRefreshesOnlyWhenSwitchedOn()
     DialogProbe::type(probe->lookAheadEdit(), QStringLiteral("3.14"));
     host->gps->setVehicleIsStopped(false);
     DialogProbe::release(probe->applyToAllBox());
-    // Nor is the standstill looked at, before the next poll does.
+    // The standstill is not looked at either, until the next poll.
     QVERIFY(probe->lookAheadEdit()->isEnabled());
     QVERIFY(!probe->vehicleMovingLabel()->isVisible());
     QCOMPARE(probe->lookAheadEdit()->getText(), QStringLiteral("3.14"));
@@ -92,7 +92,7 @@ void TestDialogMaster::aMasterBeyondTheButtonsFallsToTheFirst()
     QCOMPARE(probe->selectedProduct(), 0);
     settings[3].isMaster = false;
     settings[0].isMaster = true;
-    // The shut-off too is the first product's.
+    // The shut-off is the first product's, too.
     for (OrvikTypes::RX_SETTINGS &entry : settings)
         entry.zeroRateShutoff = true;
     QCOMPARE(probe->settings(), settings);
@@ -109,7 +109,7 @@ void TestDialogMaster::zeroRateShutoffReachesFollowersOfTheMaster()
     DialogProbe::release(probe->applyToAllBox());
     DialogProbe::release(probe->zeroRateShutoffBox());
     QCOMPARE(probe->zeroRateShutoffBox()->currentImage(), 1);
-    // Not even the selected one, which does not follow.
+    // Not even the selected product's, which does not follow.
     QVERIFY(!probe->settings().at(0).zeroRateShutoff);
     QVERIFY(!probe->settings().at(1).zeroRateShutoff);
     QVERIFY(probe->settings().at(2).zeroRateShutoff);

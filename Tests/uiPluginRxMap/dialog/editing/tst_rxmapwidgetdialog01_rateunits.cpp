@@ -104,7 +104,7 @@ void TestDialogRateUnits::anItemThatIsNoProductHasNoRate()
     QCOMPARE(probe->defaultRateLabel()->text(), QString());
     QVERIFY(dialog->getDefaultRateSettings().isEmpty());
     QVERIFY(!probe->defaultRateEdit()->isVisible());
-    // The factors stay those of the product before, and so does every loader's rate.
+    // The factors remain those of the product before, and every loader keeps its rate.
     QCOMPARE(probe->fromDisplayFactor(), 1.0);
     DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("12.5"));
     QCOMPARE(probe->mappings().at(1).defaultRate, 12.5);

@@ -1,6 +1,6 @@
 #include "dialogtest.h"
 
-/// What Done writes where a group refuses, is gone or has changed.
+/// What Done writes when a group refuses, is gone or has changed.
 class TestDialogRefusals : public DialogTest {
     Q_OBJECT
 
@@ -47,7 +47,7 @@ void TestDialogRefusals::refusedWritesAreLoggedAndTheDialogCloses()
     DialogProbe::type(probe->defaultRateEdit(), QStringLiteral("7"));
     messages().expectWarning(warning);
     done();
-    // The other property is written all the same.
+    // The other property is written nevertheless.
     const bool settingsRefused = property == "settings";
     QCOMPARE(host->entry(0).onLookAheadMs, settingsRefused ? 1000 : 4200);
     QCOMPARE(host->map->getRateCalMappings().at(0).defaultRate, settingsRefused ? 7.0 : 0.0);

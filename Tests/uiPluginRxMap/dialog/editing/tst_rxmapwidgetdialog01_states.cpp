@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-/// Runs something at every read of the standstill while it lives.
+/// Runs a function at every read of the standstill while it lives.
 class PollHook {
 public:
     PollHook(GpsGroup &givenGps, std::function<void()> givenAtPoll)
@@ -63,7 +63,7 @@ public:
     int paints = 0;
 };
 
-/// What the event dispatcher waits for on behalf of single-shot timers.
+/// The single-shot timers that the event dispatcher still waits for.
 QList<QAbstractEventDispatcher::TimerInfo> pollTimers()
 {
     const auto *dispatcher = QAbstractEventDispatcher::instance();
@@ -242,7 +242,7 @@ void TestDialogStates::everyEvaluationRepaintsTheDialog()
     PaintCounter counter(*dialog);
     QCoreApplication::processEvents();
     const int before = counter.paints;
-    // Nothing else changes, so nothing else asks for a repaint.
+    // Nothing else changes, so nothing else requests a repaint.
     dialog->setControlsEnabledState(true);
     QCoreApplication::processEvents();
     QVERIFY(counter.paints > before);
@@ -291,7 +291,7 @@ void TestDialogStates::productButtonsAndDoneAreNeverDisabled()
     host->bins.at(0)->setRxMapGroupName(group);
     host->gps->setVehicleIsStopped(stopped);
     open();
-    // As it opens, after it was editable, and after it was locked.
+    // Right after opening, after being editable, and after being locked.
     for (const bool before : {stopped, true, false}) {
         host->bins.at(0)->setRxMapGroupName(before == stopped ? group : QStringLiteral("rxMap.field"));
         dialog->setControlsEnabledState(before);

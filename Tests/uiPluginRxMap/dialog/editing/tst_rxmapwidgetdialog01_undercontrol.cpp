@@ -1,6 +1,6 @@
 #include "dialogtest.h"
 
-/// Which products the dialog takes to be under prescription control.
+/// Which products the dialog considers to be under prescription control.
 class TestDialogUnderControl : public DialogTest {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ private Q_SLOTS:
     void binsThatAreGoneDoNotCount();
 
 private:
-    /// The selected product's controls are all shown, or the message in their place.
+    /// The selected product's controls are all shown, or the message is shown in their place.
     bool showsControls() const;
 };
 

@@ -63,7 +63,7 @@ void TestDialogImages::imagesOfOneControlDiffer()
 {
     QFETCH(QString, first);
     QFETCH(QString, second);
-    // An operator must see which of the two is shown.
+    // An operator must be able to see which of the two is shown.
     QVERIFY(imageOf(first) != imageOf(second));
 }
 

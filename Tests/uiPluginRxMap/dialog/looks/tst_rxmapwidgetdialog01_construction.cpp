@@ -1,7 +1,7 @@
 #include "dialogtest.h"
 #include "dialogwatch.h"
 
-/// What the dialog finds when it is built, and in which order it looks: the host sees itself read meanwhile.
+/// What the dialog reads when it is built, and in which order: the host notices every read.
 class TestDialogConstruction : public DialogTest {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ void TestDialogConstruction::withoutAMasterTheFirstProductIsSelected()
 void TestDialogConstruction::mappingsOfAllGroupsAreJoinedInOrder()
 {
     host->host.addMap(QStringLiteral("another"), {5, 4});
-    // Not a prescription by its name.
+    // Its name says that it is not a prescription.
     host->broker.publishGroup(new DbGroupRxMap(QStringLiteral("rxMapper")));
     open();
     QCOMPARE(probe->groupCount(), 2);

@@ -33,7 +33,7 @@ QString folder()
     return buildPath("Plugins/uiPluginRxMap/translations");
 }
 
-/// What of the dialog is seen, less the background and the vertical caption over the buttons.
+/// The visible controls of the dialog, without the background and the vertical caption over the buttons.
 QList<QWidget *> visibleControls(const QDialog &dialog)
 {
     QList<QWidget *> controls;
@@ -45,7 +45,7 @@ QList<QWidget *> visibleControls(const QDialog &dialog)
     return controls;
 }
 
-/// What the label would be as wide as; a fixed width is all that its size hint tells.
+/// How wide the label's text is; its size hint gives only the fixed width.
 int textWidth(const QLabel &label)
 {
     return label.fontMetrics().size(0, label.text()).width();
@@ -104,7 +104,7 @@ void TestDialogLanguages::captionsHaveRoom()
     RxMapWidgetDialog01 dialog(&host.broker, host.images, nullptr);
     DialogProbe probe(dialog);
     dialog.show();
-    // It ends where its field begins, and fonts differ by a few pixels from system to system.
+    // The caption ends where its field begins, and fonts differ by a few pixels from system to system.
     const QLabel &beforeField = *probe.defaultRateLabel();
     QVERIFY2(textWidth(beforeField) <= 0.95 * beforeField.width(), qPrintable(beforeField.text()));
     for (int state = 0; state < 3; ++state) {

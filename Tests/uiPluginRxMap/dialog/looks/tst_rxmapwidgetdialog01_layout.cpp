@@ -75,7 +75,7 @@ void TestDialogLayout::theWindowHasExactlyTwoFlags()
     DialogHost host;
     Opened opened(host);
     QCOMPARE(opened.dialog.windowFlags() & ~Qt::WindowType_Mask, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    // No type but the one that Qt gives every window.
+    // It has no type except the one that Qt gives every window.
     QCOMPARE(opened.dialog.windowFlags() & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Window));
 }
 
@@ -182,7 +182,7 @@ void TestDialogLayout::lineEditsTakeTheirLimits_data()
     const auto row = [](const char *title, const char *control, const char *typed, const char *shown) {
         QTest::newRow(title) << control << typed << shown;
     };
-    // The key that would leave the limits is refused, what was typed before it stays.
+    // A key that would leave the limits is refused; what was typed before it stays.
     row("look-ahead, three digits", "lookAheadEdit", "1234", "123");
     row("look-ahead, one decimal", "lookAheadEdit", "123.78", "123.7");
     row("look-ahead, largest", "lookAheadEdit", "999.9", "999.9");
@@ -208,7 +208,7 @@ void TestDialogLayout::lineEditsTakeTheirLimits()
     QVERIFY(edit);
     edit->setFocus();
     edit->setText(QString());
-    // Keys as an operator's keyboard sends them.
+    // Keys, sent as an operator's keyboard sends them.
     QTest::keyClicks(edit, typed);
     QTEST(edit->getText(), "shown");
 }

@@ -64,7 +64,7 @@ private:
     QMap<QString, QColor> colors;
 };
 
-/// The colour that a widget shows beside its text.
+/// The widget's colour beside its text.
 QColor shownColor(QWidget *widget)
 {
     return QColor(widget->grab().toImage().pixel(2, 2));
@@ -83,7 +83,7 @@ QFont fontOf(const QString &family, int pointSize)
     return font;
 }
 
-/// What a product button looks like with that text and font.
+/// How a product button with that text and font looks.
 QImage productButton(const QDir &images, const QString &text, const QFont &font, bool selected = false)
 {
     const QStringList files{QStringLiteral("productButtonOff.png"), QStringLiteral("productButtonOn.png")};
@@ -93,7 +93,7 @@ QImage productButton(const QDir &images, const QString &text, const QFont &font,
     return looks(button);
 }
 
-/// Answers every text with its context before it.
+/// Translates every text into its context followed by the text.
 class ContextTranslator : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -253,7 +253,7 @@ void TestDialogLooks::messagesAreRed()
         for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
             QCOMPARE(label->palette().brush(group, opened.dialog.foregroundRole()), QBrush(Qt::red));
     }
-    // And nothing else is.
+    // Nothing else is red.
     const QWidget *others[] = {&opened.dialog, opened.probe.defaultRateLabel(), opened.probe.doneButton()};
     for (const QWidget *other : others)
         QVERIFY(other->palette().brush(opened.dialog.foregroundRole()) != QBrush(Qt::red));
