@@ -12,7 +12,7 @@ namespace {
 const QString codeIndent(4, QLatin1Char(' '));
 const QString prompt = QStringLiteral("$ ");
 
-/// 1 for a title, 2 for a section, ...; 0 for another line.
+/// 1 for a title, 2 for a section, ...; 0 for any other line.
 int headingLevel(const QString &line)
 {
     static const QRegularExpression heading(QStringLiteral("^(#+) "));

@@ -4,33 +4,33 @@
 #include <QString>
 #include <QStringList>
 
-/// One page of the documentation, as its readers see it: headings, tables, commands and what they print.
+/// One page of the documentation, as its readers see it: headings, tables, commands and what those print.
 class DocumentPage {
 public:
-    /// A command of a code block ("$ ..." there) and the lines that stand below it.
+    /// A command of a code block ("$ ..." there) and the lines below it.
     struct Command {
         QString text;
         QStringList output;
     };
 
-    /// `path` starts at the project's root. A page that cannot be read is empty.
+    /// `path` is relative to the project's root. A page that cannot be read is empty.
     explicit DocumentPage(const QString &path);
-    /// What the readers of the program read: its README and the pages beside those about the project itself.
+    /// The pages that users of the program read: its README and the other pages, except those about the project itself.
     static QStringList readersPages();
 
     QString path() const { return name; }
     QString text() const { return content; }
-    /// What stands below a heading, with the sections below it; empty where there is no such heading.
+    /// The text below a heading, with the sections below it; empty when there is no such heading.
     QString section(const QString &heading) const;
     QList<Command> commands() const;
-    /// Names that links to headings end in ("#the-report"), in the order of the headings.
+    /// The anchors that links to headings end in ("#the-report"), in the order of the headings.
     QStringList anchors() const;
     /// Where the links of the page lead, as written.
     QStringList links() const;
 
-    /// The cells of a column of all tables in a text, without the heads; rows that are too short are left out.
+    /// The cells of one column of all tables in a text, without the heads; rows that are too short are left out.
     static QStringList cells(const QString &text, int column);
-    /// What stands between backquotes.
+    /// The texts between backquotes.
     static QStringList code(const QString &text);
 
 private:

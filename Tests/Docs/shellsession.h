@@ -4,8 +4,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Somebody at a shell, in a folder with the sample field and the example files, where `terminal-simulator` is the
-/// program of this build. Nothing is kept from one session to the next, remembered choices neither.
+/// A user at a shell, in a folder with the sample field and the example files, where `terminal-simulator` is the
+/// program of this build. Nothing is kept from one session to the next, not even remembered choices.
 class ShellSession {
 public:
     ShellSession();

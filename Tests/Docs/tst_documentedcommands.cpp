@@ -5,7 +5,7 @@
 
 #include <QDir>
 
-/// What the documentation has its readers type prints what stands there.
+/// The commands that the documentation has its readers type print what the documentation shows.
 class DocumentedCommandsTest : public TestBase {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 #include <QAbstractButton>
 #include <QRegularExpression>
 
-/// Scripts can find each button of the terminal by a name that the reference tells.
+/// Scripts can find each button of the terminal by a name given in the reference.
 class DocumentedControlsTest : public TestBase {
     Q_OBJECT
 

@@ -14,7 +14,7 @@
 #include <QMetaProperty>
 #include <QRegularExpression>
 
-/// The reference names what the program has, all of it and nothing else.
+/// The reference names everything that the program has, and nothing else.
 class DocumentedNamesTest : public TestBase {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ Names tabled(const QString &page, const QString &section, const char *pattern = 
     return names;
 }
 
-/// What a script may use of an object: its properties and the calls that are no signals.
+/// What a script may use of an object: its properties, and the calls that are not signals.
 Names usable(const QMetaObject &type)
 {
     Names names;
@@ -78,7 +78,7 @@ Names usable(const QMetaObject &type)
     return names;
 }
 
-/// The cell that tells about a call of `terminal`.
+/// The table cell that describes a call of `terminal`.
 QString explanation(const QString &call)
 {
     const QString section = DocumentPage(reference).section(QStringLiteral("Scripts"));
@@ -91,7 +91,7 @@ Names helpedOptions()
     return matches(CommandLine::helpText(), "^ +(?:-\\w, )?(--[a-z-]+)");
 }
 
-/// Rows of pages, and of the example scripts.
+/// Rows for the pages, and for the example scripts.
 void addTexts(const QStringList &pages)
 {
     QTest::addColumn<QString>("text");

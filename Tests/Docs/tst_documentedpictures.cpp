@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// The pictures of the documentation show what is seen today.
+/// The pictures of the documentation show what the program shows today.
 class DocumentedPicturesTest : public TestBase {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ void DocumentedPicturesTest::eachShowsWhatIsSeen_data()
 void DocumentedPicturesTest::eachShowsWhatIsSeen()
 {
     QFETCH(QString, name);
-    // Less than a word on a button may differ.
+    // Not even a word on a button may differ.
     constexpr double pixelShare = 0.0003;
     const QString wrong = Picture::compare(QImage(made.filePath(name)), sourcePath("docs/pictures/") + name,
                                            buildPath("Tests/Docs/pictures/") + name, pixelShare);

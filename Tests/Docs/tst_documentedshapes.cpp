@@ -10,7 +10,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-/// What calls return and files hold has the members that the reference tells, all of them and no others.
+/// The results of calls and the contents of files have exactly the members that the reference gives.
 class DocumentedShapesTest : public TestBase {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir folder;
-    /// What each call returned, or the reason with which it refused.
+    /// The result of each call, or the reason with which it refused.
     QJsonObject returned;
 };
 
@@ -34,7 +34,7 @@ namespace {
 
 const QString reference = QStringLiteral("docs/simulator.md");
 
-/// Paths of all members, "classes.rate"; lists are looked into by their first entry.
+/// Paths of all members, such as "classes.rate"; of a list, the first entry is looked into.
 QStringList members(const QJsonValue &value, const QString &prefix = QString())
 {
     if (value.isArray())
@@ -48,7 +48,7 @@ QStringList members(const QJsonValue &value, const QString &prefix = QString())
     return found;
 }
 
-/// The members of a shape as it is written down: {group, sources: [{column, unit}], origin: {lon, lat}}.
+/// The members of a shape as the reference writes it: {group, sources: [{column, unit}], origin: {lon, lat}}.
 QStringList membersTold(QString shape)
 {
     static const QRegularExpression plainList(QStringLiteral("\\[[^{}\\[\\]]*\\]"));
@@ -67,7 +67,7 @@ QString sorted(QStringList names)
     return names.join(QLatin1Char(' '));
 }
 
-/// The shape that a section or a cell tells first: from a brace to the one that closes it.
+/// The first shape that a section or a cell gives: from a brace to its closing brace.
 QString shapeIn(const QString &text)
 {
     const int begin = text.indexOf(QLatin1Char('{'));
@@ -81,7 +81,7 @@ QString shapeIn(const QString &text)
     return {};
 }
 
-/// The row of the table of calls that begins so; `column` 0 is the call, 1 what it does.
+/// The row of the table of calls that begins with this text; `column` 0 is the call, 1 what it does.
 QString callRow(const QString &call, int column)
 {
     const QString section = DocumentPage(reference).section(QStringLiteral("Scripts"));

@@ -29,7 +29,7 @@ private Q_SLOTS:
     void everyPictureIsShown();
 
 private:
-    /// Whether the program and its libraries hold that very text.
+    /// Whether the program or its libraries contain exactly that text.
     bool isBuiltIn(const QString &text) const;
 
     QByteArray binaries;
@@ -48,7 +48,7 @@ QStringList allPages()
     return pages;
 }
 
-/// All files and folders ("/docs/") of the project but hidden ones and what is built.
+/// All files and folders ("/docs/") of the project except hidden ones and what is built.
 QStringList pathsOfProject()
 {
     QStringList paths;
@@ -72,7 +72,7 @@ QSet<QString> textsOf(const QString &catalogue)
     return texts;
 }
 
-/// What a page says in its own words: neither code nor the shapes of files.
+/// What a page says in its own words, without code and the shapes of files.
 QString prose(QString text)
 {
     static const QRegularExpression code(QStringLiteral("^    .*$|`[^`\\n]*`"), QRegularExpression::MultilineOption);
@@ -136,7 +136,7 @@ void DocumentedTextsTest::namesOfControls_data()
 void DocumentedTextsTest::namesOfControls()
 {
     QFETCH(QString, name);
-    // What is numbered may have parts: columnRow<n>Unit.
+    // Numbered names may have further parts: columnRow<n>Unit.
     const QString number = QStringLiteral("<n>");
     const int end = name.contains(number) ? name.indexOf(number) + number.size() : name.size();
     const QString part = name.mid(end);
@@ -174,7 +174,7 @@ void DocumentedTextsTest::pathsInPassing_data()
 void DocumentedTextsTest::pathsInPassing()
 {
     QFETCH(QString, page);
-    // Not what is built, nor what a reader has elsewhere.
+    // Leaves out what is built, and what a reader has elsewhere.
     static const QRegularExpression shape(
         QStringLiteral("^(?!build/)(?:\\./)?([\\w-][\\w./-]*(?:/|\\.(?:cpp|h|py|sh)))$"));
     static const QStringList paths = pathsOfProject();

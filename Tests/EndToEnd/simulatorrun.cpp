@@ -17,7 +17,7 @@ constexpr int longestRunMs = 240000;
 SimulatorRun runSimulator(const QStringList &arguments, const QStringList &settings)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("QT_FONT_DPI")); // The test's own; the program has to see to it by itself.
+    environment.remove(QStringLiteral("QT_FONT_DPI")); // It is the test's own; the program has to manage without it.
     for (const QString &setting : settings)
         environment.insert(setting.section(QLatin1Char('='), 0, 0), setting.section(QLatin1Char('='), 1));
     QProcess process;

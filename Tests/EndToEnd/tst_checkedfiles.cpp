@@ -16,7 +16,7 @@ QString fixture(const char *name)
     return sourcePath("Tests/fixtures/") + QLatin1String(name) + QStringLiteral(".geojson");
 }
 
-/// Where there is no display.
+/// An environment without a display.
 SimulatorRun check(const QStringList &arguments)
 {
     return runSimulator(QStringList{QStringLiteral("--check")} + arguments,
@@ -25,7 +25,7 @@ SimulatorRun check(const QStringList &arguments)
 
 } // namespace
 
-/// The map check as it is started from a shell.
+/// The map check when started from a shell.
 class CheckedFilesTest : public TestBase {
     Q_OBJECT
 

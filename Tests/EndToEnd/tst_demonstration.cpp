@@ -9,7 +9,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-/// The demonstration script, which stands in for an operator where there is no display.
+/// The demonstration script, which takes an operator's place where there is no display.
 class TestDemonstration : public TestBase {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ QString TestDemonstration::program()
 
 void TestDemonstration::initTestCase()
 {
-    // A project root of its own, so that it leaves nothing in the sources.
+    // A project root of its own, so that it leaves nothing in the source folder.
     former = QDir::currentPath();
     QVERIFY(QFile::link(sourcePath("Simulator"), folder.filePath(QStringLiteral("Simulator"))));
     QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("build/demo")));

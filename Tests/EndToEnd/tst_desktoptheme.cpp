@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
-/// What an operator sees who starts the program on a desktop of dark or light colours.
+/// What an operator sees who starts the program on a desktop with dark or light colours.
 class TestDesktopTheme : public TestBase {
     Q_OBJECT
 
@@ -16,13 +16,13 @@ private Q_SLOTS:
     void theDesktopChoosesTheThemeAtTheStart();
 
 private:
-    /// A pixel of a display that keeps its picture in a file (the format of X window dumps).
+    /// A pixel of a display that keeps its picture in a file (in the format of X window dumps).
     static QColor pixel(const QString &picture, const QPoint &place);
 };
 
 QColor TestDesktopTheme::pixel(const QString &picture, const QPoint &place)
 {
-    // Of the header: its own size, the bytes of a line, the number of colours behind it.
+    // Values of the header: its own size, the bytes of a line, the number of colours after it.
     enum Field { HeaderSize = 0, LineSize = 12, ColorCount = 19, FieldCount = 25 };
     constexpr int colorSize = 12;
     QFile file(picture);
@@ -69,12 +69,12 @@ void TestDesktopTheme::theDesktopChoosesTheThemeAtTheStart()
     QProcess program;
     program.setProcessEnvironment(environment);
     program.start(simulatorProgram(), arguments);
-    // The status bar, between its texts.
+    // On the status bar, between its texts.
     const QPoint place(700, 10);
     const QColor panel = Theme::colors(isNight ? Theme::Kind::Night : Theme::Kind::Day).panel;
     const QString picture = folder.filePath(QStringLiteral("Xvfb_screen0"));
     QTRY_COMPARE_WITH_TIMEOUT(pixel(picture, place).name(), QColor(panel.rgb()).name(), 60000);
-    // It is left open by the operator, who is not there.
+    // The program keeps running, since there is no operator to close it.
     program.kill();
     program.waitForFinished();
     display.terminate();

@@ -8,7 +8,7 @@
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
-/// The settings dialog in each of its states, as an operator sees it, beside stored pictures.
+/// The settings dialog in each of its states, as an operator sees it, compared with stored pictures.
 class TestDialogPictures : public TestBase {
     Q_OBJECT
 
@@ -20,9 +20,9 @@ private Q_SLOTS:
     void everyDesktopShowsTheSame();
 
 private:
-    /// As many as a machine may have: the product buttons overlap.
+    /// The most products that a machine may have: the product buttons overlap.
     void photographSixteenProducts();
-    /// Both messages, beside a button that says Done.
+    /// Both messages, next to a button that says Done.
     void photographNotUnderVraFromTheStart();
     void photographWith(const QStringList &products, const QString &columns, const QString &state);
 
@@ -103,7 +103,7 @@ void TestDialogPictures::statesLookAsStored()
     QFETCH(QString, state);
     const QImage window(folder.filePath(state + QStringLiteral(".png")));
     QCOMPARE(window.size(), QSize(1280, 800));
-    // The dialog alone, without the map around it; less than a check mark may differ.
+    // Only the dialog, without the map around it; not even a check mark may differ.
     const QString wrong = Picture::compare(window.copy(240, 0, 800, 800), state, 0.0003);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
@@ -137,7 +137,7 @@ void TestDialogPictures::everyDesktopShowsTheSame()
     });
     QVERIFY(display.waitForReadyRead());
     settings.append(QStringLiteral("DISPLAY=:") + QString::fromLatin1(display.readLine().trimmed()));
-    // A desktop's theme has a thread of its own, which ends just when the leak check looks for it.
+    // A desktop's theme has a thread of its own, which would end just when the leak check looks for it.
     settings.append(QStringLiteral("ASAN_OPTIONS=detect_leaks=0"));
     const QString file = folder.filePath(QStringLiteral("desktop.png"));
     const QString script = QStringLiteral(R"js(

@@ -11,7 +11,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// What is drawn at a field point is what the terminal answers there.
+/// What is drawn at a field point matches the terminal's answer there.
 class TestDrawnIsAnswered : public TestBase {
     Q_OBJECT
 
@@ -23,10 +23,10 @@ private Q_SLOTS:
 
 namespace {
 
-/// What a comparison of drawn with answered colours found.
+/// The result of comparing drawn with answered colours.
 struct Comparison {
     int compared = 0;
-    int covered = 0; ///< Of these, on polygons.
+    int covered = 0; ///< Those of them on polygons.
     int wrong = 0;
     QString firstWrong;
 };
@@ -38,7 +38,7 @@ bool isNear(const QColor &a, const QColor &b)
         && std::abs(a.blue() - b.blue()) <= tolerance;
 }
 
-/// Looks at parts of the active product's map from near and compares there, point by point.
+/// Zooms in on parts of the active product's map and compares there, point by point.
 class CloseLook {
 public:
     explicit CloseLook(Terminal &givenTerminal)
@@ -129,12 +129,12 @@ void TestDrawnIsAnswered::classesAgree()
     QVERIFY2(run.exitCode == 0, qPrintable(said));
     const QJsonObject result = QJsonDocument::fromJson(run.output.constLast().toUtf8()).object();
     QVERIFY2(result.value(QStringLiteral("wrong")).toInt(-1) == 0, qPrintable(said));
-    // Colours that are no class's are left out of the comparison, so there may be next to none.
+    // Colours of no class are left out of the comparison, so hardly any of them may occur.
     QVERIFY2(result.value(QStringLiteral("mixedShare")).toDouble(1.0) <= 0.01, qPrintable(said));
-    // Enough points lie far from edges, on the map and beside it, to mean something.
+    // Enough points lie far from edges, on the map and beside it, for the comparison to mean something.
     const int compared = result.value(QStringLiteral("compared")).toInt();
     QVERIFY2(compared > 200, qPrintable(said));
-    // Bare ground alone would say nothing.
+    // Bare ground alone would prove nothing.
     QVERIFY2(5 * result.value(QStringLiteral("covered")).toInt() >= compared, qPrintable(said));
     qInfo("%s", qPrintable(run.output.constLast()));
 }

@@ -5,7 +5,7 @@
 
 #include <QTemporaryDir>
 
-/// What an operator does, from the outside: the built simulator with the loaded plug-in, driven by scripts.
+/// What an operator does, seen from outside: scripts drive the built simulator with the loaded plug-in.
 class TestOperatorScripts : public TestBase {
     Q_OBJECT
 
@@ -22,13 +22,13 @@ private Q_SLOTS:
     void whatTheWindowTookForGrantedIsOnStandardError();
 
 private:
-    /// Runs a script that uses check(condition, text); everything it complains of fails the test.
+    /// Runs a script that uses check(condition, text); every complaint of it fails the test.
     static void runChecked(const QString &script, const QStringList &arguments = {});
 };
 
 namespace {
 
-/// Zones that feed products 1 to 3, and strips over the western two of the zones that feed products 1 and 3.
+/// Zones feed products 1 to 3; strips over the two western zones feed products 1 and 3.
 const QString twoMaps =
     QStringLiteral(R"js(
 function openZones() {

@@ -8,8 +8,8 @@
 
 #include <QEvent>
 
-/// A map whose back-end closes properties against writes while the operator has the settings dialog open, with the
-/// plug-in as the terminal loads it.
+/// A map whose back-end write-protects properties while the operator has the settings dialog open, with the plug-in
+/// loaded by the terminal.
 class TestProtectedProperties : public TestBase {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
 
     QScopedPointer<TerminalHost> host;
     DbGroupRxMap *map = nullptr;
-    QStringList closed; ///< Properties of the map, from the moment at which the dialog is seen.
+    QStringList closed; ///< Properties of the map that are protected from the moment at which the dialog is seen.
     int timesOpened = 0;
 };
 
@@ -155,7 +155,7 @@ done();
     QCOMPARE(map->getSettings(), settings);
     QCOMPARE(map->getRateCalMappings(), mappings);
     checkRefusals();
-    // The rate as typed drives the machine already, and the request follows what was edited, not what was stored.
+    // The typed rate already drives the machine, and the request follows the edited settings, not the stored ones.
     QCOMPARE(host->terminal().backend()->loader(1)->defaultRate, 77.5);
     QVariant requests;
     QCOMPARE(host->terminal().broker()->getProperty("quillSpan", "reInitCount", requests), 0);

@@ -9,7 +9,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// What an operator does in the settings dialog, from the outside: scripts of this folder drive the built simulator.
+/// What an operator does in the settings dialog, seen from outside: scripts of this folder drive the built simulator.
 class TestSettingsScripts : public TestBase {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// What one of a shown unit is in the product's base unit: kg/ha, L/ha, 1000/ha, mL/ha, L/L or kPa.
+/// What 1 of a shown unit is in the product's base unit: kg/ha, L/ha, 1000/ha, mL/ha, L/L or kPa.
 double inBaseUnits(const QString &unit)
 {
     constexpr double acre = 0.40468564224;                 // ha

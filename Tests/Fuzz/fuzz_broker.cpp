@@ -1,5 +1,5 @@
-// Writes by name: for each a byte for the group, one for the property (or a name that is none), one for the kind of
-// value, and the value.
+// Writes by name. Each write is a byte for the group, one for the property (or a name that does not exist), one for the
+// kind of value, and the value.
 #include "fuzzinput.h"
 #include "samplegroup.h"
 
@@ -48,7 +48,7 @@ QVariant readValue(FuzzInput &input, int depth = 0)
     }
 }
 
-/// The name of one of the group's properties, or one that is read.
+/// The name of one of the group's properties, or a name read from the input.
 QByteArray readProperty(FuzzInput &input, const QMetaObject &group)
 {
     const quint8 choice = input.number<quint8>();

@@ -1,4 +1,4 @@
-// A byte for the format, then the parts of a prescription: each but the last after two bytes of its length.
+// A byte for the format, then the parts of a prescription: each but the last follows two bytes with its length.
 #include "chaincheck.h"
 #include "files.h"
 #include "fixture.h"

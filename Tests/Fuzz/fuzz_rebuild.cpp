@@ -1,5 +1,5 @@
-// A chain of polygons that a map is rebuilt from: for each ring a byte for what it is, a byte for how many vertices it
-// has, and their coordinates, any doubles or places of a small grid.
+// A chain of polygons that a map is rebuilt from. Each ring is a byte for its kind, a byte for its number of vertices,
+// and their coordinates: any doubles, or places on a small grid.
 #include "fuzzinput.h"
 #include "maphost.h"
 #include "rxmap3dprobe.h"

@@ -15,10 +15,10 @@ namespace {
 
 constexpr int mostMilliseconds = 1500;
 
-/// Scripts find here what they name, and leave here what they write.
+/// Scripts find the files here that they name, and leave here the files that they write.
 bool enterFolder(const QString &folder)
 {
-    // The user's own settings stay as they are.
+    // Leaves the user's own settings as they are.
     qputenv("XDG_CONFIG_HOME", folder.toLocal8Bit());
     return QDir::setCurrent(folder)
         && !writeFile(QStringLiteral("track.csv"), "time,x,y\n0,0,0\n1,1,1\n2,2,2\n").isEmpty()
@@ -29,7 +29,7 @@ bool enterFolder(const QString &folder)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    // Kept to the end: what the display holds goes after the libraries' own statics otherwise.
+    // Kept to the end: otherwise what the display holds would be freed after the libraries' own statics.
     static int argumentCount = 0;
     static const auto *const application = new QApplication(argumentCount, nullptr);
     static const QTemporaryDir folder;

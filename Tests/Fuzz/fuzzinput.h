@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
-/// What a harness is given: bytes that it takes numbers and parts from. Behind the end there are zeros.
+/// A harness's input: bytes that it takes numbers and parts from. After the end there are zeros.
 class FuzzInput {
 public:
     FuzzInput(const std::uint8_t *data, std::size_t size)
@@ -21,7 +21,7 @@ public:
 
     bool isAtEnd() const { return left == 0; }
 
-    /// As it lies in memory, so any number there is.
+    /// As it lies in memory, so that every number can occur.
     template <typename Number> Number number()
     {
         Number value{};
@@ -30,7 +30,7 @@ public:
         skip(size);
         return value;
     }
-    /// So many bytes, or what is left of them.
+    /// The next `count` bytes, or what is left of them.
     QByteArray bytes(std::size_t size)
     {
         const std::size_t taken = std::min(left, size);
@@ -51,7 +51,7 @@ private:
     std::size_t left;
 };
 
-/// Ends the program where something does not hold: a finding.
+/// Ends the program when a condition does not hold: a finding.
 inline void require(bool holds, const char *what, const QString &detail = QString())
 {
     if (holds)
@@ -66,5 +66,5 @@ inline bool isOneLineAbout(const QString &error, const QString &file)
     return error.startsWith(file) && !error.contains(QLatin1Char('\n'));
 }
 
-/// One input; called by libFuzzer, or for every file of a corpus by replaymain.cpp.
+/// Runs one input; called by libFuzzer, or by replaymain.cpp for every file of a corpus.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);

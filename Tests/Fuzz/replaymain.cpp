@@ -1,4 +1,4 @@
-// Gives every file of a folder to the harness that this is linked with, in the order of names.
+// Gives every file of a folder to the harness linked with this, in the order of names.
 #include "fuzzinput.h"
 
 #include <QDir>

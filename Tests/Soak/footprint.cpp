@@ -12,7 +12,7 @@
 Footprint Footprint::now()
 {
     Footprint now;
-    // What the allocator keeps for later goes, so that only what is in use counts as resident.
+    // Gives back what the allocator keeps for later, so that only what is in use counts as resident.
     malloc_trim(0);
     const struct mallinfo2 heap = mallinfo2();
     now.heap = qint64(heap.uordblks + heap.hblkhd);

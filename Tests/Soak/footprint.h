@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// What the process holds.
+/// How much the process holds.
 struct Footprint {
     /// Bytes that the allocator has given out; bytes that the process has in memory.
     qint64 heap = 0;
@@ -15,6 +15,6 @@ struct Footprint {
     int connections = 0;
 
     static Footprint now();
-    /// Whether nothing that is counted is more than there.
+    /// Whether none of the counts is higher than the other footprint's.
     bool countsNoMoreThan(const Footprint &other) const;
 };

@@ -31,7 +31,7 @@ void leave(QObject *object)
     all().erase(object);
 }
 
-/// Adds up what `ask` says of the calling thread's objects.
+/// Sums up `ask` over the calling thread's objects.
 template <typename Ask> int sum(Ask ask)
 {
     const std::lock_guard<std::mutex> guard(mutex);
@@ -55,7 +55,7 @@ int connectionsOf(const QObject *object)
     for (int i = 0; i < meta->methodCount(); ++i) {
         const QMetaMethod method = meta->method(i);
         if (method.methodType() == QMetaMethod::Signal)
-            // As the macro SIGNAL() writes it.
+            // In the form that the macro SIGNAL() gives it.
             result += (object->*&Opened::receivers)('2' + method.methodSignature());
     }
     return result;

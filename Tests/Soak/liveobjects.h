@@ -1,13 +1,13 @@
 #pragma once
 
-/// What Qt's objects of the process hold. Every object that is made after watch() is known, whoever owns it.
+/// What the Qt objects of the process hold. Every object made after watch() is known, whoever owns it.
 namespace LiveObjects {
 
-/// To be called once, before the first object is made.
+/// Must be called once, before the first object is made.
 void watch();
 
 int count();
-/// Of the calling thread's objects: timers that run, and connections of their signals.
+/// Of the calling thread's objects: running timers, and connections of their signals.
 int timers();
 int connections();
 

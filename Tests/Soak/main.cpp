@@ -1,5 +1,5 @@
-// Uses a terminal with the loaded plug-in for a long time, and says what it holds before, in between and after. Status
-// 1 where that has grown by more than docs/reliability.md states.
+// Uses a terminal with the loaded plug-in for a long time, and prints how much it holds before, in between and after.
+// Status 1 when that has grown by more than docs/reliability.md states.
 //   rxmap-soak [--share PART]    PART of the whole, such as 0.01; 1 is usual
 #include "footprint.h"
 #include "liveobjects.h"
@@ -15,14 +15,15 @@
 
 namespace {
 
-/// One way of using it.
+/// One way of using the terminal.
 struct Use {
     const char *name;
     int times;
     void (UsedTerminal::*once)(int number);
-    /// How often it takes until what is made once, or kept for the latest of them, is there.
+    /// How often it is used until everything that is made only once, or kept only for the latest uses, exists.
     int before;
-    /// Bytes that stay behind each time, and that it comes to hold after long; both as docs/reliability.md states.
+    /// Bytes that stay behind after each use, and bytes that it holds after long use; both as docs/reliability.md
+    /// states.
     int leftEachTime;
     int held;
 };
@@ -40,8 +41,8 @@ constexpr Use uses[] = {
     {"10 s of driving", 3600, &UsedTerminal::drive, usual, 0, workedGround},
 };
 
-/// What the allocator may have given out, and the process have in memory, beyond that: caches, and the order in which
-/// things are freed.
+/// How much more the allocator may have given out and the process may have in memory: for caches, and depending on the
+/// order in which memory is freed.
 constexpr qint64 heapLeeway = 256 << 10;
 constexpr qint64 memoryLeeway = 8 << 20;
 
@@ -88,7 +89,7 @@ bool staysFlat(UsedTerminal &terminal, const Use &use, double share)
 int main(int argumentCount, char **arguments)
 {
     LiveObjects::watch();
-    // A display without a window manager refuses to give dialogs the keyboard, and Qt tells each time.
+    // A display without a window manager refuses to give dialogs the keyboard, and Qt warns each time.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.xcb=false"));
     OwnLooks::fixResolution();
     const QApplication application(argumentCount, arguments);

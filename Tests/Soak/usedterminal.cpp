@@ -57,7 +57,7 @@ UsedTerminal::UsedTerminal()
     if (!problem().isEmpty())
         return;
     Terminal &terminal = host.terminal();
-    // Its time passes in drive() alone.
+    // Its time passes only in drive().
     terminal.simulation()->setTimeFactor(0.0);
     const LoadReport report = terminal
                                   .open({{TerminalHost::fixture(QStringLiteral("three-zones.geojson"))},
@@ -104,7 +104,7 @@ void UsedTerminal::actIn(QDialog *dialog, int number)
         QApplication::sendEvent(dialog, &escape);
         return;
     }
-    // Every other one of them sees the machine move meanwhile.
+    // Of the remaining dialogs every other one sees the machine move meanwhile.
     host.terminal().vehicle()->drive(number % 3 == 1 ? 3.0 : 0.0);
     QMetaObject::invokeMethod(dialog, "testForZeroSpeed");
     touch(dialog->findChild<QWidget *>(QStringLiteral("doneButton")));
@@ -154,7 +154,7 @@ void UsedTerminal::drive(int number)
 
 void UsedTerminal::settle()
 {
-    // Longer than a dialog's look at the vehicle, which goes on in the background.
+    // Longer than the interval at which a dialog checks the vehicle, which goes on in the background.
     constexpr int milliseconds = 1200;
     QElapsedTimer passed;
     passed.start();

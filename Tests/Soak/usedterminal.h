@@ -15,19 +15,19 @@ public:
     /// Why it cannot be used; empty when it can.
     QString problem() const { return host.problem(); }
 
-    /// The map that is bound is built once more, and now and then drawn.
+    /// Builds the bound map once more, and now and then draws it.
     void rebuild(int number);
-    /// A product is chosen that no map feeds, and then the fed one again.
+    /// Chooses a product that no map feeds, and then the fed one again.
     void rebuildWithoutMap(int number);
-    /// The settings are opened, a product's look-ahead and default rate typed, and left by Done, by Cancel because the
+    /// Opens the settings, types a product's look-ahead and default rate, and leaves by Done, by Cancel because the
     /// machine moves, or by Escape.
     void useDialog(int number);
-    /// Another map is loaded and unloaded.
+    /// Loads and unloads another map.
     void load(int number);
-    /// Ten seconds of driving over the field, recorded and now and then drawn.
+    /// Drives over the field for ten seconds, which are recorded and now and then drawn.
     void drive(int number);
 
-    /// Lets pass what is still to come of what was done.
+    /// Waits for everything that an action has left to happen later.
     void settle();
 
 private:

@@ -11,7 +11,7 @@ function isClose(a, b) {
   return Math.abs(a[0] - b[0]) <= 3 && Math.abs(a[1] - b[1]) <= 3 && Math.abs(a[2] - b[2]) <= 3;
 }
 
-// Half of the class's colour over the ground, as the map is drawn.
+// Half of the class's colour over the ground, the way the map is drawn.
 function over(color, ground) {
   var alpha = 128 / 255;
   var rgb = [1, 3, 5].map(function (at) { return parseInt(color.substr(at, 2), 16); });
@@ -32,20 +32,20 @@ function classOf(rate, legend, tolerance) {
   return legend.length - 1;
 }
 
-// What the back-end answers, asked as the plug-in asks it.
+// The back-end's answer, asked for as the plug-in does it.
 function answeredClass(x, y, product, legend) {
   terminal.set(map.group, "queryRatesAtXYZ", { x: x, y: y, z: 0 });
   if (!terminal.get(map.group, "ratesAtXYZValid")) return -1;
   return classOf(terminal.get(map.group, "ratesAtXYZ")[product], legend, 0);
 }
 
-// What a touch shows; the text has two decimals.
+// The text that a touch shows; it has two decimals.
 function touchedClass(x, y, legend) {
   var text = terminal.touchMap(x, y);
   return text === "" ? -1 : classOf(parseFloat(text.replace("Rx Rate: ", "")), legend, 0.006);
 }
 
-// The eight points a pixel away.
+// The eight points one pixel away.
 var steps = [[-1, 0], [1, 0], [0, -1], [0, 1], [-1, -1], [1, 1], [-1, 1], [1, -1]];
 
 var map = terminal.open(path, options);
@@ -63,7 +63,7 @@ function isColorEdge(sample) {
   });
 }
 
-// A strip narrower than a pixel need not be drawn where it is answered.
+// A strip narrower than a pixel need not be drawn where the back-end answers with it.
 function isAnswerEdge(sample, product, legend) {
   return steps.some(function (step) {
     var there = answeredClass(sample.x + step[0] * pixel, sample.y + step[1] * pixel, product, legend);
@@ -72,10 +72,10 @@ function isAnswerEdge(sample, product, legend) {
 }
 
 for (var product = 0; product < map.columns.length; ++product) {
-  // Columns feed the products that their names suit; a mapping's name ends with the product's number.
+  // Columns feed the products that their names suggest; a mapping's name ends with the product's number.
   terminal.activeProduct = parseInt(mappings[product].rateCalName.match(/\d+/)[0]);
   var legend = map.legends[product];
-  // All colours first: a touch changes what is shown, and the view would have to be drawn again for every point.
+  // All colours first: a touch changes the display, so the view would have to be drawn again for every point.
   var samples = [];
   for (var n = 0; n < points; ++n) {
     var x = bounds.minX + random() * width;

@@ -1,6 +1,6 @@
-// Somebody who sees the terminal for the first time drives the sample field by touch, meets the lock of the settings,
-// changes the look-ahead and sees what that does. `sample` is the field's file; where `pictures` names a folder, what is
-// seen is left there.
+// An operator who sees the terminal for the first time drives the sample field by touch, finds the settings locked,
+// changes the look-ahead and sees what that does. `sample` is the field's file; if `pictures` names a folder, pictures
+// of the display are written there.
 
 terminal.machine.timeFactor = 0;
 terminal.open(sample, {columns: ["SEED_KS_HA", "FERT_KG_HA", "HERB_L_HA"]});
@@ -11,11 +11,11 @@ function keepPicture(name) {
     if (pictures !== "")
         terminal.screenshot(pictures + "/" + name + ".png");
 }
-// What is prescribed where the machine is; NaN for nothing.
+// The rate prescribed where the machine is; NaN when there is none.
 function rateHere() {
     return parseFloat(terminal.touchMap(terminal.machine.x, terminal.machine.y).replace("Rx Rate: ", ""));
 }
-// Drives to the next border; how many metres before it the fertiliser's command changes.
+// Drives to the next border; returns how many metres before it the fertiliser's command changes.
 function metresAhead() {
     var before, after;
     do {

@@ -5,7 +5,7 @@ function same(actual, expected, text) {
   var a = JSON.stringify(actual), e = JSON.stringify(expected);
   if (a !== e) throw new Error(text + ": " + a + " instead of " + e);
 }
-// Lets the terminal run until the condition holds; the dialog looks at the vehicle twice a second.
+// Lets the terminal run until the condition holds; the dialog checks the vehicle twice a second.
 function awaitThat(condition, text) {
   for (var waited = 0; !condition(); waited += 20) {
     check(waited < 20000, text);

@@ -1,6 +1,6 @@
-// What the look-ahead changes: drives over the border between two zones, once with a second, once with the three that
-// the operator enters in the dialog, and prints how far before the border the rate changes. `zones` is the map's file,
-// `folder` takes the record.
+// What the look-ahead changes: drives over the border between two zones, once with a look-ahead of one second, once
+// with the three seconds that the operator enters in the dialog, and prints how far before the border the rate changes.
+// `zones` is the map's file; the record is written to `folder`.
 
 terminal.machine.timeFactor = 0;
 terminal.open(zones, {columns: ["SEED_K_HA"]});

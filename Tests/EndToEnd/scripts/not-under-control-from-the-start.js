@@ -1,4 +1,4 @@
-// The product shown first is not under prescription control: the dialog has both messages, and Done cancels.
+// The product shown first is not under prescription control: the dialog shows both messages, and Done cancels.
 
 var group = terminal.open(sample, {columns: ["", "FERT_KG_HA"]}).group;
 var mappings = terminal.get(group, "rateCalMappings");
@@ -9,7 +9,7 @@ check(control("notUnderVraLabel").visible, "no message that the product is not u
 check(control("vehicleMovingLabel").visible, "the moving message is not shown");
 check(!control("lookAheadEdit").visible, "controls of a product that is not under control");
 same(control("doneButton").image, 0, "the Done image");
-// Told apart from writing by what the group is given meanwhile.
+// The group is given other settings meanwhile, which tells cancelling from writing.
 var settings = terminal.get(group, "settings");
 settings[0].onLookAheadMs += 1500;
 settings[0].zeroRateShutoff = !settings[0].zeroRateShutoff;

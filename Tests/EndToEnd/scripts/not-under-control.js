@@ -1,4 +1,4 @@
-// The second product is not under prescription control; the first was editable before it was chosen.
+// The second product is not under prescription control; the first one could be edited before it was chosen.
 
 var group = terminal.open(sample, {columns: ["FERT_KG_HA"]}).group;
 openDialog();
@@ -11,7 +11,7 @@ control("productButton0").touch();
 check(!control("notUnderVraLabel").visible, "the message stays");
 control("productButton1").touch();
 
-// Moving or not makes no difference here: Done is still Done.
+// Whether the machine moves makes no difference here: Done is still Done.
 terminal.drive(3);
 terminal.wait(700);
 check(!control("vehicleMovingLabel").visible, "the moving message");

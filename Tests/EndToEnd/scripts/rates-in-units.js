@@ -1,7 +1,7 @@
-// Default rates in the operator's units; the test gives what to expect of every product: the unit, the rate shown, and
-// what 10 typed is in base units.
+// Default rates in the operator's units; for every product the test says what to expect: the unit, the rate shown, and
+// what a typed 10 is in base units.
 
-// Six significant digits are what the field shows.
+// The field shows six significant digits.
 function isAbout(actual, expected) { return Math.abs(actual - expected) <= 1e-5 * Math.abs(expected); }
 
 var map = terminal.open(sample, {columns: columns});

@@ -1,4 +1,4 @@
-// One visit to the dialog from the long touch to Done, with the vehicle driving off in between, and a second visit.
+// One visit to the dialog, from the long touch to Done, during which the vehicle drives off, and a second visit.
 
 var group = terminal.open(sample).group;
 var before = terminal.get(group, "settings");

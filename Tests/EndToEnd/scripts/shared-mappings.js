@@ -1,4 +1,4 @@
-// What Done writes back where two maps share the products.
+// What Done writes when two maps share the products.
 
 function mappings(map) { return terminal.get(map.group, "rateCalMappings"); }
 function enterRate(product, rate) {
@@ -14,14 +14,14 @@ enterRate(0, "12.5");
 enterRate(1, "33");
 enterRate(2, "44.5");
 done();
-// The products that the strips took are edited there; the zones' own entries for them stay.
+// The products that the strips took over are edited there; the zones' own entries for them stay.
 zoneMappings[1].defaultRate = 33;
 stripMappings[0].defaultRate = 12.5;
 stripMappings[1].defaultRate = 44.5;
 same(mappings(zones), zoneMappings, "mappings of the zones");
 same(mappings(strips), stripMappings, "mappings of the strips");
 
-// Given back, a product has the older map's entry again.
+// A product that is given back has the older map's entry again.
 var formerRate = zoneMappings[0].defaultRate;
 check(formerRate !== 12.5, "nothing to tell apart");
 terminal.close(strips.group);

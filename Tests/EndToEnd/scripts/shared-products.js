@@ -1,11 +1,11 @@
-// Two maps share the products: the one loaded last has a product, and the older one gets it back.
+// Two maps share the products: the map loaded last takes over a product, and the older one gets it back.
 
 function seen(product, x) {
-  // Choosing the active product anew would make the terminal look for its map anew.
+  // Choosing the active product once more would make the terminal look for its map again.
   if (terminal.activeProduct !== product) terminal.activeProduct = product;
   return [terminal.touchMap(x, 0), terminal.mapColor(x, 0)];
 }
-// Each map by itself; the origin is then its own centre.
+// Each map alone; the origin is then its own centre.
 var strips = openStrips();
 var stripA = seen(1, 50), stripB = seen(3, 50);
 var ground = terminal.mapColor(0, 300);
@@ -21,12 +21,12 @@ check(JSON.stringify(stripA[1]) !== JSON.stringify(zone[0][1]), "the colours do 
 
 function checkStripsHaveProducts1And3() {
   same([seen(1, 0), seen(2, 0), seen(3, 0)], [stripA, zone[1], stripB], "middle");
-  // Where the newer map has no polygon its product has no rate, whatever the older map holds there.
+  // Where the newer map has no polygon its product has no rate, whatever rate the older map has there.
   same([seen(3, 100), seen(1, 100)], [["", ground], ["", ground]], "east");
 }
 openStrips();
 checkStripsHaveProducts1And3();
-// A map that is loaded again is the newest.
+// A map that is loaded again counts as the newest.
 openZones();
 same([seen(1, 0), seen(2, 0), seen(3, 0), seen(1, 100)], [zone[0], zone[1], zone[2], farZone],
      "the zones again");

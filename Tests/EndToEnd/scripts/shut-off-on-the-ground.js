@@ -1,6 +1,6 @@
 // What master and shut-off change on the ground: drives through zones in which no fertiliser or no herbicide is
-// prescribed, and sets the shut-off in the dialog: while the machine moves, with the machine driving off before Done, and
-// standing. `zones` is the map's file.
+// prescribed, and sets the shut-off in the dialog: while the machine moves, while it stands but drives off before Done,
+// and while it stands. `zones` is the map's file.
 
 terminal.machine.timeFactor = 0;
 var group = terminal.open(zones, {columns: ["SEED_K_HA", "FERT_KG_HA", "HERB_L_HA"]}).group;
@@ -17,7 +17,7 @@ function halt() {
     terminal.stop();
     terminal.run(10);
 }
-// What is commanded for products 1 to 3.
+// The rates commanded for products 1 to 3.
 function sources(text, expected) {
     same([1, 2, 3].map(function (product) { return terminal.rates(product).source; }), expected, text);
 }
@@ -64,7 +64,7 @@ done();
 driveTo(noFertiliser);
 sources("with product 3 as the master", ["prescription", "zeroShutoff", "prescription"]);
 
-// The flags wait for the next "reInit"; the look-ahead does not.
+// The flags take effect only at the next "reInit"; the look-ahead at once.
 var settings = terminal.get(group, "settings");
 settings.forEach(function (product) {
     product.zeroRateShutoff = false;

@@ -62,8 +62,7 @@ void TestRingLists::verticesOfAllRingsAreCounted()
     chain.addOuter(square(0, 0, 9));
     chain.addHole({{1, 1}, {2, 1}, {1, 2}});
     chain.addOuter({});
-    chain.addOuter(square(0, 0, 9)).vertexCount =
-        0xFFFFFFFFU; // More vertices than a ring can have, so it counts as having none.
+    chain.addOuter(square(0, 0, 9)).vertexCount = 0xFFFFFFFFU; // More than a ring can have, so it counts as 0.
     QCOMPARE(RingLists(chain.first(), chain.count()).vertices(), qint64(7));
 }
 
