@@ -9,10 +9,10 @@
 
 #include <QTemporaryDir>
 
-/// A machine with its prescriptions and its time, without a display, for tests.
+/// A machine with its prescriptions and its clock, without a display, for tests.
 class MachineBench {
 public:
-    /// One zone of a map: from x to x, metres east of the map's middle, 400 m from south to north.
+    /// One zone of a map: from `from` to `to`, metres east of the map's middle, 400 m from south to north.
     struct Zone {
         double from;
         double to;
@@ -21,12 +21,12 @@ public:
 
     explicit MachineBench(const Products &products = ProductFile::standard(), UnitSystem units = UnitSystem::Metric);
 
-    /// Loads zones that feed these products; they are to lie evenly around 0, else their middle becomes it.
+    /// Loads zones that feed these products; they should lie evenly around 0, otherwise their middle becomes 0.
     LoadReport loadZones(const QList<Zone> &zones, const QList<int> &products = {1});
     LoadReport load(const QString &path, const QStringList &columns);
-    /// Writes the settings as the dialog does; `reInit` asks for the flags to be taken.
+    /// Writes the settings as the dialog does; `reInit` requests that the flags take effect.
     void set(int product, int lookAheadMs, bool zeroRateShutoff, bool reInit);
-    /// By hand on a straight line from there at that speed, at once.
+    /// Drives by hand, straight on from there at that speed, at once.
     void place(const QPointF &place, double degrees, double speed);
 
     DataBroker broker;

@@ -5,7 +5,7 @@
 
 class DataBrokerGroup;
 
-/// Writes one property of a group of its own broker by name, and looks at what has come of it: the value, the notify
-/// signal, and that no other property moved. What is wrong; empty when nothing is. `group` comes to be owned by a
-/// broker that lives as long as the call.
+/// Writes one property of a group by name in a broker of its own, and checks the result: the value, the notify signal,
+/// and that no other property changed. Returns what is wrong; empty when nothing is. The broker, which lives as long as
+/// the call, takes ownership of `group`.
 QString problemOfProperty(DataBrokerGroup *group, const QString &property, const QVariant &value);

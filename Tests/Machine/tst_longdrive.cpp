@@ -36,7 +36,7 @@ void TestLongDrive::memoryStaysFlat_data()
     QTest::addColumn<QString>("record");
     QTest::addColumn<int>("leeway");
     QTest::newRow("table") << "a.csv" << 64 * 1024;
-    // SQLite's cache of pages fills within some hours; a hundred bytes a step would be 3.6 million in one.
+    // SQLite's page cache fills within some hours; a hundred bytes a step would be 3.6 million bytes in one hour.
     QTest::newRow("package") << "a.gpkg" << 6 * 1024 * 1024;
 }
 

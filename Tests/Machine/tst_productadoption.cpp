@@ -11,7 +11,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-/// For which products prescriptions are loaded, and what becomes of the machine's.
+/// Which products prescriptions are loaded for, and what happens to the machine's own.
 class TestProductAdoption : public TestBase {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private Q_SLOTS:
 
 private:
     QVariant value(const char *group, const char *property);
-    /// Loads a file that brings its products, as an operator does who previewed it. Whether it could be loaded.
+    /// Loads a file that brings its products, as an operator does after a preview. Returns whether it could be loaded.
     bool adopt(const QString &path, const QStringList &columns = {});
 
     QScopedPointer<MachineBench> bench;
@@ -75,7 +75,7 @@ void TestProductAdoption::productsThatStandInGiveWayToThoseOfTheFirstMap()
         adoption->fillRequest(wanted);
         return wanted;
     };
-    // What cannot be loaded changes nothing.
+    // A file that cannot be loaded changes nothing.
     QVERIFY(!bench->backend.loadAndWait(request("three-zones.geojson", {"NONE"})).isOk());
     QCOMPARE(changes.size(), 0);
     const QStringList columns{"HERB_L_HA", "", "", "", "FERT_KG_HA"};
@@ -93,7 +93,7 @@ void TestProductAdoption::productsThatStandInGiveWayToThoseOfTheFirstMap()
     QCOMPARE(items.size(), 5);
     QVERIFY(qobject_cast<ProductLineItem *>(items.first())->isVolumeBasedProduct());
     QCOMPARE(bench->backend.loader(4)->defaultRate, 135.0);
-    // The next one finds them.
+    // The next file finds the products already made.
     QVERIFY(bench->backend.loadAndWait(request("two-strips.geojson", {})).isOk());
     QCOMPARE(changes.size(), 1);
     QCOMPARE(bench->machine.products().size(), 5);
@@ -126,7 +126,7 @@ void TestProductAdoption::productsAreOfferedAnewWhereNoneStaysInUse()
     QVERIFY(bench->backend.loadAndWait(request).isOk());
     QVERIFY(offered(other).products.at(1).inUseAt && !offered(other).products.at(0).inUseAt);
     QVERIFY(offered(other).makeProducts != nullptr);
-    // A file does not stand in its own way.
+    // A file does not block itself.
     QVERIFY(!offered(zones).products.at(1).inUseAt);
     bool isKept = true;
     adoption->keepProductsWhile([&isKept] { return isKept; });
@@ -165,7 +165,7 @@ void TestProductAdoption::defaultRatesFollowTheMap()
     };
     const auto defaultRate = [this] { return bench->backend.loader(0)->defaultRate; };
     QVERIFY(load("50.0"));
-    // The products are called as those that stood in.
+    // The products are named like those that they replaced.
     QCOMPARE(bench->machine.products().first().name, ProductFile::standard().first().name);
     QCOMPARE(defaultRate(), 70.0);
     QVERIFY(load("200.0"));
@@ -197,7 +197,7 @@ void TestProductAdoption::aRateThatAFileGivesIsNoneThatWasSet()
     QCOMPARE(bench->backend.loader(0)->defaultRate, 148.15);
     QVERIFY(adopt(zones, {"FERT_KG_HA"}));
     QCOMPARE(bench->backend.loader(0)->defaultRate, 135.0);
-    // Of a product that the machine does not have it takes nothing.
+    // It takes nothing from a product that the machine does not have.
     for (int number = request.products.size(); number < 8; ++number) {
         for (MachineProduct &product : request.products)
             product.isDriven = false;

@@ -57,7 +57,7 @@ void TestSimulation::theWallsTimePassesByItsFactor()
     wall.time += 100;
     simulation.catchUp();
     QCOMPARE(simulation.seconds(), 5.3);
-    // What the factor did not get to see does not count.
+    // Time that has not been simulated yet when the factor changes is dropped.
     wall.time += 1000;
     QVERIFY(simulation.setTimeFactor(0.0));
     wall.time += 1000;
@@ -71,7 +71,7 @@ void TestSimulation::whatCannotBeDrivenInTimeIsNotMadeUpFor()
     HandClock wall;
     Simulation simulation(&bench.machine, &wall);
     simulation.setTimeFactor(50.0);
-    // Each step takes 5 ms of the wall's, during which 2.5 simulated ones would have to be driven.
+    // Each step takes 5 ms of real time, in which 2.5 further steps would have become due.
     connect(&simulation, &Simulation::stepped, [&wall] { wall.time += 5; });
     wall.time += 2000;
     simulation.catchUp();
@@ -104,7 +104,7 @@ void TestSimulation::aStandingMachineIsSeldomLookedAt()
     const double seconds = simulation.seconds();
     pass(1000);
     QCOMPARE(simulation.seconds(), seconds + 1.0);
-    // It goes on at once, and only from now on.
+    // It starts at once, and only counts time from now on.
     wall.time += 900;
     const QPointF stood = simulation.vehicle()->position();
     simulation.vehicle()->drive(10.0);
@@ -147,7 +147,7 @@ void TestSimulation::limitsFollowTheMap()
         QCOMPARE(bench.simulation.rates(1).command.commanded, rate);
         QVERIFY(qAbs(bench.simulation.rates(1).applied - rate) < 0.1 * rate);
     }
-    // The product is called as before.
+    // The product has the same name as before.
     QVERIFY(changes.isEmpty());
 }
 

@@ -11,7 +11,7 @@ QList<Announcement> takeAnnouncements()
     return taken;
 }
 
-// Stands before the library's own function of that name for the whole program, the other libraries included.
+// Takes precedence over the library's own function of that name in the whole program, including the other libraries.
 void GroupPropertyAccess::announce(DataBrokerGroup & /*group*/, const char *property, int /*index*/,
                                    QGenericArgument value)
 {

@@ -3,14 +3,14 @@
 #include <QByteArray>
 #include <QList>
 
-/// One hand-over of an accepted value to its listeners, as the group library was asked for it.
+/// One announcement of an accepted value to its listeners, as requested from the group library.
 struct Announcement {
     QByteArray property;
-    /// Type and address under which the value was declared.
+    /// Type and address with which the value was declared.
     QByteArray typeName;
     const void *value;
 };
 
-/// The hand-overs so far, oldest first, and none afterwards. A program that has this recorder linked in records them
-/// instead of making them: nobody is told.
+/// The announcements so far, oldest first, which are then forgotten. A program with this recorder linked in records
+/// them instead of making them: no listener is told.
 QList<Announcement> takeAnnouncements();

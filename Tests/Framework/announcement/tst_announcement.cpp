@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Writes every property of the group that its own classes declare, with the value it has.
+/// Writes to every property that the group's own classes declare the value that it already has.
 void writeEveryProperty(DataBrokerGroup &group)
 {
     const QMetaObject *const meta = group.metaObject();
@@ -32,8 +32,8 @@ void compareWithTheNotifySignals(const QMetaObject &meta, const QList<Announceme
 
 } // namespace
 
-/// Under which type the accessors declare a new value to the listeners. A listener called directly cannot tell: the
-/// call goes by the address alone.
+/// The type with which the accessors declare a new value to the listeners. A listener called directly cannot tell: the
+/// call uses only the address.
 class TestAnnouncement : public TestBase {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ void TestAnnouncement::everyPropertyOfAMapIsDeclaredUnderItsMetaType()
 
 void TestAnnouncement::everyKindOfValueIsDeclaredUnderItsMetaType()
 {
-    // Known by name through its first use only.
+    // Known by name only once it has been used.
     qRegisterMetaType<QList<float>>();
     SampleGroup group(QStringLiteral("sample"));
     takeAnnouncements();

@@ -9,7 +9,7 @@
 #include <atomic>
 #include <thread>
 
-/// Publishing groups in the broker, finding them by their names, and taking them out.
+/// Publishing groups in the broker, finding them by name, and removing them.
 class TestDataBrokerGroups : public TestBase {
     Q_OBJECT
 

@@ -298,7 +298,7 @@ void TestDataBrokerGroup::handMadePropertiesAreReadAndWrittenToo()
     QCOMPARE(group.getProperty("plain", value), int(DataBrokerGroup::Success));
     QCOMPARE(value, QVariant(7));
 
-    // Such a property reports no outcome; nothing of that write waits for the next one's.
+    // Such a property reports no outcome, and nothing of that write is left for the next one.
     SampleGroup next(QStringLiteral("sample"));
     next.setWriteValidator("level", refuseWithFive, nullptr);
     messages().expectWarning(QStringLiteral("set sample::level failed: 5"));

@@ -3,7 +3,7 @@
 #include "setreceiver.h"
 #include "testbase.h"
 
-/// Who is told of a write, through connectPropertySetSlot().
+/// Who is notified of a write, through connectPropertySetSlot().
 class TestDataBrokerGroupSubscriptions : public TestBase {
     Q_OBJECT
 

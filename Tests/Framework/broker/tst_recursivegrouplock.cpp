@@ -15,7 +15,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Takes and releases the lock in a thread of its own, and remembers whether that thread got in.
+/// Tries to take the lock in a thread of its own, releases it again, and remembers whether that thread got it.
 class Visitor {
 public:
     Visitor(GroupLock &lock, int mode)
@@ -28,7 +28,7 @@ public:
     {
         while (!isComing)
             std::this_thread::yield();
-        // Time enough to get in, were the lock free.
+        // Enough time to get the lock if it is free.
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
 

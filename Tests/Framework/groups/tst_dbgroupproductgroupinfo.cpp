@@ -28,7 +28,7 @@ DbGroupProductGroupInfo *publishInfo(DataBroker &broker, int kind)
     return info;
 }
 
-/// Six different factors that no unit system has.
+/// Six different factors that occur in no unit system.
 void publishUnits(DataBroker &broker)
 {
     auto *const units = new DbGroupQmlUnitsConverter(QStringLiteral("QmlUnitsConverter"));

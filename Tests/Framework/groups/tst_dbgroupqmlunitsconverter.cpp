@@ -140,7 +140,7 @@ void TestDbGroupQmlUnitsConverter::theFactorsStandWhenTheNewUnitIsAnnounced()
 void TestDbGroupQmlUnitsConverter::aUnitSetByAListenerWins()
 {
     DbGroupQmlUnitsConverter units(QStringLiteral("QmlUnitsConverter"));
-    // Comes while the factors of the first unit are being stored.
+    // Called while the factors of the first unit are being stored.
     const auto connection = connect(&units, &DbGroupQmlUnitsConverter::countRateToDisplayChanged, this, [&]() {
         if (units.getAreaUnitSystem() == 2)
             units.setAreaUnitSystem(1);

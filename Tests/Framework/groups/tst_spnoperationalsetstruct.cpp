@@ -25,7 +25,7 @@ void TestSpnOperationalSetStruct::aVariantCarriesIt()
 {
     const QVariant carried = QVariant::fromValue(SPN_OperationalSetStruct(true));
     QVERIFY(carried.value<SPN_OperationalSetStruct>().isRatioRate());
-    // What is no such record reads as one that was never set.
+    // A value that is not such a record reads as one that was never set.
     QVERIFY(!QVariant(true).value<SPN_OperationalSetStruct>().isRatioRate());
 }
 

@@ -25,7 +25,7 @@ void TestSpnSwitchByteCalSettingsStruct::aVariantCarriesIt()
 {
     const QVariant carried = QVariant::fromValue(SPN_SwitchByteCalSettingsStruct(true));
     QVERIFY(carried.value<SPN_SwitchByteCalSettingsStruct>().isInjection());
-    // What is no such record reads as one that was never set.
+    // A value that is not such a record reads as one that was never set.
     QVERIFY(!QVariant(true).value<SPN_SwitchByteCalSettingsStruct>().isInjection());
 }
 

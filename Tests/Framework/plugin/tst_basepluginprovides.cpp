@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Notes its end.
+/// Records its destruction.
 class Module : public QObject, public BasePlugInProvides {
 public:
     explicit Module(bool *givenIsGone)

@@ -57,7 +57,7 @@ void TestUiGraphicsList::theHostSeesTheListsOwnDrawables()
 
 void TestUiGraphicsList::theBaseLeavesDrawablesToTheirList()
 {
-    // A drawable on the stack: a base that deleted it would not get past this function.
+    // The drawable is on the stack: a base that deleted it would crash in this function.
     Drawable drawable;
     {
         PointList list(nullptr);

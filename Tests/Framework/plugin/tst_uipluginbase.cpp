@@ -17,7 +17,7 @@ UiGWidget *newWidget()
     return new UiGWidget(QStringLiteral("UiPlugin"), QStringLiteral("Widget"), 0, 0, QDir(), QPointF(), nullptr, false);
 }
 
-/// Shows what the base keeps.
+/// Makes what the base keeps accessible.
 class SamplePlugin : public LeastPlugin {
 public:
     using UiPluginBase::dataBroker;

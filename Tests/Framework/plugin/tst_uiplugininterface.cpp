@@ -8,7 +8,7 @@ using Names = QMap<QString, QString>;
 
 const Names images{{QStringLiteral("Rates"), QStringLiteral("rates.png")}};
 
-/// Answers what every plug-in must, and nothing else.
+/// Answers only what every plug-in must answer.
 class LeastPlugin : public UiPluginInterface {
 public:
     using UiPluginInterface::UiPluginInterface;
@@ -38,7 +38,7 @@ public:
 
 } // namespace
 
-/// What a plug-in answers that leaves the optional operations alone.
+/// The answers of a plug-in that leaves the optional operations alone.
 class TestUiPluginInterface : public TestBase {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ void TestUiPluginInterface::nothingIsOfferedThatThePluginDoesNotName()
     QVERIFY(plugin.getIcon().isNull());
     QVERIFY(plugin.getFeatureDescriptions().isEmpty());
     QVERIFY(plugin.getFeatureImageNames().isEmpty());
-    // Empty texts, which are not null.
+    // The texts are empty, but not null.
     for (const QString &text : {plugin.getSettingsTitle(), plugin.getHelpTopic(), plugin.getDescription()})
         QVERIFY(text.isEmpty() && !text.isNull());
 }

@@ -8,7 +8,7 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 
-/// Base of the tests of a button: for each test function one that is shown, with an image for off and one for on.
+/// Base of the tests of a button: each test function gets a visible one, with an image for off and one for on.
 class ButtonTest : public TestBase {
     Q_OBJECT
 

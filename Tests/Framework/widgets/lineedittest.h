@@ -10,7 +10,7 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 
-/// Base of the tests of the line edit: for each test function a dialog with a field that shows 2.5.
+/// Base of the tests of the line edit: each test function gets a dialog with a field that shows 2.5.
 class LineEditTest : public TestBase {
     Q_OBJECT
 
@@ -19,11 +19,11 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
-    /// The keypad that is open; null when none is.
+    /// The open keypad; null when there is none.
     static QWidget *keypad();
-    /// Touches the keypad's keys: digits, '.', '-', '<' to take back, a line feed to enter.
+    /// Touches the keypad's keys: digits, '.', '-', '<' to delete, a line feed to enter.
     static void touchKeys(const QString &keys);
-    /// Another field of the dialog, owned by it; show() it when the dialog is shown already.
+    /// Another field of the dialog, owned by it; call show() on it when the dialog is already visible.
     OrvikLineEdit *addField(int id, const QPoint &position);
 
     QDir images;

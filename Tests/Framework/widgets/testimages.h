@@ -7,7 +7,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// An image directory of a test, with images of one plain colour each.
+/// A test's image directory, with images of one plain colour each.
 class TestImages {
 public:
     /// Writes `name` and returns it.

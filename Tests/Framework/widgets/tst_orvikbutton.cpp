@@ -5,12 +5,12 @@
 namespace {
 
 const QPoint outside(140, 30);
-const QPoint plainSpot(50, 12);    // where neither a text nor an edge stands
+const QPoint plainSpot(50, 12);    // with neither a text nor an edge
 constexpr int longTouchTime = 800; // ms
 
 } // namespace
 
-/// A button under the finger.
+/// A button that a finger touches.
 class tst_OrvikButton : public ButtonTest {
     Q_OBJECT
 

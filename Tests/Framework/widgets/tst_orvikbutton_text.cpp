@@ -19,7 +19,7 @@ private Q_SLOTS:
     void theTextStandsOnWhatTheImageDraws();
 
 private:
-    /// Whether the filled square of a text in red shows on the button, as a whole.
+    /// Whether the button shows the filled square of a red text, all of it.
     bool showsRedSquare() const;
 };
 

@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-/// A line edit's text: how it looks, and how it follows keys, touched or of a keyboard.
+/// A line edit's text: how it looks, and how it follows keys of the keypad or of a keyboard.
 class TestOrvikLineEditEntry : public LineEditTest {
     Q_OBJECT
 

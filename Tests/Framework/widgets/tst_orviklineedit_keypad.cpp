@@ -55,7 +55,7 @@ void TestOrvikLineEditKeypad::theKeypadSaysWhyAKeyIsNotTaken()
     QCOMPARE(field->getText(), QStringLiteral("2.5"));
     QVERIFY(paintedTexts(*keypad()).contains(decimals));
     QCOMPARE(keypad()->accessibleDescription(), decimals);
-    // The number is still there to be read.
+    // The number can still be read.
     QVERIFY(paintedTexts(*keypad()).contains(QStringLiteral("2.5")));
     touchKeys(QStringLiteral("<"));
     QVERIFY(!paintedTexts(*keypad()).contains(decimals));
@@ -152,7 +152,7 @@ void TestOrvikLineEditKeypad::worksWhileAModalDialogIsOpen()
     dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(dialog.data()));
 
-    // Through the window system, which blocks every window that is not the dialog's.
+    // Through the window system, which blocks every window that does not belong to the dialog.
     QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, field->geometry().center());
     QVERIFY(keypad() != nullptr);
     QVERIFY(QTest::qWaitForWindowExposed(keypad()));

@@ -7,7 +7,7 @@
 
 #include <QPainter>
 
-/// Images where the drawing is enlarged.
+/// Images that are drawn enlarged.
 class TestSharpImage : public TestBase {
     Q_OBJECT
 
@@ -92,7 +92,7 @@ void TestSharpImage::everyLookIsAsLargeAsTheImage()
                                              {QPoint(160, 60), false},
                                              {QPoint(80, 120), false}})
             QCOMPARE(canvas.pixelColor(pixel).alpha() > 0, isDrawn);
-        // Within, on and beside the ring of a pressed button.
+        // Inside, on and beside the ring of a pressed button.
         for (const int x : {2, 8, 80, 152, 158})
             colors.append(canvas.pixelColor(x, 60));
     }

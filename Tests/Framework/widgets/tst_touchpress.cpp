@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Goes by a time that the test lets pass.
+/// Runs on time that the test lets pass.
 class TestTimer : public HoldTimer {
 public:
     void start(int milliseconds) override { left = milliseconds; }

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// Which paths can be read to their end.
+/// Which files can be read to their end.
 class TestRegularFile : public TestBase {
     Q_OBJECT
 

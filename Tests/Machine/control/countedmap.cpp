@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The vertices as places, the first one once more at the end.
+/// The vertices as places; the first one is repeated at the end.
 std::vector<QPointF> closedRing(const OrvikTypes::RX_POLYGON &record)
 {
     std::vector<QPointF> places;

@@ -11,11 +11,11 @@ namespace OrvikTypes {
 struct RX_POLYGON;
 }
 
-/// A published map's first column as anybody would read it off: by counting the edges west of a place, ring after ring,
-/// without the back-end's index. The map must stay as it is.
+/// The first column of a published map, read in the simplest way: by counting the edges west of a place, ring after
+/// ring, without the back-end's index. The map must not change meanwhile.
 class CountedMap {
 public:
-    /// An edge with another rate on its other side: its middle, and the way across it, one metre long.
+    /// An edge with a different rate on its other side: its middle, and a vector across it, one metre long.
     struct Border {
         QPointF middle;
         QPointF across;
@@ -23,9 +23,9 @@ public:
 
     explicit CountedMap(const DbGroupRxMap &map);
 
-    /// Base units; not a number where there is none.
+    /// Base units; NaN when there is no rate.
     double rateAt(const QPointF &place) const;
-    /// The borders among at most so many edges, which are taken from all of them at even distances.
+    /// The borders among at most `mostEdges` edges, which are taken from all edges at even intervals.
     std::vector<Border> borders(int mostEdges) const;
 
 private:

@@ -55,7 +55,7 @@ void TestActuator::aStepIsAnsweredAsTheClosedFormSays()
     for (int step = 1; step <= 40; ++step) {
         amount += 0.1 * actuator.step(on(100.0), 0.1);
         const double time = 0.1 * step;
-        // Where the dead time ends with a step, either side of the jump is right.
+        // Where the dead time ends at a step, either side of the jump is right.
         if (timeConstant > 0.0 || std::fabs(time - deadTime) > 1e-9)
             QVERIFY2(std::fabs(actuator.applied() - rateAt(time)) < 1e-9, qPrintable(QString::number(time)));
         QVERIFY2(std::fabs(amount - amountAt(time)) < 1e-9, qPrintable(QString::number(time)));

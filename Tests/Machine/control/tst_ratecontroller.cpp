@@ -56,8 +56,8 @@ void TestRateController::aBorderIsMetByTheLookAheadTime_data()
     QTest::addColumn<double>("speed");
     QTest::addColumn<int>("lookAheadMs");
     QTest::addColumn<int>("lastStepBefore");
-    // From 60 m before the border. The border belongs to the eastern zone, so the rate changes with the step that
-    // looks at it or beyond: the last one before it is that with speed * (time + look-ahead) < 60 m.
+    // The machine starts 60 m before the border. The border belongs to the eastern zone, so the rate changes at the
+    // first step that looks at it or beyond it: the last step before has speed * (time + look-ahead) < 60 m.
     QTest::newRow("2 m/s, none") << 2.0 << 0 << 299;
     QTest::newRow("2 m/s, 1 s") << 2.0 << 1000 << 289;
     QTest::newRow("2 m/s, 2.5 s") << 2.0 << 2500 << 274;
@@ -79,7 +79,7 @@ void TestRateController::aBorderIsMetByTheLookAheadTime()
     QFETCH(int, lastStepBefore);
     QVERIFY(bench->loadZones({{-100, 0, 50}, {0, 100, 80}}).isOk());
     bench->set(1, lookAheadMs, false, false);
-    // A hair before, so that no step ends on the border but for rounding.
+    // A hair further back, so that rounding cannot decide whether a step ends on the border.
     bench->place({-60.001, 10.0}, 90.0, speed);
     bench->simulation.run(0.1 * lastStepBefore + 0.02);
     QCOMPARE(command().prescribed, 50.0);
@@ -202,7 +202,7 @@ void TestRateController::flagsAreTakenWhenAskedForAlone()
     bench->broker.setProperty("quillSpan", "reInit", true);
     bench->simulation.step();
     QVERIFY(command().source == CommandSource::ZeroShutoff);
-    // Another map's coming is no request.
+    // Loading another map is no request.
     bench->set(1, 0, false, false);
     QVERIFY(bench->load(TerminalHost::sampleField(), {QString(), QStringLiteral("SEED_KS_HA")}).isOk());
     bench->simulation.step();
@@ -211,7 +211,7 @@ void TestRateController::flagsAreTakenWhenAskedForAlone()
 
 void TestRateController::aMasterSpreadsNoShutoffOfItsOwn()
 {
-    // What the dialog shows for a product holds: it has copied a master's shut-off where that was asked for.
+    // What the dialog shows for a product counts: it has copied the master's shut-off where that was asked for.
     QVERIFY(bench->loadZones({{-100, 100, 0}}, {1, 2}).isOk());
     const QString name = bench->broker.findGroup(QStringLiteral("rxMap.*"), true, false).value(0);
     auto *group = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(name, false));
@@ -246,7 +246,7 @@ void TestRateController::aPositionHoldsForTwoSeconds()
     bench->place({-0.15, 0}, 90.0, 1.0);
     bench->simulation.step();
     bench->simulation.vehicle()->setSignal(false);
-    // The last position counts, not where the machine has gone.
+    // The last position counts, not where the machine has gone since.
     bench->simulation.run(2.0);
     QCOMPARE(command().commanded, 50.0);
     QVERIFY(command().source == CommandSource::Prescription);
@@ -264,7 +264,7 @@ void TestRateController::aMachineThatStandsAsksNothingAnew()
     QSignalSpy asked(map, &DbGroupRxMap::queryRatesAtXYZSet);
     bench->simulation.run(1.0);
     QCOMPARE(asked.size(), 0);
-    // Products of one look-ahead share their answer.
+    // Products with the same look-ahead share their answer.
     bench->place({0, 0}, 0.0, 1.0);
     bench->simulation.run(1.0);
     QCOMPARE(asked.size(), 10);

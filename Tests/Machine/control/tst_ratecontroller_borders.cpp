@@ -13,7 +13,7 @@
 
 #include <cmath>
 
-/// What the rate controller commands where maps change their rates, beside what their polygons say there.
+/// What the rate controller commands where maps change their rates, compared with what their polygons say there.
 class TestRateControllerBorders : public TestBase {
     Q_OBJECT
 
@@ -25,13 +25,13 @@ private Q_SLOTS:
 private:
     static QStringList realMaps();
     void open(const QString &path);
-    /// What is to be commanded: the map's default rate where the polygons say nothing.
+    /// The rate to be commanded: the map's default rate where the polygons give none.
     double expectedAt(const QPointF &place) const;
-    /// Whether rounding may decide between what is commanded and what is expected there.
+    /// Whether rounding may cause a difference between the commanded and the expected rate there.
     bool isOnBorder(const QPointF &place) const;
     double commanded() const { return bench->simulation.controller()->command(1).commanded; }
 
-    // Of the map that is open, for all rows of it.
+    // About the open map, for all of its rows.
     QString opened;
     QScopedPointer<MachineBench> bench;
     QScopedPointer<CountedMap> map;
@@ -45,7 +45,7 @@ QStringList TestRateControllerBorders::realMaps()
     QDirIterator files(realDataFolder(), {"*.shp", "*.gpkg", "*.geojson", "TASKDATA.XML"}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        // Those have no rates.
+        // The parcels have no rates.
         if (!files.next().endsWith(QLatin1String("/parcels.shp")))
             maps.append(files.filePath());
     }
@@ -78,7 +78,7 @@ void TestRateControllerBorders::everyBorderIsMetWhereThePolygonsSay_data()
 
 void TestRateControllerBorders::open(const QString &path)
 {
-    // Maps have up to 85,000 edges, most of them between places of one rate.
+    // Maps have up to 85,000 edges, most of them between places with the same rate.
     constexpr int mostEdges = 5000;
     opened.clear();
     map.reset();
@@ -91,7 +91,7 @@ void TestRateControllerBorders::open(const QString &path)
     QVERIFY2(report.isOk(), qPrintable(report.error));
     const auto *group = qobject_cast<DbGroupRxMap *>(bench->broker.getGroup(report.group, false));
     map.reset(new CountedMap(*group));
-    // Some formats name one of their own.
+    // Some formats give a default rate of their own.
     defaultRate = group->getRateCalMappings().first().defaultRate;
     borders = map->borders(mostEdges);
     opened = path;
@@ -105,7 +105,7 @@ double TestRateControllerBorders::expectedAt(const QPointF &place) const
 
 bool TestRateControllerBorders::isOnBorder(const QPointF &place) const
 {
-    // More than a machine loses that gets up to its speed within a step.
+    // More than a machine loses while it gets up to its speed within a step.
     constexpr double aside = 1e-4;
     for (const QPointF &beside : {QPointF(aside, 0), QPointF(-aside, 0), QPointF(0, aside), QPointF(0, -aside)}) {
         if (expectedAt(place + beside) == commanded())
@@ -114,7 +114,7 @@ bool TestRateControllerBorders::isOnBorder(const QPointF &place) const
     return false;
 }
 
-/// Where the controller of a machine looks that drives on a circle, or straight on.
+/// Where the controller looks when its machine drives on a circle, or straight on.
 static QPointF pointAhead(const Pose &start, double seconds, double speed, double curvature, double lookAhead)
 {
     const double driven = seconds * speed;
@@ -142,7 +142,7 @@ void TestRateControllerBorders::everyBorderIsMetWhereThePolygonsSay()
     const double lookAhead = lookAheadMs / 1000.0;
     int changes = 0;
     for (const CountedMap::Border &border : borders) {
-        // It is looked across between the second step and the third.
+        // The controller looks across the border between the second step and the third.
         Pose start{{}, std::atan2(border.across.x(), border.across.y())};
         start.place = border.middle - pointAhead(start, 0.25, speed, curvature, lookAhead);
         bench->place(start.place, start.degrees(), speed);
@@ -162,7 +162,7 @@ void TestRateControllerBorders::everyBorderIsMetWhereThePolygonsSay()
             before = commanded();
         }
     }
-    // Some edges are those of slivers that lie between two steps.
+    // Some edges belong to slivers that lie between two steps.
     QVERIFY2(changes > 0 && 2 * changes > int(borders.size()),
              qPrintable(QStringLiteral("%1 of %2").arg(changes).arg(borders.size())));
 }

@@ -71,7 +71,7 @@ void TestActiveMap::farBelowAllRatesIsUnplanned()
     map.legend = {{49.0, Qt::red}, {60.0, Qt::blue}};
     QCOMPARE(map.appliedColor(2.0, true), ActiveMap::unplannedColor());
     QCOMPARE(map.appliedColor(45.0, true), QColor(Qt::red));
-    // A range begins anywhere.
+    // A class that is a range of rates has no lower end.
     QCOMPARE(map.appliedColor(2.0, false), QColor(Qt::red));
 }
 

@@ -2,7 +2,7 @@
 #include "propertycheck.h"
 #include "testbase.h"
 
-/// A bin as the broker shows it.
+/// A bin, as the broker shows it.
 class TestDbGroupBin : public TestBase {
     Q_OBJECT
 

@@ -2,7 +2,7 @@
 #include "propertycheck.h"
 #include "testbase.h"
 
-/// Position and motion as the broker shows them.
+/// Position and motion, as the broker shows them.
 class TestDbGroupGpsSolution : public TestBase {
     Q_OBJECT
 

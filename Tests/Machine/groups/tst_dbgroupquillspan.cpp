@@ -5,7 +5,7 @@
 
 #include <QSignalSpy>
 
-/// The rate controller that counts what it is asked for.
+/// The rate controller's group, which counts the requests made to it.
 class TestDbGroupQuillSpan : public TestBase {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 #include "simulationclock.h"
 #include "testbase.h"
 
-/// The clock that goes by itself.
+/// The clock that runs by itself.
 class TestSimulationClock : public TestBase {
     Q_OBJECT
 

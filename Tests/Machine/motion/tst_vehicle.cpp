@@ -19,7 +19,7 @@ public:
 
 } // namespace
 
-/// The vehicle on a clock that the test turns.
+/// The vehicle, on a clock that the test sets.
 class TestVehicle : public TestBase {
     Q_OBJECT
 

@@ -6,7 +6,7 @@
 
 Q_DECLARE_METATYPE(ColumnProduct)
 
-/// The machine that a file's columns make.
+/// The products that a file's columns suggest for the machine.
 class TestSuggestedProducts : public TestBase {
     Q_OBJECT
 

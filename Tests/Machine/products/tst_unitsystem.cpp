@@ -7,7 +7,7 @@
 
 Q_DECLARE_METATYPE(UnitSystem)
 
-/// What the terminal writes behind its rates.
+/// The units that the terminal writes after its rates.
 class TestUnitSystem : public TestBase {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Translates every text into what it was asked for.
+/// Translates every text into its context, the text and its comment.
 class EchoingTranslator : public QTranslator {
 public:
     QString translate(const char *context, const char *source, const char *comment, int) const override
@@ -37,7 +37,7 @@ void TestUnitSystem::ratesCarryTheUnitOfTheirKind_data()
 {
     QTest::addColumn<DbGroupProductGroupInfo::RateKind>("kind");
     QTest::addColumn<QStringList>("units");
-    // In the US, metric and turf.
+    // In US, metric and turf units.
     QTest::newRow("count") << DbGroupProductGroupInfo::CountRate << QStringList{"k/ac", "k/ha", "k/tu"};
     QTest::newRow("ratio") << DbGroupProductGroupInfo::RatioRate << QStringList{"fl oz/gal", "L/L", "fl oz/gal"};
     QTest::newRow("injection") << DbGroupProductGroupInfo::InjectionRate
@@ -70,8 +70,8 @@ void TestUnitSystem::unitsAreTranslatedWithTheConvertersTexts()
 void TestUnitSystem::theConverterHoldsTheOperatorsSystem_data()
 {
     QTest::addColumn<UnitSystem>("system");
-    QTest::addColumn<double>("weightRate"); // Of 1 kg/ha.
-    QTest::addColumn<double>("pressure");   // Of 1 kPa.
+    QTest::addColumn<double>("weightRate"); // For 1 kg/ha.
+    QTest::addColumn<double>("pressure");   // For 1 kPa.
     constexpr double poundsPerKilogram = 1.0 / 0.45359237;
     constexpr double psiPerKilopascal = 1000.0 * 0.0254 * 0.0254 / (0.45359237 * 9.80665);
     QTest::newRow("us") << UnitSystem::Us << poundsPerKilogram * 0.40468564224 << psiPerKilopascal;

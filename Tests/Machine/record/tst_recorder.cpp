@@ -16,7 +16,7 @@
 #include <ogrsf_frmts.h>
 #include <sys/resource.h>
 
-/// A limit on the size of files stands for the disk's.
+/// A limit on the size of files stands for a full disk.
 class SmallDisk {
 public:
     explicit SmallDisk(rlim_t bytes)
@@ -61,9 +61,9 @@ private Q_SLOTS:
     void aFullDiskEndsTheRecordWithAWholeSecond();
 
 private:
-    /// Whole steps that a record holds.
+    /// The number of whole steps in a record.
     static int stepsIn(const QString &path);
-    /// Drives 5 s over a border, 4 m/s, and records it.
+    /// Drives 5 s over a border at 4 m/s and records it; returns the record's path.
     QString drive(const QString &name);
     static QList<QByteArray> lines(const QString &path) { return readFile(path).split('\n'); }
 
@@ -116,7 +116,7 @@ void TestRecorder::aRowIsWrittenForEveryStep()
     const QList<QByteArray> fields = rows.at(20).split(',');
     QCOMPARE(fields.size(), 6 + 3 * 4);
     QCOMPARE(fields.mid(0, 6), QList<QByteArray>({"2.000", "-2.000", "3.000", "90.000", "4.000", "1"}));
-    // The look-ahead is a second.
+    // The look-ahead is one second.
     QCOMPARE(fields.mid(6, 2), QList<QByteArray>({"80.000", "80.000"}));
     QCOMPARE(fields.at(9), QByteArray("prescription"));
     QCOMPARE(fields.mid(10, 4), QList<QByteArray>({"", "0.000", "0.000", "notControlled"}));
@@ -136,7 +136,7 @@ void TestRecorder::twoDrivesAreTheSameToTheByte()
     QByteArray records[2];
     for (QByteArray &record : records) {
         record = readFile(drive(name));
-        // What a clock would change, changes from one second to the next.
+        // Had the record a clock's time in it, it would differ after a second.
         QTest::qWait(&record == &records[0] ? 1100 : 0);
     }
     QVERIFY(records[0].size() > 3000);
@@ -158,7 +158,7 @@ void TestRecorder::whatIsReadBackIsTheDrive()
     const QString tablePath = folder->filePath(QStringLiteral("a.csv"));
     QCOMPARE(package.start(packagePath, report.origin), QString());
     QCOMPARE(table.start(tablePath, report.origin), QString());
-    // Over all zones and off the map, in a turn, without a signal, and standing.
+    // Over all zones and off the map, in a turn, without a signal, and standing still.
     bench.place({-45, 3}, 90.0, 4.0);
     bench.simulation.run(25.0);
     QVERIFY(bench.simulation.vehicle()->steer(0.05));
@@ -221,7 +221,7 @@ void TestRecorder::aGeoPackageHoldsPointsAndStrips()
     OGRLayer *points = file->GetLayerByName("points");
     QCOMPARE(points->GetFeatureCount(), GIntBig(50));
     const OGRFeatureUniquePtr point(points->GetFeature(20));
-    // It speeds up within some microseconds.
+    // The machine gets up to speed within some microseconds.
     QVERIFY(std::fabs(point->GetGeometryRef()->toPoint()->getX() + 2.0) < 1e-4);
     QCOMPARE(point->GetFieldAsDouble("prescribed_1"), 80.0);
     QCOMPARE(QString::fromUtf8(point->GetFieldAsString("source_2")), QStringLiteral("notControlled"));
@@ -229,9 +229,9 @@ void TestRecorder::aGeoPackageHoldsPointsAndStrips()
     double area = 0.0;
     for (const OGRFeatureUniquePtr &strip : *file->GetLayerByName("strips"))
         area += strip->GetGeometryRef()->toPolygon()->get_Area();
-    // It speeds up within some microseconds.
+    // The machine gets up to speed within some microseconds.
     QVERIFY2(std::fabs(area - 50 * 0.4 * 12.0) < 1e-3, qPrintable(QString::number(area)));
-    // Where on earth: the map's middle lies on the zone's middle meridian.
+    // The place on earth: the map's middle lies on the zone's middle meridian.
     OGRSpatialReference earth;
     earth.SetWellKnownGeogCS("WGS84");
     earth.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
@@ -268,7 +268,7 @@ void TestRecorder::aDriveThatGoesOnCanBeRead()
     const QString table = folder->filePath(QStringLiteral("a.csv"));
     QCOMPARE(recorder.start(table, report.origin), QString());
     bench.simulation.run(3.55);
-    // All but what began in the last second.
+    // All steps except those that began in the last second.
     QCOMPARE(lines(table).size(), 30 + 2);
     const QString package = folder->filePath(QStringLiteral("a.gpkg"));
     QCOMPARE(recorder.start(package, report.origin), QString());

@@ -5,8 +5,8 @@
 
 namespace {
 
-/// 50, from the border at step 51 on 80, from the one at `secondBorder` on 50 again, at 10 steps a second and 2 m/s; 80
-/// is put out after step `begin` until `end`. Then the implement goes up.
+/// 50 is prescribed; 80 from the border at step 51, and 50 again from the one at `secondBorder`, at 10 steps a second
+/// and 2 m/s. 80 is applied after step `begin` until step `end`. Then the implement goes up.
 BorderWatch crossStrip(int secondBorder, int begin, int end)
 {
     BorderWatch watch;
@@ -41,7 +41,7 @@ void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount_data()
 {
     QTest::addColumn<double>("begin");
     QTest::addColumn<double>("timeConstant");
-    // A first-order lag that begins then is as late as a step one time constant later.
+    // A first-order lag that begins at that time is as late as a step one time constant later.
     QTest::newRow("sharp") << 0.0 << 0.0;
     QTest::newRow("early") << -1.3 << 0.0;
     QTest::newRow("lag") << 0.0 << 0.8;
@@ -82,7 +82,7 @@ void TestBorderWatch::aLagIsAsLateAsTheStepOfTheSameAmount()
 
 void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
 {
-    // From 5.5 s on 80, from 9.5 s on 50 again: each half a second late.
+    // 80 from 5.5 s, 50 again from 9.5 s: each half a second late.
     const BorderWatch watch = crossStrip(91, 55, 95);
     QCOMPARE(watch.changes().size(), size_t(2));
     for (const BorderWatch::Change &change : watch.changes()) {
@@ -93,8 +93,8 @@ void TestBorderWatch::neighbouringBordersShareTheWayBetweenThem()
 
 void TestBorderWatch::whatComesAfterTheMiddleIsTheNextBorders()
 {
-    // 80 from 5 to 7 s, applied from 6.4 to 8.4 s. Up to the middle at 6 s nothing of it came, so the first change is
-    // as late as can be told, and the second must have what the first one lacks.
+    // 80 from 5 to 7 s, applied from 6.4 to 8.4 s. Up to the middle at 6 s none of it was applied, so the first change
+    // is as late as can be told, and the second must make up for what the first one lacks.
     const BorderWatch watch = crossStrip(71, 64, 84);
     QCOMPARE(watch.changes().size(), size_t(2));
     for (const BorderWatch::Change &change : watch.changes())
@@ -103,7 +103,7 @@ void TestBorderWatch::whatComesAfterTheMiddleIsTheNextBorders()
 
 void TestBorderWatch::settingOffIsNoLateness()
 {
-    // Nothing for the first second, then 80; 84 from 5 s on, put out half a second late.
+    // Nothing for the first second, then 80; from 5 s on 84, applied half a second late.
     BorderWatch watch;
     watch.begin(0.0, 0.0, 80.0);
     for (int step = 1; step <= 200; ++step) {

@@ -16,7 +16,7 @@
 #include <ogr_geometry.h>
 #include <random>
 
-/// What a drive adds up to.
+/// The totals of a drive.
 class TestDriveTally : public TestBase {
     Q_OBJECT
 
@@ -28,11 +28,11 @@ private Q_SLOTS:
 private:
     using Geometry = std::unique_ptr<OGRGeometry>;
 
-    /// Polygons with as many corners as it comes, over each other, of a few rates.
+    /// Overlapping polygons with any number of corners and a few rates.
     static QByteArray randomMap(std::mt19937 &random);
-    /// What a strip of the drive covers.
+    /// The ground that a strip of the drive covers.
     static Geometry strip(const Pose &from, double length, double width);
-    /// The ground of each rate: a later polygon lies on those before.
+    /// The ground of each rate: a later polygon covers those before it.
     static std::map<double, Geometry> groundByRate(const DbGroupRxMap &map);
 
     QTemporaryDir folder;
@@ -126,7 +126,7 @@ void TestDriveTally::areasAreThoseOfTheStripsCutWithTheMap()
     const std::map<double, Geometry> ground = groundByRate(*map);
     std::map<double, double> expected;
     double stripArea = 0.0;
-    // A strip may begin and end a step too soon or too late.
+    // A strip may begin and end a step too early or too late.
     const double step = FieldDrive::usualSpeed * Simulation::stepMs / 1000.0 * size.width;
     int strips = 0;
     double way = 0.0;
@@ -145,7 +145,7 @@ void TestDriveTally::areasAreThoseOfTheStripsCutWithTheMap()
     for (const auto &[rate, area] : expected) {
         const auto found = product.classes.find(rate);
         const double worked = found != product.classes.end() ? found->second.area : 0.0;
-        // Steps that cross a border too soon and too late even out.
+        // Steps that cross a border too early and too late even out.
         QVERIFY2(std::fabs(worked - area) < step + 0.003 * area,
                  qPrintable(QStringLiteral("%1: %2 m2 instead of %3").arg(rate).arg(worked).arg(area)));
         counted += worked;

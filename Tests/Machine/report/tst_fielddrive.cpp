@@ -12,7 +12,7 @@
 
 #include <cmath>
 
-/// A whole field, driven at once.
+/// A whole field, driven without waiting.
 class TestFieldDrive : public TestBase {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ void TestFieldDrive::areasAndAmountsAreThoseOfTheField()
     const QJsonObject all = report(bench, acrossBorders(bench));
     // 400 m from south to north are 34 swaths, the last of which reaches 8 m beyond.
     const double area = 34 * 12.0 * 180.0;
-    // The first metre of each swath is driven within the step that lets the implement down.
+    // The first metre of each swath belongs to the step in which the implement comes down.
     QVERIFY2(std::fabs(all.value(QStringLiteral("workedArea")).toDouble() - area) < 34 * 12.0 * 0.3,
              qPrintable(QString::number(all.value(QStringLiteral("workedArea")).toDouble())));
     const QJsonArray classes = product(all, 1).value(QStringLiteral("classes")).toArray();
@@ -76,7 +76,7 @@ void TestFieldDrive::areasAndAmountsAreThoseOfTheField()
     }
     QVERIFY(classes.at(2).toObject().value(QStringLiteral("rate")).isNull());
     QVERIFY(std::fabs(classes.at(2).toObject().value(QStringLiteral("area")).toDouble() - 8.0 * 180.0) < 120.0);
-    // The last swath's middle, where changes are looked for, lies beyond the field.
+    // The last swath's middle, where changes are looked for, lies outside the field.
     QCOMPARE(product(all, 1).value(QStringLiteral("changes")).toObject().value(QStringLiteral("count")).toInt(), 33);
     QCOMPARE(product(all, 2).value(QStringLiteral("appliedTotal")).toDouble(), 0.0);
 }
@@ -88,7 +88,7 @@ void TestFieldDrive::whatIsAppliedFollowsTheModel()
     bench.set(1, 1000, false, true);
     const QJsonObject all = report(bench, acrossBorders(bench));
     const QJsonObject changes = product(all, 1).value(QStringLiteral("changes")).toObject();
-    // Commands come with a step: up to a tenth of a second after the look-ahead point has crossed the border.
+    // Commands change only at steps: up to a tenth of a second after the look-ahead point has crossed the border.
     const double late = changes.value(QStringLiteral("medianSeconds")).toDouble();
     QVERIFY2(late > 0.4 - 1e-3 && late < 0.5 + 1e-3, qPrintable(QString::number(late)));
     QVERIFY(std::fabs(changes.value(QStringLiteral("medianMetres")).toDouble() - FieldDrive::usualSpeed * late) < 1e-3);
@@ -119,7 +119,7 @@ void TestFieldDrive::theBestLookAheadIsDeadTimePlusTimeConstant()
     const int best = FieldDrive::best(curves.at(0));
     const double expected = 1000.0 * (deadTime + timeConstant);
     QVERIFY2(std::abs(best - expected) <= FieldDrive::lookAheadStep, qPrintable(QString::number(best)));
-    // The curve falls by a second with each second of look-ahead.
+    // The curve falls by one second for each second of look-ahead.
     QVERIFY(std::fabs(curves.at(0).at(0) - curves.at(0).at(1000) - 1.0) < 0.1);
     QVERIFY(curves.at(1).empty());
     const auto *group = qobject_cast<DbGroupRxMap *>(bench.broker.getGroup(map.group, false));

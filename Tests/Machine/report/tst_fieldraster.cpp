@@ -80,7 +80,7 @@ void TestFieldRaster::whatIsPrescribedIsLookedUp()
     FieldRaster raster(&bench.simulation, QRectF(-150, -10, 300, 20));
     raster.end();
     QCOMPARE(raster.size(), QSize(400, 27));
-    // The sides lie 50 m within the picture, the middle at 200 cells.
+    // The sides lie 50 m inside the picture, whose middle is at 200 cells.
     QVERIFY(std::isnan(raster.prescribed(1, 60, 5)));
     QCOMPARE(raster.prescribed(1, 70, 5), 50.0F);
     QCOMPARE(raster.prescribed(1, 199, 5), 50.0F);

@@ -37,7 +37,7 @@ private:
         QString picture;
     };
 
-    /// There and back over the border of two zones, one product without a prescription.
+    /// There and back over the border between two zones, with one product that has no prescription.
     static QByteArray drive(UnitSystem units, bool isTuned);
     static QList<Element> elements(const QByteArray &page);
     QStringList texts(const char *name) const;
@@ -118,7 +118,7 @@ void TestReportPage::initTestCase()
 
 void TestReportPage::itIsWholeAndNeedsNothingElse()
 {
-    // It is XML as well, so that every element is closed.
+    // The page is XML as well, so every element is closed.
     QVERIFY(all.size() > 100);
     QVERIFY(page.startsWith("<!DOCTYPE html>"));
     QVERIFY(page.contains("charset=\"utf-8\""));
@@ -148,7 +148,7 @@ void TestReportPage::picturesShowPlanAndDriveInTheLegendsColours()
     const QImage applied = picture(1);
     QVERIFY(!prescribed.isNull() && prescribed.size() == applied.size());
     QCOMPARE(texts("figcaption"), (QStringList{"Prescribed", "Applied"}));
-    // From -98 to 98 m, and from -8 to 98 m.
+    // The picture reaches from -98 to 98 m east, and from -8 to 98 m north.
     const double cell = 196.0 / prescribed.width();
     const auto at = [cell](const QImage &image, double x, double y) {
         return image.pixelColor(int((x + 98.0) / cell), image.height() - 1 - int((y + 8.0) / cell));
@@ -161,7 +161,7 @@ void TestReportPage::picturesShowPlanAndDriveInTheLegendsColours()
         QCOMPARE(at(applied, -50, y), low);
         QCOMPARE(at(applied, 50, y), high);
         QCOMPARE(at(applied, -50, y + 7.0).alpha(), 0);
-        // Without look-ahead it is late, whichever way it goes.
+        // Without look-ahead the rate changes late, in either direction.
         const bool isEast = y == 0.0 || y == 60.0;
         QCOMPARE(at(applied, 1.0, y), isEast ? low : high);
         QCOMPARE(at(applied, -1.0, y), isEast ? low : high);
@@ -186,9 +186,9 @@ void TestReportPage::whatIsAppliedWithoutARateHasAColourOfItsOwn()
         }
     }
     QVERIFY(outside > 0);
-    // At its start the machine puts out next to nothing.
+    // When it starts, the machine applies almost nothing.
     QVERIFY2(inside < 0.01 * applied.width() * applied.height(), qPrintable(QString::number(inside)));
-    // The table of classes is the legend.
+    // The table of classes serves as the legend.
     const int swatch = page.indexOf("background:" + own.name().toLatin1());
     QVERIFY(swatch > 0);
     QVERIFY(page.indexOf("No rate prescribed", swatch) - swatch < 30);
@@ -199,7 +199,7 @@ void TestReportPage::classesAddUp()
     const QStringList cells = texts("td");
     const int first = cells.indexOf(QStringLiteral("Total"));
     QVERIFY(first > 12);
-    // Class, area, planned, applied, difference, share: two classes, what is not prescribed, all.
+    // Class, area, planned, applied, difference, share: two classes, ground without a rate, the total.
     const auto number = [&cells](int at) { return cells.at(at).toDouble(); };
     const int low = first - 18;
     QVERIFY(std::fabs(number(low + 1) - 0.432) < 0.01);
@@ -237,7 +237,7 @@ void TestReportPage::numbersAreInTheOperatorsUnits_data()
     QTest::addColumn<double>("area");
     QTest::addColumn<double>("planned");
     QTest::addColumn<QString>("width");
-    // 1000 seeds are as many by any system; an acre is 0.40468564 ha.
+    // 1000 seeds are the same number in every unit system; an acre is 0.40468564 ha.
     QTest::newRow("metric") << int(UnitSystem::Metric)
                             << QStringList{"Class (k/ha)", "Area (ha)", "Planned (k)", "Late (m)"} << 0.432 << 21.6
                             << "12.0 m";

@@ -9,7 +9,7 @@ public:
     void note(const QString &event) { events.append(event); }
     QStringList taken();
 
-    /// Hooks and validators with a journal as their argument.
+    /// Hooks and validators that take a journal as their argument.
     static void noteBefore(void *journal);
     static void noteAfter(void *journal);
 

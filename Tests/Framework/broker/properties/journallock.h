@@ -4,7 +4,7 @@
 
 #include "Framework/grouplock.h"
 
-/// A lock for one thread that writes down what is done to it.
+/// A lock for a single thread that records what is done to it.
 class JournalLock : public GroupLock {
 public:
     explicit JournalLock(AccessJournal &journal);

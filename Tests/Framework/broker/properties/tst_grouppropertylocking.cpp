@@ -12,7 +12,7 @@ using Settings = QList<OrvikTypes::RX_SETTINGS>;
 
 } // namespace
 
-/// When the accessors hold the lock of a thread-safe group, and in which order they tell whom.
+/// When the accessors hold the lock of a thread-safe group, and whom they notify in which order.
 class TestGroupPropertyLocking : public TestBase {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ void TestGroupPropertyLocking::readHooksEncloseTheCopyUnderTheLock()
     } hooks;
     hooks.group.setLevel(1);
     hooks.group.setLock(&hooks.lock);
-    // The value changes in both hooks: the copy taken is the one between them.
+    // The value changes in both hooks: the copy is taken between them.
     const auto before = [](void *argument) {
         auto *const self = static_cast<Hooks *>(argument);
         self->journal.note(QStringLiteral("before"));
@@ -153,7 +153,7 @@ void TestGroupPropertyLocking::theNotifySignalComesBeforeTheSubscribers()
     QStringList order;
     SetReceiver subscriber;
     connect(&subscriber, &SetReceiver::passedOn, this, [&]() { order.append(QStringLiteral("subscriber")); });
-    // The subscriber is there first; the order does not come from the order of connecting.
+    // The subscriber connects first, so the order is not that of connecting.
     QVERIFY(
         group.connectPropertySetSlot("count", &subscriber, SIGNAL(passedOn(unsigned int)), Qt::AutoConnection, true));
     connect(&group, &SampleGroup::countChanged, this, [&]() { order.append(QStringLiteral("notified")); });

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// A thread-safe group whose "level" is 0 and marked as stored, with a journal of all that a write does to it. Each
-/// entry says what the group held at that moment.
+/// A thread-safe group whose "level" is 0 and marked as stored, with a journal of everything that a write does to it.
+/// Each entry says what the group held at that moment.
 class WatchedGroup : private GroupLock {
 public:
     WatchedGroup()
@@ -20,7 +20,7 @@ public:
 
     void note(const QString &event)
     {
-        // Asking the group takes its lock in turn, which is nothing to write down.
+        // Asking the group takes its lock as well, which is not recorded.
         isAsking = true;
         QString state = QStringLiteral("%1: %2").arg(event).arg(group.getLevel());
         if (group.holdsStoredValue("level"))
@@ -67,7 +67,7 @@ void hearMessage(QtMsgType type, const QMessageLogContext &, const QString &)
 
 } // namespace
 
-/// The steps of a write to a thread-safe group, in their order, whichever way the value comes.
+/// The steps of a write to a thread-safe group, in their order, however the value is given.
 class TestGroupPropertyOrder : public TestBase {
     Q_OBJECT
 
@@ -119,7 +119,7 @@ void TestGroupPropertyOrder::anAcceptedWrite()
     QCOMPARE(watched->journal.taken(),
              (QStringList{"lock 0: 0 stored result 0", "validate 7: 0 stored result 0", "unlock: 7 run-time result 0",
                           "notified 7: 7 run-time result 0",
-                          // What the subscribers get is read again, like any value.
+                          // The value for the subscribers is read again, like any value.
                           "lock 0: 7 run-time result 0", "unlock: 7 run-time result 0",
                           "subscriber 7: 7 run-time result 0"}));
 }

@@ -11,7 +11,7 @@ constexpr int writers = 3;
 constexpr int readers = 3;
 constexpr int rounds = 6000;
 
-/// Each list that is ever stored has as many entries as its tag says, and every entry carries the tag.
+/// Each list ever stored has as many entries as its tag says, and every entry carries the tag.
 bool isWhole(const QList<OrvikTypes::RX_SETTINGS> &settings)
 {
     for (const OrvikTypes::RX_SETTINGS &entry : settings) {
@@ -21,7 +21,7 @@ bool isWhole(const QList<OrvikTypes::RX_SETTINGS> &settings)
     return true;
 }
 
-/// Counts how often two threads are in a hook or validator at once; each stays long enough to be met.
+/// Counts how often two threads are in a hook or validator at once; each stays there long enough to be met.
 struct Visitors {
     static void visit(void *argument)
     {
@@ -51,7 +51,7 @@ int refuseLongLists(QVariant value, void *)
 
 } // namespace
 
-/// A group in thread-safe mode that several threads write and read, by type and by name.
+/// A thread-safe group that several threads write and read, by type and by name.
 class TestGroupPropertyThreads : public TestBase {
     Q_OBJECT
 

@@ -2,7 +2,7 @@
 
 #include <QVariant>
 
-/// A write validator that always gives the same code and keeps what it is asked; the argument is its address.
+/// A write validator that always returns the same code and keeps what it was asked; its argument is its address.
 struct ValidatorCall {
     explicit ValidatorCall(int answerCode);
 

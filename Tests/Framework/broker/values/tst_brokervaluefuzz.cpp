@@ -180,7 +180,7 @@ bool sameValue(const QVariant &a, const QVariant &b)
     return a == b;
 }
 
-/// Whether `stored` is what was asked for, and not something near it.
+/// Whether `stored` is exactly what was asked for.
 bool isWhatWasAskedFor(const QVariant &asked, const QVariant &stored)
 {
     if (asked.userType() == stored.userType())
@@ -202,7 +202,7 @@ QString described(const QVariant &value)
 
 } // namespace
 
-/// Random values into every property of every group, by name: each is taken whole or refused whole.
+/// Random values written to every property of every group, by name: each is accepted whole or refused whole.
 class TestBrokerValueFuzz : public TestBase {
     Q_OBJECT
 

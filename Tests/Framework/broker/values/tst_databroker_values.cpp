@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// What the broker gives by name: groups' properties, settings, the display's size.
+/// What the broker returns by name: groups' properties, settings, the display's size.
 class TestDataBrokerValues : public TestBase {
     Q_OBJECT
 

@@ -9,7 +9,7 @@ using OrvikTypes::RX_POLYGON;
 using OrvikTypes::RX_POLYGONVERTEX;
 using OrvikTypes::RX_RATECOLOR;
 
-/// Back-ends and plug-ins are built apart and share these records in memory: every field has its place and width.
+/// Back-ends and plug-ins are built separately and share these records in memory: every field has its place and width.
 class TestRxPolygon : public TestBase {
     Q_OBJECT
 

@@ -55,7 +55,7 @@ void TestSharedMetaTypes::eachTypeIsFoundUnderItsName()
 {
     QFETCH(QByteArray, name);
     QFETCH(IdOfType, idOfType);
-    // By name first: asking for the id would itself make the name known.
+    // By name first: asking for the id would itself register the name.
     const int found = QMetaType::type(name.constData());
     QVERIFY(found >= int(QMetaType::User));
     QCOMPARE(found, idOfType());

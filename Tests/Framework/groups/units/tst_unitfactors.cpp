@@ -22,7 +22,7 @@ double pressureOf(int unit)
 
 } // namespace
 
-/// How the factors of a unit stand to one another. Their values are tested where the operator's units are published.
+/// How the factors of the units relate to each other. Their values are tested where the operator's units are published.
 class TestUnitFactors : public TestBase {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ void TestUnitFactors::aGallonHoldsFluidOunces()
 {
     QFETCH(int, areaUnitSystem);
     const UnitFactors factors = UnitFactors::of(areaUnitSystem, 1);
-    // The injection rate comes in millilitres and is shown in fluid ounces; the volume rate, in litres and gallons.
+    // The injection rate is given in millilitres and shown in fluid ounces; the volume rate, in litres and gallons.
     QVERIFY(isClose(1000.0 * factors.injectionRate, 128.0 * factors.volumeRate));
     QCOMPARE(factors.ratioRate, 128.0);
 }
@@ -73,7 +73,7 @@ void TestUnitFactors::pressureUnitsAgreeWithOneAnother()
 {
     QVERIFY(isClose(pressureOf(4), 25.4 * pressureOf(3)));        // An inch of mercury is 25.4 mm of it.
     QVERIFY(isClose(pressureOf(6), 1000.0 * pressureOf(2)));      // A bar is 1000 hPa.
-    QVERIFY(isClose(pressureOf(4), 760.0 * pressureOf(5), 1e-6)); // 760 mmHg miss an atmosphere by a little.
+    QVERIFY(isClose(pressureOf(4), 760.0 * pressureOf(5), 1e-6)); // 760 mmHg fall short of an atmosphere by a little.
     QVERIFY(isClose(pressureOf(2), 1.01325 * pressureOf(5)));
 }
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-/// The shortest way from pose to pose.
+/// The shortest way from one pose to another.
 class TestDubinsPath : public TestBase {
     Q_OBJECT
 
@@ -25,14 +25,14 @@ void TestDubinsPath::knownLengths_data()
     QTest::newRow("a quarter to the right") << QPointF(6, 6) << 90.0 << 3.0 * pi;
     QTest::newRow("a half turn to the left") << QPointF(-12, 0) << 180.0 << 6.0 * pi;
     QTest::newRow("turning wide") << QPointF(30, 0) << 180.0 << 6.0 * pi + 18.0;
-    // Three circles of which neighbours touch: the middle ones are 4 and 12 m apart.
+    // Three circles that touch in a row: the middle ones are 4 and 12 m apart.
     QTest::newRow("turning narrow") << QPointF(4, 0) << 180.0 << 6.0 * (pi + 4.0 * std::acos((6.0 + 2.0) / 12.0));
     // Centres 8 m apart across and 30 m along, the straight line between the circles' inner sides.
     QTest::newRow("right, on and left") << QPointF(
         20, 30) << 0.0 << std::sqrt(820.0) + 12.0 * (std::atan(8.0 / 30.0) + std::atan(12.0 / std::sqrt(820.0)));
     QTest::newRow("left, on and right") << QPointF(
         -20, 30) << 0.0 << std::sqrt(820.0) + 12.0 * (std::atan(8.0 / 30.0) + std::atan(12.0 / std::sqrt(820.0)));
-    // Once around to the left; every other word turns more.
+    // Once around to the left; every other combination of arcs turns more.
     QTest::newRow("aside") << QPointF(12, 12) << 0.0 << 6.0 * pi;
 }
 
@@ -60,7 +60,7 @@ void TestDubinsPath::everyPathArrivesAndKeepsTheRadius()
         QVERIFY(std::hypot(turned.x(), turned.y()) < 1e-8);
         for (const PathPiece &piece : path.pieces())
             QVERIFY(std::fabs(piece.curvature) <= 1.0 / 7.5);
-        // The same way in a mirror, and back again.
+        // The same way mirrored, and in reverse.
         const auto mirrored = [](const Pose &pose) { return Pose{{-pose.place.x(), pose.place.y()}, -pose.heading}; };
         const auto facingBack = [](const Pose &pose) { return Pose{pose.place, pose.heading + std::acos(-1.0)}; };
         const double inMirror = dubinsPath(mirrored(from), mirrored(to), 7.5).length();

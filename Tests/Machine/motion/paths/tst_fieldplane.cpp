@@ -5,7 +5,7 @@
 #include <memory>
 #include <ogr_spatialref.h>
 
-/// Degrees and metres of a field's plane.
+/// Degrees, and metres in a field's plane.
 class TestFieldPlane : public TestBase {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private Q_SLOTS:
     void whatItDoesNotReachHasNoPoint();
 };
 
-/// On the central meridian of a UTM zone the plane is that zone's, but for scale and origin.
+/// On the central meridian of a UTM zone the plane is that zone's, except for scale and origin.
 void TestFieldPlane::aKnownPointIsWhereUtmHasIt()
 {
     OGRSpatialReference earth;

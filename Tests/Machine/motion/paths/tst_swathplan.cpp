@@ -71,7 +71,7 @@ void TestSwathPlan::swathsCoverTheFieldOnce()
         QVERIFY(std::fabs(piece.curvature) <= 1.0 / options.minRadius);
     }
     QCOMPARE(swaths, 10);
-    // From one swath to the next with neither gap nor bend.
+    // One swath joins the next without a gap or a bend.
     for (double at = 0.0; at < path.value.length(); at += 0.25) {
         const Pose here = path.value.at(at).pose;
         const QPointF step = path.value.at(at + 0.25).pose.place - here.place;
@@ -82,7 +82,7 @@ void TestSwathPlan::swathsCoverTheFieldOnce()
 
 void TestSwathPlan::aSwathReachesAsFarAsTheFieldDoesAnywhereAcrossIt()
 {
-    // A right-angled triangle: the strip from 0 to 10 m holds its whole height, the one after that 90 % of it.
+    // A right-angled triangle: the strip from 0 to 10 m contains its whole height, the next one 90 % of it.
     const FieldArea triangle({QPolygonF({{0, 0}, {100, 0}, {0, 200}})});
     const auto strips = triangle.strips(0.0, 0.0, 10.0, 11);
     QCOMPARE(strips.at(0)->length(), 200.0);
@@ -101,7 +101,7 @@ void TestSwathPlan::headlandsComeFirstAndShortenTheSwaths()
     QVERIFY2(path.isOk(), qPrintable(path.error));
     const double cut = 4 * (2 * 5.0 - std::acos(-1.0) * 5.0 / 2.0);
     const double rounds = 2 * (90.0 + 290.0) - cut + 2 * (70.0 + 270.0) - cut;
-    // The seam between cells and the outline's simplification leave centimetres.
+    // The seam between cells and the simplification of the outline cost some centimetres.
     QVERIFY2(std::fabs(worked(path.value) - rounds - 6 * 260.0) < 3.0, qPrintable(QString::number(worked(path.value))));
     QVERIFY(path.value.at(0.0).isWorked);
 }

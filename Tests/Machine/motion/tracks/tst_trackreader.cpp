@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The machine's time zone while it lives, as POSIX writes one.
+/// The machine's time zone while this object lives, written as POSIX does.
 class TimeZone {
 public:
     explicit TimeZone(const char *zone)
