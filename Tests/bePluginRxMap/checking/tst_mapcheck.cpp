@@ -22,7 +22,7 @@ PlaneRing box(double x, double y, double width, double height)
     return {{x, y}, {x + width, y}, {x + width, y + height}, {x, y + height}};
 }
 
-/// One polygon a record, in this order.
+/// One polygon for each record, in this order.
 Polygons mapOf(const std::vector<PlaneRing> &outers)
 {
     Polygons polygons;
@@ -31,7 +31,7 @@ Polygons mapOf(const std::vector<PlaneRing> &outers)
     return polygons;
 }
 
-/// Without rates given every record has the same one.
+/// When no rates are given, every record has the same one.
 QList<MapFinding> check(const Polygons &polygons, std::vector<float> rates = {}, double machineWidth = 12.0)
 {
     if (rates.empty())
@@ -57,7 +57,7 @@ QList<MapFinding> ofKind(const QList<MapFinding> &findings, Kind kind)
     return result;
 }
 
-/// Four strips around a square of that size, 30 m wide each.
+/// Four strips, 30 m wide each, around a rectangle of that size.
 Polygons around(double width, double height)
 {
     return mapOf({box(0, 0, width + 60, 30), box(0, 30 + height, width + 60, 30), box(0, 30, 30, height),
@@ -75,7 +75,7 @@ Polygons fields(const std::vector<double> &sizes)
     return mapOf(rings);
 }
 
-/// As many fields of 30 m as there are rates, apart from each other.
+/// One field of 30 m for each rate, apart from each other.
 Polygons plainFields(size_t count)
 {
     return fields(std::vector<double>(count, 30.0));
@@ -83,7 +83,7 @@ Polygons plainFields(size_t count)
 
 } // namespace
 
-/// What a check finds in maps of a few polygons, and beside each map one that only just has nothing.
+/// What a check finds in maps of a few polygons, and next to each such map one in which it only just finds nothing.
 class MapCheckTest : public TestBase {
     Q_OBJECT
 
@@ -142,7 +142,7 @@ void MapCheckTest::finds_data()
         3.75);
     row("slit between cells", mapOf({square, box(0, 50, 50, 50), box(50.125, 0, 50, 50), box(50.125, 50, 50, 50)}),
         Kind::Sliver, {0, 1, 2, 3}, 12.5);
-    // As far as it is narrow: 0.375 m wide in the middle, 4.55 m long.
+    // Only the part that is narrow: 0.375 m wide in the middle, 4.55 m long.
     row("slit that widens", mapOf({square, {{50.25, 0}, {100, 0}, {100, 50}, {53, 50}}}), Kind::Sliver, {0, 1}, 1.7);
     row("slit that widens to both sides of a corner",
         mapOf({square, {{54, 0}, {100, 0}, {100, 50}, {54, 50}, {50.1, 25}}}), Kind::Sliver, {0, 1}, 1.54);
@@ -189,7 +189,7 @@ void MapCheckTest::finds()
 void MapCheckTest::findsRates_data()
 {
     QTest::addColumn<QList<float>>("rates");
-    QTest::addColumn<QList<int>>("records"); // Those with rates that are far from the rest.
+    QTest::addColumn<QList<int>>("records"); // Those whose rates are far from the others.
     const QList<int> nothing;
     QTest::newRow("ten times too much") << QList<float>({100, 120, 1300, 140, 80}) << QList<int>({2});
     QTest::newRow("ten times too little") << QList<float>({100, 110, 120, 130, 12}) << QList<int>({4});
@@ -213,7 +213,7 @@ void MapCheckTest::findsRates()
 
 void MapCheckTest::takesCellsOfOneRateForOneArea()
 {
-    // Two cells, and a third and fourth that share only parts of their edges with them.
+    // Two cells, and a third and a fourth one that share only parts of their edges with them.
     const Polygons cells = mapOf({box(0, 0, 10, 10), box(10, 0, 10, 10), box(-5, 10, 15, 10), box(10, 10, 15, 10)});
     QCOMPARE(ofKind(check(cells, {100, 100, 100, 100}), Kind::Narrow).size(), 0);
     const QList<MapFinding> halves = ofKind(check(cells, {100, 100, 200, 200}), Kind::Narrow);
@@ -234,7 +234,7 @@ void MapCheckTest::leavesPolygonsOfDifferentProductsAlone()
 
 void MapCheckTest::takesAJoinedHoleForAHole()
 {
-    // The hole from (30, 30) to (60, 60) is reached over the line from (0, 0).
+    // A line from (0, 0) joins the hole from (30, 30) to (60, 60) to the outer ring.
     const Polygons polygons =
         mapOf({{{0, 0}, {90, 0}, {90, 90}, {0, 90}, {0, 0}, {30, 30}, {30, 60}, {60, 60}, {60, 30}, {30, 30}}});
     const PolygonChain chain(polygons, {100.0F}, 1);
@@ -257,7 +257,7 @@ void MapCheckTest::findsTheOverlapsThatGeosFinds()
 {
     QFETCH(unsigned, seed);
     std::mt19937 random(seed);
-    // On a lattice, so that many share edges and corners.
+    // On a lattice, so that many polygons share edges and corners.
     const auto number = [&random](unsigned count) { return 5.0 * static_cast<double>(random() % count); };
     std::vector<PlaneRing> rings;
     for (int i = 0; i < 25; ++i) {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A square with its south-west corner there, metres.
+/// A square with its south-west corner at that place, metres.
 inline PlaneRing square(double x, double y, double side)
 {
     return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};

@@ -14,7 +14,7 @@ PlaneRing turned(PlaneRing ring)
     return ring;
 }
 
-/// Whether two rings of different vertices are the same except for their start and direction.
+/// Whether two rings, each of distinct vertices, are the same except for their start and direction.
 bool isSameOutline(const PlaneRing &a, PlaneRing b)
 {
     for (int direction = 0; direction < 2; ++direction) {
@@ -28,7 +28,7 @@ bool isSameOutline(const PlaneRing &a, PlaneRing b)
     return false;
 }
 
-/// What is left when each polygon without holes is compared with every later one.
+/// The polygons that remain when each one without holes is compared with every later one.
 QList<int> recordsLeftByPairs(const std::vector<PlanePolygon> &polygons, bool (*hides)(int, int))
 {
     QList<int> left;

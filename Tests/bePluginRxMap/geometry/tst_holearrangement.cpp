@@ -59,7 +59,7 @@ void HoleArrangementTest::saysWhichPolygonEachHoleIsCutFrom()
 
 void HoleArrangementTest::joinsTheHoleInWhichAnIslandLies()
 {
-    // The first would take both holes of the second; without its own hole as part of its ring it takes neither.
+    // The first polygon would take both holes of the second; with its own hole as part of its ring it takes neither.
     std::vector<PlanePolygon> polygons = {
         polygonOf(0, square(0, 0, 200), {square(40, 40, 120), square(5, 5, 20)}),
         polygonOf(1, square(40, 40, 120), {square(80, 80, 20), square(110, 110, 20)})};
@@ -93,7 +93,7 @@ void HoleArrangementTest::joinsTheHolesOfNestedIslands()
 
 void HoleArrangementTest::keepsTheOrderOfOverlappingPolygons()
 {
-    // The second lies on the first and would lose its hole to it; it is to stay the later one.
+    // The second polygon lies on the first and would lose its hole to it; it must stay the later one.
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200)),
                                           polygonOf(1, square(50, 50, 100), {square(80, 80, 40)})};
     QVERIFY(HoleArrangement::arrange(polygons).misplaced.empty());
@@ -113,7 +113,7 @@ void HoleArrangementTest::joinsTheOneHoleThatLiesOnAnother()
 
 void HoleArrangementTest::keepsTheOrderAroundAnIsland()
 {
-    // The second lies on the first, in whose hole the third one is an island with a hole of its own.
+    // The second polygon lies on the first, in whose hole the third one is an island with a hole of its own.
     std::vector<PlanePolygon> polygons = {polygonOf(0, square(0, 0, 200), {square(40, 40, 100)}),
                                           polygonOf(1, square(150, 150, 100)),
                                           polygonOf(2, square(40, 40, 100), {square(60, 60, 20)})};

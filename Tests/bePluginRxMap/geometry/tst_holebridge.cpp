@@ -89,7 +89,7 @@ void HoleBridgeTest::joinsManyHolesOneAfterTheOther()
 
 void HoleBridgeTest::goesAroundOtherHoles()
 {
-    // The hole in the middle lies behind four others; the straight ways to the corners are closed.
+    // The hole in the middle lies behind four others, which block the straight ways to the corners.
     PlanePolygon polygon;
     polygon.outer = square(0, 0, 100);
     polygon.holes = {square(45, 45, 10),
@@ -110,7 +110,7 @@ void HoleBridgeTest::goesAroundOtherHoles()
 
 void HoleBridgeTest::changesNothingWhereThereIsNoWay()
 {
-    // A hole within a hole: every way to the outer ring crosses the one around it.
+    // A hole within a hole: every way to the outer ring crosses the hole around it.
     PlanePolygon polygon;
     polygon.outer = square(0, 0, 100);
     polygon.holes = {square(20, 20, 60), square(40, 40, 20)};

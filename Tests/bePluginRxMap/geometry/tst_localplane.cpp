@@ -92,7 +92,7 @@ void LocalPlaneTest::projectsTheWorldAsItsCoordinateSystemsDo_data()
         "GEOGCS[\"GCS_WGS_1984\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\",6378137.0,298.257223563]],"
         "PRIMEM[\"Greenwich\",0.0],UNIT[\"Degree\",0.0174532925199433]]");
     QTest::newRow("another datum") << QByteArray("EPSG:4314");
-    // What a definition says of the way to WGS 84 counts where its own datum is another.
+    // What a definition says about the shift to WGS 84 counts if its own datum is not WGS 84.
     QTest::newRow("shifted, of WGS 84 itself") << QByteArray("+proj=longlat +datum=WGS84 +towgs84=100,200,300");
     QTest::newRow("shifted") << QByteArray("+proj=longlat +ellps=WGS84 +towgs84=100,200,300");
     QTest::newRow("another meridian") << QByteArray("+proj=longlat +datum=WGS84 +pm=paris");
@@ -120,7 +120,7 @@ void LocalPlaneTest::projectsTheWorldAsItsCoordinateSystemsDo()
 
 void LocalPlaneTest::takesLatitudeFirstSystemsAsFilesStoreThem()
 {
-    // The system's definition says latitude first; files hold the longitude as x nevertheless.
+    // The system's definition puts latitude first, but files hold the longitude as x.
     std::vector<double> xs, ys;
     QString error;
     QVERIFY(LocalPlane(10.0, 45.0).project(mapAt({10.001}, {45.0}, 4258), xs, ys, error));
@@ -183,7 +183,7 @@ void LocalPlaneTest::projectsNoSystemThatIsNowhereOnTheEarth()
 
 void LocalPlaneTest::projectsMorePlacesThanOneCallTakes()
 {
-    // Over a region, which is too wide to be projected by an approximation.
+    // Over a region that is too wide for projecting it by an approximation.
     constexpr size_t count = 70000;
     std::vector<double> degreesEast, degreesNorth;
     for (size_t i = 0; i < count; ++i) {

@@ -63,7 +63,7 @@ void RendererHoleRuleTest::takesNoRingThatAVertexLiesOutsideOf()
     const RendererHoleRule takers(outersOf(rings));
     const PlaneRing across = {{10, 10}, {90, 10}, {50, 50}};
     QCOMPARE(takers.taker(across.data(), across.size(), 10.0), int(RendererHoleRule::nowhere));
-    // On the left and lower edges is inside, on the right and upper ones outside.
+    // A point on the left or lower edge is inside, one on the right or upper edge outside.
     const PlaneRing onLeft = {{0, 10}, {10, 10}, {10, 20}};
     QCOMPARE(takers.taker(onLeft.data(), onLeft.size(), 10.0), 0);
     const PlaneRing onRight = {{100, 10}, {90, 10}, {90, 20}};
@@ -72,7 +72,7 @@ void RendererHoleRuleTest::takesNoRingThatAVertexLiesOutsideOf()
 
 void RendererHoleRuleTest::looksAtTheVerticesAsSingleNumbers()
 {
-    // 16777217 has no single-precision number; it becomes 16777216, which is outside.
+    // Single precision has no 16777217; it becomes 16777216, which is outside.
     const std::vector<PlaneRing> rings = {square(16777216.5, 0, 100)};
     const RendererHoleRule takers(outersOf(rings));
     const PlaneRing hole = {{16777217, 10}, {16777220, 10}, {16777220, 20}};
@@ -83,7 +83,7 @@ void RendererHoleRuleTest::looksAtTheVerticesAsSingleNumbers()
 
 void RendererHoleRuleTest::takesAHoleThatSingleNumbersMoveInside()
 {
-    // On the right edge is outside; the single number for 100.1 is a little less.
+    // A point on the right edge is outside; in single precision 100.1 becomes a little less.
     const std::vector<PlaneRing> rings = {square(0.1, 0.1, 100)};
     const RendererHoleRule takers(outersOf(rings));
     const PlaneRing hole = {{90, 40}, {100.1, 40}, {100.1, 50}, {90, 50}};

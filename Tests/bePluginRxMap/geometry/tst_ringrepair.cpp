@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A map that lies in the plane already.
+/// A map already given in the plane.
 RawPrescription mapOf(const std::vector<std::pair<PlaneRing, bool>> &rings)
 {
     RawPrescription map;
@@ -102,7 +102,7 @@ void RingRepairTest::takesTheNearestPlaceOfTheGrid()
     std::mt19937 random(12);
     std::uniform_real_distribution<double> place(-16000.0, 16000.0);
     for (int i = 0; i < 2000; ++i) {
-        // Every other corner lies just between two places of the grid.
+        // Every other corner lies exactly between two places of the grid.
         const double x = i % 2 == 0 ? place(random) : (std::floor(place(random)) + 0.5) * grid;
         const double y = i % 2 == 0 ? place(random) : (std::floor(place(random)) + 0.5) * grid;
         const RawPrescription map = mapOf({{{{x, y}, {x + 5.0, y}, {x, y + 5.0}}, false}});
@@ -156,7 +156,7 @@ void RingRepairTest::splitsARingThatTouchesItself()
 
 void RingRepairTest::joinsAreasThatEdgesPartThatARingRunsAlongTwice()
 {
-    // Out in a zigzag, and back in another one, by the same four edges across: five squares in a row, not parted.
+    // Out in a zigzag and back in another, over the same four cross edges: five squares in a row that stay together.
     const PlaneRing zigzag = {{0, 0},   {10, 0},  {10, 10}, {20, 10}, {20, 0},  {30, 0}, {30, 10},
                               {40, 10}, {40, 0},  {50, 0},  {50, 10}, {40, 10}, {40, 0}, {30, 0},
                               {30, 10}, {20, 10}, {20, 0},  {10, 0},  {10, 10}, {0, 10}};
@@ -169,13 +169,13 @@ void RingRepairTest::joinsAreasThatEdgesPartThatARingRunsAlongTwice()
 
 void RingRepairTest::countsAPolygonThatIsBrokenInTheFileOnly()
 {
-    // The notch is narrower than the grid, so it closes; the file itself is all right.
+    // The notch is narrower than the grid, so it closes; the file itself is in order.
     const PlaneRing notched = {{0, 0}, {10, 0}, {10, 10}, {5.0001, 10}, {5.0001, 2}, {5, 2}, {5, 10}, {0, 10}};
     const RingRepair::Outcome outcome = repair(mapOf({{notched, false}}));
     QCOMPARE(outcome.repaired.size(), size_t(0));
     QCOMPARE(outcome.polygons.size(), size_t(1));
     QVERIFY(isSimpleRing(outcome.polygons[0].outer));
-    // This hole leaves its ring in the file.
+    // In the file this hole reaches out of its ring.
     QCOMPARE(repair(mapOf({{square(0, 0, 100), false}, {square(90, 40, 20), true}})).repaired.size(), size_t(1));
 }
 

@@ -14,7 +14,7 @@ Q_DECLARE_METATYPE(PlaneRing)
 
 namespace {
 
-/// A ring of vertices anywhere in a square of `places` grid places of `step` metres, no two neighbours at one place.
+/// A ring with vertices anywhere in a square of `places` grid places of `step` metres; neighbours never share a place.
 PlaneRing scribble(int count, int places, double step, unsigned seed)
 {
     std::mt19937 random(seed);
@@ -52,7 +52,7 @@ RingRepair::Outcome repair(const PlaneRing &ring)
     return outcome;
 }
 
-/// GEOS without a class around it, to compare with.
+/// GEOS without a wrapper class, to compare with.
 class PlainGeos {
 public:
     PlainGeos()
@@ -244,7 +244,7 @@ void RingRepairTanglesTest::endsWhenItIsCancelled()
     timer.start();
     worker.join();
     QVERIFY(wasRunning);
-    // Uncancelled it takes more than twice as long in the quickest build.
+    // Without being cancelled it takes more than twice as long, even in the quickest build.
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 

@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// A row of squares, each 2 m wide and 1 m further east than the last.
+/// Extents of squares in a row, each 2 m wide and 1 m further east than the one before.
 std::vector<RingExtent> rowOfSquares()
 {
     std::vector<RingExtent> row;
@@ -117,7 +117,7 @@ void TestRingTree::findsWhatLookingAtEachExtentFinds()
         for (int column = 0; column < 20; ++column) {
             const double x = from + column * size;
             const double y = from + row * size;
-            // Now and then one that is empty, one that is large, or the same twice.
+            // Some are empty, some are large, and some occur twice.
             const double width = random() % 9 == 0 ? 5.0 * size : size;
             extents.push_back(random() % 11 == 0 ? RingExtent()
                                                  : RingExtent{x, y, from + column * size + width, y + size});
@@ -134,7 +134,7 @@ void TestRingTree::findsWhatLookingAtEachExtentFinds()
         const RingTree::Places held = tree.holding(asked.maxX, asked.minY);
         const RingTree::Places covering = tree.covering(asked);
         const RingTree::Places meeting = tree.meeting(asked);
-        // What single precision cannot tell apart may be found, nothing else.
+        // Only what single precision cannot tell apart may be found in addition.
         const double off = 1e-6 * (std::fabs(from) + 25.0 * size) + 1e-37;
         for (unsigned i = 0; i < extents.size(); ++i) {
             const RingExtent &ring = extents[i];

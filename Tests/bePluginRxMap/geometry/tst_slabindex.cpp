@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The rule written down once more, edge after edge.
+/// The rule written down a second time, edge by edge.
 bool isInside(const PlaneRing &ring, double x, double y)
 {
     bool inside = false;
@@ -19,7 +19,7 @@ bool isInside(const PlaneRing &ring, double x, double y)
     return inside;
 }
 
-/// A star of `count` vertices, so a simple ring.
+/// A star with `count` vertices, which is a simple ring.
 PlaneRing star(size_t count, std::mt19937 &random)
 {
     std::uniform_real_distribution<double> radius(20.0, 100.0);

@@ -2,5 +2,5 @@
 
 #include "loadedmap.h"
 
-/// Whether the chain is as its counts say, and its rings can be drawn and asked.
+/// Whether the chain matches its counts, and its rings can be drawn and queried.
 bool holdsTogether(const LoadedMap &map);

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-/// Base of the tests of the loader: loads, and layers that a test writes itself.
+/// Base of the tests of the loader: loading, and layers that a test writes itself.
 class LoaderTest : public TestBase {
     Q_OBJECT
 
@@ -19,11 +19,11 @@ protected:
     static std::unique_ptr<LoadedMap> load(const QString &path, const QStringList &columns = {});
     /// A request for the terminal's usual products: seeds, fertiliser by weight, spray by volume.
     static LoadRequest usualRequest(const QString &path);
-    /// Not a number where there is none.
+    /// NaN when there is no rate.
     static double rateAt(const LoadedMap &map, double x, double y, int mapping = 0);
     /// Outer rings less holes, square metres.
     static double areaOf(const LoadedMap &map);
-    /// Writes the layer into the test's folder, in place of the one before; its path, empty when GDAL cannot.
+    /// Writes the layer into the test's folder, replacing the one before; returns its path, empty when GDAL fails.
     QString write(const LayerSketch &sketch, const char *name);
 
     QTemporaryDir folder;

@@ -1,5 +1,5 @@
-// Every published chain can be drawn as it stands: a tessellator without a way to make new vertices, fed as the
-// renderer feeds it, fills exactly what the outer rings cover less their holes.
+// Every published chain can be drawn as it is: a tessellator that has no way to make new vertices, fed as the renderer
+// feeds it, fills exactly what the outer rings cover less their holes.
 #include "fixture.h"
 #include "prescriptionloader.h"
 #include "wholemaptest.h"

@@ -297,7 +297,7 @@ void PrescriptionLoaderTest::joinsAPlaneThatIsNear()
 
 void PrescriptionLoaderTest::endsWhenItIsCancelled()
 {
-    // At every step of the load.
+    // Cancelled at every step of the load.
     for (const double at : {0.0, 0.5, 0.7, 0.85}) {
         LayerSketch sketch;
         sketch.fields = {{"rate", 1.0}};

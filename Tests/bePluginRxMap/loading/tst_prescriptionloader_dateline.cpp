@@ -11,7 +11,7 @@ using Sketch = TaskDataSketch;
 constexpr int weight = 6;
 constexpr double latitude = -16.5;
 
-/// A square of a thousandth of a degree.
+/// A square with sides of a thousandth of a degree.
 QString cell(double west)
 {
     return squareText(west, latitude, 0.001);
@@ -43,7 +43,8 @@ private Q_SLOTS:
 private:
     /// The rate at that place.
     double rateAtPlace(const LoadedMap &map, double longitude) const;
-    /// Whether the map is two squares wide, on the date line, with rates 1 and 2 to its west and east.
+    /// Whether the map consists of two squares, side by side at the date line, with rate 1 to its west and 2 to its
+    /// east.
     void compareWithTwoCells(const LoadedMap &map);
     QString writeMap(const char *name, const char *driver, int epsg, const QList<LayerRow> &rows);
 };

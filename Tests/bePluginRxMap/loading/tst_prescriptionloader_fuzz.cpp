@@ -1,4 +1,4 @@
-// Damaged files: whatever the bytes, a load ends with a map that holds together or with one line that says why not.
+// Damaged files: whatever the bytes, a load ends either with a consistent map or with one line that says why it failed.
 #include "chaincheck.h"
 #include "files.h"
 #include "fixture.h"
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void survivesDamagedTaskData();
 
 private:
-    /// Damages `part` of the prescription in many ways, and loads it each time. Undamaged, its chain has so many
+    /// Damages `part` of the prescription in many ways, and loads it each time. Undamaged, its chain has `records`
     /// records.
     void loadDamaged(const QString &target, const QString &part, unsigned records, int rounds);
 };

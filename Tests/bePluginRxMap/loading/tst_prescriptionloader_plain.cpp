@@ -1,4 +1,4 @@
-// Each step of a load that takes a shorter way, compared on whole maps with the plain way.
+// Each step of a load that takes a shortcut, compared with the plain way on whole maps.
 
 #include "columnpolicy.h"
 #include "duplicatepolygons.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A map as far as the vertices in the plane.
+/// A map, loaded up to the point where its vertices are in the plane.
 struct PlacedMap {
     RawPrescription source;
     LocalPlane plane;
@@ -53,7 +53,7 @@ RingRepair::Outcome repaired(const PlacedMap &map)
     return outcome;
 }
 
-/// The ring on the grid, by the library's rounding.
+/// The ring on the grid, rounded by the library.
 PlaneRing plainRing(const PlacedMap &map, const SourceRing &ring, double grid)
 {
     PlaneRing result;
@@ -141,7 +141,7 @@ void PrescriptionLoaderPlainTest::readsWhatEveryFeatureHolds()
             const std::unique_ptr<OGRGeometry> parts(OGRGeometryFactory::forceToMultiPolygon(geometry->clone()));
             for (const OGRPolygon *polygon : *parts->toMultiPolygon()) {
                 for (const OGRLinearRing *ring : *polygon)
-                    vertices += static_cast<size_t>(ring->getNumPoints()) - 1; // Without the closing one.
+                    vertices += static_cast<size_t>(ring->getNumPoints()) - 1; // Without the closing vertex.
             }
         }
         ++record;
@@ -158,7 +158,7 @@ void PrescriptionLoaderPlainTest::placesVerticesWhereTheProjectionDoes()
     QString error;
     QVERIFY2(place(path, map, error), qPrintable(error));
     const GdalSession session;
-    // So few vertices are projected exactly; of a big map some such parts are.
+    // With this few vertices they are projected exactly; of a big map only some such parts are compared.
     constexpr size_t few = 400;
     for (size_t first = 0; first < map.xs.size(); first += std::max(few, map.xs.size() / 20)) {
         const size_t count = std::min(few, map.xs.size() - first);
@@ -212,11 +212,11 @@ void PrescriptionLoaderPlainTest::dropsThePolygonsThatComparingEachPairFinds()
     QString error;
     QVERIFY2(place(path, map, error), qPrintable(error));
     std::vector<PlanePolygon> polygons = repaired(map).polygons;
-    // Every pair of a big map would take minutes.
+    // Comparing every pair of a big map would take minutes.
     constexpr size_t most = 2000;
     if (polygons.size() > most)
         polygons.resize(most);
-    // Every third one again, from another start and in the other direction.
+    // Every third ring again, with another start and in the other direction.
     const size_t once = polygons.size();
     for (size_t i = 0; i < once; i += 3) {
         PlanePolygon again = polygons[i];

@@ -48,7 +48,7 @@ Census censusOf(const QString &path, const QStringList &columns)
 
 } // namespace
 
-/// Real prescriptions, counted against what GDAL alone finds in them.
+/// Real prescriptions, compared with what GDAL alone finds in them.
 class PrescriptionLoaderRealMapsTest : public LoaderTest {
     Q_OBJECT
 

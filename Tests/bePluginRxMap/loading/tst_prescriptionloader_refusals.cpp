@@ -1,6 +1,6 @@
 #include "loadertest.h"
 
-/// What cannot be loaded, and the reason that is given.
+/// Files that cannot be loaded, and the reason given.
 class PrescriptionLoaderRefusalsTest : public LoaderTest {
     Q_OBJECT
 
@@ -85,7 +85,7 @@ void PrescriptionLoaderRefusalsTest::refusesATruncatedShapefile()
     QFile shapes(path);
     QVERIFY(shapes.resize(shapes.size() - 50));
     QVERIFY2(load(path)->report.error.contains(QStringLiteral("is cut short")), qPrintable(load(path)->report.error));
-    // The same with a header that does not give it away.
+    // The same with a header that does not reveal it.
     QVERIFY(shapes.open(QIODevice::ReadWrite));
     const qint64 words = shapes.size() / 2;
     shapes.seek(24);

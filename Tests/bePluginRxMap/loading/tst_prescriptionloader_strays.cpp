@@ -11,7 +11,7 @@ private Q_SLOTS:
     void keepsMapsOfSeveralPlaces();
 
 private:
-    /// Cells in a row, then these shapes.
+    /// Cells in a row, followed by these shapes.
     std::unique_ptr<LoadedMap> loadWith(int epsg, int cells, const QStringList &shapes);
 };
 

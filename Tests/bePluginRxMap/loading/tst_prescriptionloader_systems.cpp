@@ -17,7 +17,7 @@ void PrescriptionLoaderSystemsTest::placesAShapefileByItsDefinition_data()
     QTest::addColumn<int>("epsg");
     QTest::addColumn<double>("longitude");
     QTest::addColumn<double>("latitude");
-    // A datum of its own lies a hundred metres beside WGS 84, and stands in the file as a name only.
+    // A datum other than WGS 84 may lie a hundred metres beside it, and the file gives only its name.
     QTest::newRow("DHDN, Gauss-Kruger zone 3") << 31467 << 9.2 << 48.8;
     QTest::newRow("OSGB36, British grid") << 27700 << -1.5 << 52.5;
     QTest::newRow("NAD27, UTM zone 15 north") << 26715 << -93.0 << 42.0;

@@ -17,7 +17,7 @@ constexpr int litres = 1;
 constexpr int weight = 6;
 constexpr int points = 1000;
 
-/// Zones as a plain reader sees them: polygons in degrees and their rates.
+/// Zones as a simple reader sees them: polygons in degrees, and their rates.
 struct PlainZone {
     std::unique_ptr<OGRPolygon> polygon;
     double rate = 0.0;
@@ -49,7 +49,7 @@ std::vector<PlainZone> plainZones(const QString &path)
 
 } // namespace
 
-/// Task data from the file to the rates at field points.
+/// Task data, from the file to the rates at field points.
 class PrescriptionLoaderTaskDataTest : public LoaderTest {
     Q_OBJECT
 
@@ -87,14 +87,14 @@ void PrescriptionLoaderTaskDataTest::feedsProductsByTheUnitsOfTheirNumbers()
 
 void PrescriptionLoaderTaskDataTest::feedsNothingThatIsNoRatePerArea()
 {
-    // Per time, and a working width.
+    // A rate per time, and a working width.
     const QByteArray values = Sketch::value(36, 5) + Sketch::value(66, 7) + Sketch::value(weight, 100);
     const QByteArray zone = Sketch::zone(1, Sketch::polygon({{11.0, 48.0, 0.01}}) + values);
     QVERIFY(Sketch{Sketch::task("TSK1", zone)}.write(folder.path()));
     const auto map = load(folder.path());
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
     QCOMPARE(map->report.columns, QStringList("Setpoint Mass Per Area Application Rate"));
-    // Who names one gets it, and is told.
+    // A user who names such a column gets it, with a warning.
     const auto named = load(folder.path(), {"Setpoint Working Width"});
     QVERIFY2(named->report.isOk(), qPrintable(named->report.error));
     QVERIFY2(
@@ -132,7 +132,7 @@ void PrescriptionLoaderTaskDataTest::takesDefaultRatesFromTheTask_data()
 {
     QTest::addColumn<QByteArray>("attributes");
     QTest::addColumn<double>("rate");
-    QTest::newRow("none") << QByteArray() << 2.0; // The product's own.
+    QTest::newRow("none") << QByteArray() << 2.0; // The product's own default rate.
     QTest::newRow("without a zone") << QByteArray("H=\"2\" I=\"3\"") << 148.15;
     QTest::newRow("out of the field") << QByteArray("H=\"2\" J=\"3\"") << 0.0;
 }

@@ -15,7 +15,7 @@ constexpr int points = 1000;
 /// How the zones of a grid lie.
 enum class Pattern { Random, EvenRows, EvenColumns };
 
-/// Steps of a few rates, of which one is none, for each zone and variable; the first zone has none at all.
+/// Rates for each zone and variable, given in steps: a few different ones, or none; the first zone has none at all.
 std::vector<std::vector<qint32>> zonesOf(int variables)
 {
     std::mt19937 random(unsigned(variables) + 5);
@@ -28,7 +28,7 @@ std::vector<std::vector<qint32>> zonesOf(int variables)
     return zones;
 }
 
-/// The zone of each cell. Every other row, or column, is of one zone where they are to be even.
+/// The zone of each cell. With even rows or columns, every other one consists of a single zone.
 std::vector<int> cellsOf(int columns, int rows, int zones, Pattern pattern)
 {
     std::mt19937 random(unsigned(columns * rows));
@@ -42,7 +42,7 @@ std::vector<int> cellsOf(int columns, int rows, int zones, Pattern pattern)
     return cells;
 }
 
-/// A grid of those cells, for weights of products A, B and C.
+/// A grid of those cells, with weights of products A, B and C.
 Sketch sketchOf(int type, int columns, int rows, double cellSize, const std::vector<std::vector<qint32>> &zones,
                 const std::vector<int> &cells)
 {
@@ -69,7 +69,7 @@ Sketch sketchOf(int type, int columns, int rows, double cellSize, const std::vec
 
 Q_DECLARE_METATYPE(Pattern)
 
-/// Grids of task data from the file to the rates at field points.
+/// Grids of task data, from the file to the rates at field points.
 class PrescriptionLoaderTaskGridTest : public LoaderTest {
     Q_OBJECT
 
@@ -96,8 +96,8 @@ void PrescriptionLoaderTaskGridTest::answersInEachCellOfAGrid_data()
         QTest::addRow("type %d, large cells, %d", type, i)
             << type << 9 + i << 4 + i << 3 - i % 3 << 1e-3 << 11.0 << Pattern::Random;
     }
-    // Far enough that a whole row as one rectangle would leave its cells by a third of a metre, and a whole column, on
-    // a plane that lies to the east, by five millimetres.
+    // Large enough that a whole row, taken as one rectangle, would leave its cells by a third of a metre, and a whole
+    // column, on a plane that lies to the east, by five millimetres.
     QTest::newRow("wide") << 2 << 400 << 3 << 1 << 1.3e-4 << 11.0 << Pattern::EvenRows;
     QTest::newRow("tall, on the plane of another map") << 1 << 3 << 1000 << 1 << 9e-5 << 11.25 << Pattern::EvenColumns;
 }
@@ -153,7 +153,7 @@ void PrescriptionLoaderTaskGridTest::answersInEachCellOfAGrid()
 
 void PrescriptionLoaderTaskGridTest::takesWholeNumbersOfJoinedCellsForRates()
 {
-    // Joined they read as three records that are numbered one by one.
+    // Joined, they look like three records that are numbered one by one.
     const QByteArray zone = Sketch::zone(7, Sketch::value(0xE000, 0));
     QVERIFY((Sketch{Sketch::task("TSK1", Sketch::grid(2, 3, 2, "J=\"7\"") + zone),
                     4,
@@ -185,7 +185,7 @@ void PrescriptionLoaderTaskGridTest::answersOnAGridAsItsCellsDo()
         const double byGrid = rateAt(*grid, x, y);
         const double byCells = rateAt(*cells, x, y);
         prescribed += byCells > 0.0 ? 1 : 0;
-        // The cells leave out what the grid gives a rate of zero.
+        // The cells leave out the places for which the grid gives a rate of zero.
         different += byGrid == (std::isnan(byCells) ? 0.0 : byCells) ? 0 : 1;
     }
     QVERIFY(prescribed > points / 4);

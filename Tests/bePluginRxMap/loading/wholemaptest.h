@@ -11,8 +11,8 @@
 /// Base of the tests that take whole maps as their rows.
 class WholeMapTest : public TestBase {
 protected:
-    /// Adds rows of "path" and "columns": the fixtures of those names and the sample; with the real data at hand also
-    /// its maps of those names and its parcels.
+    /// Adds rows of "path" and "columns": the fixtures of those names and the sample; if the real data are at hand,
+    /// also its maps of those names and its parcels.
     static void addMapRows(std::initializer_list<const char *> fixtures, std::initializer_list<const char *> realMaps)
     {
         QTest::addColumn<QString>("path");

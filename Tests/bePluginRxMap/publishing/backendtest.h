@@ -7,7 +7,7 @@
 #include "Framework/databroker.h"
 #include "bePluginRxMap/dbgrouprxmap.h"
 
-/// Base of the tests of the back-end: for each test function a broker and a back-end that has loaded nothing.
+/// Base of the tests of the back-end: each test function gets a broker and a back-end that has loaded nothing.
 class BackendTest : public TestBase {
     Q_OBJECT
 

@@ -11,7 +11,7 @@
 
 using OrvikTypes::RX_POLYGON;
 
-/// What the back-end publishes of a map, and what it answers.
+/// What the back-end publishes of a map, and how it answers queries.
 class PrescriptionBackendTest : public BackendTest {
     Q_OBJECT
 

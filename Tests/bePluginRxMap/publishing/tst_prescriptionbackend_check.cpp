@@ -69,7 +69,7 @@ QString field(int number, double side = 30.0)
 
 } // namespace
 
-/// What a check tells of a file: what its load finds, and what the map looks like.
+/// What a check says about a file: what its load finds, and what the map looks like.
 class PrescriptionBackendCheckTest : public LoaderTest {
     Q_OBJECT
 
@@ -215,7 +215,7 @@ void PrescriptionBackendCheckTest::findsTheOverlapsOfRealMaps()
     request.products.first().kind = DbGroupProductGroupInfo::UnknownRate;
     const LoadReport report = PrescriptionBackend::check(request, 12.0);
     QVERIFY2(report.isOk(), qPrintable(report.error));
-    // Every pair whose boxes meet, by GEOS alone; of a map of more cells than that, the first ones.
+    // Every pair of polygons whose boxes meet, by GEOS alone; of a map with more cells than that, the first ones.
     constexpr size_t mostCompared = 2500;
     const auto map = load(request);
     std::vector<PlanePolygon> polygons;

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-/// Loads that wait, run and are cancelled.
+/// Loads that wait, run or are cancelled.
 class PrescriptionBackendLoadingTest : public BackendTest {
     Q_OBJECT
 
@@ -89,7 +89,7 @@ void PrescriptionBackendLoadingTest::reportsProgressAndAnswersWhileABigMapLoads(
         fractions.append(fraction);
         handledBefore.append(handled);
     });
-    // On a busy machine a load may be over before this thread gets its turn; of many one is not.
+    // On a busy machine a load may be over before this thread gets its turn; of many loads at least one is not.
     bool answered = false;
     for (int round = 0; round < 50 && !answered; ++round) {
         fractions.clear();
@@ -152,7 +152,7 @@ void PrescriptionBackendLoadingTest::cancelsTheRepairOfATangleAtOnce()
     });
     const LoadReport report = backend->loadAndWait(requestFor(path));
     QVERIFY2(report.error.contains(QStringLiteral("cancelled")), qPrintable(report.error));
-    // Uncancelled it takes more than twice as long in the quickest build.
+    // Without being cancelled it takes more than twice as long, even in the quickest build.
     QVERIFY2(sinceCancel.elapsed() < 5000, qPrintable(QString::number(sinceCancel.elapsed())));
 }
 

@@ -11,7 +11,7 @@ using OrvikTypes::RX_POLYGON;
 
 namespace {
 
-/// What a reader of the map does on every set of the count: walks the whole chain.
+/// What a reader of the map does each time that the count is set: it walks the whole chain.
 class ChainReader : public QObject {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
 
     QList<unsigned> counts;
     double area = 0.0;
-    /// Whether a query while the count was 0 was answered as valid.
+    /// Whether any query made while the count was 0 was answered as valid.
     bool wasAnsweredWhileEmpty = false;
 
 public Q_SLOTS:
@@ -47,7 +47,7 @@ private:
 
 } // namespace
 
-/// Maps beside, after and in place of each other.
+/// Maps beside each other, one after the other, and replacing each other.
 class PrescriptionBackendMapsTest : public BackendTest {
     Q_OBJECT
 
@@ -180,7 +180,7 @@ void PrescriptionBackendMapsTest::unloadsByGroupName()
     QVERIFY(broker->findGroup(QStringLiteral("rxMap.*"), true, false).isEmpty());
     QVERIFY(map->isRemoved());
     QVERIFY(backend->maps().isEmpty());
-    // Whoever still holds the group may ask it, and gets nothing.
+    // A reader that still holds the group may query it, and gets nothing.
     map->setQueryRatesAtXYZ({0.0, 0.0, 0.0});
     QVERIFY(!map->getRatesAtXYZValid());
     QCOMPARE(load("overlap.geojson").group, report.group);

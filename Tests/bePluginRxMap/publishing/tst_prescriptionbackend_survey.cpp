@@ -5,7 +5,7 @@
 
 Q_DECLARE_METATYPE(LayerField)
 
-/// What a file is found to hold before it is loaded.
+/// What the back-end finds in a file before loading it.
 class PrescriptionBackendSurveyTest : public BackendTest {
     Q_OBJECT
 
@@ -205,7 +205,7 @@ void PrescriptionBackendSurveyTest::tellsTotalsForTheOperatorToChoose()
     QVERIFY(total.isTotal && !total.isSure);
     QCOMPARE(total.product, 0);
     QCOMPARE(total.greatestRate, 50.0);
-    // Chosen among what is offered it is told; who names it knows.
+    // An operator who chose the column among those offered is warned; a user who names it knows.
     LoadRequest chosen = requestFor(path, {QStringLiteral("QT_kg")});
     QVERIFY(backend->loadAndWait(chosen).warnings.filter(QStringLiteral("called a total")).isEmpty());
     chosen.tellsGuesses = true;
@@ -354,7 +354,7 @@ void PrescriptionBackendSurveyTest::productsAreMadeAnewWhereNoneStaysInUse()
     request.makeProducts = [made](const QList<ColumnProduct> &) { return made; };
     const SurveyReport report = survey(request);
     QTEST(!report.columnProducts.isEmpty(), "areMade");
-    // The second of the machine's is measured by weight.
+    // The second product of the machine is measured by weight.
     QCOMPARE(report.columns.first().product, report.columnProducts.isEmpty() ? 2 : 1);
 }
 

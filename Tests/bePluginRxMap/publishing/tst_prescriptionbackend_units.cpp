@@ -1,7 +1,7 @@
 #include "Backend/prescriptionbackend.h"
 #include "testbase.h"
 
-/// What the back-end says of units of rates.
+/// What the back-end says about units of rates.
 class PrescriptionBackendUnitsTest : public TestBase {
     Q_OBJECT
 

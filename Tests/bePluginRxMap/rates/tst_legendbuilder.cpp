@@ -15,7 +15,7 @@ namespace {
 
 constexpr float noRate = std::numeric_limits<float>::quiet_NaN();
 
-/// The class that a reader of the legend takes for a rate.
+/// The class that a reader of the legend would choose for a rate.
 int classOf(const Legend &legend, float rate)
 {
     for (int i = 0; i < legend.size(); ++i) {

@@ -22,7 +22,7 @@ bool contains(const RX_POLYGON &ring, double x, double y)
     return inside;
 }
 
-/// The rate by looking at every ring of the chain, holes being those behind their outer ring; not a number for none.
+/// The rate, found by looking at every ring of the chain; holes follow their outer ring. NaN when there is no rate.
 float plainRate(const RX_POLYGON *first, size_t mapping, double x, double y)
 {
     float rate = std::numeric_limits<float>::quiet_NaN();
@@ -199,7 +199,7 @@ void RateLookupTest::givesEachPointOnASharedEdgeToOneCell()
     QFETCH(QString, path);
     const auto map = load(path);
     QVERIFY2(map->report.isOk(), qPrintable(map->report.error));
-    // Each cell alone, so that one can count how many of them take a point.
+    // Each cell is looked up alone, so that the cells that take a point can be counted.
     std::deque<RateLookup> cells;
     std::vector<RingExtent> extents;
     std::vector<PlaneVertex> points;
@@ -271,7 +271,7 @@ void RateLookupTest::tellsApartWhatSinglePrecisionDoesNot()
     };
     for (int cell = 0; cell < side * side; ++cell) {
         add(cell % side, cell / side);
-        // The last of equal ones counts.
+        // Of equal polygons the last one counts.
         if (random() % 7 == 0)
             add(cell % side, cell / side);
     }

@@ -24,7 +24,7 @@ Triple linearRgb(const QColor &color)
     return {linear(color.redF()), linear(color.greenF()), linear(color.blueF())};
 }
 
-/// How an eye without one kind of cones sees linear colours (matrices of the usual simulation at full strength).
+/// How an eye that lacks one kind of cones sees linear colours (matrices of the usual simulation at full strength).
 Triple seen(const Triple &rgb, int blindness)
 {
     static const double matrices[3][9] = {

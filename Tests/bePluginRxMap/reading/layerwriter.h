@@ -11,13 +11,14 @@ struct LayerField {
     QVariant sample;
 };
 
-/// A record of a test layer: geometry as well-known text (empty: none) and one value per field (invalid: null).
+/// A record of a test layer: geometry as well-known text (empty: no geometry) and one value per field (invalid: null).
 struct LayerRow {
     QString geometry;
     QList<QVariant> values;
 };
 
-/// A layer for the tests to write. `driver` as GDAL names it; `epsg` 0: no coordinate system, -1: that of a site.
+/// A layer for the tests to write. `driver` is GDAL's name for it; `epsg` 0: no coordinate system, -1: a site's local
+/// one.
 struct LayerSketch {
     const char *driver = "ESRI Shapefile";
     int epsg = 4326;
@@ -27,14 +28,14 @@ struct LayerSketch {
     const char *kind = "POLYGON";
     const char *name = "layer";
 
-    /// False when GDAL cannot.
+    /// False when GDAL fails.
     bool write(const QString &path) const;
 };
 
-/// Writes a file of several layers, in the format of the first. False when GDAL cannot.
+/// Writes a file of several layers, in the format of the first. False when GDAL fails.
 bool writeLayers(const QString &path, const QList<LayerSketch> &layers);
 
-/// Packs files into a new archive: its names and the paths of the files. False when GDAL cannot.
+/// Packs files into a new archive: their names in it, and their paths. False when GDAL fails.
 bool packFiles(const QString &archive, const QList<QPair<QString, QString>> &files);
 
 /// Well-known text of a square with its lower left corner at (x, y).

@@ -7,7 +7,7 @@
 
 #include <QTemporaryDir>
 
-/// Base of the tests of the reader: an empty folder for each test function, and a map to read into.
+/// Base of the tests of the reader: each test function gets an empty folder, and a map to read into.
 class ReaderTest : public TestBase {
     Q_OBJECT
 
@@ -15,11 +15,11 @@ protected Q_SLOTS:
     void init();
 
 protected:
-    /// Of a file in the test's folder.
+    /// Path of a file in the test's folder.
     QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
-    /// Writes `to` for `from` throughout a file in the test's folder; false when that does not hold `from`.
+    /// Replaces `from` by `to` throughout a file in the test's folder; false when the file does not contain `from`.
     bool replaceIn(const char *name, const QByteArray &from, const QByteArray &to) const;
-    /// Reads into `map`; what kept it from that is then in `error`.
+    /// Reads into `map`; if that fails, the reason is in `error`.
     bool read(const QString &file, const QStringList &columns = {});
     bool read(const ReadRequest &request);
 

@@ -1,6 +1,6 @@
 #include "readertest.h"
 
-/// Which layer of several is read.
+/// Which of several layers is read.
 class LayerChoiceTest : public ReaderTest {
     Q_OBJECT
 

@@ -14,7 +14,7 @@ void TestLoadControl::aLoadThatNobodyWatchesGoesOn()
 {
     const LoadControl control;
     QVERIFY(!control.isCancelled());
-    control.report(0.5); // To nobody, and without harm.
+    control.report(0.5); // Nobody is listening, which does no harm.
 }
 
 void TestLoadControl::itIsCancelledFromTheMomentThatTheFlagIsSet()

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Puts a view in place of the file's only layer. False when GDAL cannot.
+/// Replaces the file's only layer by a view. False when GDAL fails.
 bool makeView(const QString &path, const QByteArray &query)
 {
     CPLErrorReset();
@@ -96,7 +96,7 @@ void PrescriptionReaderTest::readsEachFormat()
     QCOMPARE(rate.values[first], 12.5);
     QVERIFY(std::isnan(rate.values[1 - first]));
     QCOMPARE(dose.values[1 - first], 4.0);
-    // Some formats bring columns of their own.
+    // Some formats add columns of their own.
     for (const char *other : {"rate", "product", "dose"})
         QVERIFY(map.columnNames.contains(QLatin1String(other)));
     QCOMPARE(map.columns.size(), size_t(2));
@@ -182,7 +182,7 @@ void PrescriptionReaderTest::refusesWhatIsNoPlainFile()
 
 void PrescriptionReaderTest::readsNoFileWhoseSizeIsZero()
 {
-    // The system's own files have content for all that, and some of them no end.
+    // The system's own files nevertheless have content, some of it endless.
     QVERIFY(!read(QStringLiteral("/proc/self/status")));
     QCOMPARE(error, QStringLiteral("is empty"));
 }

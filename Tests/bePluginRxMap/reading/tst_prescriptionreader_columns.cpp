@@ -57,7 +57,7 @@ void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
     QCOMPARE(column.values[0], 80.0);
     QCOMPARE(column.values[1], 90.5);
     QCOMPARE(column.ambiguous, QStringLiteral("32,000 kg/ha"));
-    // Another unit than that of the records before.
+    // A different unit than that of the records before.
     QVERIFY(std::isnan(column.values[3]));
     QCOMPARE(column.unreadable.size(), size_t(1));
 }

@@ -15,9 +15,9 @@ const std::vector<double> anyRates = {5.0, 5.0, 6.0, 5.0};
 
 SourceColumn column(const QString &name, std::vector<double> values = anyRates, std::vector<int> unreadable = {});
 RawPrescription mapOf(std::vector<SourceColumn> columns);
-/// Columns of these names with rates that differ from column to column.
+/// Columns of these names, with different rates in each column.
 RawPrescription tableOf(const QStringList &names);
-/// Record 0 has two parts, record 2 a hole: 200, 400, 800 and 100 square metres.
+/// Record 0 has two parts, record 2 has a hole: 200, 400, 800 and 100 square metres.
 std::vector<PlanePolygon> polygons();
 
 MachineProduct product(const char *name, DbGroupProductGroupInfo::RateKind kind);

@@ -106,7 +106,7 @@ void ColumnNameTest::namesTheProduct_data()
         {"Tgt_Rate_MAP", "MAP"},
         {"AMMONIUM_NITRATE_KG_HA", "Ammonium Nitrate"},
         {"Round-up 360", "Round Up 360"},
-        // Nothing but unit and words for a rate.
+        // Only a unit, and words for a rate.
         {"Rate_lb_ac", "Rate_lb_ac"},
         {"GPA", "GPA"},
         {"RATE", "RATE"},

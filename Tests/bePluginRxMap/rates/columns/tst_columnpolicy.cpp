@@ -84,7 +84,7 @@ void ColumnPolicyTest::feedsProductsFirstThatNoOtherFileFeeds()
     products[1].isFed = true;
     products[2].isDriven = false;
     QCOMPARE(feeds(ColumnPolicy(products, {}), map), QStringList({"1:rate1", "2:rate2"}));
-    // None of those that wait fits.
+    // None of the products still waiting fits.
     products[0].isFed = false;
     QCOMPARE(feeds(ColumnPolicy(products, {}), tableOf({"RATE_KG_HA"})), QStringList("2:RATE_KG_HA"));
 }

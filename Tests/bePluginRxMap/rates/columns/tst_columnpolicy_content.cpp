@@ -12,7 +12,7 @@ QStringList likely(std::vector<SourceColumn> columns)
 
 } // namespace
 
-/// Which columns are taken for rates by what they hold.
+/// Which columns are taken for rates because of what they hold.
 class ColumnPolicyContentTest : public TestBase {
     Q_OBJECT
 

@@ -8,7 +8,7 @@ using namespace ColumnSketch;
 Q_DECLARE_METATYPE(RateSource::UnitFrom)
 Q_DECLARE_METATYPE(MapFinding::Kind)
 
-/// In which units columns are taken, and what is said of that.
+/// In which units columns are taken, and what is said about that.
 class ColumnPolicyUnitsTest : public TestBase {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 #include "columnproducts.h"
 #include "testbase.h"
 
-/// Of which products the columns of a file speak.
+/// Which products the columns of a file name.
 class ColumnProductsTest : public TestBase {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 using Kind = DbGroupProductGroupInfo::RateKind;
 Q_DECLARE_METATYPE(Kind)
 
-/// Units as files write them, and what they come to.
+/// Units as files write them, and what they are read as.
 class RateUnitTest : public TestBase {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ void RateUnitTest::findsUnitsInNames_data()
     row("RateMlHa", "mL/ha");
     row("Dose_mL_ha", "mL/ha");
     row("N_galperac", "gal/ac");
-    // A letter before a unit of one letter is a product's name.
+    // A letter before a unit of one letter belongs to a product's name.
     for (const char *name : {"C_l_ha", "c_l_ha", "C L/ha", "M_l_ha", "K_l_ha"})
         row(name, "L/ha");
     for (const char *name : {"cl_ha", "cL_ha", "Rate_cL_ha"})
@@ -103,7 +103,7 @@ void RateUnitTest::findsUnitsInNames_data()
     row("UreaKg_hec", "kg/ha");
     row("Prod_gal_a", "gal/ac");
     row("N_kg_h", "");
-    // An amount alone, in the name of a rate.
+    // Only an amount, in a name that speaks of a rate.
     row("RATE_kg_", "kg/ha");
     row("Rate_lbs", "lb/ac");
     row("Tgt_Rate_l", "L/ha");

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-/// The table against the units' definitions, worked out here from other ones than the table's own.
+/// The table, compared with the units' definitions, worked out here from other definitions than the table's own.
 class UnitTableTest : public TestBase {
     Q_OBJECT
 

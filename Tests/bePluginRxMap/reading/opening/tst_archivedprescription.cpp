@@ -216,7 +216,7 @@ void ArchivedPrescriptionTest::countsThePartsOfAShapefileTogether()
 {
     QVERIFY(pack({"a%2.shp=a.shp", "a%2.shx=a.shx", "a%2.dbf=a.dbf"}));
     QByteArray content = readFile(archive());
-    // Each says that it has 100 MB.
+    // Each part claims to hold 100 MB.
     int parts = 0;
     for (int at = content.indexOf("PK\x01\x02"); at >= 0; at = content.indexOf("PK\x01\x02", at + 1), ++parts)
         content.replace(at + 24, 4, QByteArray("\0\0\x40\6", 4));
@@ -234,7 +234,7 @@ void ArchivedPrescriptionTest::checksWhatIsStoredWithoutCompression()
         return QByteArray(bytes, sizeof bytes);
     };
     const auto size = static_cast<quint32>(content.size());
-    // The checksum of these bytes by another program.
+    // The checksum of these bytes, computed by another program.
     const QByteArray about = number(0xaa36bd3f) + number(size) + number(size) + QByteArray("\x9\0\0\0", 4);
     const QByteArray file = "PK\x03\x04" + QByteArray(10, '\0') + about + "a.geojson" + content;
     const QByteArray directory = "PK\x01\x02" + QByteArray(12, '\0') + about + QByteArray(14, '\0') + "a.geojson";

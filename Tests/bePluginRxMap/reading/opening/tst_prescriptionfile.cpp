@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Waits for callers on a port of this computer.
+/// Listens for callers on a port of this computer.
 class ListeningPort {
 public:
     ListeningPort()
@@ -50,8 +50,8 @@ QByteArray bigEndian(quint32 number)
     return {reinterpret_cast<const char *>(&swapped), sizeof swapped};
 }
 
-/// The journal of a change to a database that held `before`, as it lies there while the change goes on: all pages, each
-/// with its number and the sum of each 200th byte from behind.
+/// The journal of a change to a database that held `before`, as it exists while the change is going on: all pages, each
+/// with its number and the sum of every 200th byte, counted from its end.
 QByteArray rollbackJournal(const QByteArray &before)
 {
     const int pageSize = (quint8(before.at(16)) << 8) + quint8(before.at(17));
@@ -71,7 +71,7 @@ QByteArray rollbackJournal(const QByteArray &before)
 
 } // namespace
 
-/// How a file is opened; what is in it is a matter of those who read it.
+/// How a file is opened; its content is tested with the classes that read it.
 class PrescriptionFileTest : public TestBase {
     Q_OBJECT
 
@@ -107,7 +107,7 @@ LayerSketch PrescriptionFileTest::sketch(const char *driver)
     return sketch;
 }
 
-/// Under a plain name first: the test's own writing must not stumble over what it tests.
+/// Written under a plain name first: the test's own writing must not stumble over what it tests.
 QString PrescriptionFileTest::write(const char *driver, const QString &name)
 {
     const QString plain = folder.filePath(QStringLiteral("plain.") + name.section(QLatin1Char('.'), -1));

@@ -6,9 +6,9 @@
 
 #include <vector>
 
-/// Task data for the tests to write: the XML, and the files beside it by their names.
+/// Task data for the tests to write: the XML, and the files beside it by name.
 struct TaskDataSketch {
-    QByteArray content; ///< What stands within the root.
+    QByteArray content; ///< What stands inside the root element.
     int version = 4;
     QMap<QByteArray, QByteArray> files = {};
     QByteArray mainFile = "TASKDATA.XML";
@@ -16,13 +16,13 @@ struct TaskDataSketch {
     QByteArray xml() const;
     /// False when a file cannot be written.
     bool write(const QString &folder) const;
-    /// Writes an archive of it; `folder` is that within the archive, ending in a slash, or nothing.
+    /// Writes an archive of it; `folder` is the folder within the archive, ending in a slash, or empty.
     bool writeArchive(const QString &path, const QByteArray &folder = {}) const;
 
     /// Elements. Names of attributes follow the standard.
     static QByteArray value(int number, qint64 steps, const QByteArray &attributes = {});
     static QByteArray zone(int code, const QByteArray &content);
-    /// A polygon of squares, each by its south-west corner and side, degrees; all but the first are holes.
+    /// A polygon of squares, each given by its south-west corner and side, degrees; all but the first are holes.
     struct Square {
         double longitude;
         double latitude;

@@ -1,7 +1,7 @@
 #include "taskdata/datadictionary.h"
 #include "testbase.h"
 
-/// The table against the facts that it is made of.
+/// The table, compared with the facts that it is made from.
 class DataDictionaryTest : public TestBase {
     Q_OBJECT
 

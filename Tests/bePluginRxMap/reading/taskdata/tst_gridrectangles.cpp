@@ -46,7 +46,7 @@ void GridRectanglesTest::joinsEqualNeighbours_data()
         << QByteArray("123412341235 923412341235") << 4 << 0.0 << "0,0 2x1; 2,0 1x2; 0,1 1x1; 1,1 1x1";
     QTest::newRow("long values") << QByteArray("0123456789ab0123456789ab0123456789ax") << 12 << 0.0
                                  << "0,0 2x1; 2,0 1x1";
-    // Cells of about 74 m by 111 m, of which 2 and 11 are joined there.
+    // Cells of about 74 m by 111 m; 2 of these in a row and 11 in a column are joined there.
     QTest::newRow("wide") << QByteArray("aaaaa baaaa") << 1 << 48.0 << "0,0 2x1; 2,0 2x2; 4,0 1x2; 0,1 1x1; 1,1 1x1";
     QTest::newRow("tall") << QByteArray("a a a a a a a a a a a a a") << 1 << 48.0 << "0,0 1x11; 0,11 1x2";
     QTest::newRow("wide in the south") << QByteArray("aaaaa") << 1 << -48.0 << "0,0 2x1; 2,0 2x1; 4,0 1x1";
@@ -81,7 +81,7 @@ void GridRectanglesTest::staysNearTheEdgesOfRowsAndColumns()
     grid.columns = grid.rows = 1000000;
     grid.cellHeight = grid.cellWidth = 1e-6;
     grid.south = 48.0;
-    // About 150 m by 1.3 km of cells of 7 cm by 11 cm.
+    // About 150 m by 1.3 km, made of cells of 7 cm by 11 cm.
     QVERIFY2(std::abs(GridRectangles::mostColumns(grid) - 2000) < 100,
              qPrintable(QString::number(GridRectangles::mostColumns(grid))));
     QVERIFY2(std::abs(GridRectangles::mostRows(grid) - 11460) < 100,

@@ -16,7 +16,7 @@ const QByteArray template7 = Sketch::zone(7, Sketch::value(litres, 0) + Sketch::
 
 } // namespace
 
-/// Task data of the test's own making, read as a table with polygons.
+/// Task data written by the tests, read as a table with polygons.
 class TaskDataReaderTest : public ReaderTest {
     Q_OBJECT
 
@@ -101,7 +101,7 @@ void TaskDataReaderTest::readsGridsOfCodes()
 {
     const QByteArray zones = Sketch::zone(0, Sketch::value(litres, 100)) + Sketch::zone(200, Sketch::value(weight, 7))
         + Sketch::zone(3, Sketch::value(weight, 0) + Sketch::value(litres, 300))
-        + Sketch::zone(3, Sketch::value(litres, 999)); // The first one of a code counts.
+        + Sketch::zone(3, Sketch::value(litres, 999)); // Of equal codes, the first one counts.
     const Sketch sketch{
         Sketch::task("TSK1", zones + Sketch::grid(2, 2, 1)), 4, {{"GRD00001.BIN", QByteArray("\0\3\xc8\3", 4)}}};
     QVERIFY(sketch.write(root()));
@@ -116,7 +116,7 @@ void TaskDataReaderTest::readsGridsOfCodes()
 
 void TaskDataReaderTest::readsZonesWithHoles()
 {
-    // One element holds two outer rings, as version 2 allows; the hole stands behind the other one.
+    // One element holds two outer rings, as version 2 allows; the hole follows the second one.
     const QByteArray two = Sketch::polygon({{11.0, 48.0, 0.01}}).replace("</PLN>\n", {})
         + Sketch::polygon({{11.02, 48.0, 0.01}, {11.002, 48.002, 0.002}}).replace("<PLN A=\"2\">", {});
     const QByteArray zones = Sketch::zone(1, two + Sketch::value(weight, 10))

@@ -1,4 +1,4 @@
-// Task data that cannot be used: one line each, with file and place.
+// Task data that cannot be used: each gets one line, with file and place.
 
 #include "files.h"
 #include "readertest.h"
@@ -169,7 +169,7 @@ void TaskDataReaderRefusalsTest::refusesADamagedArchive()
     QVERIFY((Sketch{threeCells(), 4, threeValues}.writeArchive(path("a.zip"))));
     QFile file(path("a.zip"));
     QVERIFY(file.open(QIODevice::ReadWrite));
-    // Within the grid's file, which was packed first: before the header of the next one.
+    // Inside the grid's file, which was packed first: just before the header of the next file.
     QVERIFY(file.seek(file.readAll().indexOf("PK\x03\x04", 4) - 8) && file.write("????") == 4);
     file.close();
     QVERIFY(!read(path("a.zip")));
@@ -206,7 +206,7 @@ void TaskDataReaderRefusalsTest::refusesMoreRatesThanMemoryIsToHold()
             values += Sketch::value(weight, 1, "C=\"PDT" + QByteArray::number(i) + "\"");
         return values;
     };
-    // A million cells may have twenty columns; the file for them is not even looked for.
+    // A million cells may have twenty columns; for more, the file with them is not even looked for.
     const QByteArray grid = Sketch::grid(1000, 1000, 2, "J=\"7\"");
     QVERIFY(Sketch{Sketch::task("TSK1", grid + Sketch::zone(7, valuesOf(21)))}.write(folder->path()));
     QVERIFY(!read(folder->path()));
@@ -214,7 +214,7 @@ void TaskDataReaderRefusalsTest::refusesMoreRatesThanMemoryIsToHold()
     QVERIFY(Sketch{Sketch::task("TSK1", grid + Sketch::zone(7, valuesOf(20)))}.write(folder->path()));
     QVERIFY(!read(folder->path()));
     QCOMPARE(error, QStringLiteral("TASKDATA.XML, line 4: there is no file GRD00001.BIN beside it"));
-    // Zones are counted as they come.
+    // Zones are counted as they are read.
     QByteArray zones = Sketch::zone(0, square() + valuesOf(1000));
     for (int i = 1; i <= 20000; ++i)
         zones += Sketch::zone(i % 250, square());
