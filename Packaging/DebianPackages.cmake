@@ -11,7 +11,7 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The stand-ins are not the system's libraries: they come with the simulator, whose name stands for them.
+# The stand-ins are not libraries of the system: they come with the simulator, and its package stands for them.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
     "${CMAKE_BINARY_DIR}/Simulator/Framework" "${CMAKE_BINARY_DIR}/Simulator/bePluginRxMap")
 
@@ -41,7 +41,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "plug-ins for a field computer's dis
 The interfaces that a user-interface plug-in of the terminal compiles against,
 with a CMake package (RxMapHost) and an example.")
 
-# What each Debian package says of its origin and its changes.
+# What each Debian package says about its origin and its changes.
 string(TIMESTAMP packagedOn "%a, %d %b %Y %H:%M:%S +0000" UTC)
 foreach(pair simulator:terminal-simulator plugin:uipluginrxmap development:rxmaphost-dev)
     string(REPLACE ":" ";" pair "${pair}")

@@ -1,4 +1,4 @@
-# What the built program and libraries owe whoever runs them: how they are linked, and what they show of themselves.
+# What users can expect of the built program and libraries: how they are linked, and what they export.
 #   cmake -DPROGRAM=... -DFRAMEWORK=... -DBACKEND=... -DPLUGIN=... -DRELEASE=ON|OFF -P binaries.cmake
 
 set(failures "")
@@ -11,7 +11,7 @@ function(output_of result)
     set(${result} "${output}" PARENT_SCOPE)
 endfunction()
 
-# The folder may be moved: no run path names a place.
+# The folder can be moved: no run path names a fixed place.
 foreach(file IN ITEMS "${PROGRAM}" "${FRAMEWORK}" "${BACKEND}" "${PLUGIN}")
     output_of(dynamic readelf -W -d "${file}")
     string(REGEX MATCHALL "R(UN)?PATH\\)[^\n]*" paths "${dynamic}")
@@ -42,7 +42,8 @@ if(RELEASE)
     endif()
 endif()
 
-# The stand-ins show their own classes only, as a host's libraries do, and all that the plug-in and the program take.
+# The stand-ins export only their own classes, as a host's libraries do, and everything that the plug-in and the program
+# use.
 set(own "getRateConversion\\(|QMetaTypeId<.*OrvikTypes::")
 set(own "${own}|((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?(BasePlugInProvides|BinManager|DataBroker")
 set(own "${own}|DataBrokerGroup|DbGroup[A-Za-z]+|GroupLock|GroupPropertyAccess|ORVIK_DEBUG_CLASS|Object3D|Orvik[A-Za-z]+")
@@ -56,7 +57,7 @@ foreach(library IN ITEMS "${FRAMEWORK}" "${BACKEND}")
         fail("${library}: exports ${count} symbols only")
     endif()
     foreach(line IN LISTS exported)
-        # The linker lists some local symbols, too.
+        # The linker also lists some local symbols.
         if(line MATCHES "^[0-9a-f]* *[bdrt] ")
             continue()
         endif()

@@ -1,4 +1,5 @@
-# Builds the plug-in alone against a host kit that is put together here: the interfaces and the built host libraries.
+# Builds the plug-in alone against a host kit that is put together here from the interfaces and the built host
+# libraries.
 #   cmake -DSOURCE=... -DFRAMEWORK=... -DBACKEND=... -DFOLDER=... -P hostkit.cmake
 
 file(REMOVE_RECURSE "${FOLDER}")
@@ -32,7 +33,7 @@ foreach(foreign Simulator Tests Benchmarks)
     endif()
 endforeach()
 
-# The folder goes over to another kit as a whole.
+# The folder is moved to another kit as a whole.
 file(RENAME "${FOLDER}/kit" "${FOLDER}/other")
 configure(other)
 file(STRINGS "${FOLDER}/build/build.ninja" former REGEX "${FOLDER}/kit/")

@@ -1,4 +1,4 @@
-# Installs what was built, moves it, looks at a field point with it, and builds and uses the example of a plug-in there.
+# Installs what was built, moves it, queries a field point with it, and builds and uses the example of a plug-in there.
 #   cmake -DBUILD=... -DFOLDER=... -P installed.cmake
 
 file(REMOVE_RECURSE "${FOLDER}")

@@ -1,4 +1,4 @@
-# Fails where updating would change a catalogue; it is tried on copies. Run in the folder of the sources.
+# Fails when updating would change a catalogue; works on copies. Run in the folder of the sources.
 #   cmake -DCATALOGUES=a.ts;b.ts -DUPDATE=lupdate;OPTIONS;SOURCES;-ts -DFOLDER=... -P CheckCatalogues.cmake
 
 file(REMOVE_RECURSE "${FOLDER}")

@@ -1,5 +1,6 @@
-# Toolchain: Debian's cross compilers against a Debian of another architecture that lies in a folder. The environment says
-# which and where: RXMAP_TRIPLET (aarch64-linux-gnu, arm-linux-gnueabihf), RXMAP_PROCESSOR (aarch64, arm), RXMAP_SYSROOT.
+# Toolchain: Debian's cross compilers, with a Debian of another architecture that lies in a folder. The environment says
+# which and where: RXMAP_TRIPLET (aarch64-linux-gnu, arm-linux-gnueabihf), RXMAP_PROCESSOR (aarch64, arm),
+# RXMAP_SYSROOT.
 set(triplet "$ENV{RXMAP_TRIPLET}")
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR "$ENV{RXMAP_PROCESSOR}")
@@ -10,7 +11,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-# Libraries that only other libraries need, two of them where no alternative was chosen.
+# Libraries that only other libraries need; two of them have folders of their own, since no alternative was chosen.
 foreach(folder "" /blas /lapack)
     string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT " -Wl,-rpath-link,${CMAKE_SYSROOT}/usr/lib/${triplet}${folder}")
 endforeach()

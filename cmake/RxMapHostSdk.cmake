@@ -1,4 +1,4 @@
-# The host's libraries as they lie in a host kit: RXMAP_HOST_SDK/include and RXMAP_HOST_SDK/lib.
+# The host's libraries, as found in a host kit: RXMAP_HOST_SDK/include and RXMAP_HOST_SDK/lib.
 
 add_library(HostInterfaces INTERFACE)
 target_include_directories(HostInterfaces SYSTEM INTERFACE "${RXMAP_HOST_SDK}/include")

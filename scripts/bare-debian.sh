@@ -1,5 +1,5 @@
-# A Debian with nothing in it, in a folder that goes with the script; sourced by the scripts that try things there. Needs
-# root and debootstrap.
+# A minimal Debian in a folder that is removed when the script ends; sourced by the scripts that try things in one.
+# Needs root and debootstrap.
 
 leave_bare_debian() {
     local folder
@@ -10,7 +10,7 @@ leave_bare_debian() {
 # make_bare_debian SUITE [PACKAGE,...]: leaves the folder in `machine`.
 make_bare_debian() {
     machine="$(mktemp -d)"
-    chmod 755 "$machine" # Users have to get in.
+    chmod 755 "$machine" # Users must be able to enter.
     trap leave_bare_debian EXIT
     debootstrap --variant=minbase ${2:+"--include=$2"} "$1" "$machine"
     cp /etc/resolv.conf "$machine/etc/"
@@ -21,5 +21,5 @@ make_bare_debian() {
     inside apt-get update -qq
 }
 
-# Runs a command there, as root.
+# Runs a command in it, as root.
 inside() { chroot "$machine" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the last commit for 64-bit or 32-bit Arm against a Debian of that architecture, and runs the plug-in's tests in an
-# emulator. Needs root.
+# Builds the last commit for 64-bit or 32-bit Arm against a Debian of that architecture, and runs the plug-in's tests in
+# an emulator. Needs root.
 #   scripts/check-arm.sh arm64|armhf [FOLDER]    FOLDER keeps that Debian and the build for the next time
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -21,14 +21,14 @@ export RXMAP_SYSROOT="$folder/debian"
 libraries=(qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev libglu1-mesa-dev libgl1-mesa-dev
     libgl1-mesa-dri libgdal-dev libsqlite3-dev libgeos-dev libboost-dev fonts-liberation)
 
-# Unpacked, not installed: nothing of it runs, so what the maintainers' scripts would choose is chosen here.
+# Unpacked, not installed: nothing in it is run, so the choices that the maintainers' scripts would make are made here.
 make_debian() {
     mmdebstrap --variant=extract --arch="$1" --include="$(IFS=,; echo "${libraries[*]}")" bookworm "$RXMAP_SYSROOT"
     find "$RXMAP_SYSROOT/usr/lib/$RXMAP_TRIPLET" -maxdepth 1 -lname '/*' | while read -r link; do
         ln -sfr "$RXMAP_SYSROOT$(readlink "$link")" "$link"
     done
     rm -r "$RXMAP_SYSROOT/usr/lib/qt5/bin"
-    ln -s /usr/lib/qt5/bin "$RXMAP_SYSROOT/usr/lib/qt5/bin" # Qt's tools run here.
+    ln -s /usr/lib/qt5/bin "$RXMAP_SYSROOT/usr/lib/qt5/bin" # Qt's tools have to run on this machine.
     cp -rT /etc/fonts "$RXMAP_SYSROOT/etc/fonts"
 }
 
@@ -42,11 +42,11 @@ cmake --build "$folder/build" --target plugin-tests plugin-map-tests plugin-dial
 
 lib="$RXMAP_SYSROOT/usr/lib/$RXMAP_TRIPLET"
 export QEMU_SET_ENV="LD_LIBRARY_PATH=$lib/blas:$lib/lapack,QT_PLUGIN_PATH=$lib/qt5/plugins,LIBGL_DRIVERS_PATH=$lib/dri"
-# tst_pluginmodule asks this machine's tools about the module.
+# tst_pluginmodule inspects the module with this machine's tools.
 with_virtual_display ctest --test-dir "$folder/build/Tests/uiPluginRxMap" --exclude-regex tst_pluginmodule \
     --output-on-failure --timeout 1500 --parallel "$(nproc)"
 
-# What the plug-in builds of each map is the same here and there, bit for bit.
+# What the plug-in builds from each map is the same on both machines, bit for bit.
 digests_of() {
     local notes="$1"
     shift

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the Debian packages, has lintian look at them, and uses them in a bare Debian 12: installs them, runs the
-# demonstration as a user, builds the example of a plug-in from the installed headers and shows it, and removes them.
+# Makes the Debian packages, checks them with lintian, and uses them in a bare Debian 12: installs them, runs the
+# demonstration as a user, builds the example of a plug-in with the installed headers and shows it, and removes them.
 # Asks for root; leaves the packages and the pictures in build/packages.
 #   scripts/check-packages.sh
 set -euo pipefail

@@ -24,11 +24,11 @@ cmake --preset dev
 cmake --build --preset dev --target uiPluginRxMap
 """
 subprocess.run(["bash", "-ec", PREPARATION], cwd=PROJECT, stdout=sys.stderr, check=True)
-# Not there before.
+# Not installed before this point.
 import clang.cindex
 from clang.cindex import CursorKind
 
-# Qt's headers name these, not we.
+# Qt's headers use these names, this project does not.
 INTERNAL = re.compile(r"^(Qt?Private|QtSharedPointer|QtMetaTypePrivate|QtStringBuilder)|Private$|^qt_meta")
 
 
@@ -109,7 +109,7 @@ def version_of(owner, name, types, pages):
     overloads = [entry for entry in entries(page) if re.search(r"\b%s\s*(\(|$|enum)" % re.escape(name), entry[0])]
     fits = [fit(heading, types) for heading, _ in overloads]
     best = [version or (0, 0) for (_, version), value in zip(overloads, fits) if value == max(fits)]
-    # Overloads that cannot be told apart: the newest, so that somebody looks.
+    # When overloads cannot be told apart, the newest counts, so that somebody takes a look.
     return max(best) if best and max(best) > (0, 0) else None
 
 

@@ -16,8 +16,8 @@ mapfile -t changed < <(git diff --name-only --diff-filter=d "${1:-HEAD^}" -- 'Pl
 cmake --preset dev >/dev/null
 cmake --build --preset dev --target terminal-simulator >/dev/null # Writes the headers that moc and rcc make.
 clang-tidy --quiet -p build/dev --extra-arg=-Wno-unknown-warning-option "${changed[@]}"
-# Left out: constants of texts live as long as their library; the host's interface has empty texts that are not null; what
-# scripts see of the terminal does not notify; of a word's first letter there may be none.
+# Left out: constant texts live as long as their library; the host's interface has empty texts that are not null; the
+# properties that scripts see on the terminal do not notify; a word may have no first letter.
 clazy-standalone -p build/dev --header-filter='(HostInterfaces|Plugins|Simulator)/.*' --extra-arg=-Werror \
     --checks=level0,level1,no-non-pod-global-static,no-empty-qstringliteral,no-qproperty-without-notify,no-qstring-left \
     "${changed[@]}"

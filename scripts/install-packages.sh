@@ -1,5 +1,5 @@
 # Installs the Debian packages that are missing; sourced by the scripts that need them.
-# Nothing touches the network, or asks for root, when all of them are there.
+# Does not touch the network, or ask for root, when all of them are installed.
 
 packages=(
     g++ cmake ninja-build ccache
@@ -9,7 +9,7 @@ packages=(
     librsvg2-bin help2man fonts-liberation xvfb xauth x11-xkb-utils
 )
 
-# install_packages [PACKAGE...]: those named, else all that building and running take.
+# install_packages [PACKAGE...]: those named, or all that building and running need.
 install_packages() {
     local missing=() package
     (($# > 0)) || set -- "${packages[@]}"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Makes the pictures of the documentation: what is seen of the sample field and of a file that wants a look.
+# Makes the pictures of the documentation: the display with the sample field and with a file that needs checking.
 #   scripts/make-pictures.sh [FOLDER [PROGRAM]]
-# FOLDER: by default docs/pictures. PROGRAM: the terminal simulator; by default that of the release preset, which is built.
+# FOLDER: by default docs/pictures. PROGRAM: the terminal simulator, by default that of the release preset, which is
+# built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/install-packages.sh
@@ -17,7 +18,7 @@ if (($# < 2)); then
 fi
 scratch="$(mktemp -d)"
 trap 'rm -rf "$scratch"' EXIT
-export XDG_CONFIG_HOME="$scratch" # What somebody chose before is not seen.
+export XDG_CONFIG_HOME="$scratch" # Remembered choices do not show.
 mkdir -p "$pictures"
 
 # photograph SCRIPT [ARGUMENT...]
@@ -26,7 +27,7 @@ photograph() {
         echo "var sample = \"$sample\", pictures = \"$pictures\";"
         cat Tests/EndToEnd/scripts/helpers.js "$1"
     } >"$scratch/script.js"
-    # The same display everywhere, whatever somebody has: the pictures are compared.
+    # The same display everywhere, whatever the computer's own is: the pictures are compared.
     with_virtual_display "$program" --script "$scratch/script.js" "${@:2}"
 }
 
@@ -34,7 +35,7 @@ photograph scripts/pictures/map.js
 photograph scripts/pictures/opening.js --open docs/examples/to-check.geojson
 photograph Tests/EndToEnd/scripts/drive-by-touch.js
 
-# What a report shows of the second product: prescribed and applied, the third and fourth of its pictures.
+# What a report shows of the second product, prescribed and applied: the third and fourth of its pictures.
 "$program" --drive "$scratch/report.html" "$sample" >/dev/null 2>"$scratch/progress" || {
     cat "$scratch/progress" >&2
     exit 1

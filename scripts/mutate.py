@@ -28,7 +28,7 @@ SOURCES = os.path.join(WORK, "source")
 BUILD = os.path.join(WORK, "build")
 RESULTS = os.path.join(WORK, "results.tsv")
 
-# Sources, the programs that test them, and the tests among theirs that do.
+# Sources, the programs that test them, and which of their tests do.
 ROOMS = [
     ("Plugins/uiPluginRxMap/**/*", ["plugin-tests", "plugin-map-tests", "plugin-dialog-tests", "rxmap-hostile"]),
     ("Simulator/bePluginRxMap/geometry/*/*", ["backend-tests"]),
@@ -45,11 +45,11 @@ NUMBER = re.compile(r"(?<![\w.\"])(\d+)(\.\d+)?(?![\w.]*[\"\w])")
 STATEMENT = re.compile(r"^\s+(?!return|delete|const |auto |static |using |case |break|else|\w+ \w+;)[\w:>.*()\[\]-]+"
                        r"(\(.*\)| [-+|&]?= .*);$")
 ASSIGNMENT = re.compile(r"^\s+([\w.\[\]]+) [-+|&]?= ([^(]*(q?M(?:in|ax)\([\w., ]*\))?);$", re.IGNORECASE)
-# What only takes time or memory is not broken: no test could tell.
+# A change that only costs time or memory breaks nothing: no test could tell.
 UNSEEN = re.compile(r"\.reserve\(|constexpr .*(fanOut|pointsWorthListing|fewVertices|longestRun|nodeSize|edgesPerSlab|pays)\b")
 
 
-# What becomes of a break that does not count.
+# The results of breaks that do not count.
 NO_BREAK = "does not compile"
 EQUIVALENT = "compiles to the same"
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Uses a terminal with the plug-in for what takes an operator months: 50,000 rebuilds, 5,000 dialogs, 1,000 loads, ten
-# hours of driving. Status 1 where memory, handles, timers or connections grow by more than docs/reliability.md states.
+# Uses a terminal with the plug-in as much as an operator would in months: 50,000 rebuilds, 5,000 dialogs, 1,000 loads,
+# ten hours of driving. Status 1 when memory, handles, timers or connections grow by more than docs/reliability.md
+# states.
 #   scripts/soak.sh [--share PART]
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1,7 +1,7 @@
 # Runs a command on the display at hand, or on a virtual one that lives as long as the command; sourced by run.sh and
-# test.sh. The command's exit status is the function's.
+# test.sh. The function returns the command's exit status.
 
-# Whether there is an X display that answers; it is the only kind that the simulator is installed for.
+# Whether there is an X display that responds; X is the only kind that the simulator is installed for.
 has_display() {
     [[ -n "${DISPLAY:-}" ]] && setxkbmap -display "$DISPLAY" -query >/dev/null 2>&1
 }
@@ -17,7 +17,7 @@ needs_operator() {
     done
 }
 
-# Takes down what with_virtual_display has started; its variables are seen here.
+# Stops what with_virtual_display has started; uses its variables.
 stop_virtual_display() {
     trap - INT TERM
     kill ${client:+"$client"} "$server" 2>/dev/null || true
@@ -34,7 +34,8 @@ with_virtual_display() {
     trap 'stop_virtual_display; kill -TERM $$' TERM
     while [[ ! -s "$announced" ]] && kill -0 "$server" 2>/dev/null; do sleep 0.05; done
     if [[ -s "$announced" ]]; then
-        # In the background, so that a signal is handled at once; such a command loses its standard input otherwise.
+        # In the background, so that a signal is handled at once; its standard input is passed on, since it would be
+        # lost.
         env -u WAYLAND_DISPLAY DISPLAY=":$(<"$announced")" QT_QPA_PLATFORM=xcb "$@" <&0 &
         client=$!
         wait "$client" || status=$?

@@ -1,4 +1,5 @@
-// A touch of the sample field, its file in `sample`, by day and by night; `pictures` names the folder for what is seen.
+// A touch of the sample field, by day and by night. `sample` is the field's file, `pictures` the folder for the
+// pictures.
 
 terminal.machine.timeFactor = 0;
 terminal.open(sample);

@@ -1,5 +1,5 @@
-// A file that leaves its unit open, and holds what wants a look, is opened through the window. It is shown there when
-// the script begins; `pictures` names the folder for what is seen.
+// Opens a file that gives no unit and has findings, using the open window. The window shows the file when the script
+// begins; `pictures` names the folder for the pictures.
 
 function keepPicture(name) {
     terminal.wait(300);

@@ -146,8 +146,8 @@ OGRPoint placeInside(const OGRGeometry &area)
     return place ? *place->toPoint() : OGRPoint();
 }
 
-/// From metres around the middle (of the UTM zone's grid) to degrees, kept to 8 places so that every computer makes the
-/// same file.
+/// From metres around the middle (in the UTM zone's grid) to degrees, rounded to 8 places so that every computer makes
+/// the same file.
 void placeOnEarth(OGRPolygon &polygon, OGRCoordinateTransformation &toDegrees, double east, double north)
 {
     for (OGRLinearRing *ring : polygon) {
