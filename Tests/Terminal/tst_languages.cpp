@@ -192,12 +192,12 @@ void TestLanguages::whatALoadSaysIsTranslated()
     LoadRequest request;
     request.products = {MachineProduct()};
     request.path = QStringLiteral("/no/such.shp");
-    QTEST(PrescriptionBackend::check(request, 12.0).error, "refusal");
+    QTEST(PrescriptionBackend::checkFile(request, 12.0).error, "refusal");
     request.path = sourcePath("Tests/fixtures/two-strips.geojson");
-    QTEST(PrescriptionBackend::check(request, 12.0).findings.value(0).text, "finding");
+    QTEST(PrescriptionBackend::checkFile(request, 12.0).findings.value(0).text, "finding");
     request.path = sourcePath("Tests/fixtures/overlap.geojson");
     QFETCH(QString, figure);
-    const QString overlap = PrescriptionBackend::check(request, 12.0).findings.last().text;
+    const QString overlap = PrescriptionBackend::checkFile(request, 12.0).findings.last().text;
     QVERIFY2(QRegularExpression(figure).match(overlap).hasMatch(), qPrintable(overlap));
 }
 

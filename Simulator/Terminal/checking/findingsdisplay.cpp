@@ -58,7 +58,7 @@ void FindingsDisplay::check(const LoadReport &report)
     if (!report.isOk() || !window->isVisible())
         return;
     findings.remove(report.group);
-    backend->check(report.group, vehicle->size().width);
+    backend->startCheck(report.group, vehicle->size().width);
     update();
 }
 
@@ -105,7 +105,7 @@ std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> 
     const LoadReport *nearest = nullptr;
     double distance = HUGE_VAL;
     for (const LoadReport &other : others) {
-        const double away = PrescriptionBackend::distanceBetween(other.origin, map.origin);
+        const double away = other.distanceTo(map.origin);
         if (away < distance)
             nearest = &other;
         distance = std::min(distance, away);

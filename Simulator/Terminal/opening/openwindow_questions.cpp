@@ -1,5 +1,5 @@
 // What the open window asks the operator about a file.
-#include "Backend/prescriptionbackend.h"
+#include "Backend/rateunits.h"
 #include "choicepage.h"
 #include "machine.h"
 #include "openmap.h"
@@ -61,8 +61,8 @@ void OpenWindow::askProduct(int index)
         if (!products.at(number - 1).isDriven)
             continue;
         const MachineProduct &product = products.at(number - 1);
-        options.append(QStringLiteral("%1. %2 (%3)")
-                           .arg(QString::number(number), product.name, PrescriptionBackend::baseUnit(product.kind)));
+        options.append(
+            QStringLiteral("%1. %2 (%3)").arg(QString::number(number), product.name, RateUnits::base(product.kind)));
         numbers.append(number);
     }
     ask(tr("Which product does %1 feed?").arg(selection.column(index).name), options,
@@ -77,8 +77,8 @@ void OpenWindow::askUnit(int index)
 {
     askedColumn = index;
     const MachineProduct product = selection.fedProducts().at(selection.product(index) - 1);
-    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name),
-              PrescriptionBackend::rateUnits(product.kind), selection.unit(index), selection.column(index).unit);
+    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name), RateUnits::parts(product.kind),
+              selection.unit(index), selection.column(index).unit);
     showPage(unit);
 }
 

@@ -106,7 +106,7 @@ int runMapCheck(const CommandLine &line)
     for (const QString &path : line.prescriptions) {
         LoadRequest request{path, line.columns, line.sourceUnits, {}, line.layer, line.task};
         adoption.fillRequest(request);
-        const LoadReport report = PrescriptionBackend::check(request, setup.size.width);
+        const LoadReport report = PrescriptionBackend::checkFile(request, setup.size.width);
         if (!report.isOk())
             status = 1;
         else if (!report.findings.isEmpty() && status == 0)

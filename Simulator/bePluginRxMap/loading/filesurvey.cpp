@@ -1,7 +1,6 @@
 #include "filesurvey.h"
 
 #include "columncontent.h"
-#include "legendbuilder.h"
 #include "recordpicture.h"
 #include "tablecolumns.h"
 
@@ -78,32 +77,6 @@ void FileSurvey::measure(const SourceColumn &column, SurveyedColumn &told) const
     }
     told.leastRate = std::min(told.leastRate, told.greatestRate);
     told.shareWithoutRate = records > 0 ? static_cast<double>(without) / records : 0.0;
-}
-
-SurveyedClasses FileSurvey::classesOf(const SurveyReport &survey, int column, double factor, double displayFactor)
-{
-    const auto inBaseUnit = [factor](float rate) { return static_cast<float>(factor * static_cast<double>(rate)); };
-    const QVector<float> &ofRecords = survey.columns.at(column).rates;
-    std::vector<float> rates;
-    std::vector<int> cells;
-    rates.reserve(static_cast<size_t>(survey.records.size()));
-    cells.reserve(static_cast<size_t>(survey.cells.size()));
-    for (const int record : survey.records) {
-        rates.push_back(inBaseUnit(ofRecords.at(record)));
-        if (!survey.cells.isEmpty())
-            cells.push_back(survey.cells.at(record));
-    }
-    const LegendBuilder::Legend legend = LegendBuilder::build(rates, displayFactor, cells);
-    SurveyedClasses classes{legend.classes, legend.hasSingleRates, QByteArray(ofRecords.size(), '\0')};
-    for (int record = 0; record < ofRecords.size(); ++record) {
-        const auto rate = static_cast<double>(inBaseUnit(ofRecords.at(record)));
-        const auto isIn = [rate](const OrvikTypes::RX_RATECOLOR &entry) { return rate <= entry.rate; };
-        // A record without a rate is in no class: the last entry stands for it.
-        const auto entry = std::find_if(legend.classes.begin(), legend.classes.end(), isIn);
-        const auto last = std::max<std::ptrdiff_t>(0, legend.classes.size() - 1);
-        classes.ofRecords[record] = static_cast<char>(std::min<std::ptrdiff_t>(last, entry - legend.classes.begin()));
-    }
-    return classes;
 }
 
 bool FileSurvey::hasRate(int record) const

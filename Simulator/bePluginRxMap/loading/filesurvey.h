@@ -18,8 +18,6 @@ public:
     /// fed, without the file's name; empty when one can.
     QString addColumns(const ColumnPolicy &policy, SurveyReport &report) const;
     void addPicture(SurveyReport &report) const;
-    /// As PrescriptionBackend::classesOf().
-    static SurveyedClasses classesOf(const SurveyReport &survey, int column, double factor, double displayFactor);
 
 private:
     SurveyedColumn describe(int place) const;

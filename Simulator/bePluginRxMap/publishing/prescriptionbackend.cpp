@@ -2,12 +2,9 @@
 
 #include "Backend/backendtext.h"
 #include "columnpolicy.h"
-#include "filesurvey.h"
-#include "localplane.h"
 #include "prescriptionbackendprivate.h"
 #include "prescriptionloader.h"
 #include "prescriptionreader.h"
-#include "rateunit.h"
 
 #include <QEventLoop>
 
@@ -81,45 +78,7 @@ bool PrescriptionBackend::mayBePrescription(const QString &path)
     return PrescriptionReader::mayRead(path);
 }
 
-RateUnitParts PrescriptionBackend::rateUnits(DbGroupProductGroupInfo::RateKind kind)
-{
-    RateUnitParts parts;
-    for (const AmountUnit &amount : UnitTable::amounts()) {
-        const RateUnit unit(&amount, UnitTable::area("ha"));
-        // A unit that the kind reads as another one is left out: that one is in the list itself.
-        if (unit.fits(kind) && unit.of(kind).text() == unit.text())
-            parts.amounts.append(QString::fromLatin1(amount.symbol));
-    }
-    if (parts.amounts.isEmpty() || RateUnit::baseText(kind).isEmpty())
-        return {};
-    for (const AreaUnit &area : UnitTable::areas())
-        parts.areas.append(QString::fromLatin1(area.symbol));
-    return parts;
-}
-
-SurveyedClasses PrescriptionBackend::classesOf(const SurveyReport &survey, int column, double factor,
-                                               double displayFactor)
-{
-    return FileSurvey::classesOf(survey, column, factor, displayFactor);
-}
-
-QString PrescriptionBackend::baseUnit(DbGroupProductGroupInfo::RateKind kind)
-{
-    return RateUnit::baseText(kind);
-}
-
-double PrescriptionBackend::rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind)
-{
-    const RateUnit rateUnit = RateUnit::fromText(unit).of(kind);
-    return rateUnit.isKnown() && rateUnit.fits(kind) ? rateUnit.factorTo(kind) : 0.0;
-}
-
-double PrescriptionBackend::distanceBetween(const QPointF &origin, const QPointF &other)
-{
-    return LocalPlane(origin.x(), origin.y()).distanceTo(other.x(), other.y());
-}
-
-LoadReport PrescriptionBackend::check(const LoadRequest &request, double machineWidth)
+LoadReport PrescriptionBackend::checkFile(const LoadRequest &request, double machineWidth)
 {
     const LoadControl control;
     const std::unique_ptr<LoadedMap> map = PrescriptionLoader(request, {}, control).load();
@@ -133,7 +92,7 @@ LoadReport PrescriptionBackend::check(const LoadRequest &request, double machine
     return map->report;
 }
 
-void PrescriptionBackend::check(const QString &group, double machineWidth)
+void PrescriptionBackend::startCheck(const QString &group, double machineWidth)
 {
     d->check(group, machineWidth);
 }

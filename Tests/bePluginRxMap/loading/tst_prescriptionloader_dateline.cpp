@@ -168,7 +168,7 @@ void PrescriptionLoaderDateLineTest::placesProjectedMapsAcrossTheDateLine()
 
 void PrescriptionLoaderDateLineTest::findsNothingWhereTheDateLineCutsAField()
 {
-    const LoadReport report = PrescriptionBackend::check(
+    const LoadReport report = PrescriptionBackend::checkFile(
         requestFor(writeMap("a.geojson", "GeoJSON", 4326, {{halves(), {1.0}}, {cell(-179.9995), {2.0}}})), 12.0);
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QVERIFY2(report.findings.isEmpty(), qPrintable(report.warnings.join('\n')));

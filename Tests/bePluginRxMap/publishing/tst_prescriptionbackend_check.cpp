@@ -146,7 +146,7 @@ void PrescriptionBackendCheckTest::tells()
     QFETCH(Kind, kind);
     QFETCH(bool, isFound);
     QFETCH(QList<int>, records);
-    const LoadReport report = PrescriptionBackend::check(requestOf(write(sketch, "a.gpkg")), 12.0);
+    const LoadReport report = PrescriptionBackend::checkFile(requestOf(write(sketch, "a.gpkg")), 12.0);
     QVERIFY2(report.isOk(), qPrintable(report.error));
     const QList<MapFinding> findings = ofKind(report, kind);
     QCOMPARE(findings.size(), isFound ? 1 : 0);
@@ -156,7 +156,8 @@ void PrescriptionBackendCheckTest::tells()
 
 void PrescriptionBackendCheckTest::refusesWhatCannotBeLoaded()
 {
-    const LoadReport report = PrescriptionBackend::check(requestOf(folder.filePath(QStringLiteral("no.shp"))), 12.0);
+    const LoadReport report =
+        PrescriptionBackend::checkFile(requestOf(folder.filePath(QStringLiteral("no.shp"))), 12.0);
     QVERIFY(report.error.contains(QStringLiteral("no.shp: there is no such file")));
 }
 
@@ -168,7 +169,7 @@ void PrescriptionBackendCheckTest::checksAPublishedMapBesideTheProgram()
     const LoadReport report = backend.loadAndWait(request);
     QVERIFY2(report.isOk(), qPrintable(report.error));
     QSignalSpy checked(&backend, &PrescriptionBackend::checked);
-    backend.check(report.group, 25.0);
+    backend.startCheck(report.group, 25.0);
     QCOMPARE(checked.count(), 0);
     QVERIFY(checked.wait());
     QCOMPARE(checked.first().at(0).toString(), report.group);
@@ -186,10 +187,10 @@ void PrescriptionBackendCheckTest::saysNothingOfAMapThatIsGone()
     PrescriptionBackend backend(&broker);
     const LoadReport report = backend.loadAndWait(requestOf(write(layerOf("rate", {{field(0), 50.0}}), "a.gpkg")));
     QSignalSpy checked(&backend, &PrescriptionBackend::checked);
-    backend.check(report.group, 12.0);
+    backend.startCheck(report.group, 12.0);
     QVERIFY(backend.unload(report.group));
     const LoadReport again = backend.loadAndWait(requestOf(report.path));
-    backend.check(again.group, 12.0);
+    backend.startCheck(again.group, 12.0);
     QVERIFY(checked.wait());
     QCOMPARE(checked.count(), 1);
 }
@@ -213,7 +214,7 @@ void PrescriptionBackendCheckTest::findsTheOverlapsOfRealMaps()
     const bool hasNoRates = path.endsWith(QLatin1String("parcels.shp"));
     LoadRequest request = requestOf(path, hasNoRates ? QStringList("AREA_HA") : QStringList());
     request.products.first().kind = DbGroupProductGroupInfo::UnknownRate;
-    const LoadReport report = PrescriptionBackend::check(request, 12.0);
+    const LoadReport report = PrescriptionBackend::checkFile(request, 12.0);
     QVERIFY2(report.isOk(), qPrintable(report.error));
     // Every pair of polygons whose boxes meet, by GEOS alone; of a map with more cells than that, the first ones.
     constexpr size_t mostCompared = 2500;

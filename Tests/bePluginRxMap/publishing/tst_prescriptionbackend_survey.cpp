@@ -1,3 +1,4 @@
+#include "Backend/rateunits.h"
 #include "backendtest.h"
 #include "layerwriter.h"
 
@@ -183,8 +184,8 @@ void PrescriptionBackendSurveyTest::aLoadHasTheClassesThatWereTold()
     const LoadReport loaded = backend->loadAndWait(request);
     const SurveyReport report = survey(request);
     const QString chosen = unit.isEmpty() ? report.columns.value(0).unit : unit;
-    const double factor = PrescriptionBackend::rateFactor(chosen, request.products[0].kind);
-    const SurveyedClasses told = PrescriptionBackend::classesOf(report, 0, factor, displayFactor);
+    const double factor = RateUnits::factor(chosen, request.products[0].kind);
+    const SurveyedClasses told = report.classesOf(0, factor, displayFactor);
     QVERIFY(!loaded.hasSingleRates.value(0) && !told.hasSingleRates);
     QCOMPARE(told.legend.size(), loaded.legends.first().size());
     for (int i = 0; i < told.legend.size(); ++i)
@@ -302,7 +303,7 @@ void PrescriptionBackendSurveyTest::aBorderWithoutARateHidesNothing()
 void PrescriptionBackendSurveyTest::classesEachRecord()
 {
     const SurveyReport report = survey(requestFor(fixture("partly-without-rate.geojson")));
-    const SurveyedClasses seed = PrescriptionBackend::classesOf(report, 0, 1.0, 1.0);
+    const SurveyedClasses seed = report.classesOf(0, 1.0, 1.0);
     QCOMPARE(seed.ofRecords.size(), 4);
     QCOMPARE(seed.legend.size(), 3);
     QVERIFY(seed.hasSingleRates);

@@ -1,4 +1,4 @@
-#include "Backend/prescriptionbackend.h"
+#include "Backend/rateunits.h"
 #include "testbase.h"
 
 /// What the back-end says about units of rates.
@@ -29,12 +29,12 @@ void PrescriptionBackendUnitsTest::unitsAreThoseThatRatesOfTheKindAreWrittenIn()
 {
     QFETCH(int, kind);
     const auto rateKind = DbGroupProductGroupInfo::RateKind(kind);
-    const RateUnitParts parts = PrescriptionBackend::rateUnits(rateKind);
+    const RateUnitParts parts = RateUnits::parts(rateKind);
     QTEST(parts.amounts.join(QLatin1Char(' ')), "amounts");
     QCOMPARE(parts.areas.isEmpty(), parts.amounts.isEmpty());
     for (const QString &amount : parts.amounts) {
         for (const QString &area : parts.areas)
-            QVERIFY2(PrescriptionBackend::rateFactor(amount + QLatin1Char('/') + area, rateKind) > 0.0,
+            QVERIFY2(RateUnits::factor(amount + QLatin1Char('/') + area, rateKind) > 0.0,
                      qPrintable(amount + QLatin1Char('/') + area));
     }
 }
@@ -56,7 +56,7 @@ void PrescriptionBackendUnitsTest::takesRatesToBaseUnits()
 {
     QFETCH(QString, unit);
     QFETCH(int, kind);
-    QTEST(PrescriptionBackend::rateFactor(unit, DbGroupProductGroupInfo::RateKind(kind)), "factor");
+    QTEST(RateUnits::factor(unit, DbGroupProductGroupInfo::RateKind(kind)), "factor");
 }
 
 RXMAP_TEST(PrescriptionBackendUnitsTest, Core)

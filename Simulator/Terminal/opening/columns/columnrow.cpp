@@ -1,6 +1,6 @@
 #include "columnrow.h"
 
-#include "Backend/prescriptionbackend.h"
+#include "Backend/rateunits.h"
 #include "listrow.h"
 #include "shownnumber.h"
 #include "theme.h"
@@ -64,7 +64,7 @@ void ColumnRow::show(const OpenSelection &selection, int index)
     unit->setAccessibleName(text.isEmpty() ? tr("Unit") : text);
     unit->setNote(unitNote(selection, index));
     unit->setCaution(selection.withoutUnit().contains(index));
-    unit->setEnabled(number > 0 && !PrescriptionBackend::rateUnits(products.at(number - 1).kind).amounts.isEmpty());
+    unit->setEnabled(number > 0 && !RateUnits::parts(products.at(number - 1).kind).amounts.isEmpty());
 }
 
 QStringList ColumnRow::notes(const SurveyedColumn &column, const QString &unit)

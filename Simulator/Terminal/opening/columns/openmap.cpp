@@ -29,7 +29,7 @@ QList<OpenMap> OpenMap::beside(const OpenSelection &selection, const Machine &ma
         map.isReplaced = !survey.columnProducts.isEmpty() || map.taken.size() == fed.size();
         // Maps of one origin share a plane.
         if (report.origin != survey.origin)
-            map.distance = PrescriptionBackend::distanceBetween(report.origin, survey.origin);
+            map.distance = report.distanceTo(survey.origin);
         maps.append(map);
     }
     return maps;

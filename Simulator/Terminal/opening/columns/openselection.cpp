@@ -1,6 +1,6 @@
 #include "openselection.h"
 
-#include "Backend/prescriptionbackend.h"
+#include "Backend/rateunits.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ void OpenSelection::setProduct(int index, int number)
     entry.product = number;
     entry.isProductChosen = true;
     const MachineProduct *product = fed(index);
-    if (product != nullptr && PrescriptionBackend::rateFactor(entry.unit, product->kind) == 0.0)
+    if (product != nullptr && RateUnits::factor(entry.unit, product->kind) == 0.0)
         entry.unit.clear();
 }
 
@@ -48,14 +48,14 @@ OpenSelection::UnitState OpenSelection::unitState(int index) const
         return UnitState::Assumed;
     const MachineProduct *product = fed(index);
     const bool fits = product == nullptr || product->kind == DbGroupProductGroupInfo::UnknownRate
-        || PrescriptionBackend::rateFactor(unit(index), product->kind) > 0.0;
+        || RateUnits::factor(unit(index), product->kind) > 0.0;
     return fits ? UnitState::Known : UnitState::Unfit;
 }
 
 double OpenSelection::factor(int index) const
 {
     const MachineProduct *product = fed(index);
-    const double factor = product != nullptr ? PrescriptionBackend::rateFactor(unit(index), product->kind) : 0.0;
+    const double factor = product != nullptr ? RateUnits::factor(unit(index), product->kind) : 0.0;
     return factor > 0.0 ? factor : 1.0;
 }
 
@@ -68,8 +68,7 @@ QList<int> OpenSelection::withoutUnit() const
 {
     QList<int> columns;
     for (int index = 0; index < size(); ++index) {
-        const bool mayHaveOne =
-            fed(index) != nullptr && !PrescriptionBackend::rateUnits(fed(index)->kind).amounts.isEmpty();
+        const bool mayHaveOne = fed(index) != nullptr && !RateUnits::parts(fed(index)->kind).amounts.isEmpty();
         if (mayHaveOne && unitState(index) == UnitState::Assumed)
             columns.append(index);
     }
@@ -78,7 +77,7 @@ QList<int> OpenSelection::withoutUnit() const
 
 QString OpenSelection::assumedUnit(int index) const
 {
-    return PrescriptionBackend::baseUnit(fed(index)->kind);
+    return RateUnits::base(fed(index)->kind);
 }
 
 OpenRequest OpenSelection::request() const

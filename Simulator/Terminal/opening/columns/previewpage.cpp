@@ -1,6 +1,5 @@
 #include "previewpage.h"
 
-#include "Backend/prescriptionbackend.h"
 #include "caption.h"
 #include "columntable.h"
 #include "legendpanel.h"
@@ -188,8 +187,7 @@ void PreviewPage::showColumn(int index)
     const SurveyedColumn &column = selection->column(index);
     const int number = selection->product(index);
     const double displayFactor = number > 0 ? selection->fedProducts().at(number - 1).displayFactor : 1.0;
-    const SurveyedClasses classes =
-        PrescriptionBackend::classesOf(selection->survey(), index, selection->factor(index), displayFactor);
+    const SurveyedClasses classes = selection->survey().classesOf(index, selection->factor(index), displayFactor);
     map->show(selection->survey(), classes);
     LegendPanel::Content content;
     content.product = tr("No product");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/rateunitparts.h"
+#include "Backend/rateunits.h"
 
 #include <QStringList>
 #include <QWidget>

@@ -5,6 +5,7 @@
 #include "Backend/ratesource.h"
 
 #include "Framework/rxpolygon.h"
+#include "bePluginRxMap/bepluginrxmapglobal.h"
 
 #include <QList>
 #include <QMetaType>
@@ -63,6 +64,8 @@ struct LoadReport {
     QPointF origin;
 
     bool isOk() const { return error.isEmpty(); }
+    /// Distance over the earth from its plane's origin to another one, metres.
+    BEPLUGINRXMAP_EXPORT double distanceTo(const QPointF &other) const;
 };
 
 Q_DECLARE_METATYPE(LoadReport)

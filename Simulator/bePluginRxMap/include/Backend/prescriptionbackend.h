@@ -3,7 +3,6 @@
 #include "Backend/columnshares.h"
 #include "Backend/loadreport.h"
 #include "Backend/loadrequest.h"
-#include "Backend/rateunitparts.h"
 #include "Backend/surveyreport.h"
 
 #include "bePluginRxMap/bepluginrxmapglobal.h"
@@ -42,27 +41,15 @@ public:
     /// Starts to look at a file without publishing anything; waits its turn as a load does, and surveyed() follows.
     /// Columns and units of the request are ignored.
     void survey(const LoadRequest &request);
-    /// The classes that a load makes of a surveyed column (by place), for a product with that display factor. `factor`
-    /// takes the column's rates to the product's base unit, in which the limits are.
-    static SurveyedClasses classesOf(const SurveyReport &survey, int column, double factor, double displayFactor);
     /// Whether a file of that name, or a folder with what it holds, may be a prescription.
     static bool mayBePrescription(const QString &path);
-    /// The units in which rates of that kind are written; no parts for a kind that is not written as an amount per
-    /// area.
-    static RateUnitParts rateUnits(DbGroupProductGroupInfo::RateKind kind);
-    /// The unit in which rates of that kind are kept; empty for an unknown kind.
-    static QString baseUnit(DbGroupProductGroupInfo::RateKind kind);
-    /// Factor from that unit ("lb/ac") to the base unit of the kind; 0 if it is not a unit for such rates.
-    static double rateFactor(const QString &unit, DbGroupProductGroupInfo::RateKind kind);
-    /// Distance over the earth from one plane's origin to another's (LoadReport::origin), metres.
-    static double distanceBetween(const QPointF &origin, const QPointF &other);
 
     /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
     /// report's findings are those of the load and those of the check.
-    static LoadReport check(const LoadRequest &request, double machineWidth);
+    static LoadReport checkFile(const LoadRequest &request, double machineWidth);
     /// Starts to check a published map in a thread of its own. checked() follows, unless the map is loaded again or
     /// unloaded before.
-    void check(const QString &group, double machineWidth);
+    void startCheck(const QString &group, double machineWidth);
 
     /// Cancels the load in progress and those waiting; each finishes with an error that says so.
     void cancel();

@@ -4,6 +4,7 @@
 #include "Backend/ratesource.h"
 
 #include "Framework/rxpolygon.h"
+#include "bePluginRxMap/bepluginrxmapglobal.h"
 
 #include <QByteArray>
 #include <QList>
@@ -80,6 +81,9 @@ struct SurveyReport {
     QVector<int> recordAtPixel;
 
     bool isOk() const { return error.isEmpty(); }
+    /// The classes that a load makes of a column (by place), for a product with that display factor. `factor` takes the
+    /// column's rates to the product's base unit, in which the limits are.
+    BEPLUGINRXMAP_EXPORT SurveyedClasses classesOf(int column, double factor, double displayFactor) const;
 };
 
 Q_DECLARE_METATYPE(SurveyReport)
