@@ -36,7 +36,7 @@ public:
     void setProducts(const Products &products);
     /// The products as a load takes them, with the default rates in use, which the operator may have changed.
     QList<MachineProduct> loadedProducts() const;
-    /// Take rates from base units to the operator's, by kind; none for an unknown kind.
+    /// Factors that convert rates from base units to the operator's, by kind; there is none for an unknown kind.
     using DisplayFactors = QMap<DbGroupProductGroupInfo::RateKind, double>;
     DisplayFactors displayFactors() const;
     /// Products as a load takes them. May be called in any thread.
@@ -78,7 +78,7 @@ private:
         DbGroupBin *bin;
     };
 
-    /// Puts the products' default rates to use.
+    /// Puts the products' default rates into use.
     void useDefaultRates();
     void publishTerminal();
     void publishProduct(int number);

@@ -11,8 +11,8 @@
 class Machine;
 struct LoadReport;
 
-/// Whose products a prescription is loaded for: the machine's, or those made from its columns, which the machine then
-/// adopts. A product that stays what it was keeps the default rate that the operator set.
+/// Decides which products a prescription is loaded for: the machine's, or those made from its columns, which the
+/// machine then adopts. A product that stays the same keeps the default rate that the operator set.
 class ProductAdoption : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     /// The machine's products are placeholders for those of the next prescription loaded. From then on files that an
     /// operator previews may bring theirs.
     void adoptFromNextFile();
-    /// With a map loaded, the next prescription brings no products.
+    /// If a map is loaded, the next prescription brings no products any more.
     void endWithMapLoaded();
     /// While `condition` holds, previewed files bring no products.
     void keepProductsWhile(const std::function<bool()> &condition) { keepsProducts = condition; }

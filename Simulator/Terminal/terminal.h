@@ -77,7 +77,7 @@ public:
     /// report for each. A product that no prescription may drive is left out, with a warning. Each product takes its
     /// column from the first file that has it. When no columns are named, the most likely ones of each file feed the
     /// products that no file before it feeds; once all are fed, a file takes products over. A file that is to feed
-    /// nothing is not opened: its report names no group. Where no file has a column that is named, one report tells so,
+    /// nothing is not opened: its report names no group. If a named column is in no file, a single report says so,
     /// without a path.
     QList<LoadReport> open(const OpenRequest &request);
     /// False when there is no such map.

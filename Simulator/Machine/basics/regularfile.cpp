@@ -25,7 +25,7 @@ QString openOutput(QFile &file)
     if (probe < 0 && errno == ENXIO)
         return QStringLiteral("is a pipe that nobody reads");
     const bool isOpen = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    // Not before: a reader would take the probe's end for that of the content.
+    // Closed only now: a reader would take the probe's end for the end of the content.
     if (probe >= 0)
         close(probe);
     return isOpen ? QString() : file.errorString();

@@ -30,7 +30,7 @@ struct Product {
     static ActuatorSettings usualActuator(Kind kind);
     /// The kind by which the rate is counted: what a carrier node meters is a plain volume.
     DbGroupProductGroupInfo::RateKind rateKind() const;
-    /// Whether it is called and measured as the other one.
+    /// Whether it has the same name as the other one and is measured in the same way.
     bool isSameAs(const Product &other) const { return name == other.name && kind == other.kind; }
 };
 

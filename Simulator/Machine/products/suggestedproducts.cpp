@@ -62,7 +62,7 @@ Products spareProducts(const QList<ColumnProduct> &columns)
     return spare;
 }
 
-/// The next of the standard products that are left, else one of its own.
+/// The next remaining standard product; when none is left, a product named by its number.
 Product nextSpare(Products &spare, int number)
 {
     const QString name = ProductFile::tr("Product %1").arg(number);

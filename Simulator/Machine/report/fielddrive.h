@@ -30,7 +30,7 @@ public:
     static SwathOptions usualOptions(const Simulation &simulation);
     /// The field of the loaded prescriptions that share a plane with the active product's; empty without any.
     static FieldArea field(const Simulation &simulation);
-    /// A way over that field. The reason when there is none.
+    /// A way over that field, or the reason why there is none.
     static Result<DrivePath> plan(const Simulation &simulation, const SwathOptions &options);
 
     /// Puts the machine at the path's start. `simulation` is not owned and outlives the drive.

@@ -164,7 +164,7 @@ bool DriveControls::planSwaths()
     return path.isOk();
 }
 
-/// In the operator's language and units; the reason that the way is refused with is for scripts.
+/// In the operator's language and units; the reason with which planning refuses the way is meant for scripts.
 QString DriveControls::whyNot(const SwathOptions &options) const
 {
     const FieldArea field = FieldDrive::field(*simulation);

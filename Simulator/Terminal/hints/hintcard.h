@@ -34,7 +34,7 @@ private:
     void close();
     bool hasKeyboard() const;
 
-    QPointer<QWidget> before; ///< What had the keyboard when the card came.
+    QPointer<QWidget> before; ///< What had the keyboard when the card opened.
     QLabel *heading;
     QLabel *body;
     TouchButton *button;

@@ -64,7 +64,7 @@ void dropSettingsOfOtherPrograms()
     qputenv("GDAL_CONFIG_FILE", "/dev/null");
 }
 
-/// By default the allocator comes to keep blocks of up to 32 MB. Most belong to loading threads, and it never gives
+/// By default the allocator ends up keeping blocks of up to 32 MB. Most belong to loading threads, and it never gives
 /// those back: 150 bytes for each cell of a map.
 void giveLargeBlocksBack()
 {

@@ -111,7 +111,7 @@ QString openAll(Terminal &terminal, const QStringList &paths, const CommandLine 
 {
     const QList<LoadReport> reports = terminal.open({paths, line.columns, line.sourceUnits, line.layer, line.task});
     for (const LoadReport &report : reports) {
-        // What no single file is to blame for is that none has a column that was named.
+        // An error without a path belongs to no single file: none of them has a column that was named.
         if (!report.isOk())
             return report.path.isEmpty() ? QStringLiteral("--columns: %1").arg(report.error) : report.error;
         tellWarnings(report);

@@ -17,7 +17,8 @@
 
 namespace {
 
-/// Progress is reported in steps of at least this share, and at most so often: each report wakes the other thread.
+/// The smallest step, as a share, and the shortest interval in which progress is reported: each report wakes the other
+/// thread.
 constexpr double progressStep = 0.01;
 constexpr qint64 progressIntervalMs = 1;
 
@@ -153,7 +154,7 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
     if (map->report.isOk() && job->cancelled)
         map->report = refuse(map->report.path, BackendText::tr("loading was cancelled"));
     const bool isChange = map->report.isOk();
-    // Listeners may do anything, even delete the back-end, which then tells itself how the load ended.
+    // Listeners may do anything, even delete the back-end, whose destructor then reports how the load ended.
     const QPointer<PrescriptionBackend> backend = q;
     if (isChange && !map->report.columnProducts.isEmpty())
         Q_EMIT q->productsMade(map->report.columnProducts);

@@ -47,7 +47,7 @@ size_t placeOf(float rate)
 /// A limit for each rate that is shown differently: the greatest of those shown alike. Empty when there are too many.
 std::vector<double> singleRates(const std::vector<float> &finite, double factor)
 {
-    // The last rate of each place: most are found here, in a tenth of the time that the set takes.
+    // The latest rate that fell on each place: most rates are found here, in a tenth of the time that the set takes.
     std::array<float, 256> recent;
     recent.fill(std::numeric_limits<float>::quiet_NaN());
     std::unordered_set<float> known;

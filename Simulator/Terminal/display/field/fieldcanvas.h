@@ -39,7 +39,7 @@ private:
 
     QOpenGLContext context;
     QOffscreenSurface surface;
-    /// The context was current on the surface once.
+    /// Whether the context has been made current on the surface at least once.
     bool isReady = false;
     Edges drawnEdges = Edges::Plain;
     QScopedPointer<QOpenGLFramebufferObject> drawn;

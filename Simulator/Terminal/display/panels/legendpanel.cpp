@@ -17,7 +17,7 @@ constexpr int inset = 14;
 constexpr int headTop = 10;
 constexpr int productPixels = 22;
 constexpr int productHeight = 28;
-/// Of a name that takes two lines: what tells it from another one may stand anywhere in it.
+/// For a name that takes two lines, since what tells it from another name may stand anywhere in it.
 constexpr int longProductPixels = 17;
 constexpr int longProductHeight = 21;
 constexpr int columnPixels = 16;
@@ -56,7 +56,7 @@ QFont fittingFont(const QStringList &texts, int pixels, int width, bool isBold)
     return Theme::font(std::max(fitting, minText), isBold);
 }
 
-/// A name in one line, else in the smaller font in as many as it may take.
+/// A name on one line; if it does not fit, in the smaller font on as many lines as it may take.
 QStringList nameLines(const QString &name, const QFont &font, const QFont &smaller)
 {
     const bool fits = QFontMetrics(font).horizontalAdvance(name) <= innerWidth;

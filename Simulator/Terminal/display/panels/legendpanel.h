@@ -51,7 +51,7 @@ private:
     QString sourceText() const;
     /// Smaller for many classes, so that they fit between the other panels.
     int rowHeight() const;
-    /// The head's part for the product's and the column's name; and all of it.
+    /// The heights of the head's part for the product's and the column's name, and of the whole head.
     int namesHeight() const;
     int headHeight() const;
     void drawNames(QPainter &painter, const QRect &inner) const;

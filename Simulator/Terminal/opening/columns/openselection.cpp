@@ -89,7 +89,7 @@ OpenRequest OpenSelection::request() const
     for (ColumnProduct &product : made) {
         const bool isFed = std::any_of(entries.begin(), entries.end(),
                                        [&product](const Entry &entry) { return entry.product == product.number; });
-        // Nobody would know what it is.
+        // Without its column, such a name would mean nothing to anybody.
         if (!isFed && !product.isNamed)
             product.name.clear();
     }

@@ -32,7 +32,8 @@ public:
     void focusChosen();
     /// Offers a sample file, for an operator without files, in a place of its own; nothing if the file does not exist.
     void offerSample(const QString &path);
-    /// Places of their own, in place of those offered before. The last ones, where there is no room for all.
+    /// Offers these folders as places of their own, replacing those offered before. If there is no room for all, the
+    /// last ones are offered.
     void offerVolumes(const QStringList &folders);
     Pager *pager() const { return pages; }
 
@@ -44,7 +45,7 @@ Q_SIGNALS:
 private:
     enum class Place { Recent, Open, Folder };
 
-    /// Where a list was left.
+    /// Where the operator left a list.
     struct Spot {
         QString path;   ///< Path of the entry that was chosen, or of the first one on the page turned to.
         int index = 0;  ///< Its place in the list at that time.
@@ -75,7 +76,7 @@ private:
     TouchButton *sample = nullptr;
     TouchButton *up = nullptr;
     QList<TouchButton *> volumes;
-    QStringList volumeFolders; ///< One for each of the buttons that are seen.
+    QStringList volumeFolders; ///< One for each visible button.
     QList<ListRow *> rows;
     QList<TouchButton *> closers; ///< One beside each row.
     Pager *pages;

@@ -55,7 +55,7 @@ std::optional<Range> joinRing(RawPrescription &map, const SourceRing &ring)
     return rangeOf(map.xs, ring.first, ring.count);
 }
 
-/// Whole turns that take a longitude next to another.
+/// The whole turns, in degrees, that bring a longitude next to another one.
 double turnsTo(double middle, double longitude)
 {
     return fullTurn * std::round((middle - longitude) / fullTurn);

@@ -8,9 +8,9 @@ struct RawPrescription;
 /// (or -180) instead, so that its coordinates are as near each other as its places.
 class DateLine {
 public:
-    /// Moves polygons of a map in longitudes and latitudes by full turns until they lie beside each other. A ring that
-    /// is wider than half the earth counts as one across the date line. Polygons across the zero meridian stay where
-    /// they are, as do coordinates that are not longitudes.
+    /// Moves polygons of a map in longitudes and latitudes by full turns until they lie beside each other. A ring wider
+    /// than half the earth is taken to lie across the date line. Polygons across the zero meridian stay where they are,
+    /// as do coordinates that are not longitudes.
     static void join(RawPrescription &map);
     /// Moves longitudes by full turns until none is more than half a turn from the first.
     static void join(std::vector<double> &longitudes);

@@ -66,7 +66,7 @@ Square coefficients(const Square &powers, const Square &values, std::size_t size
     return result;
 }
 
-/// The polynomials on one parallel of latitude, where only powers of u are left.
+/// The polynomials on one parallel of latitude, where only powers of u remain.
 struct Parallel {
     double y = std::numeric_limits<double>::quiet_NaN();
     Places forX = {};
@@ -97,7 +97,7 @@ template <std::size_t count> double valueAt(const Places &coefficients, double u
 
 template <std::size_t count> void ProjectionApproximation::applyTerms(std::size_t places, double *xs, double *ys) const
 {
-    // The two that were asked for last: neighbours in a file share them, all the more so the cells of a grid.
+    // The two parallels used last: neighbours in a file share them, especially the cells of a grid.
     std::array<Parallel, 2> parallels;
     std::size_t at = 0;
     for (std::size_t i = 0; i < places; ++i) {

@@ -20,7 +20,7 @@ struct ColumnProduct {
     double typicalRate = std::numeric_limits<double>::quiet_NaN();
     /// What the file gives for places without a prescription (PlaceRates); not a number where it gives nothing.
     double givenRate = std::numeric_limits<double>::quiet_NaN();
-    /// The name is that of a product, not of the column alone ("Rate").
+    /// Whether the name is that of a product, not just of the column ("Rate").
     bool isNamed = true;
 
     /// The rate that suits places without a prescription.

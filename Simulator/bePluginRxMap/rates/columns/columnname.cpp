@@ -64,7 +64,7 @@ const QSet<QString> &totalWords()
     return words;
 }
 
-/// Of what no rate is, but for totals.
+/// Words for what is not a rate, except those for totals.
 const QSet<QString> &wordsOfOthers()
 {
     static const QSet<QString> words = wordSet(

@@ -17,7 +17,7 @@ public:
     /// Names something that is not a rate: an identifier, size, total, extent, place, yield, something found in the
     /// soil.
     bool namesOther() const;
-    /// Of what no rate is names a total, and nothing else.
+    /// Names a total, and nothing else that is not a rate.
     bool namesTotal() const;
     /// Names the unit of a rate that stands in another column: "Unit", "RateUOM".
     bool namesUnit() const;
@@ -31,7 +31,7 @@ public:
     /// What is left of the name without words for a rate and without its unit, spelled readably: "Urea" for
     /// "UREA_KG_HA". The whole name where nothing is left.
     QString product() const;
-    /// Whether anything of it names the product.
+    /// Whether any part of the name names a product.
     bool namesProduct() const { return !productWords().isEmpty(); }
     /// How the product is measured, by a word for it, else by the rate's unit.
     ProductLineItem::Basis basis() const;
@@ -40,9 +40,9 @@ private:
     bool hasRateWord() const;
     bool endsInArea() const;
     bool namesSoilContent() const;
-    /// Its words that name what no rate is.
+    /// Its words that name something that is not a rate.
     QStringList otherWords() const;
-    /// What is left of it, spelled to be read; none where that says nothing.
+    /// The remaining words, spelled readably; none if they say nothing.
     QStringList productWords() const;
 
     QString whole;

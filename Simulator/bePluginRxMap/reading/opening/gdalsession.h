@@ -10,8 +10,8 @@ public:
     GdalSession();
     ~GdalSession();
 
-    /// The first failure reported so far, one line; empty when there was none. That a database is damaged is said in
-    /// the operator's language before GDAL's own words.
+    /// The first failure reported so far, one line; empty when there was none. For a damaged database the text begins
+    /// in the operator's language, before GDAL's own words.
     QString firstFailure() const;
     /// Takes what GDAL reports; for GDAL's callback.
     void takeReport(int severity, const char *text);

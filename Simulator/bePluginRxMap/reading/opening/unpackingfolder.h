@@ -12,7 +12,7 @@ public:
     UnpackingFolder();
     ~UnpackingFolder();
 
-    /// Whether it is there and others are kept from removing it.
+    /// Whether the folder exists, and other processes are kept from removing it.
     bool isValid() const { return folder.isValid() && problem.isEmpty(); }
     QString path() const { return folder.path(); }
     QString error() const { return folder.isValid() ? problem : folder.errorString(); }
@@ -23,5 +23,5 @@ private:
     QTemporaryDir folder;
     /// A descriptor of the folder whose lock says that it is in use.
     int inUse;
-    QString problem; ///< Why it cannot be locked.
+    QString problem; ///< Why the folder cannot be locked.
 };

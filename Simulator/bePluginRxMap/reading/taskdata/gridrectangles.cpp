@@ -36,7 +36,7 @@ int cellsWithin(double length, double cellLength, qint64 most)
 qint64 equalBytes(const char *one, const char *other, qint64 count)
 {
     qint64 equal = 0;
-    // As much at once as the library compares in step, then words, then bytes.
+    // First in blocks as large as the library compares at once, then in words, then in bytes.
     const auto pass = [one, other, count, &equal](auto block) {
         while (equal + block <= count && std::memcmp(one + equal, other + equal, block) == 0)
             equal += block;

@@ -40,7 +40,7 @@ private:
     const char *cell(int row, int column) const;
     /// The place after the cells that hold the same from `column` on, in the row being taken.
     int endOfRun(int column) const;
-    /// Whether the rectangle, which reaches up to the row that is taken, goes on with a run from `column` on.
+    /// Whether a run from `column` on continues the rectangle, which reaches up to the row being taken.
     bool goesOn(const CellRectangle &rectangle, int column) const;
 
     const QByteArray &cells;
