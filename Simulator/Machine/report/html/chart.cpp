@@ -12,7 +12,7 @@ namespace {
 // Pixels of the picture; the plot lies within the margins.
 constexpr double width = 640.0;
 constexpr double height = 260.0;
-const QRectF plot(64.0, 24.0, width - 64.0 - 16.0, height - 24.0 - 48.0);
+const QRectF plot(76.0, 24.0, width - 76.0 - 16.0, height - 24.0 - 48.0);
 
 QString pixels(double value)
 {

@@ -12,11 +12,11 @@
 namespace {
 
 constexpr double metresOfFoot = 0.3048;
+constexpr double squareFoot = metresOfFoot * metresOfFoot / 10000.0; // Hectares.
 
 /// Of the area by which that system's rates go.
 double hectaresOf(UnitSystem units)
 {
-    constexpr double squareFoot = metresOfFoot * metresOfFoot / 10000.0;
     switch (units) {
     case UnitSystem::Us:
         return 43560.0 * squareFoot;
@@ -66,13 +66,19 @@ ReportUnits::ReportUnits(const Machine &machine, int number)
         amountUnitText = rateUnitText.section(QLatin1Char('/'), 0, 0);
 }
 
+double ReportUnits::area(double squareMetres) const
+{
+    // Behind a number "1000 ft²" would read as one more number.
+    return squareMetres / (10000.0 * (units == UnitSystem::Turf ? squareFoot : hectaresOfArea));
+}
+
 QString ReportUnits::areaUnit() const
 {
     switch (units) {
     case UnitSystem::Us:
         return QStringLiteral("ac");
     case UnitSystem::Turf:
-        return QStringLiteral("1000 ft\u00b2");
+        return QStringLiteral("ft\u00b2");
     case UnitSystem::Metric:
         break;
     }

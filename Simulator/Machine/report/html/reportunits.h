@@ -27,7 +27,7 @@ public:
     double amount(double base) const { return rateFactor * base / hectaresOfArea; }
     QString amountUnit() const { return amountUnitText; }
     /// From square metres.
-    double area(double squareMetres) const { return squareMetres / (10000.0 * hectaresOfArea); }
+    double area(double squareMetres) const;
     QString areaUnit() const;
     /// From metres.
     double length(double metres) const;
