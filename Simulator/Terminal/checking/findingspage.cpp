@@ -5,14 +5,17 @@
 #include "theme.h"
 #include "touchbutton.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QScroller>
+
+#include <cstdlib>
 
 FindingsPage::FindingsPage(QWidget *parent)
     : QWidget(parent)
@@ -38,7 +41,6 @@ FindingsPage::FindingsPage(QWidget *parent)
         if (now != nullptr && area->isAncestorOf(now))
             area->ensureWidgetVisible(now);
     });
-    QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
 
     auto *head = new QHBoxLayout;
     head->addWidget(heading, 1);
@@ -63,12 +65,34 @@ void FindingsPage::setEntries(const QList<Entry> &entries)
         auto *row = new FindingRow(entries.at(i).finding, entries.at(i).file, list);
         row->setObjectName(QStringLiteral("finding%1").arg(i));
         connect(row, &FindingRow::clicked, this, [this, i] { Q_EMIT chosen(i); });
+        row->installEventFilter(this);
         rows->addWidget(row);
     }
     rows->addStretch();
+    list->installEventFilter(this);
     area->setWidget(list);
     list->setAutoFillBackground(false);
     area->verticalScrollBar()->setValue(scrolled);
+}
+
+/// Scrolls the list with the finger on it. Qt's own scroller looks for what is on the screen under the finger, and the
+/// display itself is not.
+bool FindingsPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        drag = {static_cast<QMouseEvent *>(event)->globalPos().y(), area->verticalScrollBar()->value(), false};
+    } else if (event->type() == QEvent::MouseMove) {
+        constexpr int leastDrag = Theme::touchTarget / 4;
+        const int moved = drag.from - static_cast<QMouseEvent *>(event)->globalPos().y();
+        drag.isUnderWay = drag.isUnderWay || std::abs(moved) >= leastDrag;
+        if (drag.isUnderWay)
+            area->verticalScrollBar()->setValue(drag.scrolled + moved);
+        // A row that is no longer down is not chosen when the finger leaves it.
+        if (auto *row = qobject_cast<QAbstractButton *>(watched); row != nullptr && drag.isUnderWay)
+            row->setDown(false);
+        return drag.isUnderWay;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void FindingsPage::keyPressEvent(QKeyEvent *event)

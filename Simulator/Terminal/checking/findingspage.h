@@ -34,10 +34,19 @@ Q_SIGNALS:
     void chosen(int number);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Of a finger over the list: pixels from the top where it came down, and how far the list was scrolled then.
+    struct Drag {
+        int from = 0;
+        int scrolled = 0;
+        bool isUnderWay = false;
+    };
+
     QLabel *heading;
     QScrollArea *area;
+    Drag drag;
 };
