@@ -54,8 +54,9 @@ RatePlot::Axes RatePlot::axes(const QRectF &area, const Samples &samples, double
     // Rates that hardly differ must not look as if they did.
     constexpr double leastShare = 0.1;
     constexpr double steps = 2.0;
-    const double spread = std::max({axes.most - axes.least, leastShare * axes.most, 1e-6});
-    axes.step = roundStep(spread / steps);
+    constexpr double leastSpread = 1e-6;
+    const double spread = std::max(axes.most - axes.least, leastShare * axes.most);
+    axes.step = roundStep((spread > leastSpread ? spread : steps) / steps);
     axes.least = axes.step * std::floor(axes.least / axes.step);
     axes.most = std::max(axes.step * std::ceil(axes.most / axes.step), axes.least + axes.step);
     return axes;

@@ -24,7 +24,8 @@ bool isFigure(RateRow::Column column)
 
 bool fits(const QString &text, const QFont &font, int width)
 {
-    return QFontMetrics(font).horizontalAdvance(text) <= width;
+    // Qt elides what is too long by a fraction of a pixel.
+    return QFontMetricsF(font).horizontalAdvance(text) <= width;
 }
 
 /// Where a column's text goes in a row.

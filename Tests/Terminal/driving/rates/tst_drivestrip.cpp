@@ -21,6 +21,7 @@ private Q_SLOTS:
     void cleanup();
     void aRowTellsRatesUnitAndSource_data();
     void aRowTellsRatesUnitAndSource();
+    void figuresAreDrawnWhole();
     void aProductThatNoPrescriptionDrivesIsNotControlled();
     void ratesAreInTheOperatorsUnit();
     void aTouchedRowMakesItsProductTheActiveOne();
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void theHistoryIsHalfAMinuteLong();
     void thePlotShowsTheStepWhereItIsApplied();
     void thePlotNamesItsAxes();
+    void aPlotOfNothingHasAScale();
     void stepsShareADrawing();
 
 private:
@@ -99,6 +101,17 @@ void TestDriveStrip::aRowTellsRatesUnitAndSource()
     RateTable table(&bench->simulation);
     QTEST(row(table, 0), "texts");
     QCOMPARE(row(table, 1), (QStringList{"Fertiliser", "\u2013", "\u2013", "\u2013", "kg/ha", "Not controlled"}));
+}
+
+void TestDriveStrip::figuresAreDrawnWhole()
+{
+    bench->place({0, 0}, 0.0, 1.0);
+    for (const double rate : {12345.0, 20909.0, 44444.0, 99999.0, 123456.0}) {
+        QVERIFY(bench->loadZones({{-100, 100, rate}}).isOk());
+        bench->simulation.run(5.0);
+        RateTable table(&bench->simulation);
+        QCOMPARE(row(table, 0).value(1), QLocale(QLocale::English).toString(int(rate)));
+    }
 }
 
 void TestDriveStrip::aProductThatNoPrescriptionDrivesIsNotControlled()
@@ -299,6 +312,18 @@ void TestDriveStrip::thePlotNamesItsAxes()
         QVERIFY2(texts.contains(QString::fromUtf8(text)), qPrintable(texts.join(QLatin1Char('|'))));
     bench->machine.setActiveProduct(2);
     QVERIFY(paintedTexts(plot).contains(QStringLiteral("kg/ha")));
+}
+
+void TestDriveStrip::aPlotOfNothingHasAScale()
+{
+    RateHistory history(&bench->simulation);
+    history.setKept(true);
+    bench->simulation.run(1.0);
+    RatePlot plot(&bench->machine, &history);
+    plot.resize(277, 164);
+    const QStringList texts = paintedTexts(plot);
+    QCOMPARE(texts.count(QStringLiteral("0")), 1);
+    QVERIFY2(texts.contains(QStringLiteral("1.00")), qPrintable(texts.join(QLatin1Char('|'))));
 }
 
 void TestDriveStrip::stepsShareADrawing()
