@@ -15,6 +15,8 @@ constexpr int textPixels = 24;
 constexpr int notePixels = 15;
 /// A text is made no smaller than this; a longer one goes on in another line.
 constexpr int leastPixels = 15;
+/// A single word is made smaller than that rather than broken.
+constexpr int leastWordPixels = 13;
 constexpr int inset = 10;
 
 } // namespace
@@ -86,8 +88,9 @@ void TouchButton::drawTexts(QPainter &painter, const ButtonLook &look) const
 
     QFont font = Theme::font(textPixels, true);
     const double needed = QFontMetricsF(font).horizontalAdvance(text());
+    const int least = text().contains(QLatin1Char(' ')) ? leastPixels : leastWordPixels;
     if (needed > inner.width())
-        font.setPixelSize(std::max(leastPixels, int(textPixels * inner.width() / needed)));
+        font.setPixelSize(std::max(least, int(textPixels * inner.width() / needed)));
     painter.setFont(font);
     painter.setPen(look.text);
     const QFontMetrics metrics(font);

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void itIsBigEnoughForAGlove();
     void itShowsItsTextAndItsNote();
     void aTextThatIsTooLongTakesSeveralLines();
+    void aWordIsWrittenSmallerRatherThanBroken();
     void colorsTellItsState();
     void theKeyboardReachesIt();
     void aSymbolStandsForTheText();
@@ -63,6 +64,13 @@ void TestTouchButton::aTextThatIsTooLongTakesSeveralLines()
     // A text that is only a little too long is written smaller instead.
     button.setText(QStringLiteral("Fertiliser"));
     QCOMPARE(paintedTexts(button).first(), QStringLiteral("Fertiliser"));
+}
+
+void TestTouchButton::aWordIsWrittenSmallerRatherThanBroken()
+{
+    TouchButton button(QStringLiteral("Parcelle"));
+    button.resize(button.sizeHint());
+    QCOMPARE(paintedTexts(button), QStringList{"Parcelle"});
 }
 
 void TestTouchButton::colorsTellItsState()
