@@ -1,6 +1,7 @@
 #include "drivepanel.h"
 
 #include "drivecontrols.h"
+#include "readout.h"
 #include "theme.h"
 #include "touchbutton.h"
 #include "wheelbar.h"
@@ -49,12 +50,9 @@ TouchButton *DrivePanel::add(const QString &text, const char *name, const QStrin
 
 QLabel *DrivePanel::addReadout(const char *name)
 {
-    auto *label = new QLabel(this);
-    label->setObjectName(QLatin1String(name));
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    label->setFont(Theme::font(20, true));
-    return label;
+    auto *readout = new Readout(this);
+    readout->setObjectName(QLatin1String(name));
+    return readout;
 }
 
 void DrivePanel::addDriving()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void aTouchDoesWhatTheButtonSays();
+    void aUnitIsNotBroken();
     void pedalsAndWheelAreThereByHand();
     void itShowsWhatAScriptDoes();
     void followingIsAskedForAndShown();
@@ -100,6 +101,16 @@ void TestDrivePanel::aTouchDoesWhatTheButtonSays()
     bench->simulation.run(1.0);
     QVERIFY(vehicle.isStopped());
     QTRY_VERIFY(!isChecked("driveStart"));
+}
+
+void TestDrivePanel::aUnitIsNotBroken()
+{
+    for (int speed = 11; speed >= 8; --speed) {
+        touch("speedDown");
+        QTRY_COMPARE(find<QLabel>("driveSpeed")->text(), QStringLiteral("%1.0 km/h").arg(speed - 1));
+        const QStringList painted = paintedTexts(*find<QLabel>("driveSpeed"));
+        QVERIFY2(painted.last() == QLatin1String("km/h"), qPrintable(painted.join(QLatin1Char('|'))));
+    }
 }
 
 void TestDrivePanel::pedalsAndWheelAreThereByHand()

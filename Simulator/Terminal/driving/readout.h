@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QLabel>
+
+/// A figure with its unit in the middle of its place, on two lines where one is too short; units stay whole.
+class Readout : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit Readout(QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
