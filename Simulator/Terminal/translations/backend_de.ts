@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>, beside %1</source>
-        <translation>, neben %1</translation>
+        <translation>, angrenzend an %1</translation>
     </message>
     <message>
         <source>parts of %1 overlap on %2</source>
