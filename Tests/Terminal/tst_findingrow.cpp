@@ -3,6 +3,8 @@
 #include "testbase.h"
 #include "theme.h"
 
+#include <algorithm>
+
 /// A finding in the list of the map check.
 class TestFindingRow : public TestBase {
     Q_OBJECT
@@ -11,6 +13,7 @@ private Q_SLOTS:
     void titleAndTextStandTogether_data();
     void titleAndTextStandTogether();
     void aLongTextIsToldWhole();
+    void whatHasNoPlaceIsAsLegible();
 
 private:
     static QString longText();
@@ -62,6 +65,22 @@ void TestFindingRow::aLongTextIsToldWhole()
     row.resize(1000, FindingRow::rowHeight);
     const QStringList painted = paintedTexts(row);
     QCOMPARE(painted.mid(1).join(QLatin1Char(' ')), longText());
+}
+
+void TestFindingRow::whatHasNoPlaceIsAsLegible()
+{
+    MapFinding finding;
+    finding.text = QStringLiteral("the unit is not known");
+    FindingRow row(finding, {});
+    QVERIFY(!row.isEnabled());
+    row.resize(1000, FindingRow::rowHeight);
+    const QImage image = row.grab().toImage();
+    int darkest = 255;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            darkest = std::min(darkest, qGray(image.pixel(x, y)));
+    }
+    QVERIFY2(darkest <= qGray(Theme::colors().text.rgb()) + 10, qPrintable(QString::number(darkest)));
 }
 
 RXMAP_TEST(TestFindingRow, Widgets)

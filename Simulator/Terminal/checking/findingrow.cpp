@@ -58,7 +58,8 @@ void FindingRow::paintEvent(QPaintEvent *)
     const QFont textFont = Theme::font(textPixels);
     const QStringList lines = TextLines::of(text(), QFontMetrics(textFont), width, mostLines);
     QRect line(inset, (height() - titleHeight - lines.size() * textHeight) / 2, width, titleHeight);
-    painter.setPen(look.text);
+    // What has no place cannot be touched, but says no less.
+    painter.setPen(isEnabled() ? look.text : Theme::colors().text);
     painter.setFont(Theme::font(titlePixels, true));
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft,
                      painter.fontMetrics().elidedText(title, Qt::ElideMiddle, width));
