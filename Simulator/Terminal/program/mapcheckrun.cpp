@@ -60,10 +60,17 @@ QJsonObject jsonOf(const LoadReport &report)
     return file;
 }
 
+QString lineOf(const LoadReport &report, const MapFinding &finding)
+{
+    return QStringLiteral("%1: %2: %3").arg(report.path, FindingKind::name(finding.kind), finding.text);
+}
+
 void print(const LoadReport &report, const QList<MachineProduct> &products)
 {
     if (!report.isOk()) {
         writeErrorLine(report.error);
+        for (const MapFinding &finding : report.findings)
+            writeOutputLine(lineOf(report, finding));
         return;
     }
     for (const RateSource &source : report.sources)
@@ -75,7 +82,7 @@ void print(const LoadReport &report, const QList<MachineProduct> &products)
             .arg(report.path, QString::number(report.origin.x(), 'f', 7), QString::number(report.origin.y(), 'f', 7)));
     QStringList remarks = report.warnings;
     for (const MapFinding &finding : report.findings) {
-        writeOutputLine(QStringLiteral("%1: %2: %3").arg(report.path, FindingKind::name(finding.kind), finding.text));
+        writeOutputLine(lineOf(report, finding));
         remarks.removeOne(QStringLiteral("%1: %2").arg(report.path, finding.text));
     }
     for (const QString &remark : remarks)

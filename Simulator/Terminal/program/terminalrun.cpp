@@ -237,6 +237,8 @@ QString runTerminal(const CommandLine &line, double scale)
     Terminal terminal(setup, line.units);
     tell(terminal.remembered()->complaint());
     QObject::connect(terminal.openWindow(), &OpenWindow::opened, tellWarnings);
+    QObject::connect(terminal.backend(), &PrescriptionBackend::checked,
+                     [](const QString &, const QList<MapFinding> &, const QString &problem) { tell(problem); });
     terminal.openWindow()->offerSample(Installation::sampleField());
     terminal.window()->setTheme(line.theme.value_or(Theme::Kind::Day));
     const bool isShown = line.drive.isEmpty();

@@ -140,6 +140,10 @@
         <translation>kann nicht geprüft werden, der Speicher reicht nicht</translation>
     </message>
     <message>
+        <source>cannot be checked: %1</source>
+        <translation>kann nicht geprüft werden: %1</translation>
+    </message>
+    <message>
         <source>loading was cancelled</source>
         <translation>das Laden wurde abgebrochen</translation>
     </message>

@@ -140,6 +140,10 @@
         <translation>no se puede revisar, no hay memoria suficiente</translation>
     </message>
     <message>
+        <source>cannot be checked: %1</source>
+        <translation>no se puede revisar: %1</translation>
+    </message>
+    <message>
         <source>loading was cancelled</source>
         <translation>se canceló la carga</translation>
     </message>

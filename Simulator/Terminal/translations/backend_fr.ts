@@ -140,6 +140,10 @@
         <translation>ne peut pas être contrôlé, la mémoire ne suffit pas</translation>
     </message>
     <message>
+        <source>cannot be checked: %1</source>
+        <translation>ne peut pas être contrôlé&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>loading was cancelled</source>
         <translation>le chargement a été annulé</translation>
     </message>

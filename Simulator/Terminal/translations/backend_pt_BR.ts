@@ -140,6 +140,10 @@
         <translation>não pode ser verificado, não há memória suficiente</translation>
     </message>
     <message>
+        <source>cannot be checked: %1</source>
+        <translation>não pode ser verificado: %1</translation>
+    </message>
+    <message>
         <source>loading was cancelled</source>
         <translation>o carregamento foi cancelado</translation>
     </message>

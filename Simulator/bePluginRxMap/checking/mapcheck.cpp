@@ -13,7 +13,7 @@ std::optional<QList<MapFinding>> MapCheck::run(const MapView &map, const Setting
     if (!NarrowCheck(map, settings.machineWidth, control).run(findings))
         return {};
     for (size_t i = 0; i < map.mappings(); ++i)
-        RateCheck(map, i, settings.columns[i]).run(findings);
+        RateCheck(map, i, settings.columns.at(i)).run(findings);
     if (control.isCancelled())
         return {};
     return findings.take();

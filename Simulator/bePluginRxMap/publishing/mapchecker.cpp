@@ -1,10 +1,12 @@
 #include "mapchecker.h"
 
+#include "Backend/backendtext.h"
 #include "mapcheck.h"
 
 #include <QMetaObject>
 
 #include <exception>
+#include <new>
 #include <utility>
 
 MapChecker::MapChecker(QObject *owner, Done whenDone)
@@ -21,15 +23,17 @@ MapChecker::~MapChecker()
         worker.join();
 }
 
-std::optional<QList<MapFinding>> MapChecker::findings(const CheckInput &input, double machineWidth,
-                                                      const LoadControl &control)
+std::optional<MapChecker::Outcome> MapChecker::check(const CheckInput &input, double machineWidth,
+                                                     const LoadControl &control)
 {
     try {
         const MapView map(input.chain->first(), input.records, input.chain->mappings(), input.joinedHoles);
-        return MapCheck::run(map, {machineWidth, input.columns}, control);
-    } catch (const std::exception &) {
-        // There is not enough memory for the check; the map itself stays.
-        return {};
+        const std::optional<QList<MapFinding>> found = MapCheck::run(map, {machineWidth, input.columns}, control);
+        return found ? std::optional<Outcome>({*found, {}}) : std::nullopt;
+    } catch (const std::bad_alloc &) {
+        return Outcome{{}, BackendText::tr("cannot be checked, there is not enough memory")};
+    } catch (const std::exception &failure) {
+        return Outcome{{}, BackendText::tr("cannot be checked: %1").arg(QString::fromUtf8(failure.what()))};
     }
 }
 
@@ -63,18 +67,18 @@ void MapChecker::startNext()
     worker = std::thread([this, job] {
         LoadControl control;
         control.cancelled = &job->cancelled;
-        const std::optional<QList<MapFinding>> found = findings(job->input, job->machineWidth, control);
+        const std::optional<Outcome> outcome = check(job->input, job->machineWidth, control);
         // The thread is joined before this goes, and this goes before the context.
         QMetaObject::invokeMethod(
-            context, [this, found] { finish(found); }, Qt::QueuedConnection);
+            context, [this, outcome] { finish(outcome); }, Qt::QueuedConnection);
     });
 }
 
-void MapChecker::finish(const std::optional<QList<MapFinding>> &found)
+void MapChecker::finish(const std::optional<Outcome> &outcome)
 {
     const std::shared_ptr<Job> job = jobs.front();
     jobs.pop_front();
     startNext();
-    if (found && !job->cancelled)
-        done(job->group, *found);
+    if (outcome && !job->cancelled)
+        done(job->group, *outcome);
 }

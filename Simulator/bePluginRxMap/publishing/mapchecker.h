@@ -15,17 +15,22 @@
 /// Checks published maps one after the other in a thread of its own, so that nobody waits for it.
 class MapChecker {
 public:
-    /// Takes the group and what was found in its map, in the thread of `context`.
-    using Done = std::function<void(const QString &group, const QList<MapFinding> &findings)>;
+    /// What came of a check.
+    struct Outcome {
+        QList<MapFinding> findings;
+        /// Why the map could not be checked; empty when it was.
+        QString problem;
+    };
+    /// Takes the group and what came of the check of its map, in the thread of `context`.
+    using Done = std::function<void(const QString &group, const Outcome &outcome)>;
 
     /// `context` is not owned and outlives this.
     MapChecker(QObject *context, Done done);
     /// Cancels the check in progress.
     ~MapChecker();
 
-    /// What a check finds in a map. Blocks; nothing when it was cancelled or could not finish.
-    static std::optional<QList<MapFinding>> findings(const CheckInput &input, double machineWidth,
-                                                     const LoadControl &control);
+    /// Checks a map, blocking; nothing when it was cancelled.
+    static std::optional<Outcome> check(const CheckInput &input, double machineWidth, const LoadControl &control);
 
     /// Starts a check of the map that is published as `group` now; an earlier check of that group is given up.
     void start(const QString &group, const CheckInput &input, double machineWidth);
@@ -41,7 +46,7 @@ private:
     };
 
     void startNext();
-    void finish(const std::optional<QList<MapFinding>> &findings);
+    void finish(const std::optional<Outcome> &outcome);
 
     QObject *context;
     Done done;

@@ -84,11 +84,11 @@ LoadReport PrescriptionBackend::checkFile(const LoadRequest &request, double mac
     const std::unique_ptr<LoadedMap> map = PrescriptionLoader(request, {}, control).load();
     if (!map->report.isOk())
         return map->report;
-    const std::optional<QList<MapFinding>> findings = MapChecker::findings(map->checkInput(), machineWidth, control);
-    if (!findings)
-        return PrescriptionBackendPrivate::refuse(request.path,
-                                                  BackendText::tr("cannot be checked, there is not enough memory"));
-    map->report.findings += *findings;
+    // Nothing cancels it.
+    const MapChecker::Outcome outcome = *MapChecker::check(map->checkInput(), machineWidth, control);
+    map->report.findings += outcome.findings;
+    if (!outcome.problem.isEmpty())
+        map->report.error = QStringLiteral("%1: %2").arg(request.path, outcome.problem);
     return map->report;
 }
 

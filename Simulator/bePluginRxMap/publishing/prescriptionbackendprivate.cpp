@@ -46,7 +46,7 @@ PrescriptionBackendPrivate::PrescriptionBackendPrivate(PrescriptionBackend *back
     : q(backend)
     , broker(dataBroker)
     , checker(backend,
-              [this](const QString &group, const QList<MapFinding> &findings) { tellChecked(group, findings); })
+              [this](const QString &group, const MapChecker::Outcome &outcome) { tellChecked(group, outcome); })
 {
 }
 
@@ -285,11 +285,14 @@ void PrescriptionBackendPrivate::check(const QString &group, double machineWidth
     }
 }
 
-void PrescriptionBackendPrivate::tellChecked(const QString &group, const QList<MapFinding> &findings)
+void PrescriptionBackendPrivate::tellChecked(const QString &group, const MapChecker::Outcome &outcome)
 {
     for (const Entry &entry : entries) {
         if (entry.map->groupName() == group) {
-            Q_EMIT q->checked(group, entry.map->report().findings + findings);
+            const LoadReport report = entry.map->report();
+            const QString problem =
+                outcome.problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(report.path, outcome.problem);
+            Q_EMIT q->checked(group, report.findings + outcome.findings, problem);
             return;
         }
     }

@@ -63,7 +63,7 @@ private:
     /// The channels that each mapping of a map may feed after later maps, and `newest`, have taken theirs.
     QStringList channelsLeft(size_t entry, const QStringList &newest) const;
     void shareOut(const QStringList &newest);
-    void tellChecked(const QString &group, const QList<MapFinding> &findings);
+    void tellChecked(const QString &group, const MapChecker::Outcome &outcome);
     /// Keeps the group of an unloaded map for whoever still holds it; deletes the one unloaded longest ago.
     void retire(const QPointer<DataBrokerGroup> &group);
 

@@ -45,7 +45,8 @@ public:
     static bool mayBePrescription(const QString &path);
 
     /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
-    /// report's findings are those of the load and those of the check.
+    /// report's findings are those of the load and those of the check; where the check fails, those of the load and an
+    /// error.
     static LoadReport checkFile(const LoadRequest &request, double machineWidth);
     /// Starts to check a published map in a thread of its own. checked() follows, unless the map is loaded again or
     /// unloaded before.
@@ -72,8 +73,9 @@ Q_SIGNALS:
     void finished(const LoadReport &report);
     /// A survey has ended.
     void surveyed(const SurveyReport &survey);
-    /// A check has ended: what the load and the check found in the map.
-    void checked(const QString &group, const QList<MapFinding> &findings);
+    /// A check has ended: what the load and the check found in the map. `problem` says, in one line with the file's
+    /// name, why the map could not be checked, and is empty when it was; what the load found is told all the same.
+    void checked(const QString &group, const QList<MapFinding> &findings, const QString &problem);
     /// The set of published maps, or what feeds which product, changed.
     void mapsChanged();
 
