@@ -5,14 +5,26 @@
 #include "simulation.h"
 #include "vehicle.h"
 
+#include <utility>
+
 RateHistory::RateHistory(Simulation *givenSimulation, QObject *parent)
     : QObject(parent)
     , simulation(givenSimulation)
-    , all(size_t(givenSimulation->machine()->products().size()))
+    , products(givenSimulation->machine()->products())
+    , all(size_t(products.size()))
 {
     connect(simulation, &Simulation::stepped, this, &RateHistory::take);
-    connect(simulation->machine(), &Machine::productsChanged, this,
-            [this] { all.resize(size_t(this->simulation->machine()->products().size())); });
+    connect(simulation->machine(), &Machine::productsChanged, this, &RateHistory::takeProducts);
+}
+
+void RateHistory::takeProducts()
+{
+    const Products before = std::exchange(products, simulation->machine()->products());
+    all.resize(size_t(products.size()));
+    for (int i = 0; i < before.size(); ++i) {
+        if (!products.at(i).isSameAs(before.at(i)))
+            all[size_t(i)].clear();
+    }
 }
 
 void RateHistory::setKept(bool isKept)

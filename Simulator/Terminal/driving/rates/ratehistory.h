@@ -1,5 +1,7 @@
 #pragma once
 
+#include "product.h"
+
 #include <QObject>
 
 #include <deque>
@@ -8,7 +10,7 @@
 class Simulation;
 
 /// What was prescribed where the implement was, and what was applied there, over the last half minute of simulated
-/// time.
+/// time. A product that becomes another one begins anew.
 class RateHistory : public QObject {
     Q_OBJECT
 
@@ -33,8 +35,11 @@ public:
 
 private:
     void take();
+    void takeProducts();
 
     Simulation *simulation;
+    /// Those that the samples are of.
+    Products products;
     std::vector<std::deque<Sample>> all;
     bool isOn = false;
 };

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void aNewLookAheadIsSeenAtTheNextStep();
     void theHistoryIsOfTheGroundUnderTheImplement();
     void theHistoryIsHalfAMinuteLong();
+    void aProductThatBecomesAnotherOneHasNoHistory_data();
+    void aProductThatBecomesAnotherOneHasNoHistory();
     void thePlotShowsTheStepWhereItIsApplied();
     void thePlotNamesItsAxes();
     void aPlotOfNothingHasAScale();
@@ -258,6 +260,41 @@ void TestDriveStrip::theHistoryIsHalfAMinuteLong()
     QVERIFY2(qAbs(int(history.samples(1).size()) - 301) <= 1, qPrintable(QString::number(history.samples(1).size())));
     QVERIFY(history.samples(1).front().time >= 70.0 - 1e-6);
     QCOMPARE(history.samples(1).back().time, 100.0);
+}
+
+void TestDriveStrip::aProductThatBecomesAnotherOneHasNoHistory_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("isKept");
+    const auto row = [](const char *title, const QString &name, Product::Kind kind, bool isKept) {
+        QTest::newRow(title) << name << int(kind) << isKept;
+    };
+    row("another name", QStringLiteral("Lime"), Product::Kind::Count, false);
+    row("another kind", QStringLiteral("Seed"), Product::Kind::Weight, false);
+    row("the same", QStringLiteral("Seed"), Product::Kind::Count, true);
+}
+
+void TestDriveStrip::aProductThatBecomesAnotherOneHasNoHistory()
+{
+    QFETCH(QString, name);
+    QFETCH(int, kind);
+    RateHistory history(&bench->simulation);
+    history.setKept(true);
+    bench->simulation.run(1.0);
+    Products products = bench->machine.products();
+    products[0].name = name;
+    products[0].kind = Product::Kind(kind);
+    // Others change in any case.
+    products[2].name = QStringLiteral("Water");
+    products.append(products.last());
+    bench->machine.setProducts(products);
+    QTEST(!history.samples(1).empty(), "isKept");
+    QCOMPARE(history.samples(2).size(), size_t(10));
+    QVERIFY(history.samples(3).empty() && history.samples(4).empty());
+    bench->simulation.step();
+    QCOMPARE(history.samples(3).size(), size_t(1));
+    QCOMPARE(history.samples(4).size(), size_t(1));
 }
 
 int TestDriveStrip::lineAt(const QImage &plot, double secondsBack)
