@@ -27,6 +27,8 @@ private Q_SLOTS:
     void everyTextOfTheDisplayIsTranslated();
     void germanHasAWordOfItsOwnForTheDefaultRate();
     void frenchCallsTheGroundAParcelle();
+    void unitsOfLengthAndAreaStayAsInTheLegend_data();
+    void unitsOfLengthAndAreaStayAsInTheLegend();
     void whatALoadSaysIsTranslated_data();
     void whatALoadSaysIsTranslated();
     void englishNeedsNoCatalogue_data();
@@ -158,6 +160,28 @@ void TestLanguages::frenchCallsTheGroundAParcelle()
     static const QRegularExpression other(QStringLiteral("<translation>[^<]*\\b[cC]hamps?\\b[^<]*"));
     const QRegularExpressionMatch found = other.match(catalogue);
     QVERIFY2(!found.hasMatch(), qPrintable(found.captured()));
+}
+
+void TestLanguages::unitsOfLengthAndAreaStayAsInTheLegend_data()
+{
+    QTest::addColumn<QString>("code");
+    for (const char *code : {"de", "fr", "es", "pt_BR"})
+        QTest::newRow(code) << QString::fromLatin1(code);
+}
+
+void TestLanguages::unitsOfLengthAndAreaStayAsInTheLegend()
+{
+    QFETCH(QString, code);
+    const QString catalogue =
+        QString::fromUtf8(readFile(sourcePath("Simulator/Terminal/translations/terminal_%1.ts").arg(code)));
+    static const QRegularExpression unit(
+        QStringLiteral("<source>(%1 (?:ft|ft²|mi|m|m²|km))</source>\\s*<translation>([^<]*)<"));
+    QRegularExpressionMatchIterator found = unit.globalMatch(catalogue);
+    QVERIFY(found.hasNext());
+    while (found.hasNext()) {
+        const QRegularExpressionMatch text = found.next();
+        QCOMPARE(text.captured(2), text.captured(1));
+    }
 }
 
 void TestLanguages::whatALoadSaysIsTranslated_data()

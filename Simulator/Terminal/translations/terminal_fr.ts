@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>%1 ft²</source>
-        <translation>%1 pi²</translation>
+        <translation>%1 ft²</translation>
     </message>
 </context>
 <context>
@@ -491,7 +491,7 @@
     </message>
     <message>
         <source>%1 ft</source>
-        <translation>%1 pi</translation>
+        <translation>%1 ft</translation>
     </message>
 </context>
 <context>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>%1 ft</source>
-        <translation>%1 pi</translation>
+        <translation>%1 ft</translation>
     </message>
 </context>
 <context>
