@@ -54,9 +54,11 @@ bool DriveControls::isMetric() const
 void DriveControls::start()
 {
     problem.clear();
+    // Asked before a new way replaces a track, whose speed would else pass for that of swaths.
+    const double wanted = speed();
     const bool needsWay = vehicle()->mode() == Motion::Mode::Shuttle || vehicle()->isOver();
     if (!needsWay || planSwaths())
-        vehicle()->drive(speed());
+        vehicle()->drive(wanted);
     endPause();
     Q_EMIT changed();
 }
@@ -181,7 +183,8 @@ QString DriveControls::whyNot(const SwathOptions &options) const
 void DriveControls::takeSwaths()
 {
     problem.clear();
-    const double wanted = std::max(0.0, vehicle()->wantedSpeed());
+    const double present = std::max(0.0, vehicle()->wantedSpeed());
+    const double wanted = isReplay() && present > 0.0 ? speed() : present;
     if (planSwaths())
         vehicle()->drive(wanted);
     Q_EMIT changed();

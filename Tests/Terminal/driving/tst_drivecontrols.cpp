@@ -1,7 +1,10 @@
 #include "drivecontrols.h"
 #include "machinebench.h"
 #include "testbase.h"
+#include "trackreader.h"
 #include "vehicle.h"
+
+#include <QTemporaryFile>
 
 /// What the operator does in order to drive.
 class TestDriveControls : public TestBase {
@@ -19,6 +22,8 @@ private Q_SLOTS:
     void speedGoesByWholeNumbersOfTheOperatorsUnit_data();
     void speedGoesByWholeNumbersOfTheOperatorsUnit();
     void aScriptsSpeedAndPaceAreTakenOver();
+    void theSetSpeedHoldsAfterATrack_data();
+    void theSetSpeedHoldsAfterATrack();
     void paceGoesByItsSteps();
     void aPauseKeepsThePace();
     void startAndStopEndThePauseOfTheOperatorAlone();
@@ -173,6 +178,43 @@ void TestDriveControls::aScriptsSpeedAndPaceAreTakenOver()
     QCOMPARE(controls->pace(), 7.0);
     controls->stop();
     QCOMPARE(controls->speed(), 5.0);
+}
+
+void TestDriveControls::theSetSpeedHoldsAfterATrack_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<bool>("waits");
+    QTest::addColumn<bool>("isByStart");
+    QTest::addColumn<double>("wanted");
+    constexpr double set = 13.0 / 3.6;
+    QTest::newRow("swaths on the track") << 1.0 << false << false << set;
+    QTest::newRow("swaths while the track waits") << 1.0 << true << false << 0.0;
+    QTest::newRow("swaths at the track's end") << 9.0 << false << false << set;
+    QTest::newRow("start at the track's end") << 9.0 << false << true << set;
+}
+
+void TestDriveControls::theSetSpeedHoldsAfterATrack()
+{
+    QFETCH(double, seconds);
+    QFETCH(bool, waits);
+    QFETCH(bool, isByStart);
+    QTemporaryFile track;
+    QVERIFY(track.open() && track.write("time,x,y\n0,0,0\n2,4,0\n4,8,0\n") > 0);
+    track.close();
+    load();
+    controls->start();
+    for (int i = 0; i < 3; ++i)
+        controls->faster();
+    QCOMPARE(controls->speedText(), QStringLiteral("13.0 km/h"));
+    vehicle().replay(std::make_unique<TrackReader>(track.fileName(), nullptr));
+    bench->simulation.run(seconds);
+    QCOMPARE(vehicle().isOver(), seconds > 4.0);
+    if (waits)
+        controls->stop();
+    isByStart ? controls->start() : controls->takeSwaths();
+    QCOMPARE(vehicle().mode(), Motion::Mode::Swaths);
+    QTEST(vehicle().wantedSpeed(), "wanted");
+    QCOMPARE(controls->speedText(), QStringLiteral("13.0 km/h"));
 }
 
 void TestDriveControls::paceGoesByItsSteps()
