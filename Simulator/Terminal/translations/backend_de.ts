@@ -404,8 +404,8 @@
         <translation>ist ein Archiv, das keine Applikationskarte enthält%1</translation>
     </message>
     <message>
-        <source>is an archive that holds several prescriptions%1: %2; open one by its path in the archive</source>
-        <translation>ist ein Archiv mit mehreren Applikationskarten%1: %2; öffnen Sie eine mit ihrem Pfad im Archiv</translation>
+        <source>is an archive that holds several prescriptions%1: %2; open one by its path, such as &quot;%3&quot;</source>
+        <translation>ist ein Archiv mit mehreren Applikationskarten%1: %2; öffnen Sie eine mit ihrem Pfad, etwa &quot;%3&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it cannot be unpacked: %2</source>

@@ -404,8 +404,8 @@
         <translation>es un archivo comprimido que no contiene ninguna prescripción%1</translation>
     </message>
     <message>
-        <source>is an archive that holds several prescriptions%1: %2; open one by its path in the archive</source>
-        <translation>es un archivo comprimido que contiene varias prescripciones%1: %2; abra una por su ruta dentro de él</translation>
+        <source>is an archive that holds several prescriptions%1: %2; open one by its path, such as &quot;%3&quot;</source>
+        <translation>es un archivo comprimido que contiene varias prescripciones%1: %2; abra una por su ruta, por ejemplo &quot;%3&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it cannot be unpacked: %2</source>

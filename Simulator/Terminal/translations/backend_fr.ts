@@ -404,8 +404,8 @@
         <translation>est une archive qui ne contient aucune préconisation%1</translation>
     </message>
     <message>
-        <source>is an archive that holds several prescriptions%1: %2; open one by its path in the archive</source>
-        <translation>est une archive qui contient plusieurs préconisations%1&#xa0;: %2&#xa0;; ouvrez-en une par son chemin dans l’archive</translation>
+        <source>is an archive that holds several prescriptions%1: %2; open one by its path, such as &quot;%3&quot;</source>
+        <translation>est une archive qui contient plusieurs préconisations%1&#xa0;: %2&#xa0;; ouvrez-en une par son chemin, par exemple &quot;%3&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it cannot be unpacked: %2</source>

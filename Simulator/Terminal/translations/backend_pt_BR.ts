@@ -404,8 +404,8 @@
         <translation>é um arquivo compactado que não contém nenhuma prescrição%1</translation>
     </message>
     <message>
-        <source>is an archive that holds several prescriptions%1: %2; open one by its path in the archive</source>
-        <translation>é um arquivo compactado que contém várias prescrições%1: %2; abra uma pelo caminho dentro dele</translation>
+        <source>is an archive that holds several prescriptions%1: %2; open one by its path, such as &quot;%3&quot;</source>
+        <translation>é um arquivo compactado que contém várias prescrições%1: %2; abra uma pelo caminho, por exemplo &quot;%3&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it cannot be unpacked: %2</source>

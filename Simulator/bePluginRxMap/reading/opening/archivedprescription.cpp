@@ -49,9 +49,10 @@ QString list(const QStringList &paths)
 
 } // namespace
 
-ArchivedPrescription::ArchivedPrescription(const QString &path, const QString &innerPath)
-    : archive(path)
-    , isKmz(isSame(QFileInfo(path).suffix(), QStringLiteral("kmz")))
+ArchivedPrescription::ArchivedPrescription(const QString &givenPath, const QString &innerPath)
+    : archivePath(givenPath)
+    , archive(givenPath)
+    , isKmz(isSame(QFileInfo(givenPath).suffix(), QStringLiteral("kmz")))
     , inner(innerPath)
 {
 }
@@ -110,10 +111,10 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
         several.append(entry->path);
     if (found.empty())
         fail(BackendText::tr("is an archive that holds no prescription%1").arg(place));
-    else
-        fail(
-            BackendText::tr("is an archive that holds several prescriptions%1: %2; open one by its path in the archive")
-                .arg(place, list(several)));
+    else // In plain quotes in every language, so that it can be typed as it stands.
+        fail(BackendText::tr(
+                 "is an archive that holds several prescriptions%1: %2; open one by its path, such as \"%3\"")
+                 .arg(place, list(several), archivePath + QLatin1Char('/') + several.front()));
     return nullptr;
 }
 

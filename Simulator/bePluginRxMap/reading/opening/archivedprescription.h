@@ -28,6 +28,7 @@ private:
     std::vector<const ZipArchive::Entry *> withParts(const ZipArchive::Entry &main) const;
     bool write(const ZipArchive::Entry &entry, const QString &path);
 
+    QString archivePath;
     ZipArchive archive;
     bool isKmz;
     QString inner;

@@ -31,6 +31,8 @@ private Q_SLOTS:
 
 private:
     QString archive() const { return folder.filePath(QStringLiteral("fields.zip")); }
+    /// How a message names a file of the archive for a command line.
+    QString example(const char *inner) const { return QStringLiteral("\"%1/%2\"").arg(archive(), inner); }
     /// Packs files; "name=fixture" packs the file of that name in `files` under another one.
     bool pack(const QStringList &entries) const { return pack(archive(), entries); }
     bool pack(const QString &path, const QStringList &entries) const;
@@ -122,13 +124,18 @@ void ArchivedPrescriptionTest::refusesArchivesThatItCannotUse_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("none") << QStringList{"a.txt=a.json", "old.zip=a.gpkg"} << ""
                           << "is an archive that holds no prescription";
-    QTest::newRow("two") << QStringList{"a.gpkg", "b/b.kml=a.kml"} << ""
-                         << "is an archive that holds several prescriptions: a.gpkg, b/b.kml; open one by its path in "
-                            "the archive";
-    QTest::newRow("several task data")
-        << QStringList{"a/TASKDATA.XML=a.json", "b/taskdata.xml=a.json"} << ""
-        << "is an archive that holds several prescriptions: a/TASKDATA.XML, b/taskdata.xml; open one by its path in "
-           "the archive";
+    QTest::newRow("two")
+        << QStringList{"a.gpkg", "b/b.kml=a.kml"} << ""
+        << "is an archive that holds several prescriptions: a.gpkg, b/b.kml; open one by its path, such as "
+            + example("a.gpkg");
+    QTest::newRow("two in a folder") << QStringList{"a.gpkg", "b/b c.kml=a.kml", "b/d.gpkg=a.gpkg"} << "/b"
+                                     << "is an archive that holds several prescriptions in \"b\": b/b c.kml, b/d.gpkg; "
+                                        "open one by its path, such as "
+            + example("b/b c.kml");
+    QTest::newRow("several task data") << QStringList{"a/TASKDATA.XML=a.json", "b/taskdata.xml=a.json"} << ""
+                                       << "is an archive that holds several prescriptions: a/TASKDATA.XML, "
+                                          "b/taskdata.xml; open one by its path, such as "
+            + example("a/TASKDATA.XML");
     QTest::newRow("none of that name") << QStringList{"a.gpkg"} << "/b.gpkg"
                                        << "is an archive that holds no prescription in \"b.gpkg\"";
     QTest::newRow("Shapefile without its table") << QStringList{"a.shp", "a.shx"} << ""
@@ -261,11 +268,13 @@ void ArchivedPrescriptionTest::opensTheDocumentOfAKmz_data()
         << "a.KMZ" << QStringList{"doc.kml=links.kml", "layers/b.kml=b.kml"} << "other";
     QTest::newRow("one that links to others")
         << "a.kmz" << QStringList{"doc.kml=links.kml", "b.kml", "c.kml=b.kml"}
-        << "is an archive that holds several prescriptions: b.kml, c.kml; open one by its path in the archive";
+        << "is an archive that holds several prescriptions: b.kml, c.kml; open one by its path, such as \""
+            + folder.filePath("a.kmz/b.kml\"");
     QTest::newRow("in another archive")
         << "b.zip" << document
-        << "is an archive that holds several prescriptions: layers/b.kml, DOC.kml, layers/c.kml; open one by its path "
-           "in the archive";
+        << "is an archive that holds several prescriptions: layers/b.kml, DOC.kml, layers/c.kml; open one by its path, "
+           "such as \""
+            + folder.filePath("b.zip/layers/b.kml\"");
 }
 
 void ArchivedPrescriptionTest::opensTheDocumentOfAKmz()
