@@ -7,6 +7,7 @@
 #include "fielddrive.h"
 #include "fieldraster.h"
 #include "machine.h"
+#include "progressline.h"
 #include "recorder.h"
 #include "reportpage.h"
 #include "simulation.h"
@@ -23,31 +24,17 @@
 
 namespace {
 
-/// Tells how far something is and how long it is likely to take, at every tenth of it.
-class ProgressLine {
-public:
-    explicit ProgressLine(const char *givenWhat)
-        : what(givenWhat)
-    {
-        passed.start();
-    }
-
-    void operator()(double fraction)
-    {
-        const int tenths = int(10.0 * fraction);
-        if (tenths <= told || fraction <= 0.0)
-            return;
-        told = tenths;
-        const double left = double(passed.elapsed()) / 1000.0 * (1.0 - fraction) / fraction;
-        writeOutputLine(
-            QStringLiteral("%1: %2 %, about %3 s left").arg(QLatin1String(what)).arg(10 * tenths).arg(left, 0, 'f', 0));
-    }
-
-private:
-    const char *what;
+/// Prints how far something is that begins now.
+FieldDrive::Progress printedProgress(const char *what)
+{
     QElapsedTimer passed;
-    int told = 0;
-};
+    passed.start();
+    return [progress = ProgressLine(QLatin1String(what)), passed](double fraction) mutable {
+        const QString line = progress.at(fraction, passed.elapsed());
+        if (!line.isEmpty())
+            writeOutputLine(line);
+    };
+}
 
 /// Why the file cannot be written, known before the drive; empty when it can, and nothing has been written then.
 QString writingProblem(const QString &path)
@@ -123,7 +110,7 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
         if (!error.isEmpty())
             return error;
     }
-    drive.run(ProgressLine("driving"));
+    drive.run(printedProgress("driving"));
     tally.end();
     if (raster)
         raster->end();
@@ -131,8 +118,9 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     if (!line.record.isEmpty() && recordError.isEmpty())
         writeOutputLine(QStringLiteral("%1: record written").arg(line.record));
     // Afterwards, so that the reported drive is the same with tuning and without.
-    const std::vector<FieldDrive::Curve> curves =
-        line.tune ? FieldDrive(simulation, path.value).tune(ProgressLine("tuning")) : std::vector<FieldDrive::Curve>();
+    const std::vector<FieldDrive::Curve> curves = line.tune
+        ? FieldDrive(simulation, path.value).tune(printedProgress("tuning"))
+        : std::vector<FieldDrive::Curve>();
     const QString files = line.prescriptions.join(QStringLiteral(", "));
     const QByteArray report = raster
         ? ReportPage::make({files, simulation, &tally, raster.get(), curves})
