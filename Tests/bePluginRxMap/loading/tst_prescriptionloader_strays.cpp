@@ -51,6 +51,16 @@ void PrescriptionLoaderStraysTest::leavesStraysOut_data()
         << 4326 << 0 << QStringList{away, squareText(11.0, 48.0, 0.001), squareText(11.002, 48.0, 0.001)} << "record 0";
     QTest::newRow("200 km away, between others")
         << 4326 << 1 << QStringList{away, squareText(11.002, 48.0, 0.001)} << "record 1";
+    QTest::newRow("200 km from a field on the zero meridian")
+        << 4326 << 0
+        << QStringList{squareText(-0.0005, 51.5, 0.001), squareText(-0.0004, 51.502, 0.001),
+                       squareText(3.0, 51.5, 0.001)}
+        << "record 2";
+    QTest::newRow("200 km from a field on the equator")
+        << 4326 << 0
+        << QStringList{squareText(11.0, -0.0005, 0.001), squareText(11.002, -0.0004, 0.001),
+                       squareText(14.0, 0.5, 0.001)}
+        << "record 2";
     QTest::newRow("beyond the earth") << 4326 << 3 << QStringList{squareText(5000.0, 48.0, 1.0)} << "record 3";
     QTest::newRow("a tenth of them") << 4326 << 18 << QStringList{away, squareText(14.01, 48.0, 0.001)}
                                      << "records 18, 19";
