@@ -8,6 +8,7 @@
 #include "speedramp.h"
 #include "trackmotion.h"
 
+#include <algorithm>
 #include <cmath>
 
 Vehicle::Vehicle(DbGroupGpsSolution *givenSolution, const SimulationClock *givenClock, QObject *parent)
@@ -59,6 +60,9 @@ bool Vehicle::steer(double curvature)
     if (!(std::fabs(curvature) * machineSize.minRadius <= 1.0))
         return false;
     advance();
+    // The speed given to a track only says whether it goes on.
+    if (mode() == Motion::Mode::Replay && wanted > 0.0)
+        wanted = std::min(state.speed, maxSpeed);
     if (mode() != Motion::Mode::Hand)
         take(std::make_unique<HandMotion>());
     static_cast<HandMotion *>(motion.get())->steer(curvature);

@@ -38,8 +38,8 @@ public:
     void shuttle();
     /// Goes to the beginning of the path, to drive along it.
     void follow(const DrivePath &path);
-    /// Drives by hand from here on a circle of that curvature (per metre, positive to the right); false, and nothing
-    /// changes, where that is tighter than the machine can turn.
+    /// Drives by hand from here on a circle of that curvature (per metre, positive to the right), after a track at the
+    /// speed reached; false, and nothing changes, where that is tighter than the machine can turn.
     bool steer(double curvature);
     /// Goes where a track goes, which begins at once.
     void replay(std::unique_ptr<TrackReader> track);

@@ -193,7 +193,12 @@ void DriveControls::takeSwaths()
 void DriveControls::takeHand()
 {
     problem.clear();
+    const double before = speed();
+    const bool wasByHand = isByHand();
     vehicle()->steer(0.0);
+    // From now on the controls change the speed that the machine has.
+    if (!wasByHand)
+        nextSpeed = vehicle()->wantedSpeed() > 0.0 ? vehicle()->wantedSpeed() : before;
     Q_EMIT changed();
 }
 

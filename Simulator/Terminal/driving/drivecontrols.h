@@ -41,7 +41,7 @@ public:
 
     /// Puts the machine at the beginning of swaths over the loaded field; it drives on if it is under way.
     void takeSwaths();
-    /// Leaves the machine to pedals and wheel.
+    /// Leaves the machine to pedals and wheel, at the speed that it has.
     void takeHand();
     bool isByHand() const;
     bool isReplay() const;

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aScriptsSpeedAndPaceAreTakenOver();
     void theSetSpeedHoldsAfterATrack_data();
     void theSetSpeedHoldsAfterATrack();
+    void byHandTheMachineKeepsTheSpeedOfTheTrack_data();
+    void byHandTheMachineKeepsTheSpeedOfTheTrack();
     void paceGoesByItsSteps();
     void aPauseKeepsThePace();
     void startAndStopEndThePauseOfTheOperatorAlone();
@@ -215,6 +217,37 @@ void TestDriveControls::theSetSpeedHoldsAfterATrack()
     QCOMPARE(vehicle().mode(), Motion::Mode::Swaths);
     QTEST(vehicle().wantedSpeed(), "wanted");
     QCOMPARE(controls->speedText(), QStringLiteral("13.0 km/h"));
+}
+
+void TestDriveControls::byHandTheMachineKeepsTheSpeedOfTheTrack_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<bool>("waits");
+    QTest::addColumn<double>("speed");
+    QTest::addColumn<QString>("afterPlus");
+    QTest::newRow("on the way") << 1.0 << false << 5.0 << "19.0 km/h";
+    QTest::newRow("while it waits") << 1.0 << true << 0.0 << "11.0 km/h";
+    QTest::newRow("at its end") << 9.0 << false << 0.0 << "11.0 km/h";
+}
+
+void TestDriveControls::byHandTheMachineKeepsTheSpeedOfTheTrack()
+{
+    QFETCH(double, seconds);
+    QFETCH(bool, waits);
+    QFETCH(double, speed);
+    QTemporaryFile track;
+    QVERIFY(track.open() && track.write("time,x,y\n0,0,0\n4,20,0\n") > 0);
+    track.close();
+    vehicle().replay(std::make_unique<TrackReader>(track.fileName(), nullptr));
+    bench->simulation.run(seconds);
+    if (waits)
+        controls->stop();
+    controls->takeHand();
+    bench->simulation.run(5.0);
+    QCOMPARE(vehicle().currentSpeed(), speed);
+    controls->faster();
+    QTEST(controls->speedText(), "afterPlus");
+    QCOMPARE(vehicle().wantedSpeed(), speed > 0.0 ? controls->speed() : 0.0);
 }
 
 void TestDriveControls::paceGoesByItsSteps()
