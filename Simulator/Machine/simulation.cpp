@@ -74,6 +74,16 @@ bool Simulation::setTimeFactor(double newFactor)
     return true;
 }
 
+Result<TrackReader::Summary> Simulation::replay(const QString &path)
+{
+    const std::optional<QPointF> origin = machineModel->planeOrigin();
+    const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
+    const auto checked = TrackReader::check(path, plane);
+    if (checked.isOk())
+        vehicleModel->replay(std::make_unique<TrackReader>(path, plane));
+    return checked;
+}
+
 void Simulation::step()
 {
     // A command holds from one step to the next.

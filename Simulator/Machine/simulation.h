@@ -3,6 +3,7 @@
 #include "actuator.h"
 #include "pose.h"
 #include "simulationclock.h"
+#include "trackreader.h"
 
 #include <QObject>
 #include <QScopedPointer>
@@ -57,6 +58,10 @@ public:
     /// other number.
     bool setTimeFactor(double factor);
     double timeFactor() const { return factor; }
+
+    /// Goes where a track went on the plane of the loaded maps, from now on; the reason, and the machine stays as it
+    /// is, when that is not possible.
+    Result<TrackReader::Summary> replay(const QString &path);
 
     /// Lets one step pass.
     void step();

@@ -52,7 +52,7 @@ void TestLongDrive::memoryStaysFlat()
     const Result<DrivePath> path = FieldDrive::plan(bench.simulation, FieldDrive::usualOptions(bench.simulation));
     QTemporaryDir folder;
     Recorder recorder(&bench.simulation);
-    QCOMPARE(recorder.start(folder.filePath(record), report.origin), QString());
+    QCOMPARE(recorder.start(folder.filePath(record)), QString());
     drive(bench, path.value, 1.0);
     const AllocationMeter meter;
     drive(bench, path.value, hours - 1.0);

@@ -72,7 +72,7 @@ UsedTerminal::UsedTerminal()
     if (!path.isOk())
         give(path.error);
     way = path.value;
-    const QString error = terminal.recorder()->start(folder.filePath(QStringLiteral("record.csv")), report.origin);
+    const QString error = terminal.recorder()->start(folder.filePath(QStringLiteral("record.csv")));
     if (!error.isEmpty())
         give(error);
 }

@@ -1,5 +1,6 @@
 #include "regularfile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -19,6 +20,20 @@ QString regularFileProblem(const QString &path)
     return file.isReadable() ? QString() : QStringLiteral("cannot be read");
 }
 
+QString systemReason(const QFileDevice &file)
+{
+    // Qt leaves the most frequent ones in English; the system says the others in the language of the desktop.
+    [[maybe_unused]] constexpr const char *known[] = {
+        QT_TRANSLATE_NOOP("SystemReason", "Permission denied"),
+        QT_TRANSLATE_NOOP("SystemReason", "No space left on device"),
+        QT_TRANSLATE_NOOP("SystemReason", "No such file or directory"),
+        QT_TRANSLATE_NOOP("SystemReason", "Read-only file system"),
+        QT_TRANSLATE_NOOP("SystemReason", "Disk quota exceeded"),
+        QT_TRANSLATE_NOOP("SystemReason", "File too large"),
+    };
+    return QCoreApplication::translate("SystemReason", file.errorString().toUtf8().constData());
+}
+
 QString openOutput(QFile &file)
 {
     const int probe = open(QFile::encodeName(file.fileName()).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
@@ -28,5 +43,5 @@ QString openOutput(QFile &file)
     // Closed only now: a reader would take the probe's end for the end of the content.
     if (probe >= 0)
         close(probe);
-    return isOpen ? QString() : file.errorString();
+    return isOpen ? QString() : systemReason(file);
 }

@@ -19,7 +19,9 @@ void TrackMotion::advance(MotionState &state, double seconds, double wanted, con
         return;
     }
     time += seconds;
-    while (goesOn && to.time <= time) {
+    // Tenths of seconds add up to less than an entry's time.
+    constexpr double rounding = 1e-6;
+    while (goesOn && to.time <= time + rounding) {
         from = to;
         goesOn = track->next(to);
     }
@@ -31,7 +33,8 @@ void TrackMotion::place(MotionState &state) const
     state.isOver = !goesOn;
     state.hasFix = from.hasFix;
     state.speed = state.isOver ? 0.0 : from.speed.value_or(state.speed);
-    QPointF antenna = state.pose.place + antennaOffset * state.pose.forward();
+    const double ahead = from.working ? 0.0 : antennaOffset;
+    QPointF antenna = state.pose.place + ahead * state.pose.forward();
     if (from.hasFix)
         antenna = from.place;
     if (from.heading)
@@ -46,6 +49,6 @@ void TrackMotion::place(MotionState &state) const
         if (!from.speed)
             state.speed = length / (to.time - from.time);
     }
-    state.pose.place = antenna - antennaOffset * state.pose.forward();
-    state.isWorking = state.speed > 0.0;
+    state.pose.place = antenna - ahead * state.pose.forward();
+    state.isWorking = state.speed > 0.0 && from.working.value_or(true);
 }

@@ -13,17 +13,20 @@ Recorder::Recorder(Simulation *givenSimulation, QObject *parent)
     connect(simulation, &Simulation::stepped, this, &Recorder::record);
 }
 
-QString Recorder::start(const QString &path, const QPointF &origin)
+QString Recorder::start(const QString &path)
 {
     // What it holds back must not be written into the file that takes its place.
     const bool isSameFile = writer != nullptr && QFileInfo(writer->file()) == QFileInfo(path);
     QString lost = isSameFile ? stop() : QString();
-    const auto opened = RecordWriter::open(path, simulation->machine()->products().size(), origin);
+    const Machine &machine = *simulation->machine();
+    const auto opened = RecordWriter::open(path, machine.products().size(), machine.planeOrigin());
     if (!opened.isOk())
         return opened.error;
     if (!isSameFile)
         lost = stop();
     writer = opened.value;
+    steps = 0;
+    Q_EMIT switched();
     return lost;
 }
 
@@ -34,7 +37,13 @@ QString Recorder::stop()
     writer->finish();
     const QString error = writer->error();
     writer.reset();
+    Q_EMIT switched();
     return error;
+}
+
+double Recorder::seconds() const
+{
+    return double(steps * Simulation::stepMs) / 1000.0;
 }
 
 RecordEntry Recorder::entryOf(const Simulation &simulation)
@@ -59,6 +68,9 @@ void Recorder::record()
     if (!isRecording())
         return;
     writer->write(entryOf(*simulation));
-    if (!writer->error().isEmpty())
-        Q_EMIT failed(writer->error());
+    ++steps;
+    if (writer->error().isEmpty())
+        return;
+    Q_EMIT switched();
+    Q_EMIT failed(writer->error());
 }

@@ -19,12 +19,18 @@ public:
     /// Starts a record (see RecordWriter::open) in place of the one being written. When it cannot, returns the reason,
     /// and the present record goes on, unless it is in the same file. When the present record had ended before its
     /// time, returns why, and the new one is being written.
-    QString start(const QString &path, const QPointF &origin);
+    QString start(const QString &path);
     /// Ends the record. Returns why it had ended earlier; empty when all is written.
     QString stop();
     bool isRecording() const { return writer != nullptr && writer->error().isEmpty(); }
+    /// The name of the record being written, as it was given; empty without one.
+    QString file() const { return isRecording() ? writer->file() : QString(); }
+    /// How much of the simulation's time the record holds.
+    double seconds() const;
 
 Q_SIGNALS:
+    /// A record was started or ended.
+    void switched();
     /// The record had to end; one line with the file's name.
     void failed(const QString &reason);
 
@@ -33,4 +39,5 @@ private:
 
     Simulation *simulation;
     std::shared_ptr<RecordWriter> writer;
+    qint64 steps = 0; ///< In the record.
 };

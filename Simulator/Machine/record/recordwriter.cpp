@@ -12,15 +12,16 @@ constexpr int stepsToKeep = 10;
 
 } // namespace
 
-Result<std::shared_ptr<RecordWriter>> RecordWriter::open(const QString &path, int products, const QPointF &origin)
+Result<std::shared_ptr<RecordWriter>> RecordWriter::open(const QString &path, int products,
+                                                         const std::optional<QPointF> &origin)
 {
     using Opened = Result<std::shared_ptr<RecordWriter>>;
     const QString suffix = QFileInfo(path).suffix().toLower();
     Opened opened;
     if (suffix == QLatin1String("csv"))
-        opened = CsvRecord::create(path, products);
+        opened = CsvRecord::create(path, products, origin);
     else if (suffix == QLatin1String("gpkg"))
-        opened = GeoPackageRecord::create(path, products, origin);
+        opened = GeoPackageRecord::create(path, products, origin.value_or(QPointF()));
     else
         opened.error = QStringLiteral("a record is a .csv or .gpkg file");
     return opened.isOk() ? opened : Opened::failure(QStringLiteral("%1: %2").arg(path, opened.error));
@@ -30,7 +31,7 @@ void RecordWriter::take(const QString &reason)
 {
     if (reason.isEmpty())
         return;
-    problem = QStringLiteral("%1: the record ends early: %2").arg(path, reason);
+    problem = tr("%1: the record ends early: %2").arg(path, reason);
     isOpen = false;
     close();
 }

@@ -3,19 +3,24 @@
 #include "recordentry.h"
 #include "result.h"
 
+#include <QCoreApplication>
 #include <QPointF>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 /// A file that takes a drive, step by step.
 class RecordWriter {
+    Q_DECLARE_TR_FUNCTIONS(RecordWriter)
+
 public:
     virtual ~RecordWriter() = default;
 
     /// Opens a .csv or .gpkg for that many products, replacing a file of that name; `origin` (degrees) is where the
-    /// local plane touches the earth. The reason when it cannot be written.
-    static Result<std::shared_ptr<RecordWriter>> open(const QString &path, int products, const QPointF &origin);
+    /// local plane touches the earth, where that is known. The reason when it cannot be written.
+    static Result<std::shared_ptr<RecordWriter>> open(const QString &path, int products,
+                                                      const std::optional<QPointF> &origin);
 
     /// The file's name, as it was given.
     QString file() const { return path; }

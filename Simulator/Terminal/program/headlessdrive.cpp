@@ -106,7 +106,7 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
         raster = std::make_unique<FieldRaster>(simulation, drive.workedBounds());
     Recorder recorder(simulation);
     if (!line.record.isEmpty()) {
-        const QString error = recorder.start(line.record, *terminal.machine()->planeOrigin());
+        const QString error = recorder.start(line.record);
         if (!error.isEmpty())
             return error;
     }

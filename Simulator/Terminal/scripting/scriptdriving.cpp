@@ -1,13 +1,11 @@
 #include "scriptdriving.h"
 
 #include "fielddrive.h"
-#include "fieldplane.h"
 #include "machine.h"
 #include "recorder.h"
 #include "scriptmachine.h"
 #include "simulation.h"
 #include "swathplan.h"
-#include "trackreader.h"
 #include "vehicle.h"
 
 #include <QJSEngine>
@@ -134,14 +132,7 @@ QJSValue ScriptDriving::replay(const QString &path)
         fail(QStringLiteral("replay() needs the name of a file"));
         return {};
     }
-    const auto summary = onGui([&] {
-        const std::optional<QPointF> origin = terminal->machine()->planeOrigin();
-        const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
-        const auto checked = TrackReader::check(path, plane);
-        if (checked.isOk())
-            terminal->vehicle()->replay(std::make_unique<TrackReader>(path, plane));
-        return checked;
-    });
+    const auto summary = onGui([&] { return terminal->simulation()->replay(path); });
     if (!summary.isOk()) {
         fail(summary.error);
         return {};
@@ -190,8 +181,7 @@ void ScriptDriving::record(const QString &path)
 {
     const QString error = onGui([&] {
         Recorder *recorder = terminal->recorder();
-        const std::optional<QPointF> origin = terminal->machine()->planeOrigin();
-        return path.isEmpty() ? recorder->stop() : recorder->start(path, origin.value_or(QPointF()));
+        return path.isEmpty() ? recorder->stop() : recorder->start(path);
     });
     if (!error.isEmpty())
         fail(error);

@@ -963,6 +963,17 @@
     </message>
 </context>
 <context>
+    <name>RecordWriter</name>
+    <message>
+        <source>%1: the record ends early: %2</source>
+        <translation>%1: die Aufzeichnung endet vorzeitig: %2</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -1044,6 +1055,33 @@
     </message>
 </context>
 <context>
+    <name>SystemReason</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>diese Datei oder diesen Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>der zugeteilte Speicherplatz ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+</context>
+<context>
     <name>TerminalWindow</name>
     <message>
         <source>Field terminal</source>
@@ -1084,6 +1122,72 @@
     <message>
         <source>Full screen</source>
         <translation>Vollbild</translation>
+    </message>
+</context>
+<context>
+    <name>TrackParser</name>
+    <message>
+        <source>is no NMEA 0183 sentence</source>
+        <translation>ist kein Satz nach NMEA 0183</translation>
+    </message>
+    <message>
+        <source>its checksum is wrong</source>
+        <translation>ihre Prüfsumme ist falsch</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>its time is none</source>
+        <translation>enthält keine gültige Zeit</translation>
+    </message>
+    <message>
+        <source>its position is none</source>
+        <translation>enthält keine gültige Position</translation>
+    </message>
+    <message>
+        <source>is no head with &quot;time&quot; and &quot;x&quot;, &quot;y&quot; or &quot;lon&quot;, &quot;lat&quot;</source>
+        <translation>ist keine Kopfzeile mit &quot;time&quot; und &quot;x&quot;, &quot;y&quot; oder &quot;lon&quot;, &quot;lat&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>TrackReader</name>
+    <message>
+        <source>%1: holds no position</source>
+        <translation>%1: enthält keine Position</translation>
+    </message>
+    <message>
+        <source>%1: holds no position; %2</source>
+        <translation>%1: enthält keine Position; %2</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>its time is beyond the year 9999</source>
+        <translation>ihre Zeit liegt nach dem Jahr 9999</translation>
+    </message>
+    <message>
+        <source>goes back in time</source>
+        <translation>geht in der Zeit zurück</translation>
+    </message>
+    <message>
+        <source>lies off the field&apos;s plane</source>
+        <translation>liegt außerhalb der Ebene des Feldes</translation>
+    </message>
+    <message>
+        <source>is in degrees, and no field is loaded to place them</source>
+        <translation>ist in Grad, und kein Feld ist geladen, nach dem sie zu verorten wären</translation>
+    </message>
+    <message>
+        <source>jumps by %1 m</source>
+        <translation>springt um %1 m</translation>
     </message>
 </context>
 <context>

@@ -963,6 +963,17 @@
     </message>
 </context>
 <context>
+    <name>RecordWriter</name>
+    <message>
+        <source>%1: the record ends early: %2</source>
+        <translation>%1: la grabación termina antes de tiempo: %2</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>no queda espacio en el disco</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -1044,6 +1055,33 @@
     </message>
 </context>
 <context>
+    <name>SystemReason</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>permiso denegado</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>no queda espacio en el disco</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>no existe este archivo o carpeta</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>se ha agotado el espacio asignado</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>el archivo es demasiado grande</translation>
+    </message>
+</context>
+<context>
     <name>TerminalWindow</name>
     <message>
         <source>Field terminal</source>
@@ -1084,6 +1122,72 @@
     <message>
         <source>Full screen</source>
         <translation>Pantalla completa</translation>
+    </message>
+</context>
+<context>
+    <name>TrackParser</name>
+    <message>
+        <source>is no NMEA 0183 sentence</source>
+        <translation>no es una sentencia NMEA 0183</translation>
+    </message>
+    <message>
+        <source>its checksum is wrong</source>
+        <translation>su suma de control es incorrecta</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>está cortada</translation>
+    </message>
+    <message>
+        <source>its time is none</source>
+        <translation>su hora no es válida</translation>
+    </message>
+    <message>
+        <source>its position is none</source>
+        <translation>su posición no es válida</translation>
+    </message>
+    <message>
+        <source>is no head with &quot;time&quot; and &quot;x&quot;, &quot;y&quot; or &quot;lon&quot;, &quot;lat&quot;</source>
+        <translation>no es un encabezado con &quot;time&quot; y &quot;x&quot;, &quot;y&quot; o &quot;lon&quot;, &quot;lat&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>TrackReader</name>
+    <message>
+        <source>%1: holds no position</source>
+        <translation>%1: no contiene ninguna posición</translation>
+    </message>
+    <message>
+        <source>%1: holds no position; %2</source>
+        <translation>%1: no contiene ninguna posición; %2</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>its time is beyond the year 9999</source>
+        <translation>su hora es posterior al año 9999</translation>
+    </message>
+    <message>
+        <source>goes back in time</source>
+        <translation>retrocede en el tiempo</translation>
+    </message>
+    <message>
+        <source>lies off the field&apos;s plane</source>
+        <translation>está fuera del plano del campo</translation>
+    </message>
+    <message>
+        <source>is in degrees, and no field is loaded to place them</source>
+        <translation>está en grados y no hay ningún campo cargado para situarlos</translation>
+    </message>
+    <message>
+        <source>jumps by %1 m</source>
+        <translation>salta %1 m</translation>
     </message>
 </context>
 <context>

@@ -963,6 +963,17 @@
     </message>
 </context>
 <context>
+    <name>RecordWriter</name>
+    <message>
+        <source>%1: the record ends early: %2</source>
+        <translation>%1 : l’enregistrement se termine trop tôt : %2</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>il n’y a plus de place sur le disque</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -1044,6 +1055,33 @@
     </message>
 </context>
 <context>
+    <name>SystemReason</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>permission refusée</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>il n’y a plus de place sur le disque</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ce fichier ou dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>l’espace attribué est épuisé</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>le fichier est trop grand</translation>
+    </message>
+</context>
+<context>
     <name>TerminalWindow</name>
     <message>
         <source>Field terminal</source>
@@ -1084,6 +1122,72 @@
     <message>
         <source>Full screen</source>
         <translation>Plein écran</translation>
+    </message>
+</context>
+<context>
+    <name>TrackParser</name>
+    <message>
+        <source>is no NMEA 0183 sentence</source>
+        <translation>n’est pas une phrase NMEA 0183</translation>
+    </message>
+    <message>
+        <source>its checksum is wrong</source>
+        <translation>sa somme de contrôle est fausse</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>est coupée</translation>
+    </message>
+    <message>
+        <source>its time is none</source>
+        <translation>son heure n’est pas valable</translation>
+    </message>
+    <message>
+        <source>its position is none</source>
+        <translation>sa position n’est pas valable</translation>
+    </message>
+    <message>
+        <source>is no head with &quot;time&quot; and &quot;x&quot;, &quot;y&quot; or &quot;lon&quot;, &quot;lat&quot;</source>
+        <translation>n’est pas un en-tête avec &quot;time&quot; et &quot;x&quot;, &quot;y&quot; ou &quot;lon&quot;, &quot;lat&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>TrackReader</name>
+    <message>
+        <source>%1: holds no position</source>
+        <translation>%1 : ne contient aucune position</translation>
+    </message>
+    <message>
+        <source>%1: holds no position; %2</source>
+        <translation>%1 : ne contient aucune position ; %2</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>a plus de %1 caractères</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>its time is beyond the year 9999</source>
+        <translation>son heure est postérieure à l’an 9999</translation>
+    </message>
+    <message>
+        <source>goes back in time</source>
+        <translation>remonte dans le temps</translation>
+    </message>
+    <message>
+        <source>lies off the field&apos;s plane</source>
+        <translation>se trouve hors du plan de la parcelle</translation>
+    </message>
+    <message>
+        <source>is in degrees, and no field is loaded to place them</source>
+        <translation>est en degrés, et aucune parcelle n’est chargée pour les situer</translation>
+    </message>
+    <message>
+        <source>jumps by %1 m</source>
+        <translation>saute de %1 m</translation>
     </message>
 </context>
 <context>

@@ -963,6 +963,17 @@
     </message>
 </context>
 <context>
+    <name>RecordWriter</name>
+    <message>
+        <source>%1: the record ends early: %2</source>
+        <translation>%1: a gravação termina antes do tempo: %2</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>não há mais espaço no disco</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Report of a drive</source>
@@ -1044,6 +1055,33 @@
     </message>
 </context>
 <context>
+    <name>SystemReason</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>permissão negada</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>não há mais espaço no disco</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>este arquivo ou pasta não existe</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>o disco é somente leitura</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>o espaço atribuído se esgotou</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>o arquivo é grande demais</translation>
+    </message>
+</context>
+<context>
     <name>TerminalWindow</name>
     <message>
         <source>Field terminal</source>
@@ -1084,6 +1122,72 @@
     <message>
         <source>Full screen</source>
         <translation>Tela cheia</translation>
+    </message>
+</context>
+<context>
+    <name>TrackParser</name>
+    <message>
+        <source>is no NMEA 0183 sentence</source>
+        <translation>não é uma sentença NMEA 0183</translation>
+    </message>
+    <message>
+        <source>its checksum is wrong</source>
+        <translation>sua soma de verificação está errada</translation>
+    </message>
+    <message>
+        <source>is cut off</source>
+        <translation>está cortada</translation>
+    </message>
+    <message>
+        <source>its time is none</source>
+        <translation>sua hora não é válida</translation>
+    </message>
+    <message>
+        <source>its position is none</source>
+        <translation>sua posição não é válida</translation>
+    </message>
+    <message>
+        <source>is no head with &quot;time&quot; and &quot;x&quot;, &quot;y&quot; or &quot;lon&quot;, &quot;lat&quot;</source>
+        <translation>não é um cabeçalho com &quot;time&quot; e &quot;x&quot;, &quot;y&quot; ou &quot;lon&quot;, &quot;lat&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>TrackReader</name>
+    <message>
+        <source>%1: holds no position</source>
+        <translation>%1: não contém nenhuma posição</translation>
+    </message>
+    <message>
+        <source>%1: holds no position; %2</source>
+        <translation>%1: não contém nenhuma posição; %2</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>tem mais de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>linha %1: %2</translation>
+    </message>
+    <message>
+        <source>its time is beyond the year 9999</source>
+        <translation>sua hora é posterior ao ano 9999</translation>
+    </message>
+    <message>
+        <source>goes back in time</source>
+        <translation>volta no tempo</translation>
+    </message>
+    <message>
+        <source>lies off the field&apos;s plane</source>
+        <translation>está fora do plano do campo</translation>
+    </message>
+    <message>
+        <source>is in degrees, and no field is loaded to place them</source>
+        <translation>está em graus e nenhum campo está carregado para situá-los</translation>
+    </message>
+    <message>
+        <source>jumps by %1 m</source>
+        <translation>salta %1 m</translation>
     </message>
 </context>
 <context>

@@ -1,3 +1,4 @@
+#include "fielddrive.h"
 #include "files.h"
 #include "machinebench.h"
 #include "recorder.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <csignal>
+#include <functional>
 #include <ogrsf_frmts.h>
 #include <sys/resource.h>
 
@@ -48,6 +50,7 @@ private Q_SLOTS:
     void twoDrivesAreTheSameToTheByte_data();
     void twoDrivesAreTheSameToTheByte();
     void whatIsReadBackIsTheDrive();
+    void aReplayedRecordGoesOverTheSameGround();
     void aGeoPackageHoldsPointsAndStrips();
     void whereTheMachineIsPutElsewhereNoStripIs();
     void aDriveThatGoesOnCanBeRead();
@@ -65,6 +68,9 @@ private:
     static int stepsIn(const QString &path);
     /// Drives 5 s over a border at 4 m/s and records it; returns the record's path.
     QString drive(const QString &name);
+    /// Records 150 s of what `begin` begins. How the machine stood after each step: heading, speed, whether it worked,
+    /// and the implement's place on earth.
+    QList<QByteArray> groundOf(const QList<MachineBench::Zone> &zones, const std::function<void(Simulation &)> &begin);
     static QList<QByteArray> lines(const QString &path) { return readFile(path).split('\n'); }
 
     QScopedPointer<QTemporaryDir> folder;
@@ -92,13 +98,37 @@ int TestRecorder::stepsIn(const QString &path)
     return areWhole ? rows.size() - 2 : -1;
 }
 
+QList<QByteArray> TestRecorder::groundOf(const QList<MachineBench::Zone> &zones,
+                                         const std::function<void(Simulation &)> &begin)
+{
+    MachineBench bench;
+    bench.loadZones(zones);
+    MachineSize size = bench.simulation.vehicle()->size();
+    size.antennaOffset = 2.0;
+    bench.simulation.vehicle()->setSize(size);
+    Recorder recorder(&bench.simulation);
+    const QString path = folder->filePath(QStringLiteral("ground.csv"));
+    recorder.start(path);
+    begin(bench.simulation);
+    bench.simulation.run(150.0);
+    recorder.stop();
+    QList<QByteArray> ground;
+    const QList<QByteArray> rows = lines(path).mid(1);
+    for (const QByteArray &row : rows) {
+        const QByteArrayList fields = row.split(',');
+        if (fields.size() > 1)
+            ground.append((fields.mid(3, 3) + fields.mid(fields.size() - 2)).join(','));
+    }
+    return ground;
+}
+
 QString TestRecorder::drive(const QString &name)
 {
     MachineBench bench;
     const LoadReport report = bench.loadZones({{-100, 0, 50}, {0, 100, 80}});
     Recorder recorder(&bench.simulation);
     const QString path = folder->filePath(name);
-    const QString error = recorder.start(path, report.origin);
+    const QString error = recorder.start(path);
     if (!error.isEmpty())
         return error;
     bench.place({-10, 3}, 90.0, 4.0);
@@ -114,7 +144,7 @@ void TestRecorder::aRowIsWrittenForEveryStep()
     QCOMPARE(rows.first().left(74),
              QByteArray("time,x,y,heading,speed,working,prescribed_1,commanded_1,applied_1,source_1"));
     const QList<QByteArray> fields = rows.at(20).split(',');
-    QCOMPARE(fields.size(), 6 + 3 * 4);
+    QCOMPARE(fields.size(), 6 + 3 * 4 + 2);
     QCOMPARE(fields.mid(0, 6), QList<QByteArray>({"2.000", "-2.000", "3.000", "90.000", "4.000", "1"}));
     // The look-ahead is one second.
     QCOMPARE(fields.mid(6, 2), QList<QByteArray>({"80.000", "80.000"}));
@@ -156,8 +186,8 @@ void TestRecorder::whatIsReadBackIsTheDrive()
     Recorder table(&bench.simulation);
     const QString packagePath = folder->filePath(QStringLiteral("a.gpkg"));
     const QString tablePath = folder->filePath(QStringLiteral("a.csv"));
-    QCOMPARE(package.start(packagePath, report.origin), QString());
-    QCOMPARE(table.start(tablePath, report.origin), QString());
+    QCOMPARE(package.start(packagePath), QString());
+    QCOMPARE(table.start(tablePath), QString());
     // Over all zones and off the map, in a turn, without a signal, and standing still.
     bench.place({-45, 3}, 90.0, 4.0);
     bench.simulation.run(25.0);
@@ -213,6 +243,23 @@ void TestRecorder::whatIsReadBackIsTheDrive()
     QCOMPARE(sources.size(), int(CommandSource::NotControlled) + 1);
 }
 
+void TestRecorder::aReplayedRecordGoesOverTheSameGround()
+{
+    const QList<QByteArray> driven = groundOf({{-100, 0, 50}, {0, 100, 80}}, [](Simulation &simulation) {
+        simulation.vehicle()->follow(FieldDrive::plan(simulation, FieldDrive::usualOptions(simulation)).value);
+        simulation.vehicle()->drive(4.0);
+    });
+    QVERIFY(std::any_of(driven.begin(), driven.end(), [](const QByteArray &row) { return row.contains(",4.000,0,"); }));
+    QVERIFY(QFile::rename(folder->filePath(QStringLiteral("ground.csv")), folder->filePath(QStringLiteral("a.csv"))));
+    // On the plane of a map that lies elsewhere.
+    const QList<QByteArray> replayed = groundOf({{-100, 0, 50}, {0, 300, 80}}, [this](Simulation &simulation) {
+        QVERIFY(simulation.replay(folder->filePath(QStringLiteral("a.csv"))).isOk());
+    });
+    QCOMPARE(driven.size(), 1500);
+    // The replay begins at the end of the first step, and stands at the end of the last.
+    QCOMPARE(replayed.mid(0, 1498), driven.mid(1, 1498));
+}
+
 void TestRecorder::aGeoPackageHoldsPointsAndStrips()
 {
     const QString path = drive(QStringLiteral("a.gpkg"));
@@ -249,7 +296,7 @@ void TestRecorder::whereTheMachineIsPutElsewhereNoStripIs()
     const LoadReport report = bench.loadZones({{-100, 100, 50}});
     Recorder recorder(&bench.simulation);
     const QString path = folder->filePath(QStringLiteral("a.gpkg"));
-    QCOMPARE(recorder.start(path, report.origin), QString());
+    QCOMPARE(recorder.start(path), QString());
     for (const double x : {-90.0, 60.0}) {
         bench.place({x, 3}, 90.0, 4.0);
         bench.simulation.run(1.05);
@@ -266,12 +313,12 @@ void TestRecorder::aDriveThatGoesOnCanBeRead()
     const LoadReport report = bench.loadZones({{-100, 100, 50}});
     Recorder recorder(&bench.simulation);
     const QString table = folder->filePath(QStringLiteral("a.csv"));
-    QCOMPARE(recorder.start(table, report.origin), QString());
+    QCOMPARE(recorder.start(table), QString());
     bench.simulation.run(3.55);
     // All steps except those that began in the last second.
     QCOMPARE(lines(table).size(), 30 + 2);
     const QString package = folder->filePath(QStringLiteral("a.gpkg"));
-    QCOMPARE(recorder.start(package, report.origin), QString());
+    QCOMPARE(recorder.start(package), QString());
     bench.simulation.run(3.55);
     const GDALDatasetUniquePtr file(GDALDataset::Open(package.toLocal8Bit().constData(), GDAL_OF_VECTOR));
     QVERIFY(file != nullptr);
@@ -297,10 +344,10 @@ void TestRecorder::aRecordOverItselfStartsAnew()
     MachineBench bench;
     Recorder recorder(&bench.simulation);
     const QString path = folder->filePath(name);
-    QCOMPARE(recorder.start(path, QPointF(9, 50)), QString());
+    QCOMPARE(recorder.start(path), QString());
     bench.simulation.run(5.55);
     QVERIFY(nextName == name || QFile::link(path, folder->filePath(nextName)));
-    QCOMPARE(recorder.start(folder->filePath(nextName), QPointF(9, 50)), QString());
+    QCOMPARE(recorder.start(folder->filePath(nextName)), QString());
     bench.simulation.run(1.5);
     QCOMPARE(recorder.stop(), QString());
     QCOMPARE(stepsIn(path), 15);
@@ -312,11 +359,11 @@ void TestRecorder::whatTheFormerRecordLostIsTold()
     Recorder recorder(&bench.simulation);
     const QString former = folder->filePath(QStringLiteral("former.csv"));
     const QString next = folder->filePath(QStringLiteral("next.csv"));
-    QCOMPARE(recorder.start(former, QPointF(9, 50)), QString());
+    QCOMPARE(recorder.start(former), QString());
     bench.simulation.run(5.55);
     {
         const SmallDisk disk(static_cast<rlim_t>(QFileInfo(former).size() + 1));
-        const QString told = recorder.start(next, QPointF(9, 50));
+        const QString told = recorder.start(next);
         QVERIFY2(told.startsWith(former + QStringLiteral(": the record ends early: ")), qPrintable(told));
     }
     QVERIFY(recorder.isRecording());
@@ -331,9 +378,9 @@ void TestRecorder::aRecordGoesOnWhereTheNextCannotBeWritten()
     MachineBench bench;
     Recorder recorder(&bench.simulation);
     const QString path = folder->filePath(QStringLiteral("a.csv"));
-    QCOMPARE(recorder.start(path, QPointF(9, 50)), QString());
+    QCOMPARE(recorder.start(path), QString());
     bench.simulation.run(1.55);
-    QVERIFY(!recorder.start(QStringLiteral("/nowhere/b.csv"), QPointF(9, 50)).isEmpty());
+    QVERIFY(!recorder.start(QStringLiteral("/nowhere/b.csv")).isEmpty());
     bench.simulation.run(1.0);
     QCOMPARE(recorder.stop(), QString());
     QCOMPARE(stepsIn(path), 25);
@@ -360,7 +407,7 @@ void TestRecorder::whatCannotBeWrittenIsToldInOneLine()
     QFETCH(QString, reason);
     MachineBench bench;
     Recorder recorder(&bench.simulation);
-    const QString error = recorder.start(path, QPointF(9, 50));
+    const QString error = recorder.start(path);
     QVERIFY2(error.startsWith(reason) && error.size() > path.size() + 2, qPrintable(error));
     QVERIFY(!error.contains(QLatin1Char('\n')));
     QVERIFY(!recorder.isRecording());
@@ -383,7 +430,7 @@ void TestRecorder::aFullDiskEndsTheRecordWithAWholeSecond()
     Recorder recorder(&bench.simulation);
     QSignalSpy failures(&recorder, &Recorder::failed);
     const QString path = folder->filePath(name);
-    QCOMPARE(recorder.start(path, QPointF(9, 50)), QString());
+    QCOMPARE(recorder.start(path), QString());
     bench.simulation.vehicle()->drive(3.0);
     {
         const SmallDisk disk(static_cast<rlim_t>(bytes));

@@ -38,11 +38,12 @@ QString CsvTrackParser::readHead(const QByteArrayList &names)
     time = plain.indexOf("time");
     heading = plain.indexOf("heading");
     speed = plain.indexOf("speed");
+    working = plain.indexOf("working");
     isInDegrees = plain.contains("lon") && plain.contains("lat");
     x = plain.indexOf(isInDegrees ? "lon" : "x");
     y = plain.indexOf(isInDegrees ? "lat" : "y");
     if (time < 0 || x < 0 || y < 0)
-        return QStringLiteral("is no head with \"time\" and \"x\", \"y\" or \"lon\", \"lat\"");
+        return TrackParser::tr("is no head with \"time\" and \"x\", \"y\" or \"lon\", \"lat\"");
     return {};
 }
 
@@ -53,7 +54,7 @@ QString CsvTrackParser::read(const QByteArray &line, std::vector<TrackPoint> &po
         return readHead(fields);
     const auto moment = seconds(fields, time);
     if (!moment)
-        return QStringLiteral("its time is none");
+        return TrackParser::tr("its time is none");
     TrackPoint point;
     point.time = *moment;
     point.isInDegrees = isInDegrees;
@@ -64,13 +65,15 @@ QString CsvTrackParser::read(const QByteArray &line, std::vector<TrackPoint> &po
     const bool isPlace =
         across && along && (!isInDegrees || (std::fabs(*across) <= 180.0 && std::fabs(*along) <= 90.0));
     if (point.hasFix && !isPlace)
-        return QStringLiteral("its position is none");
+        return TrackParser::tr("its position is none");
     if (point.hasFix)
         point.place = QPointF(*across, *along);
     if (const auto degrees = number(fields, heading))
         point.heading = radiansOf(*degrees);
     if (const auto driven = number(fields, speed))
         point.speed = std::fabs(*driven);
+    if (const auto isDown = number(fields, working))
+        point.working = *isDown != 0.0;
     points.push_back(point);
     return {};
 }

@@ -14,7 +14,7 @@ QString unpack(const QByteArray &line, QByteArray &body)
 {
     const QByteArray text = line.trimmed();
     if (!text.startsWith('$'))
-        return QStringLiteral("is no NMEA 0183 sentence");
+        return TrackParser::tr("is no NMEA 0183 sentence");
     const int star = text.indexOf('*');
     body = text.mid(1, star < 0 ? -1 : star - 1);
     if (star < 0)
@@ -24,7 +24,7 @@ QString unpack(const QByteArray &line, QByteArray &body)
         sum ^= static_cast<unsigned char>(c);
     bool isNumber = false;
     const uint stated = text.mid(star + 1).toUInt(&isNumber, 16);
-    return isNumber && stated == sum ? QString() : QStringLiteral("its checksum is wrong");
+    return isNumber && stated == sum ? QString() : TrackParser::tr("its checksum is wrong");
 }
 
 /// hhmmss.ss as seconds of the day.
@@ -69,7 +69,7 @@ QString NmeaParser::read(const QByteArray &line, std::vector<TrackPoint> &points
     const QByteArray kind = fields.first().size() == 5 ? fields.first().mid(2) : QByteArray();
     const int wanted = kind == "GGA" ? 7 : kind == "RMC" ? 9 : 1;
     if (fields.size() < wanted)
-        return QStringLiteral("is cut off");
+        return TrackParser::tr("is cut off");
     if (kind == "GGA") {
         const QByteArray quality = fields.value(6);
         return readPosition(fields, 1, 2, !quality.isEmpty() && quality != "0", points);
@@ -90,7 +90,7 @@ QString NmeaParser::readPosition(const QByteArrayList &fields, int time, int pla
 {
     const std::optional<double> day = timeOfDay(fields.value(time));
     if (!day)
-        return QStringLiteral("its time is none");
+        return TrackParser::tr("its time is none");
     TrackPoint point;
     point.isInDegrees = true;
     point.hasFix = hasFix;
@@ -98,7 +98,7 @@ QString NmeaParser::readPosition(const QByteArrayList &fields, int time, int pla
         const auto latitude = degrees(fields.value(place), fields.value(place + 1), "NS", 90.0);
         const auto longitude = degrees(fields.value(place + 2), fields.value(place + 3), "EW", 180.0);
         if (!latitude || !longitude)
-            return QStringLiteral("its position is none");
+            return TrackParser::tr("its position is none");
         point.place = QPointF(*longitude, *latitude);
     }
     point.time = midnights + *day;

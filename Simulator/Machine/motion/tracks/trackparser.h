@@ -3,12 +3,15 @@
 #include "trackpoint.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include <vector>
 
 /// Reads a track of one format, line by line.
 class TrackParser {
+    Q_DECLARE_TR_FUNCTIONS(TrackParser)
+
 public:
     virtual ~TrackParser() = default;
     /// Appends the entries that a line completes. Why the line is bad; empty for a good one.

@@ -17,4 +17,7 @@ struct TrackPoint {
     std::optional<double> heading;
     /// Metres per second, from 0.
     std::optional<double> speed;
+    /// Whether the implement was down. Only a record of the terminal tells that, and its places are the implement's
+    /// middle instead of the antenna's.
+    std::optional<bool> working;
 };

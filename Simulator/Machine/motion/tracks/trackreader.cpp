@@ -29,6 +29,21 @@ TrackReader::TrackReader(const QString &path, const std::shared_ptr<const FieldP
 
 TrackReader::~TrackReader() = default;
 
+bool TrackReader::mayRead(const QString &path)
+{
+    QFile file(path);
+    if (!regularFileProblem(path).isEmpty() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = file.read(longestLine).trimmed().split('\n').first().trimmed();
+    if (line.startsWith('$')) {
+        constexpr int longestName = 8;
+        const int comma = line.indexOf(',');
+        return comma > 1 && comma <= longestName && !line.left(comma).contains(' ');
+    }
+    std::vector<TrackPoint> none;
+    return CsvTrackParser().read(line, none).isEmpty();
+}
+
 Result<TrackReader::Summary> TrackReader::check(const QString &path, const std::shared_ptr<const FieldPlane> &plane)
 {
     TrackReader reader(path, plane);
@@ -41,8 +56,8 @@ Result<TrackReader::Summary> TrackReader::check(const QString &path, const std::
     if (hasPlace)
         return {reader.told, {}};
     return Result<Summary>::failure(reader.told.firstBad.isEmpty()
-                                        ? QStringLiteral("%1: holds no position").arg(path)
-                                        : QStringLiteral("%1: holds no position; %2").arg(path, reader.told.firstBad));
+                                        ? tr("%1: holds no position").arg(path)
+                                        : tr("%1: holds no position; %2").arg(path, reader.told.firstBad));
 }
 
 bool TrackReader::readLine(QByteArray &line)
@@ -59,7 +74,7 @@ bool TrackReader::readLine(QByteArray &line)
             break;
     }
     if (isTooLong) {
-        complain(QStringLiteral("is longer than %1 characters").arg(longestLine));
+        complain(tr("is longer than %1 characters").arg(longestLine));
         line.clear();
     }
     line = line.trimmed();
@@ -69,33 +84,32 @@ bool TrackReader::readLine(QByteArray &line)
 void TrackReader::complain(const QString &reason)
 {
     if (told.badLines++ == 0)
-        told.firstBad = QStringLiteral("line %1: %2").arg(lineNumber).arg(reason);
+        told.firstBad = tr("line %1: %2").arg(lineNumber).arg(reason);
 }
 
 QString TrackReader::misfit(TrackPoint &point)
 {
     if (std::fabs(point.time) >= latest)
-        return QStringLiteral("its time is beyond the year 9999");
+        return tr("its time is beyond the year 9999");
     if (lastTime && point.time < *lastTime)
-        return QStringLiteral("goes back in time");
+        return tr("goes back in time");
     if (!point.hasFix)
         return {};
     if (point.isInDegrees) {
         const auto place = plane != nullptr ? plane->toField(point.place) : std::nullopt;
         if (!place)
-            return plane != nullptr ? QStringLiteral("lies off the field's plane")
-                                    : QStringLiteral("is in degrees, and no field is loaded to place them");
+            return plane != nullptr ? tr("lies off the field's plane")
+                                    : tr("is in degrees, and no field is loaded to place them");
         point.place = *place;
         point.isInDegrees = false;
     }
     if (std::hypot(point.place.x(), point.place.y()) > FieldPlane::reach)
-        return QStringLiteral("lies off the field's plane");
+        return tr("lies off the field's plane");
     if (!lastPlaced)
         return {};
     const QPointF moved = point.place - lastPlaced->place;
     const double far = std::hypot(moved.x(), moved.y());
-    return far > fastest * (point.time - lastPlaced->time) ? QStringLiteral("jumps by %1 m").arg(far, 0, 'f', 0)
-                                                           : QString();
+    return far > fastest * (point.time - lastPlaced->time) ? tr("jumps by %1 m").arg(far, 0, 'f', 0) : QString();
 }
 
 bool TrackReader::takeWaiting(TrackPoint &point)

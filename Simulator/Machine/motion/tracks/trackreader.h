@@ -4,6 +4,7 @@
 #include "result.h"
 #include "trackparser.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <memory>
@@ -11,6 +12,8 @@
 /// A recorded track, read entry by entry as it is needed, so that its length takes no memory: NMEA 0183, or
 /// comma-separated values. Entries that cannot be read, go back in time or jump are left out and counted.
 class TrackReader {
+    Q_DECLARE_TR_FUNCTIONS(TrackReader)
+
 public:
     /// What was read so far.
     struct Summary {
@@ -22,6 +25,8 @@ public:
         double seconds = 0.0;
     };
 
+    /// Whether the file begins as a track does.
+    static bool mayRead(const QString &path);
     /// Reads the track once, to make sure that it can be replayed. `plane` takes its degrees to the field; null where
     /// no field is loaded, for a track in metres alone.
     static Result<Summary> check(const QString &path, const std::shared_ptr<const FieldPlane> &plane);

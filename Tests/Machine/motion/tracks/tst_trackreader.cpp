@@ -54,6 +54,8 @@ private Q_SLOTS:
     void aLongTrackTakesNoMemory();
     void aTrackWithoutPositionsIsRefused_data();
     void aTrackWithoutPositionsIsRefused();
+    void aTrackIsKnownByItsFirstLine_data();
+    void aTrackIsKnownByItsFirstLine();
 
 private:
     QString write(const QByteArray &content);
@@ -250,6 +252,27 @@ void TestTrackReader::aTrackWithoutPositionsIsRefused()
     QVERIFY(!TrackReader::check(folder.filePath(QStringLiteral("none")), plane).isOk());
     const auto inDegrees = TrackReader::check(write("time,lon,lat\n0,9,50\n"), nullptr);
     QVERIFY2(inDegrees.error.endsWith(QLatin1String("no field is loaded to place them")), qPrintable(inDegrees.error));
+}
+
+void TestTrackReader::aTrackIsKnownByItsFirstLine_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isTrack");
+    QTest::newRow("NMEA") << QByteArray("\r\n$GPGGA,120000,,,,,0\r\n") << true;
+    QTest::newRow("a receiver's own sentence") << QByteArray("$PUBX,00,1\n") << true;
+    QTest::newRow("table") << QByteArray("Time,lon,lat\n0,9,50\n") << true;
+    QTest::newRow("table of something else") << QByteArray("time,price\n0,9\n") << false;
+    QTest::newRow("shell") << QByteArray("$ make, and so on\n") << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("no text") << QByteArray(3000, '\xff') << false;
+}
+
+void TestTrackReader::aTrackIsKnownByItsFirstLine()
+{
+    QFETCH(QByteArray, content);
+    QTEST(TrackReader::mayRead(write(content)), "isTrack");
+    QVERIFY(!TrackReader::mayRead(folder.path()));
+    QVERIFY(!TrackReader::mayRead(folder.filePath(QStringLiteral("none"))));
 }
 
 RXMAP_TEST(TestTrackReader, None)
