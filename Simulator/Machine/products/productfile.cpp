@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int shortNameLength = 5;
 constexpr int maxBins = 99;
 
 const QMap<QString, Product::Kind> &kinds()

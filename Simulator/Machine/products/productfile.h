@@ -25,6 +25,8 @@ class ProductFile {
 
 public:
     static constexpr int maxProducts = 16;
+    /// Letters of a short name that is cut from a name.
+    static constexpr int shortNameLength = 5;
 
     /// An error names the file and, where there is one, the product's number.
     static Result<MachineSetup> read(const QString &path);

@@ -69,6 +69,30 @@ Product nextSpare(Products &spare, int number)
     return spare.isEmpty() ? productOf({name, DbGroupProductGroupInfo::WeightRate, number}) : spare.takeFirst();
 }
 
+/// Writes a product's number into its short name where another one has the same; those of columns keep theirs before
+/// the others do.
+void tellApart(Products &products, const QList<ColumnProduct> &columns)
+{
+    QStringList taken;
+    QList<int> others;
+    const auto take = [&products, &taken](int number) {
+        QString &shortName = products[number - 1].shortName;
+        const QString end = QString::number(number);
+        if (taken.contains(shortName))
+            shortName = shortName.left(ProductFile::shortNameLength - end.size()) + end;
+        taken.append(shortName);
+    };
+    for (int number = 1; number <= products.size(); ++number) {
+        const bool isMade = std::any_of(columns.begin(), columns.end(),
+                                        [number](const ColumnProduct &column) { return column.number == number; });
+        if (isMade)
+            take(number);
+        else
+            others.append(number);
+    }
+    std::for_each(others.cbegin(), others.cend(), take);
+}
+
 } // namespace
 
 Products SuggestedProducts::of(const QList<ColumnProduct> &columns, int least)
@@ -96,5 +120,6 @@ Products SuggestedProducts::of(const QList<ColumnProduct> &columns, int least)
         products[number - 1] = nextSpare(spare, number);
         products[number - 1].bin = number;
     }
+    tellApart(products, columns);
     return products;
 }

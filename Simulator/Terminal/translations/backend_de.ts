@@ -736,5 +736,38 @@
         <source>is empty</source>
         <translation>ist leer</translation>
     </message>
+    <message>
+        <source>Dry matter</source>
+        <translation>Trockenmasse</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Anteil</translation>
+    </message>
+    <message>
+        <source>Seeds</source>
+        <comment>what is sown</comment>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
+    </message>
 </context>
 </TS>

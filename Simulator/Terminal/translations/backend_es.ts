@@ -736,5 +736,38 @@
         <source>is empty</source>
         <translation>está vacío</translation>
     </message>
+    <message>
+        <source>Dry matter</source>
+        <translation>Materia seca</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energía</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Espaciado</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Parte</translation>
+    </message>
+    <message>
+        <source>Seeds</source>
+        <comment>what is sown</comment>
+        <translation>Grano</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masa</translation>
+    </message>
 </context>
 </TS>

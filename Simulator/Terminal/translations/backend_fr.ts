@@ -736,5 +736,38 @@
         <source>is empty</source>
         <translation>est vide</translation>
     </message>
+    <message>
+        <source>Dry matter</source>
+        <translation>Matière sèche</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Énergie</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Espacement</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Part</translation>
+    </message>
+    <message>
+        <source>Seeds</source>
+        <comment>what is sown</comment>
+        <translation>Grain</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
+    </message>
 </context>
 </TS>

@@ -736,5 +736,38 @@
         <source>is empty</source>
         <translation>está vazio</translation>
     </message>
+    <message>
+        <source>Dry matter</source>
+        <translation>Matéria seca</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Espaçamento</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largura</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Parte</translation>
+    </message>
+    <message>
+        <source>Seeds</source>
+        <comment>what is sown</comment>
+        <translation>Grãos</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Massa</translation>
+    </message>
 </context>
 </TS>

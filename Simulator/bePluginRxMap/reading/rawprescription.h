@@ -22,6 +22,9 @@ struct SourceColumn {
     enum class Meaning { NotSaid, Rates, NoRates };
 
     QString name;
+    /// What is measured ("Mass"), in a word, where the format names no product; a product of the column is called so.
+    /// Empty where the column's own name does.
+    QString measured;
     /// Place among the table's fields.
     int field = -1;
     bool isText = false;

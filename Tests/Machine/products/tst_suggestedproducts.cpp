@@ -15,6 +15,7 @@ private Q_SLOTS:
     void columnsBecomeProducts();
     void thereAreNeverFewerThanBefore();
     void allButTheNameIsThatOfTheStandardProductOfTheKind();
+    void shortNamesTellProductsApart();
     void ratesFitThoseOfTheColumn_data();
     void ratesFitThoseOfTheColumn();
 };
@@ -76,6 +77,18 @@ void TestSuggestedProducts::allButTheNameIsThatOfTheStandardProductOfTheKind()
     QCOMPARE(int(made.kind), int(standard.kind));
     QCOMPARE(made.defaultRate, standard.defaultRate);
     QCOMPARE(made.actuator.maxRate, standard.actuator.maxRate);
+}
+
+void TestSuggestedProducts::shortNamesTellProductsApart()
+{
+    QList<ColumnProduct> columns;
+    for (const char *name : {"Mass", "Volume", "Mass 2", "Volume 2", "Seeds"})
+        columns.append({QLatin1String(name), DbGroupProductGroupInfo::WeightRate, columns.size() + 1});
+    QStringList names;
+    const Products products = SuggestedProducts::of(columns);
+    for (const Product &product : products)
+        names.append(product.shortName);
+    QCOMPARE(names, QStringList({"Mass", "Volum", "Mass3", "Volu4", "Seeds"}));
 }
 
 void TestSuggestedProducts::ratesFitThoseOfTheColumn_data()

@@ -22,9 +22,11 @@ RateKind kindOf(ProductLineItem::Basis basis)
     }
 }
 
-/// When the format says what a column is, the column's name is the product's own.
+/// When the format says what a column is, the column's name is the product's own, unless it only says what is measured.
 QString nameOf(const SourceColumn &column)
 {
+    if (!column.measured.isEmpty())
+        return column.measured;
     return column.meaning == SourceColumn::Meaning::NotSaid ? ColumnName(column.name).product() : column.name;
 }
 
@@ -35,9 +37,10 @@ QString freeName(const SourceColumn &column, const QList<ColumnProduct> &product
             return product.name.compare(name, Qt::CaseInsensitive) == 0;
         });
     };
-    QString name = isTaken(nameOf(column)) ? column.name : nameOf(column);
+    const QString whole = column.measured.isEmpty() ? column.name : column.measured;
+    QString name = isTaken(nameOf(column)) ? whole : nameOf(column);
     for (int i = 2; isTaken(name); ++i)
-        name = QStringLiteral("%1 %2").arg(column.name, QString::number(i));
+        name = QStringLiteral("%1 %2").arg(whole, QString::number(i));
     return name;
 }
 
@@ -67,8 +70,9 @@ QList<ColumnProduct> ColumnProducts::of(const RawPrescription &source, const std
         const RateUnit unit = named.isKnown() ? named : units.of(place).unit;
         const RateKind kind = kindOf(unit.isKnown() ? unit.basis() : ColumnName(column.name).basis());
         products.append({freeName(column, products), kind, number});
-        products.last().isNamed =
-            column.meaning != SourceColumn::Meaning::NotSaid || ColumnName(column.name).namesProduct();
+        products.last().isNamed = column.meaning == SourceColumn::Meaning::NotSaid
+            ? ColumnName(column.name).namesProduct()
+            : column.measured.isEmpty();
     };
     for (int i = 0; i < names.size(); ++i) {
         const int field = TableColumns::find(source.columnNames, names.at(i));

@@ -1,5 +1,7 @@
 #include "datadictionary.h"
 
+#include "Backend/backendtext.h"
+
 #include <algorithm>
 
 const std::vector<DataDictionary::Entry> &DataDictionary::entries()
@@ -102,6 +104,32 @@ const DataDictionary::Entry *DataDictionary::find(int number)
     const auto found = std::lower_bound(entries().begin(), entries().end(), number,
                                         [](const Entry &entry, int wanted) { return entry.number < wanted; });
     return found == entries().end() || found->number != number ? nullptr : &*found;
+}
+
+QString DataDictionary::Entry::measured() const
+{
+    const struct {
+        const char *word;
+        QString text;
+    } known[] = {
+        {"Nitrogen", QStringLiteral("N")},
+        {"Ammonium", QStringLiteral("NH4")},
+        {"Phosphor", QStringLiteral("P")},
+        {"Potassium", QStringLiteral("K")},
+        {"Dry Matter", BackendText::tr("Dry matter")},
+        {"Energy", BackendText::tr("Energy")},
+        {"Spacing", BackendText::tr("Spacing")},
+        {"Width", BackendText::tr("Width")},
+        {"Percentage", BackendText::tr("Share")},
+        {"Count", BackendText::tr("Seeds", "what is sown")},
+        // Before mass: a volume may be that of a mass.
+        {"Volume", BackendText::tr("Volume")},
+        {"Mass", BackendText::tr("Mass")},
+    };
+    const auto named = std::find_if(std::begin(known), std::end(known), [this](const auto &any) {
+        return QLatin1String(name).contains(QLatin1String(any.word));
+    });
+    return named == std::end(known) ? QString() : named->text;
 }
 
 QString DataDictionary::Entry::rateUnit() const

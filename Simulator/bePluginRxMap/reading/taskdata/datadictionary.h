@@ -18,6 +18,8 @@ public:
 
         /// Whether it is a target, rather than what was applied or a limit.
         bool isSetpoint() const { return QLatin1String(name).startsWith(QLatin1String("Setpoint")); }
+        /// What is measured, in a word: "Mass", or the nutrient's symbol. In the language of the application.
+        QString measured() const;
         /// The unit, with what is counted.
         QString rateUnit() const;
     };

@@ -85,6 +85,10 @@ void TaskColumns::add(const ProcessValue &value, const TaskData &data)
     const DataDictionary::Entry *entry = DataDictionary::find(value.number);
     SourceColumn column;
     column.name = freeName(columnName(value, data, entry));
+    if (data.products.value(value.product).isEmpty() && entry != nullptr) {
+        const int count = ++timesMeasured[value.number];
+        column.measured = count == 1 ? entry->measured() : QStringLiteral("%1 %2").arg(entry->measured()).arg(count);
+    }
     column.field = static_cast<int>(table.size());
     Scale scale{0.0, 1.0};
     if (entry != nullptr) {

@@ -49,5 +49,7 @@ private:
     QHash<QString, size_t> places;
     /// Names in use, in small letters, and how often each was wanted.
     QHash<QString, int> names;
+    /// For each number (DDI) how many columns without a product it has.
+    QHash<int, int> timesMeasured;
     bool isCutShort = false;
 };

@@ -8,7 +8,7 @@ class ColumnProductsTest : public TestBase {
 private Q_SLOTS:
     void columnsMakeProducts_data();
     void columnsMakeProducts();
-    void whatAFormatCallsAColumnIsTheProductsName();
+    void whatAFormatCallsAColumnOrItsMeasureIsTheProductsName();
     void namedColumnsAndUnitsAreExpectedBeforeTheFileIsRead();
     void aProductIsKnownByItsColumn();
 };
@@ -84,15 +84,19 @@ void ColumnProductsTest::columnsMakeProducts()
     QTEST(textsOf(ColumnProducts(named, units).of(mapOf(columns), {})), "products");
 }
 
-void ColumnProductsTest::whatAFormatCallsAColumnIsTheProductsName()
+void ColumnProductsTest::whatAFormatCallsAColumnOrItsMeasureIsTheProductsName()
 {
-    RawPrescription map = mapOf({QStringLiteral("UAN 28 l/ha mix"), QStringLiteral("Setpoint Mass Rate")});
+    RawPrescription map = mapOf({"UAN 28 l/ha mix", "Setpoint Mass Rate", "Setpoint Mass Rate (2)"});
     for (SourceColumn &column : map.columns) {
         column.meaning = SourceColumn::Meaning::Rates;
         column.formatUnit = QStringLiteral("mg/m2");
+        if (column.field > 0)
+            column.measured = QStringLiteral("Mass");
     }
-    QCOMPARE(textsOf(ColumnProducts({}, {}).of(map, {})),
-             Names({"1:UAN 28 l/ha mix, weight", "2:Setpoint Mass Rate, weight"}));
+    const QList<ColumnProduct> products = ColumnProducts({}, {}).of(map, {});
+    QCOMPARE(textsOf(products), Names({"1:UAN 28 l/ha mix, weight", "2:Mass, weight", "3:Mass 2, weight"}));
+    QVERIFY(products.at(0).isNamed && !products.at(1).isNamed);
+    QVERIFY(ColumnProducts::isNamed(map.columns[1], QStringLiteral("mass")));
 }
 
 void ColumnProductsTest::namedColumnsAndUnitsAreExpectedBeforeTheFileIsRead()

@@ -8,6 +8,7 @@ class DataDictionaryTest : public TestBase {
 private Q_SLOTS:
     void holdsWhatTheDictionarySays();
     void isSortedAndKnowsNoOtherNumbers();
+    void saysInAWordWhatIsMeasured();
 };
 
 void DataDictionaryTest::holdsWhatTheDictionarySays()
@@ -36,6 +37,17 @@ void DataDictionaryTest::isSortedAndKnowsNoOtherNumbers()
         QVERIFY2(entries[i - 1].number < entries[i].number, entries[i].name);
     QVERIFY(DataDictionary::find(0) == nullptr);
     QVERIFY(DataDictionary::find(60000) == nullptr);
+}
+
+void DataDictionaryTest::saysInAWordWhatIsMeasured()
+{
+    QStringList words;
+    for (const DataDictionary::Entry &entry : DataDictionary::entries()) {
+        if (!words.contains(entry.measured()))
+            words.append(entry.measured());
+    }
+    QCOMPARE(words.join(QLatin1Char(' ')),
+             QStringLiteral("Volume Mass Seeds Spacing Width Share N NH4 P K Dry matter Energy"));
 }
 
 RXMAP_TEST(DataDictionaryTest, None)

@@ -149,30 +149,33 @@ void TaskDataReaderTest::namesAndScalesColumns_data()
 {
     QTest::addColumn<QByteArray>("values");
     QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("measured");
     QTest::addColumn<QStringList>("units");
     QTest::addColumn<QString>("meanings"); // r: rates, n: none, ?: not said.
     QTest::addColumn<double>("first");
-    const auto row = [](const char *name, const QByteArray &values, const QStringList &names, const QStringList &units,
-                        const char *meanings, double first) {
-        QTest::newRow(name) << values << names << units << QString::fromLatin1(meanings) << first;
+    const auto row = [](const char *name, const QByteArray &values, const QStringList &names,
+                        const QStringList &measured, const QStringList &units, const char *meanings, double first) {
+        QTest::newRow(name) << values << names << measured << units << QString::fromLatin1(meanings) << first;
     };
     row("products", Sketch::value(litres, 500, "C=\"PDT2\"") + Sketch::value(weight, 5, "C=\"PDT1\""),
-        {"Slurry", "Urea"}, {"mm³/m²", "mg/m²"}, "rr", 5.0);
-    row("no product", Sketch::value(11, 4000), {"Setpoint Count Per Area Application Rate"}, {"seeds/m²"}, "r", 4.0);
+        {"Slurry", "Urea"}, {"", ""}, {"mm³/m²", "mg/m²"}, "rr", 5.0);
+    row("no product", Sketch::value(11, 4000), {"Setpoint Count Per Area Application Rate"}, {"Seeds"}, {"seeds/m²"},
+        "r", 4.0);
     row("one product twice", Sketch::value(litres, 1, "C=\"PDT1\"") + Sketch::value(weight, 1, "C=\"PDT1\""),
-        {"Urea", "Urea (2)"}, {"mm³/m²", "mg/m²"}, "rr", 0.01);
+        {"Urea", "Urea (2)"}, {"", ""}, {"mm³/m²", "mg/m²"}, "rr", 0.01);
     row("two bins", Sketch::value(weight, 3, "D=\"DET1\"") + Sketch::value(weight, 4, "D=\"DET2\""),
-        {"Setpoint Mass Per Area Application Rate", "Setpoint Mass Per Area Application Rate (2)"}, {"mg/m²", "mg/m²"},
-        "rr", 3.0);
+        {"Setpoint Mass Per Area Application Rate", "Setpoint Mass Per Area Application Rate (2)"}, {"Mass", "Mass 2"},
+        {"mg/m²", "mg/m²"}, "rr", 3.0);
     row("a target and what was put out",
-        Sketch::value(actual, 7, "C=\"PDT1\"") + Sketch::value(litres, 8, "C=\"PDT1\""), {"Urea", "Urea (2)"},
+        Sketch::value(actual, 7, "C=\"PDT1\"") + Sketch::value(litres, 8, "C=\"PDT1\""), {"Urea", "Urea (2)"}, {"", ""},
         {"mm³/m²", "mm³/m²"}, "nr", 0.07);
-    row("what was put out alone", Sketch::value(actual, 7), {"Actual Volume Per Area Application Rate"}, {"mm³/m²"},
-        "r", 0.07);
-    row("per time", Sketch::value(36, 7), {"Setpoint Volume Per Time Application Rate"}, {"mm³/s"}, "n", 7.0);
-    row("an unknown number", Sketch::value(unknown, 7), {"DDI 57344"}, {""}, "?", 7.0);
-    row("an unknown number with a presentation", Sketch::value(unknown, 750, "E=\"VPN1\""), {"DDI 57344"}, {"kg/ha"},
-        "?", 7.6);
+    row("what was put out alone", Sketch::value(actual, 7), {"Actual Volume Per Area Application Rate"}, {"Volume"},
+        {"mm³/m²"}, "r", 0.07);
+    row("per time", Sketch::value(36, 7), {"Setpoint Volume Per Time Application Rate"}, {"Volume"}, {"mm³/s"}, "n",
+        7.0);
+    row("an unknown number", Sketch::value(unknown, 7), {"DDI 57344"}, {""}, {""}, "?", 7.0);
+    row("an unknown number with a presentation", Sketch::value(unknown, 750, "E=\"VPN1\""), {"DDI 57344"}, {""},
+        {"kg/ha"}, "?", 7.6);
 }
 
 void TaskDataReaderTest::namesAndScalesColumns()
@@ -187,14 +190,17 @@ void TaskDataReaderTest::namesAndScalesColumns()
     QVERIFY2(read(root()), qPrintable(error));
     QTEST(map.columnNames, "names");
     QStringList found;
+    QStringList measured;
     QString meanings;
     for (const SourceColumn &column : map.columns) {
         found.append(column.formatUnit);
+        measured.append(column.measured);
         meanings += column.meaning == SourceColumn::Meaning::Rates ? 'r'
             : column.meaning == SourceColumn::Meaning::NoRates     ? 'n'
                                                                    : '?';
     }
     QCOMPARE(found, units);
+    QTEST(measured, "measured");
     QTEST(meanings, "meanings");
     QCOMPARE(map.columns[0].values[0], first);
 }
