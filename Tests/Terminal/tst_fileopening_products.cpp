@@ -19,6 +19,8 @@ private Q_SLOTS:
     void aFileThatReplacesAllBringsItsProducts();
     void aProductThatItsColumnLeavesStaysOnlyByAName_data();
     void aProductThatItsColumnLeavesStaysOnlyByAName();
+    void aProductIsNamedAndMeasuredByTheColumnChosenForIt_data();
+    void aProductIsNamedAndMeasuredByTheColumnChosenForIt();
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter_data();
@@ -114,6 +116,35 @@ void TestFileOpeningProducts::aProductThatItsColumnLeavesStaysOnlyByAName()
     QTEST(productNames(), "names");
     // The chosen column feeds the product that it was shown with.
     QCOMPARE(terminal().columnsOf(terminal().backend()->maps().last().group).keys(), QList<int>{2});
+}
+
+void TestFileOpeningProducts::aProductIsNamedAndMeasuredByTheColumnChosenForIt_data()
+{
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("kind");
+    QTest::newRow("a total") << "QT_kg"
+                             << "QT_kg" << int(Product::Kind::Weight);
+    QTest::newRow("another product") << "UAN_L_HA"
+                                     << "UAN" << int(Product::Kind::Volume);
+}
+
+void TestFileOpeningProducts::aProductIsNamedAndMeasuredByTheColumnChosenForIt()
+{
+    QFETCH(QString, column);
+    terminal().adoption()->adoptFromNextFile();
+    const QString path = write("two", {{"RATE_kg_", 1.0}, {column.toLatin1().constData(), 1.0}});
+    Q_EMIT terminal().window()->dropped({path}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    QCOMPARE(button("columnRow0Product")->text(), QStringLiteral("RATE_kg_"));
+    button("columnRow1Product")->click();
+    button("choice1")->click();
+    QTEST(button("columnRow1Product")->text(), "name");
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QTEST(productNames().first(), "name");
+    QTEST(int(terminal().machine()->products().first().kind), "kind");
+    QCOMPARE(terminal().activeColumn(), column);
 }
 
 void TestFileOpeningProducts::productsStayWhereOneIsInUseOrTheMachineMoves()

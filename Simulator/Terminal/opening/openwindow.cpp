@@ -188,7 +188,7 @@ void OpenWindow::takeSurvey(const SurveyReport &survey)
         tell(survey.error, files);
         return;
     }
-    selection = OpenSelection(survey, adoption->productsFor(survey.columnProducts));
+    selection = OpenSelection(survey, [this](const QList<ColumnProduct> &made) { return adoption->productsFor(made); });
     if (before && before->layer == survey.layer && before->task == survey.task)
         selection.apply(*before);
     previews->show(selection, waiting.size());

@@ -1,6 +1,7 @@
 #include "filesurvey.h"
 
 #include "columncontent.h"
+#include "columnproducts.h"
 #include "recordpicture.h"
 #include "tablecolumns.h"
 
@@ -31,6 +32,10 @@ QString FileSurvey::addColumns(const ColumnPolicy &policy, SurveyReport &report)
         if (!column.unit.isEmpty())
             column.unit = told.unit;
         column.product = told.product;
+        for (const ColumnProduct &made : qAsConst(report.columnProducts)) {
+            if (made.number == told.product)
+                column.made = made;
+        }
         report.columns.append(column);
     }
     for (size_t place = 0; place < source.columns.size(); ++place) {
@@ -50,6 +55,7 @@ SurveyedColumn FileSurvey::describe(int place) const
     told.key = isFoundByName ? column.name : QStringLiteral("#%1").arg(column.field + 1);
     told.unit = unit.unit.text();
     told.unitFrom = unit.from;
+    told.made = ColumnProducts::ofColumn(column, unit.unit);
     told.isTotal = LikelyColumns::saysTotal(column);
     told.isSure = LikelyColumns::saysRates(column) && !told.isTotal;
     measure(column, told);

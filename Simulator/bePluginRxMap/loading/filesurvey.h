@@ -14,8 +14,8 @@ public:
     /// Both are not owned and outlive this. `polygons`: those of the map, on its plane.
     FileSurvey(const RawPrescription &source, const std::vector<PlanePolygon> &polygons);
 
-    /// Enters the columns. `policy`: one for which the operator has named no columns. Returns why no product can be
-    /// fed, without the file's name; empty when one can.
+    /// Enters the columns. `report` holds the products that they made. `policy`: one for which the operator has named
+    /// no columns. Returns why no product can be fed, without the file's name; empty when one can.
     QString addColumns(const ColumnPolicy &policy, SurveyReport &report) const;
     void addPicture(SurveyReport &report) const;
 

@@ -4,9 +4,30 @@
 
 #include <algorithm>
 
-OpenSelection::OpenSelection(const SurveyReport &survey, const QList<MachineProduct> &machineProducts)
+namespace {
+
+ColumnProduct *find(QList<ColumnProduct> &products, int number)
+{
+    const auto found = std::find_if(products.begin(), products.end(),
+                                    [number](const ColumnProduct &any) { return any.number == number; });
+    return found == products.end() ? nullptr : &*found;
+}
+
+/// Whether another product than that of the number has the name.
+bool isTaken(const QString &name, const QList<ColumnProduct> &products, int number)
+{
+    return std::any_of(products.begin(), products.end(), [&name, number](const ColumnProduct &any) {
+        return any.number != number && any.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
+
+OpenSelection::OpenSelection(const SurveyReport &survey, const ProductMaker &maker)
     : report(survey)
-    , products(machineProducts)
+    , makeProducts(maker)
+    , products(maker(survey.columnProducts))
+    , offered(products)
 {
     for (const SurveyedColumn &column : qAsConst(report.columns))
         entries.append({column.product, {}, false});
@@ -27,6 +48,7 @@ void OpenSelection::setProduct(int index, int number)
     Entry &entry = entries[index];
     entry.product = number;
     entry.isProductChosen = true;
+    products = makeProducts(made());
     const MachineProduct *product = fed(index);
     if (product != nullptr && RateUnits::factor(entry.unit, product->kind) == 0.0)
         entry.unit.clear();
@@ -80,20 +102,57 @@ QString OpenSelection::assumedUnit(int index) const
     return RateUnits::base(fed(index)->kind);
 }
 
+bool OpenSelection::isFed(int number) const
+{
+    return std::any_of(entries.begin(), entries.end(),
+                       [number](const Entry &entry) { return entry.product == number; });
+}
+
+bool OpenSelection::isNameMoved(int number) const
+{
+    for (int index = 0; index < size(); ++index) {
+        if (column(index).made.number == number)
+            return product(index) > 0 && product(index) != number;
+    }
+    return false;
+}
+
+QList<ColumnProduct> OpenSelection::made() const
+{
+    QList<ColumnProduct> made = report.columnProducts;
+    for (int index = 0; index < size(); ++index) {
+        ColumnProduct *product = find(made, this->product(index));
+        const ColumnProduct &own = column(index).made;
+        if (product == nullptr || (product->isNamed && !own.isNamed && !isNameMoved(product->number)))
+            continue;
+        const int number = product->number;
+        *product = own;
+        product->number = number;
+    }
+    for (ColumnProduct &product : made) {
+        if (!isFed(product.number) && isTaken(product.name, made, product.number))
+            product.name.clear();
+    }
+    for (int index = 0; index < size(); ++index) {
+        ColumnProduct *product = find(made, this->product(index));
+        if (product != nullptr && isTaken(product->name, made, product->number))
+            product->name = column(index).name;
+    }
+    return made;
+}
+
 OpenRequest OpenSelection::request() const
 {
     OpenRequest request{{report.path}};
     request.layer = report.layer;
     request.task = report.task;
-    QList<ColumnProduct> made = report.columnProducts;
-    for (ColumnProduct &product : made) {
-        const bool isFed = std::any_of(entries.begin(), entries.end(),
-                                       [&product](const Entry &entry) { return entry.product == product.number; });
+    QList<ColumnProduct> chosen = made();
+    for (ColumnProduct &product : chosen) {
         // Without its column, such a name would mean nothing to anybody.
-        if (!isFed && !product.isNamed)
+        if (!isFed(product.number) && !product.isNamed)
             product.name.clear();
     }
-    request.columnProducts = made;
+    request.columnProducts = chosen;
     for (int index = 0; index < size(); ++index) {
         const int number = product(index);
         for (QStringList *list : {&request.columns, &request.units}) {
@@ -116,7 +175,7 @@ FileChoices OpenSelection::choices() const
         ColumnChoice choice{column(index).key, entry.isProductChosen, 0, {}, entry.unit};
         if (entry.isProductChosen && fed(index) != nullptr) {
             choice.product = entry.product;
-            choice.productName = fed(index)->name;
+            choice.productName = offered.at(entry.product - 1).name;
         }
         if (entry.isProductChosen || !entry.unit.isEmpty())
             choices.columns.append(choice);
@@ -127,12 +186,12 @@ FileChoices OpenSelection::choices() const
 int OpenSelection::stillThere(const ColumnChoice &choice) const
 {
     const auto isIt = [this, &choice](int number) {
-        const MachineProduct &product = products.at(number - 1);
+        const MachineProduct &product = offered.at(number - 1);
         return product.isDriven && product.name == choice.productName;
     };
-    if (choice.product >= 1 && choice.product <= products.size() && isIt(choice.product))
+    if (choice.product >= 1 && choice.product <= offered.size() && isIt(choice.product))
         return choice.product;
-    for (int number = 1; number <= products.size(); ++number) {
+    for (int number = 1; number <= offered.size(); ++number) {
         if (choice.product > 0 && isIt(number))
             return number;
     }

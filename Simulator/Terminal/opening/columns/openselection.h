@@ -8,6 +8,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 /// Which columns of a surveyed file are to feed which products, and in which units. It begins with what a load would do
 /// unasked. At most one column feeds a product.
 class OpenSelection {
@@ -21,11 +23,15 @@ public:
         Unfit,
     };
 
+    using ProductMaker = std::function<QList<MachineProduct>(const QList<ColumnProduct> &)>;
+
     OpenSelection() = default;
-    OpenSelection(const SurveyReport &survey, const QList<MachineProduct> &products);
+    /// `makeProducts` makes the machine's products of those that the survey's columns make.
+    OpenSelection(const SurveyReport &survey, const ProductMaker &makeProducts);
 
     const SurveyReport &survey() const { return report; }
-    /// The products to choose from.
+    /// The products to choose from. One that a column made is named and measured by the column that feeds it, unless
+    /// only the former one names a product.
     const QList<MachineProduct> &fedProducts() const { return products; }
     int size() const { return report.columns.size(); }
     const SurveyedColumn &column(int index) const { return report.columns.at(index); }
@@ -66,8 +72,16 @@ private:
     int stillThere(const ColumnChoice &choice) const;
     /// Null for a column that feeds none.
     const MachineProduct *fed(int index) const;
+    bool isFed(int number) const;
+    /// Whether the column that made the product feeds another one.
+    bool isNameMoved(int number) const;
+    /// The products that the columns make as they are chosen.
+    QList<ColumnProduct> made() const;
 
     SurveyReport report;
+    ProductMaker makeProducts;
     QList<MachineProduct> products;
+    /// As they were before anything was chosen.
+    QList<MachineProduct> offered;
     QList<Entry> entries; ///< One per column.
 };

@@ -33,6 +33,8 @@ struct SurveyedColumn {
     bool isTotal = false;
     /// Number from 1 of the product that it feeds unasked; 0 for none.
     int product = 0;
+    /// The product that it makes where products are made from columns.
+    ColumnProduct made = {};
     /// For each record; not a number where it has none.
     QVector<float> rates;
 };

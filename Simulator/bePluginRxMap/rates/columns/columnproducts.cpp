@@ -22,12 +22,18 @@ RateKind kindOf(ProductLineItem::Basis basis)
     }
 }
 
+/// Whether the product's name has to be picked out of the column's.
+bool isNamedFreely(const SourceColumn &column)
+{
+    return column.meaning == SourceColumn::Meaning::NotSaid && !ColumnName(column.name).namesTotal();
+}
+
 /// When the format says what a column is, the column's name is the product's own, unless it only says what is measured.
 QString nameOf(const SourceColumn &column)
 {
     if (!column.measured.isEmpty())
         return column.measured;
-    return column.meaning == SourceColumn::Meaning::NotSaid ? ColumnName(column.name).product() : column.name;
+    return isNamedFreely(column) ? ColumnName(column.name).product() : column.name;
 }
 
 QString freeName(const SourceColumn &column, const QList<ColumnProduct> &products)
@@ -67,12 +73,10 @@ QList<ColumnProduct> ColumnProducts::of(const RawPrescription &source, const std
     const auto add = [&](int place, int number) {
         const SourceColumn &column = source.columns[static_cast<size_t>(place)];
         const RateUnit named = RateUnit::fromText(operatorUnits.value(number - 1));
-        const RateUnit unit = named.isKnown() ? named : units.of(place).unit;
-        const RateKind kind = kindOf(unit.isKnown() ? unit.basis() : ColumnName(column.name).basis());
-        products.append({freeName(column, products), kind, number});
-        products.last().isNamed = column.meaning == SourceColumn::Meaning::NotSaid
-            ? ColumnName(column.name).namesProduct()
-            : column.measured.isEmpty();
+        ColumnProduct product = ofColumn(column, named.isKnown() ? named : units.of(place).unit);
+        product.name = freeName(column, products);
+        product.number = number;
+        products.append(product);
     };
     for (int i = 0; i < names.size(); ++i) {
         const int field = TableColumns::find(source.columnNames, names.at(i));
@@ -92,6 +96,17 @@ QList<ColumnProduct> ColumnProducts::of(const RawPrescription &source, const std
             add(column.place, products.size() + 1);
     }
     return products;
+}
+
+ColumnProduct ColumnProducts::ofColumn(const SourceColumn &column, const RateUnit &unit)
+{
+    ColumnProduct product;
+    product.name = nameOf(column);
+    product.kind = kindOf(unit.isKnown() ? unit.basis() : ColumnName(column.name).basis());
+    product.isNamed = isNamedFreely(column)
+        ? ColumnName(column.name).namesProduct()
+        : column.meaning != SourceColumn::Meaning::NotSaid && column.measured.isEmpty();
+    return product;
 }
 
 bool ColumnProducts::isNamed(const SourceColumn &column, const QString &product)

@@ -2,6 +2,7 @@
 
 #include "Backend/columnproduct.h"
 #include "planering.h"
+#include "rateunit.h"
 #include "rawprescription.h"
 
 #include <QList>
@@ -25,6 +26,8 @@ public:
     QList<ColumnProduct> expected() const;
     QList<ColumnProduct> of(const RawPrescription &source, const std::vector<PlanePolygon> &polygons) const;
 
+    /// The product that a column in that unit makes, without a number; other columns may make one of the same name.
+    static ColumnProduct ofColumn(const SourceColumn &column, const RateUnit &unit);
     /// Whether the column was made for a product of that name.
     static bool isNamed(const SourceColumn &column, const QString &product);
 

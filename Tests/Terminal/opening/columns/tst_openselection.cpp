@@ -20,11 +20,20 @@ private Q_SLOTS:
     void whatTheProgramChoseOnceDoesNotStayChosen();
     void formerChoicesOfOtherColumnsOrProductsAreNot();
     void aFormerProductIsFoundByItsNameElseTheSuggestionStands();
+    void aProductThatAColumnMadeIsNamedByTheOneThatFeedsIt_data();
+    void aProductThatAColumnMadeIsNamedByTheOneThatFeedsIt();
 
 private:
     OpenSelection selection;
     SurveyReport survey;
     QList<MachineProduct> products;
+    /// The products, under the names that columns give them.
+    const OpenSelection::ProductMaker maker = [this](const QList<ColumnProduct> &made) {
+        QList<MachineProduct> all = products;
+        for (const ColumnProduct &product : made)
+            all[product.number - 1].name = product.name;
+        return all;
+    };
 };
 
 void TestOpenSelection::init()
@@ -48,7 +57,7 @@ void TestOpenSelection::init()
     }
     survey.columns[0].unit = QStringLiteral("lb/ac");
     survey.columns[0].product = 2;
-    selection = OpenSelection(survey, products);
+    selection = OpenSelection(survey, maker);
 }
 
 void TestOpenSelection::itBeginsWithWhatALoadWouldDo()
@@ -129,7 +138,7 @@ void TestOpenSelection::formerChoicesAreTaken()
     selection.setProduct(0, 0);
     selection.setProduct(1, 3);
     selection.setUnit(1, QStringLiteral("gal/ac"));
-    OpenSelection again(survey, products);
+    OpenSelection again(survey, maker);
     again.apply(selection.choices());
     QCOMPARE(again.product(0), 0);
     QCOMPARE(again.product(1), 3);
@@ -153,12 +162,12 @@ void TestOpenSelection::whatTheProgramChoseOnceDoesNotStayChosen()
     const FileChoices former = selection.choices();
     survey.columns[0].product = 0;
     survey.columns[1].product = 1;
-    OpenSelection again(survey, products);
+    OpenSelection again(survey, maker);
     again.apply(former);
     QCOMPARE(again.product(0), 0);
     QCOMPARE(again.product(1), 1);
     again.setProduct(0, 1);
-    OpenSelection third(survey, products);
+    OpenSelection third(survey, maker);
     third.apply(again.choices());
     QCOMPARE(third.product(0), 1);
     QCOMPARE(third.product(1), 0);
@@ -172,12 +181,12 @@ void TestOpenSelection::formerChoicesOfOtherColumnsOrProductsAreNot()
     const FileChoices former = selection.choices();
     SurveyReport changed = survey;
     changed.columnNames.append(QStringLiteral("More"));
-    OpenSelection otherColumns(changed, products);
+    OpenSelection otherColumns(changed, maker);
     otherColumns.apply(former);
     QCOMPARE(otherColumns.product(0), 2);
     QCOMPARE(otherColumns.product(1), 0);
     products[2].name = QStringLiteral("Other");
-    OpenSelection otherProduct(survey, products);
+    OpenSelection otherProduct(survey, maker);
     otherProduct.apply(former);
     QCOMPARE(otherProduct.product(1), 0);
 }
@@ -187,15 +196,63 @@ void TestOpenSelection::aFormerProductIsFoundByItsNameElseTheSuggestionStands()
     selection.setProduct(1, 3);
     const FileChoices former = selection.choices();
     std::swap(products[0], products[2]);
-    OpenSelection elsewhere(survey, products);
+    OpenSelection elsewhere(survey, maker);
     elsewhere.apply(former);
     QCOMPARE(elsewhere.product(0), 2);
     QCOMPARE(elsewhere.product(1), 1);
     products[1].name = QStringLiteral("Other");
-    OpenSelection gone(survey, products);
+    OpenSelection gone(survey, maker);
     gone.apply(former);
     QCOMPARE(gone.product(0), 2);
     QCOMPARE(gone.product(1), 1);
+}
+
+void TestOpenSelection::aProductThatAColumnMadeIsNamedByTheOneThatFeedsIt_data()
+{
+    QTest::addColumn<QList<int>>("chosen"); // The product of each column; -1: as offered.
+    QTest::addColumn<QStringList>("names"); // Of products 1 and 2, as requested.
+    QTest::newRow("as offered") << QList<int>{-1, -1, -1} << QStringList{"RATE", "Urea"};
+    QTest::newRow("a total") << QList<int>{-1, -1, 1} << QStringList{"QT_kg", "Urea"};
+    QTest::newRow("fed by none") << QList<int>{0, 0, -1} << QStringList{"", "Urea"};
+    QTest::newRow("a product's column in place of a mere rate") << QList<int>{-1, 1, -1} << QStringList{"Urea", ""};
+    QTest::newRow("a mere rate in place of a product's") << QList<int>{2, -1, -1} << QStringList{"", "Urea"};
+    QTest::newRow("exchanged") << QList<int>{2, 1, -1} << QStringList{"Urea", "RATE"};
+    QTest::newRow("moved, and another in its place") << QList<int>{-1, 1, 2} << QStringList{"Urea", "QT_kg"};
+    QTest::newRow("to and fro") << QList<int>{1, -1, 1} << QStringList{"QT_kg", "Urea"};
+}
+
+void TestOpenSelection::aProductThatAColumnMadeIsNamedByTheOneThatFeedsIt()
+{
+    QFETCH(QList<int>, chosen);
+    survey.columns = {SurveyedColumn(), SurveyedColumn(), SurveyedColumn()};
+    const char *const columns[] = {"RATE", "UREA_KG_HA", "QT_kg"};
+    const char *const names[] = {"RATE", "Urea", "QT_kg"};
+    for (int i = 0; i < chosen.size(); ++i) {
+        SurveyedColumn &column = survey.columns[i];
+        column.key = column.name = QLatin1String(columns[i]);
+        column.made.name = QLatin1String(names[i]);
+        column.made.isNamed = i == 1;
+        column.made.number = column.product = i < 2 ? i + 1 : 0;
+        if (column.product > 0)
+            survey.columnProducts.append(column.made);
+    }
+    selection = OpenSelection(survey, maker);
+    for (int i = 0; i < chosen.size(); ++i) {
+        if (chosen.at(i) >= 0)
+            selection.setProduct(i, chosen.at(i));
+    }
+    QStringList requested;
+    const OpenRequest request = selection.request();
+    for (const ColumnProduct &product : *request.columnProducts)
+        requested.append(product.name);
+    QTEST(requested, "names");
+    for (int i = 0; i < chosen.size(); ++i) {
+        if (selection.product(i) > 0)
+            QCOMPARE(selection.fedProducts().at(selection.product(i) - 1).name, requested.at(selection.product(i) - 1));
+    }
+    OpenSelection again(survey, maker);
+    again.apply(selection.choices());
+    QCOMPARE(again.request().columns, request.columns);
 }
 
 RXMAP_TEST(TestOpenSelection, None)

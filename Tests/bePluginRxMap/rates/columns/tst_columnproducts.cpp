@@ -72,6 +72,7 @@ void ColumnProductsTest::columnsMakeProducts_data()
     row("as named", {"A_kg_ha", "B_kg_ha", "Lime_l_ha"}, {"", "#3", "a_kg_ha"}, {}, {"2:Lime, volume", "3:A, weight"});
     row("one column named twice", {"A_kg_ha"}, {"A_kg_ha", "A_kg_ha", "A_kg_ha"}, {},
         {"1:A, weight", "2:A_kg_ha, weight", "3:A_kg_ha 2, weight"});
+    row("a total", {"QT_kg"}, {"QT_kg"}, {}, {"1:QT_kg, weight"});
     row("guesses", {"a", "b", "c", "d"}, {}, {}, {"1:A, weight", "2:B, weight", "3:C, weight"});
     row("no rates", {"AREA_HA"}, {}, {}, {});
 }
