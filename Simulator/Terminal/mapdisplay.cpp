@@ -14,8 +14,6 @@
 
 #include "Framework/databroker.h"
 
-#include <QFileInfo>
-
 MapDisplay::MapDisplay(DataBroker *dataBroker, Machine *terminalMachine, const LoadedMaps *loadedMaps,
                        Simulation *terminalSimulation, TerminalWindow *display)
     : broker(dataBroker)
@@ -45,7 +43,7 @@ void MapDisplay::followMaps()
     const QList<LoadReport> loaded = machine->backend()->maps();
     for (const LoadReport &map : loaded) {
         if (!machine->columnsOf(map.group).isEmpty())
-            names.append(QFileInfo(map.path).fileName());
+            names.append(PrescriptionBackend::nameOf(map.path));
     }
     window->statusBar()->setMaps(names);
     window->overlay()->showBubble(QPointF(), QString(), QColor());

@@ -126,7 +126,7 @@ void Terminal::connectDisplay()
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
         // The open window has a progress bar of its own for the load it waits for.
         const bool isShownThere = opening->window()->isVisible() && opening->window()->isBusy();
-        display->statusBar()->setProgress(isShownThere ? QString() : QFileInfo(path).fileName(), fraction);
+        display->statusBar()->setProgress(isShownThere ? QString() : PrescriptionBackend::nameOf(path), fraction);
     });
     const auto endProgress = [this] { display->statusBar()->setProgress(QString(), 0.0); };
     connect(prescriptions.data(), &PrescriptionBackend::finished, this, endProgress);

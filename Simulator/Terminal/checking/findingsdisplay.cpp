@@ -13,8 +13,6 @@
 #include "touchbutton.h"
 #include "vehicle.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -78,7 +76,7 @@ void FindingsDisplay::update()
     const FindingUnits units(machine->unitSystem());
     QList<LoadReport> before;
     for (const LoadReport &map : maps) {
-        const QString file = areSeveral ? QFileInfo(map.path).fileName() : QString();
+        const QString file = areSeveral ? PrescriptionBackend::nameOf(map.path) : QString();
         if (known.contains(map.group))
             findings.insert(map.group, known.value(map.group));
         if (!isUsed(map))
@@ -115,8 +113,9 @@ std::optional<MapFinding> FindingsDisplay::distanceFrom(const QList<LoadReport> 
         return {};
     MapFinding finding;
     finding.kind = MapFinding::Kind::FarAway;
-    finding.text = tr("lies %1 from %2, which feeds products, too")
-                       .arg(ShownDistance::text(distance, machine->unitSystem()), QFileInfo(nearest->path).fileName());
+    finding.text =
+        tr("lies %1 from %2, which feeds products, too")
+            .arg(ShownDistance::text(distance, machine->unitSystem()), PrescriptionBackend::nameOf(nearest->path));
     finding.extent = map.bounds;
     finding.place = map.bounds.center();
     return finding;

@@ -13,7 +13,6 @@
 #include "theme.h"
 #include "unitpage.h"
 
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStackedLayout>
@@ -148,7 +147,7 @@ void OpenWindow::showNext()
 void OpenWindow::survey(const QString &path, const QString &layer, const QString &task)
 {
     ++surveys;
-    showProgress(tr("Reading %1").arg(QFileInfo(path).fileName()), Busy::Surveying);
+    showProgress(tr("Reading %1").arg(PrescriptionBackend::nameOf(path)), Busy::Surveying);
     LoadRequest request{path, {}, {}, {}, layer, task};
     if (together.isEmpty())
         adoption->fillRequestForPreview(request);
@@ -222,7 +221,7 @@ void OpenWindow::accept()
 
 void OpenWindow::load(const QStringList &closes)
 {
-    showProgress(tr("Opening %1").arg(QFileInfo(selection.survey().path).fileName()), Busy::Loading);
+    showProgress(tr("Opening %1").arg(PrescriptionBackend::nameOf(selection.survey().path)), Busy::Loading);
     OpenRequest request = selection.request();
     request.closes = closes;
     const QList<OpenMap> maps = OpenMap::beside(selection, *machine);

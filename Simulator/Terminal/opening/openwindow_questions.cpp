@@ -1,4 +1,5 @@
 // What the open window asks the operator about a file.
+#include "Backend/prescriptionbackend.h"
 #include "Backend/rateunits.h"
 #include "choicepage.h"
 #include "machine.h"
@@ -9,7 +10,6 @@
 #include "unitpage.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -26,7 +26,7 @@ void OpenWindow::askArchived()
     QStringList names;
     for (const QString &path : qAsConst(last.archived))
         names.append(QDir(last.path).relativeFilePath(path));
-    ask(tr("Which prescription of %1?").arg(QFileInfo(last.path).fileName()), names, -1, [this](int place) {
+    ask(tr("Which prescription of %1?").arg(PrescriptionBackend::nameOf(last.path)), names, -1, [this](int place) {
         waiting.prepend(last.archived.at(place));
         showNext();
     });

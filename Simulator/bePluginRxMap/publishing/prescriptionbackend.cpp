@@ -5,8 +5,10 @@
 #include "prescriptionbackendprivate.h"
 #include "prescriptionloader.h"
 #include "prescriptionreader.h"
+#include "ziparchive.h"
 
 #include <QEventLoop>
+#include <QFileInfo>
 
 #include <memory>
 
@@ -76,6 +78,20 @@ void PrescriptionBackend::survey(const LoadRequest &request)
 bool PrescriptionBackend::mayBePrescription(const QString &path)
 {
     return PrescriptionReader::mayRead(path);
+}
+
+QString PrescriptionBackend::nameOf(const QString &path)
+{
+    QString inner;
+    const QString archive = ZipArchive::find(path, inner);
+    return archive.isEmpty() || inner.isEmpty() ? QFileInfo(path).fileName()
+                                                : QFileInfo(archive).fileName() + QLatin1Char('/') + inner;
+}
+
+bool PrescriptionBackend::isThere(const QString &path)
+{
+    QString inner;
+    return QFileInfo::exists(path) || !ZipArchive::find(path, inner).isEmpty();
 }
 
 LoadReport PrescriptionBackend::checkFile(const LoadRequest &request, double machineWidth)

@@ -58,10 +58,18 @@ void TestOpenWindowQuestions::anArchiveWithSeveralAsksForOne()
     QCOMPARE(text(QStringLiteral("choice1")), QStringLiteral("north/b.geojson"));
     touch(QStringLiteral("choice1"));
     QVERIFY(waitFor("openAccept"));
+    const QString name = QStringLiteral("fields.zip/north/b.geojson");
+    QVERIFY2(paintedTexts(*window).contains(name), qPrintable(paintedTexts(*window).join('\n')));
     accept();
     QTRY_VERIFY(!window->isVisible());
     QCOMPARE(requests.first().paths, QStringList(archive + QStringLiteral("/north/b.geojson")));
     QCOMPARE(backend->maps().size(), 1);
+    for (const char *place : {"placeOpen", "placeRecent"}) {
+        window->showFiles();
+        touch(QLatin1String(place));
+        QCOMPARE(text(QStringLiteral("fileRow0")), name);
+        QVERIFY(find(QStringLiteral("fileRow0"))->isEnabled());
+    }
     // The prescriptions in a folder of the archive are named by the part of their path after that folder.
     window->preview({archive + QStringLiteral("/north")});
     QVERIFY(waitFor("choice1"));

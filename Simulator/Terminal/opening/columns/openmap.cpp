@@ -20,7 +20,7 @@ QList<OpenMap> OpenMap::beside(const OpenSelection &selection, const Machine &ma
             continue;
         OpenMap map;
         map.group = report.group;
-        map.file = file.fileName();
+        map.file = PrescriptionBackend::nameOf(report.path);
         const QList<int> fed = machine.columnsOf(report.group).keys();
         for (const int number : fed) {
             if (fedAnew.contains(number))

@@ -1,5 +1,6 @@
 #include "previewpage.h"
 
+#include "Backend/prescriptionbackend.h"
 #include "caption.h"
 #include "columntable.h"
 #include "legendpanel.h"
@@ -12,7 +13,6 @@
 #include "touchbutton.h"
 
 #include <QEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -128,7 +128,7 @@ void PreviewPage::show(const OpenSelection &newSelection, int waiting)
 {
     selection = &newSelection;
     const SurveyReport &survey = selection->survey();
-    title->setText(QFileInfo(survey.path).fileName());
+    title->setText(PrescriptionBackend::nameOf(survey.path));
     layer->setVisible(survey.layers.size() > 1);
     layer->setText(survey.layer);
     task->setVisible(survey.tasks.size() > 1);

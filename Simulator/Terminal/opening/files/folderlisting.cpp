@@ -1,8 +1,8 @@
 #include "folderlisting.h"
 
+#include "Backend/naturalorder.h"
 #include "Backend/prescriptionbackend.h"
 
-#include <QCollator>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -31,12 +31,9 @@ QList<FileEntry> FolderListing::of(const QString &folder)
         const bool isFolder = info.isDir() && !mayBeOne;
         entries.append({info.filePath(), info.fileName(), isFolder, true, isFolder ? QString() : ageAndSize(info)});
     }
-    // The plain locale, which a terminal may have, compares bytes.
-    QCollator order{QLocale(QLocale::English)};
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
+    const NaturalOrder order;
     std::stable_sort(entries.begin(), entries.end(), [&order](const FileEntry &a, const FileEntry &b) {
-        return a.isFolder != b.isFolder ? a.isFolder : order.compare(a.name, b.name) < 0;
+        return a.isFolder != b.isFolder ? a.isFolder : order(a.name, b.name);
     });
     return entries;
 }
@@ -45,8 +42,8 @@ QList<FileEntry> FolderListing::ofFiles(const QStringList &paths)
 {
     QList<FileEntry> entries;
     for (const QString &path : paths) {
-        const QFileInfo info(path);
-        entries.append({path, info.fileName(), false, info.exists(), info.path()});
+        entries.append({path, PrescriptionBackend::nameOf(path), false, PrescriptionBackend::isThere(path),
+                        QFileInfo(path).path()});
     }
     return entries;
 }

@@ -3,8 +3,6 @@
 #include "Backend/prescriptionbackend.h"
 #include "machine.h"
 
-#include <QFileInfo>
-
 QList<FileEntry> OpenedFiles::of(const Machine &machine)
 {
     QList<FileEntry> entries;
@@ -16,8 +14,8 @@ QList<FileEntry> OpenedFiles::of(const Machine &machine)
             products.append(machine.products().at(number - 1).name);
         const QString note =
             products.isEmpty() ? tr("feeds no product") : tr("feeds %1").arg(products.join(QStringLiteral(", ")));
-        const QFileInfo info(map.path);
-        entries.append({map.path, info.fileName(), false, info.exists(), note, map.group});
+        entries.append({map.path, PrescriptionBackend::nameOf(map.path), false, PrescriptionBackend::isThere(map.path),
+                        note, map.group});
     }
     return entries;
 }

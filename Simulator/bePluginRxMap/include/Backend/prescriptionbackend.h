@@ -43,6 +43,10 @@ public:
     void survey(const LoadRequest &request);
     /// Whether a file of that name, or a folder with what it holds, may be a prescription.
     static bool mayBePrescription(const QString &path);
+    /// What a prescription is called: the file's name, "fields.zip/north/rates.shp" for one within an archive.
+    static QString nameOf(const QString &path);
+    /// Whether the file, or the archive that it is in, is there.
+    static bool isThere(const QString &path);
 
     /// Loads a file without publishing anything, and checks it for a machine of that width (metres). Blocks. The
     /// report's findings are those of the load and those of the check; where the check fails, those of the load and an

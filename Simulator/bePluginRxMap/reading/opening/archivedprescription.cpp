@@ -1,6 +1,7 @@
 #include "archivedprescription.h"
 
 #include "Backend/backendtext.h"
+#include "Backend/naturalorder.h"
 #include "prescriptionfile.h"
 
 #include <QDir>
@@ -109,6 +110,7 @@ const ZipArchive::Entry *ArchivedPrescription::choose()
     const QString place = inner.isEmpty() ? QString() : BackendText::tr(" in \"%1\"").arg(inner);
     for (const ZipArchive::Entry *entry : found)
         several.append(entry->path);
+    std::stable_sort(several.begin(), several.end(), NaturalOrder());
     if (found.empty())
         fail(BackendText::tr("is an archive that holds no prescription%1").arg(place));
     else // In plain quotes in every language, so that it can be typed as it stands.

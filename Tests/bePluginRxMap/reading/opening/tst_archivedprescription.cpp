@@ -132,6 +132,11 @@ void ArchivedPrescriptionTest::refusesArchivesThatItCannotUse_data()
                                      << "is an archive that holds several prescriptions in \"b\": b/b c.kml, b/d.gpkg; "
                                         "open one by its path, such as "
             + example("b/b c.kml");
+    QTest::newRow("in the order in which people read")
+        << QStringList{"field 10.kml=a.kml", "Field 2.kml=a.kml", "b/a.kml"} << ""
+        << "is an archive that holds several prescriptions: b/a.kml, Field 2.kml, field 10.kml; open one by its path, "
+           "such as "
+            + example("b/a.kml");
     QTest::newRow("several task data") << QStringList{"a/TASKDATA.XML=a.json", "b/taskdata.xml=a.json"} << ""
                                        << "is an archive that holds several prescriptions: a/TASKDATA.XML, "
                                           "b/taskdata.xml; open one by its path, such as "
@@ -272,9 +277,9 @@ void ArchivedPrescriptionTest::opensTheDocumentOfAKmz_data()
             + folder.filePath("a.kmz/b.kml\"");
     QTest::newRow("in another archive")
         << "b.zip" << document
-        << "is an archive that holds several prescriptions: layers/b.kml, DOC.kml, layers/c.kml; open one by its path, "
+        << "is an archive that holds several prescriptions: DOC.kml, layers/b.kml, layers/c.kml; open one by its path, "
            "such as \""
-            + folder.filePath("b.zip/layers/b.kml\"");
+            + folder.filePath("b.zip/DOC.kml\"");
 }
 
 void ArchivedPrescriptionTest::opensTheDocumentOfAKmz()
