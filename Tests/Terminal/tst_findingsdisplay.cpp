@@ -145,6 +145,9 @@ void TestFindingsDisplay::figuresAreInTheOperatorsUnits_data()
         "9 na coluna “Fundo 12 m” (kg/ha), 9.8 ft de largura");
     row("huecos: 24 más, 3 m2 en total", true, "huecos: 24 más, 3.00 m\u00b2 en total",
         "huecos: 24 más, 32.3 ft\u00b2 en total");
+    row("1700.5 in column \"Q 2000\" (lb/1000 ft2) of record 1234 is far from 12000 to 999", false,
+        "1,700.5 in column \"Q 2000\" (lb/1000 ft2) of record 1234 is far from 12,000 to 999",
+        "1,700.5 in column \"Q 2000\" (lb/1000 ft2) of record 1234 is far from 12,000 to 999");
     row("column 12 m has no unit", false, "column 12 m has no unit", "column 12 m has no unit");
 }
 
@@ -154,6 +157,7 @@ void TestFindingsDisplay::figuresAreInTheOperatorsUnits()
     QFETCH(bool, hasArea);
     MapFinding finding;
     finding.text = text;
+    finding.records = {1234};
     if (hasArea)
         finding.area = 1.0;
     QTEST(FindingUnits(UnitSystem::Metric).textOf(finding), "metric");

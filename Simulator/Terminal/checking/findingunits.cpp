@@ -12,6 +12,12 @@ constexpr double hectare = 10000.0; // Square metres.
 constexpr double acre = 4046.8564224;
 constexpr double foot = 0.3048; // Metres.
 
+/// The number with a point before its decimals.
+QString plain(QString number)
+{
+    return number.replace(QLatin1Char(','), QLatin1Char('.'));
+}
+
 } // namespace
 
 FindingUnits::FindingUnits(UnitSystem givenSystem)
@@ -22,27 +28,40 @@ FindingUnits::FindingUnits(UnitSystem givenSystem)
 
 QString FindingUnits::textOf(const MapFinding &finding) const
 {
-    // A figure in the back-end's language, with a comma or a point. Names in quotation marks are passed over, since
-    // they may look like a figure. Letters are those of any language, so that "24 más" is not a figure.
+    // A figure in the back-end's language, with a comma or a point: a size, or a number that is long enough for groups
+    // of digits. Names in quotation marks are passed over, since they may look like a figure. Letters are those of any
+    // language, so that "24 más" is not a figure.
     static const QRegularExpression figure(QStringLiteral("\"[^\"]*\"|„[^“]*“|“[^”]*”|«[^»]*»"
-                                                          "|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"),
+                                                          "|\\b([0-9]+(?:[.,][0-9]+)?) m(2?)\\b"
+                                                          "|(?<![\\w/:.,#])([0-9]{4,}(?:[.,][0-9]+)?)(?!\\w)"),
                                            QRegularExpression::UseUnicodePropertiesOption);
-    // Other findings have no figures of these kinds.
-    if (!finding.area)
-        return finding.text;
     QString text;
     int end = 0;
     QRegularExpressionMatchIterator matches = figure.globalMatch(finding.text);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        if (match.captured(1).isEmpty())
-            continue;
-        const double value = match.captured(1).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
-        text += finding.text.mid(end, match.capturedStart() - end);
-        text += match.captured(2).isEmpty() ? ShownDistance::width(value, system) : area(value);
+        const QString shown =
+            match.captured(3).isEmpty() ? sizeText(match, finding) : grouped(match.captured(3), finding);
+        text += finding.text.mid(end, match.capturedStart() - end) + shown;
         end = match.capturedEnd();
     }
     return text + finding.text.mid(end);
+}
+
+QString FindingUnits::sizeText(const QRegularExpressionMatch &match, const MapFinding &finding) const
+{
+    // Other findings have no sizes.
+    if (match.captured(1).isEmpty() || !finding.area)
+        return match.captured();
+    const double value = plain(match.captured(1)).toDouble();
+    return match.captured(2).isEmpty() ? ShownDistance::width(value, system) : area(value);
+}
+
+QString FindingUnits::grouped(const QString &number, const MapFinding &finding)
+{
+    // A record's number is its name, and products may be named by numbers without quotation marks.
+    const bool isName = finding.kind == MapFinding::Kind::UnitMismatch || finding.records.contains(number.toInt());
+    return isName ? number : ShownNumber::inLanguage(plain(number));
 }
 
 QString FindingUnits::area(double squareMetres) const

@@ -379,6 +379,14 @@
     </message>
 </context>
 <context>
+    <name>FolderListing</name>
+    <message>
+        <source>d MMM yyyy</source>
+        <comment>a date, in QLocale&apos;s letters</comment>
+        <translation>d MMM yyyy</translation>
+    </message>
+</context>
+<context>
     <name>GuidancePage</name>
     <message>
         <source>Guidance page</source>

@@ -14,8 +14,13 @@ namespace {
 
 QString ageAndSize(const QFileInfo &info)
 {
-    const QString age = info.lastModified().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-    return info.isDir() ? age : QLocale().formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
+    const QLocale language;
+    const QDateTime changed = info.lastModified();
+    // The month in letters, so that nobody takes it for the day.
+    const QString format = FolderListing::tr("d MMM yyyy", "a date, in QLocale's letters");
+    const QString age = QStringLiteral("%1, %2").arg(language.toString(changed.date(), format),
+                                                     language.toString(changed.time(), QLocale::ShortFormat));
+    return info.isDir() ? age : language.formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
@@ -19,6 +20,8 @@ struct FileEntry {
 
 /// What can be opened in a folder: folders, and files that may be prescriptions.
 class FolderListing {
+    Q_DECLARE_TR_FUNCTIONS(FolderListing)
+
 public:
     /// Folders first, each sorted as people read. Empty for a folder that cannot be read.
     static QList<FileEntry> of(const QString &folder);

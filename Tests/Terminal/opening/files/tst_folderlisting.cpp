@@ -10,6 +10,8 @@ private Q_SLOTS:
     void aFolderWithTaskDataIsOpenedNotEntered();
     void filesAreJudgedWithoutBeingRead();
     void filesThatAreGoneAreSaidToBe();
+    void datesAndSizesAreWrittenInTheLanguage_data();
+    void datesAndSizesAreWrittenInTheLanguage();
 
 private:
     void touch(const QString &name, const QByteArray &content = "content");
@@ -68,6 +70,26 @@ void TestFolderListing::filesThatAreGoneAreSaidToBe()
     QVERIFY(entries.at(0).isThere);
     QVERIFY(!entries.at(1).isThere);
     QCOMPARE(entries.at(1).note, QStringLiteral("/no"));
+}
+
+void TestFolderListing::datesAndSizesAreWrittenInTheLanguage_data()
+{
+    QTest::addColumn<QLocale>("language");
+    QTest::addColumn<QString>("note");
+    QTest::newRow("English") << QLocale(QLocale::English) << "1.5 KiB  \u00b7  4 Mar 2026, 6:07 PM";
+    QTest::newRow("German") << QLocale(QLocale::German) << QStringLiteral("1,5 KiB  \u00b7  4 M\u00e4rz 2026, 18:07");
+}
+
+void TestFolderListing::datesAndSizesAreWrittenInTheLanguage()
+{
+    QFETCH(QLocale, language);
+    const auto restore = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    QLocale::setDefault(language);
+    touch(QStringLiteral("dated/a.shp"), QByteArray(1536, 'x'));
+    QFile file(folder.filePath(QStringLiteral("dated/a.shp")));
+    QVERIFY(file.open(QIODevice::Append));
+    QVERIFY(file.setFileTime(QDateTime(QDate(2026, 3, 4), QTime(18, 7)), QFileDevice::FileModificationTime));
+    QTEST(FolderListing::of(folder.filePath(QStringLiteral("dated"))).first().note, "note");
 }
 
 RXMAP_TEST(TestFolderListing, Core)
