@@ -5,6 +5,7 @@
 #include "dbgroupbin.h"
 #include "dbgroupgpssolution.h"
 #include "dbgroupquillspan.h"
+#include "visibletext.h"
 
 #include "Framework/binmanager.h"
 #include "Framework/databroker.h"
@@ -180,7 +181,7 @@ void Machine::describeProduct(int number)
     groups.node->internalSetSwitchByteCalSettings(
         OrvikTypes::SPN_SwitchByteCalSettingsStruct(product.kind == Product::Kind::Injection));
     groups.node->internalSetIsCarrier(product.isCarrier);
-    groups.bin->internalSetCompositionShortName(product.shortName);
+    groups.bin->internalSetCompositionShortName(VisibleText::of(product.shortName));
     groups.bin->internalSetBinNumber(product.bin);
 }
 

@@ -1,4 +1,5 @@
 #include "fileopeningtest.h"
+#include "layerwriter.h"
 #include "machine.h"
 #include "paintedtexts.h"
 #include "productadoption.h"
@@ -9,6 +10,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QTemporaryDir>
 
 /// The ways in which a whole terminal opens its open window.
 class TestFileOpening : public FileOpeningTest {
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void aDroppedFileIsOpenedThroughTheWindow();
     void whatWasGuessedIsToldAfterwards();
     void whatIsNoFileIsRefusedVisibly();
+    void namesCannotTurnTheTextsAroundThem();
     void anotherButtonOfTheStatusBarLeavesTheWindow();
     void keysDoNotDriveUnderTheWindow();
 
@@ -185,6 +188,37 @@ void TestFileOpening::whatIsNoFileIsRefusedVisibly()
     const auto *message = terminal().window()->findChild<QLabel *>(QStringLiteral("openMessage"));
     QVERIFY2(message->isVisible() && message->text().contains(QLatin1String("example.org")),
              qPrintable(message->text()));
+}
+
+void TestFileOpening::namesCannotTurnTheTextsAroundThem()
+{
+    const QString name = QStringLiteral("left\u202eright\n.geojson");
+    const auto texts = [this] { return paintedTexts(*terminal().window()).join(QLatin1Char('|')); };
+    const auto harmful = [](const QString &text) { return text.contains(QChar(0x202e)) || text.contains(QChar(0x85)); };
+    LayerSketch sketch;
+    sketch.driver = "GeoJSON";
+    sketch.fields = {{"RA\u202eTE\u0085", 1.0}, {"Total\u202e", 1.0}};
+    sketch.rows = {{squareText(10, 50, 0.001), {1.0, 2.0}}, {squareText(10.0005, 50, 0.001), {2.0, 2.0}}};
+    const QTemporaryDir folder;
+    QVERIFY(sketch.write(folder.filePath(name)));
+    terminal().adoption()->adoptFromNextFile();
+    Q_EMIT terminal().window()->dropped({folder.filePath(name)}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("columnRow1Product")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    button("choice2")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    for (const char *shown : {"left?right?.geojson", "RA?TE?", "Total? is called a total, not a rate"})
+        QVERIFY2(texts().contains(QLatin1String(shown)), qPrintable(texts()));
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QTRY_VERIFY(button("findingsButton") != nullptr);
+    button("findingsButton")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    QVERIFY2(texts().contains(QStringLiteral("RA?TE?")), qPrintable(texts()));
+    terminal().openWindow()->refuse(name);
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    QVERIFY2(texts().remove(QChar(0x200b)).contains(QStringLiteral("left?right?.geojson")), qPrintable(texts()));
 }
 
 void TestFileOpening::anotherButtonOfTheStatusBarLeavesTheWindow()

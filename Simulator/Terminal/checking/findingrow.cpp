@@ -61,8 +61,7 @@ void FindingRow::paintEvent(QPaintEvent *)
     // What has no place cannot be touched, but says no less.
     painter.setPen(isEnabled() ? look.text : Theme::colors().text);
     painter.setFont(Theme::font(titlePixels, true));
-    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft,
-                     painter.fontMetrics().elidedText(title, Qt::ElideMiddle, width));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, TextLines::elided(title, painter.fontMetrics(), width));
     painter.setFont(textFont);
     line.translate(0, titleHeight);
     line.setHeight(textHeight);

@@ -2,6 +2,7 @@
 
 #include "theme.h"
 #include "touchbutton.h"
+#include "visibletext.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -69,6 +70,6 @@ MessagePage::MessagePage(QWidget *parent)
 
 void MessagePage::tell(const QString &reason, bool offersOther)
 {
-    text->setText(breakable(reason));
+    text->setText(breakable(VisibleText::of(reason)));
     other->setVisible(offersOther);
 }

@@ -1,16 +1,14 @@
 #include "consoleline.h"
 
+#include "visibletext.h"
+
 #include <cstdio>
 
 namespace {
 
-void writeLine(std::FILE *stream, QString line)
+void writeLine(std::FILE *stream, const QString &line)
 {
-    for (QChar &letter : line) {
-        if (letter.category() == QChar::Other_Control)
-            letter = QLatin1Char('?');
-    }
-    std::fprintf(stream, "%s\n", line.toLocal8Bit().constData());
+    std::fprintf(stream, "%s\n", VisibleText::of(line).toLocal8Bit().constData());
     std::fflush(stream);
 }
 
@@ -26,8 +24,9 @@ void writeErrorLine(const QString &line)
     writeLine(stderr, line);
 }
 
-void writeOutputText(const QByteArray &text)
+void writeOutputJson(const QByteArray &json)
 {
+    const QByteArray text = VisibleText::ofJson(json);
     std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
     std::fflush(stdout);
 }

@@ -124,6 +124,6 @@ int runMapCheck(const CommandLine &line)
             print(report, adoption.productsFor(report.columnProducts));
     }
     if (line.json)
-        writeOutputText(QJsonDocument(QJsonObject{{QStringLiteral("files"), files}}).toJson());
+        writeOutputJson(QJsonDocument(QJsonObject{{QStringLiteral("files"), files}}).toJson());
     return status;
 }

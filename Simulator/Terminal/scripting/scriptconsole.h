@@ -10,6 +10,6 @@ class ScriptConsole : public QObject {
 public:
     using QObject::QObject;
 
-    /// One line on standard output, at once.
+    /// One line on standard output, at once, as VisibleText; line breaks and tabs are the script's own.
     Q_INVOKABLE void writeLine(const QString &line) const;
 };

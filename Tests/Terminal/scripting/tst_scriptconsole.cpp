@@ -12,6 +12,7 @@ private Q_SLOTS:
     void aLineStandsOnStandardOutputAtOnce();
     void linesAreWrittenAsTheyAre_data();
     void linesAreWrittenAsTheyAre();
+    void namesInLinesAreMadeHarmless();
     void scriptsCanCallIt();
 };
 
@@ -46,6 +47,14 @@ void TestScriptConsole::linesAreWrittenAsTheyAre()
         written = output.written();
     }
     QCOMPARE(written, line + QLatin1Char('\n'));
+}
+
+void TestScriptConsole::namesInLinesAreMadeHarmless()
+{
+    StreamCapture output(stdout);
+    ScriptConsole().writeLine(QStringLiteral("a\tRA\x1b\u202eTE"));
+    const QString written = output.written();
+    QCOMPARE(written, QStringLiteral("a\tRA??TE\n"));
 }
 
 void TestScriptConsole::scriptsCanCallIt()

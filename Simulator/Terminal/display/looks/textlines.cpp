@@ -1,5 +1,7 @@
 #include "textlines.h"
 
+#include "visibletext.h"
+
 #include <algorithm>
 
 namespace {
@@ -28,7 +30,7 @@ int fitting(const QString &text, const QFontMetrics &metrics, int width)
 QStringList TextLines::of(const QString &text, const QFontMetrics &metrics, int width, int most)
 {
     QStringList lines;
-    QString rest = text;
+    QString rest = VisibleText::of(text);
     while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > width) {
         const int length = fitting(rest, metrics, width);
         lines.append(rest.left(length).trimmed());
@@ -36,4 +38,9 @@ QStringList TextLines::of(const QString &text, const QFontMetrics &metrics, int 
     }
     lines.append(metrics.elidedText(rest, Qt::ElideMiddle, width));
     return lines;
+}
+
+QString TextLines::elided(const QString &text, const QFontMetrics &metrics, int width, Qt::TextElideMode mode)
+{
+    return metrics.elidedText(VisibleText::of(text), mode, width);
 }

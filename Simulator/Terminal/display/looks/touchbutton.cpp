@@ -108,5 +108,5 @@ void TouchButton::drawTexts(QPainter &painter, const ButtonLook &look) const
     painter.setPen(look.note);
     painter.drawText(QRect(inner.left(), middle + 2, inner.width(), height() - middle - 2),
                      Qt::AlignHCenter | Qt::AlignTop,
-                     QFontMetrics(painter.font()).elidedText(note, Qt::ElideRight, inner.width()));
+                     TextLines::elided(note, QFontMetrics(painter.font()), inner.width(), Qt::ElideRight));
 }

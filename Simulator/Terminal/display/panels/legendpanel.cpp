@@ -60,7 +60,7 @@ QFont fittingFont(const QStringList &texts, int pixels, int width, bool isBold)
 QStringList nameLines(const QString &name, const QFont &font, const QFont &smaller)
 {
     const bool fits = QFontMetrics(font).horizontalAdvance(name) <= innerWidth;
-    return fits ? QStringList(name) : TextLines::of(name, QFontMetrics(smaller), innerWidth, mostNameLines);
+    return TextLines::of(name, QFontMetrics(fits ? font : smaller), innerWidth, fits ? 1 : mostNameLines);
 }
 
 int widest(const QStringList &texts, const QFont &font)
@@ -185,7 +185,7 @@ void LegendPanel::drawHead(QPainter &painter, const QRect &inner) const
     const QString told = sourceText();
     painter.setFont(fittingFont({told}, columnPixels, inner.width(), false));
     painter.drawText(QRect(inner.left(), namesHeight(), inner.width(), columnHeight + lineOverlap), Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(told, Qt::ElideRight, inner.width()));
+                     TextLines::elided(told, painter.fontMetrics(), inner.width(), Qt::ElideRight));
     painter.setFont(Theme::font(columnPixels));
     const QRect units(inner.left(), headHeight() - unitsHeight, inner.width(), 24);
     painter.setPen(Theme::colors().text);

@@ -1,6 +1,7 @@
 #include "statusbar.h"
 
 #include "shownnumber.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QAbstractButton>
@@ -116,7 +117,8 @@ void StatusBar::paintEvent(QPaintEvent *)
         const QRect area(mapArea.right() + Theme::margin, 0, progressWidth, height());
         painter.setFont(Theme::font(15));
         painter.setPen(colors.faintText);
-        painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft, tr("Loading %1").arg(loading));
+        painter.drawText(area.adjusted(0, 6, 0, 0), Qt::AlignTop | Qt::AlignLeft,
+                         TextLines::elided(tr("Loading %1").arg(loading), painter.fontMetrics(), area.width()));
         const QRectF track(area.left(), height() - 22.0, area.width(), 12.0);
         painter.setPen(Qt::NoPen);
         painter.setBrush(colors.button);
@@ -126,6 +128,5 @@ void StatusBar::paintEvent(QPaintEvent *)
     }
     painter.setFont(Theme::font(22, true));
     painter.setPen(colors.text);
-    painter.drawText(mapArea, Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(maps, Qt::ElideMiddle, mapArea.width()));
+    painter.drawText(mapArea, Qt::AlignVCenter, TextLines::elided(maps, painter.fontMetrics(), mapArea.width()));
 }

@@ -3,6 +3,7 @@
 #include "buttonlook.h"
 #include "machine.h"
 #include "simulation.h"
+#include "textlines.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -87,7 +88,7 @@ void RateRow::drawCell(QPainter &painter, const QRect &row, Column column, const
         fitting.setPixelSize(fitting.pixelSize() - 1);
     painter.setFont(fitting);
     painter.drawText(area, Qt::AlignVCenter | int(isFigure(column) ? Qt::AlignRight : Qt::AlignLeft),
-                     painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
+                     TextLines::elided(text, painter.fontMetrics(), area.width(), Qt::ElideRight));
 }
 
 QStringList RateRow::texts() const

@@ -11,6 +11,7 @@
 #include "shownnumber.h"
 #include "theme.h"
 #include "touchbutton.h"
+#include "visibletext.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -163,7 +164,7 @@ void PreviewPage::refresh()
         if (selection->product(index) > 0 && selection->column(index).isTotal)
             remarks.append(tr("%1 is called a total, not a rate").arg(selection->column(index).name));
     }
-    remark->setText(remarks.join(QLatin1Char('\n')));
+    remark->setText(VisibleText::of(remarks.join(QLatin1Char('\n')), QStringLiteral("\n")));
 }
 
 QStringList PreviewPage::replacements() const

@@ -1,5 +1,6 @@
 #include "caption.h"
 
+#include "textlines.h"
 #include "theme.h"
 
 #include <QPainter>
@@ -21,5 +22,5 @@ void Caption::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(Theme::colors().text);
-    painter.drawText(rect(), int(alignment()), fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
+    painter.drawText(rect(), int(alignment()), TextLines::elided(text(), fontMetrics(), width()));
 }

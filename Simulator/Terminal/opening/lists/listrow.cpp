@@ -71,8 +71,7 @@ void ListRow::paintEvent(QPaintEvent *)
 void ListRow::drawTexts(QPainter &painter, const QRect &area, const ButtonLook &look) const
 {
     const auto draw = [&painter](const QRect &line, int align, const QString &text) {
-        painter.drawText(line, Qt::AlignVCenter | align,
-                         painter.fontMetrics().elidedText(text, Qt::ElideMiddle, line.width()));
+        painter.drawText(line, Qt::AlignVCenter | align, TextLines::elided(text, painter.fontMetrics(), line.width()));
     };
     QStringList texts{text()};
     painter.setFont(Theme::font(textPixels, true));
