@@ -186,8 +186,7 @@ void CoverageCheck::compare(unsigned a, unsigned b, FindingList &findings)
             continue;
         area += partArea;
         const RingExtent partExtent = PlaneShape::extent(part);
-        extent.include(partExtent.minX, partExtent.minY);
-        extent.include(partExtent.maxX, partExtent.maxY);
+        extent.include(partExtent);
         if (largest.outer.empty() || partArea > polygonArea(largest))
             largest = std::move(part);
     }

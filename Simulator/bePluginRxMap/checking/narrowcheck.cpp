@@ -123,8 +123,7 @@ MapFinding NarrowCheck::findingOf(const Area &area) const
     RingExtent extent;
     for (const unsigned place : area.places) {
         const RingExtent &part = map.polygons()[place].extent;
-        extent.include(part.minX, part.minY);
-        extent.include(part.maxX, part.maxY);
+        extent.include(part);
     }
     finding.extent = PlaneShape::rectangle(extent);
     finding.place = PlaneShape::rectangle(map.polygons()[area.places.front()].extent).center();

@@ -86,8 +86,7 @@ RateCheck::RateCheck(const MapView &map, size_t mapping, const Column &columnOfF
             entries.push_back({polygon.record, rate, 0.0, {}});
         Entry &entry = entries.back();
         entry.area += MapView::area(polygon);
-        entry.extent.include(polygon.extent.minX, polygon.extent.minY);
-        entry.extent.include(polygon.extent.maxX, polygon.extent.maxY);
+        entry.extent.include(polygon.extent);
     }
 }
 
@@ -124,8 +123,7 @@ void RateCheck::tellFar(std::vector<Entry> sorted, FindingList &findings) const
             if (finding.records.size() < MapFinding::mostRecords)
                 finding.records.append(entry->record);
             *finding.area += entry->area;
-            extent.include(entry->extent.minX, entry->extent.minY);
-            extent.include(entry->extent.maxX, entry->extent.maxY);
+            extent.include(entry->extent);
         }
         finding.extent = PlaneShape::rectangle(extent);
         finding.text =

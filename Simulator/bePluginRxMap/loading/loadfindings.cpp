@@ -33,8 +33,7 @@ void locate(MapFinding &finding, const std::vector<int> &records, const std::vec
         finding.area = finding.area.value_or(0.0) + polygonArea(polygon);
         if (!finding.place)
             finding.place = QPointF(0.5 * (extent.minX + extent.maxX), 0.5 * (extent.minY + extent.maxY));
-        all.include(extent.minX, extent.minY);
-        all.include(extent.maxX, extent.maxY);
+        all.include(extent);
     }
     if (finding.place)
         finding.extent = PlaneShape::rectangle(all);

@@ -82,8 +82,7 @@ std::vector<Entry> entriesOf(const std::vector<RingExtent> &extents)
         double perimeters = halfPerimeter(common);
         for (end = first + 1; end < extents.size() && end - first < longestRun && !extents[end].isEmpty(); ++end) {
             RingExtent larger = common;
-            larger.include(extents[end].minX, extents[end].minY);
-            larger.include(extents[end].maxX, extents[end].maxY);
+            larger.include(extents[end]);
             perimeters += halfPerimeter(extents[end]);
             if (!(halfPerimeter(larger) <= perimeters))
                 break;

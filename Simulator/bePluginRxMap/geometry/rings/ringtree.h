@@ -25,6 +25,12 @@ struct RingExtent {
         maxX = std::max(maxX, x);
         maxY = std::max(maxY, y);
     }
+    /// `other` is not empty.
+    void include(const RingExtent &other)
+    {
+        include(other.minX, other.minY);
+        include(other.maxX, other.maxY);
+    }
     static RingExtent of(const PlaneVertex *vertices, size_t count)
     {
         RingExtent extent;
