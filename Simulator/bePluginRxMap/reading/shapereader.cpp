@@ -80,7 +80,7 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
                 return;
             continue;
         }
-        map.rings.push_back({first, map.xs.size() - first, map.records, i >= 0});
+        map.rings.emplace_back() = {first, map.xs.size() - first, map.records, i >= 0};
     }
 }
 
