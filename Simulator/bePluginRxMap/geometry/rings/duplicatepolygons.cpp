@@ -32,7 +32,7 @@ std::uint64_t hashOf(const PlanePolygon &polygon)
     const auto hashOfRing = [](const PlaneRing &ring) {
         std::uint64_t sum = ring.size();
         for (const PlaneVertex &vertex : ring)
-            sum += mixed(bitsOf(vertex.x) + 3 * mixed(bitsOf(vertex.y)));
+            sum += mixed(bitsOf(vertex.x) + 0x9e3779b97f4a7c15U * bitsOf(vertex.y));
         return sum;
     };
     std::uint64_t sum = hashOfRing(polygon.outer);
