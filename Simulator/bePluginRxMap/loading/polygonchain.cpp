@@ -1,59 +1,25 @@
 #include "polygonchain.h"
 
-#include "ringtree.h"
-
 #include <algorithm>
+#include <utility>
 
 using OrvikTypes::RX_POLYGON;
 using OrvikTypes::RX_POLYGONVERTEX;
 
-namespace {
-
-struct Sizes {
-    size_t records = 0;
-    size_t vertices = 0;
-};
-
-Sizes sizesOf(const std::vector<PlanePolygon> &polygons)
+PolygonChain::PolygonChain(const std::vector<PlanePolygon> &polygons, const std::vector<float> &rates, size_t mappings,
+                           std::shared_ptr<RingMemory> ringMemory)
+    : memory(std::move(ringMemory))
+    , mappingCount(mappings)
 {
-    Sizes sizes;
-    for (const PlanePolygon &polygon : polygons) {
-        sizes.records += 1 + polygon.holes.size();
-        sizes.vertices += polygon.outer.size();
-        for (const PlaneRing &hole : polygon.holes)
-            sizes.vertices += hole.size();
-    }
-    return sizes;
-}
-
-QRectF extentOfOuters(const std::vector<PlanePolygon> &polygons)
-{
-    RingExtent all;
-    for (const PlanePolygon &polygon : polygons) {
-        const RingExtent extent = RingExtent::of(polygon.outer.data(), polygon.outer.size());
-        all.include(extent.minX, extent.minY);
-        all.include(extent.maxX, extent.maxY);
-    }
-    return all.isEmpty() ? QRectF() : QRectF(all.minX, all.minY, all.maxX - all.minX, all.maxY - all.minY);
-}
-
-} // namespace
-
-PolygonChain::PolygonChain(const std::vector<PlanePolygon> &polygons, const std::vector<float> &rates, size_t mappings)
-    : mappingCount(mappings)
-    , extent(extentOfOuters(polygons))
-{
-    const Sizes sizes = sizesOf(polygons);
-    const size_t recordBytes = sizes.records * sizeof(RX_POLYGON);
-    const size_t vertexBytes = sizes.vertices * sizeof(RX_POLYGONVERTEX);
-    const size_t rateCount = polygons.size() * mappings;
-    // Records, vertices and rates in this order leave each of them aligned.
-    static_assert(alignof(RX_POLYGON) >= alignof(RX_POLYGONVERTEX) && alignof(RX_POLYGONVERTEX) >= alignof(float),
-                  "the parts of the block would not be aligned");
-    block.reset(new unsigned char[recordBytes + vertexBytes + rateCount * sizeof(float)]);
+    size_t rings = polygons.size();
+    for (const PlanePolygon &polygon : polygons)
+        rings += polygon.holes.size();
+    const size_t recordBytes = rings * sizeof(RX_POLYGON);
+    // Records and rates in this order leave both aligned.
+    static_assert(alignof(RX_POLYGON) >= alignof(float), "the parts of the block would not be aligned");
+    block.reset(new unsigned char[recordBytes + polygons.size() * mappings * sizeof(float)]);
     records = reinterpret_cast<RX_POLYGON *>(block.get());
-    freeVertices = reinterpret_cast<RX_POLYGONVERTEX *>(block.get() + recordBytes);
-    auto *freeRates = reinterpret_cast<float *>(block.get() + recordBytes + vertexBytes);
+    auto *freeRates = reinterpret_cast<float *>(block.get() + recordBytes);
     for (const PlanePolygon &polygon : polygons) {
         const auto from = rates.begin() + static_cast<std::ptrdiff_t>(static_cast<size_t>(polygon.record) * mappings);
         std::copy(from, from + static_cast<std::ptrdiff_t>(mappings), freeRates);
@@ -64,13 +30,24 @@ PolygonChain::PolygonChain(const std::vector<PlanePolygon> &polygons, const std:
     }
 }
 
+RX_POLYGONVERTEX *PolygonChain::kept(const PlaneRing &ring)
+{
+    // The host declares vertices that can be written, but nobody may.
+    if (ring.get_allocator().resource() == memory.get())
+        return const_cast<RX_POLYGONVERTEX *>(ring.data());
+    void *room = memory->allocate(ring.size() * sizeof(RX_POLYGONVERTEX), alignof(RX_POLYGONVERTEX));
+    auto *copy = static_cast<RX_POLYGONVERTEX *>(room);
+    std::uninitialized_copy(ring.begin(), ring.end(), copy);
+    return copy;
+}
+
 void PolygonChain::append(const PlaneRing &ring, bool isHole, float *rates)
 {
-    std::copy(ring.begin(), ring.end(), freeVertices);
-    records[count] = {ringArea(ring), 0, freeVertices, static_cast<quint32>(ring.size()), rates, isHole, nullptr};
+    records[count] = {ringArea(ring), 0, kept(ring), static_cast<quint32>(ring.size()), rates, isHole, nullptr};
+    if (!isHole)
+        extent.include(RingExtent::of(ring.data(), ring.size()));
     if (count > 0)
         records[count - 1].next = &records[count];
-    freeVertices += ring.size();
     ++count;
     outerCount += isHole ? 0 : 1;
 }
@@ -86,4 +63,10 @@ std::vector<double> PolygonChain::polygonAreas() const
             areas.push_back(record->area);
     }
     return areas;
+}
+
+QRectF PolygonChain::bounds() const
+{
+    return extent.isEmpty() ? QRectF()
+                            : QRectF(extent.minX, extent.minY, extent.maxX - extent.minX, extent.maxY - extent.minY);
 }

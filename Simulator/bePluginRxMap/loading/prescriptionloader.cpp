@@ -185,7 +185,7 @@ bool PrescriptionLoader::placePolygons(LoadedMap &map)
     FieldGeometry geometry(source, placing, *findings);
     QString lack = geometry.place(planes, map);
     if (lack.isEmpty())
-        lack = geometry.makePolygons(&ringMemory, map, polygons);
+        lack = geometry.makePolygons(ringMemory.get(), map, polygons);
     return lack.isEmpty() || fail(lack);
 }
 
@@ -260,7 +260,7 @@ void PrescriptionLoader::makeChain(LoadedMap &map) const
     for (const PlanePolygon &polygon : polygons)
         map.records.push_back(polygon.record);
     map.joinedHoles = arrangement.joined;
-    map.chain = std::make_shared<PolygonChain>(polygons, rates.values(), rates.mappings());
+    map.chain = std::make_shared<PolygonChain>(polygons, rates.values(), rates.mappings(), ringMemory);
     map.lookup =
         std::make_unique<RateLookup>(map.chain->first(), map.chain->size(), rates.mappings(), arrangement.takers);
     map.report.polygons = static_cast<int>(map.chain->size());

@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <memory>
-#include <memory_resource>
 #include <optional>
 #include <vector>
 
@@ -62,8 +61,8 @@ private:
     std::optional<LoadFindings> findings;
 
     RawPrescription source;
-    /// Holds the polygons' rings in few large blocks, which are freed together.
-    std::pmr::monotonic_buffer_resource ringMemory;
+    /// Holds the polygons' rings in few large blocks, which the chain keeps.
+    std::shared_ptr<PolygonChain::RingMemory> ringMemory = std::make_shared<PolygonChain::RingMemory>();
     std::vector<PlanePolygon> polygons;
     HoleArrangement arrangement;
     RateTable rates;

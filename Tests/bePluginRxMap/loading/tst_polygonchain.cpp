@@ -29,7 +29,8 @@ private Q_SLOTS:
     void linksOuterRingsWithTheirHolesBehindThem();
     void holdsRingsAndTheirAreas();
     void givesHolesTheRatesOfTheirOuterRing();
-    void liesInOneBlock();
+    void holdsRecordsAndRatesInOneBlock();
+    void keepsItsRingsWhenThePolygonsGo();
     void knowsItsExtent();
     void isEmptyWithoutPolygons();
 };
@@ -72,15 +73,28 @@ void PolygonChainTest::givesHolesTheRatesOfTheirOuterRing()
     QCOMPARE(first->next->next->next->rates[1], 10.0F);
 }
 
-void PolygonChainTest::liesInOneBlock()
+void PolygonChainTest::holdsRecordsAndRatesInOneBlock()
 {
     const PolygonChain chain(twoPolygons(), rates, 2);
     const RX_POLYGON *first = chain.first();
     QCOMPARE(first[3].next, static_cast<RX_POLYGON *>(nullptr));
     QCOMPARE(first[2].next, first + 3);
-    QCOMPARE(static_cast<const void *>(first[0].vertices), static_cast<const void *>(first + 4));
-    QCOMPARE(first[1].vertices, first[0].vertices + 4);
-    QCOMPARE(static_cast<const void *>(first[0].rates), static_cast<const void *>(first[3].vertices + 4));
+    QCOMPARE(static_cast<const void *>(first[0].rates), static_cast<const void *>(first + 4));
+}
+
+void PolygonChainTest::keepsItsRingsWhenThePolygonsGo()
+{
+    auto memory = std::make_shared<PolygonChain::RingMemory>();
+    std::vector<PlanePolygon> polygons = twoPolygons();
+    polygons.push_back({PlaneRing(square(0, 300, 7), memory.get()), {}, 1});
+    const PlaneVertex *place = polygons.back().outer.data();
+    const PolygonChain chain(polygons, rates, 2, std::move(memory));
+    polygons.clear();
+    const RX_POLYGON *first = chain.first();
+    QCOMPARE(first[0].vertices[2].x, 100.0);
+    QCOMPARE(first[4].vertices[2].y, 307.0);
+    // Rings in the map's own memory need not be copied.
+    QVERIFY(first[4].vertices == place);
 }
 
 void PolygonChainTest::knowsItsExtent()
