@@ -10,22 +10,6 @@
 
 using OrvikTypes::RX_POLYGON;
 
-namespace {
-
-std::vector<RingExtent> extentsOf(const RX_POLYGON *first, unsigned count)
-{
-    std::vector<RingExtent> result(count);
-    size_t outers = 0;
-    for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
-        if (!record->isHole)
-            result[outers++] = RingExtent::of(record->vertices, record->vertexCount);
-    }
-    result.resize(outers);
-    return result;
-}
-
-} // namespace
-
 bool RateLookup::Answer::hasRate(int mapping) const
 {
     return mapping >= 0 && mapping < rates.size() && !std::isnan(rates.at(mapping));
@@ -33,25 +17,32 @@ bool RateLookup::Answer::hasRate(int mapping) const
 
 RateLookup::RateLookup(const RX_POLYGON *first, unsigned count, size_t mappingCount, const std::vector<int> &takers)
     : mappings(mappingCount)
-    , tree(extentsOf(first, count))
+    , tree(takeOuters(first, count, count - std::min<size_t>(count, takers.size())))
 {
-    std::vector<const RX_POLYGON *> holes;
-    outers.reserve(count - std::min<size_t>(count, takers.size()));
+    auto taker = takers.begin();
+    for (const RX_POLYGON *record = first; record != nullptr && taker != takers.end(); record = record->next) {
+        if (!record->isHole)
+            continue;
+        if (*taker != RendererHoleRule::nowhere)
+            detailOf(outers[static_cast<size_t>(*taker)]).holes.emplace_back(record->vertices, record->vertexCount);
+        ++taker;
+    }
+}
+
+std::vector<RingExtent> RateLookup::takeOuters(const RX_POLYGON *first, unsigned count, size_t expected)
+{
+    std::vector<RingExtent> extents;
+    extents.reserve(expected);
+    outers.reserve(expected);
     for (const RX_POLYGON *record = first; count > 0 && record != nullptr; record = record->next, --count) {
         if (record->isHole)
-            holes.push_back(record);
-        else
-            outers.emplace_back().record = record;
+            continue;
+        extents.emplace_back() = RingExtent::of(record->vertices, record->vertexCount);
+        outers.emplace_back().record = record;
+        if (SlabIndex::pays(record->vertexCount))
+            detailOf(outers.back()).ring = std::make_unique<SlabIndex>(record->vertices, record->vertexCount);
     }
-    for (size_t i = 0; i < holes.size(); ++i) {
-        if (takers[i] != RendererHoleRule::nowhere)
-            detailOf(outers[static_cast<size_t>(takers[i])])
-                .holes.emplace_back(holes[i]->vertices, holes[i]->vertexCount);
-    }
-    for (Outer &outer : outers) {
-        if (SlabIndex::pays(outer.record->vertexCount))
-            detailOf(outer).ring = std::make_unique<SlabIndex>(outer.record->vertices, outer.record->vertexCount);
-    }
+    return extents;
 }
 
 RateLookup::Detail &RateLookup::detailOf(Outer &outer)

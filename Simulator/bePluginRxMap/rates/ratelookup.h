@@ -47,6 +47,8 @@ private:
         std::vector<SlabIndex> holes;    ///< Those that are cut from it.
     };
 
+    /// Takes the outer rings of the chain, about `expected`; returns their extents.
+    std::vector<RingExtent> takeOuters(const OrvikTypes::RX_POLYGON *first, unsigned count, size_t expected);
     Detail &detailOf(Outer &outer);
 
     size_t mappings;
