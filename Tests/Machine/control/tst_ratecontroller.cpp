@@ -23,7 +23,10 @@ private Q_SLOTS:
     void theAntennaDoesNotMoveTheBorder();
     void everySourceFollowsEveryOther_data();
     void everySourceFollowsEveryOther();
+    void aRateBelowTheLeastIsNamedSo_data();
+    void aRateBelowTheLeastIsNamedSo();
     void flagsAreTakenWhenAskedForAlone();
+    void theSettingsOfAMapThatIsGoneDoNotCount();
     void aMasterSpreadsNoShutoffOfItsOwn();
     void defaultRatesAreTakenAtOnce();
     void aPositionHoldsForTwoSeconds();
@@ -187,6 +190,24 @@ void TestRateController::everySourceFollowsEveryOther()
     QCOMPARE(bench->simulation.target(1, command()), expected.target);
 }
 
+void TestRateController::aRateBelowTheLeastIsNamedSo_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<QByteArray>("source");
+    QTest::newRow("below") << 9.0 << QByteArray("minRate");
+    QTest::newRow("the least itself") << 10.0 << QByteArray("prescription");
+}
+
+void TestRateController::aRateBelowTheLeastIsNamedSo()
+{
+    QFETCH(double, rate);
+    QVERIFY(bench->loadZones({{-100, 100, rate}}).isOk());
+    bench->place({0, 0}, 0.0, 1.0);
+    bench->simulation.step();
+    QTEST(QByteArray(sourceName(command().source)), "source");
+    QCOMPARE(command().commanded, rate);
+}
+
 void TestRateController::flagsAreTakenWhenAskedForAlone()
 {
     QVERIFY(bench->loadZones({{-100, 100, 0}}).isOk());
@@ -205,6 +226,17 @@ void TestRateController::flagsAreTakenWhenAskedForAlone()
     // Loading another map is no request.
     bench->set(1, 0, false, false);
     QVERIFY(bench->load(TerminalHost::sampleField(), {QString(), QStringLiteral("SEED_KS_HA")}).isOk());
+    bench->simulation.step();
+    QVERIFY(command().source == CommandSource::ZeroShutoff);
+}
+
+void TestRateController::theSettingsOfAMapThatIsGoneDoNotCount()
+{
+    const LoadReport former = bench->load(TerminalHost::sampleField(), {QString(), QStringLiteral("SEED_KS_HA")});
+    QVERIFY(bench->backend.unload(former.group));
+    QVERIFY(bench->loadZones({{-100, 100, 0}}).isOk());
+    bench->set(1, 0, true, true);
+    bench->place({0, 0}, 0.0, 1.0);
     bench->simulation.step();
     QVERIFY(command().source == CommandSource::ZeroShutoff);
 }

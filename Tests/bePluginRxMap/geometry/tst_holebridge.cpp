@@ -40,6 +40,7 @@ private Q_SLOTS:
     void joinsAHole();
     void joinsManyHolesOneAfterTheOther();
     void goesAroundOtherHoles();
+    void goesAroundAHoleInTheShortestWay();
     void changesNothingWhereThereIsNoWay();
 };
 
@@ -106,6 +107,19 @@ void HoleBridgeTest::goesAroundOtherHoles()
             == 2;
     };
     QVERIFY(usesCorner({0, 100}));
+}
+
+void HoleBridgeTest::goesAroundAHoleInTheShortestWay()
+{
+    // Half a metre from the corner, with a slit in between.
+    PlanePolygon polygon;
+    polygon.outer = square(0, 0, 100);
+    polygon.holes = {{{0.5, 0.5}, {40, 30}, {30, 40}}, {{0.5, 0.1}, {0.1, 0.5}, {0.1, 0.4}, {0.4, 0.1}}};
+    QVERIFY(HoleBridge::join(polygon, 0));
+    QVERIFY(!std::any_of(polygon.outer.begin() + 1, polygon.outer.end(), [](const PlaneVertex &vertex) {
+        return samePlace(vertex, {0, 0});
+    }));
+    QCOMPARE(polygon.holes.size(), size_t(1));
 }
 
 void HoleBridgeTest::changesNothingWhereThereIsNoWay()

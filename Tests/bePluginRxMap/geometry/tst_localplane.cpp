@@ -150,8 +150,9 @@ void LocalPlaneTest::refusesWhatItCannotPlace_data()
     QTest::newRow("metres without a coordinate system")
         << 286571.0 << 4434961.0 << 100.0 << 0 << "names no coordinate system";
     QTest::newRow("metres called degrees") << 286571.0 << 4434961.0 << 100.0 << 4326 << "no longitudes and latitudes";
-    QTest::newRow("half the globe") << -90.0 << -45.0 << 90.0 << 4326 << "extends over";
-    QTest::newRow("half the globe, no coordinate system") << -90.0 << -45.0 << 90.0 << 0 << "extends over";
+    QTest::newRow("half the globe") << -90.0 << -45.0 << 90.0 << 4326 << "extends over 10008 km; no field";
+    QTest::newRow("half the globe, no coordinate system")
+        << -90.0 << -45.0 << 90.0 << 0 << "extends over 10008 km; no field";
     QTest::newRow("beyond the projection") << 1e9 << 1e9 << 100.0 << 32632 << "cannot be projected";
     QTest::newRow("a grid's whole world") << -5e6 << 0.0 << 9e6 << 32632 << "";
 }

@@ -9,6 +9,8 @@ private Q_SLOTS:
     void theDefaultRateIsShownInDisplayUnits();
     void theDefaultRateIsShownInTheUnitOfTheProductChosen();
     void aProductWithoutMappingShowsQuestionMarks();
+    void theUnitIsAskedForAgainWhereARateIsShown_data();
+    void theUnitIsAskedForAgainWhereARateIsShown();
     void theDefaultRateCaptionNamesTheUnit_data();
     void theDefaultRateCaptionNamesTheUnit();
     void aProductOfNoKnownKindShowsEmptyBrackets();
@@ -84,6 +86,31 @@ void TestDialogDefaultRate::aProductWithoutMappingShowsQuestionMarks()
     QCOMPARE(probe->defaultRateEdit()->getText(), QStringLiteral("????"));
     // Its unit is shown all the same.
     QCOMPARE(probe->defaultRateLabel()->text(), QStringLiteral("Default Rate (psi)"));
+}
+
+void TestDialogDefaultRate::theUnitIsAskedForAgainWhereARateIsShown_data()
+{
+    QTest::addColumn<bool>("isMapped");
+    QTest::addColumn<int>("times");
+    QTest::newRow("without a mapping") << false << 1;
+    QTest::newRow("with a mapping") << true << 2;
+}
+
+void TestDialogDefaultRate::theUnitIsAskedForAgainWhereARateIsShown()
+{
+    QFETCH(bool, isMapped);
+    QFETCH(int, times);
+    if (!isMapped)
+        host->map->setRateCalMappings({});
+    host->replaceProduct(1, ProductLineItem::Pressure);
+    host->setLoaded();
+    open();
+    int asked = 0;
+    const auto count = [](void *argument) { ++*static_cast<int *>(argument); };
+    QVERIFY(host->host.units->setBeforeReadHook("pressureToDisplay", count, &asked));
+    DialogProbe::release(probe->productButton(1));
+    QVERIFY(host->host.units->setBeforeReadHook("pressureToDisplay", nullptr, nullptr));
+    QCOMPARE(asked, times);
 }
 
 void TestDialogDefaultRate::theDefaultRateCaptionNamesTheUnit_data()
