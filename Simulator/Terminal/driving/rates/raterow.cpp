@@ -5,6 +5,7 @@
 #include "simulation.h"
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QPainter>
 
@@ -96,9 +97,10 @@ QStringList RateRow::texts() const
     const Simulation::Rates now = simulation->rates(number);
     const Product &product = simulation->machine()->products().at(number - 1);
     const bool isControlled = now.command.source != CommandSource::NotControlled;
-    const bool isLong = !fits(product.name, Theme::font(leastPixels, true), cell(rect(), Name).width());
+    const QString name = VisibleText::of(product.name);
+    const bool isLong = !fits(name, Theme::font(leastPixels, true), cell(rect(), Name).width());
     const QString none = QStringLiteral("\u2013");
-    return {isLong ? product.shortName : product.name,
+    return {isLong ? VisibleText::of(product.shortName) : name,
             std::isnan(now.command.prescribed) ? none : unit.rateText(now.command.prescribed),
             now.command.isOn   ? unit.rateText(now.command.commanded)
                 : isControlled ? tr("Off")
