@@ -30,8 +30,11 @@ struct Product {
     static ActuatorSettings usualActuator(Kind kind);
     /// The kind by which the rate is counted: what a carrier node meters is a plain volume.
     DbGroupProductGroupInfo::RateKind rateKind() const;
-    /// Whether it has the same name as the other one and is measured in the same way.
-    bool isSameAs(const Product &other) const { return name == other.name && kind == other.kind; }
+    /// Whether it has the same name as the other one and is measured in the same way, which a carrier may not be.
+    bool isSameAs(const Product &other) const
+    {
+        return name == other.name && kind == other.kind && isCarrier == other.isCarrier;
+    }
 };
 
 using Products = QList<Product>;

@@ -10,6 +10,7 @@ class TestProduct : public TestBase {
 private Q_SLOTS:
     void onlyACarrierOfATankMixIsCountedAsAVolume_data();
     void onlyACarrierOfATankMixIsCountedAsAVolume();
+    void anotherNameKindOrCarrierIsAnotherProduct();
 };
 
 void TestProduct::onlyACarrierOfATankMixIsCountedAsAVolume_data()
@@ -36,6 +37,25 @@ void TestProduct::onlyACarrierOfATankMixIsCountedAsAVolume()
     QTEST(product.rateKind(), "rateKind");
     product.isCarrier = true;
     QTEST(product.rateKind(), "asCarrier");
+}
+
+void TestProduct::anotherNameKindOrCarrierIsAnotherProduct()
+{
+    Product one;
+    one.name = QStringLiteral("Mix");
+    one.kind = Product::Kind::Ratio;
+    one.defaultRate = 1.0;
+    Product other = one;
+    other.defaultRate = 2.0;
+    QVERIFY(one.isSameAs(other));
+    other.isCarrier = true;
+    QVERIFY(!one.isSameAs(other));
+    other = one;
+    other.kind = Product::Kind::Injection;
+    QVERIFY(!one.isSameAs(other));
+    other = one;
+    other.name = QStringLiteral("mix");
+    QVERIFY(!one.isSameAs(other));
 }
 
 RXMAP_TEST(TestProduct, None)
