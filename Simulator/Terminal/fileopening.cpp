@@ -1,7 +1,11 @@
 #include "fileopening.h"
 
+#include "drivedisplay.h"
+#include "driverecord.h"
 #include "machine.h"
 #include "openwindow.h"
+#include "recentfiles.h"
+#include "shownnumber.h"
 #include "statusbar.h"
 #include "symbols.h"
 #include "terminal.h"
@@ -9,6 +13,7 @@
 #include "touchbutton.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -35,6 +40,15 @@ FileOpening::FileOpening(Terminal *owner)
         QMetaObject::invokeMethod(
             this, [this, request] { load(request); }, Qt::QueuedConnection);
     });
+    connect(openWindow, &OpenWindow::trackWanted, this, &FileOpening::replay);
+}
+
+void FileOpening::attend(DriveDisplay *display)
+{
+    connect(display, &DriveDisplay::replayWanted, openWindow,
+            [this] { openWindow->showRecords(DriveRecord::usualFolder()); });
+    connect(display->record(), &DriveRecord::kept, openWindow,
+            [this](const QString &path) { RecentFiles(settings.values()).add(path); });
 }
 
 void FileOpening::toggle()
@@ -94,4 +108,23 @@ void FileOpening::load(const OpenRequest &request)
     if (first > 0)
         terminal->machine()->setActiveProduct(first);
     openWindow->finish(report);
+}
+
+void FileOpening::replay(const QString &track)
+{
+    const QString name = QFileInfo(track).fileName();
+    if (!terminal->machine()->planeOrigin()) {
+        openWindow->refuse(tr("%1 is a track: open the prescription of its field first").arg(name));
+        return;
+    }
+    const auto outcome = terminal->driving()->replay(track);
+    if (!outcome.isOk()) {
+        openWindow->refuse(outcome.error);
+        return;
+    }
+    openWindow->finishTrack(track);
+    const TrackReader::Summary &summary = outcome.value;
+    if (summary.badLines > 0)
+        terminal->tell(tr("Lines of %1 left out: %2").arg(name, ShownNumber::text(double(summary.badLines))),
+                       summary.firstBad);
 }

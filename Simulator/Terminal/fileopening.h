@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QStringList>
 
+class DriveDisplay;
 class OpenWindow;
 class QAbstractButton;
 class Terminal;
@@ -22,6 +23,8 @@ public:
     explicit FileOpening(Terminal *terminal);
 
     OpenWindow *window() const { return openWindow; }
+    /// Also shows the records for which `display` asks, and remembers new ones.
+    void attend(DriveDisplay *display);
     /// What the terminal remembers of its operator.
     OperatorSettings *remembered() { return &settings; }
 
@@ -31,6 +34,7 @@ private:
     void giveWay(QAbstractButton *other);
     void take(const QStringList &files, const QStringList &others);
     void load(const OpenRequest &request);
+    void replay(const QString &track);
     /// Closes the maps whose products the newest one has taken over.
     void closeReplaced(const LoadReport &newest);
 

@@ -1,10 +1,12 @@
 #include "terminal.h"
 
 #include "drivedisplay.h"
+#include "driverecord.h"
 #include "fieldview.h"
 #include "fileopening.h"
 #include "findingsdisplay.h"
 #include "guidancepage.h"
+#include "hintcard.h"
 #include "hints.h"
 #include "machine.h"
 #include "mapdisplay.h"
@@ -172,7 +174,7 @@ void Terminal::installGraphicsLists()
 bool Terminal::show(const QSize &size)
 {
     if (!driveDisplay)
-        driveDisplay.reset(new DriveDisplay(display.data(), simulated.data()));
+        showDriving();
     if (!screenWindow)
         screenWindow.reset(new ScreenWindow(display.data()));
     screenWindow->resize(size);
@@ -180,6 +182,23 @@ bool Terminal::show(const QSize &size)
     QApplication::processEvents();
     screenWindow->repaint();
     return display->fieldView()->isValid();
+}
+
+void Terminal::showDriving()
+{
+    driveDisplay.reset(new DriveDisplay(display.data(), simulated.data(), driveRecorder.data()));
+    opening->attend(driveDisplay.data());
+    notice = new HintCard(QStringLiteral("noticeCard"), QStringLiteral("noticeClose"), display.data());
+    connect(driveDisplay->record(), &DriveRecord::told, this, &Terminal::tell);
+    // What was told is over when the operator goes on.
+    connect(driveRecorder.data(), &Recorder::switched, notice, &HintCard::leave);
+    connect(opening->window(), &OpenWindow::shownChanged, notice, &HintCard::leave);
+}
+
+void Terminal::tell(const QString &title, const QString &line)
+{
+    // The scale lies at the lower border.
+    notice->tell(title, {line}, display->freeArea().adjusted(0, 0, 0, -Theme::touchTarget));
 }
 
 OperatorSettings *Terminal::remembered() const

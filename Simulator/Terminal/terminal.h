@@ -25,6 +25,7 @@
 class DriveDisplay;
 class FileOpening;
 class FindingsDisplay;
+class HintCard;
 class Hints;
 class Machine;
 class MapDisplay;
@@ -71,6 +72,8 @@ public:
     OpenWindow *openWindow() const;
     OperatorSettings *remembered() const;
 
+    /// Shows a line to the operator, until it is taken away or the next one comes. Call after show().
+    void tell(const QString &title, const QString &line);
     /// Tells a new operator how the terminal is used; what was told once is not repeated.
     void greet();
     /// Loads prescriptions and waits for them, with the display alive, up to the first one that cannot be loaded; a
@@ -111,6 +114,7 @@ private:
     /// Enters the products to load for.
     void fillRequest(LoadRequest &load, const OpenRequest &request) const;
     void connectDisplay();
+    void showDriving();
     void installGraphicsLists();
 
     DataBroker dataBroker;
@@ -128,6 +132,7 @@ private:
     QScopedPointer<FindingsDisplay> findings;
     QScopedPointer<MapDisplay> mapDisplay;
     QScopedPointer<Hints> hints;
+    HintCard *notice = nullptr; ///< Owned by the display.
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
 };

@@ -134,6 +134,11 @@ void TerminalWindow::setDriving(QWidget *panel, QWidget *strip)
     driveButton->setVisible(panel != nullptr);
 }
 
+void TerminalWindow::openDriving()
+{
+    driveButton->setChecked(true);
+}
+
 void TerminalWindow::showDriving(bool isShown)
 {
     selector->setVisible(!isShown);
@@ -182,19 +187,19 @@ void TerminalWindow::arrange()
     page->move(inner.right() + 1 - page->width(), bottom - page->height());
     page->setVisible(!page->sizeHint().isEmpty());
 
-    QRectF free(inner.left() + selectorWidth + Theme::margin, inner.top(), 0.0, inner.height());
-    free.setRight(legendPanel->x() - Theme::margin);
+    uncovered = QRect(inner.left() + selectorWidth + Theme::margin, inner.top(), 0, inner.height());
+    uncovered.setRight(legendPanel->x() - Theme::margin - 1);
     if (driveButton->isChecked()) {
         drivePanel->setGeometry(inner.left(), inner.top(), selectorWidth, inner.height());
         const int stripRight = qMin(right, page->isVisible() ? page->x() : right) - Theme::margin / 2;
         const int stripHeight = driveStrip->sizeHint().height();
-        driveStrip->setGeometry(int(free.left()), inner.bottom() + 1 - stripHeight, stripRight - int(free.left()),
+        driveStrip->setGeometry(uncovered.left(), inner.bottom() + 1 - stripHeight, stripRight - uncovered.left(),
                                 stripHeight);
-        free.setBottom(driveStrip->y() - Theme::margin);
+        uncovered.setBottom(driveStrip->y() - Theme::margin - 1);
     }
-    free.translate(0.0, -statusHeight);
-    view->setFreeArea(free);
-    mapOverlay->setFreeArea(free);
+    const QRectF onTheMap = uncovered.translated(0, -statusHeight);
+    view->setFreeArea(onTheMap);
+    mapOverlay->setFreeArea(onTheMap);
 }
 
 void TerminalWindow::keyPressEvent(QKeyEvent *event)

@@ -37,6 +37,10 @@ public:
     /// The controls that drive the machine: while the operator drives, `panel` takes the place of the products and
     /// `strip` the place under the map. The window owns both. Null for both removes them again.
     void setDriving(QWidget *panel, QWidget *strip);
+    /// Shows the controls that drive the machine.
+    void openDriving();
+    /// The part of the display where nothing lies over the map.
+    QRect freeArea() const { return uncovered; }
 
     /// Sets how all that the terminal paints looks from now on. What plug-ins paint stays as it is.
     void setTheme(Theme::Kind kind);
@@ -91,4 +95,5 @@ private:
     TouchButton *themeButton = nullptr;
     QWidget *drivePanel = nullptr;
     QWidget *driveStrip = nullptr;
+    QRect uncovered;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trackreader.h"
+
 #include <QObject>
 #include <QString>
 
@@ -45,6 +47,8 @@ public:
     void takeHand();
     bool isByHand() const;
     bool isReplay() const;
+    /// Goes where a track went (Simulation::replay), and ends the operator's pause.
+    Result<TrackReader::Summary> replay(const QString &path);
 
     /// By hand: speeds up, to speed() at most, while it is pressed; the machine then keeps the speed that it has.
     void pressThrottle(bool isPressed);

@@ -3,6 +3,7 @@
 #include "drivecontrols.h"
 #include "drivekeys.h"
 #include "drivepanel.h"
+#include "driverecord.h"
 #include "drivestrip.h"
 #include "fieldview.h"
 #include "followcamera.h"
@@ -13,18 +14,21 @@
 #include "terminalwindow.h"
 #include "vehicle.h"
 
-DriveDisplay::DriveDisplay(TerminalWindow *givenWindow, Simulation *givenSimulation, QObject *parent)
+DriveDisplay::DriveDisplay(TerminalWindow *givenWindow, Simulation *givenSimulation, Recorder *recorder,
+                           QObject *parent)
     : QObject(parent)
     , window(givenWindow)
     , simulation(givenSimulation)
     , controls(new DriveControls(givenSimulation, this))
+    , driveRecord(new DriveRecord(givenSimulation, recorder, DriveRecord::usualFolder(), this))
     , history(givenSimulation)
     , ground(givenSimulation)
     , layer(&ground)
 {
-    auto *panel = new DrivePanel(controls);
+    auto *panel = new DrivePanel(controls, driveRecord);
     window->setDriving(panel, new DriveStrip(simulation, &history));
-    new DriveKeys(controls, panel, this);
+    new DriveKeys(controls, driveRecord, panel, this);
+    connect(panel, &DrivePanel::replayWanted, this, &DriveDisplay::replayWanted);
     addCamera(panel);
     window->fieldView()->addAid(&layer);
     connect(window, &TerminalWindow::drivingShown, &history, &RateHistory::setKept);
@@ -35,6 +39,14 @@ DriveDisplay::~DriveDisplay()
 {
     window->setDriving(nullptr, nullptr);
     window->fieldView()->removeAid(&layer);
+}
+
+Result<TrackReader::Summary> DriveDisplay::replay(const QString &path)
+{
+    const auto outcome = controls->replay(path);
+    if (outcome.isOk())
+        window->openDriving();
+    return outcome;
 }
 
 void DriveDisplay::addCamera(DrivePanel *panel)

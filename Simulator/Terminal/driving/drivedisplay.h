@@ -1,12 +1,15 @@
 #pragma once
 
 #include "ratehistory.h"
+#include "trackreader.h"
 #include "workedground.h"
 #include "workedlayer.h"
 
 #include <QObject>
 
 class DriveControls;
+class DriveRecord;
+class Recorder;
 class Simulation;
 class TerminalWindow;
 
@@ -16,11 +19,18 @@ class DriveDisplay : public QObject {
     Q_OBJECT
 
 public:
-    /// Neither is owned; both outlive this. The panel and the strip become the window's.
-    DriveDisplay(TerminalWindow *window, Simulation *simulation, QObject *parent = nullptr);
+    /// None is owned; all outlive this. The panel and the strip become the window's.
+    DriveDisplay(TerminalWindow *window, Simulation *simulation, Recorder *recorder, QObject *parent = nullptr);
     ~DriveDisplay() override;
 
     WorkedGround *workedGround() { return &ground; }
+    DriveRecord *record() const { return driveRecord; }
+    /// Shows the controls and goes where a track went (Simulation::replay).
+    Result<TrackReader::Summary> replay(const QString &path);
+
+Q_SIGNALS:
+    /// The operator wants to choose a track to be replayed.
+    void replayWanted();
 
 private:
     void addCamera(class DrivePanel *panel);
@@ -29,6 +39,7 @@ private:
     TerminalWindow *window;
     Simulation *simulation;
     DriveControls *controls;
+    DriveRecord *driveRecord;
     RateHistory history;
     WorkedGround ground;
     WorkedLayer layer;

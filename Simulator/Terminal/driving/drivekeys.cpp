@@ -2,14 +2,16 @@
 
 #include "drivecontrols.h"
 #include "drivepanel.h"
+#include "driverecord.h"
 #include "wheelbar.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
-DriveKeys::DriveKeys(DriveControls *givenControls, DrivePanel *givenPanel, QObject *parent)
+DriveKeys::DriveKeys(DriveControls *givenControls, DriveRecord *givenRecord, DrivePanel *givenPanel, QObject *parent)
     : QObject(parent)
     , controls(givenControls)
+    , record(givenRecord)
     , panel(givenPanel)
 {
     qApp->installEventFilter(this);
@@ -103,6 +105,12 @@ bool DriveKeys::pressOnce(int key)
         return true;
     case Qt::Key_L:
         controls->setSignal(!controls->hasSignal());
+        return true;
+    case Qt::Key_R:
+        record->setOn(!record->isOn());
+        return true;
+    case Qt::Key_T:
+        Q_EMIT panel->replayWanted();
         return true;
     default:
         return false;

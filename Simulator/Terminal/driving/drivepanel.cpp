@@ -1,6 +1,7 @@
 #include "drivepanel.h"
 
 #include "drivecontrols.h"
+#include "driverecord.h"
 #include "readout.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -18,23 +19,29 @@ constexpr int refreshTime = 100;
 
 } // namespace
 
-DrivePanel::DrivePanel(DriveControls *givenControls, QWidget *parent)
+DrivePanel::DrivePanel(DriveControls *givenControls, DriveRecord *givenRecord, QWidget *parent)
     : QWidget(parent)
     , controls(givenControls)
+    , record(givenRecord)
 {
     setObjectName(QStringLiteral("drivePanel"));
     addDriving();
     addPace();
     addWays();
+    addTracks();
     addPedals();
     pause.setSingleShot(true);
     pause.setInterval(refreshTime);
     connect(&pause, &QTimer::timeout, this, &DrivePanel::refresh);
-    connect(controls, &DriveControls::changed, this, [this] {
-        if (!pause.isActive())
-            pause.start();
-    });
+    connect(controls, &DriveControls::changed, this, &DrivePanel::refreshSoon);
+    connect(record, &DriveRecord::changed, this, &DrivePanel::refreshSoon);
     refresh();
+}
+
+void DrivePanel::refreshSoon()
+{
+    if (!pause.isActive())
+        pause.start();
 }
 
 TouchButton *DrivePanel::add(const QString &text, const char *name, const QString &spoken, bool isSwitch)
@@ -95,6 +102,15 @@ void DrivePanel::addWays()
     connect(swathsButton, &TouchButton::clicked, controls, &DriveControls::takeSwaths);
     connect(handButton, &TouchButton::clicked, controls, &DriveControls::takeHand);
     rows.append(QList<QWidget *>{swathsButton, handButton});
+}
+
+void DrivePanel::addTracks()
+{
+    replayButton = add(tr("Replay"), "driveReplay", {}, true);
+    recordButton = add(tr("Record"), "driveRecord", {}, true);
+    connect(replayButton, &TouchButton::clicked, this, &DrivePanel::replayWanted);
+    connect(recordButton, &TouchButton::clicked, record, &DriveRecord::setOn);
+    rows.append(QList<QWidget *>{replayButton, recordButton});
 
     signalButton = add(tr("Signal loss"), "signalLoss", {}, true);
     connect(signalButton, &TouchButton::clicked, controls, [this](bool isLost) { controls->setSignal(!isLost); });
@@ -132,6 +148,9 @@ void DrivePanel::refresh()
     pauseButton->setChecked(controls->isPaused());
     swathsButton->setChecked(!isByHand && !controls->isReplay());
     handButton->setChecked(isByHand);
+    replayButton->setChecked(controls->isReplay());
+    recordButton->setChecked(record->isOn());
+    recordButton->setNote(record->isOn() ? record->elapsed() : QString());
     signalButton->setChecked(!controls->hasSignal());
     for (QWidget *control :
          {static_cast<QWidget *>(brake), static_cast<QWidget *>(throttle), static_cast<QWidget *>(wheelBar)})

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class DriveControls;
+class DriveRecord;
 class QLabel;
 class TouchButton;
 class WheelBar;
@@ -14,8 +15,8 @@ class DrivePanel : public QWidget {
     Q_OBJECT
 
 public:
-    /// `controls` is not owned and outlives the panel's use.
-    explicit DrivePanel(DriveControls *controls, QWidget *parent = nullptr);
+    /// Neither is owned; both outlive the panel's use.
+    DrivePanel(DriveControls *controls, DriveRecord *record, QWidget *parent = nullptr);
 
     WheelBar *wheel() const { return wheelBar; }
     /// Sets whether the button shows that the camera follows the vehicle.
@@ -24,6 +25,8 @@ public:
 Q_SIGNALS:
     /// The operator wants the camera to follow the vehicle, or not.
     void followWanted(bool isWanted);
+    /// The operator wants to choose a track to be replayed.
+    void replayWanted();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -36,10 +39,13 @@ private:
     void addDriving();
     void addPace();
     void addWays();
+    void addTracks();
     void addPedals();
     void refresh();
+    void refreshSoon();
 
     DriveControls *controls;
+    DriveRecord *record;
     /// Rows from the top; a row of three has a readout in its middle.
     QList<QList<QWidget *>> rows;
     TouchButton *startButton = nullptr;
@@ -49,6 +55,8 @@ private:
     TouchButton *followButton = nullptr;
     TouchButton *swathsButton = nullptr;
     TouchButton *handButton = nullptr;
+    TouchButton *replayButton = nullptr;
+    TouchButton *recordButton = nullptr;
     TouchButton *signalButton = nullptr;
     TouchButton *brake = nullptr;
     TouchButton *throttle = nullptr;

@@ -1,5 +1,6 @@
 #include "hintcard.h"
 
+#include "textlines.h"
 #include "theme.h"
 #include "touchbutton.h"
 
@@ -18,20 +19,20 @@ constexpr int inset = 20;
 
 } // namespace
 
-HintCard::HintCard(QWidget *parent)
+HintCard::HintCard(const QString &name, const QString &buttonName, QWidget *parent)
     : QWidget(parent)
     , heading(new QLabel(this))
     , body(new QLabel(this))
     , button(new TouchButton(tr("Got it"), this))
 {
-    setObjectName(QStringLiteral("hintCard"));
+    setObjectName(name);
     heading->setFont(Theme::font(titlePixels, true));
     body->setFont(Theme::font(textPixels));
     for (QLabel *label : {heading, body}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
-    button->setObjectName(QStringLiteral("hintClose"));
+    button->setObjectName(buttonName);
     button->setFixedSize(buttonWidth, Theme::touchTarget);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(inset, inset, inset, inset);
@@ -45,11 +46,14 @@ HintCard::HintCard(QWidget *parent)
 
 void HintCard::tell(const QString &title, const QStringList &lines, const QRect &area)
 {
-    heading->setText(title);
+    heading->setText(TextLines::breakable(title));
     const QString bullet = lines.size() > 1 ? QStringLiteral("\u2022 ") : QString();
-    body->setText(bullet + lines.join(QLatin1Char('\n') + bullet));
+    QStringList shown;
+    for (const QString &line : lines)
+        shown.append(bullet + TextLines::breakable(line));
+    body->setText(shown.join(QLatin1Char('\n')));
     setAccessibleName(title);
-    setAccessibleDescription(body->text());
+    setAccessibleDescription(lines.join(QLatin1Char('\n')));
     const int wide = qMin(cardWidth, area.width());
     const int tall = layout()->heightForWidth(wide);
     setGeometry(area.left() + (area.width() - wide) / 2, area.bottom() + 1 - tall - Theme::margin, wide, tall);

@@ -13,8 +13,8 @@ class HintCard : public QWidget {
     Q_OBJECT
 
 public:
-    /// Hidden at first.
-    explicit HintCard(QWidget *parent);
+    /// Hidden at first. Scripts know the card and its button by these names.
+    HintCard(const QString &name, const QString &buttonName, QWidget *parent);
 
     /// Shows the card in the middle of `area` (pixels of its parent), at its lower end.
     void tell(const QString &title, const QStringList &lines, const QRect &area);

@@ -24,7 +24,7 @@ Hints::Hints(TerminalWindow *givenWindow, const PrescriptionBackend *givenBacken
     , window(givenWindow)
     , backend(givenBackend)
     , settings(givenSettings)
-    , card(new HintCard(givenWindow))
+    , card(new HintCard(QStringLiteral("hintCard"), QStringLiteral("hintClose"), givenWindow))
 {
     connect(window->guidancePage(), &GuidancePage::touchedShortly, this, &Hints::tellOfLongTouch);
     connect(window->guidancePage(), &GuidancePage::touched, this, [this](const QString &widgetName) {

@@ -1,8 +1,8 @@
 #include "messagepage.h"
 
+#include "textlines.h"
 #include "theme.h"
 #include "touchbutton.h"
-#include "visibletext.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -35,14 +35,6 @@ TouchButton *addButton(QHBoxLayout *layout, const QString &text, const char *nam
     return button;
 }
 
-/// The text with places where it may break: words such as paths are longer than a line.
-QString breakable(QString text)
-{
-    constexpr QChar zeroWidthSpace(0x200b);
-    return text.replace(QLatin1Char('/'), QLatin1Char('/') + QString(zeroWidthSpace))
-        .replace(QLatin1Char('_'), QLatin1Char('_') + QString(zeroWidthSpace));
-}
-
 } // namespace
 
 MessagePage::MessagePage(QWidget *parent)
@@ -70,6 +62,6 @@ MessagePage::MessagePage(QWidget *parent)
 
 void MessagePage::tell(const QString &reason, bool offersOther)
 {
-    text->setText(breakable(VisibleText::of(reason)));
+    text->setText(TextLines::breakable(reason));
     other->setVisible(offersOther);
 }

@@ -113,6 +113,12 @@ void OpenWindow::showFiles()
     files->focusChosen();
 }
 
+void OpenWindow::showRecords(const QString &folder)
+{
+    showFiles();
+    files->showRecords(folder);
+}
+
 void OpenWindow::returnToFiles()
 {
     files->offerVolumes(RemovableVolumes::mounted());
@@ -140,6 +146,10 @@ void OpenWindow::showNext()
         return;
     }
     const QString path = waiting.takeFirst();
+    if (FolderListing::isTrack(path)) {
+        Q_EMIT trackWanted(path);
+        return;
+    }
     remembered = memory.of(path);
     survey(path, remembered ? remembered->layer : QString(), remembered ? remembered->task : QString());
 }
@@ -247,6 +257,12 @@ void OpenWindow::finish(const LoadReport &report)
     } else {
         tell(report.error, previews);
     }
+}
+
+void OpenWindow::finishTrack(const QString &path)
+{
+    recent.add(path);
+    showNext();
 }
 
 void OpenWindow::giveUp()

@@ -36,12 +36,16 @@ public:
     void offerSample(const QString &path);
     /// Shows the files to choose from: the folder used last, else the recent files, else the home folder.
     void showFiles();
-    /// Shows what these files hold, one after the other.
+    /// Shows what may be opened in the folder where drives are recorded.
+    void showRecords(const QString &folder);
+    /// Shows what these files hold, one after the other; wants tracks among them replayed.
     void preview(const QStringList &paths);
     /// Shows why something that was wanted cannot be opened.
     void refuse(const QString &reason);
     /// Takes the report of a load that was wanted.
     void finish(const LoadReport &report);
+    /// Remembers a track that was wanted and is being replayed, and goes on.
+    void finishTrack(const QString &path);
     /// Goes back to the previous page; from the page of files out of the window.
     void goBack();
     /// Hides the window, and gives up what it was reading.
@@ -52,6 +56,8 @@ public:
 Q_SIGNALS:
     /// The operator wants this loaded; finish() is to follow.
     void wanted(const OpenRequest &request);
+    /// The operator wants this track replayed; finishTrack() or refuse() is to follow.
+    void trackWanted(const QString &path);
     /// What was wanted is loaded.
     void opened(const LoadReport &report);
     /// The operator wants this map closed.

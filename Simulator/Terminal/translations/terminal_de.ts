@@ -161,6 +161,42 @@
         <source>Time passes faster</source>
         <translation>Die Zeit vergeht schneller</translation>
     </message>
+    <message>
+        <source>Replay</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnahme</translation>
+    </message>
+</context>
+<context>
+    <name>DriveRecord</name>
+    <message>
+        <source>The drive is no longer recorded</source>
+        <translation>Die Fahrt wird nicht mehr aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>drive</source>
+        <comment>name of a record where no field is open</comment>
+        <translation>Fahrt</translation>
+    </message>
+    <message>
+        <source>%1: this folder cannot be made</source>
+        <translation>%1: dieser Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The drive cannot be recorded</source>
+        <translation>Die Fahrt kann nicht aufgezeichnet werden</translation>
+    </message>
+    <message>
+        <source>The drive is recorded</source>
+        <translation>Die Fahrt ist aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>The drive is not recorded to its end</source>
+        <translation>Die Fahrt ist nicht bis zum Ende aufgezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
@@ -190,6 +226,14 @@
         <source>%1 is no file of this computer</source>
         <translation>%1 ist keine Datei dieses Rechners</translation>
     </message>
+    <message>
+        <source>%1 is a track: open the prescription of its field first</source>
+        <translation>%1 ist eine Fahrspur: zuerst die Applikationskarte ihres Feldes öffnen</translation>
+    </message>
+    <message>
+        <source>Lines of %1 left out: %2</source>
+        <translation>Ausgelassene Zeilen von %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>FilePage</name>
@@ -212,10 +256,6 @@
     <message>
         <source>Folder up</source>
         <translation>Ordner darüber</translation>
-    </message>
-    <message>
-        <source>Recent prescriptions</source>
-        <translation>Zuletzt geöffnete Applikationskarten</translation>
     </message>
     <message>
         <source>No prescription was opened here before.</source>
@@ -268,6 +308,14 @@
     <message>
         <source>Sample field</source>
         <translation>Beispielfeld</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt geöffnete Dateien</translation>
+    </message>
+    <message>
+        <source>No drive was recorded yet. &quot;Record&quot; records what the machine does from then on.</source>
+        <translation>Noch keine Fahrt ist aufgezeichnet. &quot;Aufnahme&quot; zeichnet auf, was die Maschine von da an tut.</translation>
     </message>
 </context>
 <context>
@@ -384,6 +432,10 @@
         <source>d MMM yyyy</source>
         <comment>a date, in QLocale&apos;s letters</comment>
         <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Fahrspur</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,42 @@
         <source>Time passes faster</source>
         <translation>El tiempo pasa más rápido</translation>
     </message>
+    <message>
+        <source>Replay</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabar</translation>
+    </message>
+</context>
+<context>
+    <name>DriveRecord</name>
+    <message>
+        <source>The drive is no longer recorded</source>
+        <translation>El recorrido ya no se graba</translation>
+    </message>
+    <message>
+        <source>drive</source>
+        <comment>name of a record where no field is open</comment>
+        <translation>recorrido</translation>
+    </message>
+    <message>
+        <source>%1: this folder cannot be made</source>
+        <translation>%1: esta carpeta no se puede crear</translation>
+    </message>
+    <message>
+        <source>The drive cannot be recorded</source>
+        <translation>El recorrido no se puede grabar</translation>
+    </message>
+    <message>
+        <source>The drive is recorded</source>
+        <translation>El recorrido está grabado</translation>
+    </message>
+    <message>
+        <source>The drive is not recorded to its end</source>
+        <translation>El recorrido no está grabado hasta el final</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
@@ -190,6 +226,14 @@
         <source>%1 is no file of this computer</source>
         <translation>%1 no es un archivo de este equipo</translation>
     </message>
+    <message>
+        <source>%1 is a track: open the prescription of its field first</source>
+        <translation>%1 es un recorrido: abra primero la prescripción de su campo</translation>
+    </message>
+    <message>
+        <source>Lines of %1 left out: %2</source>
+        <translation>Líneas omitidas de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>FilePage</name>
@@ -212,10 +256,6 @@
     <message>
         <source>Folder up</source>
         <translation>Carpeta superior</translation>
-    </message>
-    <message>
-        <source>Recent prescriptions</source>
-        <translation>Prescripciones recientes</translation>
     </message>
     <message>
         <source>No prescription was opened here before.</source>
@@ -268,6 +308,14 @@
     <message>
         <source>Sample field</source>
         <translation>Campo de muestra</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Archivos recientes</translation>
+    </message>
+    <message>
+        <source>No drive was recorded yet. &quot;Record&quot; records what the machine does from then on.</source>
+        <translation>Aún no se ha grabado ningún recorrido. &quot;Grabar&quot; graba lo que la máquina hace a partir de entonces.</translation>
     </message>
 </context>
 <context>
@@ -384,6 +432,10 @@
         <source>d MMM yyyy</source>
         <comment>a date, in QLocale&apos;s letters</comment>
         <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Recorrido</translation>
     </message>
 </context>
 <context>

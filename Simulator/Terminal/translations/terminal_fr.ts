@@ -161,6 +161,42 @@
         <source>Time passes faster</source>
         <translation>Le temps passe plus vite</translation>
     </message>
+    <message>
+        <source>Replay</source>
+        <translation>Rejouer</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>DriveRecord</name>
+    <message>
+        <source>The drive is no longer recorded</source>
+        <translation>Le trajet n’est plus enregistré</translation>
+    </message>
+    <message>
+        <source>drive</source>
+        <comment>name of a record where no field is open</comment>
+        <translation>trajet</translation>
+    </message>
+    <message>
+        <source>%1: this folder cannot be made</source>
+        <translation>%1 : ce dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>The drive cannot be recorded</source>
+        <translation>Le trajet ne peut pas être enregistré</translation>
+    </message>
+    <message>
+        <source>The drive is recorded</source>
+        <translation>Le trajet est enregistré</translation>
+    </message>
+    <message>
+        <source>The drive is not recorded to its end</source>
+        <translation>Le trajet n’est pas enregistré jusqu’au bout</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
@@ -190,6 +226,14 @@
         <source>%1 is no file of this computer</source>
         <translation>%1 n’est pas un fichier de cet ordinateur</translation>
     </message>
+    <message>
+        <source>%1 is a track: open the prescription of its field first</source>
+        <translation>%1 est un trajet : ouvrez d’abord la carte de sa parcelle</translation>
+    </message>
+    <message>
+        <source>Lines of %1 left out: %2</source>
+        <translation>Lignes omises de %1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>FilePage</name>
@@ -212,10 +256,6 @@
     <message>
         <source>Folder up</source>
         <translation>Dossier parent</translation>
-    </message>
-    <message>
-        <source>Recent prescriptions</source>
-        <translation>Préconisations récentes</translation>
     </message>
     <message>
         <source>No prescription was opened here before.</source>
@@ -268,6 +308,14 @@
     <message>
         <source>Sample field</source>
         <translation>Parcelle d’exemple</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Fichiers récents</translation>
+    </message>
+    <message>
+        <source>No drive was recorded yet. &quot;Record&quot; records what the machine does from then on.</source>
+        <translation>Aucun trajet n’est encore enregistré. &quot;Enregistrer&quot; enregistre ce que la machine fait dès lors.</translation>
     </message>
 </context>
 <context>
@@ -384,6 +432,10 @@
         <source>d MMM yyyy</source>
         <comment>a date, in QLocale&apos;s letters</comment>
         <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Trajet</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,42 @@
         <source>Time passes faster</source>
         <translation>O tempo passa mais rápido</translation>
     </message>
+    <message>
+        <source>Replay</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Gravar</translation>
+    </message>
+</context>
+<context>
+    <name>DriveRecord</name>
+    <message>
+        <source>The drive is no longer recorded</source>
+        <translation>O percurso não está mais sendo gravado</translation>
+    </message>
+    <message>
+        <source>drive</source>
+        <comment>name of a record where no field is open</comment>
+        <translation>percurso</translation>
+    </message>
+    <message>
+        <source>%1: this folder cannot be made</source>
+        <translation>%1: esta pasta não pode ser criada</translation>
+    </message>
+    <message>
+        <source>The drive cannot be recorded</source>
+        <translation>O percurso não pode ser gravado</translation>
+    </message>
+    <message>
+        <source>The drive is recorded</source>
+        <translation>O percurso está gravado</translation>
+    </message>
+    <message>
+        <source>The drive is not recorded to its end</source>
+        <translation>O percurso não está gravado até o fim</translation>
+    </message>
 </context>
 <context>
     <name>DriveStrip</name>
@@ -190,6 +226,14 @@
         <source>%1 is no file of this computer</source>
         <translation>%1 não é um arquivo deste computador</translation>
     </message>
+    <message>
+        <source>%1 is a track: open the prescription of its field first</source>
+        <translation>%1 é um percurso: abra primeiro a prescrição do campo</translation>
+    </message>
+    <message>
+        <source>Lines of %1 left out: %2</source>
+        <translation>Linhas omitidas de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>FilePage</name>
@@ -212,10 +256,6 @@
     <message>
         <source>Folder up</source>
         <translation>Pasta acima</translation>
-    </message>
-    <message>
-        <source>Recent prescriptions</source>
-        <translation>Prescrições recentes</translation>
     </message>
     <message>
         <source>No prescription was opened here before.</source>
@@ -268,6 +308,14 @@
     <message>
         <source>Sample field</source>
         <translation>Talhão de exemplo</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Arquivos recentes</translation>
+    </message>
+    <message>
+        <source>No drive was recorded yet. &quot;Record&quot; records what the machine does from then on.</source>
+        <translation>Nenhum percurso foi gravado ainda. &quot;Gravar&quot; grava o que a máquina faz a partir de então.</translation>
     </message>
 </context>
 <context>
@@ -384,6 +432,10 @@
         <source>d MMM yyyy</source>
         <comment>a date, in QLocale&apos;s letters</comment>
         <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Percurso</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 #include "files.h"
 #include "machinebench.h"
 #include "recorder.h"
+#include "smalldisk.h"
 #include "testbase.h"
 #include "vehicle.h"
 
@@ -13,32 +14,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <csignal>
 #include <functional>
 #include <ogrsf_frmts.h>
-#include <sys/resource.h>
-
-/// A limit on the size of files stands for a full disk.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        formerAction = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, formerAction);
-    }
-    Q_DISABLE_COPY(SmallDisk)
-
-private:
-    rlimit before{};
-    void (*formerAction)(int);
-};
 
 /// What is kept of a drive.
 class TestRecorder : public TestBase {

@@ -1,9 +1,11 @@
 #include "drivecontrols.h"
 #include "drivekeys.h"
 #include "drivepanel.h"
+#include "driverecord.h"
 #include "machinebench.h"
 #include "paintedtexts.h"
 #include "paths.h"
+#include "recorder.h"
 #include "testbase.h"
 #include "theme.h"
 #include "touchbutton.h"
@@ -25,6 +27,8 @@ private Q_SLOTS:
     void aUnitIsNotBroken();
     void pedalsAndWheelAreThereByHand();
     void itShowsWhatAScriptDoes();
+    void aRecordIsStartedShownAndEnded();
+    void aTrackIsAskedForAndShown();
     void followingIsAskedForAndShown();
     void theWheelGoesBackWhenItIsLeft();
     void whatADialogKeepsFromTheWheelLooksSo();
@@ -45,6 +49,9 @@ private:
 
     QScopedPointer<MachineBench> bench;
     QScopedPointer<DriveControls> controls;
+    QScopedPointer<QTemporaryDir> folder;
+    QScopedPointer<Recorder> recorder;
+    QScopedPointer<DriveRecord> record;
     QScopedPointer<DrivePanel> panel;
 };
 
@@ -54,12 +61,15 @@ void TestDrivePanel::init()
     bench.reset(new MachineBench);
     QVERIFY(bench->loadZones({{-100, 0, 50.0}, {0, 100, 80.0}}).isOk());
     controls.reset(new DriveControls(&bench->simulation));
+    folder.reset(new QTemporaryDir);
+    recorder.reset(new Recorder(&bench->simulation));
+    record.reset(new DriveRecord(&bench->simulation, recorder.data(), folder->path()));
     makePanel();
 }
 
 void TestDrivePanel::makePanel()
 {
-    panel.reset(new DrivePanel(controls.data()));
+    panel.reset(new DrivePanel(controls.data(), record.data()));
     // As wide as the window's columns.
     panel->resize(212, 704);
     panel->show();
@@ -69,6 +79,8 @@ void TestDrivePanel::makePanel()
 void TestDrivePanel::cleanup()
 {
     panel.reset();
+    record.reset();
+    recorder.reset();
     controls.reset();
     bench.reset();
     TestBase::cleanup();
@@ -148,6 +160,37 @@ void TestDrivePanel::itShowsWhatAScriptDoes()
     QTRY_VERIFY(isChecked("driveStart"));
 }
 
+void TestDrivePanel::aRecordIsStartedShownAndEnded()
+{
+    touch("driveRecord");
+    QVERIFY(recorder->isRecording());
+    bench->simulation.run(65.0);
+    QTRY_VERIFY(paintedTexts(*find<TouchButton>("driveRecord")).contains(QStringLiteral("1:05")));
+    QVERIFY(isChecked("driveRecord"));
+    touch("driveRecord");
+    QVERIFY(!recorder->isRecording());
+    QTRY_VERIFY(!isChecked("driveRecord"));
+    QTRY_VERIFY(!paintedTexts(*find<TouchButton>("driveRecord")).contains(QStringLiteral("1:05")));
+    QVERIFY(folder->remove());
+    QFile inItsPlace(folder->path());
+    QVERIFY(inItsPlace.open(QIODevice::WriteOnly));
+    touch("driveRecord");
+    QTRY_VERIFY(!isChecked("driveRecord"));
+}
+
+void TestDrivePanel::aTrackIsAskedForAndShown()
+{
+    QSignalSpy wanted(panel.data(), &DrivePanel::replayWanted);
+    touch("driveReplay");
+    QCOMPARE(wanted.size(), 1);
+    QTRY_VERIFY(!isChecked("driveReplay"));
+    QFile track(folder->filePath(QStringLiteral("track.csv")));
+    QVERIFY(track.open(QIODevice::WriteOnly) && track.write("time,x,y\n0,0,0\n9,9,0\n") > 0);
+    track.close();
+    QVERIFY(bench->simulation.replay(track.fileName()).isOk());
+    QTRY_VERIFY(isChecked("driveReplay"));
+}
+
 void TestDrivePanel::followingIsAskedForAndShown()
 {
     QSignalSpy wanted(panel.data(), &DrivePanel::followWanted);
@@ -194,7 +237,7 @@ void TestDrivePanel::everyButtonIsBigEnoughForAGlove()
     QList<QWidget *> targets{panel->wheel()};
     for (TouchButton *button : panel->findChildren<TouchButton *>())
         targets.append(button);
-    QCOMPARE(targets.size(), 14);
+    QCOMPARE(targets.size(), 16);
     for (int i = 0; i < targets.size(); ++i) {
         const QRect place = targets.at(i)->geometry();
         QVERIFY2(place.width() >= 56 && place.height() >= 56, qPrintable(targets.at(i)->objectName()));
@@ -228,7 +271,7 @@ void TestDrivePanel::textsFitInEveryLanguage()
 
 void TestDrivePanel::keysDriveWhileThePanelIsSeen()
 {
-    const DriveKeys keys(controls.data(), panel.data());
+    const DriveKeys keys(controls.data(), record.data(), panel.data());
     Vehicle &vehicle = *bench->simulation.vehicle();
     const auto key = [this](int code) { QTest::keyClick(panel.data(), Qt::Key(code)); };
     key(Qt::Key_Space);
@@ -246,6 +289,13 @@ void TestDrivePanel::keysDriveWhileThePanelIsSeen()
     QVERIFY(controls->isPaused());
     key(Qt::Key_L);
     QVERIFY(!vehicle.hasSignal());
+    key(Qt::Key_R);
+    QVERIFY(recorder->isRecording());
+    key(Qt::Key_R);
+    QVERIFY(!recorder->isRecording());
+    QSignalSpy trackWanted(panel.data(), &DrivePanel::replayWanted);
+    key(Qt::Key_T);
+    QCOMPARE(trackWanted.size(), 1);
     key(Qt::Key_H);
     QVERIFY(controls->isByHand());
     QTest::keyPress(panel.data(), Qt::Key_Up);
@@ -265,7 +315,7 @@ void TestDrivePanel::keysDriveWhileThePanelIsSeen()
 
 void TestDrivePanel::aHeldKeyTurnsTheWheelFurther()
 {
-    const DriveKeys keys(controls.data(), panel.data());
+    const DriveKeys keys(controls.data(), record.data(), panel.data());
     controls->takeHand();
     QTRY_VERIFY(panel->wheel()->isVisible());
     QTest::keyPress(panel.data(), Qt::Key_Left);

@@ -32,7 +32,8 @@ TrackReader::~TrackReader() = default;
 bool TrackReader::mayRead(const QString &path)
 {
     QFile file(path);
-    if (!regularFileProblem(path).isEmpty() || !file.open(QIODevice::ReadOnly))
+    // An empty file may be one of the system's, and reading those may never end.
+    if (!regularFileProblem(path).isEmpty() || file.size() == 0 || !file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray line = file.read(longestLine).trimmed().split('\n').first().trimmed();
     if (line.startsWith('$')) {

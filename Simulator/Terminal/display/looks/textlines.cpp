@@ -44,3 +44,11 @@ QString TextLines::elided(const QString &text, const QFontMetrics &metrics, int 
 {
     return metrics.elidedText(VisibleText::of(text), mode, width);
 }
+
+QString TextLines::breakable(const QString &text)
+{
+    constexpr QChar zeroWidthSpace(0x200b);
+    return VisibleText::of(text)
+        .replace(QLatin1Char('/'), QLatin1Char('/') + QString(zeroWidthSpace))
+        .replace(QLatin1Char('_'), QLatin1Char('_') + QString(zeroWidthSpace));
+}

@@ -13,4 +13,6 @@ public:
     /// The text on one line of `width` pixels, shortened where it is too long.
     static QString elided(const QString &text, const QFontMetrics &metrics, int width,
                           Qt::TextElideMode mode = Qt::ElideMiddle);
+    /// For a label: the text with places where it may break, since words such as paths are longer than a line.
+    static QString breakable(const QString &text);
 };

@@ -193,8 +193,7 @@ void FilePage::showRecent()
 {
     folder.clear();
     shown = Place::Recent;
-    show(tr("Recent prescriptions"), FolderListing::ofFiles(files.paths()),
-         tr("No prescription was opened here before."));
+    show(tr("Recent files"), FolderListing::ofFiles(files.paths()), tr("No prescription was opened here before."));
 }
 
 void FilePage::showOpen()
@@ -214,11 +213,20 @@ void FilePage::followMaps()
 
 void FilePage::showFolder(const QString &path)
 {
+    const bool isReadable = QDir(path).isReadable();
+    listFolder(path, isReadable ? tr("Nothing in this folder can be opened.") : tr("This folder cannot be read."));
+}
+
+void FilePage::showRecords(const QString &path)
+{
+    listFolder(path, tr("No drive was recorded yet. \"Record\" records what the machine does from then on."));
+}
+
+void FilePage::listFolder(const QString &path, const QString &whenEmpty)
+{
     folder = path;
     shown = Place::Folder;
-    const bool isReadable = QDir(path).isReadable();
-    show(headingOf(path), FolderListing::of(path),
-         isReadable ? tr("Nothing in this folder can be opened.") : tr("This folder cannot be read."));
+    show(headingOf(path), FolderListing::of(path), whenEmpty);
 }
 
 void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty)

@@ -26,6 +26,8 @@ public:
 
     /// Shows the folder used last, else the recent files, else the home folder.
     void showFirst();
+    /// Shows what may be opened in the folder where drives are recorded; it may not exist yet.
+    void showRecords(const QString &folder);
     /// Shows what was shown when a file was taken.
     void showAgain();
     /// Gives the keyboard to the entry that was chosen last, if it is visible.
@@ -60,6 +62,7 @@ private:
     void showRecent();
     void showOpen();
     void showFolder(const QString &path);
+    void listFolder(const QString &path, const QString &whenEmpty);
     void followMaps();
     void show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty);
     void turnPage();

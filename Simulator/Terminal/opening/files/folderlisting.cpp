@@ -2,6 +2,7 @@
 
 #include "Backend/naturalorder.h"
 #include "Backend/prescriptionbackend.h"
+#include "trackreader.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -23,7 +24,20 @@ QString ageAndSize(const QFileInfo &info)
     return info.isDir() ? age : language.formattedDataSize(info.size(), 1) + QStringLiteral("  \u00b7  ") + age;
 }
 
+/// Other texts may begin like a track by chance.
+bool isCalledATrack(const QFileInfo &info)
+{
+    static const QStringList endings{QStringLiteral("csv"), QStringLiteral("nmea"), QStringLiteral("nma"),
+                                     QStringLiteral("log"), QStringLiteral("txt")};
+    return endings.contains(info.suffix(), Qt::CaseInsensitive);
+}
+
 } // namespace
+
+bool FolderListing::isTrack(const QString &path)
+{
+    return !PrescriptionBackend::mayBePrescription(path) && TrackReader::mayRead(path);
+}
 
 QList<FileEntry> FolderListing::of(const QString &folder)
 {
@@ -31,10 +45,13 @@ QList<FileEntry> FolderListing::of(const QString &folder)
     const QFileInfoList found = QDir(folder).entryInfoList(QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
     for (const QFileInfo &info : found) {
         const bool mayBeOne = PrescriptionBackend::mayBePrescription(info.filePath());
-        if (!info.isDir() && !mayBeOne)
-            continue;
         const bool isFolder = info.isDir() && !mayBeOne;
-        entries.append({info.filePath(), info.fileName(), isFolder, true, isFolder ? QString() : ageAndSize(info)});
+        const bool isReplayed = !isFolder && isCalledATrack(info) && isTrack(info.filePath());
+        if (!isFolder && !mayBeOne && !isReplayed)
+            continue;
+        const QString note = isFolder ? QString() : ageAndSize(info);
+        entries.append({info.filePath(), info.fileName(), isFolder, true,
+                        isReplayed ? tr("Track") + QStringLiteral("  \u00b7  ") + note : note});
     }
     const NaturalOrder order;
     std::stable_sort(entries.begin(), entries.end(), [&order](const FileEntry &a, const FileEntry &b) {

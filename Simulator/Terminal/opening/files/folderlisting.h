@@ -18,7 +18,7 @@ struct FileEntry {
     QString group = {};
 };
 
-/// What can be opened in a folder: folders, and files that may be prescriptions.
+/// What can be opened in a folder: folders, and files that may be prescriptions or tracks.
 class FolderListing {
     Q_DECLARE_TR_FUNCTIONS(FolderListing)
 
@@ -27,4 +27,6 @@ public:
     static QList<FileEntry> of(const QString &folder);
     /// Files that were opened before, wherever they lie.
     static QList<FileEntry> ofFiles(const QStringList &paths);
+    /// Whether a file of that name is a track to be replayed.
+    static bool isTrack(const QString &path);
 };

@@ -9,6 +9,7 @@ private Q_SLOTS:
     void foldersComeBeforeFilesThatMayBePrescriptions();
     void aFolderWithTaskDataIsOpenedNotEntered();
     void filesAreJudgedWithoutBeingRead();
+    void tracksAreListedByNameAndFirstLine();
     void filesThatAreGoneAreSaidToBe();
     void datesAndSizesAreWrittenInTheLanguage_data();
     void datesAndSizesAreWrittenInTheLanguage();
@@ -60,6 +61,26 @@ void TestFolderListing::filesAreJudgedWithoutBeingRead()
     for (const FileEntry &entry : entries)
         names.append(entry.name);
     QCOMPARE(names, QStringList({"tasks.xml", "text.zip"}));
+}
+
+void TestFolderListing::tracksAreListedByNameAndFirstLine()
+{
+    touch(QStringLiteral("tracks/drive.csv"), "time,x,y\n0,0,0\n");
+    touch(QStringLiteral("tracks/receiver.TXT"), "$GPGGA,120000,,,,,0\n");
+    touch(QStringLiteral("tracks/receiver.cpp"), "$GPGGA,120000,,,,,0\n");
+    touch(QStringLiteral("tracks/prices.csv"), "name,price\nurea,1\n");
+    touch(QStringLiteral("tracks/map.shp"));
+    QStringList tracks;
+    const QList<FileEntry> entries = FolderListing::of(folder.filePath(QStringLiteral("tracks")));
+    for (const FileEntry &entry : entries) {
+        if (entry.note.startsWith(QStringLiteral("Track  \u00b7  ")))
+            tracks.append(entry.name);
+    }
+    QCOMPARE(tracks, QStringList({"drive.csv", "receiver.TXT"}));
+    QCOMPARE(entries.size(), 3);
+    // Whatever its name is, what was dropped is a track.
+    QVERIFY(FolderListing::isTrack(folder.filePath(QStringLiteral("tracks/receiver.cpp"))));
+    QVERIFY(!FolderListing::isTrack(folder.filePath(QStringLiteral("tracks/map.shp"))));
 }
 
 void TestFolderListing::filesThatAreGoneAreSaidToBe()

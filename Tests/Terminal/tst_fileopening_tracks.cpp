@@ -1,0 +1,138 @@
+#include "fileopeningtest.h"
+#include "paintedtexts.h"
+#include "simulation.h"
+#include "vehicle.h"
+
+#include <QLabel>
+#include <QLineF>
+#include <QTemporaryDir>
+
+/// Drives that are recorded, and tracks that are replayed, by touch.
+class TestFileOpeningTracks : public FileOpeningTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aRecordedDriveIsReplayedByTouch();
+    void whereNothingIsRecordedItSaysHow();
+    void aDroppedTrackFollowsItsMap();
+    void whyATrackIsNotReplayedIsTold_data();
+    void whyATrackIsNotReplayedIsTold();
+
+private:
+    void run(double seconds) { terminal().simulation()->run(seconds); }
+    QString write(const QByteArray &track);
+    QWidget *notice() { return terminal().window()->findChild<QWidget *>(QStringLiteral("noticeCard")); }
+    QString noticeText() { return notice()->accessibleName() + QLatin1Char('|') + notice()->accessibleDescription(); }
+    Vehicle &vehicle() { return *terminal().vehicle(); }
+
+    QByteArray realHome;
+    QScopedPointer<QTemporaryDir> home;
+};
+
+void TestFileOpeningTracks::init()
+{
+    realHome = qgetenv("HOME");
+    home.reset(new QTemporaryDir);
+    qputenv("HOME", home->path().toLocal8Bit());
+    FileOpeningTest::init();
+    terminal().simulation()->setTimeFactor(0.0);
+}
+
+void TestFileOpeningTracks::cleanup()
+{
+    FileOpeningTest::cleanup();
+    qputenv("HOME", realHome);
+}
+
+QString TestFileOpeningTracks::write(const QByteArray &track)
+{
+    QFile file(home->filePath(QStringLiteral("track.csv")));
+    return file.open(QIODevice::WriteOnly) && file.write(track) == track.size() ? file.fileName() : QString();
+}
+
+void TestFileOpeningTracks::aRecordedDriveIsReplayedByTouch()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    for (const char *name : {"drive", "driveStart", "driveRecord"})
+        button(name)->click();
+    run(10.0);
+    const QPointF reached = vehicle().position();
+    button("driveRecord")->click();
+    QVERIFY(notice()->isVisible());
+    const QString folder = home->filePath(QStringLiteral("Documents"));
+    QVERIFY2(noticeText().contains(QLatin1Char('|') + folder + QStringLiteral("/three-zones_")),
+             qPrintable(noticeText()));
+    run(20.0);
+    button("driveReplay")->click();
+    QVERIFY(!notice()->isVisible());
+    QVERIFY(button("fileRow0")->text().startsWith(QLatin1String("three-zones_")));
+    button("fileRow0")->click();
+    QVERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(vehicle().mode(), Motion::Mode::Replay);
+    run(5.0);
+    button("driveByHand")->click();
+    run(4.0);
+    QCOMPARE(vehicle().currentSpeed(), 3.0);
+    // It is among the recent files.
+    button("openButton")->click();
+    button("placeRecent")->click();
+    button("fileRow0")->click();
+    run(60.0);
+    QVERIFY(vehicle().isOver());
+    QVERIFY(QLineF(vehicle().position(), reached).length() < 0.01);
+}
+
+void TestFileOpeningTracks::whereNothingIsRecordedItSaysHow()
+{
+    button("drive")->click();
+    button("driveReplay")->click();
+    const QStringList texts = paintedTexts(*terminal().openWindow()).filter(QStringLiteral("No drive was recorded"));
+    QCOMPARE(texts.size(), 1);
+}
+
+void TestFileOpeningTracks::aDroppedTrackFollowsItsMap()
+{
+    const QString track = write("time,x,y\n0,0,0\nnothing\n9,9,0\n");
+    Q_EMIT terminal().window()->dropped({TerminalHost::fixture(QStringLiteral("three-zones.geojson")), track}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(vehicle().mode(), Motion::Mode::Replay);
+    // What drives is seen, and what was left out.
+    QVERIFY(button("driveReplay") != nullptr);
+    QVERIFY(notice()->isVisible());
+    QVERIFY2(noticeText().contains(QStringLiteral("track.csv left out: 1|line 3: its time is none")),
+             qPrintable(noticeText()));
+    button("noticeClose")->click();
+    QVERIFY(!notice()->isVisible());
+}
+
+void TestFileOpeningTracks::whyATrackIsNotReplayedIsTold_data()
+{
+    QTest::addColumn<bool>("hasMap");
+    QTest::addColumn<QByteArray>("track");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no map") << false << QByteArray("time,x,y\n0,0,0\n9,9,0\n")
+                            << "track.csv is a track: open the prescription of its field first";
+    QTest::newRow("no position") << true << QByteArray("time,x,y\n") << "track.csv: holds no position";
+}
+
+void TestFileOpeningTracks::whyATrackIsNotReplayedIsTold()
+{
+    QFETCH(bool, hasMap);
+    QFETCH(QByteArray, track);
+    QFETCH(QString, reason);
+    QVERIFY(!hasMap || open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    Q_EMIT terminal().window()->dropped({write(track)}, {});
+    auto *message = terminal().window()->findChild<QLabel *>(QStringLiteral("openMessage"));
+    QVERIFY(message->isVisible());
+    QVERIFY2(message->text().remove(QChar(0x200b)).endsWith(reason), qPrintable(message->text()));
+    QCOMPARE(vehicle().mode(), Motion::Mode::Shuttle);
+    button("openBack")->click();
+    QVERIFY(button("fileRow0") != nullptr);
+}
+
+RXMAP_TEST(TestFileOpeningTracks, Widgets)
+#include "tst_fileopening_tracks.moc"
