@@ -121,8 +121,9 @@ void FieldDrive::run(const Progress &progress)
     vehicle->drive(usualSpeed);
     for (int step = 1; !vehicle->isOver(); ++step) {
         simulation->step();
-        if (progress && step % stepsToTell == 0)
-            progress(std::min(1.0, step * Simulation::stepMs / 1000.0 * usualSpeed / path.length()));
+        const double done = std::min(1.0, step * Simulation::stepMs / 1000.0 * usualSpeed / path.length());
+        if (progress && step % stepsToTell == 0 && !progress(done))
+            return;
     }
 }
 
@@ -152,8 +153,8 @@ std::vector<FieldDrive::Curve> FieldDrive::tune(const Progress &progress)
     const std::set<int> times = candidates(curves);
     int done = 1;
     for (const int lookAhead : times) {
-        if (progress)
-            progress(double(done++) / double(times.size() + 1));
+        if (progress && !progress(double(done++) / double(times.size() + 1)))
+            break;
         driveWith(lookAhead);
     }
     group->setSettings(before);

@@ -23,8 +23,8 @@ public:
 
     /// Median lateness of a product's changes (seconds) by look-ahead time (milliseconds).
     using Curve = std::map<int, double>;
-    /// Called now and then with how much of the whole is done, 0 to 1.
-    using Progress = std::function<void(double)>;
+    /// Called now and then with how much of the whole is done, 0 to 1; false ends it there.
+    using Progress = std::function<bool(double)>;
 
     /// How a machine of the simulation's size drives.
     static SwathOptions usualOptions(const Simulation &simulation);

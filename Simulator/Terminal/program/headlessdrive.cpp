@@ -24,7 +24,7 @@
 
 namespace {
 
-/// Prints how far something is that begins now.
+/// Prints how far something is that begins now, and ends it if nobody can read that.
 FieldDrive::Progress printedProgress(const char *what)
 {
     QElapsedTimer passed;
@@ -33,6 +33,7 @@ FieldDrive::Progress printedProgress(const char *what)
         const QString line = progress.at(fraction, passed.elapsed());
         if (!line.isEmpty())
             writeOutputLine(line);
+        return outputProblem().isEmpty();
     };
 }
 
@@ -111,6 +112,9 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
             return error;
     }
     drive.run(printedProgress("driving"));
+    problem = outputProblem();
+    if (!problem.isEmpty())
+        return problem;
     tally.end();
     if (raster)
         raster->end();

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aReportIsAPageInTheChosenLanguageAndUnits();
     void whatCannotBeDrivenEndsWithOneLine_data();
     void whatCannotBeDrivenEndsWithOneLine();
+    void aDriveWhoseOutputIsLostEndsAtOnce();
     void fieldsOnPlanesOfTheirOwnAreNotDrivenTogether();
 };
 
@@ -104,6 +105,20 @@ void TestTerminalSimulatorDriving::whatCannotBeDrivenEndsWithOneLine()
     QCOMPARE(outcome.errors.count('\n'), 1);
     QVERIFY2(!outcome.output.contains(QLatin1String("report written")), qPrintable(outcome.output));
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("report-of-nothing.json"))));
+}
+
+void TestTerminalSimulatorDriving::aDriveWhoseOutputIsLostEndsAtOnce()
+{
+    const QString report = folder.filePath(QStringLiteral("lost.json"));
+    const QString record = folder.filePath(QStringLiteral("lost.csv"));
+    const Outcome outcome =
+        runInShell(QStringLiteral("export ASAN_OPTIONS=detect_leaks=0; trap '' PIPE; { \"$@\"; echo $? >&2; } | true"),
+                   {"--drive", report, "--record", record, "--columns", "SEED_K_HA", zones()});
+    QVERIFY2(outcome.errors.endsWith(QLatin1String("standard output cannot be written\n1\n")),
+             qPrintable(outcome.errors));
+    QVERIFY(!QFileInfo::exists(report));
+    // It would have more than 5,000 rows.
+    QVERIFY(readFile(record).count('\n') < 2000);
 }
 
 void TestTerminalSimulatorDriving::fieldsOnPlanesOfTheirOwnAreNotDrivenTogether()
