@@ -28,6 +28,6 @@ set(sample "${FOLDER}/moved/share/terminal-simulator/sample/sample-field.shp")
 run("/ha" "${simulator}" --language de --describe 100,100 "${sample}")
 
 run("" ${CMAKE_COMMAND} -S "${FOLDER}/moved/share/doc/rxmaphost-dev/examples/place-plugin" -B "${FOLDER}/plugin"
-    "-DCMAKE_PREFIX_PATH=${FOLDER}/moved")
+    -G Ninja "-DCMAKE_PREFIX_PATH=${FOLDER}/moved")
 run("" ${CMAKE_COMMAND} --build "${FOLDER}/plugin")
 run("12 m east, 34 m north" "${simulator}" --plugin-dir "${FOLDER}/plugin" --describe 12,34)

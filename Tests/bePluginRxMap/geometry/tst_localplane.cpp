@@ -150,6 +150,8 @@ void LocalPlaneTest::refusesWhatItCannotPlace_data()
     QTest::newRow("metres without a coordinate system")
         << 286571.0 << 4434961.0 << 100.0 << 0 << "names no coordinate system";
     QTest::newRow("metres called degrees") << 286571.0 << 4434961.0 << 100.0 << 4326 << "no longitudes and latitudes";
+    QTest::newRow("beyond the north pole") << 10.0 << 90.2 << 0.1 << 4326 << "no longitudes and latitudes";
+    QTest::newRow("beyond the south pole") << 10.0 << -90.2 << 0.3 << 4326 << "no longitudes and latitudes";
     QTest::newRow("half the globe") << -90.0 << -45.0 << 90.0 << 4326 << "extends over 10008 km; no field";
     QTest::newRow("half the globe, no coordinate system")
         << -90.0 << -45.0 << 90.0 << 0 << "extends over 10008 km; no field";

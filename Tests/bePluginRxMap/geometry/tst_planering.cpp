@@ -90,6 +90,8 @@ void PlaneRingTest::knowsSimpleRings_data()
     QTest::newRow("triangle") << PlaneRing{{0, 0}, {10, 0}, {10, 10}} << true;
     QTest::newRow("reflex") << PlaneRing{{0, 0}, {10, 0}, {5, 5}, {10, 10}, {0, 10}} << true;
     QTest::newRow("vertex within an edge") << PlaneRing{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}} << true;
+    QTest::newRow("vertex within an upright edge, south of 0")
+        << PlaneRing{{-20, -20}, {-10, -20}, {-10, -15}, {-10, -10}, {-20, -10}} << true;
     QTest::newRow("bow tie") << PlaneRing{{0, 0}, {10, 10}, {10, 0}, {0, 10}} << false;
     QTest::newRow("touches itself at a vertex")
         << PlaneRing{{0, 0}, {5, 5}, {10, 0}, {10, 10}, {5, 5}, {0, 10}} << false;

@@ -90,13 +90,18 @@ extern "C" void syslog(int priority, const char *format, ...)
     va_end(arguments);
 }
 
-// The name of the log in a build with checked library functions.
+// The names of the log in a build with checked library functions: g++ takes the first, clang the second.
 extern "C" void __syslog_chk(int priority, int /*flag*/, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
     enterLogLine(priority, format, arguments);
     va_end(arguments);
+}
+
+extern "C" void __vsyslog_chk(int priority, int /*flag*/, const char *format, va_list arguments)
+{
+    enterLogLine(priority, format, arguments);
 }
 
 /// How OpenGL errors that are pending are reported after each draw call.

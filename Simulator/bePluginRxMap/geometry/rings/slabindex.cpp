@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 
 namespace {
 
@@ -47,8 +48,7 @@ void SlabIndex::buildSlabs()
     };
     for (size_t i = 0; i < count; ++i)
         forEachSlab(i, [&starts](size_t slab) { ++starts[slab + 1]; });
-    for (size_t slab = 0; slab < slabCount; ++slab)
-        starts[slab + 1] += starts[slab];
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
     slabs->edges.resize(starts.back());
     std::vector<size_t> next(starts.begin(), starts.end() - 1);
     for (size_t i = 0; i < count; ++i)
