@@ -117,6 +117,8 @@ void FileOpening::replay(const QString &track)
         openWindow->refuse(tr("%1 is a track: open the prescription of its field first").arg(name));
         return;
     }
+    // A record that is being written would never end.
+    terminal->driving()->record()->endIfAt(track);
     const auto outcome = terminal->driving()->replay(track);
     if (!outcome.isOk()) {
         openWindow->refuse(outcome.error);

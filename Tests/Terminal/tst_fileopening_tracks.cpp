@@ -15,6 +15,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void aRecordedDriveIsReplayedByTouch();
+    void theRecordBeingWrittenEndsWhereItIsReplayed();
     void whereNothingIsRecordedItSaysHow();
     void aDroppedTrackFollowsItsMap();
     void whyATrackIsNotReplayedIsTold_data();
@@ -82,6 +83,20 @@ void TestFileOpeningTracks::aRecordedDriveIsReplayedByTouch()
     run(60.0);
     QVERIFY(vehicle().isOver());
     QVERIFY(QLineF(vehicle().position(), reached).length() < 0.01);
+}
+
+void TestFileOpeningTracks::theRecordBeingWrittenEndsWhereItIsReplayed()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    for (const char *name : {"drive", "driveStart", "driveRecord"})
+        button(name)->click();
+    run(10.0);
+    button("driveReplay")->click();
+    button("fileRow0")->click();
+    QCOMPARE(vehicle().mode(), Motion::Mode::Replay);
+    QTRY_VERIFY(!button("driveRecord")->isChecked());
+    run(20.0);
+    QVERIFY(vehicle().isOver());
 }
 
 void TestFileOpeningTracks::whereNothingIsRecordedItSaysHow()

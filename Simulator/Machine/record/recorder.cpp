@@ -11,6 +11,8 @@ Recorder::Recorder(Simulation *givenSimulation, QObject *parent)
     , simulation(givenSimulation)
 {
     connect(simulation, &Simulation::stepped, this, &Recorder::record);
+    connect(simulation->machine(), &Machine::mapsChanged, this, &Recorder::checkPlane);
+    connect(simulation->machine(), &Machine::activeProductChanged, this, &Recorder::checkPlane);
 }
 
 QString Recorder::start(const QString &path)
@@ -25,6 +27,7 @@ QString Recorder::start(const QString &path)
     if (!isSameFile)
         lost = stop();
     writer = opened.value;
+    origin = machine.planeOrigin();
     steps = 0;
     Q_EMIT switched();
     return lost;
@@ -69,8 +72,23 @@ void Recorder::record()
         return;
     writer->write(entryOf(*simulation));
     ++steps;
-    if (writer->error().isEmpty())
+    if (!writer->error().isEmpty())
+        tellEnd();
+}
+
+void Recorder::checkPlane()
+{
+    if (!isRecording() || !origin)
         return;
+    const std::optional<QPointF> present = simulation->machine()->planeOrigin();
+    if (!present || *present == *origin)
+        return;
+    writer->leaveField();
+    tellEnd();
+}
+
+void Recorder::tellEnd()
+{
     Q_EMIT switched();
     Q_EMIT failed(writer->error());
 }

@@ -36,8 +36,12 @@ Q_SIGNALS:
 
 private:
     void record();
+    /// Ends the record where the machine's places are no longer on the plane that it began on.
+    void checkPlane();
+    void tellEnd();
 
     Simulation *simulation;
     std::shared_ptr<RecordWriter> writer;
-    qint64 steps = 0; ///< In the record.
+    std::optional<QPointF> origin; ///< Of the plane that the record began on.
+    qint64 steps = 0;              ///< In the record.
 };

@@ -47,6 +47,14 @@ void RecordWriter::write(const RecordEntry &entry)
     take(keep());
 }
 
+void RecordWriter::leaveField()
+{
+    if (!isOpen)
+        return;
+    const QString lost = keep();
+    take(lost.isEmpty() ? tr("another field is open") : lost);
+}
+
 void RecordWriter::finish()
 {
     if (!isOpen)

@@ -28,6 +28,8 @@ public:
     void write(const RecordEntry &entry);
     /// Writes what is still held back; nothing can be written afterwards.
     void finish();
+    /// The same where the drive goes on in another field, whose places are not on this record's plane.
+    void leaveField();
     /// Why writing ended before its time, one line with the file's name; empty while all is well.
     QString error() const { return problem; }
 

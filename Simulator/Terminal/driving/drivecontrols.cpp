@@ -198,7 +198,7 @@ void DriveControls::takeHand()
     vehicle()->steer(0.0);
     // From now on the controls change the speed that the machine has.
     if (!wasByHand)
-        nextSpeed = vehicle()->wantedSpeed() > 0.0 ? vehicle()->wantedSpeed() : before;
+        nextSpeed = vehicle()->wantedSpeed() >= kilometreAnHour ? vehicle()->wantedSpeed() : before;
     Q_EMIT changed();
 }
 

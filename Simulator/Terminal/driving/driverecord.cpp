@@ -5,6 +5,7 @@
 #include "recorder.h"
 #include "regularfile.h"
 #include "simulation.h"
+#include "trackreader.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -49,6 +50,12 @@ void DriveRecord::setOn(bool isWanted)
     if (isWanted == isOn())
         return;
     isWanted ? start() : stop();
+}
+
+void DriveRecord::endIfAt(const QString &path)
+{
+    if (isOn() && QFileInfo(recorder->file()) == QFileInfo(path))
+        setOn(false);
 }
 
 QString DriveRecord::elapsed() const
@@ -105,7 +112,7 @@ void DriveRecord::stop()
 {
     const QString path = QFileInfo(recorder->file()).absoluteFilePath();
     const QString error = recorder->stop();
-    if (error.isEmpty())
+    if (error.isEmpty() && TrackReader::mayRead(path))
         Q_EMIT kept(path);
     Q_EMIT told(error.isEmpty() ? tr("The drive is recorded") : tr("The drive is not recorded to its end"),
                 error.isEmpty() ? path : error);

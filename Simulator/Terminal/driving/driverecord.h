@@ -23,13 +23,15 @@ public:
     bool isOn() const;
     /// Starts a record, or ends the one being written.
     void setOn(bool isWanted);
+    /// Ends the record if it is in this file, which is then whole.
+    void endIfAt(const QString &path);
     /// How much time the record holds, in minutes and seconds.
     QString elapsed() const;
 
 Q_SIGNALS:
     /// Something that this reports may have changed.
     void changed();
-    /// The record is complete.
+    /// The record is complete and can be replayed.
     void kept(const QString &path);
     /// What the operator should know: where the record is, or why there is none.
     void told(const QString &title, const QString &line);

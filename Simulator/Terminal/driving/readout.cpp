@@ -16,7 +16,7 @@ void Readout::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(Theme::colors().text);
-    constexpr int mostLines = 2;
+    const int mostLines = qMax(1, height() / fontMetrics().lineSpacing());
     painter.drawText(rect(), Qt::AlignCenter,
                      TextLines::of(text(), fontMetrics(), width(), mostLines).join(QLatin1Char('\n')));
 }

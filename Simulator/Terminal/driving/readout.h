@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-/// A figure with its unit in the middle of its place, on two lines where one is too short; units stay whole.
+/// A figure with its unit in the middle of its place, on as many lines as it needs and has room for; units stay whole.
 class Readout : public QLabel {
     Q_OBJECT
 

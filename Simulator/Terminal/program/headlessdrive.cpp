@@ -125,6 +125,9 @@ QString runDrive(Terminal &terminal, const CommandLine &line)
     const std::vector<FieldDrive::Curve> curves = line.tune
         ? FieldDrive(simulation, path.value).tune(printedProgress("tuning"))
         : std::vector<FieldDrive::Curve>();
+    problem = outputProblem();
+    if (!problem.isEmpty())
+        return problem;
     const QString files = line.prescriptions.join(QStringLiteral(", "));
     const QByteArray report = raster
         ? ReportPage::make({files, simulation, &tally, raster.get(), curves})

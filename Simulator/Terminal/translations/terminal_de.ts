@@ -1032,6 +1032,10 @@
         <source>there is no room left on the disk</source>
         <translation>auf dem Datenträger ist kein Platz mehr</translation>
     </message>
+    <message>
+        <source>another field is open</source>
+        <translation>ein anderes Feld ist geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

@@ -1032,6 +1032,10 @@
         <source>there is no room left on the disk</source>
         <translation>no queda espacio en el disco</translation>
     </message>
+    <message>
+        <source>another field is open</source>
+        <translation>está abierto otro campo</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

@@ -1032,6 +1032,10 @@
         <source>there is no room left on the disk</source>
         <translation>il n’y a plus de place sur le disque</translation>
     </message>
+    <message>
+        <source>another field is open</source>
+        <translation>une autre parcelle est ouverte</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

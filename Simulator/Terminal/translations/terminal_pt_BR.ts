@@ -1032,6 +1032,10 @@
         <source>there is no room left on the disk</source>
         <translation>não há mais espaço no disco</translation>
     </message>
+    <message>
+        <source>another field is open</source>
+        <translation>outro talhão está aberto</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

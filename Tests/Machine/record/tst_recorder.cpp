@@ -3,6 +3,7 @@
 #include "machinebench.h"
 #include "recorder.h"
 #include "smalldisk.h"
+#include "terminalhost.h"
 #include "testbase.h"
 #include "vehicle.h"
 
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void aRecordGoesOnWhereTheNextCannotBeWritten();
     void whatCannotBeWrittenIsToldInOneLine_data();
     void whatCannotBeWrittenIsToldInOneLine();
+    void anotherFieldEndsTheRecord_data();
+    void anotherFieldEndsTheRecord();
     void aFullDiskEndsTheRecordWithAWholeSecond_data();
     void aFullDiskEndsTheRecordWithAWholeSecond();
 
@@ -388,6 +391,35 @@ void TestRecorder::whatCannotBeWrittenIsToldInOneLine()
     QVERIFY2(error.startsWith(reason) && error.size() > path.size() + 2, qPrintable(error));
     QVERIFY(!error.contains(QLatin1Char('\n')));
     QVERIFY(!recorder.isRecording());
+}
+
+void TestRecorder::anotherFieldEndsTheRecord_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("table") << "a.csv";
+    QTest::newRow("package") << "a.gpkg";
+}
+
+void TestRecorder::anotherFieldEndsTheRecord()
+{
+    QFETCH(QString, name);
+    MachineBench bench;
+    QVERIFY(bench.loadZones({{-100, 100, 50}}).isOk());
+    Recorder recorder(&bench.simulation);
+    QSignalSpy failures(&recorder, &Recorder::failed);
+    const QString path = folder->filePath(name);
+    QCOMPARE(recorder.start(path), QString());
+    bench.simulation.run(1.55);
+    // The same field once more.
+    QVERIFY(bench.loadZones({{-100, 100, 60}}).isOk());
+    bench.simulation.run(1.0);
+    QCOMPARE(failures.size(), 0);
+    QVERIFY(bench.load(TerminalHost::sampleField(), {QStringLiteral("SEED_KS_HA")}).isOk());
+    QCOMPARE(failures.size(), 1);
+    QVERIFY(!recorder.isRecording());
+    bench.simulation.run(1.0);
+    QCOMPARE(recorder.stop(), path + QStringLiteral(": the record ends early: another field is open"));
+    QCOMPARE(stepsIn(path), 25);
 }
 
 void TestRecorder::aFullDiskEndsTheRecordWithAWholeSecond_data()

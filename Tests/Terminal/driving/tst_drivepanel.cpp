@@ -260,6 +260,11 @@ void TestDrivePanel::textsFitInEveryLanguage()
     QTranslator translator;
     QVERIFY(translator.load(buildPath("Simulator/Terminal/terminal_%1.qm").arg(language)));
     QVERIFY(QCoreApplication::installTranslator(&translator));
+    QVERIFY(bench->backend.unload(bench->backend.maps().first().group));
+    controls->start();
+    makePanel();
+    QVERIFY(!controls->message().isEmpty());
+    QCOMPARE(paintedTexts(*find<QLabel>("driveMessage")).join(QLatin1Char(' ')), controls->message());
     controls->takeHand();
     makePanel();
     QTRY_VERIFY(panel->wheel()->isVisible());
