@@ -89,6 +89,8 @@ void Recorder::checkPlane()
 
 void Recorder::tellEnd()
 {
+    // Listeners may start another record.
+    const QString reason = writer->error();
     Q_EMIT switched();
-    Q_EMIT failed(writer->error());
+    Q_EMIT failed(reason);
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatCannotBeWrittenIsToldInOneLine();
     void anotherFieldEndsTheRecord_data();
     void anotherFieldEndsTheRecord();
+    void whoIsToldOfTheEndMayForgetTheRecord();
     void aFullDiskEndsTheRecordWithAWholeSecond_data();
     void aFullDiskEndsTheRecordWithAWholeSecond();
 
@@ -175,6 +176,18 @@ void TestRecorderEnds::anotherFieldEndsTheRecord()
     bench.simulation.run(1.0);
     QCOMPARE(recorder.stop(), path + QStringLiteral(": the record ends early: another field is open"));
     QCOMPARE(stepsIn(path), 25);
+}
+
+void TestRecorderEnds::whoIsToldOfTheEndMayForgetTheRecord()
+{
+    MachineBench bench;
+    QVERIFY(bench.loadZones({{-100, 100, 50}}).isOk());
+    Recorder recorder(&bench.simulation);
+    QSignalSpy failures(&recorder, &Recorder::failed);
+    QCOMPARE(recorder.start(folder->filePath(QStringLiteral("a.csv"))), QString());
+    connect(&recorder, &Recorder::switched, &recorder, &Recorder::stop);
+    QVERIFY(bench.load(TerminalHost::sampleField(), {QStringLiteral("SEED_KS_HA")}).isOk());
+    QCOMPARE(failures.size(), 1);
 }
 
 void TestRecorderEnds::aFullDiskEndsTheRecordWithAWholeSecond_data()
