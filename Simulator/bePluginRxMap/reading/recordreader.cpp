@@ -25,6 +25,18 @@ bool isRate(double value)
     return std::isfinite(value) && value >= 0.0;
 }
 
+bool hasValue(const OGRField &entry)
+{
+    return OGR_RawField_IsUnset(&entry) == 0 && OGR_RawField_IsNull(&entry) == 0;
+}
+
+/// The number in an entry of a column that is not text. Reals are taken from where they lie: GDAL's conversion asks for
+/// the column's type each time.
+double readNumber(const OGRFeature &feature, const SourceColumn &column)
+{
+    return column.isInteger ? feature.GetFieldAsDouble(column.field) : feature.GetRawFieldRef(column.field)->Real;
+}
+
 /// The number in a text; NaN, and counted, if its unit differs from that of those before.
 double readText(const OGRFeature &feature, int record, SourceColumn &column)
 {
@@ -174,8 +186,8 @@ void RecordReader::readValues(const OGRFeature &feature, RawPrescription &map)
 {
     for (SourceColumn &column : map.columns) {
         double value = notANumber;
-        if (feature.IsFieldSetAndNotNull(column.field)) {
-            value = column.isText ? readText(feature, map.records, column) : feature.GetFieldAsDouble(column.field);
+        if (hasValue(*feature.GetRawFieldRef(column.field))) {
+            value = column.isText ? readText(feature, map.records, column) : readNumber(feature, column);
             if (!isRate(value) && !(column.isText && std::isnan(value)))
                 column.unreadable.push_back(map.records);
         }

@@ -63,14 +63,8 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
     const int holes = polygon.getNumInteriorRings();
     for (int i = -1; i < holes; ++i) {
         const OGRLinearRing *ring = i < 0 ? polygon.getExteriorRing() : polygon.getInteriorRing(i);
-        const auto count = static_cast<size_t>(ring == nullptr ? 0 : ring->getNumPoints());
         const size_t first = map.xs.size();
-        map.xs.resize(first + count);
-        map.ys.resize(first + count);
-        if (count > 0)
-            ring->getPoints(&map.xs[first], sizeof(double), &map.ys[first], sizeof(double));
-        dropClosingVertex(first);
-        const bool isRingFinite = isFinite(first);
+        const bool isRingFinite = ring == nullptr || appendVertices(*ring);
         isRecordFinite = isRecordFinite && isRingFinite;
         if (isRingFinite && !enclosesSomething(first)) {
             map.xs.resize(first);
@@ -84,22 +78,21 @@ void ShapeReader::appendPolygon(const OGRPolygon &polygon)
     }
 }
 
-void ShapeReader::dropClosingVertex(size_t first)
+bool ShapeReader::appendVertices(const OGRLinearRing &ring)
 {
-    const size_t count = map.xs.size() - first;
-    if (count < 2 || map.xs.back() != map.xs[first] || map.ys.back() != map.ys[first])
-        return;
-    map.xs.pop_back();
-    map.ys.pop_back();
-}
-
-bool ShapeReader::isFinite(size_t first) const
-{
-    for (size_t i = first; i < map.xs.size(); ++i) {
-        if (!std::isfinite(map.xs[i]) || !std::isfinite(map.ys[i]))
-            return false;
+    int count = ring.getNumPoints();
+    if (count > 1 && ring.getX(0) == ring.getX(count - 1) && ring.getY(0) == ring.getY(count - 1))
+        --count;
+    const size_t first = map.xs.size();
+    map.xs.resize(first + static_cast<size_t>(count));
+    map.ys.resize(first + static_cast<size_t>(count));
+    bool isFinite = true;
+    for (int i = 0; i < count; ++i) {
+        const double x = map.xs[first + static_cast<size_t>(i)] = ring.getX(i);
+        const double y = map.ys[first + static_cast<size_t>(i)] = ring.getY(i);
+        isFinite = isFinite && std::isfinite(x) && std::isfinite(y);
     }
-    return true;
+    return isFinite;
 }
 
 bool ShapeReader::enclosesSomething(size_t first) const

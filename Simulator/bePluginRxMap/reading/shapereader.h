@@ -4,6 +4,7 @@
 
 struct RawPrescription;
 class OGRGeometry;
+class OGRLinearRing;
 class OGRPolygon;
 
 /// Appends the rings of one record after another to a map. Curves are straightened, heights and measures dropped.
@@ -20,10 +21,8 @@ private:
     /// False when the geometry holds no areas, but points or lines.
     bool appendGeometry(const OGRGeometry &geometry);
     void appendPolygon(const OGRPolygon &polygon);
-    /// Drops it from the ring whose vertices begin at `first`.
-    void dropClosingVertex(size_t first);
-    /// Whether the vertices from `first` on are finite.
-    bool isFinite(size_t first) const;
+    /// Appends the ring's vertices but the closing one; whether they are finite.
+    bool appendVertices(const OGRLinearRing &ring);
     /// Whether the vertices from `first` on hold at least three different places.
     bool enclosesSomething(size_t first) const;
 

@@ -24,9 +24,12 @@ std::vector<double> recordAreas(const RawPrescription &source, const std::vector
     return areas;
 }
 
+/// The same for columns of equal values. Goes by the first ones only, which differ where columns do but for rare ones.
 uint contentHash(const SourceColumn &column)
 {
-    return qHashRange(column.values.begin(), column.values.end());
+    constexpr size_t most = 64;
+    const auto count = static_cast<std::ptrdiff_t>(std::min(most, column.values.size()));
+    return qHashRange(column.values.begin(), column.values.begin() + count);
 }
 
 /// Whether the column's format or name says that it holds no rates.
