@@ -41,6 +41,12 @@ const MachineProduct *OpenSelection::fed(int index) const
 
 void OpenSelection::setProduct(int index, int number)
 {
+    feed(index, number);
+    dropUnfitUnits();
+}
+
+void OpenSelection::feed(int index, int number)
+{
     for (Entry &entry : entries) {
         if (number > 0 && entry.product == number)
             entry.product = 0;
@@ -49,9 +55,15 @@ void OpenSelection::setProduct(int index, int number)
     entry.product = number;
     entry.isProductChosen = true;
     products = makeProducts(made());
-    const MachineProduct *product = fed(index);
-    if (product != nullptr && RateUnits::factor(entry.unit, product->kind) == 0.0)
-        entry.unit.clear();
+}
+
+void OpenSelection::dropUnfitUnits()
+{
+    for (int index = 0; index < size(); ++index) {
+        const MachineProduct *product = fed(index);
+        if (product != nullptr && RateUnits::factor(entries.at(index).unit, product->kind) == 0.0)
+            entries[index].unit.clear();
+    }
 }
 
 QString OpenSelection::unit(int index) const
@@ -211,6 +223,8 @@ void OpenSelection::apply(const FileChoices &choices)
         setUnit(index, choice.unit);
         const int number = stillThere(choice);
         if (choice.isProductChosen && (choice.product == 0 || number > 0))
-            setProduct(index, number);
+            feed(index, number);
     }
+    // Not before: until all have their place, a product may be of another kind.
+    dropUnfitUnits();
 }

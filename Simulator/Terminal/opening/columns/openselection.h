@@ -75,6 +75,10 @@ private:
     bool isFed(int number) const;
     /// Whether the column that made the product feeds another one.
     bool isNameMoved(int number) const;
+    /// As setProduct(), but units stay as they are.
+    void feed(int index, int number);
+    /// Forgets units that were chosen for a product of another kind.
+    void dropUnfitUnits();
     /// The products that the columns make as they are chosen.
     QList<ColumnProduct> made() const;
 

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void aUnitThatDoesNotFitIsSaidToBeSo_data();
     void aUnitThatDoesNotFitIsSaidToBeSo();
     void aChosenUnitGoesWithTheProductItIsNoUnitOf();
+    void aChosenUnitGoesWhenAnotherColumnLeavesAProductOfAnotherKind();
+    void unitsOfColumnsThatChangedPlacesAreTakenAgain();
     void formerChoicesAreTaken();
     void onlyWhatTheOperatorTouchedIsKept();
     void whatTheProgramChoseOnceDoesNotStayChosen();
@@ -27,11 +29,16 @@ private:
     OpenSelection selection;
     SurveyReport survey;
     QList<MachineProduct> products;
-    /// The products, under the names that columns give them.
+    /// Offers a column of weights that names no product and one of volumes that names product 2.
+    void surveyWeightsAndVolumes();
+
+    /// The products, with the names and kinds that columns give them.
     const OpenSelection::ProductMaker maker = [this](const QList<ColumnProduct> &made) {
         QList<MachineProduct> all = products;
-        for (const ColumnProduct &product : made)
+        for (const ColumnProduct &product : made) {
             all[product.number - 1].name = product.name;
+            all[product.number - 1].kind = product.kind;
+        }
         return all;
     };
 };
@@ -131,6 +138,41 @@ void TestOpenSelection::aChosenUnitGoesWithTheProductItIsNoUnitOf()
     selection.setUnit(0, QStringLiteral("t/ha"));
     selection.setProduct(0, 3);
     QVERIFY(!selection.isUnitChosen(0));
+}
+
+void TestOpenSelection::surveyWeightsAndVolumes()
+{
+    survey.columns[0].made = {survey.columns[0].name, DbGroupProductGroupInfo::WeightRate, 1};
+    survey.columns[0].made.isNamed = false;
+    survey.columns[1].made = {survey.columns[1].name, DbGroupProductGroupInfo::VolumeRate, 2};
+    for (SurveyedColumn &column : survey.columns) {
+        column.product = column.made.number;
+        survey.columnProducts.append(column.made);
+    }
+    selection = OpenSelection(survey, maker);
+}
+
+void TestOpenSelection::aChosenUnitGoesWhenAnotherColumnLeavesAProductOfAnotherKind()
+{
+    surveyWeightsAndVolumes();
+    selection.setProduct(0, 2);
+    selection.setUnit(0, QStringLiteral("gal/ac"));
+    QCOMPARE(selection.fedProducts().at(1).kind, DbGroupProductGroupInfo::VolumeRate);
+    selection.setProduct(1, 1); // The product takes its kind along.
+    QCOMPARE(selection.fedProducts().at(1).kind, DbGroupProductGroupInfo::WeightRate);
+    QCOMPARE(selection.request().units, QStringList({"", ""}));
+}
+
+void TestOpenSelection::unitsOfColumnsThatChangedPlacesAreTakenAgain()
+{
+    surveyWeightsAndVolumes();
+    selection.setProduct(0, 2);
+    selection.setProduct(1, 1);
+    selection.setUnit(0, QStringLiteral("t/ha"));
+    selection.setUnit(1, QStringLiteral("gal/ac"));
+    OpenSelection again(survey, maker);
+    again.apply(selection.choices());
+    QCOMPARE(again.request().units, QStringList({"gal/ac", "t/ha"}));
 }
 
 void TestOpenSelection::formerChoicesAreTaken()
