@@ -6,11 +6,11 @@
 #include "fileopening.h"
 #include "findingsdisplay.h"
 #include "guidancepage.h"
-#include "hintcard.h"
 #include "hints.h"
 #include "machine.h"
 #include "mapdisplay.h"
 #include "mapoverlay.h"
+#include "notices.h"
 #include "openwindow.h"
 #include "operatorsettings.h"
 #include "pluginscanner.h"
@@ -188,17 +188,16 @@ void Terminal::showDriving()
 {
     driveDisplay.reset(new DriveDisplay(display.data(), simulated.data(), driveRecorder.data()));
     opening->attend(driveDisplay.data());
-    notice = new HintCard(QStringLiteral("noticeCard"), QStringLiteral("noticeClose"), display.data());
+    notices.reset(new Notices(display.data()));
     connect(driveDisplay->record(), &DriveRecord::told, this, &Terminal::tell);
     // What was told is over when the operator goes on.
-    connect(driveRecorder.data(), &Recorder::switched, notice, &HintCard::leave);
-    connect(opening->window(), &OpenWindow::shownChanged, notice, &HintCard::leave);
+    connect(driveRecorder.data(), &Recorder::switched, notices.data(), &Notices::leave);
+    connect(opening->window(), &OpenWindow::shownChanged, notices.data(), &Notices::setCovered);
 }
 
 void Terminal::tell(const QString &title, const QString &line)
 {
-    // The scale lies at the lower border.
-    notice->tell(title, {line}, display->freeArea().adjusted(0, 0, 0, -Theme::touchTarget));
+    notices->tell(title, line);
 }
 
 OperatorSettings *Terminal::remembered() const

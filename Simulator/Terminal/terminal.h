@@ -25,10 +25,10 @@
 class DriveDisplay;
 class FileOpening;
 class FindingsDisplay;
-class HintCard;
 class Hints;
 class Machine;
 class MapDisplay;
+class Notices;
 class OpenWindow;
 class OperatorSettings;
 class ProductAdoption;
@@ -72,7 +72,8 @@ public:
     OpenWindow *openWindow() const;
     OperatorSettings *remembered() const;
 
-    /// Shows a line to the operator, until it is taken away or the next one comes. Call after show().
+    /// Shows a line to the operator, until it is taken away or the next one comes; while the open window is shown, it
+    /// waits. Call after show().
     void tell(const QString &title, const QString &line);
     /// Tells a new operator how the terminal is used; what was told once is not repeated.
     void greet();
@@ -132,7 +133,7 @@ private:
     QScopedPointer<FindingsDisplay> findings;
     QScopedPointer<MapDisplay> mapDisplay;
     QScopedPointer<Hints> hints;
-    HintCard *notice = nullptr; ///< Owned by the display.
+    QScopedPointer<Notices> notices; ///< Null until the display is shown.
     QList<UiPluginInterface *> plugins;
     QList<QPointer<UiGraphicsList>> graphicsLists;
 };

@@ -1,3 +1,4 @@
+#include "fieldview.h"
 #include "fileopeningtest.h"
 #include "paintedtexts.h"
 #include "simulation.h"
@@ -18,13 +19,16 @@ private Q_SLOTS:
     void theRecordBeingWrittenEndsWhereItIsReplayed();
     void whereNothingIsRecordedItSaysHow();
     void aDroppedTrackFollowsItsMap();
+    void whatATrackLacksIsToldWhenTheOpenWindowIsGone();
+    void aNoticeTakesThePlaceOfTheGreeting();
     void whyATrackIsNotReplayedIsTold_data();
     void whyATrackIsNotReplayedIsTold();
 
 private:
     void run(double seconds) { terminal().simulation()->run(seconds); }
     QString write(const QByteArray &track);
-    QWidget *notice() { return terminal().window()->findChild<QWidget *>(QStringLiteral("noticeCard")); }
+    QWidget *card(const char *name) { return terminal().window()->findChild<QWidget *>(QLatin1String(name)); }
+    QWidget *notice() { return card("noticeCard"); }
     QString noticeText() { return notice()->accessibleName() + QLatin1Char('|') + notice()->accessibleDescription(); }
     Vehicle &vehicle() { return *terminal().vehicle(); }
 
@@ -122,6 +126,37 @@ void TestFileOpeningTracks::aDroppedTrackFollowsItsMap()
              qPrintable(noticeText()));
     button("noticeClose")->click();
     QVERIFY(!notice()->isVisible());
+}
+
+void TestFileOpeningTracks::whatATrackLacksIsToldWhenTheOpenWindowIsGone()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    const QString track = write("time,x,y\n0,0,0\nnothing\n9,9,0\n");
+    Q_EMIT terminal().window()->dropped({track, TerminalHost::fixture(QStringLiteral("three-zones.geojson"))}, {});
+    QVERIFY(terminal().openWindow()->isVisible());
+    QVERIFY(!notice()->isVisible());
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    button("openAccept")->click();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    QVERIFY(notice()->isVisible());
+    QVERIFY2(noticeText().contains(QStringLiteral("track.csv left out: 1")), qPrintable(noticeText()));
+    button("noticeClose")->click();
+    // What was read does not come again.
+    button("openButton")->click();
+    button("openButton")->click();
+    QVERIFY(!notice()->isVisible());
+}
+
+void TestFileOpeningTracks::aNoticeTakesThePlaceOfTheGreeting()
+{
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    terminal().greet();
+    QVERIFY(card("hintCard")->isVisible());
+    Q_EMIT terminal().window()->dropped({write("time,x,y\n0,0,0\nnothing\n9,9,0\n")}, {});
+    QVERIFY(notice()->isVisible());
+    QVERIFY(!card("hintCard")->isVisible());
+    QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Escape);
+    QCOMPARE(terminal().window()->focusWidget(), terminal().window()->fieldView());
 }
 
 void TestFileOpeningTracks::whyATrackIsNotReplayedIsTold_data()

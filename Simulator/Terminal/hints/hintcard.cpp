@@ -46,6 +46,11 @@ HintCard::HintCard(const QString &name, const QString &buttonName, QWidget *pare
 
 void HintCard::tell(const QString &title, const QStringList &lines, const QRect &area)
 {
+    const auto cards = parentWidget()->findChildren<HintCard *>(QString(), Qt::FindDirectChildrenOnly);
+    for (HintCard *card : cards) {
+        if (card != this)
+            card->leave();
+    }
     heading->setText(TextLines::breakable(title));
     const QString bullet = lines.size() > 1 ? QStringLiteral("\u2022 ") : QString();
     QStringList shown;

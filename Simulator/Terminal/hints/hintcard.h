@@ -7,8 +7,8 @@
 class QLabel;
 class TouchButton;
 
-/// A card over the map with a text, shown until its button is touched or Escape is pressed. The map beside it stays in
-/// use.
+/// A card over the map with a text, shown until its button is touched, Escape is pressed or another card takes its
+/// place. The map beside it stays in use.
 class HintCard : public QWidget {
     Q_OBJECT
 
