@@ -214,7 +214,10 @@ int DataBroker::removeGroup(const QString &name)
         group->d->isRemoved = true;
         d->entries[d->latestPlace.value(name)].isRemoved = true;
     }
+    // A listener may delete the broker.
+    const QPointer<DataBroker> living(this);
     Q_EMIT group->removed(group);
-    Q_EMIT groupRemoved(name);
+    if (living)
+        Q_EMIT groupRemoved(name);
     return DataBrokerGroup::Success;
 }

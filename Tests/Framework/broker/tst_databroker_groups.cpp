@@ -30,6 +30,8 @@ private Q_SLOTS:
     void removalIsAnnouncedOnceAfterTheGroupKnows();
     void removingAnUnknownGroupIsAnError();
     void aGroupDeletedByItsCreatorIsForgotten();
+    void aListenerMayDeleteTheBroker_data();
+    void aListenerMayDeleteTheBroker();
     void publishingAndSearchingRunFromManyThreads();
 };
 
@@ -236,6 +238,39 @@ void TestDataBrokerGroups::aGroupDeletedByItsCreatorIsForgotten()
     QCOMPARE(broker.setProperty("rxMap.a", "level", 1), int(DataBrokerGroup::ErrUnknownGroup));
     QCOMPARE(broker.removeGroup(QStringLiteral("rxMap.a")), int(DataBrokerGroup::ErrUnknownGroup));
     QCOMPARE(broker.publishGroup(new SampleGroup(QStringLiteral("rxMap.a"))), int(DataBrokerGroup::Success));
+}
+
+void TestDataBrokerGroups::aListenerMayDeleteTheBroker_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::newRow("publication") << 0;
+    QTest::newRow("write") << 1;
+    QTest::newRow("removal, told by the group") << 2;
+    QTest::newRow("removal, told by the broker") << 3;
+}
+
+void TestDataBrokerGroups::aListenerMayDeleteTheBroker()
+{
+    QFETCH(int, place);
+    const QPointer<DataBroker> broker = new DataBroker;
+    const QPointer<SampleGroup> group = new SampleGroup(QStringLiteral("rxMap.a"));
+    int heard = 0;
+    const auto hear = [&] {
+        if (heard++ == place)
+            delete broker;
+    };
+    connect(broker.data(), &DataBroker::groupPublished, this, hear);
+    connect(group.data(), &SampleGroup::levelChanged, this, hear);
+    connect(group.data(), &DataBrokerGroup::removed, this, hear);
+    connect(broker.data(), &DataBroker::groupRemoved, this, hear);
+    broker->publishGroup(group);
+    if (broker)
+        broker->setProperty("rxMap.a", "level", 1);
+    if (broker)
+        broker->removeGroup(QStringLiteral("rxMap.a"));
+    QCOMPARE(heard, place + 1);
+    QVERIFY(broker.isNull());
+    QVERIFY(group.isNull());
 }
 
 void TestDataBrokerGroups::publishingAndSearchingRunFromManyThreads()
