@@ -163,6 +163,8 @@ void PrescriptionBackendPrivate::finishCurrent(std::unique_ptr<LoadedMap> map)
     if (isChange)
         remarkPlane(*map, job->request.replacedGroups);
     const LoadReport report = isChange ? publish(std::move(map)) : map->report;
+    if (!backend)
+        return;
     jobs.pop_front();
     startNext();
     if (isChange)
@@ -212,18 +214,27 @@ LoadReport PrescriptionBackendPrivate::publish(std::unique_ptr<LoadedMap> map)
         entries.erase(known);
     } else {
         entry.file = file;
-        entry.map = std::make_unique<PublishedMap>(broker, freeGroupName(file));
+        entry.map = std::make_shared<PublishedMap>(broker, freeGroupName(file));
     }
+    // Who reads the groups may delete the back-end; the entry then goes with this call.
+    const QPointer<PrescriptionBackend> backend = q;
     shareOut(channels);
+    if (!backend)
+        return {};
     map->report.group = entry.map->groupName();
     LoadReport report = map->report;
     checker.drop(report.group);
-    if (!entry.map->publish(std::move(map), channels, settings)) {
-        shareOut({});
+    const bool isPublished = entry.map->publish(std::move(map), channels, settings);
+    if (!backend)
+        return {};
+    if (isPublished)
+        entries.push_back(std::move(entry));
+    // Gives products back that could not be taken, or that a listener's unloading gave to another map.
+    shareOut({});
+    if (!isPublished)
         return refuse(report.path, BackendText::tr("the group name \"%1\" is taken").arg(report.group));
-    }
-    entries.push_back(std::move(entry));
-    useDefaultRates(report);
+    if (backend)
+        useDefaultRates(report);
     return report;
 }
 
@@ -246,9 +257,10 @@ void PrescriptionBackendPrivate::remarkPlane(LoadedMap &map, const QStringList &
 
 void PrescriptionBackendPrivate::useDefaultRates(const LoadReport &report)
 {
+    const QPointer<PrescriptionBackend> backend = q;
     for (const RateSource &source : report.sources) {
         const double rate = source.placeRates.defaultRate();
-        if (std::isnan(rate))
+        if (!backend || std::isnan(rate))
             continue;
         RxMapLoader *fed = loader(source.product - 1);
         fed->defaultRate = rate;
@@ -273,8 +285,11 @@ QStringList PrescriptionBackendPrivate::channelsLeft(size_t place, const QString
 
 void PrescriptionBackendPrivate::shareOut(const QStringList &newest)
 {
-    for (size_t i = 0; i < entries.size(); ++i)
-        entries[i].map->feed(channelsLeft(i, newest));
+    const QPointer<PrescriptionBackend> backend = q;
+    for (size_t i = 0; backend && i < entries.size(); ++i) {
+        const std::shared_ptr<PublishedMap> map = entries[i].map;
+        map->feed(channelsLeft(i, newest));
+    }
 }
 
 void PrescriptionBackendPrivate::check(const QString &group, double machineWidth)
@@ -305,14 +320,18 @@ bool PrescriptionBackendPrivate::unload(const QString &group)
                                     [&group](const Entry &entry) { return entry.map->groupName() == group; });
     if (found == entries.end())
         return false;
-    std::unique_ptr<PublishedMap> gone = std::move(found->map);
+    std::shared_ptr<PublishedMap> gone = std::move(found->map);
     entries.erase(found);
     const QPointer<DataBrokerGroup> retired = broker->getGroup(group, false);
     // The group goes first, so that no product is ever fed by two maps.
+    const QPointer<PrescriptionBackend> backend = q;
     gone.reset();
-    retire(retired);
-    shareOut({});
-    Q_EMIT q->mapsChanged();
+    if (backend)
+        retire(retired);
+    if (backend)
+        shareOut({});
+    if (backend)
+        Q_EMIT backend->mapsChanged();
     return true;
 }
 

@@ -43,7 +43,7 @@ private:
     /// A published map and the file that it came from.
     struct Entry {
         QString file;
-        std::unique_ptr<PublishedMap> map;
+        std::shared_ptr<PublishedMap> map; ///< Shared with the call that changes it, whose listeners may unload it.
     };
 
     void enqueue(const std::shared_ptr<LoadJob> &job);

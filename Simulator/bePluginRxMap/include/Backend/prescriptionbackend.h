@@ -19,12 +19,12 @@ class RxMapLoader;
 /// Loads prescription files and keeps them published. Loading runs off the user-interface thread; everything is
 /// published on it. A file that is loaded again replaces its own group's content; one that cannot be loaded changes
 /// nothing. A product follows one map at a time: the map loaded last takes the product over, and when it is unloaded,
-/// the map that had the product before gets it back.
+/// the map that had the product before gets it back. Whoever is told of this may unload maps, or delete the back-end.
 class BEPLUGINRXMAP_EXPORT PrescriptionBackend : public QObject {
     Q_OBJECT
 
 public:
-    /// `broker` is not owned and outlives the back-end.
+    /// `broker` is not owned and outlives the back-end and every call of it.
     explicit PrescriptionBackend(DataBroker *broker, QObject *parent = nullptr);
     /// Cancels what is loading and unloads every map.
     ~PrescriptionBackend() override;
