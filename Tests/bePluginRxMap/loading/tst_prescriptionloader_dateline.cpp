@@ -39,6 +39,7 @@ private Q_SLOTS:
     void findsNothingWhereTheDateLineCutsAField();
     void sharesAPlaneAcrossTheDateLine();
     void leavesLostPositionsOutBesideTheDateLine();
+    void leavesOutWhatEnclosesOnlyTheDateLine();
 
 private:
     /// The rate at that place.
@@ -191,6 +192,17 @@ void PrescriptionLoaderDateLineTest::leavesLostPositionsOutBesideTheDateLine()
     compareWithTwoCells(*map);
     QCOMPARE(map->report.findings.size(), 1);
     QCOMPARE(map->report.findings.first().records, (QList<int>{1, 2}));
+}
+
+void PrescriptionLoaderDateLineTest::leavesOutWhatEnclosesOnlyTheDateLine()
+{
+    const QString sliver = QStringLiteral("POLYGON ((180 -16.5, -180 -16.5, -180 -16.499, 180 -16.499, 180 -16.5))");
+    const auto map =
+        load(writeMap("a.gpkg", "GPKG", 4326, {{cell(179.999), {1.0}}, {sliver, {9.0}}, {cell(-180.0), {2.0}}}));
+    compareWithTwoCells(*map);
+    QCOMPARE(map->report.findings.size(), 1);
+    QCOMPARE(map->report.findings.first().records, QList<int>{1});
+    QCOMPARE(map->report.findings.first().kind, MapFinding::Kind::Skipped);
 }
 
 RXMAP_TEST(PrescriptionLoaderDateLineTest, Core)

@@ -42,21 +42,13 @@ void move(RawPrescription &map, const SourceRing &ring, double by)
         map.xs[i] += by;
 }
 
-/// Whether nothing but the date line is left of a ring without its jump: one right around the earth.
-bool isAroundTheEarth(const RawPrescription &map, const SourceRing &ring)
-{
-    const auto begin = map.xs.begin() + static_cast<std::ptrdiff_t>(ring.first);
-    return std::all_of(begin, begin + static_cast<std::ptrdiff_t>(ring.count),
-                       [](double longitude) { return std::fabs(longitude) == halfTurn; });
-}
-
 /// Removes the jump within a ring. Nothing for a ring whose coordinates are not longitudes.
 std::optional<Range> joinRing(RawPrescription &map, const SourceRing &ring)
 {
     const Range range = rangeOf(map.xs, ring.first, ring.count);
     if (range.min < -farthest || range.max > farthest)
         return std::nullopt;
-    if (range.max - range.min <= halfTurn || isAroundTheEarth(map, ring))
+    if (range.max - range.min <= halfTurn)
         return range;
     for (size_t i = ring.first; i < ring.first + ring.count; ++i)
         map.xs[i] += map.xs[i] < 0.0 ? fullTurn : 0.0;
