@@ -18,6 +18,7 @@ private Q_SLOTS:
     void itIsANewFileNamedAfterFieldAndMoment();
     void whereItIsIsToldInTheEnd();
     void aScriptsRecordCounts();
+    void onlyWhatCanBeReplayedIsKept();
     void whyThereIsNoneIsTold_data();
     void whyThereIsNoneIsTold();
     void aFullDiskIsTold_data();
@@ -114,6 +115,18 @@ void TestDriveRecord::aScriptsRecordCounts()
     // A record begins at nothing.
     record->setOn(true);
     QCOMPARE(record->elapsed(), QStringLiteral("0:00"));
+}
+
+void TestDriveRecord::onlyWhatCanBeReplayedIsKept()
+{
+    QSignalSpy kept(record.data(), &DriveRecord::kept);
+    for (const char *name : {"own.gpkg", "own.csv"}) {
+        QCOMPARE(recorder->start(folder->filePath(QLatin1String(name))), QString());
+        bench->simulation.run(2.0);
+        record->setOn(false);
+    }
+    QCOMPARE(told.size(), 2);
+    QCOMPARE(kept, QList<QVariantList>{{folder->filePath(QStringLiteral("own.csv"))}});
 }
 
 void TestDriveRecord::whyThereIsNoneIsTold_data()

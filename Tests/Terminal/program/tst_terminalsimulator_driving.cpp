@@ -17,6 +17,7 @@ private Q_SLOTS:
     void whatCannotBeDrivenEndsWithOneLine_data();
     void whatCannotBeDrivenEndsWithOneLine();
     void aDriveWhoseOutputIsLostEndsAtOnce();
+    void halfATuningIsNotReported();
     void fieldsOnPlanesOfTheirOwnAreNotDrivenTogether();
 };
 
@@ -119,6 +120,22 @@ void TestTerminalSimulatorDriving::aDriveWhoseOutputIsLostEndsAtOnce()
     QVERIFY(!QFileInfo::exists(report));
     // It would have more than 5,000 rows.
     QVERIFY(readFile(record).count('\n') < 2000);
+}
+
+void TestTerminalSimulatorDriving::halfATuningIsNotReported()
+{
+    // Narrow, so that the output is lost long before the first drive of the tuning is over.
+    const QString machine = write(R"({"width": 3, "products": [{"name": "A", "kind": "count"}]})", "narrow.json");
+    const QString report = folder.filePath(QStringLiteral("half.json"));
+    const QString record = folder.filePath(QStringLiteral("whole.csv"));
+    const Outcome outcome = runInShell(
+        QStringLiteral("export ASAN_OPTIONS=detect_leaks=0; trap '' PIPE; "
+                       "{ \"$@\"; echo $? >&2; } | sed '/record written/q'"),
+        {"--tune", "--drive", report, "--record", record, "--products", machine, "--columns", "SEED_K_HA", zones()});
+    QVERIFY2(outcome.output.endsWith(record + ": record written\n"), qPrintable(outcome.output));
+    QVERIFY2(outcome.errors.endsWith(QLatin1String("standard output cannot be written\n1\n")),
+             qPrintable(outcome.errors));
+    QVERIFY(!QFileInfo::exists(report));
 }
 
 void TestTerminalSimulatorDriving::fieldsOnPlanesOfTheirOwnAreNotDrivenTogether()
