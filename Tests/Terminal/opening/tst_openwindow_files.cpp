@@ -1,4 +1,5 @@
 #include "filepage.h"
+#include "files.h"
 #include "openwindowtest.h"
 #include "paintedtexts.h"
 #include "removablevolumes.h"
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void openedFilesAreRecentAndGoneOnesCannotBeTouched();
     void foldersAreEntered();
     void theFolderUsedLastIsShownFirst();
+    void aTrackLeavesTheFolderOfThePrescriptions();
     void aListIsLeftAndFoundAgainOnTheSamePage();
     void theSampleIsAPlaceWhereItIsThere();
     void volumesArePlacesWhileTheyAreThere();
@@ -123,6 +125,21 @@ void TestOpenWindowFiles::theFolderUsedLastIsShownFirst()
     window->showFiles();
     QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
     QVERIFY(!find(QStringLiteral("fileRow0"))->isEnabled());
+}
+
+void TestOpenWindowFiles::aTrackLeavesTheFolderOfThePrescriptions()
+{
+    const QDir files(folder->path());
+    QVERIFY(files.mkdir(QStringLiteral("maps")) && files.mkdir(QStringLiteral("drives")));
+    QVERIFY(QFile::copy(fixture("overlap.geojson"), files.filePath(QStringLiteral("maps/map.geojson"))));
+    QVERIFY(!writeFile(files.filePath(QStringLiteral("drives/track.csv")), "time,x,y\n0,0,0\n").isEmpty());
+    RecentFiles(*settings).setFolder(files.filePath(QStringLiteral("maps")));
+    QSignalSpy wanted(window.data(), &OpenWindow::trackWanted);
+    window->showRecords(files.filePath(QStringLiteral("drives")));
+    touch(QStringLiteral("fileRow0"));
+    QCOMPARE(wanted.size(), 1);
+    window->showFiles();
+    QCOMPARE(text(QStringLiteral("fileRow0")), QStringLiteral("map.geojson"));
 }
 
 void TestOpenWindowFiles::aListIsLeftAndFoundAgainOnTheSamePage()

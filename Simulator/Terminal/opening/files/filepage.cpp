@@ -289,7 +289,8 @@ void FilePage::choose(int index)
         showFolder(chosen.path);
         return;
     }
-    if (shown == Place::Folder)
+    // "Replay" leads to the tracks.
+    if (shown == Place::Folder && !FolderListing::isTrack(chosen.path))
         files.setFolder(QFileInfo(chosen.path).path());
     Q_EMIT fileChosen(chosen.path);
 }

@@ -21,7 +21,7 @@ class FilePage : public QWidget {
     Q_OBJECT
 
 public:
-    /// Both are not owned and outlive the page. `recent` also keeps the folder that a file is taken from.
+    /// Both are not owned and outlive the page. `recent` also keeps the folder that a prescription is taken from.
     FilePage(const Machine *machine, RecentFiles &recent, QWidget *parent = nullptr);
 
     /// Shows the folder used last, else the recent files, else the home folder.

@@ -16,7 +16,7 @@ public:
     QStringList paths() const;
     void add(const QString &path);
 
-    /// The folder in which a file was last found; empty if it is gone, or there was none.
+    /// The folder in which a prescription was last found; empty if it is gone, or there was none.
     QString folder() const;
     void setFolder(const QString &path);
 
