@@ -24,7 +24,7 @@ LoadReport MachineBench::load(const QString &path, const QStringList &columns)
     return backend.loadAndWait(request);
 }
 
-LoadReport MachineBench::loadZones(const QList<Zone> &zones, const QList<int> &products)
+LoadReport MachineBench::loadZones(const QList<Zone> &zones, const QList<int> &products, const QString &column)
 {
     QByteArrayList features;
     for (const Zone &zone : zones) {
@@ -32,10 +32,10 @@ LoadReport MachineBench::loadZones(const QList<Zone> &zones, const QList<int> &p
             return "[" + QByteArray::number(500000.0 + x, 'f', 3) + "," + QByteArray::number(5500000.0 + y, 'f', 3)
                 + "]";
         };
-        features.append(R"({"type":"Feature","properties":{"A":)" + QByteArray::number(zone.rate)
-                        + R"(},"geometry":{"type":"Polygon","coordinates":[[)" + corner(zone.from, -200) + ","
-                        + corner(zone.to, -200) + "," + corner(zone.to, 200) + "," + corner(zone.from, 200) + ","
-                        + corner(zone.from, -200) + "]]}}");
+        features.append(R"({"type":"Feature","properties":{")" + column.toUtf8() + R"(":)"
+                        + QByteArray::number(zone.rate) + R"(},"geometry":{"type":"Polygon","coordinates":[[)"
+                        + corner(zone.from, -200) + "," + corner(zone.to, -200) + "," + corner(zone.to, 200) + ","
+                        + corner(zone.from, 200) + "," + corner(zone.from, -200) + "]]}}");
     }
     QFile file(folder.filePath(QStringLiteral("zones.geojson")));
     if (!file.open(QIODevice::WriteOnly))
@@ -46,7 +46,7 @@ LoadReport MachineBench::loadZones(const QList<Zone> &zones, const QList<int> &p
     file.close();
     QStringList columns;
     for (int number = 1; number <= machine.products().size(); ++number)
-        columns.append(products.contains(number) ? QStringLiteral("A") : QString());
+        columns.append(products.contains(number) ? column : QString());
     return load(file.fileName(), columns);
 }
 

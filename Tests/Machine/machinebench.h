@@ -21,8 +21,9 @@ public:
 
     explicit MachineBench(const Products &products = ProductFile::standard(), UnitSystem units = UnitSystem::Metric);
 
-    /// Loads zones that feed these products; they should lie evenly around 0, otherwise their middle becomes 0.
-    LoadReport loadZones(const QList<Zone> &zones, const QList<int> &products = {1});
+    /// Loads zones whose column feeds these products; if they do not lie evenly around 0, their middle becomes 0.
+    LoadReport loadZones(const QList<Zone> &zones, const QList<int> &products = {1},
+                         const QString &column = QStringLiteral("A"));
     LoadReport load(const QString &path, const QStringList &columns);
     /// Writes the settings as the dialog does; `reInit` requests that the flags take effect.
     void set(int product, int lookAheadMs, bool zeroRateShutoff, bool reInit);

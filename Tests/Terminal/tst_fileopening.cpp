@@ -1,8 +1,11 @@
 #include "fileopeningtest.h"
+#include "heardtexts.h"
 #include "layerwriter.h"
 #include "machine.h"
+#include "operatorsettings.h"
 #include "paintedtexts.h"
 #include "productadoption.h"
+#include "recentfiles.h"
 #include "simulation.h"
 #include "statusbar.h"
 #include "theme.h"
@@ -193,7 +196,9 @@ void TestFileOpening::whatIsNoFileIsRefusedVisibly()
 void TestFileOpening::namesCannotTurnTheTextsAroundThem()
 {
     const QString name = QStringLiteral("left\u202eright\n.geojson");
-    const auto texts = [this] { return paintedTexts(*terminal().window()).join(QLatin1Char('|')); };
+    const auto texts = [this] {
+        return (paintedTexts(*terminal().window()) + heardTexts(*terminal().window())).join(QLatin1Char('|'));
+    };
     const auto harmful = [](const QString &text) { return text.contains(QChar(0x202e)) || text.contains(QChar(0x85)); };
     LayerSketch sketch;
     sketch.driver = "GeoJSON";
@@ -202,7 +207,10 @@ void TestFileOpening::namesCannotTurnTheTextsAroundThem()
     const QTemporaryDir folder;
     QVERIFY(sketch.write(folder.filePath(name)));
     terminal().adoption()->adoptFromNextFile();
-    Q_EMIT terminal().window()->dropped({folder.filePath(name)}, {});
+    RecentFiles(terminal().remembered()->values()).setFolder(folder.path());
+    button("openButton")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    button("fileRow0")->click();
     QTRY_VERIFY(button("openAccept") != nullptr);
     button("columnRow1Product")->click();
     QVERIFY2(!harmful(texts()), qPrintable(texts()));
@@ -216,6 +224,14 @@ void TestFileOpening::namesCannotTurnTheTextsAroundThem()
     button("findingsButton")->click();
     QVERIFY2(!harmful(texts()), qPrintable(texts()));
     QVERIFY2(texts().contains(QStringLiteral("RA?TE?")), qPrintable(texts()));
+    button("drive")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    terminal().tell(name, name);
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
+    QCOMPARE(heardTexts(*terminal().window()).filter(QStringLiteral("left?right?.geojson")).size(), 4);
+    button("openButton")->click();
+    button("placeOpen")->click();
+    QVERIFY2(!harmful(texts()), qPrintable(texts()));
     terminal().openWindow()->refuse(name);
     QVERIFY2(!harmful(texts()), qPrintable(texts()));
     QVERIFY2(texts().remove(QChar(0x200b)).contains(QStringLiteral("left?right?.geojson")), qPrintable(texts()));

@@ -4,6 +4,7 @@
 #include "findingkind.h"
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -23,12 +24,12 @@ FindingRow::FindingRow(const MapFinding &finding, const QString &file, QWidget *
     : QAbstractButton(parent)
     , title(FindingKind::title(finding.kind))
 {
-    setText(finding.text);
+    setText(VisibleText::of(finding.text));
     if (!file.isEmpty())
-        title += QStringLiteral("  \u00b7  ") + file;
+        title += QStringLiteral("  \u00b7  ") + VisibleText::of(file);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(title);
-    setAccessibleDescription(finding.text);
+    setAccessibleDescription(text());
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // A finding without a place cannot be shown.
     setEnabled(finding.place.has_value());

@@ -3,6 +3,7 @@
 #include "textlines.h"
 #include "theme.h"
 #include "touchbutton.h"
+#include "visibletext.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
@@ -54,11 +55,14 @@ void HintCard::tell(const QString &title, const QStringList &lines, const QRect 
     heading->setText(TextLines::breakable(title));
     const QString bullet = lines.size() > 1 ? QStringLiteral("\u2022 ") : QString();
     QStringList shown;
-    for (const QString &line : lines)
+    QStringList spoken;
+    for (const QString &line : lines) {
         shown.append(bullet + TextLines::breakable(line));
+        spoken.append(VisibleText::of(line));
+    }
     body->setText(shown.join(QLatin1Char('\n')));
-    setAccessibleName(title);
-    setAccessibleDescription(lines.join(QLatin1Char('\n')));
+    setAccessibleName(VisibleText::of(title));
+    setAccessibleDescription(spoken.join(QLatin1Char('\n')));
     const int wide = qMin(cardWidth, area.width());
     const int tall = layout()->heightForWidth(wide);
     setGeometry(area.left() + (area.width() - wide) / 2, area.bottom() + 1 - tall - Theme::margin, wide, tall);

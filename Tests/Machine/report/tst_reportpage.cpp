@@ -50,10 +50,10 @@ private:
 QByteArray TestReportPage::drive(UnitSystem units, bool isTuned)
 {
     Products products = ProductFile::standard().mid(0, 2);
-    products[0].name = QStringLiteral("Seed <&\">");
+    products[0].name = QStringLiteral("Seed\u202e<&\">");
     products[0].defaultRate = 65.0;
     MachineBench bench(products, units);
-    if (!bench.loadZones({{-90, 0, 50}, {0, 90, 80}}).isOk())
+    if (!bench.loadZones({{-90, 0, 50}, {0, 90, 80}}, {1}, QStringLiteral("A\u202e")).isOk())
         return {};
     bench.set(1, 0, false, true);
     DrivePath path(Pose{{-90, 0}, radiansOf(90.0)});
@@ -73,7 +73,7 @@ QByteArray TestReportPage::drive(UnitSystem units, bool isTuned)
     std::vector<FieldDrive::Curve> curves;
     if (isTuned)
         curves = FieldDrive(&bench.simulation, path).tune();
-    return ReportPage::make({QStringLiteral("zones.shp"), &bench.simulation, &tally, &raster, curves});
+    return ReportPage::make({QStringLiteral("zones\u202e.shp"), &bench.simulation, &tally, &raster, curves});
 }
 
 QList<TestReportPage::Element> TestReportPage::elements(const QByteArray &page)
@@ -124,8 +124,9 @@ void TestReportPage::itIsWholeAndNeedsNothingElse()
     QVERIFY(page.contains("charset=\"utf-8\""));
     for (const char *reference : {"http", "src=\"/", "href", "url(", "<script", "<link"})
         QVERIFY2(!page.contains(reference), reference);
-    QCOMPARE(texts("h2"), (QStringList{"Seed <&\"> (k/ha)", "Fertiliser (kg/ha)"}));
+    QCOMPARE(texts("h2"), (QStringList{"Seed?<&\"> (k/ha)", "Fertiliser (kg/ha)"}));
     QVERIFY(texts("p").contains(QStringLiteral("No prescription drives this product.")));
+    QCOMPARE(texts("p").filter(QStringLiteral("Column A?; look-ahead")).size(), 1);
     QCOMPARE(texts("svg").size(), 2);
     QVERIFY(texts("p").contains(QStringLiteral("A look-ahead of 0.70 s puts the changes nearest to the borders."))
             || texts("p").contains(QStringLiteral("A look-ahead of 0.80 s puts the changes nearest to the borders.")));
@@ -136,10 +137,11 @@ void TestReportPage::itIsWholeAndNeedsNothingElse()
 void TestReportPage::itsHeadTellsTheDefaultRatesOfWhatIsDriven()
 {
     const QStringList cells = texts("td");
-    const int place = cells.indexOf(QStringLiteral("Default rate of Seed <&\">"));
+    const int place = cells.indexOf(QStringLiteral("Default rate of Seed?<&\">"));
     QVERIFY(place >= 0);
     QCOMPARE(cells.at(place + 1), QStringLiteral("65.0 k/ha"));
     QVERIFY(!cells.contains(QStringLiteral("Default rate of Fertiliser")));
+    QCOMPARE(cells.at(1), QStringLiteral("zones?.shp"));
 }
 
 void TestReportPage::picturesShowPlanAndDriveInTheLegendsColours()

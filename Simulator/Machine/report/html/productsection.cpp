@@ -8,6 +8,7 @@
 #include "ratecontroller.h"
 #include "shownnumber.h"
 #include "simulation.h"
+#include "visibletext.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -78,14 +79,14 @@ ProductSection::ProductSection(const DrivenField &givenField, int givenNumber)
 
 void ProductSection::write(QXmlStreamWriter &page) const
 {
-    page.writeTextElement(QStringLiteral("h2"), inBrackets(product.name, units.rateUnit()));
+    page.writeTextElement(QStringLiteral("h2"), inBrackets(VisibleText::of(product.name), units.rateUnit()));
     if (!map.isValid()) {
         page.writeTextElement(QStringLiteral("p"), tr("No prescription drives this product."));
         return;
     }
     page.writeTextElement(QStringLiteral("p"),
                           tr("Column %1; look-ahead %2 s; dead time %3 s, time constant %4 s")
-                              .arg(map.columnName,
+                              .arg(VisibleText::of(map.columnName),
                                    seconds(field.simulation->controller()->lookAheadMs(number) / 1000.0),
                                    seconds(product.actuator.deadTime), seconds(product.actuator.timeConstant)));
     writePictures(page);

@@ -8,6 +8,7 @@
 #include "reportunits.h"
 #include "simulation.h"
 #include "vehicle.h"
+#include "visibletext.h"
 
 #include <QXmlStreamWriter>
 
@@ -81,7 +82,7 @@ void ReportPage::writeSummary(QXmlStreamWriter &page, const DrivenField &field)
     const int seconds = int(field.tally->seconds());
     page.writeTextElement(QStringLiteral("h1"), tr("Report of a drive"));
     page.writeStartElement(QStringLiteral("table"));
-    writeRow(page, tr("Prescription"), field.file);
+    writeRow(page, tr("Prescription"), VisibleText::of(field.file));
     writeRow(page, tr("Time"), tr("%1 h %2 min").arg(seconds / 3600).arg(seconds / 60 % 60));
     writeRow(page, tr("Distance"), withUnit(units.distance(field.tally->distance()), units.distanceUnit()));
     writeRow(page, tr("Area worked"), withUnit(units.area(field.tally->workedArea()), units.areaUnit()));
@@ -98,7 +99,7 @@ void ReportPage::writeDefaultRates(QXmlStreamWriter &page, const Machine &machin
         const MachineProduct &product = products.at(number - 1);
         const ReportUnits units(machine, number);
         if (product.isDriven && ActiveMap::find(*machine.dataBroker(), product.rateCalName).isValid())
-            writeRow(page, tr("Default rate of %1").arg(product.name),
+            writeRow(page, tr("Default rate of %1").arg(VisibleText::of(product.name)),
                      withUnit(units.rate(product.defaultRate), units.rateUnit()));
     }
 }

@@ -3,6 +3,7 @@
 #include "buttonlook.h"
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -28,9 +29,14 @@ TouchButton::TouchButton(const QString &text, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
 }
 
+void TouchButton::setText(const QString &text)
+{
+    QAbstractButton::setText(VisibleText::of(text));
+}
+
 void TouchButton::setNote(const QString &newNote)
 {
-    note = newNote;
+    note = VisibleText::of(newNote);
     setAccessibleDescription(note);
     update();
 }

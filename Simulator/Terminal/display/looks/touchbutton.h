@@ -13,6 +13,8 @@ class TouchButton : public QAbstractButton {
 public:
     explicit TouchButton(const QString &text, QWidget *parent = nullptr);
 
+    /// Takes it as VisibleText.
+    void setText(const QString &text);
     /// A second, smaller line under the text.
     void setNote(const QString &note);
     /// Whether it stands out as something that needs the operator's attention.

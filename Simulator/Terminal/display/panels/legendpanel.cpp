@@ -5,6 +5,7 @@
 #include "shownnumber.h"
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QPainter>
 
@@ -95,7 +96,8 @@ void LegendPanel::show(const Content &newContent)
     QStringList told{content.product};
     if (!texts.isEmpty())
         told << content.source.column << sourceText();
-    setAccessibleDescription(told.join(QStringLiteral(", ")) + QStringLiteral(": ") + texts.join(QStringLiteral("; ")));
+    setAccessibleDescription(
+        VisibleText::of(told.join(QStringLiteral(", ")) + QStringLiteral(": ") + texts.join(QStringLiteral("; "))));
     resize(sizeHint());
     update();
 }

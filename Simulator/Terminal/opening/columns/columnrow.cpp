@@ -61,7 +61,7 @@ void ColumnRow::show(const OpenSelection &selection, int index)
     product->setNote(number == 0 ? tr("feeds no product") : tr("Product %1").arg(number));
     const QString text = selection.unit(index);
     unit->setText(text.isEmpty() ? QStringLiteral("?") : text);
-    unit->setAccessibleName(text.isEmpty() ? tr("Unit") : text);
+    unit->setAccessibleName(text.isEmpty() ? tr("Unit") : unit->text());
     unit->setNote(unitNote(selection, index));
     unit->setCaution(selection.withoutUnit().contains(index));
     unit->setEnabled(number > 0 && !RateUnits::parts(products.at(number - 1).kind).amounts.isEmpty());

@@ -229,8 +229,9 @@ void FilePage::listFolder(const QString &path, const QString &whenEmpty)
     show(headingOf(path), FolderListing::of(path), whenEmpty);
 }
 
-void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty)
+void FilePage::show(const QString &newHeading, const QList<FileEntry> &newEntries, const QString &whenEmpty)
 {
+    heading = newHeading;
     title->setText(heading);
     entries = newEntries;
     // What was closed stays closed.
@@ -250,7 +251,7 @@ void FilePage::show(const QString &heading, const QList<FileEntry> &newEntries, 
 
 void FilePage::turnPage()
 {
-    Spot &spot = spots[title->text()];
+    Spot &spot = spots[heading];
     spot.index = pages->first();
     spot.path = entries.at(spot.index).path;
     showPage();
@@ -274,16 +275,16 @@ void FilePage::fill(int place, const FileEntry &entry)
     row->setNotes(entry.isThere ? (entry.note.isEmpty() ? QStringList() : QStringList(entry.note))
                                 : QStringList(tr("is no longer there")));
     row->setEnabled(entry.isThere);
-    row->setChecked(entry.path == spots.value(title->text()).chosen);
+    row->setChecked(entry.path == spots.value(heading).chosen);
     row->setSymbol(entry.isFolder ? Symbols::folder() : Symbols::file());
-    closers.at(place)->setAccessibleName(tr("Close %1").arg(entry.name));
+    closers.at(place)->setAccessibleName(tr("Close %1").arg(row->text()));
 }
 
 void FilePage::choose(int index)
 {
     // A copy: showing another folder replaces the entries.
     const FileEntry chosen = entries.at(index);
-    spots[title->text()] = {chosen.path, index, chosen.path};
+    spots[heading] = {chosen.path, index, chosen.path};
     showPage();
     if (chosen.isFolder) {
         showFolder(chosen.path);

@@ -64,7 +64,7 @@ private:
     void showFolder(const QString &path);
     void listFolder(const QString &path, const QString &whenEmpty);
     void followMaps();
-    void show(const QString &heading, const QList<FileEntry> &newEntries, const QString &whenEmpty);
+    void show(const QString &newHeading, const QList<FileEntry> &newEntries, const QString &whenEmpty);
     void turnPage();
     void showPage();
     void choose(int index);
@@ -86,6 +86,7 @@ private:
     QList<FileEntry> entries;
     Place shown = Place::Recent;
     QString samplePath;
+    QString heading; ///< Over the list, as it is.
     /// Empty while no folder is shown.
     QString folder;
     QHash<QString, Spot> spots; ///< By the heading over the list.

@@ -2,6 +2,7 @@
 
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QPainter>
 
@@ -11,6 +12,11 @@ Caption::Caption(int pixels, bool isBold, QWidget *parent)
     setFont(Theme::font(pixels, isBold));
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void Caption::setText(const QString &text)
+{
+    QLabel::setText(VisibleText::of(text));
 }
 
 QSize Caption::minimumSizeHint() const

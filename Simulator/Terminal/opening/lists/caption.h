@@ -9,6 +9,8 @@ class Caption : public QLabel {
 public:
     Caption(int pixels, bool isBold, QWidget *parent = nullptr);
 
+    /// Takes it as VisibleText.
+    void setText(const QString &text);
     QSize minimumSizeHint() const override;
 
 protected:

@@ -4,6 +4,7 @@
 #include "symbols.h"
 #include "textlines.h"
 #include "theme.h"
+#include "visibletext.h"
 
 #include <QPainter>
 
@@ -27,6 +28,11 @@ ListRow::ListRow(QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
 }
 
+void ListRow::setText(const QString &text)
+{
+    QAbstractButton::setText(VisibleText::of(text));
+}
+
 void ListRow::setSymbol(const QPainterPath &newSymbol)
 {
     symbol = newSymbol;
@@ -36,7 +42,7 @@ void ListRow::setSymbol(const QPainterPath &newSymbol)
 void ListRow::setNotes(const QStringList &lines)
 {
     notes = lines;
-    setAccessibleDescription(lines.join(QStringLiteral(", ")));
+    setAccessibleDescription(VisibleText::of(lines.join(QStringLiteral(", "))));
     update();
 }
 

@@ -15,6 +15,8 @@ public:
     explicit ListRow(QWidget *parent = nullptr);
 
     void setSymbol(const QPainterPath &symbol);
+    /// Takes it as VisibleText.
+    void setText(const QString &text);
     /// Each line is shortened where it is too long.
     void setNotes(const QStringList &lines);
     void setBadge(const QString &text);
