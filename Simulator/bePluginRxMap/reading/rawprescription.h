@@ -50,7 +50,7 @@ struct SourceColumn {
 enum class RateChance { None, Total, Possible, Named };
 using ColumnJudge = RateChance (*)(const SourceColumn &);
 
-/// A column that holds the same text in every record that has any, such as the unit of a rate.
+/// A column that holds the same text in every record that has any, or spells the same unit of a rate.
 struct TextColumn {
     QString name;
     /// Place among the table's fields.

@@ -1,6 +1,7 @@
 #include "recordreader.h"
 
 #include "Backend/backendtext.h"
+#include "rateunit.h"
 #include "shapereader.h"
 #include "tablecolumns.h"
 #include "textrate.h"
@@ -37,6 +38,13 @@ double readNumber(const OGRFeature &feature, const SourceColumn &column)
     return column.isInteger ? feature.GetFieldAsDouble(column.field) : feature.GetRawFieldRef(column.field)->Real;
 }
 
+/// Whether two texts name the same unit, however they spell it.
+bool areOneUnit(const QString &one, const QString &other)
+{
+    const QString unit = one == other ? QString() : RateUnit::fromText(one).text();
+    return one == other || (!unit.isEmpty() && unit == RateUnit::fromText(other).text());
+}
+
 /// The number in a text; NaN, and counted, if its unit differs from that of those before.
 double readText(const OGRFeature &feature, int record, SourceColumn &column)
 {
@@ -44,7 +52,7 @@ double readText(const OGRFeature &feature, int record, SourceColumn &column)
     const TextRate rate = TextRate::parse(text);
     if (column.unit.isEmpty())
         column.unit = rate.unit;
-    if (!rate.isReadable || (!rate.unit.isEmpty() && rate.unit != column.unit)) {
+    if (!rate.isReadable || (!rate.unit.isEmpty() && !areOneUnit(rate.unit, column.unit))) {
         column.unreadable.push_back(record);
         return notANumber;
     }
@@ -60,7 +68,7 @@ void compareText(const OGRFeature &feature, TextColumn &column)
     const QString text = QString::fromUtf8(feature.GetFieldAsString(column.field)).trimmed();
     if (column.text.isEmpty())
         column.text = text;
-    column.isMixed = !text.isEmpty() && text != column.text;
+    column.isMixed = !text.isEmpty() && !areOneUnit(text, column.text);
     if (column.isMixed)
         column.other = text;
 }

@@ -48,7 +48,7 @@ void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
     LayerSketch sketch;
     sketch.driver = "GPKG";
     sketch.fields = {{"rate", QStringLiteral("text")}};
-    for (const char *text : {"80", "90,5 kg/ha", "32,000 kg/ha", "90 lb/ac"})
+    for (const char *text : {"80", "90,5 kg/ha", "32,000 kg/ha", "90 lb/ac", "70 KG per ha"})
         sketch.rows.append({squareText(11.0 + 0.1 * sketch.rows.size(), 48.0, 0.001), {QString::fromLatin1(text)}});
     QVERIFY(sketch.write(path("a.gpkg")));
     QVERIFY2(read(path("a.gpkg")), qPrintable(error));
@@ -60,6 +60,8 @@ void PrescriptionReaderColumnsTest::readsWhatFollowsTheNumbersOfAText()
     // A different unit than that of the records before.
     QVERIFY(std::isnan(column.values[3]));
     QCOMPARE(column.unreadable.size(), size_t(1));
+    // The same unit, spelled differently.
+    QCOMPARE(column.values[4], 70.0);
 }
 
 void PrescriptionReaderColumnsTest::readsTextsThatAreTheSameInEveryRecord()
@@ -68,7 +70,7 @@ void PrescriptionReaderColumnsTest::readsTextsThatAreTheSameInEveryRecord()
     sketch.fields = {{"RATE", 1.0}, {"UNIT", QStringLiteral("text")}, {"NAME", QStringLiteral("text")}};
     sketch.rows = {{squareText(11.0, 48.0, 0.001), {80.0, QStringLiteral("l/ha"), QStringLiteral("west")}},
                    {squareText(11.1, 48.0, 0.001), {80.0, QVariant(), QVariant()}},
-                   {squareText(11.2, 48.0, 0.001), {90.0, QStringLiteral("l/ha"), QStringLiteral("east")}}};
+                   {squareText(11.2, 48.0, 0.001), {90.0, QStringLiteral("L/HA"), QStringLiteral("east")}}};
     QVERIFY(sketch.write(path("a.shp")));
     QVERIFY2(read(path("a.shp"), {QStringLiteral("RATE")}), qPrintable(error));
     QCOMPARE(map.texts.size(), size_t(2));
@@ -104,9 +106,16 @@ void PrescriptionReaderColumnsTest::readsNamesInTheTablesOwnCodePage()
     QVERIFY(sketch.write(path("a.shp")));
     QFile::remove(path("a.cpg"));
     QVERIFY(replaceIn("a.dbf", plain, bytes.left(plain.size())));
-    QVERIFY2(read(path("a.shp"), {QStringLiteral("#1")}), qPrintable(error));
-    QVERIFY2(map.columns[0].name.startsWith(name), qPrintable(map.columns[0].name));
-    QCOMPARE(map.columns[0].values[0], 80.0);
+    // What the header says: "that of the writing computer", or nothing.
+    for (const char codePage : {'\x57', '\0'}) {
+        constexpr int codePagePlace = 29;
+        QByteArray table = readFile(path("a.dbf"));
+        table[codePagePlace] = codePage;
+        writeFile(path("a.dbf"), table);
+        QVERIFY2(read(path("a.shp"), {QStringLiteral("#1")}), qPrintable(error));
+        QVERIFY2(map.columns[0].name.startsWith(name), qPrintable(map.columns[0].name));
+        QCOMPARE(map.columns[0].values[0], 80.0);
+    }
 }
 
 void PrescriptionReaderColumnsTest::refusesATableOfTooManyColumns()

@@ -91,5 +91,5 @@ QByteArray TableCodePage::guess(const QByteArray &table)
     const bool hasEarlyLetters = std::any_of(content.begin(), content.end(), [&isForeign](char byte) {
         return isForeign(byte) && static_cast<unsigned char>(byte) < firstSign;
     });
-    return hasEarlyLetters ? "CP850" : "";
+    return hasEarlyLetters ? "CP850" : "ISO-8859-1";
 }
