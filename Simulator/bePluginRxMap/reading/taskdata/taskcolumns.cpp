@@ -66,9 +66,8 @@ TaskColumns::TaskColumns(const Task &task, const TaskData &data)
         const std::vector<size_t> inZone = placesOf(zone);
         for (size_t i = 0; i < inZone.size(); ++i) {
             SourceColumn &column = table[inZone[i]];
-            if (areSetpointsKnown && !isSetpoint(zone.values[i].number)
-                && column.meaning == SourceColumn::Meaning::Rates)
-                column.meaning = SourceColumn::Meaning::NoRates;
+            if (!isSetpoint(zone.values[i].number) && column.meaning == SourceColumn::Meaning::Rates)
+                column.meaning = areSetpointsKnown ? SourceColumn::Meaning::NoRates : SourceColumn::Meaning::NotSaid;
         }
     }
     takePlaceRates(task);

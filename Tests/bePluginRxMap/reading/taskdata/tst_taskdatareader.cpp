@@ -170,7 +170,7 @@ void TaskDataReaderTest::namesAndScalesColumns_data()
         Sketch::value(actual, 7, "C=\"PDT1\"") + Sketch::value(litres, 8, "C=\"PDT1\""), {"Urea", "Urea (2)"}, {"", ""},
         {"mm³/m²", "mm³/m²"}, "nr", 0.07);
     row("what was put out alone", Sketch::value(actual, 7), {"Actual Volume Per Area Application Rate"}, {"Volume"},
-        {"mm³/m²"}, "r", 0.07);
+        {"mm³/m²"}, "?", 0.07);
     row("per time", Sketch::value(36, 7), {"Setpoint Volume Per Time Application Rate"}, {"Volume"}, {"mm³/s"}, "n",
         7.0);
     row("an unknown number", Sketch::value(unknown, 7), {"DDI 57344"}, {""}, {""}, "?", 7.0);
