@@ -32,7 +32,8 @@ struct ProductWords {
 const std::vector<ProductWords> &wordsOfProducts()
 {
     static const std::vector<ProductWords> words = {
-        {ProductLineItem::Count, wordSet("seed seeding sow saat saatgut samen semence semilla semente population pop")},
+        {ProductLineItem::Count,
+         wordSet("seed seeds seedrate seeding sow saat saatgut samen semence semilla semente population pop")},
         {ProductLineItem::Volume, wordSet("herb herbicide fung fungicide insect spray liquid herbizid water")},
         {ProductLineItem::Weight,
          wordSet("fert fertiliser fertilizer duenger dunger engrais fertilizante adubo urea lime kalk")},
@@ -131,7 +132,7 @@ ColumnName::ColumnName(const QString &name)
 RateUnit ColumnName::unit() const
 {
     const RateUnit perArea = RateUnit::find(words, mayBeCut);
-    return perArea.isKnown() || !hasRateWord() ? perArea : RateUnit::findAmount(words);
+    return perArea.isKnown() || !hasRateWord() ? perArea : RateUnit::findAmount(words, mayBeCut);
 }
 
 bool ColumnName::namesUnit() const
@@ -168,7 +169,7 @@ QStringList ColumnName::productWords() const
 {
     QVector<int> others;
     const bool hasUnit = RateUnit::find(words, mayBeCut, &others).isKnown()
-        || (hasRateWord() && RateUnit::findAmount(words, &others).isKnown());
+        || (hasRateWord() && RateUnit::findAmount(words, mayBeCut, &others).isKnown());
     const int end = !hasUnit && endsInArea() ? words.size() - 1 : words.size();
     for (int place = 0; !hasUnit && place < end; ++place)
         others.append(place);

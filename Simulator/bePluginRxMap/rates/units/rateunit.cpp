@@ -26,11 +26,19 @@ bool isNutrient(const QString &word)
     return words.contains(word);
 }
 
-/// What may stand between amount and area: "kg N/ha".
+/// What may stand between amount and area: "kg N/ha", "kg_Rate_ac".
 bool isSubstance(const QString &word)
 {
-    static const QSet<QString> words = wordSet("ai ae prod product produkt seeds seed plants");
+    static const QSet<QString> words =
+        wordSet("ai ae prod product produkt seeds seed plants rate dose dosis rx tgt target");
     return words.contains(word) || isNutrient(word);
+}
+
+/// "K_ha", "MG_AC": a nutrient, not thousands or milligrams.
+bool isNutrientPerArea(const Words &words)
+{
+    static const QSet<QString> areas = wordSet("ha ac");
+    return words.size() > 1 && isNutrient(words.at(0)) && areas.contains(words.at(1));
 }
 
 /// Whether the two words at `place` are a product and its unit rather than one unit split in two: "C_l_ha" is of a
@@ -65,7 +73,8 @@ QHash<QString, RateUnit> joinedUnits()
     for (auto amount = amounts.begin(); amount != amounts.end(); ++amount) {
         for (auto area = areas.begin(); area != areas.end(); ++area) {
             // The others are too short or too rare to be told from ordinary words.
-            if (!areaWords.contains(area.key()) || amount.key() == QLatin1String("s"))
+            if (!areaWords.contains(area.key()) || amount.key() == QLatin1String("s")
+                || amount.key() == QLatin1String("1000"))
                 continue;
             const RateUnit unit(*amount, *area);
             for (const char *link : {"", "p", "per"})
@@ -84,6 +93,49 @@ const AreaUnit *cutArea(const QString &word)
     return nullptr;
 }
 
+/// Whether a name that was cut off may have gone on with the rest of an area that it does not tell: "Dosis_kg_m".
+bool mayBeCutArea(const QString &word)
+{
+    const auto &areas = UnitTable::areasBySpelling();
+    return std::any_of(areas.keyBegin(), areas.keyEnd(),
+                       [&word](const QString &spelling) { return spelling.startsWith(word); });
+}
+
+/// Takes the area that begins at `place`; null, and nothing taken, when none does.
+const AreaUnit *takeAreaAt(const AmountUnit &amount, const Words &words, int &place, bool isCut)
+{
+    if (place >= words.size())
+        return nullptr;
+    const bool isLast = place == words.size() - 1;
+    // A lone "a" is short for an acre, unless a metric unit stands before it.
+    if (isLast && words.at(place) == QLatin1String("a") && (amount.isCustomary || isCut)) {
+        ++place;
+        return UnitTable::area("ac");
+    }
+    const AreaUnit *area = take(UnitTable::areasBySpelling(), words, place);
+    if (area == nullptr && isLast && isCut)
+        area = cutArea(words.at(place++));
+    return area;
+}
+
+/// The same where a substance and "per" may stand before it.
+const AreaUnit *takeArea(const AmountUnit &amount, const Words &words, int &place, bool isCut)
+{
+    int next = place;
+    const AreaUnit *area = takeAreaAt(amount, words, next, isCut);
+    if (area == nullptr) {
+        next = place;
+        while (next + 1 < words.size() && amount.basis != ProductLineItem::Count && isSubstance(words.at(next)))
+            ++next;
+        if (next + 1 < words.size() && isPer(words.at(next)))
+            ++next;
+        area = takeAreaAt(amount, words, next, isCut);
+    }
+    if (area != nullptr)
+        place = next;
+    return area;
+}
+
 /// Takes the unit per area that begins at `place`; not known, and nothing taken, when none does.
 RateUnit takeUnit(const Words &words, int &place, bool isCut)
 {
@@ -94,22 +146,10 @@ RateUnit takeUnit(const Words &words, int &place, bool isCut)
     const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
     if (amount == nullptr)
         return {};
-    if (next + 1 < words.size() && amount->basis != ProductLineItem::Count && isSubstance(words.at(next)))
-        ++next;
-    if (next + 1 < words.size() && isPer(words.at(next)))
-        ++next;
-    const bool isLast = next == words.size() - 1;
-    const AreaUnit *area = nullptr;
-    // A lone "a" is short for an acre, unless a metric unit stands before it.
-    if (isLast && words.at(next) == QLatin1String("a") && (amount->isCustomary || isCut))
-        area = UnitTable::area("ac");
-    else if (next < words.size())
-        area = take(UnitTable::areasBySpelling(), words, next);
-    if (area == nullptr && isLast && isCut)
-        area = cutArea(words.at(next));
+    const AreaUnit *area = takeArea(*amount, words, next, isCut);
     if (area == nullptr)
         return {};
-    place = isLast ? words.size() : next;
+    place = next;
     return {amount, area};
 }
 
@@ -183,7 +223,7 @@ RateUnit RateUnit::find(const QStringList &words, bool isCut, QVector<int> *othe
 {
     for (int place = 0; place < words.size(); ++place) {
         // "SEED_HA" may be in any unit per hectare.
-        if (words.at(place) == QLatin1String("seed"))
+        if (words.at(place) == QLatin1String("seed") || (place == 0 && isNutrientPerArea(words)))
             continue;
         int next = place;
         const RateUnit unit = takeUnit(words, next, isCut);
@@ -195,18 +235,33 @@ RateUnit RateUnit::find(const QStringList &words, bool isCut, QVector<int> *othe
     return {};
 }
 
-RateUnit RateUnit::findAmount(const QStringList &words, QVector<int> *others)
+RateUnit RateUnit::findAmount(const QStringList &words, bool isCut, QVector<int> *others)
 {
-    for (int place = words.size() - 1; place >= 0; --place) {
+    const AmountUnit *amount = nullptr;
+    int first = 0;
+    int end = 0;
+    for (int place = 0; place < words.size();) {
         int next = place;
-        const AmountUnit *amount = take(UnitTable::amountsBySpelling(), words, next);
+        const AmountUnit *found = take(UnitTable::amountsBySpelling(), words, next);
         // A count may be named by what is counted, which is then not a unit.
-        if (amount == nullptr || amount->basis == ProductLineItem::Count)
+        if (found == nullptr || found->basis == ProductLineItem::Count || isNutrient(words.at(place))) {
+            ++place;
             continue;
-        tellOthers(words, place, next, others);
-        return {amount, UnitTable::area(amount->isCustomary ? "ac" : "ha")};
+        }
+        // "Dose_ml_kg" is per weight of something.
+        if (amount != nullptr)
+            return {};
+        amount = found;
+        first = place;
+        end = place = next;
     }
-    return {};
+    if (amount == nullptr)
+        return {};
+    // Of one letter more may be cut off: "Tgt_Rate_l" may have been of litres or pounds.
+    if (isCut && (end == words.size() ? words.last().size() == 1 : mayBeCutArea(words.last())))
+        return {};
+    tellOthers(words, first, end, others);
+    return {amount, UnitTable::area(amount->isCustomary ? "ac" : "ha")};
 }
 
 QString RateUnit::text() const

@@ -23,8 +23,8 @@ public:
     /// The unit within a name's words (small letters). `isCut`: the last word may lack its end. `others`: gets the
     /// places of the words that are no part of it, unless it is null.
     static RateUnit find(const QStringList &words, bool isCut, QVector<int> *others = nullptr);
-    /// An amount without an area among a name's words, per acre or hectare as is customary for it.
-    static RateUnit findAmount(const QStringList &words, QVector<int> *others = nullptr);
+    /// The only amount among a name's words that have no area, per acre or hectare as is customary for it.
+    static RateUnit findAmount(const QStringList &words, bool isCut, QVector<int> *others = nullptr);
     /// The words of a text in small letters without accents, as the units' spellings have them: split at everything but
     /// letters and digits, and where small letters meet capitals.
     static QStringList wordsOf(const QString &text);

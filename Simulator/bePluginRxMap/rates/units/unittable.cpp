@@ -45,15 +45,15 @@ const std::vector<AmountUnit> &UnitTable::amounts()
     static const std::vector<AmountUnit> table = {
         {"k", Item::Count, 1.0, false, definition,
          "1000 k ks ksds kst kseeds kplants 1000seeds 1000sds 1000plants 1000kernels 1000korn 1000koerner thousand "
-         "thousands tsd mil milheiro milhares"},
+         "thousands tsd mil milheiro milhares kpl 1000k kkoerner tsdkoerner"},
         {"seeds", Item::Count, 1e-3, false, definition,
          "seeds seed sds s plants plant plantas pl st stk stueck pcs ct korn koerner kernel kernels grains graines "
-         "semillas sementes semi samen sem"},
-        {"million", Item::Count, 1e3, false, definition, "million millions mio"},
+         "semillas sementes semi samen sem koe kerne pfl pflanzen planten graos"},
+        {"million", Item::Count, 1e3, false, definition, "million millions mio miok mioseeds mioplants"},
         {"kg", Item::Weight, 1.0, false, si, "kg kgs kilo kilos kilogram kilograms kilogramm kilogramme kilogramo"},
         {"g", Item::Weight, 1e-3, false, si, "g gr grs gram grams gramm gramme gramo"},
         {"mg", Item::Weight, 1e-6, false, si, "mg"},
-        {"dt", Item::Weight, 100.0, false, si, "dt dezitonne dezitonnen q qq quintal quintaux"},
+        {"dt", Item::Weight, 100.0, false, si, "dt dezitonne dezitonnen q qq qx quintal quintaux"},
         {"t", Item::Weight, 1000.0, false, si, "t to tn tonne tonnes tonnen tonelada toneladas mt"},
         {"lb", Item::Weight, kilogramsPerPound, true, yardAndPound, "lb lbs pound pounds"},
         {"oz", Item::Weight, kilogramsPerPound / 16.0, true, nist, "oz ounce ounces dryoz ozdry"},
@@ -81,8 +81,8 @@ const std::vector<AreaUnit> &UnitTable::areas()
         {"ha", 1.0, si, "ha has hectare hectares hektar hectarea hectareas"},
         {"ac", 43560.0 * squareFoot, yardAndPound, "ac acr acre acres"},
         {"m2", 1e-4, si, "m2 qm sqm sm"},
-        {"a", 1e-2, si, "a are ares ar"},
-        {"daa", 0.1, si, "daa da dca dekar decare decares dunam doenuem"},
+        {"a", 1e-2, si, "a are ares ar 100m2 100qm 100sqm"},
+        {"daa", 0.1, si, "daa da dca dekar decare decares dunam doenuem 1000m2 1000qm 1000sqm 10a"},
         {"ft2", squareFoot, yardAndPound, "ft2 sqft"},
         {"1000 ft2", 1000.0 * squareFoot, yardAndPound, "1000ft2 1000sqft ksqft kft2 msf mft2 turf"},
     };

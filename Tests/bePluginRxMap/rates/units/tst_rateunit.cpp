@@ -106,9 +106,25 @@ void RateUnitTest::findsUnitsInNames_data()
     // Only an amount, in a name that speaks of a rate.
     row("RATE_kg_", "kg/ha");
     row("Rate_lbs", "lb/ac");
-    row("Tgt_Rate_l", "L/ha");
+    row("Rate_fl_oz", "fl oz/ac");
+    row("kg_Rate_ac", "kg/ac");
     row("QT_kg", "");
     row("Rate_K", "");
+    // What was cut off may have been another unit: pounds, gallons, square metres.
+    for (const char *name : {"Tgt_Rate_l", "Tgt_Rate_g", "Dosis_kg_m", "Dosis_kg_d", "Rate_lb_10"})
+        row(name, "");
+    for (const char *name : {"Dose_ml_kg", "Rate_l_t"})
+        row(name, "");
+    for (const char *name : {"kg/1000m\u00b2", "kg_1000m2", "Rate kg/1000 m2"})
+        row(name, "kg/daa");
+    row("l_100m2", "L/a");
+    row("lbs_k_sqft", "lb/1000 ft2");
+    row("Mio_K_ha", "million/ha");
+    row("Pflanzen_m2", "seeds/m2");
+    row("K\u00f6/m\u00b2", "seeds/m2");
+    // A nutrient and an area.
+    for (const char *name : {"K_ha", "S_HA", "Mg_ac"})
+        row(name, "");
     // A product and an area.
     row("Urea_ha", "");
     row("SEED_HA", "");
@@ -118,7 +134,7 @@ void RateUnitTest::findsUnitsInNames_data()
 
 void RateUnitTest::findsUnitsInNames()
 {
-    QTEST(ColumnName(QString::fromLatin1(QTest::currentDataTag())).unit().text(), "unit");
+    QTEST(ColumnName(QString::fromUtf8(QTest::currentDataTag())).unit().text(), "unit");
 }
 
 void RateUnitTest::readsEveryAmountPerEveryArea()
