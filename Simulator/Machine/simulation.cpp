@@ -80,8 +80,14 @@ Result<TrackReader::Summary> Simulation::replay(const QString &path)
     const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
     const auto checked = TrackReader::check(path, plane);
     if (checked.isOk())
-        vehicleModel->replay(std::make_unique<TrackReader>(path, plane));
+        replayChecked(path);
     return checked;
+}
+
+void Simulation::replayChecked(const QString &path)
+{
+    const std::optional<QPointF> origin = machineModel->planeOrigin();
+    vehicleModel->replay(std::make_unique<TrackReader>(path, origin ? std::make_shared<FieldPlane>(*origin) : nullptr));
 }
 
 void Simulation::step()

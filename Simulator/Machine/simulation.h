@@ -62,6 +62,8 @@ public:
     /// Goes where a track went on the plane of the loaded maps, from now on; the reason, and the machine stays as it
     /// is, when that is not possible.
     Result<TrackReader::Summary> replay(const QString &path);
+    /// As replay(), with a track that was checked on that plane before.
+    void replayChecked(const QString &path);
 
     /// Lets one step pass.
     void step();

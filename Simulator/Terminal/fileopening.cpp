@@ -11,6 +11,7 @@
 #include "terminal.h"
 #include "terminalwindow.h"
 #include "touchbutton.h"
+#include "trackcheck.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -119,11 +120,16 @@ void FileOpening::replay(const QString &track)
     }
     // A record that is being written would never end.
     terminal->driving()->record()->endIfAt(track);
-    const auto outcome = terminal->driving()->replay(track);
+    TrackCheck check(track, terminal->machine()->planeOrigin());
+    // Where the program has ended meanwhile, this is gone.
+    if (!openWindow->await(check, track))
+        return;
+    const auto outcome = check.takeOutcome();
     if (!outcome.isOk()) {
         openWindow->refuse(outcome.error);
         return;
     }
+    terminal->driving()->replay(track);
     openWindow->finishTrack(track);
     const TrackReader::Summary &summary = outcome.value;
     if (summary.badLines > 0)

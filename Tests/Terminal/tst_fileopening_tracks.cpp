@@ -7,6 +7,9 @@
 #include <QLabel>
 #include <QLineF>
 #include <QTemporaryDir>
+#include <QTimer>
+
+#include <utility>
 
 /// Drives that are recorded, and tracks that are replayed, by touch.
 class TestFileOpeningTracks : public FileOpeningTest {
@@ -21,12 +24,17 @@ private Q_SLOTS:
     void aDroppedTrackFollowsItsMap();
     void whatATrackLacksIsToldWhenTheOpenWindowIsGone();
     void aNoticeTakesThePlaceOfTheGreeting();
+    void aLongTrackIsReadWithTheDisplayAlive();
+    void aLongTrackIsGivenUp_data();
+    void aLongTrackIsGivenUp();
     void whyATrackIsNotReplayedIsTold_data();
     void whyATrackIsNotReplayedIsTold();
 
 private:
     void run(double seconds) { terminal().simulation()->run(seconds); }
     QString write(const QByteArray &track);
+    /// Writes a track that takes about a second to read, drops it, and touches that button once it is being read.
+    void dropLongTrack(const char *touched);
     QWidget *card(const char *name) { return terminal().window()->findChild<QWidget *>(QLatin1String(name)); }
     QWidget *notice() { return card("noticeCard"); }
     QString noticeText() { return notice()->accessibleName() + QLatin1Char('|') + notice()->accessibleDescription(); }
@@ -157,6 +165,51 @@ void TestFileOpeningTracks::aNoticeTakesThePlaceOfTheGreeting()
     QVERIFY(!card("hintCard")->isVisible());
     QTest::keyClick(terminal().window()->focusWidget(), Qt::Key_Escape);
     QCOMPARE(terminal().window()->focusWidget(), terminal().window()->fieldView());
+}
+
+void TestFileOpeningTracks::dropLongTrack(const char *touched)
+{
+    QByteArray track("time,lon,lat\n");
+    for (int second = 0; second < 400000; ++second)
+        track += QByteArray::number(second) + ",9,49.6500\n";
+    QTimer timer;
+    timer.start(0);
+    bool wasSeen = false;
+    connect(&timer, &QTimer::timeout, this, [this, touched, &wasSeen] {
+        if (!terminal().openWindow()->isBusy() || std::exchange(wasSeen, true))
+            return;
+        if (QAbstractButton *touch = button(touched))
+            QTest::mouseClick(touch, Qt::LeftButton);
+    });
+    QVERIFY(open("three-zones.geojson", {"SEED_K_HA"}).isOk());
+    Q_EMIT terminal().window()->dropped({write(track)}, {});
+    QVERIFY(wasSeen);
+    QVERIFY(!terminal().openWindow()->isBusy());
+}
+
+void TestFileOpeningTracks::aLongTrackIsReadWithTheDisplayAlive()
+{
+    dropLongTrack("");
+    QVERIFY(!terminal().openWindow()->isVisible());
+    QCOMPARE(vehicle().mode(), Motion::Mode::Replay);
+}
+
+void TestFileOpeningTracks::aLongTrackIsGivenUp_data()
+{
+    QTest::addColumn<QByteArray>("touched");
+    QTest::addColumn<QByteArray>("seen");
+    QTest::newRow("cancelled") << QByteArray("openCancel") << QByteArray("fileRow0");
+    QTest::newRow("left for the drive") << QByteArray("drive") << QByteArray("driveStart");
+}
+
+void TestFileOpeningTracks::aLongTrackIsGivenUp()
+{
+    QFETCH(QByteArray, touched);
+    QFETCH(QByteArray, seen);
+    dropLongTrack(touched.constData());
+    QCOMPARE(vehicle().mode(), Motion::Mode::Shuttle);
+    QVERIFY(button(seen.constData()) != nullptr);
+    QCOMPARE(terminal().openWindow()->isVisible(), touched == "openCancel");
 }
 
 void TestFileOpeningTracks::whyATrackIsNotReplayedIsTold_data()

@@ -212,17 +212,14 @@ bool DriveControls::isReplay() const
     return vehicle()->mode() == Motion::Mode::Replay;
 }
 
-Result<TrackReader::Summary> DriveControls::replay(const QString &path)
+void DriveControls::replay(const QString &path)
 {
     const double set = speed();
-    const auto outcome = simulation->replay(path);
-    if (!outcome.isOk())
-        return outcome;
+    simulation->replayChecked(path);
     nextSpeed = set;
     problem.clear();
     endPause();
     Q_EMIT changed();
-    return outcome;
 }
 
 void DriveControls::pressThrottle(bool isPressed)

@@ -47,8 +47,8 @@ public:
     void takeHand();
     bool isByHand() const;
     bool isReplay() const;
-    /// Goes where a track went (Simulation::replay), and ends the operator's pause.
-    Result<TrackReader::Summary> replay(const QString &path);
+    /// Goes where a track went (Simulation::replayChecked), and ends the operator's pause.
+    void replay(const QString &path);
 
     /// By hand: speeds up, to speed() at most, while it is pressed; the machine then keeps the speed that it has.
     void pressThrottle(bool isPressed);

@@ -41,12 +41,10 @@ DriveDisplay::~DriveDisplay()
     window->fieldView()->removeAid(&layer);
 }
 
-Result<TrackReader::Summary> DriveDisplay::replay(const QString &path)
+void DriveDisplay::replay(const QString &path)
 {
-    const auto outcome = controls->replay(path);
-    if (outcome.isOk())
-        window->openDriving();
-    return outcome;
+    controls->replay(path);
+    window->openDriving();
 }
 
 void DriveDisplay::addCamera(DrivePanel *panel)

@@ -25,8 +25,8 @@ public:
 
     WorkedGround *workedGround() { return &ground; }
     DriveRecord *record() const { return driveRecord; }
-    /// Shows the controls and goes where a track went (Simulation::replay).
-    Result<TrackReader::Summary> replay(const QString &path);
+    /// Shows the controls and goes where a track went (Simulation::replayChecked).
+    void replay(const QString &path);
 
 Q_SIGNALS:
     /// The operator wants to choose a track to be replayed.

@@ -11,6 +11,7 @@
 #include "progresspage.h"
 #include "removablevolumes.h"
 #include "theme.h"
+#include "trackcheck.h"
 #include "unitpage.h"
 
 #include <QMouseEvent>
@@ -269,6 +270,8 @@ void OpenWindow::giveUp()
 {
     isGivenUp = true;
     machine->backend()->cancel();
+    if (awaited != nullptr)
+        awaited->giveUp();
 }
 
 void OpenWindow::leave()

@@ -19,6 +19,7 @@ class ProductAdoption;
 class ProgressPage;
 class QSettings;
 class QStackedLayout;
+class TrackCheck;
 class UnitPage;
 struct LoadReport;
 
@@ -44,6 +45,9 @@ public:
     void refuse(const QString &reason);
     /// Takes the report of a load that was wanted.
     void finish(const LoadReport &report);
+    /// Waits until a track that was wanted is checked, with a page that shows how far it is if that takes long; false
+    /// if the operator, or the end of the program, has ended that.
+    bool await(TrackCheck &check, const QString &track);
     /// Remembers a track that was wanted and is being replayed, and goes on.
     void finishTrack(const QString &path);
     /// Goes back to the previous page; from the page of files out of the window.
@@ -56,7 +60,8 @@ public:
 Q_SIGNALS:
     /// The operator wants this loaded; finish() is to follow.
     void wanted(const OpenRequest &request);
-    /// The operator wants this track replayed; finishTrack() or refuse() is to follow.
+    /// The operator wants this track replayed; await(), and if that is true, finishTrack() or refuse() are
+    /// to follow.
     void trackWanted(const QString &path);
     /// What was wanted is loaded.
     void opened(const LoadReport &report);
@@ -74,7 +79,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    enum class Busy { No, Surveying, Loading };
+    enum class Busy { No, Surveying, Loading, ReadingTrack };
 
     void connectPages();
     void connectPreview();
@@ -121,6 +126,7 @@ private:
     QStringList waiting; ///< Files to be shown after the present one.
     int surveys = 0;     ///< Surveys that were requested and have not ended; the last one counts.
     bool isGivenUp = false;
+    TrackCheck *awaited = nullptr; ///< Not owned; null while no track is awaited.
     QStringList together; ///< Groups of the files that were wanted together with the one shown, and are already open.
     /// What was chosen for the file earlier, while its layer and task are being tried.
     std::optional<FileChoices> remembered;

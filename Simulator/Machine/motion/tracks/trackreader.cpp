@@ -4,6 +4,7 @@
 #include "nmeaparser.h"
 #include "regularfile.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -45,20 +46,31 @@ bool TrackReader::mayRead(const QString &path)
     return CsvTrackParser().read(line, none).isEmpty();
 }
 
-Result<TrackReader::Summary> TrackReader::check(const QString &path, const std::shared_ptr<const FieldPlane> &plane)
+Result<TrackReader::Summary> TrackReader::check(const QString &path, const std::shared_ptr<const FieldPlane> &plane,
+                                                const Progress &progress)
 {
     TrackReader reader(path, plane);
-    if (!reader.error().isEmpty())
-        return Result<Summary>::failure(reader.error());
+    reader.progress = progress;
     TrackPoint point;
     bool hasPlace = false;
     while (reader.next(point))
         hasPlace = hasPlace || point.hasFix;
+    if (!reader.error().isEmpty())
+        return Result<Summary>::failure(reader.error());
     if (hasPlace)
         return {reader.told, {}};
     return Result<Summary>::failure(reader.told.firstBad.isEmpty()
                                         ? tr("%1: holds no position").arg(path)
                                         : tr("%1: holds no position; %2").arg(path, reader.told.firstBad));
+}
+
+bool TrackReader::mayGoOn()
+{
+    constexpr qint64 linesPerReport = 1000;
+    const bool isDue = progress && lineNumber > 0 && lineNumber % linesPerReport == 0;
+    if (isDue && !progress(double(file.pos()) / double(std::max(file.pos(), file.size()))))
+        problem = QStringLiteral("%1: was not read to its end").arg(file.fileName());
+    return problem.isEmpty();
 }
 
 bool TrackReader::readLine(QByteArray &line)
@@ -137,6 +149,8 @@ bool TrackReader::takeWaiting(TrackPoint &point)
 
 bool TrackReader::readOn()
 {
+    if (!mayGoOn())
+        return false;
     QByteArray line;
     if (!readLine(line)) {
         if (parser)

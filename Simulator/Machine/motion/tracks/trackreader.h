@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <functional>
 #include <memory>
 
 /// A recorded track, read entry by entry as it is needed, so that its length takes no memory: NMEA 0183, or
@@ -25,11 +26,15 @@ public:
         double seconds = 0.0;
     };
 
+    /// Takes the share that was read, 0 to 1; false ends the reading.
+    using Progress = std::function<bool(double)>;
+
     /// Whether the file begins as a track does.
     static bool mayRead(const QString &path);
     /// Reads the track once, to make sure that it can be replayed. `plane` takes its degrees to the field; null where
-    /// no field is loaded, for a track in metres alone.
-    static Result<Summary> check(const QString &path, const std::shared_ptr<const FieldPlane> &plane);
+    /// no field is loaded, for a track in metres alone. A failure if `progress` ends it.
+    static Result<Summary> check(const QString &path, const std::shared_ptr<const FieldPlane> &plane,
+                                 const Progress &progress = {});
 
     /// `plane` as above.
     TrackReader(const QString &path, const std::shared_ptr<const FieldPlane> &plane);
@@ -46,6 +51,8 @@ private:
     /// Reads one more line; false when the file is at its end.
     bool readOn();
     bool readLine(QByteArray &line);
+    /// False once the progress function has ended the reading.
+    bool mayGoOn();
     void complain(const QString &reason);
     /// Why an entry cannot follow the last good one; empty when it can.
     QString misfit(TrackPoint &point);
@@ -59,6 +66,7 @@ private:
     double firstTime = 0.0;
     std::optional<double> lastTime;
     qint64 lineNumber = 0;
+    Progress progress;
     QString problem;
     Summary told;
 };

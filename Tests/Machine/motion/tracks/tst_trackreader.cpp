@@ -52,6 +52,8 @@ private Q_SLOTS:
     void badLinesAreLeftOutAndCounted();
     void aLongTrackTakesNoMemory_data();
     void aLongTrackTakesNoMemory();
+    void aCheckTellsHowFarItIsAndCanBeEnded_data();
+    void aCheckTellsHowFarItIsAndCanBeEnded();
     void aTrackWithoutPositionsIsRefused_data();
     void aTrackWithoutPositionsIsRefused();
     void aTrackIsKnownByItsFirstLine_data();
@@ -226,6 +228,33 @@ void TestTrackReader::aLongTrackTakesNoMemory()
     QVERIFY2(meter.peak() < 64 * 1024, qPrintable(QString::number(meter.peak())));
     QCOMPARE(summary.value.points, qint64(isGood ? count : 1));
     QCOMPARE(summary.value.badLines, qint64(isGood ? 0 : count - 1));
+}
+
+void TestTrackReader::aCheckTellsHowFarItIsAndCanBeEnded_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("good lines") << QByteArray("1,2,3\n");
+    QTest::newRow("bad lines") << QByteArray("so what\n");
+}
+
+void TestTrackReader::aCheckTellsHowFarItIsAndCanBeEnded()
+{
+    QFETCH(QByteArray, line);
+    const QString path = write("time,x,y\n0,0,0\n" + line.repeated(9998));
+    std::vector<double> told;
+    QVERIFY(TrackReader::check(path, plane, [&told](double fraction) {
+                told.push_back(fraction);
+                return true;
+            }).isOk());
+    QVERIFY(told.size() == 10 && std::is_sorted(told.begin(), told.end()));
+    QVERIFY(told.front() > 0.05 && told.front() < 0.15 && told.back() > 0.9 && told.back() <= 1.0);
+    told.clear();
+    const auto ended = TrackReader::check(path, plane, [&told](double fraction) {
+        told.push_back(fraction);
+        return told.size() < 3;
+    });
+    QCOMPARE(told.size(), size_t(3));
+    QVERIFY2(ended.error.endsWith(QLatin1String("was not read to its end")), qPrintable(ended.error));
 }
 
 void TestTrackReader::aTrackWithoutPositionsIsRefused_data()
