@@ -78,7 +78,7 @@ Result<TrackReader::Summary> Simulation::replay(const QString &path)
 {
     const std::optional<QPointF> origin = machineModel->planeOrigin();
     const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
-    const auto checked = TrackReader::check(path, plane);
+    auto checked = TrackReader::check(path, plane);
     if (checked.isOk())
         replayChecked(path);
     return checked;

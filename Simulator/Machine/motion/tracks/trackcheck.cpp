@@ -23,7 +23,7 @@ Result<TrackReader::Summary> TrackCheck::read(const QString &path, const std::op
     // Of this thread alone: GDAL's transformations are not shared.
     const auto plane = origin ? std::make_shared<FieldPlane>(*origin) : nullptr;
     double told = 0.0;
-    const auto outcome = TrackReader::check(path, plane, [this, &told](double fraction) {
+    auto outcome = TrackReader::check(path, plane, [this, &told](double fraction) {
         if (fraction - told >= step) {
             told = fraction;
             Q_EMIT progress(fraction);
