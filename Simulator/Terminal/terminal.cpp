@@ -120,11 +120,7 @@ void Terminal::connectDisplay()
         if (isShown)
             findings->leave();
     });
-    connect(findings.data(), &FindingsDisplay::mapChosen, this, [this](const QString &group) {
-        const QList<int> fed = columnsOf(group).keys();
-        if (!fed.isEmpty() && !fed.contains(machineModel->activeProduct()))
-            machineModel->setActiveProduct(fed.first());
-    });
+    connect(findings.data(), &FindingsDisplay::mapChosen, this, &Terminal::activateFed);
     connect(prescriptions.data(), &PrescriptionBackend::progress, this, [this](const QString &path, double fraction) {
         // The open window has a progress bar of its own for the load it waits for.
         const bool isShownThere = opening->window()->isVisible() && opening->window()->isBusy();
@@ -133,6 +129,14 @@ void Terminal::connectDisplay()
     const auto endProgress = [this] { display->statusBar()->setProgress(QString(), 0.0); };
     connect(prescriptions.data(), &PrescriptionBackend::finished, this, endProgress);
     connect(prescriptions.data(), &PrescriptionBackend::surveyed, this, endProgress);
+}
+
+void Terminal::activateFed(const QString &group, const QString &column)
+{
+    const QMap<int, QString> columns = columnsOf(group);
+    const int shown = machineModel->activeProduct();
+    if (column.isEmpty() ? !columns.contains(shown) : columns.value(shown) != column)
+        machineModel->setActiveProduct(columns.key(column, columns.isEmpty() ? shown : columns.firstKey()));
 }
 
 OpenWindow *Terminal::openWindow() const

@@ -115,6 +115,8 @@ private:
     /// Enters the products to load for.
     void fillRequest(LoadRequest &load, const OpenRequest &request) const;
     void connectDisplay();
+    /// Makes the product active that the map's column feeds; if none does, or none is named, one that the map feeds.
+    void activateFed(const QString &group, const QString &column);
     void showDriving();
     void installGraphicsLists();
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aMapThatFeedsNothingIsNotCounted();
     void aTouchedFindingIsShownOnTheMap();
     void theMapOfATouchedFindingIsShown();
+    void theProductOfATouchedFindingIsShown();
     void whatLiesNowhereCannotBeTouched();
     void figuresAreInTheOperatorsUnits_data();
     void figuresAreInTheOperatorsUnits();
@@ -106,6 +107,25 @@ void TestFindingsDisplay::theMapOfATouchedFindingIsShown()
     button("findingsButton")->click();
     button("finding1")->click();
     QCOMPARE(terminal().machine()->activeProduct(), 2);
+}
+
+void TestFindingsDisplay::theProductOfATouchedFindingIsShown()
+{
+    QVERIFY(open("partly-without-rate.geojson", {"seed_rate", "fert_rate"}).isOk());
+    QTRY_VERIFY(button("findingsButton")->isVisible());
+    const auto touchGapsOf = [this](const QString &column) {
+        button("findingsButton")->click();
+        const auto *page = find<QWidget>("findingsPage");
+        const QRegularExpression names(QStringLiteral("^finding\\d+$"));
+        for (QAbstractButton *finding : page->findChildren<QAbstractButton *>(names)) {
+            if (finding->text().contains(QStringLiteral("no rate in column")) && finding->text().contains(column))
+                return finding->click();
+        }
+    };
+    touchGapsOf(QStringLiteral("fert_rate"));
+    QCOMPARE(terminal().machine()->activeProduct(), 2);
+    touchGapsOf(QStringLiteral("seed_rate"));
+    QCOMPARE(terminal().machine()->activeProduct(), 1);
 }
 
 void TestFindingsDisplay::whatLiesNowhereCannotBeTouched()

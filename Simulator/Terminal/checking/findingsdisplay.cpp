@@ -145,7 +145,7 @@ void FindingsDisplay::show(int number)
     const FindingsPage::Entry entry = entries.at(number);
     const MapFinding &finding = entry.finding;
     page->hide();
-    Q_EMIT mapChosen(entry.group);
+    Q_EMIT mapChosen(entry.group, finding.column);
     window->fieldView()->frame(viewAround(finding.extent));
     window->overlay()->setMark(finding.extent, *finding.place);
 }

@@ -27,8 +27,8 @@ public:
     void leave();
 
 Q_SIGNALS:
-    /// A finding in the map of that group is about to be shown.
-    void mapChosen(const QString &group);
+    /// A finding in the map of that group is about to be shown. `column`: in which it is seen; empty for any.
+    void mapChosen(const QString &group, const QString &column);
 
 private:
     void check(const LoadReport &report);

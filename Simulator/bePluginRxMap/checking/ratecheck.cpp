@@ -115,6 +115,7 @@ void RateCheck::tellFar(std::vector<Entry> sorted, FindingList &findings) const
         const double rate = entry->rate;
         MapFinding finding;
         finding.kind = MapFinding::Kind::Outlier;
+        finding.column = column.name;
         finding.area = 0.0;
         RingExtent extent;
         finding.place =

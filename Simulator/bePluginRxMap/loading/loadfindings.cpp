@@ -77,6 +77,7 @@ void LoadFindings::addCounted(MapFinding::Kind kind, const std::vector<int> &rec
     unique.erase(std::unique(unique.begin(), unique.end()), unique.end());
     MapFinding finding;
     finding.kind = kind;
+    finding.column = words.column;
     finding.text =
         QStringLiteral("%1 %2 (%3)")
             .arg(QString::number(records.size()), records.size() == 1 ? words.one : words.many, textOf(unique));

@@ -12,6 +12,8 @@ public:
     struct Words {
         QString one;
         QString many;
+        /// In which the records are what the words say; empty for all.
+        QString column = {};
     };
 
     /// `report` is not owned and outlives this; it names the file.

@@ -77,7 +77,7 @@ void RecordSelection::tellGaps(const std::vector<PlanePolygon> &polygons, const 
         const QString &column = columns.at(static_cast<int>(i));
         findings.addCounted(Kind::Skipped, gaps,
                             {BackendText::tr("record has no rate in column \"%1\"").arg(column),
-                             BackendText::tr("records have no rate in column \"%1\"").arg(column)},
+                             BackendText::tr("records have no rate in column \"%1\"").arg(column), column},
                             polygons);
     }
 }

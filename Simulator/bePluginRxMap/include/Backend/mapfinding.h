@@ -43,6 +43,8 @@ struct MapFinding {
     std::optional<double> area;
     /// A point of the local plane where it can be seen, metres, if there is one.
     std::optional<QPointF> place;
+    /// The column in which it is seen; empty if it concerns all.
+    QString column = {};
     /// Extent of what it is about in the local plane, metres (top = least y); null where there is no place.
     QRectF extent = {};
 };
