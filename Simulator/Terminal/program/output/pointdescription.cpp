@@ -4,6 +4,7 @@
 #include "machine.h"
 #include "ratesourcetext.h"
 #include "terminal.h"
+#include "unitsystem.h"
 
 #include <algorithm>
 #include <optional>
@@ -39,6 +40,14 @@ std::optional<QPointF> onPlane(const QPointF &field, const QPointF &shown, const
     return degrees ? FieldPlane(other).toField(*degrees) : std::nullopt;
 }
 
+/// Column and unit of the file, behind the unit in which the rate is shown if that is another one.
+QString sourceText(const RateSource &source, const QString &shownUnit)
+{
+    const QString fileUnit = fileUnitText(source);
+    const QString shown = shownUnit.isEmpty() || shownUnit == fileUnit ? QString() : shownUnit + QLatin1String("; ");
+    return QStringLiteral(" (%1%2, %3)").arg(shown, source.column, fileUnit);
+}
+
 } // namespace
 
 QStringList describePoint(Terminal &terminal, const QPointF &field, const QString &name)
@@ -57,7 +66,8 @@ QStringList describePoint(Terminal &terminal, const QPointF &field, const QStrin
         if (text.isEmpty())
             text = QStringLiteral("No rate is prescribed at ") + name;
         else if (feed)
-            text += QStringLiteral(" (%1, %2)").arg(feed->source.column, fileUnitText(feed->source));
+            text += sourceText(feed->source,
+                               rateUnit(machine->products().at(number - 1).rateKind(), machine->unitSystem()));
         lines.append(QStringLiteral("product %1 (%2): %3")
                          .arg(QString::number(number), machine->products().at(number - 1).name, text));
     }
