@@ -61,7 +61,7 @@ const QSet<QString> &nutrients()
 
 const QSet<QString> &totalWords()
 {
-    static const QSet<QString> words = wordSet("total totals tot sum summe gesamt qt qty quantity");
+    static const QSet<QString> words = wordSet("total totals tot sum summe gesamt ges qt qty quantity");
     return words;
 }
 

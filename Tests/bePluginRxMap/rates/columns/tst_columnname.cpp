@@ -56,7 +56,7 @@ void ColumnNameTest::tellsRatesFromTheRest()
 void ColumnNameTest::tellsTotalsFromOtherThings_data()
 {
     QTest::addColumn<bool>("total");
-    for (const char *name : {"QT_kg", "total", "Total_kg", "TOTAL_KG_HA", "SUM_RATE", "Gesamt", "qty1"})
+    for (const char *name : {"QT_kg", "total", "Total_kg", "TOTAL_KG_HA", "SUM_RATE", "Gesamt", "Menge_ges", "qty1"})
         QTest::newRow(name) << true;
     for (const char *name : {"Total_Area", "Tot_Yield", "SUM_K_mg_kg", "Total_N_ppm", "ID", "AREA_HA", "Rate", "Urea",
                              "TOTAL_ID", "qt_acre"})
