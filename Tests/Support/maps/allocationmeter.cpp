@@ -1,5 +1,5 @@
 // Without sanitizers the malloc family defined here stands in front of the C library's own, which it calls by glibc's
-// names for it; with them, the address sanitizer reports every block.
+// names for it; with them, the sanitizer reports every block.
 
 #include "allocationmeter.h"
 
