@@ -7,9 +7,12 @@
 namespace {
 
 /// Sign, digits, exponent and what follows. A lone point or comma sets off decimals; if there are more, the last kind
-/// sets off decimals and the other thousands.
-const char pattern[] = R"(^([+-]?)((?:\d++(?:[.,]\d*+)?|[.,]\d++|\d{1,3}(?:,\d{3})+\.\d+|\d{1,3}(?:\.\d{3})+,\d+)"
-                       R"(|\d{1,3}(?:,\d{3}){2,}|\d{1,3}(?:\.\d{3}){2,})(?:[eE][+-]?\d+)?)\s*((?:\p{L}|1000).*|)$)";
+/// sets off decimals and the other thousands. So do apostrophes and blanks that do not break a line.
+const char pattern[] = R"(^([+-]?)((?:\d++(?:[.,]\d*+)?|[.,]\d++)"
+                       R"(|\d{1,3}(?:,\d{3})+\.\d+|\d{1,3}(?:\.\d{3})+,\d+)"
+                       R"(|\d{1,3}(?:,\d{3}){2,}|\d{1,3}(?:\.\d{3}){2,})"
+                       R"(|\d{1,3}(?:['\x{a0}\x{2009}\x{2019}\x{202f}]\d{3})+(?:[.,]\d+)?))"
+                       R"((?:[eE][+-]?\d+)?)[\s\h]*((?:\p{L}|1000).*|)$)";
 
 QString withDecimalPoint(QString digits)
 {
@@ -20,6 +23,8 @@ QString withDecimalPoint(QString digits)
         digits.remove(QLatin1Char('.'));
     if (commas > 1 || (commas == 1 && !isCommaLast))
         digits.remove(QLatin1Char(','));
+    static const QRegularExpression separators(QStringLiteral("[^0-9.,eE+-]"));
+    digits.remove(separators);
     return digits.replace(QLatin1Char(','), QLatin1Char('.'));
 }
 

@@ -34,6 +34,11 @@ void TextRateTest::readsNumbersAsTheyAreWritten_data()
     row("1,234.5", 1234.5);
     row("1,234,567", 1234567.0);
     row("1.234.567,25", 1234567.25);
+    row("1'234'567.5", 1234567.5);
+    row("1\u2019500 kg/ha", 1500.0, "kg/ha"); // Apostrophe, no-break space, narrow one, thin space.
+    row("1\u00a0500\u00a0kg/ha", 1500.0, "kg/ha");
+    row("32\u202f000,5", 32000.5);
+    row("32\u2009000", 32000.0);
     row("1.234", 1.234);
     row("32,000", 32.0, "", true);
     row("1234,000", 1234.0);
@@ -56,7 +61,7 @@ void TextRateTest::refusesWhatIsNoNumber_data()
 {
     QTest::addColumn<bool>("none");
     for (const char *text : {"none", "kg/ha", "10-20", "1.2.3", "2020.01.02", "1,2,3", "1,5;2", "12 / 3", "nan", "inf",
-                             ".", "+", "1.234,567,8", "100 200"})
+                             ".", "+", "1.234,567,8", "100 200", "1'23", "1'2345"})
         QTest::newRow(text) << true;
 }
 
