@@ -24,8 +24,8 @@ void TestTerminalRunPoints::aPointIsDescribed_data()
         QTest::newRow(title) << point << units << line;
     };
     row("west", "-100,0", "metric", "Rx Rate: 70.00 (SEED_K_HA, k/ha)");
-    row("per acre", "-100,0", "us", "Rx Rate: 28.33 (k/ac; SEED_K_HA, k/ha)");
-    row("per 1000 square feet", "-100,0", "turf", "Rx Rate: 0.65 (k/tu; SEED_K_HA, k/ha)");
+    row("per acre", "-100,0", "us", "Rx Rate: 28.33 (SEED_K_HA, k/ha), shown in k/ac");
+    row("per 1000 square feet", "-100,0", "turf", "Rx Rate: 0.65 (SEED_K_HA, k/ha), shown in k/tu");
     row("outside", "-1000,0", "metric", "No rate is prescribed at -1000,0");
 }
 
@@ -79,10 +79,10 @@ void TestTerminalRunPoints::theUnitOfTheFileIsTold_data()
     QTest::newRow("by its name") << QStringList{"--columns", "SEED_K_HA"} << "Rx Rate: 80.00 (SEED_K_HA, k/ha)"
                                  << "SEED_K_HA (k/ha, from the name)";
     QTest::newRow("by the operator") << QStringList{"--columns", "SEED_K_HA", "--source-units", "seeds/m2"}
-                                     << "Rx Rate: 800.00 (k/ha; SEED_K_HA, seeds/m2)"
+                                     << "Rx Rate: 800.00 (SEED_K_HA, seeds/m2), shown in k/ha"
                                      << "SEED_K_HA (seeds/m2, named by the operator)";
     QTest::newRow("by the operator, for a likely column")
-        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68 (k/ha; SEED_K_HA, k/ac)"
+        << QStringList{"--source-units", "1000/ac"} << "Rx Rate: 197.68 (SEED_K_HA, k/ac), shown in k/ha"
         << "SEED_K_HA (k/ac, named by the operator)";
 }
 
@@ -113,7 +113,7 @@ void TestTerminalRunPoints::theRatesAroundATaskAreTold()
     const QString column = QStringLiteral("Setpoint Mass Per Area Application Rate");
     const QString product = QStringLiteral("product 1 (Mass): ");
     QCOMPARE(outcome.answer.section(QLatin1Char('\n'), 0, 0),
-             QStringLiteral("%1Rx Rate: 200.00 (kg/ha; %2, mg/m2)").arg(product, column));
+             QStringLiteral("%1Rx Rate: 200.00 (%2, mg/m2), shown in kg/ha").arg(product, column));
     const QString told = folder.path() + QStringLiteral(": ") + product;
     QCOMPARE(QString(outcome.output).remove(outcome.answer),
              told + column + QStringLiteral(" (mg/m2, from the format)\n") + told

@@ -151,7 +151,8 @@ void TestTerminalRunProducts::withoutOneTheyComeFromTheFirstPrescription_data()
         write(square("Urea_lb_ac", 100, 11.0, 48.0).replace("\"Urea", "\"GPA\":3,\"Urea"), "urea.geojson");
     QTest::newRow("pounds") << QStringList{"--units", "us", pounds}
                             << QStringList{"1 (Rate_lb_ac): Rx Rate: 150.00 (Rate_lb_ac, lb/ac)"};
-    QTest::newRow("gallons") << QStringList{gallons} << QStringList{"1 (GPA): Rx Rate: 140.31 (L/ha; GPA, gal/ac)"};
+    QTest::newRow("gallons") << QStringList{gallons}
+                             << QStringList{"1 (GPA): Rx Rate: 140.31 (GPA, gal/ac), shown in L/ha"};
     QTest::newRow("seed by weight") << QStringList{seed}
                                     << QStringList{"1 (Seed): Rx Rate: 180.00 (SEED_kg_ha, kg/ha)"};
     QTest::newRow("four columns") << QStringList{four}
@@ -162,11 +163,11 @@ void TestTerminalRunProducts::withoutOneTheyComeFromTheFirstPrescription_data()
     QTest::newRow("a column named") << QStringList{"--columns", ",UREA_kg_ha", four}
                                     << QStringList{"2 (Urea): Rx Rate: 1.00 (UREA_kg_ha, kg/ha)"};
     QTest::newRow("a unit named") << QStringList{"--source-units", "gal/ac", "--columns", "UREA_kg_ha", four}
-                                  << QStringList{"1 (Urea): Rx Rate: 9.35 (L/ha; UREA_kg_ha, gal/ac)"};
+                                  << QStringList{"1 (Urea): Rx Rate: 9.35 (UREA_kg_ha, gal/ac), shown in L/ha"};
     // The same product in another file, in another unit.
     QTest::newRow("a second file") << QStringList{four, other}
-                                   << QStringList{"1 (A): Rx Rate: 28.06 (L/ha; GPA, gal/ac)",
-                                                  "4 (Urea): Rx Rate: 112.09 (kg/ha; Urea_lb_ac, lb/ac)"};
+                                   << QStringList{"1 (A): Rx Rate: 28.06 (GPA, gal/ac), shown in L/ha",
+                                                  "4 (Urea): Rx Rate: 112.09 (Urea_lb_ac, lb/ac), shown in kg/ha"};
 }
 
 void TestTerminalRunProducts::withoutOneTheyComeFromTheFirstPrescription()

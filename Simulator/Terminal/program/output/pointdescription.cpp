@@ -40,12 +40,12 @@ std::optional<QPointF> onPlane(const QPointF &field, const QPointF &shown, const
     return degrees ? FieldPlane(other).toField(*degrees) : std::nullopt;
 }
 
-/// Column and unit of the file, behind the unit in which the rate is shown if that is another one.
+/// Column and unit of the file, and the unit in which the rate is shown if that is another one.
 QString sourceText(const RateSource &source, const QString &shownUnit)
 {
     const QString fileUnit = fileUnitText(source);
-    const QString shown = shownUnit.isEmpty() || shownUnit == fileUnit ? QString() : shownUnit + QLatin1String("; ");
-    return QStringLiteral(" (%1%2, %3)").arg(shown, source.column, fileUnit);
+    const QString text = QStringLiteral(" (%1, %2)").arg(source.column, fileUnit);
+    return shownUnit.isEmpty() || shownUnit == fileUnit ? text : text + QStringLiteral(", shown in ") + shownUnit;
 }
 
 } // namespace
