@@ -320,6 +320,14 @@
         <translation>kein Produkt, das einer Karte folgen darf, passt zur Einheit von %1</translation>
     </message>
     <message>
+        <source>column %1 feeds no product</source>
+        <translation>Spalte %1 speist kein Produkt</translation>
+    </message>
+    <message>
+        <source>columns %1 feed no product</source>
+        <translation>die Spalten %1 speisen kein Produkt</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; is a guess: nothing in its name says that it holds rates</source>
         <translation>Spalte „%1“ ist geraten: nichts an ihrem Namen sagt, dass sie Mengen enthält</translation>
     </message>

@@ -320,6 +320,14 @@
         <translation>ningún producto que una prescripción pueda controlar corresponde a la unidad de %1</translation>
     </message>
     <message>
+        <source>column %1 feeds no product</source>
+        <translation>la columna %1 no alimenta ningún producto</translation>
+    </message>
+    <message>
+        <source>columns %1 feed no product</source>
+        <translation>las columnas %1 no alimentan ningún producto</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; is a guess: nothing in its name says that it holds rates</source>
         <translation>la columna «%1» es una suposición: nada en su nombre indica que contenga dosis</translation>
     </message>

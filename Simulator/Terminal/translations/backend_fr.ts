@@ -320,6 +320,14 @@
         <translation>aucun produit qu’une préconisation peut commander ne convient à l’unité de %1</translation>
     </message>
     <message>
+        <source>column %1 feeds no product</source>
+        <translation>la colonne %1 n’alimente aucun produit</translation>
+    </message>
+    <message>
+        <source>columns %1 feed no product</source>
+        <translation>les colonnes %1 n’alimentent aucun produit</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; is a guess: nothing in its name says that it holds rates</source>
         <translation>la colonne «&#xa0;%1&#xa0;» est supposée&#xa0;: rien dans son nom n’indique qu’elle contient des doses</translation>
     </message>

@@ -320,6 +320,14 @@
         <translation>nenhum produto que uma prescrição possa controlar corresponde à unidade de %1</translation>
     </message>
     <message>
+        <source>column %1 feeds no product</source>
+        <translation>a coluna %1 não alimenta nenhum produto</translation>
+    </message>
+    <message>
+        <source>columns %1 feed no product</source>
+        <translation>as colunas %1 não alimentam nenhum produto</translation>
+    </message>
+    <message>
         <source>column &quot;%1&quot; is a guess: nothing in its name says that it holds rates</source>
         <translation>a coluna “%1” é uma suposição: nada em seu nome indica que contenha doses</translation>
     </message>

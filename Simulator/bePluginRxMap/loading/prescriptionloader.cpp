@@ -227,6 +227,8 @@ bool PrescriptionLoader::chooseColumns(LoadedMap &map)
     const ColumnPolicy::Decision decision = policy.decide(source, polygons);
     for (const MapFinding &finding : decision.findings)
         findings->add(finding);
+    for (const QString &warning : decision.warnings)
+        findings->remark(warning);
     if (!decision.error.isEmpty())
         return fail(decision.error);
     map.report.sources = decision.sources;

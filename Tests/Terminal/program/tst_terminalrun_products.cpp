@@ -15,6 +15,7 @@ private Q_SLOTS:
     void whatALoadCountsIsTold_data();
     void whatALoadCountsIsTold();
     void aProductThatNoPrescriptionDrivesIsFedByNone();
+    void columnsThatFeedNoProductAreNamed();
     void productsComeFromAFile();
     void withoutOneTheyComeFromTheFirstPrescription_data();
     void withoutOneTheyComeFromTheFirstPrescription();
@@ -119,6 +120,14 @@ void TestTerminalRunProducts::aProductThatNoPrescriptionDrivesIsFedByNone()
     QCOMPARE(some.errors, reason + QLatin1Char('\n'));
     const Outcome none = run({"--products", products, "--columns", ",HERB_L_HA", "--script", script, zones()});
     QCOMPARE(none.error, reason);
+}
+
+void TestTerminalRunProducts::columnsThatFeedNoProductAreNamed()
+{
+    const QString products = write(R"([{"name": "Lime", "kind": "weight"}])", "lime.json");
+    const Outcome outcome = run({"--products", products, "--source-units", "kg/ha", "--describe", "0,0", zones()});
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.errors, zones() + QStringLiteral(": columns \"SEED_K_HA\", \"HERB_L_HA\" feed no product\n"));
 }
 
 void TestTerminalRunProducts::productsComeFromAFile()

@@ -33,9 +33,6 @@ bool suits(const LikelyColumn &column, const MachineProduct &product)
     return column.basis != ProductLineItem::None && column.basis == basisOf(product.kind);
 }
 
-/// Longer lists than this are cut short.
-constexpr int maxTold = 10;
-
 bool areEmpty(const QStringList &names)
 {
     return names.join(QString()).isEmpty();
@@ -172,22 +169,38 @@ void ColumnPolicy::decideLikely(const RawPrescription &source, const LikelyColum
     decision.feeds = feedLikely(source, likely.columns(), waiting);
     if (decision.feeds.empty())
         decision.feeds = feedLikely(source, likely.columns(), driven);
+    tellUnfed(source, likely, driven, decision);
+}
+
+void ColumnPolicy::tellUnfed(const RawPrescription &source, const LikelyColumns &likely, const std::vector<int> &driven,
+                             Decision &decision) const
+{
     QStringList unfit;
+    QStringList unfed;
     for (const LikelyColumn &column : likely.columns()) {
+        const SourceColumn &named = source.columns[static_cast<size_t>(column.place)];
+        const bool isFed = std::any_of(decision.feeds.begin(), decision.feeds.end(),
+                                       [&](const Feed &feed) { return feed.column == column.place; });
         const bool fitsAny =
             std::any_of(driven.begin(), driven.end(), [&](int product) { return fits(column, product); });
         if (!fitsAny)
-            unfit.append(QStringLiteral("\"%1\" (%2)")
-                             .arg(source.columns[static_cast<size_t>(column.place)].name, column.unit.unit.text()));
+            unfit.append(QStringLiteral("\"%1\" (%2)").arg(named.name, column.unit.unit.text()));
+        else if (!isFed && LikelyColumns::saysRates(named))
+            unfed.append(QStringLiteral("\"%1\"").arg(named.name));
     }
-    const QString line = BackendText::tr("no product that a prescription may drive fits the unit of %1")
-                             .arg(QStringList(unfit.mid(0, maxTold)).join(QStringLiteral(", ")));
+    const QString line =
+        BackendText::tr("no product that a prescription may drive fits the unit of %1").arg(TableColumns::list(unfit));
     if (likely.columns().empty())
         decision.error = likely.reasonForNone();
     else if (decision.feeds.empty())
         decision.error = line;
     else if (!unfit.isEmpty())
         decision.findings.append(finding(MapFinding::Kind::UnitMismatch, line));
+    if (!unfed.isEmpty()) {
+        const QString text = unfed.size() == 1 ? BackendText::tr("column %1 feeds no product")
+                                               : BackendText::tr("columns %1 feed no product");
+        decision.warnings.append(text.arg(TableColumns::list(unfed)));
+    }
 }
 
 bool ColumnPolicy::fits(const LikelyColumn &column, int product) const

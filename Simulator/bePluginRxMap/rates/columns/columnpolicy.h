@@ -41,6 +41,8 @@ public:
         QList<RateSource> sources;
         /// What was left out of the columns, or assumed.
         QList<MapFinding> findings;
+        /// What is no fault of the map, without the file's name: columns called rates that found no product left.
+        QStringList warnings;
         /// Why no product can be fed, without the file's name; empty when one can.
         QString error;
     };
@@ -83,6 +85,9 @@ private:
     void leaveOutUndriven();
     void readUnits(const QStringList &texts);
     void decideLikely(const RawPrescription &source, const LikelyColumns &likely, Decision &decision) const;
+    /// Reports the columns that feed nothing; `driven`: products that a prescription may drive.
+    void tellUnfed(const RawPrescription &source, const LikelyColumns &likely, const std::vector<int> &driven,
+                   Decision &decision) const;
     bool fits(const LikelyColumn &column, int product) const;
     /// Enters what is reported about a feed, and its factor.
     void describe(const SourceColumn &column, ColumnUnit unit, Feed &feed, Decision &decision) const;

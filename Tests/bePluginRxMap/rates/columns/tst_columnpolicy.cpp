@@ -10,6 +10,8 @@ class ColumnPolicyTest : public TestBase {
 private Q_SLOTS:
     void handsColumnsOut_data();
     void handsColumnsOut();
+    void namesRateColumnsThatFeedNoProduct_data();
+    void namesRateColumnsThatFeedNoProduct();
     void feedsOnlyProductsThatAPrescriptionMayDrive();
     void feedsProductsFirstThatNoOtherFileFeeds();
     void saysWhatItLeavesOut();
@@ -63,6 +65,40 @@ void ColumnPolicyTest::handsColumnsOut()
     QFETCH(QStringList, named);
     named.replaceInStrings(QStringLiteral("-"), QString());
     QTEST(ColumnSketch::feeds(ColumnPolicy(machine(), named), tableOf(table)), "feeds");
+}
+
+void ColumnPolicyTest::namesRateColumnsThatFeedNoProduct_data()
+{
+    QTest::addColumn<QStringList>("table");
+    QTest::addColumn<QStringList>("named");
+    QTest::addColumn<QStringList>("warnings");
+    const QStringList none;
+    QStringList many;
+    QStringList quoted;
+    for (int number = 1; number <= 26; ++number)
+        many.append(QStringLiteral("rate%1").arg(number));
+    for (int number = 4; number <= 23; ++number)
+        quoted.append(QStringLiteral("\"rate%1\"").arg(number));
+    QTest::newRow("all feed") << QStringList(many.mid(0, 3)) << none << none;
+    QTest::newRow("one") << QStringList(many.mid(0, 4)) << none << QStringList("column \"rate4\" feeds no product");
+    QTest::newRow("two") << QStringList(many.mid(0, 5)) << none
+                         << QStringList("columns \"rate4\", \"rate5\" feed no product");
+    QTest::newRow("many") << many << none
+                          << QStringList("columns " + quoted.join(", ") + " and 3 more feed no product");
+    QTest::newRow("two that suit one product")
+        << QStringList{"a_l_ha", "b_l_ha"} << none << QStringList("column \"b_l_ha\" feeds no product");
+    QTest::newRow("left out by the operator") << many << QStringList("rate1") << none;
+    QTest::newRow("guesses") << QStringList{"a", "b", "c", "d"} << none << none;
+    QTest::newRow("what was applied, and a total")
+        << QStringList{"Target_kg_ha", "Applied_kg_ha", "QT_kg"} << none << none;
+}
+
+void ColumnPolicyTest::namesRateColumnsThatFeedNoProduct()
+{
+    QFETCH(QStringList, table);
+    QFETCH(QStringList, named);
+    const auto decision = ColumnPolicy(machine(), named).decide(tableOf(table), polygons());
+    QTEST(decision.warnings, "warnings");
 }
 
 void ColumnPolicyTest::feedsOnlyProductsThatAPrescriptionMayDrive()

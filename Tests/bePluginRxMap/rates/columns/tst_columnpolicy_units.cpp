@@ -175,6 +175,7 @@ void ColumnPolicyUnitsTest::namesColumnsThatFitNoProduct()
     QCOMPARE(some.error, QString());
     QCOMPARE(textsOf(some.findings), QStringList(line));
     QCOMPARE(some.findings.first().kind, MapFinding::Kind::UnitMismatch);
+    QCOMPARE(some.warnings, QStringList());
 }
 
 RXMAP_TEST(ColumnPolicyUnitsTest, Core)
