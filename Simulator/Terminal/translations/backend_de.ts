@@ -292,6 +292,18 @@
         <translation>es gibt kein Produkt, für das sie geladen werden könnte</translation>
     </message>
     <message>
+        <source>the unit of column &quot;%1&quot; is %2 by its entries, which count, but %3 by its name</source>
+        <translation>die Einheit der Spalte „%1“ ist laut ihren Einträgen %2, was gilt, laut ihrem Namen aber %3</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its entries</source>
+        <translation>die Einheit der Spalte „%1“ ist laut Spalte „%3“ %2, was gilt, laut ihren Einträgen aber %4</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its name</source>
+        <translation>die Einheit der Spalte „%1“ ist laut Spalte „%3“ %2, was gilt, laut ihrem Namen aber %4</translation>
+    </message>
+    <message>
         <source>%1 columns are named, but the machine has %2 products</source>
         <translation>%1 Spalten sind genannt, die Maschine hat aber %2 Produkte</translation>
     </message>

@@ -292,6 +292,18 @@
         <translation>no hay ningún producto para el que cargarlo</translation>
     </message>
     <message>
+        <source>the unit of column &quot;%1&quot; is %2 by its entries, which count, but %3 by its name</source>
+        <translation>la unidad de la columna «%1» es %2 según sus valores, que cuentan, pero %3 según su nombre</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its entries</source>
+        <translation>la unidad de la columna «%1» es %2 según la columna «%3», que cuenta, pero %4 según sus valores</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its name</source>
+        <translation>la unidad de la columna «%1» es %2 según la columna «%3», que cuenta, pero %4 según su nombre</translation>
+    </message>
+    <message>
         <source>%1 columns are named, but the machine has %2 products</source>
         <translation>se indican más columnas (%1) que productos tiene la máquina (%2)</translation>
     </message>

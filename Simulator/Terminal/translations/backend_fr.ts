@@ -292,6 +292,18 @@
         <translation>il n’y a aucun produit pour lequel le charger</translation>
     </message>
     <message>
+        <source>the unit of column &quot;%1&quot; is %2 by its entries, which count, but %3 by its name</source>
+        <translation>l’unité de la colonne «&#xa0;%1&#xa0;» est %2 d’après ses valeurs, qui comptent, mais %3 d’après son nom</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its entries</source>
+        <translation>l’unité de la colonne «&#xa0;%1&#xa0;» est %2 d’après la colonne «&#xa0;%3&#xa0;», qui compte, mais %4 d’après ses valeurs</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its name</source>
+        <translation>l’unité de la colonne «&#xa0;%1&#xa0;» est %2 d’après la colonne «&#xa0;%3&#xa0;», qui compte, mais %4 d’après son nom</translation>
+    </message>
+    <message>
         <source>%1 columns are named, but the machine has %2 products</source>
         <translation>plus de colonnes indiquées (%1) que de produits sur la machine (%2)</translation>
     </message>

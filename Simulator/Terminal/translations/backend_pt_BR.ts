@@ -292,6 +292,18 @@
         <translation>não há nenhum produto para o qual carregá-lo</translation>
     </message>
     <message>
+        <source>the unit of column &quot;%1&quot; is %2 by its entries, which count, but %3 by its name</source>
+        <translation>a unidade da coluna “%1” é %2 segundo os seus valores, que contam, mas %3 segundo o seu nome</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its entries</source>
+        <translation>a unidade da coluna “%1” é %2 segundo a coluna “%3”, que conta, mas %4 segundo os seus valores</translation>
+    </message>
+    <message>
+        <source>the unit of column &quot;%1&quot; is %2 by column &quot;%3&quot;, which counts, but %4 by its name</source>
+        <translation>a unidade da coluna “%1” é %2 segundo a coluna “%3”, que conta, mas %4 segundo o seu nome</translation>
+    </message>
+    <message>
         <source>%1 columns are named, but the machine has %2 products</source>
         <translation>foram indicadas mais colunas (%1) do que os produtos da máquina (%2)</translation>
     </message>

@@ -135,6 +135,12 @@ RateUnit ColumnName::unit() const
     return perArea.isKnown() || !hasRateWord() ? perArea : RateUnit::findAmount(words, mayBeCut);
 }
 
+bool ColumnName::contradicts(const RateUnit &other) const
+{
+    const RateUnit perArea = RateUnit::find(words, mayBeCut);
+    return (perArea.isKnown() ? perArea : unit().perAreaOf(other)).differsFrom(other);
+}
+
 bool ColumnName::namesUnit() const
 {
     static const QSet<QString> names = wordSet("unit units uom einheit unite unidad unidade");

@@ -28,6 +28,8 @@ public:
     /// The unit per area; in a name with a word for a rate, an amount alone counts as well. Not known when there is
     /// none.
     RateUnit unit() const;
+    /// Whether the name says another unit than this one; where it says no area, another amount.
+    bool contradicts(const RateUnit &other) const;
     /// What is left of the name without words for a rate and without its unit, spelled readably: "Urea" for
     /// "UREA_KG_HA". The whole name where nothing is left.
     QString product() const;

@@ -67,6 +67,18 @@ void tellEntries(const RawPrescription &source, const SourceColumn &column, Colu
                         .arg(column.ambiguous, column.name)));
 }
 
+/// How a unit is reported that another source contradicts.
+QString contradictionText(const QString &column, const ColumnUnit &unit)
+{
+    if (unit.beside == nullptr)
+        return BackendText::tr("the unit of column \"%1\" is %2 by its entries, which count, but %3 by its name")
+            .arg(column, unit.unit.text(), unit.other.text());
+    const QString text = unit.otherFrom == RateSource::UnitFrom::Text
+        ? BackendText::tr("the unit of column \"%1\" is %2 by column \"%3\", which counts, but %4 by its entries")
+        : BackendText::tr("the unit of column \"%1\" is %2 by column \"%3\", which counts, but %4 by its name");
+    return text.arg(column, unit.unit.text(), unit.beside->name, unit.other.text());
+}
+
 } // namespace
 
 ColumnPolicy::ColumnPolicy(const QList<MachineProduct> &machineProducts, const QStringList &namedColumns,
@@ -242,6 +254,8 @@ void ColumnPolicy::describe(const SourceColumn &column, ColumnUnit unit, Feed &f
         tell(Kind::UnitUnknown,
              BackendText::tr("\"%1\", given for column \"%2\", is no unit of a rate")
                  .arg(unit.unknownText, column.name));
+    if (unit.other.isKnown())
+        tell(Kind::UnitMismatch, contradictionText(column.name, unit));
     if (!unit.unit.isKnown() && !base.isEmpty())
         tell(Kind::UnitUnknown,
              BackendText::tr("the unit of column \"%1\" is not known, taken as %2").arg(column.name, base));

@@ -4,6 +4,24 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Enters what sources that count less than the unit's say to the contrary.
+void compare(const SourceColumn &column, ColumnUnit &unit)
+{
+    const RateUnit behind = RateUnit::fromText(column.unit);
+    const ColumnName name(column.name);
+    if (unit.from == RateSource::UnitFrom::Column && behind.differsFrom(unit.unit)) {
+        unit.other = behind;
+        unit.otherFrom = RateSource::UnitFrom::Text;
+    } else if (name.contradicts(unit.unit)) {
+        unit.other = name.unit();
+        unit.otherFrom = RateSource::UnitFrom::Name;
+    }
+}
+
+} // namespace
+
 ColumnUnits::ColumnUnits(const RawPrescription &rawPrescription)
     : source(rawPrescription)
 {
@@ -62,14 +80,18 @@ ColumnUnit ColumnUnits::of(int place) const
     if (const TextColumn *beside = unitsBeside(column.field)) {
         if (beside->isMixed)
             result.mixed = beside;
-        else if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column))
+        else if (take(RateUnit::fromText(beside->text), RateSource::UnitFrom::Column)) {
+            result.beside = beside;
+            compare(column, result);
             return result;
-        else
+        } else
             result.unknownText = beside->text;
     }
     if (!column.unit.isEmpty()) {
-        if (take(RateUnit::fromText(column.unit), RateSource::UnitFrom::Text))
+        if (take(RateUnit::fromText(column.unit), RateSource::UnitFrom::Text)) {
+            compare(column, result);
             return result;
+        }
         result.unknownText = column.unit;
     }
     take(ColumnName(column.name).unit(), RateSource::UnitFrom::Name);

@@ -15,6 +15,11 @@ struct ColumnUnit {
     /// The column of units beside the rates if its records differ, which makes it useless; null otherwise. Owned by the
     /// RawPrescription.
     const TextColumn *mixed = nullptr;
+    /// The column of units that says it; null where another source does. Owned by the RawPrescription.
+    const TextColumn *beside = nullptr;
+    /// What the rates themselves, else the column's name, say to the contrary; not known when they do not.
+    RateUnit other = {};
+    RateSource::UnitFrom otherFrom = RateSource::UnitFrom::Assumed;
 };
 
 /// The units of a file's columns, as the file says them.

@@ -269,6 +269,17 @@ QString RateUnit::text() const
     return isKnown() ? QLatin1String(amount->symbol) + QLatin1Char('/') + QLatin1String(area->symbol) : QString();
 }
 
+bool RateUnit::differsFrom(const RateUnit &other) const
+{
+    if (!isKnown() || !other.isKnown())
+        return false;
+    const RateUnit one = of(DbGroupProductGroupInfo::VolumeRate);
+    const RateUnit two = other.of(DbGroupProductGroupInfo::VolumeRate);
+    // Both products are of the same dimension, so that units of the same worth ("dt/ha", "kg/a") are equal.
+    return one.basis() != two.basis()
+        || !qFuzzyCompare(one.amount->factor * two.area->hectares, two.amount->factor * one.area->hectares);
+}
+
 RateUnit RateUnit::of(Kind kind) const
 {
     static const AmountUnit *const ounce = UnitTable::amount("oz");

@@ -36,6 +36,11 @@ public:
     QString text() const;
     ProductLineItem::Basis basis() const { return isKnown() ? amount->basis : ProductLineItem::None; }
 
+    /// Whether the same number is another rate in the other unit. False when either is unknown; ounces may be of a
+    /// liquid.
+    bool differsFrom(const RateUnit &other) const;
+    /// The same amount, per the area of the other unit.
+    RateUnit perAreaOf(const RateUnit &other) const { return {amount, other.area}; }
     /// Whether rates of such a product can be written in it. An unknown unit fits every product.
     bool fits(Kind kind) const;
     /// The unit as it is meant for a product of that kind: ounces of a liquid are fluid ounces.

@@ -31,12 +31,23 @@ void ColumnPolicyUnitsTest::readsTheUnit_data()
     QTest::addColumn<QString>("unit");
     QTest::addColumn<RateSource::UnitFrom>("from");
     QTest::addColumn<double>("factor");
+    QTest::addColumn<QString>("contradiction");
     using From = RateSource::UnitFrom;
     const auto row = [](const char *title, const char *name, const char *behind, const char *beside, const char *unit,
-                        From from,
-                        double factor) { QTest::newRow(title) << name << behind << beside << unit << from << factor; };
-    row("beside", "Rate_kg_ha", "t/ha", "dt/ha", "dt/ha", From::Column, 100.0);
-    row("behind", "Rate_kg_ha", "t/ha", "", "t/ha", From::Text, 1000.0);
+                        From from, double factor, const char *contradiction = "") {
+        QTest::newRow(title) << name << behind << beside << unit << from << factor << contradiction;
+    };
+    row("beside", "Rate_kg_ha", "t/ha", "dt/ha", "dt/ha", From::Column, 100.0,
+        "dt/ha by column \"Unit\", which counts, but t/ha by its entries");
+    row("beside, another in the name", "Rate_lb_ac", "", "kg/ha", "kg/ha", From::Column, 1.0,
+        "kg/ha by column \"Unit\", which counts, but lb/ac by its name");
+    row("beside, another amount in the name", "Rate_lb", "kg/ha", "kg/ha", "kg/ha", From::Column, 1.0,
+        "kg/ha by column \"Unit\", which counts, but lb/ac by its name");
+    row("beside, the amount in the name", "Rate_kg", "", "kg/m2", "kg/m2", From::Column, 10000.0);
+    row("beside, the same in other words", "Rate_kg_ha", "kg per hectare", "KG/HA", "kg/ha", From::Column, 1.0);
+    row("beside, a nutrient in the name", "K_ha", "", "kg/ha", "kg/ha", From::Column, 1.0);
+    row("behind", "Rate_kg_ha", "t/ha", "", "t/ha", From::Text, 1000.0,
+        "t/ha by its entries, which count, but kg/ha by its name");
     row("name", "Rate_g_m2", "", "", "g/m2", From::Name, 10.0);
     row("none", "Rate", "", "", "kg/ha", From::Assumed, 1.0);
     row("unknown beside", "Rate_t_ha", "", "bags", "t/ha", From::Name, 1000.0);
@@ -61,6 +72,14 @@ void ColumnPolicyUnitsTest::readsTheUnit()
     QTEST(decision.sources.first().unit, "unit");
     QTEST(decision.sources.first().unitFrom, "from");
     QCOMPARE(decision.feeds.front().factor, factor);
+    QFETCH(QString, contradiction);
+    QStringList told;
+    for (const MapFinding &finding : decision.findings) {
+        if (finding.kind == MapFinding::Kind::UnitMismatch)
+            told.append(finding.text);
+    }
+    const QString line = QStringLiteral("the unit of column \"%1\" is %2").arg(name, contradiction);
+    QCOMPARE(told, contradiction.isEmpty() ? QStringList() : QStringList(line));
 }
 
 void ColumnPolicyUnitsTest::looksForUnitsBesideTheirOwnColumn()
@@ -112,6 +131,9 @@ void ColumnPolicyUnitsTest::takesTheOperatorsUnit()
     QCOMPARE(decision.sources.at(0).unitFrom, RateSource::UnitFrom::Operator);
     QCOMPARE(decision.sources.at(1).unit, QStringLiteral("L/ha"));
     QVERIFY(std::fabs(decision.feeds.front().factor - 1.12085116) < 1e-8);
+    RawPrescription contradicted = tableOf({"FERT_kg_ha"});
+    contradicted.texts.push_back({QStringLiteral("Unit"), 1, QStringLiteral("t/ha"), false});
+    QCOMPARE(textsOf(policy.decide(contradicted, polygons()).findings), QStringList());
 }
 
 void ColumnPolicyUnitsTest::refusesUnitsThatAreNone()

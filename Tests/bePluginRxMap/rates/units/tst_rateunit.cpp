@@ -19,6 +19,8 @@ private Q_SLOTS:
     void readsEveryAmountPerEveryArea();
     void convertsToBaseUnits_data();
     void convertsToBaseUnits();
+    void differsWhereTheSameNumberIsAnotherRate_data();
+    void differsWhereTheSameNumberIsAnotherRate();
     void fitsProductsThatAreMeasuredSo_data();
     void fitsProductsThatAreMeasuredSo();
 };
@@ -176,6 +178,28 @@ void RateUnitTest::convertsToBaseUnits()
     QFETCH(double, factor);
     const double given = RateUnit::fromText(QString::fromLatin1(QTest::currentDataTag())).factorTo(kind);
     QVERIFY2(std::fabs(given / factor - 1.0) < 1e-14, qPrintable(QString::number(given, 'g', 17)));
+}
+
+void RateUnitTest::differsWhereTheSameNumberIsAnotherRate_data()
+{
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("differs");
+    QTest::newRow("kg/ha") << "kg/ha" << false;
+    QTest::newRow("lb/ac") << "kg/ha" << true;
+    QTest::newRow("kg/ac") << "kg/ha" << true;
+    QTest::newRow("dt/ha") << "kg/a" << false;
+    QTest::newRow("oz/ac") << "fl oz/ac" << false;
+    QTest::newRow("L/ha") << "kg/ha" << true;
+    QTest::newRow("seeds/m2") << "k/ha" << true;
+    QTest::newRow("bags") << "kg/ha" << false;
+    QTest::newRow("t/ha") << "bags" << false;
+}
+
+void RateUnitTest::differsWhereTheSameNumberIsAnotherRate()
+{
+    QFETCH(QString, other);
+    const RateUnit unit = RateUnit::fromText(QString::fromUtf8(QTest::currentDataTag()));
+    QTEST(unit.differsFrom(RateUnit::fromText(other)), "differs");
 }
 
 void RateUnitTest::fitsProductsThatAreMeasuredSo_data()
