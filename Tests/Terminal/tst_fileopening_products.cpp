@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aProductThatItsColumnLeavesStaysOnlyByAName();
     void aProductIsNamedAndMeasuredByTheColumnChosenForIt_data();
     void aProductIsNamedAndMeasuredByTheColumnChosenForIt();
+    void aProductOfTheFileIsMeasuredByTheUnitChosenForIt();
     void productsStayWhereOneIsInUseOrTheMachineMoves();
     void filesWantedTogetherShareTheProducts();
     void aFieldFarFromTheOtherIsToldBeforeAndAfter_data();
@@ -255,6 +256,22 @@ void TestFileOpeningProducts::aFieldFarFromTheOtherBringsItsProducts()
     // Only the plane of the new map is left.
     const QStringList warnings = opened.last().first().value<LoadReport>().warnings;
     QVERIFY2(warnings.filter(QStringLiteral("plane")).isEmpty(), qPrintable(warnings.join('\n')));
+}
+
+void TestFileOpeningProducts::aProductOfTheFileIsMeasuredByTheUnitChosenForIt()
+{
+    terminal().adoption()->adoptFromNextFile();
+    Q_EMIT terminal().window()->dropped({write("dose", {{"Dose", 1.0}, {"UREA_KG_HA", 1.0}})}, {});
+    QTRY_VERIFY(button("openAccept") != nullptr);
+    for (const char *touched : {"columnRow0Unit", "unitOthers", "unitAmount0", "unitArea0", "unitAccept"})
+        button(touched)->click();
+    accept();
+    QTRY_VERIFY(!terminal().openWindow()->isVisible());
+    const Product product = terminal().machine()->products().first();
+    QCOMPARE(product.name, QStringLiteral("Dose"));
+    QCOMPARE(product.rateKind(), DbGroupProductGroupInfo::VolumeRate);
+    QCOMPARE(product.defaultRate, 100.0); // The rate in the file, now in litres.
+    QCOMPARE(terminal().backend()->maps().last().sources.first().unit, QStringLiteral("L/ha"));
 }
 
 RXMAP_TEST(TestFileOpeningProducts, Widgets)

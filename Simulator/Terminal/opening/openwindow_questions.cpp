@@ -76,8 +76,7 @@ void OpenWindow::askProduct(int index)
 void OpenWindow::askUnit(int index)
 {
     askedColumn = index;
-    const MachineProduct product = selection.fedProducts().at(selection.product(index) - 1);
-    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name), RateUnits::parts(product.kind),
+    unit->ask(tr("In which unit is %1?").arg(selection.column(index).name), selection.unitParts(index),
               selection.unit(index), selection.column(index).unit);
     showPage(unit);
 }

@@ -1273,6 +1273,10 @@
         <translation>Wie in der Datei</translation>
     </message>
     <message>
+        <source>Other amounts</source>
+        <translation>Andere Mengen</translation>
+    </message>
+    <message>
         <source>it does not tell</source>
         <translation>sie nennt keine</translation>
     </message>

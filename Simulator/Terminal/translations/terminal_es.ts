@@ -1273,6 +1273,10 @@
         <translation>Como en el archivo</translation>
     </message>
     <message>
+        <source>Other amounts</source>
+        <translation>Otras cantidades</translation>
+    </message>
+    <message>
         <source>it does not tell</source>
         <translation>no la indica</translation>
     </message>

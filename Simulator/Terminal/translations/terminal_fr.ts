@@ -1273,6 +1273,10 @@
         <translation>Comme dans le fichier</translation>
     </message>
     <message>
+        <source>Other amounts</source>
+        <translation>Autres quantités</translation>
+    </message>
+    <message>
         <source>it does not tell</source>
         <translation>il ne la dit pas</translation>
     </message>

@@ -1273,6 +1273,10 @@
         <translation>Como no arquivo</translation>
     </message>
     <message>
+        <source>Other amounts</source>
+        <translation>Outras quantidades</translation>
+    </message>
+    <message>
         <source>it does not tell</source>
         <translation>ele não a informa</translation>
     </message>

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void anArchiveWithSeveralAsksForOne();
     void leavingTheQuestionForOneGoesOnOrBack();
     void openAsksForUnitsThatAreNotKnown();
+    void aProductOfTheFileMayBeInAnyUnit();
 
 private:
     /// An archive with two prescriptions in its folder "north".
@@ -123,6 +124,31 @@ void TestOpenWindowQuestions::openAsksForUnitsThatAreNotKnown()
     window->preview({fixture("two-strips.geojson")});
     QVERIFY(waitFor("openAccept"));
     QVERIFY(!isCaution("columnRow1Unit"));
+}
+
+void TestOpenWindowQuestions::aProductOfTheFileMayBeInAnyUnit()
+{
+    window->preview({fixture("three-zones.geojson")});
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("columnRow1Unit"));
+    QVERIFY(find(QStringLiteral("unitOthers")) == nullptr);
+    touch(QStringLiteral("openBack"));
+    touch(QStringLiteral("openBack"));
+    adoption->adoptFromNextFile();
+    window->preview({write({"Dose"}, QStringLiteral("dose.geojson"))});
+    QVERIFY(waitFor("openAccept"));
+    touch(QStringLiteral("columnRow0Unit"));
+    QCOMPARE(text(QStringLiteral("unitAmount0")), QStringLiteral("kg"));
+    touch(QStringLiteral("unitOthers"));
+    QCOMPARE(text(QStringLiteral("unitAmount0")), QStringLiteral("L"));
+    touch(QStringLiteral("unitAmount0"));
+    touch(QStringLiteral("unitArea0"));
+    touch(QStringLiteral("unitAccept"));
+    QCOMPARE(text(QStringLiteral("columnRow0Unit")), QStringLiteral("L/ha"));
+    accept();
+    QTRY_VERIFY(!window->isVisible());
+    QCOMPARE(requests.first().units.first(), QStringLiteral("L/ha"));
+    QCOMPARE(requests.first().columnProducts->first().kind, DbGroupProductGroupInfo::VolumeRate);
 }
 
 RXMAP_TEST(TestOpenWindowQuestions, Widgets)

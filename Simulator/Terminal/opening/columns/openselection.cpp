@@ -3,6 +3,7 @@
 #include "Backend/rateunits.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -19,6 +20,18 @@ bool isTaken(const QString &name, const QList<ColumnProduct> &products, int numb
     return std::any_of(products.begin(), products.end(), [&name, number](const ColumnProduct &any) {
         return any.number != number && any.name.compare(name, Qt::CaseInsensitive) == 0;
     });
+}
+
+/// What a column of a file may measure.
+constexpr DbGroupProductGroupInfo::RateKind columnKinds[] = {
+    DbGroupProductGroupInfo::WeightRate, DbGroupProductGroupInfo::VolumeRate, DbGroupProductGroupInfo::CountRate};
+
+/// The kind of product that has such a unit: the given one if it may, or if none has.
+DbGroupProductGroupInfo::RateKind kindFor(const QString &unit, DbGroupProductGroupInfo::RateKind given)
+{
+    const auto fits = [&unit](auto kind) { return RateUnits::factor(unit, kind) > 0.0; };
+    const auto other = std::find_if(std::begin(columnKinds), std::end(columnKinds), fits);
+    return fits(given) || other == std::end(columnKinds) ? given : *other;
 }
 
 } // namespace
@@ -74,6 +87,21 @@ QString OpenSelection::unit(int index) const
 void OpenSelection::setUnit(int index, const QString &unit)
 {
     entries[index].unit = unit;
+    products = makeProducts(made());
+}
+
+QList<RateUnitParts> OpenSelection::unitParts(int index) const
+{
+    const auto kind = fed(index)->kind;
+    QList<RateUnitParts> parts{RateUnits::parts(kind)};
+    const auto isIt = [number = product(index)](const ColumnProduct &any) { return any.number == number; };
+    if (std::none_of(report.columnProducts.begin(), report.columnProducts.end(), isIt))
+        return parts;
+    for (const auto other : columnKinds) {
+        if (other != kind)
+            parts.append(RateUnits::parts(other));
+    }
+    return parts;
 }
 
 OpenSelection::UnitState OpenSelection::unitState(int index) const
@@ -140,6 +168,10 @@ QList<ColumnProduct> OpenSelection::made() const
         const int number = product->number;
         *product = own;
         product->number = number;
+    }
+    for (int index = 0; index < size(); ++index) {
+        if (ColumnProduct *product = find(made, this->product(index)))
+            product->kind = kindFor(entries.at(index).unit, product->kind);
     }
     for (ColumnProduct &product : made) {
         if (!isFed(product.number) && isTaken(product.name, made, product.number))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/machineproduct.h"
+#include "Backend/rateunits.h"
 #include "Backend/surveyreport.h"
 #include "filechoices.h"
 #include "openrequest.h"
@@ -43,8 +44,11 @@ public:
     /// The unit of the column's rates: as chosen, else as the file says; empty when it is not known.
     QString unit(int index) const;
     bool isUnitChosen(int index) const { return !entries.at(index).unit.isEmpty(); }
-    /// An empty unit leaves it to the file.
+    /// An empty unit leaves it to the file. A product that a column made becomes of the kind that has such a unit.
     void setUnit(int index, const QString &unit);
+    /// What the unit of a column that feeds a product may be made of: first for the product's kind, and if a column
+    /// made it, for the others.
+    QList<RateUnitParts> unitParts(int index) const;
     UnitState unitState(int index) const;
     /// Multiplies the column's rates to the base unit of the product that it feeds; 1 without a product.
     double factor(int index) const;
@@ -77,7 +81,7 @@ private:
     bool isNameMoved(int number) const;
     /// As setProduct(), but units stay as they are.
     void feed(int index, int number);
-    /// Forgets units that were chosen for a product of another kind.
+    /// Forgets units that were chosen for a product of another kind, which no column made.
     void dropUnfitUnits();
     /// The products that the columns make as they are chosen.
     QList<ColumnProduct> made() const;

@@ -55,24 +55,36 @@ UnitPage::UnitPage(QWidget *parent)
     layout->addStretch();
     auto *foot = new QHBoxLayout;
     fromFile = addButton(foot, tr("As in the file"), "unitOfFile", this);
+    others = addButton(foot, tr("Other amounts"), "unitOthers", this);
     foot->addStretch();
     accept = addButton(foot, QString(), "unitAccept", this);
     accept->setCheckable(true);
     layout->addLayout(foot);
     connect(back, &TouchButton::clicked, this, &UnitPage::left);
     connect(fromFile, &TouchButton::clicked, this, [this] { Q_EMIT chosen({}); });
+    connect(others, &TouchButton::clicked, this, &UnitPage::showOthers);
     connect(accept, &TouchButton::clicked, this, [this] { Q_EMIT chosen(unit()); });
     for (QButtonGroup *group : {amounts, areas})
         connect(group, QOverload<int>::of(&QButtonGroup::buttonClicked), this, &UnitPage::showUnit);
 }
 
-void UnitPage::ask(const QString &question, const RateUnitParts &parts, const QString &current,
+void UnitPage::ask(const QString &question, const QList<RateUnitParts> &givenKinds, const QString &current,
                    const QString &unitOfFile)
 {
     title->setText(question);
-    fill(amounts, amountGrid, parts.amounts, current.section(QLatin1Char('/'), 0, 0), QStringLiteral("unitAmount%1"));
-    fill(areas, areaGrid, parts.areas, current.section(QLatin1Char('/'), 1), QStringLiteral("unitArea%1"));
+    kinds = givenKinds;
+    others->setVisible(kinds.size() > 1);
+    fill(amounts, amountGrid, kinds.first().amounts, current.section(QLatin1Char('/'), 0, 0),
+         QStringLiteral("unitAmount%1"));
+    fill(areas, areaGrid, kinds.first().areas, current.section(QLatin1Char('/'), 1), QStringLiteral("unitArea%1"));
     fromFile->setNote(unitOfFile.isEmpty() ? tr("it does not tell") : unitOfFile);
+    showUnit();
+}
+
+void UnitPage::showOthers()
+{
+    kinds.append(kinds.takeFirst());
+    fill(amounts, amountGrid, kinds.first().amounts, {}, QStringLiteral("unitAmount%1"));
     showUnit();
 }
 
@@ -91,6 +103,7 @@ void UnitPage::fill(QButtonGroup *group, QGridLayout *grid, const QStringList &t
         group->addButton(button, place);
         grid->addWidget(button, place / columns, place % columns);
         button->setChecked(texts.at(place) == current);
+        button->show();
     }
     for (int column = 0; column < columns; ++column)
         grid->setColumnStretch(column, 1);

@@ -2,6 +2,7 @@
 
 #include "Backend/rateunits.h"
 
+#include <QList>
 #include <QStringList>
 #include <QWidget>
 
@@ -17,8 +18,10 @@ class UnitPage : public QWidget {
 public:
     explicit UnitPage(QWidget *parent = nullptr);
 
-    /// `unit`: the one in use; `unitOfFile`: what the file says, empty if it says nothing.
-    void ask(const QString &question, const RateUnitParts &parts, const QString &unit, const QString &unitOfFile);
+    /// `kinds`: of which units are made, at least one; the first is shown first. `unit`: the one in use; `unitOfFile`:
+    /// what the file says, empty if it says nothing.
+    void ask(const QString &question, const QList<RateUnitParts> &kinds, const QString &unit,
+             const QString &unitOfFile);
 
 Q_SIGNALS:
     /// An empty unit leaves it to the file.
@@ -29,6 +32,8 @@ private:
     void fill(QButtonGroup *group, QGridLayout *grid, const QStringList &texts, const QString &current,
               const QString &name);
     void showUnit();
+    /// Offers the amounts of the next kind.
+    void showOthers();
     QString unit() const;
 
     Caption *title;
@@ -39,5 +44,7 @@ private:
     QButtonGroup *amounts;
     QButtonGroup *areas;
     TouchButton *fromFile;
+    TouchButton *others;
     TouchButton *accept;
+    QList<RateUnitParts> kinds; ///< The one that is shown first.
 };

@@ -15,7 +15,8 @@ private Q_SLOTS:
     void aUnitThatDoesNotFitIsSaidToBeSo_data();
     void aUnitThatDoesNotFitIsSaidToBeSo();
     void aChosenUnitGoesWithTheProductItIsNoUnitOf();
-    void aChosenUnitGoesWhenAnotherColumnLeavesAProductOfAnotherKind();
+    void aProductThatAColumnMadeIsOfTheKindOfAChosenUnit();
+    void theUnitsOfAGivenProductAreOfItsKind();
     void unitsOfColumnsThatChangedPlacesAreTakenAgain();
     void formerChoicesAreTaken();
     void onlyWhatTheOperatorTouchedIsKept();
@@ -152,15 +153,34 @@ void TestOpenSelection::surveyWeightsAndVolumes()
     selection = OpenSelection(survey, maker);
 }
 
-void TestOpenSelection::aChosenUnitGoesWhenAnotherColumnLeavesAProductOfAnotherKind()
+void TestOpenSelection::aProductThatAColumnMadeIsOfTheKindOfAChosenUnit()
 {
     surveyWeightsAndVolumes();
-    selection.setProduct(0, 2);
+    QCOMPARE(selection.unitParts(0).size(), 3);
+    QVERIFY(selection.unitParts(0).first().amounts.contains(QStringLiteral("kg")));
     selection.setUnit(0, QStringLiteral("gal/ac"));
+    QCOMPARE(selection.fedProducts().first().kind, DbGroupProductGroupInfo::VolumeRate);
+    QCOMPARE(selection.unitState(0), OpenSelection::UnitState::Known);
+    QVERIFY(selection.unitParts(0).first().amounts.contains(QStringLiteral("gal")));
+    QCOMPARE(selection.request().columnProducts->first().kind, DbGroupProductGroupInfo::VolumeRate);
+    OpenSelection again(survey, maker);
+    again.apply(selection.choices());
+    QCOMPARE(again.request().units, QStringList({"gal/ac", ""}));
+    // An ounce may be either.
+    selection.setUnit(1, QStringLiteral("oz/ac"));
     QCOMPARE(selection.fedProducts().at(1).kind, DbGroupProductGroupInfo::VolumeRate);
-    selection.setProduct(1, 1); // The product takes its kind along.
+    // Where the columns feed each other's products, the units go along.
+    selection.setProduct(0, 2);
+    selection.setProduct(1, 1);
+    QCOMPARE(selection.request().units, QStringList({"oz/ac", "gal/ac"}));
+    selection.setUnit(0, QString());
     QCOMPARE(selection.fedProducts().at(1).kind, DbGroupProductGroupInfo::WeightRate);
-    QCOMPARE(selection.request().units, QStringList({"", ""}));
+}
+
+void TestOpenSelection::theUnitsOfAGivenProductAreOfItsKind()
+{
+    QCOMPARE(selection.unitParts(0).size(), 1);
+    QCOMPARE(selection.unitParts(0).first().amounts, RateUnits::parts(DbGroupProductGroupInfo::WeightRate).amounts);
 }
 
 void TestOpenSelection::unitsOfColumnsThatChangedPlacesAreTakenAgain()
